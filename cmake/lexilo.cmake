@@ -1,0 +1,29 @@
+# How every target of this repository is compiled.
+
+add_library(lexilo_options INTERFACE)
+target_compile_options(lexilo_options INTERFACE
+  $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wconversion -Wshadow -Werror>)
+target_include_directories(lexilo_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_features(lexilo_options INTERFACE cxx_std_20)
+
+if(WIN32)
+  # Windows 10; its headers default to wide texts. dwarf-4 is what Wine's backtraces can read.
+  target_compile_definitions(lexilo_options INTERFACE
+    _WIN32_WINNT=0x0A00 WINVER=0x0A00 NTDDI_VERSION=0x0A000002 UNICODE _UNICODE NOMINMAX
+    WIN32_LEAN_AND_MEAN STRICT)
+  add_compile_options(-gdwarf-4)
+  add_link_options(-static -static-libgcc -static-libstdc++)
+endif()
+
+if(LEXILO_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+    -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# lexilo_library(NAME SOURCES file... LINKS target...)
+function(lexilo_library name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${arg_SOURCES})
+  target_link_libraries(${name} PUBLIC lexilo_options ${arg_LINKS})
+endfunction()

@@ -1,0 +1,16 @@
+# SQLite's amalgamation, pinned and fetched as an npm package (see package.json).
+set(sqlite_dir ${PROJECT_SOURCE_DIR}/node_modules/better-sqlite3/deps/sqlite3)
+if(NOT EXISTS ${sqlite_dir}/sqlite3.c)
+  message(FATAL_ERROR "SQLite's sources are missing: run 'npm ci' in ${PROJECT_SOURCE_DIR} first.")
+endif()
+add_library(sqlite3 STATIC ${sqlite_dir}/sqlite3.c)
+target_include_directories(sqlite3 SYSTEM PUBLIC ${sqlite_dir})
+target_compile_definitions(sqlite3 PUBLIC
+  SQLITE_THREADSAFE=0
+  SQLITE_OMIT_LOAD_EXTENSION
+  SQLITE_OMIT_DEPRECATED
+  SQLITE_OMIT_SHARED_CACHE
+  SQLITE_DQS=0
+  SQLITE_DEFAULT_MEMSTATUS=0
+  SQLITE_TEMP_STORE=3)
+target_compile_options(sqlite3 PRIVATE -w -O2)

@@ -1,0 +1,29 @@
+#include "forms/geometry.h"
+
+#include <limits>
+#include <stdexcept>
+
+namespace forms {
+namespace {
+
+int scale(int value, int numerator, int denominator) {
+  const std::int64_t product = std::int64_t{value} * numerator;
+  const std::int64_t half = denominator / 2;
+  return static_cast<int>((product >= 0 ? product + half : product - half) / denominator);
+}
+
+}  // namespace
+
+int toPixels(int twips, int dpi) { return scale(twips, dpi, kTwipsPerInch); }
+
+int toTwips(int pixels, int dpi) { return scale(pixels, kTwipsPerInch, dpi); }
+
+std::int16_t toInt16(std::int64_t value) {
+  if (value < std::numeric_limits<std::int16_t>::min() ||
+      value > std::numeric_limits<std::int16_t>::max()) {
+    throw std::overflow_error("Overflow");
+  }
+  return static_cast<std::int16_t>(value);
+}
+
+}  // namespace forms

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+
+/// Twips, pixels and the 16-bit sizes of the windows.
+namespace forms {
+
+/// Twips in an inch: 15 to a pixel at 96 dpi.
+inline constexpr int kTwipsPerInch = 1440;
+
+/// Twips of a caption window's frame for which the layouts were made. A form's Width and Height are
+/// its client size plus these, whatever the real frame takes.
+inline constexpr int kFrameWidth = 120;
+inline constexpr int kFrameHeight = 405;
+
+/// Largest size of a window, in twips.
+inline constexpr int kMaxSize = 32767;
+
+/// Nearest pixel at `dpi`, halves away from zero.
+int toPixels(int twips, int dpi);
+
+/// Nearest twip at `dpi`, halves away from zero.
+int toTwips(int pixels, int dpi);
+
+/// `value` as a 16-bit signed number. Throws std::overflow_error with the message "Overflow"
+/// outside -32768..32767.
+std::int16_t toInt16(std::int64_t value);
+
+}  // namespace forms

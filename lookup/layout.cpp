@@ -1,0 +1,41 @@
+#include "lookup/layout.h"
+
+#include <algorithm>
+
+namespace lookup {
+namespace {
+
+constexpr int kMargin = 30;
+constexpr int kTop = 600;
+constexpr int kSplitterWidth = 20;
+constexpr int kBelowTop = 1000;
+constexpr int kNarrowestDrop = 1600;
+
+}  // namespace
+
+Size snapSize(Size size) {
+  return {size.width < 3600 ? 3500 : size.width, size.height < 2900 ? 2800 : size.height};
+}
+
+Layout layOut(Size window, int listWidth) {
+  const int height = window.height - kBelowTop;
+  Layout layout;
+  layout.inputLeft = 750;
+  layout.inputWidth = window.width - 1750;
+  layout.exitLeft = window.width - 900;
+  layout.listLeft = kMargin;
+  layout.listTop = kTop;
+  layout.listHeight = height;
+  layout.splitter = {listWidth + kMargin, kTop, kSplitterWidth, height};
+  layout.pane = {listWidth + kMargin + kSplitterWidth, kTop, window.width - listWidth - 200, height};
+  return layout;
+}
+
+int widthAfterDropOnList(int x) { return x < kNarrowestDrop ? kNarrowestDrop : x - kMargin; }
+
+int widthAfterDropOnPane(int windowWidth, int listWidth, int x) {
+  const int limit = windowWidth < 7700 ? (windowWidth - 3500) / 3 + 1650 : 3000;
+  return std::min(listWidth + x, limit);
+}
+
+}  // namespace lookup

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// The dictionary's own text order, the same on every machine and under every locale: case does not
+/// matter, Latin comes before Han, Han goes by pinyin. Database, lookups and builder all use it.
+namespace text {
+
+/// Place of one UTF-16 code unit in the order. A-Z and U+00C0-U+00DE (not U+00D7) weigh as their
+/// lower case; Han weighs 0x10000 plus its pinyin rank; all else weighs its own code.
+std::uint32_t weight(char16_t unit);
+
+/// Negative, zero or positive as `a` sorts before, equal to or behind `b`; the shorter text first.
+int compare(std::u16string_view a, std::u16string_view b);
+
+/// Whether two texts are the same but for case.
+bool equal(std::u16string_view a, std::u16string_view b);
+
+/// SQL's LIKE: "%" stands for any run of code units, "_" for one; letters match without regard to
+/// case (ASCII and Latin-1). Takes time proportional to pattern length times text length at most.
+bool like(std::u16string_view pattern, std::u16string_view text);
+
+/// The same for texts in UTF-8, without converting them first. "_" stands for one UTF-16 code unit,
+/// or for a whole character where that takes two.
+int compareUtf8(std::string_view a, std::string_view b);
+bool likeUtf8(std::string_view pattern, std::string_view text);
+
+/// Lower case as the order folds it: ASCII and Latin-1 letters, everything else as it is.
+char16_t foldCase(char16_t unit);
+std::u16string toLower(std::u16string_view text);
+
+}  // namespace text
