@@ -22,8 +22,8 @@ bool equal(std::u16string_view a, std::u16string_view b);
 /// case (ASCII and Latin-1). Takes time proportional to pattern length times text length at most.
 bool like(std::u16string_view pattern, std::u16string_view text);
 
-/// The same for texts in UTF-8, without converting them first. "_" stands for one UTF-16 code unit,
-/// or for a whole character where that takes two.
+/// The same for texts in UTF-8, without converting them first: what compare and like say of the texts
+/// that toUtf16 makes of them, invalid bytes included. "_" stands for one UTF-16 code unit here too.
 int compareUtf8(std::string_view a, std::string_view b);
 bool likeUtf8(std::string_view pattern, std::string_view text);
 

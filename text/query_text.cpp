@@ -1,0 +1,53 @@
+#include "text/query_text.h"
+
+#include <algorithm>
+
+namespace user {
+
+std::u16string& escapeQuote(std::u16string& text) {
+  constexpr char16_t kQuote = u'\'';
+  std::u16string escaped;
+  escaped.reserve(text.size());
+  for (const char16_t unit : text) escaped.append(unit == kQuote ? 2 : 1, unit);
+  text = std::move(escaped);
+  return text;
+}
+
+std::u16string_view getEorC(std::u16string_view text) {
+  const bool chinese =
+      std::any_of(text.begin(), text.end(), [](char16_t unit) { return unit >= 256; });
+  return chinese ? kChinese : kEnglish;
+}
+
+std::u16string convertWildcard(std::u16string& text) {
+  text = replaceStr(text, u"?", u"_");
+  return replaceStr(text, u"*", u"%");
+}
+
+std::u16string replaceStr(std::u16string_view source, std::u16string_view search,
+                          std::u16string_view replacement) {
+  std::u16string text(source);
+  if (search.empty()) return text;
+  std::size_t match = text.find(search);
+  while (match != std::u16string::npos) {
+    text.replace(match, 1, replacement);
+    // Nothing matches further to the left than a match that ends in the replacement.
+    const std::size_t overlap = std::min(match, search.size() - 1);
+    match = text.find(search, match - overlap);
+  }
+  return text;
+}
+
+std::size_t displayLength(std::u16string_view text) {
+  return getEorC(text) == kChinese ? 2 * text.size() : text.size();
+}
+
+std::u16string padWord(std::u16string_view text, std::int16_t width) {
+  const std::size_t length = displayLength(text);
+  const std::size_t columns = width > 0 ? static_cast<std::size_t>(width) : 0;
+  std::u16string padded(text);
+  padded.append(length >= columns ? 2 : columns - length, u' ');
+  return padded;
+}
+
+}  // namespace user
