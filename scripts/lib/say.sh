@@ -1,0 +1,66 @@
+# shellcheck shell=bash
+# Messages, and steps that tell how they are getting on.
+
+# Prints one line of news.
+say() {
+  printf '%s\n' "$*"
+}
+
+# Ends the script with a sentence that says what is wrong and what to do.
+fail() {
+  printf 'error: %s\n' "$*" >&2
+  exit 1
+}
+
+# Seconds since the epoch in tenths, for measuring.
+tenths() {
+  local now=${EPOCHREALTIME/[^0-9]/}
+  printf '%s' "${now:0:-5}"
+}
+
+# The last line that was written to a log, without its control characters.
+last_line() {
+  tail -c 400 "$1" 2>/dev/null | tr '\r' '\n' | tr -d '\000-\010\013-\037' | sed '/^ *$/d' |
+    tail -n 1 | cut -c 1-90
+}
+
+# Sleeps without holding a pipe of ours, so that nobody waits for it when the step is over.
+pause() {
+  sleep "$1" >/dev/null 2>&1
+}
+
+# Announces a step that has been running for a second, then its progress every ten seconds.
+announce() {
+  local title=$1 log=$2 seconds=1
+  pause 1
+  say "$title ..."
+  while true; do
+    pause 10
+    seconds=$((seconds + 10))
+    say "  $seconds s: $(last_line "$log")"
+  done
+}
+
+# step TITLE LOG ADVICE COMMAND...: runs the command with its output in build/logs/LOG. A quick one
+# passes in silence; when it fails, the end of its output and the advice are shown and the script
+# ends.
+step() {
+  local title=$1 log=$LEXILO_ROOT/build/logs/$2 advice=$3 status=0 start ticker
+  shift 3
+  mkdir -p "${log%/*}"
+  : >"$log"
+  start=$(tenths)
+  announce "$title" "$log" &
+  ticker=$!
+  ("$@") >"$log" 2>&1 </dev/null || status=$?
+  kill "$ticker" 2>/dev/null || true
+  wait "$ticker" 2>/dev/null || true
+  local took=$(($(tenths) - start))
+  if ((status != 0)); then
+    tail -n 40 "$log" >&2
+    fail "$title failed (see ${log#"$LEXILO_ROOT"/}). $advice"
+  fi
+  if ((took >= 10)); then
+    say "$title: done in $((took / 10)).$((took % 10)) s"
+  fi
+}

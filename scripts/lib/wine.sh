@@ -1,0 +1,77 @@
+# shellcheck shell=bash
+# Wine prefixes of our own: one kept as made, and copies of it for running and testing.
+
+wine_base=$LEXILO_ROOT/build/wine/base
+
+# use_prefix PREFIX: what is started from here on runs in it, on a Chinese Windows, without Wine's
+# add-ons and without its messages.
+use_prefix() {
+  export WINEPREFIX=$1 WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+  export LC_ALL=zh_CN.UTF-8
+}
+
+make_prefix() {
+  use_prefix "$1"
+  # Without a display: nothing may pop up on the user's screen meanwhile.
+  unset DISPLAY
+  rm -rf "$WINEPREFIX" && mkdir -p "$WINEPREFIX" || return
+  wine wineboot -i || return
+  # A crash is to end a program, not to open a dialog that waits.
+  wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f || return
+  wineserver -w
+  [[ -f $WINEPREFIX/user.reg && -f $WINEPREFIX/drive_c/windows/system32/kernel32.dll ]] &&
+    wine --version >"$WINEPREFIX/made-by"
+}
+
+# Makes the prefix from which all others are copied, again when Wine has changed.
+ensure_wine_base() {
+  [[ $(cat "$wine_base/made-by" 2>/dev/null) == "$(wine --version 2>/dev/null)" ]] && return
+  step "Making a Wine prefix" wine.log \
+    "Look for a message of Wine's there; 'wine --version' should say 8.0 or later." \
+    make_prefix "$wine_base"
+}
+
+# copy_prefix NAME: copies the base prefix to build/wine/NAME, unless it is there, and prints its
+# path. Wine's own program files are shared through hard links, all that is written to is copied.
+copy_prefix() {
+  local copy=$LEXILO_ROOT/build/wine/$1
+  if [[ ! -f $copy/made-by ]] || ! cmp -s "$wine_base/made-by" "$copy/made-by"; then
+    rm -rf "$copy"
+    cp -al "$wine_base" "$copy.new"
+    find "$copy.new" -type f -not -name '*.dll' -not -name '*.exe' -not -name '*.drv' \
+      -not -name '*.sys' -exec cp -p {} {}.own ';' -exec mv {}.own {} ';'
+    mv "$copy.new" "$copy"
+  fi
+  printf '%s' "$copy"
+}
+
+# start_wine PREFIX: makes PREFIX the one in use and starts its server and services, which would
+# otherwise hold on to the output of whatever program comes first.
+start_wine() {
+  use_prefix "$1"
+  wineserver -p >/dev/null 2>&1 </dev/null
+  wine cmd /c exit >/dev/null 2>&1 </dev/null
+}
+
+# Ends the server of the prefix in use, and with it every program that runs in it.
+stop_wine() {
+  [[ -n ${WINEPREFIX:-} ]] || return 0
+  wineserver -k >/dev/null 2>&1 || true
+  wineserver -w >/dev/null 2>&1 || true
+  unset WINEPREFIX
+}
+
+# fresh_prefix NAME: the same, but without anything that an earlier run left there.
+fresh_prefix() {
+  rm -rf "$LEXILO_ROOT/build/wine/$1"
+  copy_prefix "$1"
+}
+
+# set_dpi DPI: the resolution that programs in the prefix in use see from here on.
+set_dpi() {
+  wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f \
+    >/dev/null 2>&1 </dev/null
+  local prefix=$WINEPREFIX
+  stop_wine
+  start_wine "$prefix"
+}

@@ -1,0 +1,77 @@
+#!/usr/bin/env bash
+# Runs every test of Lexilo, setting up first what is missing.
+#
+#   ./test.sh              all of them
+#   ./test.sh unit format  only some layers: format unit wine-unit windows program dpi144
+#
+# The last line says how many passed and failed; the exit status is 0 when none failed.
+set -euo pipefail
+
+# shellcheck source=scripts/setup.sh
+source "$(dirname "${BASH_SOURCE[0]}")/scripts/setup.sh"
+# shellcheck source=scripts/lib/tests.sh
+source "$LEXILO_ROOT/scripts/lib/tests.sh"
+cd "$LEXILO_ROOT"
+
+all_layers=(format unit wine-unit windows program dpi144)
+layers=("${@:-${all_layers[@]}}")
+for layer in "${layers[@]}"; do
+  [[ " ${all_layers[*]} " == *" $layer "* ]] ||
+    fail "there is no layer '$layer'; the layers are: ${all_layers[*]}."
+done
+
+# wanted LAYER...: whether one of these is to run.
+wanted() {
+  local layer
+  for layer in "$@"; do
+    [[ " ${layers[*]} " == *" $layer "* ]] && return
+  done
+  return 1
+}
+
+trap 'stop_wine; stop_display' EXIT
+trap 'exit 130' INT TERM
+
+set_up_tests
+
+wanted format && run_test format 60 check_format
+
+if wanted unit wine-unit program dpi144; then
+  build tools kkbuild
+  ensure_small_database
+fi
+
+if wanted unit; then
+  build native unit_tests
+  run_gtest unit 180 build/native/bin/unit_tests
+fi
+
+if wanted wine-unit windows program dpi144; then
+  targets=()
+  wanted wine-unit && targets+=(unit_tests)
+  wanted windows && targets+=(window_tests)
+  wanted program dpi144 && targets+=(lexilo program_tests)
+  build windows "${targets[@]}"
+  start_display
+  start_wine "$(fresh_prefix test)"
+fi
+
+wanted wine-unit && run_gtest wine-unit 180 wine build/windows/bin/unit_tests.exe
+wanted windows && run_gtest windows 120 wine build/windows/bin/window_tests.exe
+
+if wanted program dpi144; then
+  ensure_full_database
+  assemble_app
+fi
+if wanted program; then
+  run_gtest program 240 wine build/windows/bin/program_tests.exe '--gtest_filter=-*Dpi144*'
+fi
+if wanted dpi144; then
+  stop_wine
+  start_wine "$(fresh_prefix test-144)"
+  set_dpi 144
+  run_gtest dpi144 120 wine build/windows/bin/program_tests.exe '--gtest_filter=*Dpi144*'
+fi
+
+say "$passed passed, $failed failed"
+((failed == 0))
