@@ -22,13 +22,15 @@ namespace {
 bool inOrder(UChar32 c) {
   const bool inRange = c == 0x3007 || (c >= 0x3400 && c <= 0x9FFF) || (c >= 0xF900 && c <= 0xFAFF);
   UErrorCode status = U_ZERO_ERROR;
-  return inRange && u_isdefined(c) && uscript_getScript(c, &status) == USCRIPT_HAN;
+  return inRange && u_isdefined(c) != 0 && uscript_getScript(c, &status) == USCRIPT_HAN;
 }
 
 std::vector<UChar32> charactersInOrder(const icu::Collator& collator) {
   std::vector<UChar32> characters;
   for (UChar32 c = 0x3007; c <= 0xFAFF; ++c) {
-    if (inOrder(c)) characters.push_back(c);
+    if (inOrder(c)) {
+      characters.push_back(c);
+    }
   }
   std::stable_sort(characters.begin(), characters.end(), [&](UChar32 a, UChar32 b) {
     UErrorCode status = U_ZERO_ERROR;
@@ -60,7 +62,9 @@ void printHeader(const std::vector<UChar32>& characters) {
       U_ICU_VERSION, characters.size());
   constexpr std::size_t kPerLine = 48;
   for (std::size_t i = 0; i < characters.size(); ++i) {
-    if (i % kPerLine == 0) std::fputs(i == 0 ? "\n    u\"" : "\"\n    u\"", stdout);
+    if (i % kPerLine == 0) {
+      std::fputs(i == 0 ? "\n    u\"" : "\"\n    u\"", stdout);
+    }
     print(characters[i]);
   }
   std::fputs("\";\n\n}  // namespace text\n", stdout);
@@ -72,7 +76,7 @@ int main() {
   UErrorCode status = U_ZERO_ERROR;
   const std::unique_ptr<icu::Collator> collator(
       icu::Collator::createInstance(icu::Locale("zh@collation=pinyin"), status));
-  if (U_FAILURE(status)) {
+  if (U_FAILURE(status) != 0) {
     std::fprintf(stderr, "no pinyin collation: %s\n", u_errorName(status));
     return 1;
   }

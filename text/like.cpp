@@ -1,53 +1,116 @@
 #include "text/order.h"
-#include "text/utf8_reader.h"
+#include "text/units.h"
 
 namespace text {
 namespace {
 
-/// Matches from left to right. Where a match fails, only the last "%" takes one unit more: whatever
-/// an earlier one could take, the last can take as well.
-template <typename Reader>
-bool likeUnits(Reader pattern, Reader text) {
-  bool seenPercent = false;
-  Reader patternBehindPercent = pattern;
-  Reader textBehindPercent = text;
-  while (true) {
-    if (pattern.atEnd()) {
-      if (text.atEnd()) return true;
-    } else {
-      Reader patternRest = pattern;
-      const char16_t wanted = patternRest.next();
-      if (wanted == u'%') {
-        if (patternRest.atEnd()) return true;
-        seenPercent = true;
-        pattern = patternBehindPercent = patternRest;
-        textBehindPercent = text;
-        continue;
-      }
-      if (text.atEnd()) return false;
-      Reader textRest = text;
-      const char16_t unit = textRest.next();
-      if (wanted == u'_' || wanted == unit || foldCase(wanted) == foldCase(unit)) {
-        pattern = patternRest;
-        text = textRest;
-        continue;
+constexpr char16_t kAnyRun = u'%';
+constexpr char16_t kAnyUnit = u'_';
+
+/// The other spelling of a letter that foldCase has folded; any other unit as it is.
+char16_t upperOf(char16_t folded) {
+  const auto upper = static_cast<char16_t>(folded - 0x20);
+  return foldCase(upper) == folded ? upper : folded;
+}
+
+/// A pattern tried on a text from left to right. Where they part, only the last "%" takes more of
+/// the text: whatever an earlier one might take, the last can take as well.
+template <typename Units>
+class Matcher {
+ public:
+  Matcher(Units pattern, Units text) : pattern_(pattern), text_(text) {}
+
+  bool run() {
+    while (inPattern_ < pattern_.size() || inText_ < text_.size()) {
+      if (!step() && !lengthenRun()) {
+        return false;
       }
     }
-    if (!seenPercent || textBehindPercent.atEnd()) return false;
-    textBehindPercent.next();
-    text = textBehindPercent;
-    pattern = patternBehindPercent;
+    return true;
   }
-}
+
+ private:
+  /// Goes on by one unit of the pattern; false where the text does not follow it.
+  bool step() {
+    if (inPattern_ == pattern_.size()) {
+      return false;
+    }
+    const Unit wanted = pattern_.at(inPattern_);
+    if (wanted.value == kAnyRun) {
+      return startRun(inPattern_ + wanted.length);
+    }
+    if (inText_ == text_.size()) {
+      return false;
+    }
+    const Unit unit = text_.at(inText_);
+    if (wanted.value != kAnyUnit && foldCase(wanted.value) != foldCase(unit.value)) {
+      return false;
+    }
+    inPattern_ += wanted.length;
+    inText_ += unit.length;
+    return true;
+  }
+
+  /// Begins with the empty run for a "%"; the rest of the pattern starts at `follower`.
+  bool startRun(std::size_t follower) {
+    hasRun_ = true;
+    follower_ = follower;
+    runEnd_ = follower < pattern_.size() ? inText_ : text_.size();
+    return seekFollower();
+  }
+
+  bool lengthenRun() {
+    if (!hasRun_ || runEnd_ == text_.size()) {
+      return false;
+    }
+    runEnd_ += text_.at(runEnd_).length;
+    return seekFollower();
+  }
+
+  /// Lengthens the run as far as it must, and has the pattern go on behind it.
+  bool seekFollower() {
+    const char16_t follower = follower_ < pattern_.size() ? pattern_.at(follower_).value : kAnyRun;
+    if (follower != kAnyRun && follower != kAnyUnit) {
+      runEnd_ = seek(foldCase(follower), runEnd_);
+      if (runEnd_ == text_.size()) {
+        return false;
+      }
+    }
+    inPattern_ = follower_;
+    inText_ = runEnd_;
+    return true;
+  }
+
+  /// The first place from `place` on where the text has this unit in either case, or its end.
+  std::size_t seek(char16_t folded, std::size_t place) const {
+    const char16_t upper = upperOf(folded);
+    while (place < text_.size()) {
+      const Unit unit = text_.at(place);
+      if (unit.value == folded || unit.value == upper) {
+        break;
+      }
+      place += unit.length;
+    }
+    return place;
+  }
+
+  Units pattern_;
+  Units text_;
+  std::size_t inPattern_ = 0;
+  std::size_t inText_ = 0;
+  bool hasRun_ = false;       // whether a "%" has been passed; the rest is about the last one
+  std::size_t follower_ = 0;  // where the pattern goes on behind it
+  std::size_t runEnd_ = 0;    // what it takes of the text ends here
+};
 
 }  // namespace
 
 bool like(std::u16string_view pattern, std::u16string_view text) {
-  return likeUnits(Utf16Reader(pattern), Utf16Reader(text));
+  return Matcher(Utf16Units(pattern), Utf16Units(text)).run();
 }
 
 bool likeUtf8(std::string_view pattern, std::string_view text) {
-  return likeUnits(Utf8Reader(pattern), Utf8Reader(text));
+  return Matcher(Utf8Units(pattern), Utf8Units(text)).run();
 }
 
 }  // namespace text

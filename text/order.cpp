@@ -4,7 +4,7 @@
 #include <array>
 
 #include "text/pinyin_order.h"
-#include "text/utf8_reader.h"
+#include "text/units.h"
 
 namespace text {
 namespace {
@@ -24,58 +24,86 @@ constexpr std::size_t kZeroPlace = kHanCount + kCompatibilityCount;
 
 /// Where a unit has its rank in the table of ranks; kZeroPlace + 1 for a unit without one.
 constexpr std::size_t placeOf(char16_t unit) {
-  if (unit >= kFirstHan && unit <= kLastHan) return std::size_t{unit} - kFirstHan;
-  if (unit >= kFirstCompatibility && unit <= kLastCompatibility)
+  if (unit >= kFirstHan && unit <= kLastHan) {
+    return std::size_t{unit} - kFirstHan;
+  }
+  if (unit >= kFirstCompatibility && unit <= kLastCompatibility) {
     return kHanCount + (std::size_t{unit} - kFirstCompatibility);
+  }
   return unit == kHanZero ? kZeroPlace : kZeroPlace + 1;
 }
 
 using Ranks = std::array<std::uint16_t, kZeroPlace + 2>;
+static_assert(kPinyinOrder.size() < kNotHan);
 
 constexpr Ranks makeRanks() {
   Ranks ranks{};
-  for (std::uint16_t& rank : ranks) rank = kNotHan;
+  for (std::uint16_t& rank : ranks) {
+    rank = kNotHan;
+  }
   std::uint16_t next = 0;
-  for (const char16_t unit : kPinyinOrder) ranks[placeOf(unit)] = next++;
+  for (const char16_t unit : kPinyinOrder) {
+    ranks[placeOf(unit)] = next++;
+  }
   return ranks;
 }
 
 /// Made by the compiler, so that it costs nothing at start-up.
 constexpr Ranks kRanks = makeRanks();
 
-template <typename Reader>
-int compareUnits(Reader a, Reader b) {
-  while (!a.atEnd() && !b.atEnd()) {
-    const char16_t unitA = a.next();
-    const char16_t unitB = b.next();
-    if (unitA == unitB) continue;
-    const std::uint32_t weightA = weight(unitA);
-    const std::uint32_t weightB = weight(unitB);
-    if (weightA != weightB) return weightA < weightB ? -1 : 1;
+/// Compares what stands behind the first `start` bytes or units, which are the same in both.
+template <typename Units>
+int compareUnits(Units a, Units b, std::size_t start) {
+  std::size_t placeA = start;
+  std::size_t placeB = start;
+  while (placeA < a.size() && placeB < b.size()) {
+    const Unit unitA = a.at(placeA);
+    const Unit unitB = b.at(placeB);
+    const std::uint32_t weightA = weight(unitA.value);
+    const std::uint32_t weightB = weight(unitB.value);
+    if (weightA != weightB) {
+      return weightA < weightB ? -1 : 1;
+    }
+    placeA += unitA.length;
+    placeB += unitB.length;
   }
-  return static_cast<int>(!a.atEnd()) - static_cast<int>(!b.atEnd());
+  return static_cast<int>(placeA < a.size()) - static_cast<int>(placeB < b.size());
+}
+
+template <typename View>
+std::size_t commonLength(View a, View b) {
+  const auto ends = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
+  return static_cast<std::size_t>(ends.first - a.begin());
+}
+
+/// The last place in the first `length` bytes at which surely a character starts or ends.
+std::size_t characterStart(std::string_view utf8, std::size_t length) {
+  const auto byteBefore = [&] { return static_cast<unsigned char>(utf8[length - 1]); };
+  while (length > 0 && (byteBefore() & 0xC0U) == 0x80U) {
+    --length;
+  }
+  if (length > 0 && byteBefore() >= 0xC0) {
+    --length;
+  }
+  return length;
 }
 
 }  // namespace
 
-char16_t foldCase(char16_t unit) {
-  const bool ascii = unit >= u'A' && unit <= u'Z';
-  const bool latin = unit >= 0xC0 && unit <= 0xDE && unit != 0xD7;
-  return ascii || latin ? static_cast<char16_t>(unit + 0x20) : unit;
-}
-
 std::uint32_t weight(char16_t unit) {
-  if (unit < kHanZero) return foldCase(unit);
+  if (unit < kHanZero) {
+    return foldCase(unit);
+  }
   const std::uint16_t rank = kRanks[placeOf(unit)];
   return rank == kNotHan ? unit : kHanBase + rank;
 }
 
 int compare(std::u16string_view a, std::u16string_view b) {
-  return compareUnits(Utf16Reader(a), Utf16Reader(b));
+  return compareUnits(Utf16Units(a), Utf16Units(b), commonLength(a, b));
 }
 
 int compareUtf8(std::string_view a, std::string_view b) {
-  return compareUnits(Utf8Reader(a), Utf8Reader(b));
+  return compareUnits(Utf8Units(a), Utf8Units(b), characterStart(a, commonLength(a, b)));
 }
 
 bool equal(std::u16string_view a, std::u16string_view b) {

@@ -22,13 +22,18 @@ bool equal(std::u16string_view a, std::u16string_view b);
 /// case (ASCII and Latin-1). Takes time proportional to pattern length times text length at most.
 bool like(std::u16string_view pattern, std::u16string_view text);
 
-/// The same for texts in UTF-8, without converting them first: what compare and like say of the texts
-/// that toUtf16 makes of them, invalid bytes included. "_" stands for one UTF-16 code unit here too.
+/// The same for texts in UTF-8, without converting them first: what compare and like say of the
+/// texts that toUtf16 makes of them, invalid bytes included. "_" stands for one UTF-16 code unit
+/// here too.
 int compareUtf8(std::string_view a, std::string_view b);
 bool likeUtf8(std::string_view pattern, std::string_view text);
 
 /// Lower case as the order folds it: ASCII and Latin-1 letters, everything else as it is.
-char16_t foldCase(char16_t unit);
+constexpr char16_t foldCase(char16_t unit) {
+  const bool ascii = unit >= u'A' && unit <= u'Z';
+  const bool latin = unit >= 0xC0 && unit <= 0xDE && unit != 0xD7;
+  return ascii || latin ? static_cast<char16_t>(unit + 0x20) : unit;
+}
 std::u16string toLower(std::u16string_view text);
 
 }  // namespace text

@@ -1,6 +1,7 @@
 #include "text/query_text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace user {
 
@@ -8,7 +9,9 @@ std::u16string& escapeQuote(std::u16string& text) {
   constexpr char16_t kQuote = u'\'';
   std::u16string escaped;
   escaped.reserve(text.size());
-  for (const char16_t unit : text) escaped.append(unit == kQuote ? 2 : 1, unit);
+  for (const char16_t unit : text) {
+    escaped.append(unit == kQuote ? 2 : 1, unit);
+  }
   text = std::move(escaped);
   return text;
 }
@@ -27,11 +30,13 @@ std::u16string convertWildcard(std::u16string& text) {
 std::u16string replaceStr(std::u16string_view source, std::u16string_view search,
                           std::u16string_view replacement) {
   std::u16string text(source);
-  if (search.empty()) return text;
+  if (search.empty()) {
+    return text;
+  }
   std::size_t match = text.find(search);
   while (match != std::u16string::npos) {
     text.replace(match, 1, replacement);
-    // Nothing matches further to the left than a match that ends in the replacement.
+    // The next match may begin before this one, but not end there, or it had been found first.
     const std::size_t overlap = std::min(match, search.size() - 1);
     match = text.find(search, match - overlap);
   }

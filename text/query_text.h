@@ -25,7 +25,9 @@ std::u16string_view getEorC(std::u16string_view text);
 std::u16string convertWildcard(std::u16string& text);
 
 /// Replaces every occurrence of `search`, which is a single character that `replacement` does not
-/// contain; an empty `search` changes nothing.
+/// contain; an empty `search` changes nothing. Meant for nothing longer: one character only is
+/// taken out for a longer `search`, and a replacement that yields new matches is replaced without
+/// end.
 std::u16string replaceStr(std::u16string_view source, std::u16string_view search,
                           std::u16string_view replacement);
 

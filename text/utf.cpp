@@ -1,26 +1,12 @@
 #include "text/utf.h"
 
-#include "text/utf8_reader.h"
+#include "text/units.h"
 
 namespace text {
 namespace {
 
 bool isHighSurrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 bool isLowSurrogate(char32_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
-
-/// How the first byte of a sequence begins its character.
-struct Lead {
-  std::size_t length;
-  char32_t bits;
-  char32_t smallest;  ///< anything below is overlong
-};
-
-Lead readLead(unsigned char byte) {
-  if (byte >= 0xC2 && byte <= 0xDF) return {2, byte & 0x1FU, 0x80};
-  if (byte >= 0xE0 && byte <= 0xEF) return {3, byte & 0x0FU, 0x800};
-  if (byte >= 0xF0 && byte <= 0xF4) return {4, byte & 0x07U, 0x10000};
-  return {0, 0, 0};
-}
 
 char byteOf(char32_t bits) { return static_cast<char>(static_cast<unsigned char>(bits)); }
 char continuation(char32_t bits) { return byteOf(0x80 | (bits & 0x3F)); }
@@ -45,22 +31,6 @@ void appendUtf8(std::string& out, char32_t character) {
 
 }  // namespace
 
-Decoded decodeUtf8(std::string_view utf8) {
-  const auto first = static_cast<unsigned char>(utf8.front());
-  if (first < 0x80) return {first, 1};
-  const Lead lead = readLead(first);
-  if (lead.length == 0 || lead.length > utf8.size()) return {};
-  char32_t character = lead.bits;
-  for (std::size_t i = 1; i < lead.length; ++i) {
-    const auto byte = static_cast<unsigned char>(utf8[i]);
-    if ((byte & 0xC0U) != 0x80U) return {};
-    character = (character << 6) | (byte & 0x3FU);
-  }
-  const bool surrogate = isHighSurrogate(character) || isLowSurrogate(character);
-  if (character < lead.smallest || character > 0x10FFFF || surrogate) return {};
-  return {character, lead.length};
-}
-
 std::string toUtf8(std::u16string_view utf16) {
   std::string out;
   out.reserve(utf16.size());
@@ -80,8 +50,12 @@ std::string toUtf8(std::u16string_view utf16) {
 std::u16string toUtf16(std::string_view utf8) {
   std::u16string out;
   out.reserve(utf8.size());
-  Utf8Reader reader(utf8);
-  while (!reader.atEnd()) out += reader.next();
+  const Utf8Units units(utf8);
+  for (std::size_t position = 0; position < utf8.size();) {
+    const Unit unit = units.at(position);
+    out += unit.value;
+    position += unit.length;
+  }
   return out;
 }
 
