@@ -34,7 +34,7 @@ trap 'exit 130' INT TERM
 
 set_up_tests
 
-wanted format && run_test format 60 check_format
+wanted format && run_test format 60 scripts/format.sh --check
 
 if wanted unit wine-unit program dpi144; then
   build tools kkbuild

@@ -50,11 +50,3 @@ run_gtest() {
   # shellcheck disable=SC2086
   count "$layer" $numbers $(($(tenths) - start))
 }
-
-# The layout of every source, as one test.
-check_format() {
-  cd "$LEXILO_ROOT" || return
-  find app bench capture data dictionary forms lookup query scripts settings tests text \
-    \( -name '*.cpp' -o -name '*.h' \) -print0 2>/dev/null |
-    xargs -0 clang-format --dry-run -Werror
-}
