@@ -7,11 +7,8 @@ namespace {
 constexpr char16_t kAnyRun = u'%';
 constexpr char16_t kAnyUnit = u'_';
 
-/// The other spelling of a letter that foldCase has folded; any other unit as it is.
-char16_t upperOf(char16_t folded) {
-  const auto upper = static_cast<char16_t>(folded - 0x20);
-  return foldCase(upper) == folded ? upper : folded;
-}
+/// The bit in which the two cases of an ASCII or Latin-1 letter differ.
+constexpr unsigned kCaseBit = 0x20;
 
 /// A pattern tried on a text from left to right. Where they part, only the last "%" takes more of
 /// the text: whatever an earlier one might take, the last can take as well.
@@ -71,7 +68,7 @@ class Matcher {
   bool seekFollower() {
     const char16_t follower = follower_ < pattern_.size() ? pattern_.at(follower_).value : kAnyRun;
     if (follower != kAnyRun && follower != kAnyUnit) {
-      runEnd_ = seek(foldCase(follower), runEnd_);
+      runEnd_ = seek(follower, runEnd_);
       if (runEnd_ == text_.size()) {
         return false;
       }
@@ -81,12 +78,11 @@ class Matcher {
     return true;
   }
 
-  /// The first place from `place` on where the text has this unit in either case, or its end.
-  std::size_t seek(char16_t folded, std::size_t place) const {
-    const char16_t upper = upperOf(folded);
+  /// The first place from `place` on where the text may have `wanted` in either case, or its end.
+  std::size_t seek(char16_t wanted, std::size_t place) const {
     while (place < text_.size()) {
       const Unit unit = text_.at(place);
-      if (unit.value == folded || unit.value == upper) {
+      if ((unit.value | kCaseBit) == (wanted | kCaseBit)) {
         break;
       }
       place += unit.length;

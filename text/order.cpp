@@ -51,41 +51,25 @@ constexpr Ranks makeRanks() {
 /// Made by the compiler, so that it costs nothing at start-up.
 constexpr Ranks kRanks = makeRanks();
 
-/// Compares what stands behind the first `start` bytes or units, which are the same in both.
 template <typename Units>
-int compareUnits(Units a, Units b, std::size_t start) {
-  std::size_t placeA = start;
-  std::size_t placeB = start;
+int compareUnits(Units a, Units b) {
+  std::size_t placeA = 0;
+  std::size_t placeB = 0;
   while (placeA < a.size() && placeB < b.size()) {
     const Unit unitA = a.at(placeA);
     const Unit unitB = b.at(placeB);
+    placeA += unitA.length;
+    placeB += unitB.length;
+    if (unitA.value == unitB.value) {
+      continue;
+    }
     const std::uint32_t weightA = weight(unitA.value);
     const std::uint32_t weightB = weight(unitB.value);
     if (weightA != weightB) {
       return weightA < weightB ? -1 : 1;
     }
-    placeA += unitA.length;
-    placeB += unitB.length;
   }
   return static_cast<int>(placeA < a.size()) - static_cast<int>(placeB < b.size());
-}
-
-template <typename View>
-std::size_t commonLength(View a, View b) {
-  const auto ends = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
-  return static_cast<std::size_t>(ends.first - a.begin());
-}
-
-/// The last place in the first `length` bytes at which surely a character starts or ends.
-std::size_t characterStart(std::string_view utf8, std::size_t length) {
-  const auto byteBefore = [&] { return static_cast<unsigned char>(utf8[length - 1]); };
-  while (length > 0 && (byteBefore() & 0xC0U) == 0x80U) {
-    --length;
-  }
-  if (length > 0 && byteBefore() >= 0xC0) {
-    --length;
-  }
-  return length;
 }
 
 }  // namespace
@@ -99,11 +83,11 @@ std::uint32_t weight(char16_t unit) {
 }
 
 int compare(std::u16string_view a, std::u16string_view b) {
-  return compareUnits(Utf16Units(a), Utf16Units(b), commonLength(a, b));
+  return compareUnits(Utf16Units(a), Utf16Units(b));
 }
 
 int compareUtf8(std::string_view a, std::string_view b) {
-  return compareUnits(Utf8Units(a), Utf8Units(b), characterStart(a, commonLength(a, b)));
+  return compareUnits(Utf8Units(a), Utf8Units(b));
 }
 
 bool equal(std::u16string_view a, std::u16string_view b) {
