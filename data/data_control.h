@@ -12,13 +12,15 @@ class Database;
 
 /// A window's door to the database: a connection string, an SQL text, and the rows of its last
 /// refresh. The file is opened by the first refresh and stays open; no statement stays open between
-/// events once its rows are read.
+/// events.
 class DataControl {
  public:
   DataControl();
   ~DataControl();
   DataControl(DataControl&&) noexcept;
   DataControl& operator=(DataControl&&) noexcept;
+  DataControl(const DataControl&) = delete;
+  DataControl& operator=(const DataControl&) = delete;
 
   /// "Provider=...;Data Source=FILE;..."; another text closes the connection of the former.
   void setConnectionString(std::u16string_view connectionString);

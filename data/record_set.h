@@ -12,12 +12,13 @@ class Cursor;
 
 /// One column of the current row.
 struct Field {
-  std::u16string text;        ///< the value as text; "" for NULL
-  std::int64_t integer = 0;   ///< the value as a number; 0 where it is none
+  std::u16string text;       ///< the value as text; "" for NULL
+  std::int64_t integer = 0;  ///< the value as a number: of a text its leading digits; else 0
 };
 
-/// The rows of one query. Rows are fetched when they are needed; the statement behind them is
-/// closed as soon as they are all read, or by close(). All operations throw Error.
+/// The rows of one query, at the first of them to begin with. Rows are fetched when they are
+/// needed, and no operation leaves anything behind that would hold the database. All operations
+/// throw Error; a default-constructed set has no rows.
 class RecordSet {
  public:
   RecordSet();
@@ -25,21 +26,26 @@ class RecordSet {
   ~RecordSet();
   RecordSet(RecordSet&&) noexcept;
   RecordSet& operator=(RecordSet&&) noexcept;
+  RecordSet(const RecordSet&) = delete;
+  RecordSet& operator=(const RecordSet&) = delete;
 
-  /// Whether there is no row at all; fetches at most one.
+  /// Whether there is no row at all.
   [[nodiscard]] bool empty();
   /// Number of rows; fetches them all.
   [[nodiscard]] std::size_t recordCount();
   /// Whether the current position lies behind the last row.
   [[nodiscard]] bool endOfFile();
 
+  /// Goes to the first row; without rows, to the end.
   void moveFirst();
-  /// Goes to the last row without building those before it where the query has no order of its own
-  /// (a backward scan); moveFirst() then starts over.
+  /// Goes to the last row, without building those before it where the query scans one table in
+  /// its own order; without rows, to the end.
   void moveLast();
+  /// Goes to the next row or, from the last one, to the end. Fails at the end.
   void moveNext();
 
-  /// Value of the current row by column name, without regard to case, or by position from 0.
+  /// Value of the current row by column name, without regard to the case of ASCII letters, or by
+  /// position from 0. Fails at the end and where there is no such column.
   [[nodiscard]] Field field(std::u16string_view name);
   [[nodiscard]] Field field(std::size_t position);
 
@@ -47,10 +53,12 @@ class RecordSet {
   /// from then on. Only for queries of the form "select * from TABLE ...".
   void update(std::u16string_view name, std::int64_t value);
 
-  /// Lets go of the statement and of rows that are not read yet; those read stay.
+  /// Gives up the rows that are not fetched yet; those fetched stay.
   void close();
 
  private:
+  Cursor& cursor();
+
   std::unique_ptr<Cursor> cursor_;
 };
 

@@ -1,0 +1,109 @@
+#include "data/connection.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+
+#include "data/error.h"
+#include "data/sql_tokens.h"
+#include "data/text_functions.h"
+
+namespace data {
+namespace {
+
+/// Ceilings for one statement and one value: well above what the dictionary needs (its longest
+/// meaning has some 200 characters), well below what would hurt.
+struct Ceiling {
+  int what;
+  int limit;
+};
+constexpr Ceiling kCeilings[] = {
+    {SQLITE_LIMIT_LENGTH, 1'000'000},
+    {SQLITE_LIMIT_SQL_LENGTH, 500'000},
+    {SQLITE_LIMIT_COLUMN, 100},
+    {SQLITE_LIMIT_EXPR_DEPTH, 100},
+    {SQLITE_LIMIT_COMPOUND_SELECT, 10},
+    {SQLITE_LIMIT_VDBE_OP, 25'000},
+    {SQLITE_LIMIT_FUNCTION_ARG, 8},
+    {SQLITE_LIMIT_ATTACHED, 0},
+    {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, kLongestPattern},
+    {SQLITE_LIMIT_VARIABLE_NUMBER, 8},
+    {SQLITE_LIMIT_TRIGGER_DEPTH, 1},
+    {SQLITE_LIMIT_WORKER_THREADS, 0},
+};
+
+void switchTo(sqlite3* connection, int option, int value) {
+  check(connection, sqlite3_db_config(connection, option, value, nullptr));
+}
+
+void harden(sqlite3* connection) {
+  switchTo(connection, SQLITE_DBCONFIG_DEFENSIVE, 1);
+  for (const int option :
+       {SQLITE_DBCONFIG_TRUSTED_SCHEMA, SQLITE_DBCONFIG_ENABLE_TRIGGER, SQLITE_DBCONFIG_ENABLE_VIEW,
+        SQLITE_DBCONFIG_ENABLE_ATTACH_CREATE, SQLITE_DBCONFIG_ENABLE_ATTACH_WRITE}) {
+    switchTo(connection, option, 0);
+  }
+  for (const Ceiling& ceiling : kCeilings) {
+    sqlite3_limit(connection, ceiling.what, ceiling.limit);
+  }
+  execute(connection, "pragma cell_size_check=on");
+}
+
+}  // namespace
+
+void ConnectionCloser::operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
+
+void StatementCloser::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+
+Connection openConnection(const std::string& file, Access access,
+                          std::chrono::milliseconds lockWait) {
+  // SQLite takes these two for databases in memory and in a nameless file.
+  if (file.empty() || file == ":memory:") {
+    throw Error(SQLITE_CANTOPEN, sqlite3_errstr(SQLITE_CANTOPEN));
+  }
+  const int flags = access == Access::kRead ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+  sqlite3* opened = nullptr;
+  const int result = sqlite3_open_v2(file.c_str(), &opened, flags | SQLITE_OPEN_EXRESCODE, nullptr);
+  Connection connection(opened);
+  check(opened, result);
+  check(opened, sqlite3_busy_timeout(opened, static_cast<int>(lockWait.count())));
+  harden(opened);
+  registerTextFunctions(opened);
+  return connection;
+}
+
+void raise(sqlite3* connection) {
+  throw Error(sqlite3_extended_errcode(connection), sqlite3_errmsg(connection));
+}
+
+void check(sqlite3* connection, int result) {
+  if (result != SQLITE_OK) raise(connection);
+}
+
+Statement prepare(sqlite3* connection, const std::string& sql) {
+  if (sql.find('\0') != std::string::npos) {
+    throw Error(SQLITE_MISUSE, "SQL text with a null character");
+  }
+  sqlite3_stmt* prepared = nullptr;
+  const char* tail = nullptr;
+  const int result = sqlite3_prepare_v2(connection, sql.c_str(), static_cast<int>(sql.size()) + 1,
+                                        &prepared, &tail);
+  Statement statement(prepared);
+  check(connection, result);
+  if (!statement) throw Error(SQLITE_MISUSE, "SQL text without a statement");
+  const std::vector<Token> rest = tokenize(tail);
+  const bool single = std::all_of(rest.begin(), rest.end(), [](const Token& token) {
+    return token.kind == TokenKind::kComment || token.isSymbol(';');
+  });
+  if (!single) throw Error(SQLITE_MISUSE, "SQL text with more than one statement");
+  return statement;
+}
+
+void execute(sqlite3* connection, const std::string& sql) {
+  const Statement statement = prepare(connection, sql);
+  int result = SQLITE_ROW;
+  while (result == SQLITE_ROW) result = sqlite3_step(statement.get());
+  if (result != SQLITE_DONE) raise(connection);
+}
+
+}  // namespace data

@@ -1,0 +1,76 @@
+#include "data/connection_string.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
+namespace data {
+namespace {
+
+struct Key {
+  std::u16string_view name;  // in lower case
+  std::u16string ConnectionString::*value;
+};
+
+constexpr std::array kKeys{
+    Key{u"provider", &ConnectionString::provider},
+    Key{u"data source", &ConnectionString::dataSource},
+    Key{u"persist security info", &ConnectionString::persistSecurityInfo},
+};
+
+char16_t lowerAscii(char16_t unit) {
+  return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
+}
+
+std::u16string_view trim(std::u16string_view text) {
+  const std::size_t first = text.find_first_not_of(u' ');
+  if (first == std::u16string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
+}
+
+/// One "key=" and what follows it up to the next one.
+struct Entry {
+  const Key* key = nullptr;
+  std::size_t keyStart = 0;
+  std::size_t valueStart = 0;
+};
+
+/// The entry that begins at `start`, if a known key and an equals sign stand there.
+std::optional<Entry> entryAt(std::u16string_view text, std::size_t start) {
+  const std::size_t equals = text.find(u'=', start);
+  if (equals == std::u16string_view::npos) return std::nullopt;
+  const std::u16string_view name = trim(text.substr(start, equals - start));
+  const auto* key = std::find_if(kKeys.begin(), kKeys.end(), [&](const Key& known) {
+    return std::equal(name.begin(), name.end(), known.name.begin(), known.name.end(),
+                      [](char16_t a, char16_t b) { return lowerAscii(a) == b; });
+  });
+  if (key == kKeys.end()) return std::nullopt;
+  return Entry{key, start, equals + 1};
+}
+
+}  // namespace
+
+ConnectionString parseConnectionString(std::u16string_view text) {
+  ConnectionString result;
+  std::array<bool, kKeys.size()> given{};
+  std::optional<Entry> open;
+  const auto finish = [&](std::size_t end) {
+    if (open)
+      result.*(open->key->value) = trim(text.substr(open->valueStart, end - open->valueStart));
+  };
+  for (std::size_t start = 0;;) {
+    const std::optional<Entry> next = entryAt(text, start);
+    if (next && !std::exchange(given[static_cast<std::size_t>(next->key - kKeys.data())], true)) {
+      finish(start == 0 ? 0 : start - 1);
+      open = next;
+    }
+    const std::size_t separator = text.find(u';', start);
+    if (separator == std::u16string_view::npos) break;
+    start = separator + 1;
+  }
+  finish(text.size());
+  return result;
+}
+
+}  // namespace data

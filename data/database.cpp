@@ -1,0 +1,116 @@
+#include "data/database.h"
+
+#include <sqlite3.h>
+
+#include <utility>
+
+#include "data/error.h"
+#include "data/read_only_rules.h"
+
+namespace data {
+namespace {
+
+/// The clock is looked at each time the engine has taken so many of its steps: some 0.1 ms.
+constexpr int kStepsBetweenLooks = 1000;
+
+/// Has the connection scan tables without an order of their own from the end, while it exists.
+class BackwardScan {
+ public:
+  explicit BackwardScan(sqlite3* connection) : connection_(connection) { set(1); }
+  BackwardScan(const BackwardScan&) = delete;
+  BackwardScan& operator=(const BackwardScan&) = delete;
+  ~BackwardScan() { set(0); }
+
+ private:
+  void set(int on) const {
+    sqlite3_db_config(connection_, SQLITE_DBCONFIG_REVERSE_SCANORDER, on, nullptr);
+  }
+  sqlite3* connection_;
+};
+
+Cell cellAt(sqlite3_stmt* statement, int column) {
+  const std::int64_t integer = sqlite3_column_int64(statement, column);
+  const void* text = sqlite3_column_text(statement, column);
+  if (text == nullptr) return {{}, integer};
+  const auto bytes = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
+  return {std::string(static_cast<const char*>(text), bytes), integer};
+}
+
+std::vector<std::string> columnNames(sqlite3_stmt* statement) {
+  std::vector<std::string> names;
+  for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+    names.emplace_back(sqlite3_column_name(statement, i));
+  }
+  return names;
+}
+
+Rows readRows(sqlite3* connection, const std::string& sql, std::size_t limit) {
+  const Statement statement = prepare(connection, sql);
+  Rows rows{columnNames(statement.get()), {}, false};
+  if (rows.columns.empty()) throw Error(SQLITE_MISUSE, "SQL text that is no query");
+  const int columns = static_cast<int>(rows.columns.size());
+  for (std::size_t count = 0; count < limit; ++count) {
+    const int result = sqlite3_step(statement.get());
+    if (result == SQLITE_DONE) {
+      rows.complete = true;
+      return rows;
+    }
+    if (result != SQLITE_ROW) raise(connection);
+    for (int i = 0; i < columns; ++i) rows.cells.push_back(cellAt(statement.get(), i));
+  }
+  return rows;
+}
+
+}  // namespace
+
+Database::Database(std::string file, Patience patience)
+    : file_(std::move(file)),
+      patience_(patience),
+      connection_(openConnection(file_, Access::kRead, patience.lock)) {
+  allowReadingOnly(connection_.get());
+  sqlite3_progress_handler(connection_.get(), kStepsBetweenLooks, &Database::isOverdue, this);
+}
+
+int Database::isOverdue(void* database) {
+  return std::chrono::steady_clock::now() > static_cast<const Database*>(database)->deadline_ ? 1
+                                                                                              : 0;
+}
+
+/// A program that was killed in the middle of an update leaves a journal behind that has to be
+/// rolled back before the file can be read, which a connection for reading cannot do.
+template <typename Operation>
+auto Database::withRecovery(Operation operation) {
+  deadline_ = std::chrono::steady_clock::now() + patience_.query;
+  try {
+    return operation();
+  } catch (const Error& error) {
+    if (error.code() != SQLITE_READONLY_ROLLBACK) throw;
+  }
+  rollBackJournal();
+  return operation();
+}
+
+Rows Database::read(const std::string& sql, std::size_t limit, ScanOrder order) {
+  return withRecovery([&] {
+    if (order == ScanOrder::kForward) return readRows(connection_.get(), sql, limit);
+    const BackwardScan backward(connection_.get());
+    return readRows(connection_.get(), sql, limit);
+  });
+}
+
+bool Database::hasRowid(const std::string& table) {
+  return withRecovery([&] {
+    const int result =
+        sqlite3_table_column_metadata(connection_.get(), "main", table.c_str(), "rowid", nullptr,
+                                      nullptr, nullptr, nullptr, nullptr);
+    if (result != SQLITE_OK && result != SQLITE_ERROR) raise(connection_.get());
+    return result == SQLITE_OK;
+  });
+}
+
+void Database::rollBackJournal() const {
+  const Connection writer = openConnection(file_, Access::kWrite, patience_.lock);
+  execute(writer.get(), "select 1 from sqlite_master limit 1");
+}
+
+}  // namespace data

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "data/connection.h"
+
+namespace data {
+
+/// One value as text in UTF-8 ("" for NULL) and as a number (0 where it is none).
+struct Cell {
+  std::string text;
+  std::int64_t integer = 0;
+};
+
+/// Rows that were read: the names of their columns, and their cells row after row.
+struct Rows {
+  std::vector<std::string> columns;
+  std::vector<Cell> cells;
+  bool complete = false;  ///< whether the query has no more rows than these
+
+  [[nodiscard]] std::size_t count() const {
+    return columns.empty() ? 0 : cells.size() / columns.size();
+  }
+};
+
+enum class ScanOrder { kForward, kBackward };
+
+/// How long an operation may take.
+struct Patience {
+  std::chrono::milliseconds query{5000};  ///< a query that runs longer ends with an error
+  std::chrono::milliseconds lock{1000};   ///< wait for other programs that hold the file
+};
+
+/// A database file, open for reading only. Every operation runs its statement to the end of what is
+/// asked and closes it, so that nothing holds the file between operations. All operations throw
+/// Error with the engine's message.
+class Database {
+ public:
+  /// `file` is the path in UTF-8.
+  explicit Database(std::string file, Patience patience = {});
+  Database(const Database&) = delete;
+  Database& operator=(const Database&) = delete;
+  ~Database() = default;
+
+  [[nodiscard]] const std::string& file() const { return file_; }
+  [[nodiscard]] Patience patience() const { return patience_; }
+
+  /// The first `limit` rows of one SQL text in SQLite's own dialect. kBackward scans a table from
+  /// its end; it is for queries that scan one table only (see Query::plainScan).
+  Rows read(const std::string& sql, std::size_t limit, ScanOrder order = ScanOrder::kForward);
+
+  /// Whether there is a table of that name whose rows are numbered by the engine.
+  bool hasRowid(const std::string& table);
+
+ private:
+  static int isOverdue(void* database);
+
+  template <typename Operation>
+  auto withRecovery(Operation operation);
+  void rollBackJournal() const;
+
+  std::string file_;
+  Patience patience_;
+  std::chrono::steady_clock::time_point deadline_;
+  Connection connection_;
+};
+
+}  // namespace data

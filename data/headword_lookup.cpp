@@ -1,0 +1,121 @@
+#include "data/headword_lookup.h"
+
+#include <limits>
+#include <stdexcept>
+
+#include "text/order.h"
+#include "text/query_text.h"
+
+namespace data {
+namespace {
+
+/// Every so many rows of [edict] and [cdict] one stands in the index tables.
+constexpr std::int64_t kBlock = 100;
+/// The lower bound lies so far below the block's last row, so that the block before is searched
+/// too.
+constexpr std::int64_t kReachBack = 200;
+/// The upper bound for Chinese input behind the last index word: the rows that [cdict] may have.
+constexpr std::int32_t kLastRow = 1'060'000;
+/// The widest window that is searched, and the width above which a list would have to be narrowed.
+constexpr std::int32_t kWindow = 500;
+constexpr std::int32_t kListWindow = 1000;
+
+std::u16string withWildcards(std::u16string_view word, std::u16string_view replacement) {
+  return user::replaceStr(user::replaceStr(word, u"%", replacement), u"_", replacement);
+}
+
+std::int32_t rowNumber(std::int64_t number) {
+  if (number < std::numeric_limits<std::int32_t>::min() ||
+      number > std::numeric_limits<std::int32_t>::max()) {
+    throw std::overflow_error("row number beyond 32 bits");
+  }
+  return static_cast<std::int32_t>(number);
+}
+
+/// The row that stands `offset` rows from the last one of a block.
+std::int32_t rowFromBlock(std::int64_t block, std::int64_t offset) {
+  return rowNumber((rowNumber(block) * kBlock) + offset);
+}
+
+/// Runs `sql` and gives its rows, which the control holds.
+RecordSet& rowsOf(DataControl& control, std::u16string_view sql) {
+  control.setRecordSource(sql);
+  control.refresh();
+  return control.recordset();
+}
+
+}  // namespace
+
+HeadwordLookup::HeadwordLookup(const IndexWords& indexWords, LookupRules rules)
+    : indexWords_(indexWords), rules_(rules) {}
+
+void HeadwordLookup::getBound(std::u16string_view word, DataControl& control) {
+  if (user::getEorC(word) == user::kEnglish) {
+    getEnglishBound(word);
+  } else {
+    getChineseBound(word, control);
+  }
+  clampWidth(kWindow);
+}
+
+void HeadwordLookup::getEnglishBound(std::u16string_view word) {
+  const std::u16string low = text::toLower(withWildcards(word, u"0"));
+  const std::u16string high =
+      rules_.lambdaUpperKey ? text::toLower(withWildcards(word, u"λ")) : low;
+  const bool oneKey = high == low;
+  for (std::size_t i = 1; i < indexWords_.size(); ++i) {
+    const std::u16string& indexWord = indexWords_[i];
+    const bool reached = low <= indexWord;
+    if (reached) bounds_.lower = rowFromBlock(static_cast<std::int64_t>(i), -kReachBack);
+    if (oneKey ? reached : high <= indexWord) {
+      bounds_.upper = rowFromBlock(static_cast<std::int64_t>(i), 0);
+      break;
+    }
+  }
+}
+
+void HeadwordLookup::getChineseBound(std::u16string_view word, DataControl& control) {
+  RecordSet& before = rowsOf(control, indexRowsUpToSql(withWildcards(word, u"0")));
+  if (before.empty()) {
+    bounds_.lower = 0;
+  } else {
+    before.moveLast();
+    bounds_.lower = rowFromBlock(before.field(u"id").integer, -kReachBack);
+  }
+  RecordSet& behind = rowsOf(control, indexRowsBehindSql(withWildcards(word, u"做")));
+  if (behind.empty()) {
+    bounds_.upper = kLastRow;
+  } else {
+    behind.moveFirst();
+    bounds_.upper = rowFromBlock(behind.field(u"id").integer, 0);
+  }
+}
+
+void HeadwordLookup::clampWidth(std::int32_t widest) {
+  const std::int64_t width = std::int64_t{bounds_.upper} - bounds_.lower;
+  if (width > widest) bounds_.upper = rowNumber(std::int64_t{bounds_.lower} + kWindow);
+}
+
+std::u16string HeadwordLookup::makeStrSql(std::u16string_view EorC, std::u16string_view word,
+                                          DataControl& control) {
+  getBound(word, control);
+  if (EorC == user::kEnglish) {
+    clampWidth(kListWindow);
+    return englishListSql(bounds_, word);
+  }
+  if (EorC == user::kChinese) {
+    getBound(word, control);
+    return chineseListSql(bounds_, word);
+  }
+  return {};
+}
+
+std::u16string HeadwordLookup::findword(std::u16string_view EorC, std::u16string_view word,
+                                        DataControl& control) {
+  if (EorC == user::kEnglish || rules_.chineseMeaningFindsBounds) getBound(word, control);
+  if (EorC == user::kEnglish) return englishMeaningSql(bounds_, word);
+  if (EorC == user::kChinese) return chineseMeaningSql(bounds_, word);
+  return {};
+}
+
+}  // namespace data

@@ -1,0 +1,28 @@
+#include "data/index_words.h"
+
+#include <cstdint>
+#include <limits>
+#include <stdexcept>
+
+#include "text/order.h"
+
+namespace data {
+
+IndexWords readIndexWords(DataControl& control) {
+  control.setRecordSource(u"select word from edictidx order by word");
+  control.refresh();
+  RecordSet& rows = control.recordset();
+  const std::size_t count = rows.recordCount();
+  if (count > std::numeric_limits<std::int16_t>::max()) {
+    throw std::overflow_error("more index words than a 16-bit number can count");
+  }
+  IndexWords words;
+  words.reserve(count + 1);
+  words.emplace_back();
+  for (rows.moveFirst(); !rows.endOfFile(); rows.moveNext()) {
+    words.push_back(text::toLower(rows.field(u"word").text));
+  }
+  return words;
+}
+
+}  // namespace data

@@ -1,0 +1,57 @@
+#include "data/lookup_sql.h"
+
+#include <initializer_list>
+
+namespace data {
+namespace {
+
+std::u16string joined(std::initializer_list<std::u16string_view> parts) {
+  std::u16string whole;
+  for (const std::u16string_view part : parts) whole.append(part);
+  return whole;
+}
+
+std::u16string decimal(std::int32_t number) {
+  const std::string digits = std::to_string(number);
+  return {digits.begin(), digits.end()};
+}
+
+}  // namespace
+
+std::u16string englishListSql(Bounds bounds, std::u16string_view word) {
+  return joined({u"select distinct top 75 edict.word as Word from [edict]", u"where edict.eid>=",
+                 decimal(bounds.lower), u" and edict.eid<=", decimal(bounds.upper),
+                 u"  and edict.word >= '", word, u"' order by word"});
+}
+
+std::u16string chineseListSql(Bounds bounds, std::u16string_view word) {
+  return joined({u"select distinct top 75 cdict.word as Word from [cdict] where ", u"cdict.cid>=",
+                 decimal(bounds.lower), u" and cdict.cid<=", decimal(bounds.upper),
+                 u"  and cdict.word >= '", word, u"' order by word"});
+}
+
+std::u16string englishMeaningSql(Bounds bounds, std::u16string_view word) {
+  return joined(
+      {u"select edict.word as Word,cdict.word as Meaning from [edict],[cdict] where "
+       u"edict.eid>=",
+       decimal(bounds.lower), u" and edict.eid<=", decimal(bounds.upper),
+       u" and edict.cid=cdict.cid and edict.word = '", word, u"' order by cdict.word"});
+}
+
+std::u16string chineseMeaningSql(Bounds bounds, std::u16string_view word) {
+  return joined(
+      {u"select cdict.word as Word,edict.word as Meaning from [edict],[cdict] where "
+       u"cdict.cid>=",
+       decimal(bounds.lower), u" and cdict.cid<=", decimal(bounds.upper),
+       u" and edict.eid=cdict.eid and cdict.word = '", word, u"' order by edict.word"});
+}
+
+std::u16string indexRowsUpToSql(std::u16string_view low) {
+  return joined({u"select * from [cdictidx] where word<='", low, u"' "});
+}
+
+std::u16string indexRowsBehindSql(std::u16string_view high) {
+  return joined({u"select * from [cdictidx] where word>= '", high, u"做做'"});
+}
+
+}  // namespace data

@@ -1,0 +1,86 @@
+#include "data/data_control.h"
+
+#include <gtest/gtest.h>
+
+#include "data/error.h"
+#include "tests/unit/support/sample_database.h"
+
+namespace {
+
+using data::DataControl;
+using data::Error;
+using support::connectionStringFor;
+using support::TempFolder;
+
+constexpr const char* kSchema =
+    "create table t (word text collate lexilo); insert into t values ('a'),('b')";
+
+TEST(DataControl, RunsItsRecordSource) {
+  const TempFolder folder;
+  support::makeDatabase(folder.file(u"kk.dat"), kSchema);
+  DataControl control;
+  EXPECT_TRUE(control.recordset().empty());
+  control.setConnectionString(connectionStringFor(folder.file(u"kk.dat")));
+  control.setRecordSource(u"select word from t");
+  EXPECT_EQ(control.recordSource(), u"select word from t");
+  EXPECT_TRUE(control.recordset().empty()) << "nothing was run yet";
+  control.refresh();
+  EXPECT_EQ(control.recordset().recordCount(), 2U);
+  control.setRecordSource(u"select word from t where word='b'");
+  EXPECT_EQ(control.recordset().recordCount(), 2U) << "nothing was run yet";
+  control.refresh();
+  EXPECT_EQ(control.recordset().field(u"word").text, u"b");
+}
+
+TEST(DataControl, LosesItsRowsByAFailure) {
+  const TempFolder folder;
+  support::makeDatabase(folder.file(u"kk.dat"), kSchema);
+  DataControl control = support::opened(folder.file(u"kk.dat"), u"select word from t");
+  control.setRecordSource(u"select word from nowhere");
+  EXPECT_THROW(control.refresh(), Error);
+  EXPECT_TRUE(control.recordset().empty());
+  control.setRecordSource(u"select word from t");
+  control.refresh();
+  EXPECT_EQ(control.recordset().recordCount(), 2U);
+}
+
+TEST(DataControl, FailsWithoutAFileAndFindsItLater) {
+  const TempFolder folder;
+  DataControl control;
+  control.setRecordSource(u"select word from t");
+  EXPECT_THROW(control.refresh(), Error) << "no connection string";
+  control.setConnectionString(connectionStringFor(folder.file(u"kk.dat")));
+  EXPECT_THROW(control.refresh(), Error);
+  EXPECT_EQ(support::entryCount(folder.path()), 0);
+  support::makeDatabase(folder.file(u"kk.dat"), kSchema);
+  control.refresh();
+  EXPECT_EQ(control.recordset().recordCount(), 2U);
+}
+
+TEST(DataControl, KeepsItsRowsForTheSameConnectionString) {
+  const TempFolder folder;
+  support::makeDatabase(folder.file(u"kk.dat"), kSchema);
+  DataControl control = support::opened(folder.file(u"kk.dat"), u"select word from t");
+  control.setConnectionString(connectionStringFor(folder.file(u"kk.dat")));
+  EXPECT_EQ(control.recordset().recordCount(), 2U);
+  support::makeDatabase(folder.file(u"other.dat"),
+                        "create table t (word text); insert into t values ('x')");
+  control.setConnectionString(connectionStringFor(folder.file(u"other.dat")));
+  EXPECT_TRUE(control.recordset().empty());
+  control.refresh();
+  EXPECT_EQ(control.recordset().field(u"word").text, u"x");
+}
+
+TEST(DataControl, KeepsItsRowsWhenItIsMoved) {
+  const TempFolder folder;
+  support::makeDatabase(folder.file(u"kk.dat"), kSchema);
+  DataControl control = support::opened(folder.file(u"kk.dat"), u"select * from t");
+  const DataControl moved = std::move(control);
+  DataControl back;
+  back = support::opened(folder.file(u"kk.dat"), u"select * from t");
+  back.recordset().moveLast();
+  EXPECT_EQ(back.recordset().field(u"word").text, u"b");
+  EXPECT_EQ(moved.recordSource(), u"select * from t");
+}
+
+}  // namespace
