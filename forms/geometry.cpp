@@ -26,4 +26,10 @@ std::int16_t toInt16(std::int64_t value) {
   return static_cast<std::int16_t>(value);
 }
 
+std::int32_t subtract(std::int32_t a, std::int32_t b) {
+  std::int32_t difference = 0;
+  if (__builtin_sub_overflow(a, b, &difference)) throw std::overflow_error("Overflow");
+  return difference;
+}
+
 }  // namespace forms

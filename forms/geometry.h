@@ -26,4 +26,7 @@ int toTwips(int pixels, int dpi);
 /// outside -32768..32767.
 std::int16_t toInt16(std::int64_t value);
 
+/// `a` - `b` in 32 bits. Throws std::overflow_error with the message "Overflow".
+std::int32_t subtract(std::int32_t a, std::int32_t b);
+
 }  // namespace forms

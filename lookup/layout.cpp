@@ -27,7 +27,8 @@ Layout layOut(Size window, int listWidth) {
   layout.listTop = kTop;
   layout.listHeight = height;
   layout.splitter = {listWidth + kMargin, kTop, kSplitterWidth, height};
-  layout.pane = {listWidth + kMargin + kSplitterWidth, kTop, window.width - listWidth - 200, height};
+  layout.pane = {listWidth + kMargin + kSplitterWidth, kTop, window.width - listWidth - 200,
+                 height};
   return layout;
 }
 

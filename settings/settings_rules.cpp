@@ -1,17 +1,32 @@
 #include "settings/settings_rules.h"
 
-namespace user {
+#include <limits>
 
-std::u16string_view trimBlanks(std::u16string_view text) {
-  const auto first = text.find_first_not_of(u' ');
-  if (first == std::u16string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
-}
+#include "text/trim.h"
+
+namespace user {
 
 std::u16string profileValue(int returned, std::u16string_view buffer,
                             std::u16string_view fallback) {
   const auto trimmed = trimBlanks(buffer);
   return std::u16string(returned == 0 || trimmed.empty() ? fallback : trimmed);
+}
+
+std::optional<std::int16_t> toInteger16(std::u16string_view value) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  std::u16string_view digits = trimBlanks(value);
+  const bool negative = digits.starts_with(u'-');
+  if (negative || digits.starts_with(u'+')) digits.remove_prefix(1);
+  if (digits.empty()) return std::nullopt;
+  int number = 0;
+  for (const char16_t digit : digits) {
+    if (digit < u'0' || digit > u'9') return std::nullopt;
+    number = number * 10 + (digit - u'0');
+    if (number > Limits::max() + 1) return std::nullopt;
+  }
+  if (negative) number = -number;
+  if (number > Limits::max()) return std::nullopt;
+  return static_cast<std::int16_t>(number);
 }
 
 }  // namespace user

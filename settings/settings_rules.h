@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,11 +14,12 @@ inline constexpr std::u16string_view kSettingsSection = u"SystemSetting";
 /// longer value to one less.
 inline constexpr int kProfileBufferLength = 255;
 
-/// `text` without leading and trailing blanks (U+0020 only).
-std::u16string_view trimBlanks(std::u16string_view text);
-
 /// What a profile read yields: `fallback` where the platform reported nothing (`returned` is 0) or
 /// the buffer holds nothing but blanks, else the buffer without its outer blanks.
 std::u16string profileValue(int returned, std::u16string_view buffer, std::u16string_view fallback);
+
+/// Decimal number of `value`, blanks around it allowed. nullopt where it is no whole number or lies
+/// outside the 16-bit signed range.
+std::optional<std::int16_t> toInteger16(std::u16string_view value);
 
 }  // namespace user

@@ -1,0 +1,57 @@
+#include "app/frm_menu.h"
+
+#include "app/frm_top.h"
+#include "app/process.h"
+#include "capture/screen_word.h"
+#include "forms/registry.h"
+#include "lookup/frm_sub.h"
+
+namespace {
+
+forms::FormDesign design() {
+  forms::FormDesign design;
+  design.name = u"frmMenu";
+  design.frame = forms::Frame::borderless;
+  design.neverActive = true;
+  return design;
+}
+
+}  // namespace
+
+frmMenu::frmMenu() : Form(design()) {
+  mnu_file.add(u"多功能查询");
+  mnu_file.add(u"快速查询", [this] { mnu_kscx_Click(); });
+  mnuMouse_ = mnu_file.add(u"鼠标取词", [this] { mnuMouse_Click(); });
+  mnu_file.add(u"-");
+  mnu_file.add(u"字典设置");
+  mnu_file.add(u"-");
+  mnu_file.add(u"帮助", [this] { mnu_help_Click(); });
+  mnu_file.add(u"关于");
+  mnu_file.add(u"访问我们的网站", [this] { mnu_fwwz_Click(); });
+  mnu_file.add(u"-");
+  mnu_file.add(u"退出", [this] { mnu_exit_Click(); });
+  checkMouse(true);
+}
+
+void frmMenu::popUp(const forms::Form& owner, POINT screen) {
+  Form_GotFocus();
+  const forms::PopupMenu::Item* chosen = mnu_file.choose(owner, screen);
+  Form_LostFocus();
+  if (chosen != nullptr && chosen->onClick) chosen->onClick();
+}
+
+void frmMenu::checkMouse(bool checked) { mnu_file.item(mnuMouse_).checked = checked; }
+
+void frmMenu::Form_GotFocus() { ScreenWord::StopCapture(); }
+
+void frmMenu::Form_LostFocus() { ScreenWord::StartCapture(); }
+
+void frmMenu::mnu_kscx_Click() { forms::single<frmSub>().show(); }
+
+void frmMenu::mnuMouse_Click() { forms::single<frmTop>().cmdMouse_Click(); }
+
+void frmMenu::mnu_help_Click() { app::showHelp(); }
+
+void frmMenu::mnu_fwwz_Click() { app::openInBrowser(app::kHomePage); }
+
+void frmMenu::mnu_exit_Click() { app::endProgram(); }

@@ -1,0 +1,173 @@
+#include "app/frm_top.h"
+
+#include "app/frm_menu.h"
+#include "app/process.h"
+#include "app/state.h"
+#include "capture/frm_screen_word.h"
+#include "capture/screen_word.h"
+#include "forms/dpi.h"
+#include "forms/geometry.h"
+#include "forms/message_box.h"
+#include "forms/registry.h"
+#include "lookup/frm_sub.h"
+#include "settings/settings_file.h"
+
+namespace {
+
+constexpr int kDesignHeight = 375;
+
+forms::FormDesign design() {
+  forms::FormDesign design;
+  design.name = u"frmTop";
+  design.caption = u"Lexilo";
+  design.frame = forms::Frame::borderless;
+  design.width = 2325;
+  design.height = kDesignHeight;
+  design.topmost = true;
+  design.closable = false;
+  design.iconResource = IDI_APP;
+  return design;
+}
+
+constexpr std::u16string_view kIndexQuery = u"select word from edictidx order by word";
+
+}  // namespace
+
+frmTop::frmTop() : Form(design()) {
+  cmdMouseYes.setVisible(false);
+  cmdMouseNot.setVisible(false);
+  cmdMain.setToolTip(u"快速查询");
+  cmdSub.setToolTip(u"多功能查询");
+  cmdDictSetting.setToolTip(u"查询设置");
+  cmdMain.onClick = [this] { cmdMain_Click(); };
+  cmdMouse.onClick = [this] { cmdMouse_Click(); };
+  cmdHelp.onClick = [this] { cmdHelp_Click(); };
+  Command1.onClick = [this] { Command1_Click(); };
+  Timer1.onTimer = [this] { Timer1_Timer(); };
+  Image1.onMouseMove = [this](forms::Place) { Image1_MouseMove(); };
+  Image1.onMouseDown = [this](forms::Place) { Image1_MouseDown(); };
+  Image1.onMouseUp = [this](forms::Place) { Image1_MouseUp(); };
+  Image1.onCaptureLost = [this] {
+    if (IsDragging) Image1_MouseUp();
+  };
+}
+
+void frmTop::Form_Load() {
+  if (!app::claimOnlyInstance()) app::endProgram();
+  IdxPending = true;
+  try {
+    start();
+  } catch (...) {
+    forms::showMessage(forms::describe(std::current_exception()), forms::MessageIcon::none,
+                       u"Lexilo");
+  }
+}
+
+void frmTop::start() {
+  cmdMouse.setPicture(cmdMouseNot.picture());
+  placeAtTopRight();
+  user::MainOpen = false;
+  Timer1.setInterval(10);
+  Timer1.setEnabled(true);
+  TopHeight = kDesignHeight;
+  setSize(width(), TopHeight);
+  setForeColor(RGB(0, 0, 255));
+  Get_Windows_Rect();
+  setSize(width(), TopHeight);
+  user::ConnectionString = app::connectionString(app::applicationFolder());
+  Adodc1.setConnectionString(user::ConnectionString);
+  Adodc2.setConnectionString(user::ConnectionString);
+  show();
+  user::BrowserPath = app::browserPath(user::systemDirectory());
+  cmdMouse.setPicture(cmdMouseYes.picture());
+  cmdMouse.setToolTip(u"允许鼠标取词");
+  auto& host = forms::single<frmScreenWord>();
+  host.show();
+  ScreenWord::StartCapture();
+  host.show();
+  host.hide();
+}
+
+void frmTop::placeAtTopRight() {
+  const forms::Monitor monitor = forms::monitorOf(handle());
+  const int screenWidth = forms::toTwips(monitor.bounds.right - monitor.bounds.left, monitor.dpi);
+  setPosition(screenWidth - width() - 1300, height());
+}
+
+void frmTop::Form_Paint() { bringToTop(); }
+
+void frmTop::Form_LostFocus() {
+  // Losing the focus in the first milliseconds must not cost the program its index.
+  if (!IdxPending) Timer1.setEnabled(false);
+  ScreenWord::StartCapture();
+}
+
+void frmTop::cmdMain_Click() { forms::single<frmSub>().show(); }
+
+void frmTop::cmdHelp_Click() { app::showHelp(); }
+
+void frmTop::Command1_Click() {
+  POINT corner{0, forms::toPixels(TopHeight - 30, dpi())};
+  ClientToScreen(handle(), &corner);
+  forms::single<frmMenu>().popUp(*this, corner);
+}
+
+void frmTop::cmdMouse_Click() {
+  if (cmdMouse.picture() == cmdMouseYes.picture()) {
+    showCapture(false);
+    ScreenWord::StopCapture();
+    forms::single<frmMenu>().checkMouse(false);
+  } else {
+    showCapture(true);
+    ScreenWord::StartCapture();
+    forms::single<frmMenu>().checkMouse(true);
+  }
+}
+
+void frmTop::showCapture(bool on) {
+  cmdMouse.setToolTip(on ? u"允许鼠标取词" : u"禁止鼠标取词");
+  cmdMouse.setPicture(on ? cmdMouseYes.picture() : cmdMouseNot.picture());
+}
+
+void frmTop::Image1_MouseMove() {
+  GetCursorPos(&CursorPos);
+  if (!IsDragging) return;
+  MoveWindow(handle(), forms::subtract(CursorPos.x, DragOffsetX),
+             forms::subtract(CursorPos.y, DragOffsetY), WindowRect.right - WindowRect.left,
+             WindowRect.bottom - WindowRect.top, TRUE);
+}
+
+void frmTop::Image1_MouseDown() {
+  Timer1.setEnabled(true);
+  if (IsDragArmed) {
+    DragOffsetX = forms::subtract(CursorPos.x, WindowRect.left);
+    DragOffsetY = forms::subtract(CursorPos.y, WindowRect.top);
+  }
+  IsDragging = true;
+}
+
+void frmTop::Image1_MouseUp() {
+  Get_Windows_Rect();
+  IsDragging = false;
+  Timer1.setEnabled(false);
+}
+
+void frmTop::Get_Windows_Rect() { GetWindowRect(handle(), &WindowRect); }
+
+void frmTop::Timer1_Timer() {
+  IsDragArmed = IsDragging;
+  if (!IdxPending) return;
+  IdxPending = false;
+  Timer1.setEnabled(false);
+  GetIdx();
+}
+
+void frmTop::GetIdx() {
+  RunQuery(Adodc1, kIndexQuery);
+  user::IdxWords = data::readIndexWords(Adodc1);
+}
+
+void frmTop::RunQuery(data::DataControl& control, std::u16string_view sql) {
+  control.setRecordSource(sql);
+  control.refresh();
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "data/headword_lookup.h"
+
+/// What all windows share. Set at start-up; everything runs on the user-interface thread.
+namespace user {
+
+/// Names kk.dat for every data control.
+inline std::u16string ConnectionString;
+
+/// The headword index, loaded some milliseconds after start-up; empty until then.
+inline data::IndexWords IdxWords;
+
+/// The program that opens pages, started with the page as its command line.
+inline std::u16string BrowserPath;
+
+/// Whether the multi-dictionary window is open.
+inline bool MainOpen = false;
+
+}  // namespace user

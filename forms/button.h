@@ -1,0 +1,28 @@
+#pragma once
+
+#include "forms/picture.h"
+#include "forms/widget.h"
+
+namespace forms {
+
+/// A push button with a caption or a picture.
+class Button : public Widget {
+ public:
+  Button(Form& form, const std::u16string& caption, const WidgetBox& box);
+  Button(Form& form, const Picture& picture, const WidgetBox& box);
+
+  void setPicture(const Picture& picture);
+  [[nodiscard]] const Picture& picture() const { return picture_; }
+
+  Event<> onClick;
+
+  void command(WORD code) override;
+  void rescale() override;
+
+ private:
+  void showPicture();
+
+  Picture picture_;
+};
+
+}  // namespace forms

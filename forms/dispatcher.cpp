@@ -1,0 +1,106 @@
+#include "forms/dispatcher.h"
+
+#include "forms/form.h"
+#include "forms/guard.h"
+#include "forms/registry.h"
+#include "forms/system_error.h"
+
+namespace forms {
+namespace {
+
+constexpr wchar_t kClassName[] = L"Lexilo.Dispatcher";
+constexpr UINT kRunPosted = WM_APP;
+
+void dispatch(MSG& message) {
+  Form* form = Form::of(GetAncestor(message.hwnd, GA_ROOT));
+  if (form == nullptr || !IsDialogMessageW(form->handle(), &message)) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  Registry::instance().purge();
+}
+
+}  // namespace
+
+Dispatcher& Dispatcher::instance() {
+  static Dispatcher dispatcher;
+  return dispatcher;
+}
+
+Dispatcher::Dispatcher() {
+  WNDCLASSEXW windowClass{};
+  windowClass.cbSize = sizeof windowClass;
+  windowClass.lpfnWndProc = windowProc;
+  windowClass.hInstance = GetModuleHandleW(nullptr);
+  windowClass.lpszClassName = kClassName;
+  RegisterClassExW(&windowClass);
+  window_ = CreateWindowExW(0, kClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                            windowClass.hInstance, nullptr);
+  if (window_ == nullptr) {
+    throwLastError();
+  }
+}
+
+Dispatcher::~Dispatcher() { DestroyWindow(window_); }
+
+LRESULT CALLBACK Dispatcher::windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == kRunPosted) {
+    instance().runPosted();
+    return 0;
+  }
+  if (message == WM_TIMER) {
+    instance().tick(wParam);
+    return 0;
+  }
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+void Dispatcher::post(std::function<void()> work) {
+  posted_.push_back(std::move(work));
+  PostMessageW(window_, kRunPosted, 0, 0);
+}
+
+void Dispatcher::runPosted() {
+  if (posted_.empty()) return;
+  const auto work = std::move(posted_.front());
+  posted_.pop_front();
+  guard(work);
+}
+
+UINT_PTR Dispatcher::startTimer(UINT milliseconds, std::function<void()> tick) {
+  const UINT_PTR id = ++lastTimer_;
+  timers_.emplace(id, std::move(tick));
+  SetTimer(window_, id, milliseconds, nullptr);
+  return id;
+}
+
+void Dispatcher::stopTimer(UINT_PTR id) {
+  if (timers_.erase(id) > 0) KillTimer(window_, id);
+}
+
+void Dispatcher::tick(UINT_PTR id) {
+  // A tick may still be queued when its timer was stopped, and may stop the timer it came from.
+  const auto found = timers_.find(id);
+  if (found == timers_.end()) return;
+  const auto handler = found->second;
+  guard(handler);
+}
+
+void doEvents() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    dispatch(message);
+  }
+}
+
+int runMessageLoop() {
+  MSG message;
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) dispatch(message);
+  return static_cast<int>(message.wParam);
+}
+
+}  // namespace forms

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <unordered_map>
+
+#include "forms/win32.h"
+
+namespace forms {
+
+/// Runs work from the message loop, modal loops included: posted functions and timer ticks. Lives
+/// on the user-interface thread, behind a message-only window.
+class Dispatcher {
+ public:
+  static Dispatcher& instance();
+
+  Dispatcher(const Dispatcher&) = delete;
+  Dispatcher& operator=(const Dispatcher&) = delete;
+
+  /// Runs `work` guarded, soon, ahead of pending input; in the order posted.
+  void post(std::function<void()> work);
+
+  /// Calls `tick` every `milliseconds` (at least 10: the system's own floor) until stopped. The
+  /// returned number names the timer.
+  UINT_PTR startTimer(UINT milliseconds, std::function<void()> tick);
+  void stopTimer(UINT_PTR id);
+
+ private:
+  Dispatcher();
+  ~Dispatcher();
+  static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void runPosted();
+  void tick(UINT_PTR id);
+
+  HWND window_ = nullptr;
+  std::deque<std::function<void()>> posted_;
+  std::unordered_map<UINT_PTR, std::function<void()>> timers_;
+  UINT_PTR lastTimer_ = 0;
+};
+
+/// Lets every message that waits be handled, and returns.
+void doEvents();
+
+/// The message loop; ends with WM_QUIT and returns its code.
+int runMessageLoop();
+
+}  // namespace forms

@@ -1,0 +1,87 @@
+#include "forms/focus.h"
+
+#include "forms/dispatcher.h"
+#include "forms/form.h"
+#include "forms/widget.h"
+
+namespace forms {
+namespace {
+
+/// Where the focus rests as far as the windows have been told.
+struct Account {
+  Form* form = nullptr;
+  Widget* widget = nullptr;
+  int holds = 0;
+  bool settling = false;
+  bool posted = false;
+};
+
+Account& account() {
+  static Account instance;
+  return instance;
+}
+
+/// Brings the account one event nearer to what is; false when they agree.
+bool settleOneStep(Account& known) {
+  Form* form = Form::of(GetActiveWindow());
+  Widget* widget = form == nullptr ? nullptr : Widget::of(GetFocus());
+  if (widget != nullptr && &widget->form() != form) widget = nullptr;
+
+  if (known.widget != nullptr && known.widget != widget) {
+    std::exchange(known.widget, nullptr)->onLostFocus.raise();
+    return true;
+  }
+  if (known.form != nullptr && known.form != form) {
+    std::exchange(known.form, nullptr)->raiseLostFocus();
+    return true;
+  }
+  if (form != known.form) {
+    known.form = form;
+    form->raiseActivate();
+    return true;
+  }
+  if (widget != known.widget) {
+    known.widget = widget;
+    widget->onGotFocus.raise();
+    return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void focusMayHaveMoved() {
+  Account& known = account();
+  if (known.posted) return;
+  known.posted = true;
+  Dispatcher::instance().post([] {
+    account().posted = false;
+    settleFocus();
+  });
+}
+
+void settleFocus() {
+  Account& known = account();
+  if (known.holds > 0 || known.settling) return;
+  known.settling = true;
+  // A handler may move the focus again; two that chase it between them must not hang the program.
+  constexpr int kMostEvents = 64;
+  for (int events = 0; events < kMostEvents && known.holds == 0 && settleOneStep(known); ++events) {
+  }
+  known.settling = false;
+}
+
+void forgetFocus(const Form* form) {
+  Account& known = account();
+  if (known.widget != nullptr && &known.widget->form() == form) known.widget = nullptr;
+  if (known.form == form) known.form = nullptr;
+}
+
+FocusHeld::FocusHeld() { ++account().holds; }
+
+FocusHeld::~FocusHeld() {
+  --account().holds;
+  focusMayHaveMoved();
+}
+
+}  // namespace forms

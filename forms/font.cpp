@@ -1,0 +1,38 @@
+#include "forms/font.h"
+#include "forms/system_error.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace forms {
+namespace {
+
+LOGFONTW messageFont(int dpi) {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0,
+                             static_cast<UINT>(dpi));
+  return metrics.lfMessageFont;
+}
+
+LOGFONTW namedFont(const Font& font, int dpi) {
+  constexpr double kPointsPerInch = 72;
+  LOGFONTW description{};
+  description.lfHeight = -static_cast<LONG>(std::lround(font.points * dpi / kPointsPerInch));
+  description.lfWeight = FW_NORMAL;
+  description.lfCharSet = DEFAULT_CHARSET;
+  const auto length = std::min(font.face.size(), std::size_t{LF_FACESIZE - 1});
+  std::copy_n(font.face.begin(), length, description.lfFaceName);
+  return description;
+}
+
+}  // namespace
+
+OwnedFont makeFont(const Font& font, int dpi) {
+  const LOGFONTW description = font.face.empty() ? messageFont(dpi) : namedFont(font, dpi);
+  OwnedFont made(CreateFontIndirectW(&description));
+  if (!made) throwLastError();
+  return made;
+}
+
+}  // namespace forms

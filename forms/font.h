@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "forms/handles.h"
+
+namespace forms {
+
+/// A face and a size, whatever the resolution. An empty face stands for the system's own font for
+/// messages, at its own size.
+struct Font {
+  std::u16string face;
+  double points = 9;
+};
+
+/// The system's font of `font` for `dpi`. Throws std::system_error.
+OwnedFont makeFont(const Font& font, int dpi);
+
+}  // namespace forms

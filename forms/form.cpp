@@ -1,0 +1,203 @@
+#include "forms/form.h"
+
+#include <algorithm>
+
+#include "forms/dpi.h"
+#include "forms/focus.h"
+#include "forms/geometry.h"
+#include "forms/registry.h"
+#include "forms/system_error.h"
+
+namespace forms {
+namespace {
+
+DWORD styleOf(const FormDesign& design) {
+  switch (design.frame) {
+    case Frame::sizable:
+      return WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
+    case Frame::fixed:
+      return WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
+    case Frame::borderless:
+      break;
+  }
+  return WS_POPUP | WS_CLIPCHILDREN;
+}
+
+DWORD exStyleOf(const FormDesign& design) {
+  DWORD style = design.topmost ? WS_EX_TOPMOST : 0;
+  if (design.neverActive) style |= WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW;
+  if (!design.taskbarButton) style |= WS_EX_TOOLWINDOW;
+  return style;
+}
+
+OwnedIcon loadIcon(int resource, int systemMetric, int dpi) {
+  const int size = GetSystemMetricsForDpi(systemMetric, static_cast<UINT>(dpi));
+  return OwnedIcon(static_cast<HICON>(LoadImageW(
+      GetModuleHandleW(nullptr), MAKEINTRESOURCEW(resource), IMAGE_ICON, size, size, 0)));
+}
+
+}  // namespace
+
+Form::Form(const FormDesign& design) : design_(design) {
+  createWindow();
+  createToolTip();
+  setSize(design_.width, design_.height);
+}
+
+Form::~Form() {
+  forgetFocus(this);
+  if (handle_ != nullptr) DestroyWindow(std::exchange(handle_, nullptr));
+}
+
+void Form::createWindow() {
+  const std::u16string className = u"Lexilo." + design_.name;
+  WNDCLASSEXW windowClass{};
+  windowClass.cbSize = sizeof windowClass;
+  windowClass.lpfnWndProc = windowProc;
+  windowClass.hInstance = GetModuleHandleW(nullptr);
+  windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  windowClass.hbrBackground = GetSysColorBrush(design_.background);
+  windowClass.lpszClassName = wide(className);
+  RegisterClassExW(&windowClass);
+  CreateWindowExW(exStyleOf(design_), wide(className), wide(design_.caption), styleOf(design_),
+                  CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr, windowClass.hInstance,
+                  this);
+  if (handle_ == nullptr) {
+    throwLastError();
+  }
+  dpi_ = static_cast<int>(GetDpiForWindow(handle_));
+  if (design_.iconResource == 0) return;
+  bigIcon_ = loadIcon(design_.iconResource, SM_CXICON, dpi_);
+  smallIcon_ = loadIcon(design_.iconResource, SM_CXSMICON, dpi_);
+  SendMessageW(handle_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(bigIcon_.get()));
+  SendMessageW(handle_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(smallIcon_.get()));
+}
+
+void Form::createToolTip() {
+  toolTip_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
+                             WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
+                             CW_USEDEFAULT, CW_USEDEFAULT, handle_, nullptr,
+                             GetModuleHandleW(nullptr), nullptr);
+}
+
+Form* Form::of(HWND window) {
+  if (window == nullptr || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId() ||
+      GetClassLongPtrW(window, GCLP_WNDPROC) != reinterpret_cast<ULONG_PTR>(&windowProc)) {
+    return nullptr;
+  }
+  return reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+}
+
+void Form::load() {
+  guard([this] { Form_Load(); });
+  loaded_ = true;
+}
+
+void Form::show(Form* owner) {
+  if (owner != nullptr) {
+    SetWindowLongPtrW(handle_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner->handle()));
+  }
+  if (!std::exchange(shown_, true)) resized();
+  if (design_.neverActive) {
+    ShowWindow(handle_, SW_SHOWNOACTIVATE);
+    return;
+  }
+  ShowWindow(handle_, isMinimised() ? SW_RESTORE : SW_SHOW);
+  SetForegroundWindow(handle_);
+  settleFocus();
+}
+
+void Form::hide() { ShowWindow(handle_, SW_HIDE); }
+
+void Form::unload() {
+  if (unloading_) return;
+  for (Form* owned : Registry::instance().ownedBy(*this)) owned->unload();
+  unloading_ = true;
+  guard([this] { Form_Unload(); });
+  forgetFocus(this);
+  DestroyWindow(handle_);
+  Registry::instance().retire(*this);
+}
+
+int Form::frameWidth() const { return design_.frame == Frame::borderless ? 0 : kFrameWidth; }
+
+int Form::frameHeight() const { return design_.frame == Frame::borderless ? 0 : kFrameHeight; }
+
+SIZE Form::outerPixels(int width, int height) const {
+  const SIZE frame = frameOf(styleOf(design_), exStyleOf(design_), dpi_);
+  return {toPixels(std::max(width - frameWidth(), 0), dpi_) + frame.cx,
+          toPixels(std::max(height - frameHeight(), 0), dpi_) + frame.cy};
+}
+
+void Form::setSize(int width, int height) {
+  width_ = std::clamp(width, 0, kMaxSize);
+  height_ = std::clamp(height, 0, kMaxSize);
+  const SIZE outer = outerPixels(width_, height_);
+  SetWindowPos(handle_, nullptr, 0, 0, outer.cx, outer.cy,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+int Form::left() const {
+  RECT rect{};
+  GetWindowRect(handle_, &rect);
+  return toTwips(rect.left, dpi_);
+}
+
+int Form::top() const {
+  RECT rect{};
+  GetWindowRect(handle_, &rect);
+  return toTwips(rect.top, dpi_);
+}
+
+void Form::setPosition(int left, int top) {
+  SetWindowPos(handle_, nullptr, toPixels(left, dpi_), toPixels(top, dpi_), 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Form::setMousePointer(const wchar_t* systemCursor) {
+  mousePointer_ = systemCursor == nullptr ? nullptr : LoadCursorW(nullptr, systemCursor);
+}
+
+void Form::bringToTop() {
+  SetWindowPos(handle_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+}
+
+Widget* Form::widgetAt(POINT screen, const Widget* except) const {
+  for (Widget* widget : widgets_) {
+    RECT rect{};
+    GetWindowRect(widget->handle(), &rect);
+    if (widget != except && IsWindowVisible(widget->handle()) && PtInRect(&rect, screen)) {
+      return widget;
+    }
+  }
+  return nullptr;
+}
+
+void Form::addWidget(Widget& widget) { widgets_.push_back(&widget); }
+
+void Form::removeWidget(Widget& widget) { std::erase(widgets_, &widget); }
+
+void Form::setToolTip(Widget& widget, const std::u16string& text) {
+  TOOLINFOW tool{};
+  tool.cbSize = sizeof tool;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = handle_;
+  tool.uId = reinterpret_cast<UINT_PTR>(widget.handle());
+  SendMessageW(toolTip_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  tool.lpszText = const_cast<wchar_t*>(wide(text));
+  if (!text.empty()) SendMessageW(toolTip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void Form::raiseActivate() noexcept {
+  guard([this] { Form_Activate(); });
+}
+
+void Form::raisePaint() noexcept {
+  if (loaded_) guard([this] { Form_Paint(); });
+}
+
+void Form::raiseLostFocus() noexcept {
+  guard([this] { Form_LostFocus(); });
+}
+
+}  // namespace forms

@@ -1,0 +1,128 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "forms/guard.h"
+#include "forms/widget.h"
+#include "forms/win32.h"
+
+namespace forms {
+
+enum class Frame { borderless, sizable, fixed };
+
+/// What a form is made of. Sizes in twips, as Width and Height count them.
+struct FormDesign {
+  std::u16string name;  ///< "frmSub"; its window class is "Lexilo.frmSub"
+  std::u16string caption;
+  Frame frame = Frame::sizable;
+  int width = 0;
+  int height = 0;
+  bool topmost = false;      ///< raising it never takes the focus
+  bool neverActive = false;  ///< no focus, no taskbar button, no place in Alt+Tab
+  bool taskbarButton = true;
+  bool closable = true;  ///< reacts to Alt+F4, the close box and WM_CLOSE
+  int iconResource = 0;
+  int background = COLOR_BTNFACE;  ///< a system colour
+};
+
+/// A top-level window. A form exists once: forms::single<F>() loads it on the first reference,
+/// unload() ends it, and the next reference loads it anew.
+class Form {
+ public:
+  explicit Form(const FormDesign& design);
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  /// The form behind a top-level window; nullptr for windows that are none of ours.
+  static Form* of(HWND window);
+
+  [[nodiscard]] HWND handle() const { return handle_; }
+  [[nodiscard]] int dpi() const { return dpi_; }
+
+  /// Runs Form_Load. An error that it lets out is shown; the form stays as far as it got.
+  void load();
+  /// Shows the form and gives it the focus; one that is open comes to the front, restored.
+  void show(Form* owner = nullptr);
+  void hide();
+  /// Unloads the forms it owns, then runs Form_Unload, then ends the window.
+  void unload();
+  [[nodiscard]] bool isUnloading() const { return unloading_; }
+
+  /// Outer size in twips: a caption window's is its client size plus 120 x 405.
+  [[nodiscard]] int width() const { return width_; }
+  [[nodiscard]] int height() const { return height_; }
+  void setSize(int width, int height);
+  [[nodiscard]] int left() const;
+  [[nodiscard]] int top() const;
+  void setPosition(int left, int top);
+  [[nodiscard]] bool isMinimised() const { return IsIconic(handle_) != FALSE; }
+
+  /// The pointer's shape over the whole form; nullptr is each widget's own.
+  void setMousePointer(const wchar_t* systemCursor);
+
+  /// The colour that the form's own drawings take.
+  void setForeColor(COLORREF color) { foreColor_ = color; }
+  [[nodiscard]] COLORREF foreColor() const { return foreColor_; }
+
+  /// Puts the form above all other windows; moves, sizes and activates nothing.
+  void bringToTop();
+
+  /// The widget under a screen point, or nullptr; `except` is looked through.
+  [[nodiscard]] Widget* widgetAt(POINT screen, const Widget* except = nullptr) const;
+
+  void addWidget(Widget& widget);
+  void removeWidget(Widget& widget);
+  void setToolTip(Widget& widget, const std::u16string& text);
+
+  void raiseActivate() noexcept;
+  void raiseLostFocus() noexcept;
+  /// Part of the form was painted; its own pictures count as the form.
+  void raisePaint() noexcept;
+
+  Event<Place> onMouseMove;
+
+ protected:
+  virtual void Form_Load() {}
+  virtual void Form_Resize() {}
+  virtual void Form_Activate() {}
+  virtual void Form_LostFocus() {}
+  virtual void Form_Paint() {}
+  virtual void Form_Unload() {}
+  /// The form's own window procedure; override to see further messages.
+  virtual LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+ private:
+  static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void createWindow();
+  void createToolTip();
+  void takeClientSize();
+  void resized();
+  void paint();
+  void giveFocusBack();
+  void rescale(int dpi, const RECT& suggested);
+  void limitTracking(MINMAXINFO& limits) const;
+  void adjustPlacement(WINDOWPOS& position) const;
+  [[nodiscard]] SIZE outerPixels(int width, int height) const;
+  [[nodiscard]] int frameWidth() const;
+  [[nodiscard]] int frameHeight() const;
+
+  FormDesign design_;
+  HWND handle_ = nullptr;
+  HWND toolTip_ = nullptr;
+  HWND lastFocus_ = nullptr;
+  OwnedIcon bigIcon_;
+  OwnedIcon smallIcon_;
+  HCURSOR mousePointer_ = nullptr;
+  COLORREF foreColor_ = 0;
+  int dpi_ = 96;
+  int width_ = 0;
+  int height_ = 0;
+  bool loaded_ = false;
+  bool shown_ = false;
+  bool unloading_ = false;
+  std::vector<Widget*> widgets_;
+};
+
+}  // namespace forms

@@ -1,0 +1,159 @@
+
+#include <algorithm>
+
+#include "forms/dpi.h"
+#include "forms/focus.h"
+#include "forms/form.h"
+#include "forms/geometry.h"
+#include "forms/registry.h"
+
+namespace forms {
+
+LRESULT CALLBACK Form::windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    auto* form = static_cast<Form*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+    form->handle_ = window;
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
+  }
+  auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (form == nullptr || form->handle_ == nullptr) {
+    return DefWindowProcW(window, message, wParam, lParam);
+  }
+  if (message == WM_NCDESTROY) {
+    form->handle_ = nullptr;
+    return DefWindowProcW(window, message, wParam, lParam);
+  }
+  LRESULT result = 0;
+  guard([&] { result = form->handleMessage(message, wParam, lParam); });
+  return result;
+}
+
+LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_SIZE:
+      if (wParam != SIZE_MINIMIZED && shown_) resized();
+      return 0;
+    case WM_PAINT:
+      paint();
+      return 0;
+    case WM_ACTIVATE:
+      if (LOWORD(wParam) == WA_INACTIVE) {
+        if (HWND focus = GetFocus(); IsChild(handle_, focus)) lastFocus_ = focus;
+      } else if (HIWORD(wParam) == 0) {
+        giveFocusBack();
+      }
+      focusMayHaveMoved();
+      return 0;
+    case WM_SETFOCUS:
+      giveFocusBack();
+      focusMayHaveMoved();
+      return 0;
+    case WM_KILLFOCUS:
+      focusMayHaveMoved();
+      return 0;
+    case WM_MOUSEACTIVATE:
+      if (design_.neverActive) return MA_NOACTIVATE;
+      break;
+    case WM_WINDOWPOSCHANGING:
+      adjustPlacement(*reinterpret_cast<WINDOWPOS*>(lParam));
+      break;
+    case WM_GETMINMAXINFO:
+      limitTracking(*reinterpret_cast<MINMAXINFO*>(lParam));
+      return 0;
+    case WM_DPICHANGED:
+      rescale(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+      return 0;
+    case WM_SETCURSOR:
+      if (mousePointer_ != nullptr && LOWORD(lParam) == HTCLIENT) {
+        SetCursor(mousePointer_);
+        return TRUE;
+      }
+      // A control asks its form first; the shape of its own is its own affair.
+      if (reinterpret_cast<HWND>(wParam) != handle_) return FALSE;
+      break;
+    case WM_MOUSEMOVE:
+      onMouseMove.raise({toTwips(GET_X_LPARAM(lParam), dpi_), toTwips(GET_Y_LPARAM(lParam), dpi_)});
+      return 0;
+    case WM_COMMAND:
+      if (Widget* widget = Widget::of(reinterpret_cast<HWND>(lParam))) {
+        settleFocus();
+        widget->command(HIWORD(wParam));
+      }
+      return 0;
+    case WM_NOTIFY: {
+      const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
+      Widget* widget = Widget::of(header.hwndFrom);
+      return widget == nullptr ? 0 : widget->notify(header);
+    }
+    case WM_SYSCOMMAND:
+      if ((wParam & 0xFFF0) == SC_CLOSE && !design_.closable) return 0;
+      break;
+    case WM_CLOSE:
+      if (design_.closable) unload();
+      return 0;
+    case WM_ENDSESSION:
+      if (wParam != FALSE) unload();
+      return 0;
+    default:
+      break;
+  }
+  return DefWindowProcW(handle_, message, wParam, lParam);
+}
+
+void Form::paint() {
+  PAINTSTRUCT paint;
+  BeginPaint(handle_, &paint);
+  EndPaint(handle_, &paint);
+  raisePaint();
+}
+
+void Form::resized() {
+  if (isMinimised()) return;
+  takeClientSize();
+  guard([this] { Form_Resize(); });
+}
+
+void Form::takeClientSize() {
+  RECT client{};
+  GetClientRect(handle_, &client);
+  // A size that was set in twips stays as it was set where it gave just these pixels.
+  const auto take = [&](int pixels, int frame, int& twips) {
+    if (toPixels(std::max(twips - frame, 0), dpi_) != pixels) {
+      twips = std::min(toTwips(pixels, dpi_) + frame, kMaxSize);
+    }
+  };
+  take(client.right, frameWidth(), width_);
+  take(client.bottom, frameHeight(), height_);
+}
+
+void Form::giveFocusBack() {
+  if (isMinimised()) return;
+  const bool usable =
+      IsChild(handle_, lastFocus_) && IsWindowVisible(lastFocus_) && IsWindowEnabled(lastFocus_);
+  HWND target = usable ? lastFocus_ : GetNextDlgTabItem(handle_, nullptr, FALSE);
+  if (target != nullptr) SetFocus(target);
+}
+
+void Form::adjustPlacement(WINDOWPOS& position) const {
+  const bool raisedAboveAll =
+      (position.flags & SWP_NOZORDER) == 0 && position.hwndInsertAfter == HWND_TOPMOST;
+  if (design_.neverActive || (design_.topmost && raisedAboveAll)) position.flags |= SWP_NOACTIVATE;
+}
+
+void Form::limitTracking(MINMAXINFO& limits) const {
+  if (design_.frame != Frame::sizable) return;
+  const SIZE largest = outerPixels(kMaxSize, kMaxSize);
+  limits.ptMaxTrackSize = {largest.cx, largest.cy};
+  limits.ptMaxSize = {std::min(limits.ptMaxSize.x, largest.cx),
+                      std::min(limits.ptMaxSize.y, largest.cy)};
+}
+
+void Form::rescale(int dpi, const RECT& suggested) {
+  dpi_ = dpi;
+  for (Widget* widget : widgets_) widget->rescale();
+  const SIZE outer = outerPixels(width_, height_);
+  SetWindowPos(handle_, nullptr, suggested.left, suggested.top, outer.cx, outer.cy,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace forms

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <type_traits>
+#include <utility>
+
+#include "forms/win32.h"
+
+namespace forms {
+
+/// Owns one system handle; `Close` is the call that gives it back.
+template <class Handle, auto Close>
+class Owned {
+ public:
+  Owned() = default;
+  explicit Owned(Handle handle) : handle_(handle) {}
+  Owned(Owned&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
+  Owned& operator=(Owned&& other) noexcept {
+    if (this != &other) {
+      reset();
+      handle_ = std::exchange(other.handle_, nullptr);
+    }
+    return *this;
+  }
+  ~Owned() { reset(); }
+
+  [[nodiscard]] Handle get() const { return handle_; }
+  explicit operator bool() const { return handle_ != nullptr; }
+  void reset() {
+    if (handle_ != nullptr) Close(std::exchange(handle_, nullptr));
+  }
+
+ private:
+  Handle handle_ = nullptr;
+};
+
+inline void closeFont(HFONT font) { DeleteObject(font); }
+inline void closeIcon(HICON icon) { DestroyIcon(icon); }
+inline void closeMenu(HMENU menu) { DestroyMenu(menu); }
+inline void closeKernelObject(HANDLE object) { CloseHandle(object); }
+
+using OwnedFont = Owned<HFONT, closeFont>;
+using OwnedIcon = Owned<HICON, closeIcon>;
+using OwnedMenu = Owned<HMENU, closeMenu>;
+using OwnedKernelObject = Owned<HANDLE, closeKernelObject>;
+
+}  // namespace forms

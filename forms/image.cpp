@@ -1,0 +1,101 @@
+#include "forms/image.h"
+
+#include "forms/form.h"
+#include "forms/geometry.h"
+
+namespace forms {
+namespace {
+
+POINT screenPoint(HWND window, LPARAM lParam) {
+  POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  ClientToScreen(window, &point);
+  return point;
+}
+
+/// Columns of dots, as the handle of a tool bar has.
+void drawGrip(HDC dc, const RECT& client, COLORREF color, int dpi) {
+  const int step = std::max(toPixels(45, dpi), 3);
+  const int dot = std::max(toPixels(15, dpi), 1);
+  for (int y = step; y + step < client.bottom; y += step) {
+    for (int x = step; x + dot < client.right; x += step) {
+      const RECT spot{x, y, x + dot, y + dot};
+      SetDCBrushColor(dc, color);
+      FillRect(dc, &spot, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    }
+  }
+}
+
+}  // namespace
+
+Image::Image(Form& form, Look look, const WidgetBox& box)
+    : Widget(form, {L"STATIC", SS_NOTIFY | WS_CLIPSIBLINGS, 0}, box), look_(look) {}
+
+LRESULT Image::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_PAINT:
+      paint();
+      return 0;
+    case WM_LBUTTONDOWN:
+      SetCapture(handle());
+      break;
+    case WM_MOUSEMOVE:
+      if (dragged_) follow(screenPoint(handle(), lParam));
+      break;
+    case WM_LBUTTONUP: {
+      const POINT screen = screenPoint(handle(), lParam);
+      const LRESULT result = Widget::handleMessage(message, wParam, lParam);
+      if (dragged_) drop(screen);
+      if (GetCapture() == handle()) ReleaseCapture();
+      return result;
+    }
+    case WM_CAPTURECHANGED:
+      cancelDrag();
+      onCaptureLost.raise();
+      break;
+    default:
+      break;
+  }
+  return Widget::handleMessage(message, wParam, lParam);
+}
+
+void Image::paint() const {
+  PAINTSTRUCT paint;
+  HDC dc = BeginPaint(handle(), &paint);
+  RECT client{};
+  GetClientRect(handle(), &client);
+  FillRect(dc, &client, GetSysColorBrush(dragged_ ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
+  if (look_ == Look::grip) drawGrip(dc, client, form().foreColor(), form().dpi());
+  EndPaint(handle(), &paint);
+  form().raisePaint();
+}
+
+void Image::beginDrag() {
+  dragged_ = true;
+  SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void Image::cancelDrag() {
+  if (!std::exchange(dragged_, false)) return;
+  InvalidateRect(handle(), nullptr, FALSE);
+  onDragEnded.raise();
+}
+
+void Image::follow(POINT screen) {
+  ScreenToClient(form().handle(), &screen);
+  SetWindowPos(handle(), nullptr, screen.x, toPixels(top(), form().dpi()), 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Image::drop(POINT screen) {
+  Widget* target = form().widgetAt(screen, this);
+  if (target != nullptr) {
+    RECT rect{};
+    GetWindowRect(target->handle(), &rect);
+    target->onDragDrop.raise(*this, {toTwips(screen.x - rect.left, form().dpi()),
+                                     toTwips(screen.y - rect.top, form().dpi())});
+  }
+  cancelDrag();
+}
+
+}  // namespace forms

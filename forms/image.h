@@ -1,0 +1,37 @@
+#pragma once
+
+#include "forms/widget.h"
+
+namespace forms {
+
+/// A plain surface that answers the mouse: a handle to drag a window by, or a splitter.
+class Image : public Widget {
+ public:
+  enum class Look { grip, line };
+  Image(Form& form, Look look, const WidgetBox& box);
+
+  /// Starts a drag of this widget, which follows the pointer from left to right. Releasing the
+  /// button drops it on the widget below the pointer, whose onDragDrop hears of it.
+  void beginDrag();
+  /// Ends a drag without a drop.
+  void cancelDrag();
+  [[nodiscard]] bool isDragged() const { return dragged_; }
+
+  /// Raised when a drag has ended, with or without a drop; put the widget back in place here.
+  Event<> onDragEnded;
+  /// The mouse is no longer this widget's: the button came up, or another window took it.
+  Event<> onCaptureLost;
+
+ protected:
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  void paint() const;
+  void follow(POINT screen);
+  void drop(POINT screen);
+
+  Look look_;
+  bool dragged_ = false;
+};
+
+}  // namespace forms

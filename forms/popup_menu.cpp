@@ -1,0 +1,30 @@
+#include "forms/popup_menu.h"
+
+namespace forms {
+
+std::size_t PopupMenu::add(const std::u16string& caption, std::function<void()> onClick) {
+  items_.push_back({caption, std::move(onClick)});
+  return items_.size() - 1;
+}
+
+const PopupMenu::Item* PopupMenu::choose(const Form& owner, POINT screen) const {
+  const OwnedMenu menu(CreatePopupMenu());
+  for (std::size_t place = 0; place < items_.size(); ++place) {
+    const Item& item = items_[place];
+    const bool separator = item.caption == u"-";
+    const UINT flags = (separator ? MF_SEPARATOR : MF_STRING) |
+                       (item.enabled ? MF_ENABLED : MF_GRAYED) |
+                       (item.checked ? MF_CHECKED : MF_UNCHECKED);
+    AppendMenuW(menu.get(), flags, place + 1, wide(item.caption));
+  }
+  // Without the foreground a click elsewhere would not close the menu; the empty message lets the
+  // task switch happen that TrackPopupMenu would otherwise swallow (both as Windows documents).
+  SetForegroundWindow(owner.handle());
+  const auto chosen = static_cast<std::size_t>(
+      TrackPopupMenuEx(menu.get(), TPM_RETURNCMD | TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON,
+                       screen.x, screen.y, owner.handle(), nullptr));
+  PostMessageW(owner.handle(), WM_NULL, 0, 0);
+  return chosen == 0 ? nullptr : &items_[chosen - 1];
+}
+
+}  // namespace forms

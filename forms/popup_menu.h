@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/form.h"
+#include "forms/handles.h"
+
+namespace forms {
+
+/// A menu that drops down over a form. Items are described once; their states may change.
+class PopupMenu {
+ public:
+  /// One line: a separator where the caption is "-".
+  struct Item {
+    std::u16string caption;
+    std::function<void()> onClick;
+    bool enabled = true;
+    bool checked = false;
+  };
+
+  /// Adds an item at the end and returns its place, from 0.
+  std::size_t add(const std::u16string& caption, std::function<void()> onClick = {});
+  Item& item(std::size_t place) { return items_.at(place); }
+  [[nodiscard]] const Item& item(std::size_t place) const { return items_.at(place); }
+  [[nodiscard]] std::size_t count() const { return items_.size(); }
+
+  /// Shows the menu with its top left corner at a screen point and waits until the user has chosen
+  /// or left it. Returns the chosen item, or nullptr; its handler has not run yet.
+  [[nodiscard]] const Item* choose(const Form& owner, POINT screen) const;
+
+ private:
+  std::vector<Item> items_;
+};
+
+}  // namespace forms

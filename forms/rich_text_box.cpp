@@ -1,0 +1,92 @@
+#include "forms/rich_text_box.h"
+
+#include "forms/system_error.h"
+#include "forms/text_positions.h"
+#include "forms/window_text.h"
+
+namespace forms {
+namespace {
+
+/// The control's library, from the system directory only; it stays loaded.
+const wchar_t* richEditClass() {
+  static const HMODULE library =
+      LoadLibraryExW(L"msftedit.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  if (library == nullptr) {
+    throwLastError();
+  }
+  return MSFTEDIT_CLASS;
+}
+
+}  // namespace
+
+RichTextBox::RichTextBox(Form& form, const WidgetBox& box)
+    : Widget(form,
+             {richEditClass(),
+              ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_NOHIDESEL | WS_VSCROLL | WS_TABSTOP,
+              WS_EX_CLIENTEDGE},
+             box) {
+  send(EM_SETUNDOLIMIT, 0);
+  send(EM_SETBKGNDCOLOR, TRUE);
+}
+
+void RichTextBox::setText(const std::u16string& text) {
+  text_ = text;
+  SetWindowTextW(handle(), wide(text));
+}
+
+std::u16string RichTextBox::text() const { return windowText(handle()); }
+
+void RichTextBox::select(std::size_t start, std::size_t length) {
+  CHARRANGE range{};
+  range.cpMin = static_cast<LONG>(controlPosition(text_, start));
+  range.cpMax = static_cast<LONG>(controlPosition(text_, start + length));
+  send(EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
+}
+
+std::size_t RichTextBox::selStart() const {
+  CHARRANGE range{};
+  send(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
+  return textPosition(text_, static_cast<std::size_t>(range.cpMin));
+}
+
+std::size_t RichTextBox::selLength() const {
+  CHARRANGE range{};
+  send(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
+  return textPosition(text_, static_cast<std::size_t>(range.cpMax)) - selStart();
+}
+
+std::u16string RichTextBox::selText() const { return text_.substr(selStart(), selLength()); }
+
+void RichTextBox::setSelColor(COLORREF color) {
+  CHARFORMATW format{};
+  format.cbSize = sizeof format;
+  format.dwMask = CFM_COLOR;
+  format.crTextColor = color;
+  send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+}
+
+LRESULT RichTextBox::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_GETDLGCODE:
+      // The pane is for reading: Tab leaves it, as it leaves every other widget.
+      return Widget::handleMessage(message, wParam, lParam) &
+             ~static_cast<LRESULT>(DLGC_WANTTAB | DLGC_WANTALLKEYS);
+    case WM_CONTEXTMENU:
+      // From the keyboard; the mouse's right button has its own event.
+      if (lParam == -1) onRightMouseUp.raise({});
+      return 0;
+    default:
+      return Widget::handleMessage(message, wParam, lParam);
+  }
+}
+
+RichTextBox::RepaintHeld::RepaintHeld(const RichTextBox& box) : window_(box.handle()) {
+  SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
+}
+
+RichTextBox::RepaintHeld::~RepaintHeld() {
+  SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
+  InvalidateRect(window_, nullptr, TRUE);
+}
+
+}  // namespace forms

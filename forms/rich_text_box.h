@@ -1,0 +1,43 @@
+#pragma once
+
+#include "forms/widget.h"
+
+namespace forms {
+
+/// A read-only pane of coloured text. Positions are those of the text as it was set, from 0, where
+/// CR LF counts two.
+class RichTextBox : public Widget {
+ public:
+  RichTextBox(Form& form, const WidgetBox& box);
+
+  /// Replaces the text; all of it takes the default colour, nothing is selected.
+  void setText(const std::u16string& text);
+  /// The text as the control holds it, with CR LF line ends.
+  [[nodiscard]] std::u16string text() const;
+
+  void select(std::size_t start, std::size_t length);
+  [[nodiscard]] std::size_t selStart() const;
+  [[nodiscard]] std::size_t selLength() const;
+  [[nodiscard]] std::u16string selText() const;
+  void setSelColor(COLORREF color);
+
+  /// While one lives, the pane does not repaint; then once.
+  class RepaintHeld {
+   public:
+    explicit RepaintHeld(const RichTextBox& box);
+    ~RepaintHeld();
+    RepaintHeld(const RepaintHeld&) = delete;
+    RepaintHeld& operator=(const RepaintHeld&) = delete;
+
+   private:
+    HWND window_;
+  };
+
+ protected:
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  std::u16string text_;
+};
+
+}  // namespace forms

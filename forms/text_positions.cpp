@@ -1,0 +1,32 @@
+#include "forms/text_positions.h"
+
+#include <algorithm>
+
+namespace forms {
+namespace {
+
+bool isLineEnd(std::u16string_view text, std::size_t at) {
+  return at + 1 < text.size() && text[at] == u'\r' && text[at + 1] == u'\n';
+}
+
+}  // namespace
+
+std::size_t controlPosition(std::u16string_view text, std::size_t index) {
+  index = std::min(index, text.size());
+  std::size_t pairs = 0;
+  for (std::size_t at = 0; at < index; ++at) {
+    if (!isLineEnd(text, at)) continue;
+    if (at + 1 == index) return at - pairs;
+    ++pairs;
+    ++at;
+  }
+  return index - pairs;
+}
+
+std::size_t textPosition(std::u16string_view text, std::size_t position) {
+  std::size_t at = 0;
+  for (; position > 0 && at < text.size(); --position) at += isLineEnd(text, at) ? 2 : 1;
+  return at;
+}
+
+}  // namespace forms

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "forms/guard.h"
+#include "forms/win32.h"
+
+namespace forms {
+
+class Form;
+
+/// Periodic event of a form, until the form unloads. Times in ms.
+class Timer {
+ public:
+  explicit Timer(Form& form, int interval = 0, bool enabled = false);
+  ~Timer();
+  Timer(const Timer&) = delete;
+  Timer& operator=(const Timer&) = delete;
+
+  /// 0 never ticks. A new interval starts a running timer over.
+  void setInterval(int milliseconds);
+  [[nodiscard]] int interval() const { return interval_; }
+
+  /// Enabling an enabled timer does not start it over.
+  void setEnabled(bool enabled);
+  [[nodiscard]] bool enabled() const { return enabled_; }
+
+  Event<> onTimer;
+
+ private:
+  void start();
+  void stop();
+
+  Form& form_;
+  int interval_;
+  bool enabled_ = false;
+  UINT_PTR id_ = 0;
+};
+
+}  // namespace forms

@@ -1,0 +1,179 @@
+#include "forms/widget.h"
+
+#include "forms/focus.h"
+#include "forms/form.h"
+#include "forms/geometry.h"
+#include "forms/system_error.h"
+
+namespace forms {
+namespace {
+
+constexpr UINT_PTR kSubclassId = 1;
+
+/// Window property that leads from a control to its widget.
+constexpr wchar_t kWidgetProperty[] = L"Lexilo.Widget";
+
+}  // namespace
+
+Widget::Widget(Form& form, const ControlKind& kind, const WidgetBox& box,
+               const std::u16string& caption)
+    : form_(form), box_(box) {
+  handle_ = CreateWindowExW(kind.exStyle, kind.className, wide(caption),
+                            WS_CHILD | WS_VISIBLE | kind.style, 0, 0, 0, 0, form.handle(), nullptr,
+                            GetModuleHandleW(nullptr), nullptr);
+  if (handle_ == nullptr) {
+    throwLastError();
+  }
+  SetWindowSubclass(handle_, subclassProc, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+  SetPropW(handle_, kWidgetProperty, this);
+  form_.addWidget(*this);
+  setFont({});
+  applyBox();
+}
+
+Widget::~Widget() {
+  form_.removeWidget(*this);
+  if (handle_ != nullptr) {
+    DestroyWindow(handle_);
+  }
+}
+
+Widget* Widget::of(HWND window) {
+  if (window == nullptr || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) {
+    return nullptr;
+  }
+  return static_cast<Widget*>(GetPropW(window, kWidgetProperty));
+}
+
+LRESULT CALLBACK Widget::subclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                      UINT_PTR /*id*/, DWORD_PTR self) {
+  auto* widget = reinterpret_cast<Widget*>(self);
+  if (message == WM_NCDESTROY) {
+    RemovePropW(window, kWidgetProperty);
+    RemoveWindowSubclass(window, subclassProc, kSubclassId);
+    widget->handle_ = nullptr;
+    return DefSubclassProc(window, message, wParam, lParam);
+  }
+  LRESULT result = 0;
+  guard([&] { result = widget->handleMessage(message, wParam, lParam); });
+  return result;
+}
+
+LRESULT Widget::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+      focusMayHaveMoved();
+      break;
+    case WM_SETCURSOR:
+      if (SendMessageW(form_.handle(), message, wParam, lParam) != FALSE) return TRUE;
+      break;
+    case WM_GETDLGCODE:
+      if (const auto* key = reinterpret_cast<const MSG*>(lParam);
+          key != nullptr && takesKey(key->message, key->wParam)) {
+        return DefSubclassProc(handle_, message, wParam, lParam) | DLGC_WANTMESSAGE;
+      }
+      break;
+    case WM_KEYDOWN:
+      if (takesKey(message, wParam)) {
+        const auto handler = onKeyDown.find(wParam)->second;
+        settleFocus();
+        guard(handler);
+        return 0;
+      }
+      break;
+    case WM_CHAR:
+      // The character that follows a key taken above; the control would beep at it.
+      if ((wParam == VK_RETURN || wParam == VK_ESCAPE) && takesKey(WM_KEYDOWN, wParam)) return 0;
+      break;
+    default:
+      raiseMouseEvents(message, lParam);
+  }
+  return handle_ == nullptr ? 0 : DefSubclassProc(handle_, message, wParam, lParam);
+}
+
+bool Widget::takesKey(UINT message, WPARAM wParam) const {
+  return message == WM_KEYDOWN && onKeyDown.contains(wParam) && GetKeyState(VK_CONTROL) >= 0 &&
+         GetKeyState(VK_MENU) >= 0;
+}
+
+void Widget::raiseMouseEvents(UINT message, LPARAM lParam) {
+  switch (message) {
+    case WM_MOUSEMOVE:
+      onMouseMove.raise(placeOf(lParam));
+      break;
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MBUTTONDOWN:
+      settleFocus();
+      onMouseDown.raise(placeOf(lParam));
+      break;
+    case WM_LBUTTONUP:
+    case WM_RBUTTONUP:
+    case WM_MBUTTONUP:
+      onMouseUp.raise(placeOf(lParam));
+      if (message == WM_RBUTTONUP) onRightMouseUp.raise(placeOf(lParam));
+      break;
+    default:
+      break;
+  }
+}
+
+Place Widget::placeOf(LPARAM lParam) const {
+  return {toTwips(GET_X_LPARAM(lParam), form_.dpi()), toTwips(GET_Y_LPARAM(lParam), form_.dpi())};
+}
+
+void Widget::move(const WidgetBox& box) {
+  box_ = box;
+  applyBox();
+}
+
+void Widget::setWidth(int width) {
+  box_.width = width;
+  applyBox();
+}
+
+void Widget::applyBox() {
+  if (handle_ == nullptr) return;
+  const int dpi = form_.dpi();
+  const int left = toPixels(box_.left, dpi);
+  const int top = toPixels(box_.top, dpi);
+  // Ends are rounded, not lengths: neighbours in twips stay neighbours in pixels.
+  const int right = toPixels(box_.left + box_.width, dpi);
+  const int bottom = toPixels(box_.top + box_.height, dpi);
+  SetWindowPos(handle_, nullptr, left, top, std::max(right - left, 0), std::max(bottom - top, 0),
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Widget::setVisible(bool visible) { ShowWindow(handle_, visible ? SW_SHOWNA : SW_HIDE); }
+
+void Widget::setEnabled(bool enabled) { EnableWindow(handle_, enabled ? TRUE : FALSE); }
+
+void Widget::setFocus() {
+  SetFocus(handle_);
+  settleFocus();
+}
+
+void Widget::setFont(Font font) {
+  font_ = std::move(font);
+  auto made = makeFont(font_, form_.dpi());
+  send(WM_SETFONT, reinterpret_cast<WPARAM>(made.get()), TRUE);
+  systemFont_ = std::move(made);
+}
+
+void Widget::setToolTip(const std::u16string& text) {
+  if (toolTip_ == text) return;
+  toolTip_ = text;
+  form_.setToolTip(*this, toolTip_);
+}
+
+void Widget::command(WORD /*code*/) {}
+
+LRESULT Widget::notify(const NMHDR& /*header*/) { return 0; }
+
+void Widget::rescale() {
+  setFont(font_);
+  applyBox();
+}
+
+}  // namespace forms

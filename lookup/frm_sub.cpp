@@ -1,0 +1,173 @@
+#include "lookup/frm_sub.h"
+
+#include "app/resources/resource_ids.h"
+#include "app/state.h"
+#include "capture/screen_word.h"
+#include "forms/clipboard.h"
+#include "lookup/layout.h"
+#include "text/query_text.h"
+#include "text/trim.h"
+
+namespace {
+
+forms::FormDesign design() {
+  forms::FormDesign design;
+  design.name = u"frmSub";
+  design.caption = u"速查 V1.3";
+  design.width = 3500;
+  design.height = 3200;
+  design.topmost = true;
+  design.iconResource = IDI_APP;
+  return design;
+}
+
+constexpr std::u16string_view kFirstWord = u"a";
+constexpr int kMostListed = 100;
+
+/// What English input may not start with.
+constexpr std::u16string_view kWildcards = u"*_?%";
+
+}  // namespace
+
+frmSub::frmSub() : Form(design()), lookup_(user::IdxWords, data::LookupRules{}) {
+  txtInput.setFont({u"宋体", 10.5});
+  txtInput.onChange = [this] { txtInput_Change(); };
+  txtInput.onGotFocus = [this] { txtInput_GotFocus(); };
+  txtInput.onLostFocus = [this] { txtInput_LostFocus(); };
+  cmdExit.onClick = [this] { cmdExit_Click(); };
+  TreeView1.onNodeClick = [this](std::size_t node) { TreeView1_NodeClick(node); };
+  mnuSearch_ = mnuOper.add(u"反查", [this] { mnuSearch_Click(); });
+  mnuCopy_ = mnuOper.add(u"复制", [this] { mnuCopy_Click(); });
+  wireMouse();
+  wireKeys();
+}
+
+void frmSub::wireMouse() {
+  const auto showOwnPointer = [this](forms::Place) { setMousePointer(nullptr); };
+  onMouseMove = showOwnPointer;
+  for (forms::Widget* widget :
+       std::initializer_list<forms::Widget*>{&Label1, &txtInput, &cmdExit, &TreeView1, &txtOut}) {
+    widget->onMouseMove = showOwnPointer;
+  }
+  Image1.onMouseMove = [this](forms::Place) { Image1_MouseMove(); };
+  Image1.onMouseDown = [this](forms::Place) { Image1_MouseDown(); };
+  Image1.onDragEnded = [this] { placeListAndPane(); };
+  TreeView1.onDragDrop = [this](forms::Widget& source, forms::Place place) {
+    TreeView1_DragDrop(source, place);
+  };
+  txtOut.onDragDrop = [this](forms::Widget& source, forms::Place place) {
+    txtOut_DragDrop(source, place);
+  };
+  txtOut.onRightMouseUp = [this](forms::Place) { txtOut_MouseUp(); };
+}
+
+void frmSub::wireKeys() {
+  txtInput.onKeyDown[VK_DOWN] = [this] { TreeView1.setFocus(); };
+  TreeView1.onKeyDown[VK_ESCAPE] = [this] { txtInput.setFocus(); };
+}
+
+void frmSub::Form_Load() {
+  MaxCount = kMostListed;
+  Adodc1.setConnectionString(user::ConnectionString);
+  const std::u16string sql = makeStrSql(user::getEorC(kFirstWord), kFirstWord);
+  Query(sql, Adodc1, TreeView1);
+  readSizes();
+}
+
+void frmSub::Form_Resize() {
+  const lookup::Size wanted{width(), height()};
+  const lookup::Size size = lookup::snapSize(wanted);
+  if (size != wanted) setSize(size.width, size.height);
+  const lookup::Layout layout = lookup::layOut(size, TreeView1.width());
+  txtInput.move({layout.inputLeft, txtInput.top(), layout.inputWidth, txtInput.height()});
+  cmdExit.move({layout.exitLeft, cmdExit.top(), cmdExit.width(), cmdExit.height()});
+  placeListAndPane();
+}
+
+void frmSub::placeListAndPane() {
+  const int listWidth = TreeView1.width();
+  const lookup::Layout layout = lookup::layOut(lookup::snapSize({width(), height()}), listWidth);
+  TreeView1.move({layout.listLeft, layout.listTop, listWidth, layout.listHeight});
+  const lookup::Box& line = layout.splitter;
+  Image1.move({line.left, line.top, line.width, line.height});
+  const lookup::Box& pane = layout.pane;
+  txtOut.move({pane.left, pane.top, pane.width, pane.height});
+}
+
+void frmSub::Form_Paint() { bringToTop(); }
+
+void frmSub::Form_Unload() {
+  ScreenWord::StartCapture();
+  setMousePointer(nullptr);
+  writeSizes();
+}
+
+void frmSub::txtInput_Change() try {
+  std::u16string word(user::trimBlanks(txtInput.text()));
+  if (word.empty()) return;
+  user::escapeQuote(word);
+  if (user::getEorC(word) == user::kChinese) {
+    Query(makeStrSql(user::kChinese, word), Adodc1, TreeView1);
+    return;
+  }
+  if (kWildcards.find(word.front()) != std::u16string_view::npos) {
+    txtInput.setText({});
+    MessageBeep(MB_OK);
+    txtOut.setText({});
+    return;
+  }
+  Query(makeStrSql(user::kEnglish, word), Adodc1, TreeView1);
+} catch (const std::exception&) {
+  // Typing is never interrupted: the list keeps what it shows.
+}
+
+void frmSub::txtInput_GotFocus() { ScreenWord::StopCapture(); }
+
+void frmSub::txtInput_LostFocus() { ScreenWord::StartCapture(); }
+
+void frmSub::cmdExit_Click() { unload(); }
+
+void frmSub::TreeView1_NodeClick(std::size_t node) {
+  std::u16string word = TreeView1.text(node);
+  showMeaning(word, Adodc1);
+}
+
+void frmSub::TreeView1_DragDrop(const forms::Widget& source, forms::Place place) {
+  if (&source != &Image1) return;
+  TreeView1.setWidth(lookup::widthAfterDropOnList(place.x));
+  placeListAndPane();
+}
+
+void frmSub::txtOut_DragDrop(const forms::Widget& source, forms::Place place) {
+  if (&source != &Image1) return;
+  TreeView1.setWidth(lookup::widthAfterDropOnPane(width(), TreeView1.width(), place.x));
+  placeListAndPane();
+}
+
+void frmSub::txtOut_MouseUp() {
+  const bool selected = txtOut.selLength() != 0;
+  mnuOper.item(mnuSearch_).enabled = selected;
+  mnuOper.item(mnuCopy_).enabled = selected;
+  POINT pointer{};
+  GetCursorPos(&pointer);
+  if (const auto* chosen = mnuOper.choose(*this, pointer)) chosen->onClick();
+}
+
+void frmSub::mnuSearch_Click() {
+  txtInput.setText(txtOut.selText());
+  txtOut.select(txtOut.selStart(), 0);
+}
+
+void frmSub::mnuCopy_Click() { forms::setClipboardText(txtOut.selText()); }
+
+void frmSub::showSplitterPointer() { setMousePointer(IDC_SIZEWE); }
+
+void frmSub::Image1_MouseMove() {
+  showSplitterPointer();
+  Image1.setToolTip(u"拖动以调解窗体宽度");
+}
+
+void frmSub::Image1_MouseDown() {
+  showSplitterPointer();
+  Image1.beginDrag();
+}

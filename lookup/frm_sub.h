@@ -1,0 +1,78 @@
+#pragma once
+
+#include <string>
+
+#include "data/data_control.h"
+#include "data/headword_lookup.h"
+#include "forms/button.h"
+#include "forms/form.h"
+#include "forms/image.h"
+#include "forms/label.h"
+#include "forms/popup_menu.h"
+#include "forms/rich_text_box.h"
+#include "forms/text_box.h"
+#include "forms/tree_view.h"
+
+/// 速查, the quick lookup window: what is typed shows its neighbouring headwords and the meanings
+/// of the chosen one. Lengths in twips.
+class frmSub : public forms::Form {
+ public:
+  frmSub();
+
+  forms::Label Label1{*this, u"输入：", {90, 180, 640, 270}};
+  forms::TextBox txtInput{*this, {750, 120, 1750, 330}};
+  forms::Button cmdExit{*this, u"退出", {2600, 120, 750, 330}};
+  forms::TreeView TreeView1{*this, {30, 600, 2000, 2200}};
+  forms::Image Image1{*this, forms::Image::Look::line, {2030, 600, 20, 2200}};
+  forms::RichTextBox txtOut{*this, {2050, 600, 1300, 2200}};
+  data::DataControl Adodc1;
+  forms::PopupMenu mnuOper;
+
+  /// The list query for `word`, which is trimmed and has its quotes doubled.
+  std::u16string makeStrSql(std::u16string_view EorC, std::u16string_view word);
+  /// Runs `sql` and copies its rows into `list`.
+  void Query(std::u16string_view sql, data::DataControl& control, forms::TreeView& list);
+  /// Copies the rows of `control` into `list` and shows the first word's meaning. Ends silently on
+  /// an error.
+  void fillList(data::DataControl& control, forms::TreeView& list);
+  /// The meaning query for `word`; a message and "" on an error.
+  std::u16string findword(std::u16string_view EorC, std::u16string_view word);
+  /// Shows the meanings of `word`, whose quotes are doubled in the caller's variable. Returns the
+  /// pane's text; "" where there are none, or, with a message, on an error.
+  std::u16string showMeaning(std::u16string& word, data::DataControl& control);
+
+  [[nodiscard]] data::Bounds bounds() const { return lookup_.bounds(); }
+
+ private:
+  void Form_Load() override;
+  void Form_Resize() override;
+  void Form_Paint() override;
+  void Form_Unload() override;
+  void txtInput_Change();
+  void txtInput_GotFocus();
+  void txtInput_LostFocus();
+  void cmdExit_Click();
+  void TreeView1_NodeClick(std::size_t node);
+  void TreeView1_DragDrop(const forms::Widget& source, forms::Place place);
+  void txtOut_DragDrop(const forms::Widget& source, forms::Place place);
+  void txtOut_MouseUp();
+  void Image1_MouseMove();
+  void Image1_MouseDown();
+  void mnuSearch_Click();
+  void mnuCopy_Click();
+
+  void wireMouse();
+  void wireKeys();
+  void readSizes();
+  int readSize(const std::u16string& key, int fallback) const;
+  void writeSizes() const;
+  void placeListAndPane();
+  void showSplitterPointer();
+  void showText(const data::MeaningText& text);
+
+  int MaxCount = 0;
+  std::u16string settingsPath_;
+  std::size_t mnuSearch_ = 0;
+  std::size_t mnuCopy_ = 0;
+  data::HeadwordLookup lookup_;
+};

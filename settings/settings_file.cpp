@@ -1,0 +1,98 @@
+#include "settings/settings_file.h"
+
+#include <shlobj.h>
+#include <windows.h>
+
+#include <array>
+
+#include "settings/settings_rules.h"
+#include "settings/win32_profile.h"
+
+namespace user {
+namespace {
+
+std::string toAnsi(const std::u16string& text) {
+  const auto* units = reinterpret_cast<const wchar_t*>(text.c_str());
+  const int length = static_cast<int>(text.size());
+  const int size = WideCharToMultiByte(CP_ACP, 0, units, length, nullptr, 0, nullptr, nullptr);
+  std::string ansi(static_cast<std::size_t>(size), '\0');
+  WideCharToMultiByte(CP_ACP, 0, units, length, ansi.data(), size, nullptr, nullptr);
+  return ansi;
+}
+
+std::u16string fromAnsi(const char* text, int length) {
+  const int size = MultiByteToWideChar(CP_ACP, 0, text, length, nullptr, 0);
+  std::wstring units(static_cast<std::size_t>(size), L'\0');
+  MultiByteToWideChar(CP_ACP, 0, text, length, units.data(), size);
+  return {units.begin(), units.end()};
+}
+
+const wchar_t* wide(const std::u16string& text) {
+  return reinterpret_cast<const wchar_t*>(text.c_str());
+}
+
+/// Whether this user can write `file`, which may not exist yet; one made for the test goes again.
+bool canWrite(const std::u16string& file) {
+  const bool existed = GetFileAttributesW(wide(file)) != INVALID_FILE_ATTRIBUTES;
+  HANDLE handle = CreateFileW(wide(file), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                              nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) return false;
+  CloseHandle(handle);
+  if (!existed) DeleteFileW(wide(file));
+  return true;
+}
+
+/// `path` itself where the ANSI code page can name it, else its short form.
+std::u16string ansiName(const std::u16string& path) {
+  const std::string ansi = toAnsi(path);
+  if (fromAnsi(ansi.data(), static_cast<int>(ansi.size())) == path) return path;
+  std::array<wchar_t, MAX_PATH> shortPath{};
+  const DWORD length = GetShortPathNameW(wide(path), shortPath.data(), MAX_PATH);
+  if (length == 0 || length >= MAX_PATH) return path;
+  return {shortPath.begin(), shortPath.begin() + length};
+}
+
+std::u16string localSettingsFile() {
+  wchar_t* known = nullptr;
+  std::u16string folder;
+  if (SUCCEEDED(SHGetKnownFolderPath(FOLDERID_LocalAppData, 0, nullptr, &known))) {
+    const std::wstring_view path(known);
+    folder.assign(path.begin(), path.end());
+  }
+  CoTaskMemFree(known);
+  folder += u"\\Lexilo";
+  CreateDirectoryW(wide(folder), nullptr);
+  return ansiName(folder) + u"\\system.ini";
+}
+
+}  // namespace
+
+std::u16string getINIProfileString(const std::u16string& section, const std::u16string& key,
+                                   const std::u16string& fallback, const std::u16string& file) {
+  std::string buffer(kProfileBufferLength, ' ');
+  const DWORD length = GetPrivateProfileStringA(
+      toAnsi(section).c_str(), toAnsi(key).c_str(), toAnsi(fallback).c_str(), buffer.data(),
+      static_cast<DWORD>(buffer.size()), toAnsi(file).c_str());
+  const std::u16string value = fromAnsi(buffer.data(), static_cast<int>(length));
+  return profileValue(static_cast<int>(length), value, fallback);
+}
+
+void WriteINIProfileString(const std::u16string& section, const std::u16string& key,
+                           const std::u16string& value, const std::u16string& file) {
+  WritePrivateProfileStringA(toAnsi(section).c_str(), toAnsi(key).c_str(), toAnsi(value).c_str(),
+                             toAnsi(file).c_str());
+}
+
+std::u16string systemDirectory() {
+  std::array<char, 255> buffer{};
+  const UINT length = GetSystemDirectoryA(buffer.data(), static_cast<UINT>(buffer.size()));
+  return length < buffer.size() ? fromAnsi(buffer.data(), static_cast<int>(length))
+                                : std::u16string();
+}
+
+std::u16string settingsFile() {
+  const std::u16string inSystemDirectory = systemDirectory() + u"\\system.ini";
+  return canWrite(inSystemDirectory) ? inSystemDirectory : localSettingsFile();
+}
+
+}  // namespace user
