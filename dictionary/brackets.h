@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace dictionary {
+
+/// Kinds of brackets that set off notes in the source; narrow and wide forms may pair up.
+enum class Bracket { kNone, kRound, kSquare, kAngle };
+
+/// Kind of the bracket that `unit` opens or closes.
+Bracket openingBracket(char16_t unit);
+Bracket closingBracket(char16_t unit);
+
+/// Position of the bracket that closes the one at `open`, npos if there is none.
+std::size_t closingPosition(std::u16string_view text, std::size_t open);
+
+/// Position behind the closing quotation mark that belongs to the one at `open` (“…”, ‘…’, 《…》,
+/// 『…』); npos if there is no quotation mark at `open` or none that closes it.
+std::size_t quotationEnd(std::u16string_view text, std::size_t open);
+
+/// `text` without its bracketed notes. A bracket that does not close stays.
+std::u16string withoutNotes(std::u16string_view text);
+
+}  // namespace dictionary

@@ -1,0 +1,119 @@
+#include "dictionary/build.h"
+
+#include <fstream>
+#include <string>
+#include <utility>
+
+#include "dictionary/block_choice.h"
+#include "dictionary/build_report.h"
+#include "dictionary/check.h"
+#include "dictionary/database_writer.h"
+#include "dictionary/failure.h"
+#include "dictionary/pair_collector.h"
+#include "dictionary/paths.h"
+#include "dictionary/progress.h"
+#include "dictionary/source_reader.h"
+#include "dictionary/subject_collector.h"
+#include "dictionary/temporary_file.h"
+
+namespace dictionary {
+namespace {
+
+constexpr std::size_t kMaxBadLinesTold = 20;
+
+/// One build's stages and what they hand on.
+class Builder {
+ public:
+  explicit Builder(std::ostream& log) : log_(log), progress_(log) {}
+
+  void readSource(std::istream& stream);
+  void arrangeContent();
+  void write(const std::filesystem::path& target);
+  void printReport() const { report_.print(log_); }
+
+ private:
+  void tellBadLine(const SourceReader& reader);
+  void addEntry(const SourceEntry& source);
+
+  std::ostream& log_;
+  Progress progress_;
+  BuildReport report_;
+  PairCollector pairs_;
+  SubjectCollector subjects_;
+  DatabaseContent content_;
+  std::size_t badLines_ = 0;
+};
+
+void Builder::tellBadLine(const SourceReader& reader) {
+  report_.addBadLine(reader.fault());
+  if (++badLines_ > kMaxBadLinesTold) return;
+  log_ << "line " << reader.lineNumber() << " skipped: " << describe(reader.fault()) << '\n';
+  if (badLines_ == kMaxBadLinesTold) log_ << "further bad lines are counted only\n";
+}
+
+void Builder::addEntry(const SourceEntry& source) {
+  const std::optional<Entry> entry = extractEntry(source);
+  if (!entry) {
+    report_.addBadHeadword();
+    return;
+  }
+  report_.addEntry(*entry, pairs_.add(*entry));
+  subjects_.add(*entry);
+}
+
+void Builder::readSource(std::istream& stream) {
+  SourceReader reader(stream);
+  std::size_t entries = 0;
+  for (;;) {
+    const SourceReader::Result result = reader.next();
+    if (result == SourceReader::Result::kEnd) break;
+    if (result == SourceReader::Result::kBadLine) {
+      tellBadLine(reader);
+      continue;
+    }
+    addEntry(reader.entry());
+    ++entries;
+  }
+  progress_.tell(grouped(entries) + " entries read");
+}
+
+void Builder::arrangeContent() {
+  content_.vocabulary = std::move(pairs_).finish();
+  content_.subjects = std::move(subjects_).finish();
+  progress_.tell(grouped(content_.vocabulary.pairs.size()) + " pairs sorted");
+  const std::vector<bool> chosen = choosePairs(content_.vocabulary, LookupLimits());
+  content_.general = arrange(content_.vocabulary, chosen);
+  report_.addContent(content_, chosen);
+  progress_.tell(grouped(content_.general.edict.size()) + " pairs chosen");
+}
+
+void Builder::write(const std::filesystem::path& target) {
+  const TemporaryFile temporary(target);
+  writeDatabase(content_, temporary.path());
+  progress_.tell("database written");
+  const CheckResult check = checkDatabase(temporary.path());
+  if (!check.findings.empty()) {
+    check.findings.print(log_);
+    throw Failure("the new database breaks the rules above; " + displayName(target) +
+                  " stays as it was");
+  }
+  progress_.tell("database checked");
+  temporary.replace(target);
+  progress_.tell(displayName(target) + " is ready");
+}
+
+}  // namespace
+
+void buildDatabase(const std::filesystem::path& source, const std::filesystem::path& target,
+                   std::ostream& log) {
+  requireFile(source);
+  std::ifstream stream(source, std::ios::binary);
+  if (!stream) throw Failure("cannot read " + displayName(source));
+  Builder builder(log);
+  builder.readSource(stream);
+  builder.arrangeContent();
+  builder.write(target);
+  builder.printReport();
+}
+
+}  // namespace dictionary

@@ -1,0 +1,116 @@
+#include "dictionary/build_report.h"
+
+#include <iomanip>
+#include <numeric>
+#include <string_view>
+
+#include "dictionary/progress.h"
+
+namespace dictionary {
+namespace {
+
+constexpr std::array<std::string_view, kTierCount> kTierNames = {
+    "important words, first equivalent",
+    "important words, further equivalents",
+    "other words, first equivalent",
+    "other words, further equivalents",
+    "inflected forms, first equivalent",
+    "inflected forms, further equivalents",
+    "first web equivalent of words that have nothing else",
+    "first name of words that have nothing else",
+    "first web equivalent of other words",
+    "further names",
+    "further web equivalents",
+};
+
+constexpr int kNumberWidth = 11;
+
+void printCount(std::ostream& out, std::size_t count, std::string_view what) {
+  out << std::setw(kNumberWidth) << grouped(count) << "  " << what << '\n';
+}
+
+template <typename Rows>
+std::size_t distinctWords(const Rows& rows) {
+  std::size_t distinct = 0;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (i == 0 || rows[i].word != rows[i - 1].word) ++distinct;
+  }
+  return distinct;
+}
+
+}  // namespace
+
+void BuildReport::addEntry(const Entry& entry, std::size_t pairs) {
+  ++entries_;
+  if (entry.lines.empty()) {
+    ++emptyEntries_;
+  } else if (pairs == 0) {
+    ++entriesWithoutPairs_;
+  }
+  for (const TranslationLine& line : entry.lines) {
+    for (const Piece& piece : line.pieces) {
+      ++pieces_[static_cast<std::size_t>(piece.equivalent.fault)];
+    }
+  }
+}
+
+void BuildReport::addContent(const DatabaseContent& content, const std::vector<bool>& chosen) {
+  pairs_ = content.vocabulary.pairs.size();
+  rows_ = content.general.edict.size();
+  english_ = content.vocabulary.english.size();
+  chinese_ = content.vocabulary.chinese.size();
+  englishKept_ = distinctWords(content.general.edict);
+  chineseKept_ = distinctWords(content.general.cdict);
+  for (std::size_t i = 0; i < pairs_; ++i) {
+    const auto tier = static_cast<std::size_t>(content.vocabulary.pairs[i].tier);
+    ++gathered_[tier];
+    if (chosen[i]) ++kept_[tier];
+  }
+  for (std::size_t i = 0; i < kSubjectCount; ++i) subjectRows_[i] = content.subjects[i].size();
+}
+
+void BuildReport::printSource(std::ostream& out) const {
+  out << "Source:\n";
+  printCount(out, entries_, "entries read");
+  for (const auto& [fault, count] : badLines_) {
+    printCount(out, count, "lines skipped: " + std::string(describe(fault)));
+  }
+  printCount(out, badHeadwords_, "entries left out: the word cannot be looked up");
+  printCount(out, emptyEntries_, "entries left out: no translation");
+  printCount(out, entriesWithoutPairs_, "entries left out: no equivalent could be used");
+  for (std::size_t i = 1; i < pieces_.size(); ++i) {
+    const std::string_view fault = describe(static_cast<PieceFault>(i));
+    printCount(out, pieces_[i], "equivalents left out: " + std::string(fault));
+  }
+}
+
+void BuildReport::printPairs(std::ostream& out) const {
+  out << "General dictionary:\n";
+  printCount(out, pairs_,
+             "pairs of " + grouped(english_) + " English and " + grouped(chinese_) +
+                 " Chinese headwords gathered");
+  printCount(out, rows_,
+             "pairs of " + grouped(englishKept_) + " English and " + grouped(chineseKept_) +
+                 " Chinese headwords taken");
+  for (std::size_t i = 0; i < kTierCount; ++i) {
+    printCount(out, gathered_[i] - kept_[i],
+               "of " + grouped(gathered_[i]) + " left out: " + std::string(kTierNames[i]));
+  }
+}
+
+void BuildReport::printSubjects(std::ostream& out) const {
+  const std::size_t all = std::accumulate(subjectRows_.begin(), subjectRows_.end(), std::size_t{0});
+  out << "Subject dictionaries:\n";
+  printCount(out, all, "rows in all");
+  for (std::size_t i = 0; i < kSubjectCount; ++i) {
+    printCount(out, subjectRows_[i], kSubjectInfos[i].table);
+  }
+}
+
+void BuildReport::print(std::ostream& out) const {
+  printSource(out);
+  printPairs(out);
+  printSubjects(out);
+}
+
+}  // namespace dictionary

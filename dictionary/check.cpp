@@ -1,0 +1,43 @@
+#include "dictionary/check.h"
+
+#include <chrono>
+
+#include "data/connection.h"
+#include "data/error.h"
+#include "dictionary/check_general.h"
+#include "dictionary/check_reach.h"
+#include "dictionary/check_schema.h"
+#include "dictionary/check_subjects.h"
+#include "dictionary/failure.h"
+#include "dictionary/general_tables.h"
+#include "dictionary/paths.h"
+
+namespace dictionary {
+
+namespace {
+
+CheckResult checkOpened(sqlite3* connection) {
+  CheckResult result;
+  if (!checkFixedTables(connection, result.findings)) return result;
+  const GeneralTables tables = readGeneralTables(connection, result.findings);
+  result.pairs = tables.edict.words.size();
+  checkGeneral(tables, result.findings);
+  checkReach(tables, result);
+  checkSubjects(connection, result);
+  return result;
+}
+
+}  // namespace
+
+CheckResult checkDatabase(const std::filesystem::path& file) {
+  requireFile(file);
+  try {
+    const data::Connection connection =
+        data::openConnection(utf8Path(file), data::Access::kRead, std::chrono::seconds(1));
+    return checkOpened(connection.get());
+  } catch (const data::Error& error) {
+    throw Failure(displayName(file) + " cannot be read as a dictionary: " + error.what());
+  }
+}
+
+}  // namespace dictionary

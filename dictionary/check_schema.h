@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "dictionary/findings.h"
+
+struct sqlite3;
+
+namespace dictionary {
+
+/// Checks that the file is undamaged and that the fixed tables are there with their columns.
+/// Returns whether they can be read on; otherwise the findings say why not.
+bool checkFixedTables(sqlite3* connection, Findings& findings);
+
+/// Checks one subject dictionary's table. Returns whether it can be read on.
+bool checkSubjectTable(sqlite3* connection, const std::string& table, Findings& findings);
+
+/// Names of all tables in the file.
+std::vector<std::string> tableNames(sqlite3* connection);
+
+}  // namespace dictionary

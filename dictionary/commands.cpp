@@ -1,0 +1,97 @@
+#include "dictionary/commands.h"
+
+#include <exception>
+#include <iomanip>
+#include <sstream>
+#include <string_view>
+
+#include "dictionary/build.h"
+#include "dictionary/check.h"
+#include "dictionary/paths.h"
+#include "dictionary/progress.h"
+#include "dictionary/word_lookup.h"
+#include "text/utf.h"
+
+namespace dictionary {
+namespace {
+
+constexpr std::string_view kUsage =
+    "kkbuild makes and checks kk.dat, the dictionary database.\n"
+    "\n"
+    "  kkbuild build SOURCE.csv OUTPUT   builds OUTPUT from comma-separated source data\n"
+    "  kkbuild check FILE                checks every rule of a database\n"
+    "  kkbuild lookup FILE WORD          shows what the quick lookup window shows for WORD\n"
+    "  kkbuild --help                    shows this text\n"
+    "\n"
+    "build replaces an existing OUTPUT only by a complete and checked new one; it reports lines\n"
+    "that cannot be read and goes on. The exit code is 0 for success, 1 if the database could not\n"
+    "be built, breaks a rule or has no such word, 2 for wrong arguments.\n";
+
+std::string percentage(std::size_t part, std::size_t whole) {
+  std::ostringstream text;
+  const double share =
+      whole == 0 ? 0 : 100.0 * static_cast<double>(part) / static_cast<double>(whole);
+  text << std::fixed << std::setprecision(1) << share << " %";
+  return text.str();
+}
+
+ExitCode runCheck(const std::string& file, std::ostream& out) {
+  const CheckResult result = checkDatabase(pathOf(file));
+  result.findings.print(out);
+  out << grouped(result.pairs) << " pairs of " << grouped(result.englishHeadwords)
+      << " English and " << grouped(result.chineseHeadwords) << " Chinese headwords; "
+      << grouped(result.dictionaries) << " subject dictionaries with "
+      << grouped(result.subjectRows) << " rows\n"
+      << grouped(result.cutLists) << " of " << grouped(result.chineseLists) << " Chinese lists ("
+      << percentage(result.cutLists, result.chineseLists)
+      << ") end with a headword of which not all meanings are shown\n"
+      << (result.findings.empty() ? "all rules are kept\n"
+                                  : "the database breaks the rules above\n");
+  return result.findings.empty() ? kSuccess : kFailed;
+}
+
+ExitCode runLookup(const std::string& file, const std::string& word, std::ostream& out,
+                   std::ostream& err) {
+  const LookupResult result = lookUp(pathOf(file), text::toUtf16(word));
+  if (result.headwords.empty()) {
+    err << "kkbuild: no headword follows \"" << word << "\"\n";
+    return kFailed;
+  }
+  for (const std::u16string& headword : result.headwords) out << text::toUtf8(headword) << '\n';
+  std::string meaning = text::toUtf8(result.meaning);
+  std::erase(meaning, '\r');
+  out << '\n' << meaning << '\n';
+  return kSuccess;
+}
+
+ExitCode dispatch(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
+  const std::string command = arguments.empty() ? "" : arguments[0];
+  if (command == "--help" || command == "-h" || command == "help") {
+    out << kUsage;
+    return kSuccess;
+  }
+  if (command == "build" && arguments.size() == 3) {
+    buildDatabase(pathOf(arguments[1]), pathOf(arguments[2]), err);
+    return kSuccess;
+  }
+  if (command == "check" && arguments.size() == 2) return runCheck(arguments[1], out);
+  if (command == "lookup" && arguments.size() == 3) {
+    return runLookup(arguments[1], arguments[2], out, err);
+  }
+  err << kUsage;
+  return kMisused;
+}
+
+}  // namespace
+
+ExitCode runCommand(const std::vector<std::string>& arguments, std::ostream& out,
+                    std::ostream& err) {
+  try {
+    return dispatch(arguments, out, err);
+  } catch (const std::exception& error) {
+    err << "kkbuild: " << error.what() << '\n';
+    return kFailed;
+  }
+}
+
+}  // namespace dictionary

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace dictionary {
+
+/// Exit codes of kkbuild.
+enum ExitCode : int {
+  kSuccess = 0,
+  kFailed = 1,  ///< nothing was built, a rule is broken, or nothing was found
+  kMisused = 2,
+};
+
+/// Runs kkbuild with its arguments (without the program's own name, in UTF-8). Results go to `out`,
+/// progress and messages to `err`.
+ExitCode runCommand(const std::vector<std::string>& arguments, std::ostream& out,
+                    std::ostream& err);
+
+}  // namespace dictionary

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <filesystem>
+
+#include "dictionary/general_dictionary.h"
+#include "dictionary/subject_collector.h"
+#include "dictionary/vocabulary.h"
+
+namespace dictionary {
+
+/// Everything that a dictionary database holds.
+struct DatabaseContent {
+  Vocabulary vocabulary;
+  GeneralDictionary general;
+  SubjectTables subjects;
+};
+
+/// Writes a new database file in the place of `file`: the same bytes for the same content. Subject
+/// dictionaries without rows are left out. Throws data::Error or Failure; the file is incomplete
+/// then.
+void writeDatabase(const DatabaseContent& content, const std::filesystem::path& file);
+
+}  // namespace dictionary

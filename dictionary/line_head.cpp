@@ -1,0 +1,46 @@
+#include "dictionary/line_head.h"
+
+#include "dictionary/brackets.h"
+#include "dictionary/part_of_speech.h"
+
+namespace dictionary {
+namespace {
+
+/// Subjects whose lines use one-character brackets for something else.
+constexpr SubjectSet kNoShortTagsAfter = setOf(Subject::kMedicine) | setOf(Subject::kComputing);
+
+std::u16string_view trimBlanks(std::u16string_view text) {
+  while (text.starts_with(u' ')) text.remove_prefix(1);
+  while (text.ends_with(u' ')) text.remove_suffix(1);
+  return text;
+}
+
+}  // namespace
+
+LineHead readHead(std::u16string_view text, bool shortTags) {
+  LineHead head;
+  std::size_t position = 0;
+  for (;;) {
+    while (position < text.size() && text[position] == u' ') ++position;
+    head.length = position;
+    if (position == text.size()) return head;
+    if (const std::size_t mark = partOfSpeechLength(text.substr(position)); mark > 0) {
+      position += mark;
+      continue;
+    }
+    const Bracket kind = openingBracket(text[position]);
+    if (kind == Bracket::kNone) return head;
+    const std::size_t close = closingPosition(text, position);
+    if (close == std::u16string_view::npos) return head;
+
+    const std::u16string_view tag = trimBlanks(text.substr(position + 1, close - position - 1));
+    const bool mayBeTag = kind == Bracket::kSquare && (shortTags || tag.size() > 1) &&
+                          (tag.size() > 1 || (head.subjects & kNoShortTagsAfter) == 0);
+    const SubjectSet subjects = mayBeTag ? subjectsOfTag(tag) : 0;
+    if (subjects == 0) head.notes += text.substr(position, close + 1 - position);
+    head.subjects |= subjects;
+    position = close + 1;
+  }
+}
+
+}  // namespace dictionary

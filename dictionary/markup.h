@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace dictionary {
+
+/// Undoes entity codes such as "&beta;" and "&#946;". One that is not known becomes U+FFFD, which
+/// no row may hold.
+std::u16string decodeEntities(std::u16string_view text);
+
+/// Turns every way to write a line break ("<br />", a backslash with "n", one with "r") into a line
+/// feed, and deletes other tags ("<i>").
+std::u16string breakLines(std::u16string_view text);
+
+}  // namespace dictionary

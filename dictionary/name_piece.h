@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string_view>
+
+#include "dictionary/subjects.h"
+
+namespace dictionary {
+
+/// The name at the beginning of a piece that goes on to explain it: "巴克 Barker的变体" gives 巴克,
+/// "塔隆来源于日耳曼语人名" gives 塔隆.
+std::u16string_view leadingName(std::u16string_view piece);
+
+/// Subjects that a piece claims by a note at its end: "鲍曼（姓氏）" is a person, "青木（地名）" a
+/// place.
+SubjectSet namedByNote(std::u16string_view piece);
+
+/// Whether the piece only says that names follow: "(Luang)人名".
+bool announcesNames(std::u16string_view piece);
+
+}  // namespace dictionary

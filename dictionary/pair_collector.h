@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "dictionary/entry.h"
+#include "dictionary/vocabulary.h"
+
+namespace dictionary {
+
+/// Gathers the pairs of entries and puts them in order.
+class PairCollector {
+ public:
+  /// Adds the entry's pairs; returns how many there are.
+  std::size_t add(const Entry& entry);
+
+  /// Everything gathered, sorted; words that differ in case only become one.
+  [[nodiscard]] Vocabulary finish() &&;
+
+ private:
+  void addPair(const std::u16string& chinese, Tier tier, std::size_t position);
+
+  std::vector<std::u16string> english_;
+  std::vector<std::u16string> chinese_;
+  std::unordered_map<std::u16string, std::uint32_t> chineseIds_;
+  std::vector<Pair> pairs_;
+};
+
+}  // namespace dictionary

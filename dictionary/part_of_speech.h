@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace dictionary {
+
+/// Length of the part-of-speech mark at the beginning of `text` ("n.", "vt. & vi.", "n " before a
+/// Chinese text), with the blanks behind it; 0 if there is none.
+std::size_t partOfSpeechLength(std::u16string_view text);
+
+}  // namespace dictionary

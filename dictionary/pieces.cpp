@@ -1,0 +1,111 @@
+#include "dictionary/pieces.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "dictionary/brackets.h"
+#include "dictionary/characters.h"
+
+namespace dictionary {
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::array kInflections = {u"的复数"sv,     u"的过去式"sv,   u"的过去分词"sv,
+                                     u"的现在分词"sv, u"的第三人称"sv, u"的比较级"sv,
+                                     u"的最高级"sv};
+constexpr std::size_t kMaxInflection = 48;
+
+char16_t separatorAt(char16_t unit) {
+  switch (unit) {
+    case u',':
+    case u'，':
+      return u'，';
+    case u';':
+    case u'；':
+      return u'；';
+    case u'、':
+      return u'、';
+    default:
+      return 0;
+  }
+}
+
+bool isLocant(char16_t unit) {
+  return isDigit(unit) || isLatin(unit) || isGreek(unit) || unit == u'\'' || unit == u'′';
+}
+
+/// A comma inside a chemical name or a number: "2,4-二氯苯", "1, 4-二氮杂苯", "N,N-二甲基".
+bool joinsLocants(std::u16string_view text, std::size_t comma) {
+  if ((text[comma] != u',' && text[comma] != u'，') || comma == 0) return false;
+  std::size_t next = comma + 1;
+  if (next < text.size() && text[next] == u' ' && isDigit(text[comma - 1])) {
+    return next + 1 < text.size() && isDigit(text[next + 1]);
+  }
+  return next < text.size() && isLocant(text[comma - 1]) && isLocant(text[next]);
+}
+
+std::size_t closedGroupEnd(std::u16string_view text, std::size_t open) {
+  if (openingBracket(text[open]) == Bracket::kNone) return quotationEnd(text, open);
+  const std::size_t close = closingPosition(text, open);
+  return close == std::u16string_view::npos ? close : close + 1;
+}
+
+std::u16string_view trimBlanks(std::u16string_view text) {
+  while (text.starts_with(u' ')) text.remove_prefix(1);
+  while (text.ends_with(u' ')) text.remove_suffix(1);
+  return text;
+}
+
+bool namesInflection(std::u16string_view note) {
+  return std::ranges::any_of(kInflections, [&](std::u16string_view inflection) {
+    return note.find(inflection) != std::u16string_view::npos;
+  });
+}
+
+}  // namespace
+
+std::vector<RawPiece> splitPieces(std::u16string_view text) {
+  std::vector<RawPiece> pieces;
+  std::size_t begin = 0;
+  char16_t before = 0;
+  const auto finish = [&](std::size_t end) {
+    const std::u16string_view piece = trimBlanks(text.substr(begin, end - begin));
+    if (!piece.empty()) pieces.push_back({piece, before});
+  };
+  for (std::size_t i = 0; i < text.size();) {
+    const std::size_t groupEnd = closedGroupEnd(text, i);
+    const char16_t separator = separatorAt(text[i]);
+    if (groupEnd != std::u16string_view::npos) {
+      i = groupEnd;
+      continue;
+    }
+    if (separator != 0 && !joinsLocants(text, i)) {
+      finish(i);
+      before = separator;
+      begin = i + 1;
+    }
+    ++i;
+  }
+  finish(text.size());
+  return pieces;
+}
+
+std::u16string inflectionNote(std::u16string_view line) {
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    if (openingBracket(line[i]) != Bracket::kRound) continue;
+    const std::size_t close = closingPosition(line, i);
+    if (close == std::u16string_view::npos) return {};
+    const std::u16string_view note = trimBlanks(line.substr(i + 1, close - i - 1));
+    if (namesInflection(note) && isAsciiLetter(note[0]) && note.size() <= kMaxInflection) {
+      std::u16string inflection(note);
+      std::erase(inflection, u' ');
+      return inflection;
+    }
+    i = close;
+  }
+  return {};
+}
+
+}  // namespace dictionary

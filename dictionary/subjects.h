@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace dictionary {
+
+/// The subject dictionaries, in the order of the catalogue.
+enum class Subject : std::uint8_t {
+  kMedicine,
+  kChemistry,
+  kComputing,
+  kEconomy,
+  kLaw,
+  kElectricity,
+  kMechanics,
+  kArchitecture,
+  kZoology,
+  kBotany,
+  kGeology,
+  kBiology,
+  kPhysics,
+  kArt,
+  kSport,
+  kReligion,
+  kLanguage,
+  kLightIndustry,
+  kSociety,
+  kMilitary,
+  kMathematics,
+  kPerson,
+  kPlace,
+  kWeb,
+};
+
+inline constexpr std::size_t kSubjectCount = 24;
+
+/// A set of subjects: bit n for the subject of value n.
+using SubjectSet = std::uint32_t;
+
+constexpr SubjectSet setOf(Subject subject) {
+  return SubjectSet{1} << static_cast<std::uint8_t>(subject);
+}
+
+inline constexpr SubjectSet kNameSubjects = setOf(Subject::kPerson) | setOf(Subject::kPlace);
+
+struct SubjectInfo {
+  std::string_view table;    ///< table name: ASCII letters, no SQL keyword, no fixed table's name
+  std::u16string_view name;  ///< what the windows show
+};
+
+extern const std::array<SubjectInfo, kSubjectCount> kSubjectInfos;
+
+/// The dictionary that is preselected when the multi-dictionary window opens.
+inline constexpr Subject kDefaultSubject = Subject::kMedicine;
+
+/// Subjects meant by a bracketed tag ("医", "动物学"); none for a mark of usage or a note.
+SubjectSet subjectsOfTag(std::u16string_view tag);
+
+}  // namespace dictionary

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace dictionary {
+
+/// What the quick lookup window shows for a typed word.
+struct LookupResult {
+  std::vector<std::u16string> headwords;  ///< the list
+  std::u16string meaning;                 ///< the pane's text for the first of them, lines by CR LF
+};
+
+/// Looks a word up as the quick lookup window does, with the same queries. Throws Failure if there
+/// is no database, data::Error if it cannot be read.
+LookupResult lookUp(const std::filesystem::path& database, std::u16string_view word);
+
+}  // namespace dictionary
