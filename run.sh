@@ -31,5 +31,5 @@ mkdir -p "$tour_dir"
 start_display
 start_wine "$(fresh_prefix tour)"
 # The pipe keeps Wine from taking the terminal for a console of its own.
-wine build/windows/bin/tour.exe build/app build/tour 2>&1 </dev/null | cat
+wine build/windows/bin/tour.exe build/tour 2>&1 </dev/null | cat
 say "The screenshots are in build/tour."

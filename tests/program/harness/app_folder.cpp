@@ -1,0 +1,49 @@
+#include "tests/program/harness/app_folder.h"
+
+#include <array>
+#include <cstdlib>
+#include <fstream>
+
+namespace harness {
+namespace fs = std::filesystem;
+namespace {
+
+fs::path named(const wchar_t* variable, const wchar_t* otherwise) {
+  const wchar_t* value = _wgetenv(variable);
+  return fs::absolute(value != nullptr && *value != L'\0' ? value : otherwise);
+}
+
+fs::path full_folder() { return named(L"LEXILO_APP", L"build/app"); }
+
+/// A new folder with the program alone. The program file is shared, since nothing changes it.
+fs::path freshFolder() {
+  static int folders = 0;
+  const fs::path path = fs::absolute(L"build/program") / std::to_wstring(++folders);
+  fs::remove_all(path);
+  fs::create_directories(path);
+  fs::create_hard_link(full_folder() / "lexilo.exe", path / "lexilo.exe");
+  return path;
+}
+
+}  // namespace
+
+AppFolder AppFolder::full() { return AppFolder(full_folder()); }
+
+AppFolder AppFolder::small() {
+  AppFolder folder(freshFolder());
+  fs::copy_file(named(L"LEXILO_SMALL_DATABASE", L"build/small/kk.dat"), folder.database());
+  return folder;
+}
+
+AppFolder AppFolder::empty() { return AppFolder(freshFolder()); }
+
+void AppFolder::damageDatabase(std::uintmax_t offset, std::uintmax_t length) const {
+  std::fstream file(database(), std::ios::binary | std::ios::in | std::ios::out);
+  file.exceptions(std::ios::failbit | std::ios::badbit);
+  file.seekp(static_cast<std::streamoff>(offset));
+  // A pattern that is neither a page of a database nor zeros.
+  static constexpr std::array<char, 4> kNonsense{'\xff', '\x5a', '\x01', '\xa5'};
+  for (std::uintmax_t i = 0; i < length; ++i) file.put(kNonsense[i % kNonsense.size()]);
+}
+
+}  // namespace harness

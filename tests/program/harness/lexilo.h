@@ -1,0 +1,62 @@
+#pragma once
+
+#include <vector>
+
+#include "tests/program/harness/app_folder.h"
+#include "tests/program/harness/find.h"
+#include "tests/program/harness/process.h"
+#include "tests/program/harness/quick_lookup.h"
+
+namespace harness {
+
+/// The toolbar's buttons, from left to right.
+enum class ToolbarButton { quickLookup, multiFunction, dictionarySettings, capture, help, menu };
+
+/// The items of the toolbar's menu, in steps of the Down key from above the first; negative ones in
+/// steps of the Up key from below the last. Separators are no steps.
+enum class MenuItem {
+  multiFunction = 1,
+  quickLookup = 2,
+  capture = 3,
+  help = 5,
+  about = 6,
+  homePage = 7,
+  exit = -1
+};
+
+/// Lexilo, started as a user starts it.
+class Lexilo {
+ public:
+  /// Starts the program of `folder` and waits for nothing.
+  explicit Lexilo(const AppFolder& folder);
+
+  [[nodiscard]] const Process& process() const { return process_; }
+
+  /// The toolbar's window, once it is visible.
+  [[nodiscard]] HWND toolbar() const;
+
+  /// The handle that the toolbar is dragged by, screen pixels.
+  [[nodiscard]] RECT grip() const;
+
+  [[nodiscard]] RECT buttonRect(ToolbarButton button) const;
+  void click(ToolbarButton button) const;
+
+  /// Opens the quick lookup window by the toolbar's first button and waits for it.
+  [[nodiscard]] QuickLookup openQuickLookup() const;
+
+  /// Drops the toolbar's menu down and waits for it. Returns its window.
+  HWND dropMenu() const;
+
+  /// Drops the menu down and chooses an item by the keys.
+  void choose(MenuItem item) const;
+
+  /// Ends the program by its menu and returns its exit code.
+  DWORD exit() const;
+
+ private:
+  [[nodiscard]] std::vector<HWND> buttons() const;
+
+  Process process_;
+};
+
+}  // namespace harness

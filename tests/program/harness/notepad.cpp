@@ -1,0 +1,29 @@
+#include "tests/program/harness/notepad.h"
+
+#include "tests/program/harness/input.h"
+
+namespace harness {
+
+Notepad::Notepad()
+    : process_(L"C:\\windows\\system32\\notepad.exe"),
+      window_(waitForWindow({.process = process_.id(), .className = L"Notepad", .title = {}})),
+      edit_(waitForChild(window_, L"Edit")) {
+  waitFor("Notepad to come to the front", [&] { return GetForegroundWindow() == window_; });
+}
+
+void Notepad::clickIntoText() const {
+  input::click(centreOf(clientRectOf(edit_)));
+  waitFor("Notepad's text to get the keyboard",
+          [&] { return GetForegroundWindow() == window_ && focusIn(window_) == edit_; });
+}
+
+void Notepad::place(const RECT& rect) const {
+  SetWindowPos(window_, nullptr, rect.left, rect.top, rect.right - rect.left,
+               rect.bottom - rect.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  waitFor("Notepad to be moved", [&] {
+    const RECT now = rectOf(window_);
+    return EqualRect(&now, &rect) != FALSE;
+  });
+}
+
+}  // namespace harness

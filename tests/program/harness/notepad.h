@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include "tests/program/harness/find.h"
+#include "tests/program/harness/process.h"
+
+namespace harness {
+
+/// The system's Notepad, as another program that users work in.
+class Notepad {
+ public:
+  /// Starts it and waits until one can type into it.
+  Notepad();
+
+  [[nodiscard]] HWND window() const { return window_; }
+  [[nodiscard]] std::wstring text() const { return textOf(edit_); }
+
+  /// Clicks into its text and waits until it has the keyboard.
+  void clickIntoText() const;
+
+  /// Moves and resizes its window, outer frame included.
+  void place(const RECT& rect) const;
+
+ private:
+  Process process_;
+  HWND window_;
+  HWND edit_;
+};
+
+}  // namespace harness

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <windows.h>
+
+#include "tests/program/harness/process.h"
+
+/// The popup menu that a program has dropped down. Its items cannot be read from outside; they are
+/// chosen as users choose them.
+namespace harness::popup_menu {
+
+/// The menu's window, once it is there.
+HWND waitForMenu(const Process& program);
+
+/// Whether there is one now.
+bool isOpen(const Process& program);
+
+/// Chooses by keys: `steps` times Down (negative: Up), then Enter. Separators are no steps.
+void choose(int steps);
+
+/// Closes it with Esc.
+void dismiss(const Process& program);
+
+}  // namespace harness::popup_menu

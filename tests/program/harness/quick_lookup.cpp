@@ -1,0 +1,79 @@
+#include "tests/program/harness/quick_lookup.h"
+
+#include "tests/program/harness/controls.h"
+#include "tests/program/harness/input.h"
+#include "tests/program/harness/text.h"
+
+namespace harness {
+namespace {
+
+Sought windowOf(const Process& process) {
+  return {.process = process.id(), .className = L"Lexilo.frmSub", .title = {}};
+}
+
+}  // namespace
+
+QuickLookup::QuickLookup(const Process& process)
+    : window_(waitForWindow(windowOf(process))),
+      input_(waitForChild(window_, L"Edit")),
+      list_(waitForChild(window_, L"SysTreeView32")),
+      pane_(waitForChild(window_, L"RICHEDIT50W")),
+      exitButton_(waitForChild(window_, L"Button")) {
+  waitFor("the quick lookup window to come to the front",
+          [&] { return GetForegroundWindow() == window_; });
+}
+
+HWND QuickLookup::find(const Process& process) { return findWindow(windowOf(process)); }
+
+RECT QuickLookup::splitter() const {
+  // Of the two static controls it is the one beside the list.
+  for (HWND child : childrenOf(window_, L"Static")) {
+    if (rectOf(child).top == rectOf(list_).top) return rectOf(child);
+  }
+  throw Failure("the quick lookup window has no splitter");
+}
+
+std::vector<std::wstring> QuickLookup::words() const { return treeTexts(list_); }
+
+std::wstring QuickLookup::meaning() const { return textOf(pane_); }
+
+std::wstring QuickLookup::typed() const { return textOf(input_); }
+
+std::wstring QuickLookup::headword() const {
+  const std::wstring text = meaning();
+  const std::wstring line = text.substr(0, text.find(L'\r'));
+  return line.starts_with(L' ') ? line.substr(1) : line;
+}
+
+void QuickLookup::type(const std::wstring& text) const {
+  input::click(centreOf(clientRectOf(input_)));
+  waitFor("the input box to get the keyboard",
+          [&] { return GetForegroundWindow() == window_ && focusIn(window_) == input_; });
+  input::key(VK_END);
+  input::key(VK_HOME, {VK_SHIFT});
+  input::key(VK_DELETE);
+  waitFor("the input box to be empty", [&] { return typed().empty(); });
+  input::type(text);
+  waitFor("the typed text " + utf8(text), [&] { return typed() == text; });
+}
+
+void QuickLookup::lookUp(const std::wstring& text, const std::wstring& headword) const {
+  type(text);
+  waitForHeadword(headword);
+}
+
+void QuickLookup::waitForHeadword(const std::wstring& headword) const {
+  waitFor("the meaning of " + utf8(headword), [&] { return this->headword() == headword; });
+}
+
+void QuickLookup::clickWord(int index) const {
+  const auto node = waitFor("a place to click", [&] { return treeNodeRect(list_, index); });
+  input::click(centreOf(node.value()));
+}
+
+void QuickLookup::close() const {
+  input::click(centreOf(rectOf(exitButton_)));
+  waitUntilGone(window_);
+}
+
+}  // namespace harness

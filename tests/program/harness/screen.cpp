@@ -1,0 +1,76 @@
+#include "tests/program/harness/screen.h"
+
+#include <filesystem>
+
+#include "tests/program/harness/process.h"
+
+namespace harness {
+namespace {
+
+/// A bitmap of 32 bits a pixel, top row first, selected into a device context of its own.
+class Canvas {
+ public:
+  explicit Canvas(SIZE size) : size_(size), context_(CreateCompatibleDC(nullptr)) {
+    BITMAPINFO information{};
+    information.bmiHeader.biSize = sizeof information.bmiHeader;
+    information.bmiHeader.biWidth = size.cx;
+    information.bmiHeader.biHeight = -size.cy;
+    information.bmiHeader.biPlanes = 1;
+    information.bmiHeader.biBitCount = 32;
+    bitmap_ = CreateDIBSection(context_, &information, DIB_RGB_COLORS, &bits_, nullptr, 0);
+    before_ = SelectObject(context_, bitmap_);
+  }
+  Canvas(const Canvas&) = delete;
+  Canvas& operator=(const Canvas&) = delete;
+  ~Canvas() {
+    SelectObject(context_, before_);
+    DeleteObject(bitmap_);
+    DeleteDC(context_);
+  }
+
+  [[nodiscard]] HDC context() const { return context_; }
+
+  [[nodiscard]] std::vector<COLORREF> pixels() const {
+    GdiFlush();
+    const auto* quads = static_cast<const RGBQUAD*>(bits_);
+    std::vector<COLORREF> colours;
+    for (LONG i = 0; i < size_.cx * size_.cy; ++i) {
+      colours.push_back(RGB(quads[i].rgbRed, quads[i].rgbGreen, quads[i].rgbBlue));
+    }
+    return colours;
+  }
+
+ private:
+  SIZE size_;
+  HDC context_;
+  void* bits_ = nullptr;
+  HBITMAP bitmap_ = nullptr;
+  HGDIOBJ before_ = nullptr;
+};
+
+}  // namespace
+
+std::vector<COLORREF> screenPixels(const RECT& rect) {
+  const SIZE size{rect.right - rect.left, rect.bottom - rect.top};
+  const Canvas canvas(size);
+  HDC screen = GetDC(nullptr);
+  BitBlt(canvas.context(), 0, 0, size.cx, size.cy, screen, rect.left, rect.top, SRCCOPY);
+  ReleaseDC(nullptr, screen);
+  return canvas.pixels();
+}
+
+std::vector<COLORREF> iconPixels(const wchar_t* icon, SIZE size) {
+  const Canvas canvas(size);
+  const RECT whole{0, 0, size.cx, size.cy};
+  FillRect(canvas.context(), &whole, GetSysColorBrush(COLOR_BTNFACE));
+  DrawIconEx(canvas.context(), 0, 0, LoadIconW(nullptr, icon), size.cx, size.cy, 0, nullptr,
+             DI_NORMAL);
+  return canvas.pixels();
+}
+
+void saveScreenshot(const std::string& file) {
+  std::filesystem::create_directories(std::filesystem::path(file).parent_path());
+  runBelow("import -window root " + file);
+}
+
+}  // namespace harness

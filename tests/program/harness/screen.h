@@ -1,0 +1,21 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+/// What is really on the screen.
+namespace harness {
+
+/// The colours of a rectangle of the screen, row by row.
+std::vector<COLORREF> screenPixels(const RECT& rect);
+
+/// The colours of one of the system's icons (IDI_ERROR ...) on the background of dialogs.
+std::vector<COLORREF> iconPixels(const wchar_t* icon, SIZE size);
+
+/// Writes a picture of the whole screen; `file` is a path below the current directory, ending in
+/// ".png". Folders are made as needed.
+void saveScreenshot(const std::string& file);
+
+}  // namespace harness

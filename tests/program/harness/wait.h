@@ -1,0 +1,45 @@
+#pragma once
+
+#include <windows.h>
+
+#include <stdexcept>
+#include <string>
+
+/// Waiting for what another program is about to do: by looking, never by sleeping for luck.
+namespace harness {
+
+/// Something that should have happened did not, or a call to the system failed.
+class Failure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// How long a test waits for anything unless it says otherwise, in milliseconds.
+inline constexpr DWORD kPatience = 10'000;
+
+/// Calls `look` until what it returns is true (or not null), and returns that. Throws Failure
+/// naming `what` when `milliseconds` have passed.
+template <class Look>
+auto waitFor(const std::string& what, Look look, DWORD milliseconds = kPatience) {
+  const ULONGLONG deadline = GetTickCount64() + milliseconds;
+  while (true) {
+    if (auto seen = look()) return seen;
+    if (GetTickCount64() >= deadline) {
+      throw Failure("waited " + std::to_string(milliseconds) + " ms in vain for: " + what);
+    }
+    Sleep(5);
+  }
+}
+
+/// Whether `look` stays false for `milliseconds`: for what must not happen.
+template <class Look>
+bool neverWithin(DWORD milliseconds, Look look) {
+  const ULONGLONG deadline = GetTickCount64() + milliseconds;
+  while (GetTickCount64() < deadline) {
+    if (look()) return false;
+    Sleep(5);
+  }
+  return true;
+}
+
+}  // namespace harness

@@ -1,0 +1,75 @@
+// A short tour of Lexilo where nobody is watching: what a user would do first, with pictures of it.
+//
+//   tour.exe PICTURE_FOLDER
+#include <windows.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <span>
+#include <string>
+
+#include "tests/program/harness/lexilo.h"
+#include "tests/program/harness/screen.h"
+#include "tests/program/harness/text.h"
+
+namespace {
+
+using namespace harness;
+
+class Tour {
+ public:
+  explicit Tour(std::string pictures) : pictures_(std::move(pictures)) {}
+
+  void play() {
+    const Lexilo lexilo(AppFolder::full());
+    static_cast<void>(lexilo.toolbar());
+    show("The toolbar floats near the top right corner", "toolbar");
+
+    const QuickLookup window = lexilo.openQuickLookup();
+    waitFor("the first words", [&] { return !window.words().empty(); });
+    show("Its first button opens the quick lookup window", "open");
+
+    window.lookUp(L"data");
+    show("«data» is typed", "typed");
+
+    const std::wstring third = window.words().at(2);
+    window.clickWord(2);
+    window.waitForHeadword(third);
+    show("«" + utf8(third) + "» is chosen from the list", "chosen");
+
+    window.lookUp(L"数据");
+    show("«数据» is typed", "chinese");
+
+    window.close();
+    const DWORD code = lexilo.exit();
+    if (code != 0) throw Failure("Lexilo ended with code " + std::to_string(code));
+    std::puts("The last item of the toolbar's menu ends the program.");
+  }
+
+ private:
+  void show(const std::string& what, const std::string& name) {
+    const std::string file = pictures_ + "/" + std::to_string(++shown_) + "-" + name + ".png";
+    saveScreenshot(file);
+    std::printf("%s: %s\n", what.c_str(), file.c_str());
+    std::fflush(stdout);
+  }
+
+  std::string pictures_;
+  int shown_ = 0;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+  const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
+  try {
+    if (arguments.size() != 2) throw Failure("usage: tour PICTURE_FOLDER");
+    Tour(arguments[1]).play();
+    return EXIT_SUCCESS;
+  } catch (const std::exception& error) {
+    std::printf("error: the tour stopped: %s\n", error.what());
+    return EXIT_FAILURE;
+  }
+}
