@@ -173,6 +173,12 @@ Widget* Form::widgetAt(POINT screen, const Widget* except) const {
   return nullptr;
 }
 
+Widget* Form::grabberAt(POINT screen) const {
+  const auto found = std::find_if(widgets_.begin(), widgets_.end(),
+                                  [&](const Widget* widget) { return widget->grabs(screen); });
+  return found == widgets_.end() ? nullptr : *found;
+}
+
 void Form::addWidget(Widget& widget) { widgets_.push_back(&widget); }
 
 void Form::removeWidget(Widget& widget) { std::erase(widgets_, &widget); }

@@ -72,6 +72,9 @@ class Form {
   /// The widget under a screen point, or nullptr; `except` is looked through.
   [[nodiscard]] Widget* widgetAt(POINT screen, const Widget* except = nullptr) const;
 
+  /// The widget that takes the mouse at a screen point beside it, or nullptr.
+  [[nodiscard]] Widget* grabberAt(POINT screen) const;
+
   void addWidget(Widget& widget);
   void removeWidget(Widget& widget);
   void setToolTip(Widget& widget, const std::u16string& text);
@@ -102,6 +105,7 @@ class Form {
   void paint();
   void giveFocusBack();
   void rescale(int dpi, const RECT& suggested);
+  bool passToGrabber(UINT message, WPARAM wParam, LPARAM lParam);
   void limitTracking(MINMAXINFO& limits) const;
   void adjustPlacement(WINDOWPOS& position) const;
   [[nodiscard]] SIZE outerPixels(int width, int height) const;

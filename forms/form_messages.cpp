@@ -71,7 +71,12 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       // A control asks its form first; the shape of its own is its own affair.
       if (reinterpret_cast<HWND>(wParam) != handle_) return FALSE;
       break;
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+      passToGrabber(message, wParam, lParam);
+      return 0;
     case WM_MOUSEMOVE:
+      if (passToGrabber(message, wParam, lParam)) return 0;
       onMouseMove.raise({toTwips(GET_X_LPARAM(lParam), dpi_), toTwips(GET_Y_LPARAM(lParam), dpi_)});
       return 0;
     case WM_COMMAND:
@@ -98,6 +103,16 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
   }
   return DefWindowProcW(handle_, message, wParam, lParam);
+}
+
+bool Form::passToGrabber(UINT message, WPARAM wParam, LPARAM lParam) {
+  POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  ClientToScreen(handle_, &point);
+  Widget* grabber = grabberAt(point);
+  if (grabber == nullptr) return false;
+  ScreenToClient(grabber->handle(), &point);
+  SendMessageW(grabber->handle(), message, wParam, MAKELPARAM(point.x, point.y));
+  return true;
 }
 
 void Form::paint() {

@@ -58,6 +58,14 @@ LRESULT Image::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return Widget::handleMessage(message, wParam, lParam);
 }
 
+bool Image::grabs(POINT screen) const {
+  if (grabMargin_ == 0 || dragged_ || !IsWindowVisible(handle())) return false;
+  RECT rect{};
+  GetWindowRect(handle(), &rect);
+  InflateRect(&rect, toPixels(grabMargin_, form().dpi()), 0);
+  return PtInRect(&rect, screen) != FALSE;
+}
+
 void Image::paint() const {
   PAINTSTRUCT paint;
   HDC dc = BeginPaint(handle(), &paint);
@@ -71,6 +79,9 @@ void Image::paint() const {
 
 void Image::beginDrag() {
   dragged_ = true;
+  // Where the button went down, not where the pointer has got to since.
+  const DWORD pressed = GetMessagePos();
+  dragStart_ = {GET_X_LPARAM(pressed), GET_Y_LPARAM(pressed)};
   SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   InvalidateRect(handle(), nullptr, FALSE);
 }
@@ -88,7 +99,9 @@ void Image::follow(POINT screen) {
 }
 
 void Image::drop(POINT screen) {
-  Widget* target = form().widgetAt(screen, this);
+  // A press that did not move is no drag, wherever beside the line it took hold.
+  const bool moved = screen.x != dragStart_.x || screen.y != dragStart_.y;
+  Widget* target = moved ? form().widgetAt(screen, this) : nullptr;
   if (target != nullptr) {
     RECT rect{};
     GetWindowRect(target->handle(), &rect);

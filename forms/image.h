@@ -10,6 +10,11 @@ class Image : public Widget {
   enum class Look { grip, line };
   Image(Form& form, Look look, const WidgetBox& box);
 
+  /// Lets the mouse take hold up to `twips` left and right of the widget too: a splitter's line is
+  /// too thin to be hit.
+  void setGrabMargin(int twips) { grabMargin_ = twips; }
+  [[nodiscard]] bool grabs(POINT screen) const override;
+
   /// Starts a drag of this widget, which follows the pointer from left to right. Releasing the
   /// button drops it on the widget below the pointer, whose onDragDrop hears of it.
   void beginDrag();
@@ -31,7 +36,9 @@ class Image : public Widget {
   void drop(POINT screen);
 
   Look look_;
+  int grabMargin_ = 0;
   bool dragged_ = false;
+  POINT dragStart_{};
 };
 
 }  // namespace forms

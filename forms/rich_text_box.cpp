@@ -32,7 +32,17 @@ RichTextBox::RichTextBox(Form& form, const WidgetBox& box)
 void RichTextBox::setText(const std::u16string& text) {
   text_ = text;
   SetWindowTextW(handle(), wide(text));
+  if (hangingIndent_ == 0 || text.empty()) return;
+  PARAFORMAT format{};
+  format.cbSize = sizeof format;
+  format.dwMask = PFM_OFFSET;
+  format.dxOffset = hangingIndent_;
+  select(0, text.size());
+  send(EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&format));
+  select(0, 0);
 }
+
+void RichTextBox::setHangingIndent(int twips) { hangingIndent_ = twips; }
 
 std::u16string RichTextBox::text() const { return windowText(handle()); }
 

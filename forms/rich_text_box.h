@@ -20,6 +20,9 @@ class RichTextBox : public Widget {
   [[nodiscard]] std::size_t selLength() const;
   [[nodiscard]] std::u16string selText() const;
   void setSelColor(COLORREF color);
+  /// Indents every wrapped line by `twips` against the first of its paragraph, in all texts set
+  /// from now on.
+  void setHangingIndent(int twips);
 
   /// While one lives, the pane does not repaint; then once.
   class RepaintHeld {
@@ -38,6 +41,7 @@ class RichTextBox : public Widget {
 
  private:
   std::u16string text_;
+  int hangingIndent_ = 0;
 };
 
 }  // namespace forms

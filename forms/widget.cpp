@@ -65,6 +65,13 @@ LRESULT Widget::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KILLFOCUS:
       focusMayHaveMoved();
       break;
+    case WM_NCHITTEST:
+      // The mouse goes to the form then, which hands it to the one that grabs it.
+      if (const POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+          Widget* grabber = form_.grabberAt(point)) {
+        if (grabber != this) return HTTRANSPARENT;
+      }
+      break;
     case WM_SETCURSOR:
       if (SendMessageW(form_.handle(), message, wParam, lParam) != FALSE) return TRUE;
       break;
@@ -142,7 +149,7 @@ void Widget::applyBox() {
   const int right = toPixels(box_.left + box_.width, dpi);
   const int bottom = toPixels(box_.top + box_.height, dpi);
   SetWindowPos(handle_, nullptr, left, top, std::max(right - left, 0), std::max(bottom - top, 0),
-               SWP_NOZORDER | SWP_NOACTIVATE);
+               SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
 }
 
 void Widget::setVisible(bool visible) { ShowWindow(handle_, visible ? SW_SHOWNA : SW_HIDE); }

@@ -80,6 +80,8 @@ class Widget {
   virtual LRESULT notify(const NMHDR& header);
   /// Called after the form moved to a monitor of another resolution.
   virtual void rescale();
+  /// Whether the mouse at a screen point is this widget's although the point lies beside it.
+  [[nodiscard]] virtual bool grabs(POINT /*screen*/) const { return false; }
 
  protected:
   virtual LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam);

@@ -24,6 +24,12 @@ forms::FormDesign design() {
 constexpr std::u16string_view kFirstWord = u"a";
 constexpr int kMostListed = 100;
 
+/// The splitter is one pixel wide; the mouse takes hold of it from three more on each side.
+constexpr int kSplitterMargin = 45;
+
+/// Sets the wrapped part of a meaning off from the next one.
+constexpr int kHangingIndent = 180;
+
 /// What English input may not start with.
 constexpr std::u16string_view kWildcards = u"*_?%";
 
@@ -31,6 +37,7 @@ constexpr std::u16string_view kWildcards = u"*_?%";
 
 frmSub::frmSub() : Form(design()), lookup_(user::IdxWords, data::LookupRules{}) {
   txtInput.setFont({u"宋体", 10.5});
+  txtOut.setHangingIndent(kHangingIndent);
   txtInput.onChange = [this] { txtInput_Change(); };
   txtInput.onGotFocus = [this] { txtInput_GotFocus(); };
   txtInput.onLostFocus = [this] { txtInput_LostFocus(); };
@@ -49,6 +56,7 @@ void frmSub::wireMouse() {
        std::initializer_list<forms::Widget*>{&Label1, &txtInput, &cmdExit, &TreeView1, &txtOut}) {
     widget->onMouseMove = showOwnPointer;
   }
+  Image1.setGrabMargin(kSplitterMargin);
   Image1.onMouseMove = [this](forms::Place) { Image1_MouseMove(); };
   Image1.onMouseDown = [this](forms::Place) { Image1_MouseDown(); };
   Image1.onDragEnded = [this] { placeListAndPane(); };
