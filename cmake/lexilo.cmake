@@ -21,6 +21,13 @@ if(LEXILO_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(LEXILO_FUZZ)
+  # Coverage guides the fuzzer through our own code only; SQLite, which is C, is watched for errors.
+  add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fsanitize=fuzzer-no-link>
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
 # lexilo_library(NAME SOURCES file... LINKS target...)
 function(lexilo_library name)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
