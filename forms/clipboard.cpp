@@ -2,7 +2,8 @@
 
 #include <stdexcept>
 
-#include "forms/win32.h"
+#include "forms/line_ends.h"
+#include "forms/system_error.h"
 
 namespace forms {
 namespace {
@@ -11,9 +12,9 @@ constexpr DWORD kPatience = 100;  // ms
 
 class OpenClipboardLock {
  public:
-  OpenClipboardLock() {
+  explicit OpenClipboardLock(HWND owner) {
     const ULONGLONG start = GetTickCount64();
-    while (!OpenClipboard(nullptr)) {
+    while (!OpenClipboard(owner)) {
       if (GetTickCount64() - start >= kPatience) {
         throw std::runtime_error("剪贴板正被其他程序占用，请稍后再试。");
       }
@@ -36,13 +37,16 @@ HGLOBAL copyToGlobalMemory(const std::u16string& text) {
 
 }  // namespace
 
-void setClipboardText(std::u16string_view text) {
+void setClipboardText(HWND owner, std::u16string_view text) {
   const std::u16string lines = withWindowsLineEnds(text);
-  const OpenClipboardLock lock;
+  const OpenClipboardLock lock(owner);
   EmptyClipboard();
   HGLOBAL memory = copyToGlobalMemory(lines);
   // The clipboard owns the memory once it has taken it.
-  if (SetClipboardData(CF_UNICODETEXT, memory) == nullptr) GlobalFree(memory);
+  if (SetClipboardData(CF_UNICODETEXT, memory) == nullptr) {
+    GlobalFree(memory);
+    throwLastError();
+  }
 }
 
 }  // namespace forms

@@ -1,4 +1,4 @@
-#include "forms/clipboard.h"
+#include "forms/line_ends.h"
 
 namespace forms {
 

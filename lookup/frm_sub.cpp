@@ -166,7 +166,7 @@ void frmSub::mnuSearch_Click() {
   txtOut.select(txtOut.selStart(), 0);
 }
 
-void frmSub::mnuCopy_Click() { forms::setClipboardText(txtOut.selText()); }
+void frmSub::mnuCopy_Click() { forms::setClipboardText(handle(), txtOut.selText()); }
 
 void frmSub::showSplitterPointer() { setMousePointer(IDC_SIZEWE); }
 
