@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "dictionary/characters.h"
+
 namespace dictionary {
 namespace {
 
@@ -21,6 +23,36 @@ Bracket kindAt(std::size_t index) {
   if (index == std::u16string_view::npos) return Bracket::kNone;
   if (index < kFirstSquare) return Bracket::kRound;
   return index < kFirstAngle ? Bracket::kSquare : Bracket::kAngle;
+}
+
+bool isValence(std::u16string_view content) {
+  return !content.empty() && content.find_first_not_of(u"IVX") == std::u16string_view::npos;
+}
+
+bool isRingPosition(std::u16string_view content) {
+  return !content.empty() && std::ranges::all_of(content, [](char16_t unit) {
+    return isDigit(unit) || (unit >= u'a' && unit <= u'z') || unit == u',' || unit == u'-' ||
+           unit == u'\'';
+  });
+}
+
+bool holdsLocant(std::u16string_view content) {
+  return std::ranges::any_of(content,
+                             [](char16_t unit) { return isDigit(unit) || isAsciiLetter(unit); });
+}
+
+/// Whether the group between `open` and `close` is part of a chemical name instead of a note.
+bool isPartOfName(std::u16string_view text, std::size_t open, std::size_t close) {
+  if (open == 0 || close + 1 == text.size()) return false;
+  const char16_t before = text[open - 1];
+  const char16_t after = text[close + 1];
+  const std::u16string_view content = text.substr(open + 1, close - open - 1);
+  if (openingBracket(text[open]) == Bracket::kSquare) {
+    return isHan(before) && isHan(after) && isRingPosition(content);
+  }
+  if (openingBracket(text[open]) != Bracket::kRound) return false;
+  return (isHan(before) && isHan(after) && isValence(content)) ||
+         ((before == u'-' || after == u'-') && holdsLocant(content));
 }
 
 }  // namespace
@@ -58,6 +90,7 @@ std::u16string withoutNotes(std::u16string_view text) {
     if (close == std::u16string_view::npos) {
       plain += text[i];
     } else {
+      if (isPartOfName(text, i, close)) plain += text.substr(i, close + 1 - i);
       i = close;
     }
   }

@@ -20,7 +20,8 @@ std::size_t closingPosition(std::u16string_view text, std::size_t open);
 /// 『…』); npos if there is no quotation mark at `open` or none that closes it.
 std::size_t quotationEnd(std::u16string_view text, std::size_t open);
 
-/// `text` without its bracketed notes. A bracket that does not close stays.
+/// `text` without its bracketed notes. Brackets that belong to a chemical name stay ("苯并[c]呋喃",
+/// "2-(1-萘甲基)-咪唑啉", "四氯合金(III)酸钾"), and so does one that does not close.
 std::u16string withoutNotes(std::u16string_view text);
 
 }  // namespace dictionary

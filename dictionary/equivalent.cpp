@@ -14,10 +14,8 @@ using namespace std::string_view_literals;
 
 constexpr std::size_t kMaxWord = 20;
 
-/// Kinds of words and bare particles: they translate nothing by themselves.
-constexpr std::array kLabels = {u"的"sv,   u"地"sv,   u"得"sv,  u"等"sv, u"类"sv,
-                                u"之类"sv, u"等等"sv, u"如"sv,  u"即"sv, u"亦作"sv,
-                                u"又作"sv, u"同"sv,   u"略作"sv};
+/// They translate nothing by themselves.
+constexpr std::array kLabels = {u"的"sv, u"亦作"sv, u"又作"sv, u"略作"sv};
 
 char16_t narrow(char16_t unit) {
   if (unit >= 0xFF01 && unit <= 0xFF5D) return static_cast<char16_t>(unit - 0xFEE0);
@@ -43,6 +41,23 @@ char16_t narrow(char16_t unit) {
   }
 }
 
+/// Straight quotation marks as an opening and a closing one in turn. Single ones are quotation
+/// marks where the first stands before Chinese text, else primes.
+std::u16string curled(std::u16string_view text) {
+  std::u16string result(text);
+  const std::size_t single = text.find(u'\'');
+  const bool singleQuotes = single + 1 < text.size() && isHan(text[single + 1]) &&
+                            std::ranges::count(text, u'\'') % 2 == 0;
+  bool open = false;
+  for (char16_t& unit : result) {
+    if (unit == u'"' || unit == u'＂' || (unit == u'\'' && singleQuotes)) {
+      open = !open;
+      unit = open ? u'“' : u'”';
+    }
+  }
+  return result;
+}
+
 /// Narrow forms, with three full stops as an ellipsis and ellipses folded to one.
 std::u16string narrowed(std::u16string_view text) {
   std::u16string result;
@@ -58,37 +73,60 @@ std::u16string narrowed(std::u16string_view text) {
   return result;
 }
 
-bool isTrimmed(char16_t unit) {
-  constexpr std::u16string_view kTrimmed = u" …。.!?:=·,";
-  return kTrimmed.find(unit) != std::u16string_view::npos;
+bool isEither(char16_t unit, std::u16string_view units) {
+  return units.find(unit) != std::u16string_view::npos;
 }
 
 std::u16string_view trimmed(std::u16string_view text) {
-  while (!text.empty() && isTrimmed(text.front())) text.remove_prefix(1);
-  while (!text.empty() && (isTrimmed(text.back()) || text.back() == u'-')) text.remove_suffix(1);
+  while (!text.empty() && isEither(text.front(), u" …。.:=·,")) text.remove_prefix(1);
+  while (!text.empty() && isEither(text.back(), u" …。.!?:=·,-")) text.remove_suffix(1);
   return text;
 }
 
-std::u16string_view withoutOuterQuotes(std::u16string_view text) {
-  if (!text.empty() && quotationEnd(text, 0) == text.size()) {
-    return text.substr(1, text.size() - 2);
-  }
-  return text;
+/// Without the hyphen that a deleted note leaves in front: "(Z)-丁烯酸".
+std::u16string_view withoutHyphen(std::u16string_view text) {
+  const bool left =
+      text.size() > 2 && text[0] == u'-' && (isHan(text[1]) || isDigit(text[1]) || text[1] == u' ');
+  return left ? text.substr(text[1] == u' ' ? 2 : 1) : text;
 }
 
-/// Without the words that an abbreviation stands for ("National Gallery 国家美术馆"): at least two
-/// foreign words, one of them in small letters, and a blank before the Chinese text.
-std::u16string_view withoutExpansion(std::u16string_view text) {
-  std::size_t han = 0;
-  std::size_t blanks = 0;
-  bool small = false;
-  for (; han < text.size() && text[han] < 0x100; ++han) {
-    if (text[han] == u' ') ++blanks;
-    small = small || (text[han] >= u'a' && text[han] <= u'z');
-  }
-  const bool expansion = han < text.size() && isHan(text[han]) && blanks >= 2 && small &&
-                         text[han - 1] == u' ' && isLatin(text[0]);
-  return expansion ? text.substr(han) : text;
+/// Without quotation marks around all of it or around a foreign word in front.
+std::u16string withoutQuotes(std::u16string_view text) {
+  const std::size_t end = text.empty() ? std::u16string_view::npos : quotationEnd(text, 0);
+  if (end == std::u16string_view::npos) return std::u16string(text);
+  const std::u16string_view quoted = text.substr(1, end - 2);
+  const bool foreign = std::ranges::all_of(quoted, [](char16_t unit) { return unit < 0x100; });
+  if (end != text.size() && !foreign) return std::u16string(text);
+  return std::u16string(quoted) + std::u16string(text.substr(end));
+}
+
+/// Without the foreign words before a blank and the Chinese text: those that an abbreviation stands
+/// for ("National Gallery 国家美术馆"), or forms of the headword ("-dled, -dling 逃走").
+std::u16string_view withoutExpansion(std::u16string_view text, bool abbreviation) {
+  const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
+  const auto end = std::ranges::find_if(text, [](char16_t unit) { return unit >= 0x100; });
+  const auto length = static_cast<std::size_t>(end - text.begin());
+  const std::u16string_view foreign = text.substr(0, length);
+  const auto blanks = std::ranges::count(foreign, u' ');
+  const bool parted = foreign.ends_with(u' ') || (abbreviation && blanks > 1);
+  if (end == text.end() || length < 2 || !isHan(*end) || !parted) return text;
+  const auto small = std::ranges::count_if(foreign, isSmall);
+  const bool words =
+      isLatin(foreign[0]) && small > 1 && (abbreviation || std::ranges::count(foreign, u' ') > 1);
+  const bool forms = foreign[0] == u'-' && small > 0;
+  return words || forms ? text.substr(length) : text;
+}
+
+/// Without the foreign words that the translation of an abbreviation goes on with ("商用货架产品
+/// commercial off-the-shelf"): two or more, in small letters but for their first.
+std::u16string_view withoutTail(std::u16string_view text) {
+  const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
+  std::size_t begin = text.size();
+  while (begin > 0 && text[begin - 1] < 0x100) --begin;
+  const std::u16string_view foreign = text.substr(begin);
+  const bool words = begin > 0 && isHan(text[begin - 1]) && std::ranges::count(foreign, u' ') > 0 &&
+                     std::ranges::count_if(foreign, isSmall) > 4;
+  return words ? text.substr(0, begin) : text;
 }
 
 /// Chinese is written without blanks: only those between two foreign words stay.
@@ -103,23 +141,44 @@ std::u16string withoutChineseBlanks(std::u16string_view text) {
 }
 
 bool isAllowed(char16_t unit) {
-  constexpr std::u16string_view kMarks = u" -./+&,·…′″°×±～“”《》℃";
+  constexpr std::u16string_view kMarks = u" -./+&,·…′″°×±～“”《》℃()[]";
   return isHan(unit) || isLatin(unit) || isDigit(unit) || isGreek(unit) ||
          (unit >= 0x2160 && unit <= 0x217F) || kMarks.find(unit) != std::u16string_view::npos;
 }
 
 bool hasHan(std::u16string_view text) { return std::ranges::any_of(text, isHan); }
 
+/// Whether marks are left that belong to something deleted or lost.
+bool hasLooseEnds(std::u16string_view word) {
+  constexpr std::array kPairs = {u"“”"sv, u"《》"sv, u"()"sv, u"[]"sv};
+  const bool unbalanced = std::ranges::any_of(kPairs, [&](std::u16string_view pair) {
+    return std::ranges::count(word, pair[0]) != std::ranges::count(word, pair[1]);
+  });
+  const bool suffix = word.size() > 1 && word[0] == u'-' && isLatin(word[1]) &&
+                      word.find(u'的') == std::u16string_view::npos;
+  const std::size_t range = word.find(u'～');
+  const bool looseRange =
+      range != std::u16string_view::npos && (range == 0 || !isDigit(word[range - 1]));
+  return unbalanced || suffix || looseRange || word.starts_with(u'+') || word.starts_with(u'&') ||
+         word.find(u"--") != std::u16string_view::npos;
+}
+
+/// "见 -ion" says where else to look; "的简写" is what is left behind a foreign word.
+bool isReference(std::u16string_view word) {
+  const bool elsewhere =
+      word.size() > 1 && word[0] == u'见' && (isLatin(word[1]) || word[1] == u'-');
+  return elsewhere || word == u"的简写" || word == u"的缩写";
+}
+
 PieceFault findFault(std::u16string_view word) {
   if (!hasHan(word)) return PieceFault::kNoHan;
   if (!isIntact(word)) return PieceFault::kLostCharacter;
   if (!std::ranges::all_of(word, isAllowed)) return PieceFault::kPunctuation;
-  if (std::ranges::count(word, u'“') != std::ranges::count(word, u'”') ||
-      std::ranges::count(word, u'《') != std::ranges::count(word, u'》')) {
-    return PieceFault::kPunctuation;
-  }
+  if (hasLooseEnds(word)) return PieceFault::kPunctuation;
   if (word.size() > kMaxWord) return PieceFault::kTooLong;
-  if (std::ranges::find(kLabels, word) != kLabels.end()) return PieceFault::kLabel;
+  if (isReference(word) || std::ranges::find(kLabels, word) != kLabels.end()) {
+    return PieceFault::kLabel;
+  }
   return PieceFault::kNone;
 }
 
@@ -146,10 +205,12 @@ std::string_view describe(PieceFault fault) {
   return "nothing wrong";
 }
 
-Equivalent makeEquivalent(std::u16string_view piece) {
-  const std::u16string plain = narrowed(withoutNotes(piece));
-  const std::u16string_view bare = withoutOuterQuotes(trimmed(plain));
-  std::u16string word = withoutChineseBlanks(trimmed(withoutExpansion(bare)));
+Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation) {
+  const std::u16string plain = narrowed(curled(withoutNotes(piece)));
+  const std::u16string bare = withoutQuotes(trimmed(plain));
+  const std::u16string_view chinese =
+      withoutHyphen(withoutTail(withoutExpansion(bare, abbreviation)));
+  std::u16string word = withoutChineseBlanks(trimmed(chinese));
   const PieceFault fault = findFault(word);
   if (fault != PieceFault::kNone) word.clear();
   return {std::move(word), fault};

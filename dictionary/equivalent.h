@@ -28,8 +28,9 @@ struct Equivalent {
 };
 
 /// Makes a Chinese headword of a piece: notes deleted, wide forms narrowed, dots and blanks
-/// trimmed, a foreign expansion in front dropped.
-Equivalent makeEquivalent(std::u16string_view piece);
+/// trimmed. The foreign words that an abbreviation stands for are dropped from in front of their
+/// translation, a single one only if `abbreviation` says that the piece translates one.
+Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation);
 
 /// Whether no lost or forbidden character stands in `text`.
 bool isIntact(std::u16string_view text);

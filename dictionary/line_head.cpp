@@ -1,5 +1,7 @@
 #include "dictionary/line_head.h"
 
+#include <algorithm>
+
 #include "dictionary/brackets.h"
 #include "dictionary/part_of_speech.h"
 
@@ -15,17 +17,34 @@ std::u16string_view trimBlanks(std::u16string_view text) {
   return text;
 }
 
+/// Length of what may stand between a note or numeral and a part-of-speech mark: "& ", "Ⅰ ", and
+/// the full stop of "n<古>.".
+std::size_t strayLength(std::u16string_view text, bool behindNote) {
+  if (behindNote && text.starts_with(u'.')) return 1;
+  constexpr std::u16string_view kStray = u"&.ⅠⅡⅢⅣ";
+  std::size_t length = 0;
+  while (length < text.size() &&
+         (kStray.find(text[length]) != std::u16string_view::npos || text[length] == u' ')) {
+    ++length;
+  }
+  return partOfSpeechLength(text.substr(length)) > 0 ? length : 0;
+}
+
 }  // namespace
 
 LineHead readHead(std::u16string_view text, bool shortTags) {
   LineHead head;
   std::size_t position = 0;
+  bool behindNote = false;
   for (;;) {
     while (position < text.size() && text[position] == u' ') ++position;
     head.length = position;
     if (position == text.size()) return head;
-    if (const std::size_t mark = partOfSpeechLength(text.substr(position)); mark > 0) {
-      position += mark;
+    const std::u16string_view rest = text.substr(position);
+    const std::size_t skipped = std::max(partOfSpeechLength(rest), strayLength(rest, behindNote));
+    if (skipped > 0) {
+      position += skipped;
+      head.abbreviation = head.abbreviation || rest.starts_with(u"abbr");
       continue;
     }
     const Bracket kind = openingBracket(text[position]);
@@ -40,6 +59,7 @@ LineHead readHead(std::u16string_view text, bool shortTags) {
     if (subjects == 0) head.notes += text.substr(position, close + 1 - position);
     head.subjects |= subjects;
     position = close + 1;
+    behindNote = true;
   }
 }
 

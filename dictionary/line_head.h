@@ -10,9 +10,10 @@ namespace dictionary {
 
 /// What stands in front of the Chinese text of a line or piece.
 struct LineHead {
-  std::size_t length = 0;   ///< of the whole head, blanks behind it included
-  SubjectSet subjects = 0;  ///< of its subject tags
-  std::u16string notes;     ///< its other bracketed notes, as they stand
+  std::size_t length = 0;     ///< of the whole head, blanks behind it included
+  SubjectSet subjects = 0;    ///< of its subject tags
+  std::u16string notes;       ///< its other bracketed notes, as they stand
+  bool abbreviation = false;  ///< whether it says that the word is an abbreviation
 };
 
 /// Reads part-of-speech marks, subject tags and notes at the beginning of `text`. With

@@ -40,6 +40,9 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
 }
 
 Tier tierOf(const Entry& entry, bool inflected, Kind kind, bool only, bool first) {
+  if (entry.important && only && kind != Kind::kOrdinary) {
+    return first ? Tier::kImportantFirst : Tier::kImportant;
+  }
   if (kind == Kind::kWeb) {
     if (!first) return Tier::kWeb;
     return only ? Tier::kOnlyWeb : Tier::kWebFirst;

@@ -12,12 +12,12 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr std::array kMarks = {
-    u"n"sv,    u"a"sv,    u"v"sv,      u"vt"sv,  u"vi"sv,    u"adj"sv,    u"adv"sv,
-    u"ad"sv,   u"abbr"sv, u"un"sv,     u"na"sv,  u"int"sv,   u"interj"sv, u"pl"sv,
-    u"pref"sv, u"prep"sv, u"pron"sv,   u"num"sv, u"conj"sv,  u"vbl"sv,    u"suf"sv,
-    u"suff"sv, u"comb"sv, u"aux"sv,    u"pla"sv, u"st"sv,    u"pp"sv,     u"phr"sv,
-    u"ph"sv,   u"art"sv,  u"exclam"sv, u"ind"sv, u"quant"sv, u"pn"sv,     u"tim"sv,
-    u"adl"sv,  u"ing"sv,  u"pers"sv,   u"col"sv, u"sing"sv,  u"symb"sv,
+    u"n"sv,     u"a"sv,    u"v"sv,     u"vt"sv,  u"vi"sv,     u"adj"sv,  u"adv"sv,    u"ad"sv,
+    u"abbr"sv,  u"un"sv,   u"na"sv,    u"int"sv, u"interj"sv, u"pl"sv,   u"pref"sv,   u"prep"sv,
+    u"pron"sv,  u"num"sv,  u"conj"sv,  u"vbl"sv, u"suf"sv,    u"suff"sv, u"comb"sv,   u"aux"sv,
+    u"pla"sv,   u"st"sv,   u"pp"sv,    u"phr"sv, u"ph"sv,     u"art"sv,  u"exclam"sv, u"ind"sv,
+    u"quant"sv, u"pn"sv,   u"tim"sv,   u"adl"sv, u"ing"sv,    u"pers"sv, u"col"sv,    u"sing"sv,
+    u"symb"sv,  u"pren"sv, u"stuff"sv,
 };
 
 /// Marks that occur without their full stop.
@@ -34,6 +34,13 @@ bool beginsChinese(std::u16string_view text) {
                            text[0] == u'…' || text[0] == u'“' || text[0] == u'《');
 }
 
+/// Whether a note and then the mark's full stop follow: "n<古>.", "a[生化].".
+bool isNoteThenStop(std::u16string_view text) {
+  if (text.empty() || openingBracket(text[0]) == Bracket::kNone) return false;
+  const std::size_t close = closingPosition(text, 0);
+  return close != std::u16string_view::npos && text.substr(close + 1).starts_with(u'.');
+}
+
 /// Length of one mark without what links it to the next.
 std::size_t markLength(std::u16string_view text) {
   std::size_t letters = 0;
@@ -43,9 +50,10 @@ std::size_t markLength(std::u16string_view text) {
   if (text[letters] == u'.' || text[letters] == u'．') {
     return std::ranges::find(kMarks, mark) == kMarks.end() ? 0 : letters + 1;
   }
+  if (std::ranges::find(kBareMarks, mark) == kBareMarks.end()) return 0;
   const std::size_t blanks = blanksAt(text, letters);
-  const bool bare = blanks > 0 && std::ranges::find(kBareMarks, mark) != kBareMarks.end() &&
-                    beginsChinese(text.substr(letters + blanks));
+  const bool bare = (blanks > 0 && beginsChinese(text.substr(letters + blanks))) ||
+                    isNoteThenStop(text.substr(letters));
   return bare ? letters : 0;
 }
 

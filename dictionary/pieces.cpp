@@ -27,6 +27,9 @@ char16_t separatorAt(char16_t unit) {
       return u'；';
     case u'、':
       return u'、';
+    case u'!':
+    case u'！':
+      return u'！';
     default:
       return 0;
   }

@@ -12,6 +12,9 @@ namespace {
 
 constexpr std::size_t kMaxHeadword = 64;
 
+/// Begins a line that says where the others were taken from.
+constexpr std::u16string_view kCitation = u"以上来源于";
+
 bool isBlank(char16_t unit) {
   return unit == u' ' || unit == u'\t' || unit == 0xA0 || unit == 0x3000;
 }
@@ -58,7 +61,7 @@ std::vector<std::u16string> translationLines(std::u16string_view translation) {
   for (std::size_t begin = 0; begin <= plain.size();) {
     const std::size_t end = std::min(plain.find(u'\n', begin), plain.size());
     std::u16string line = foldBlanks(repairStandIns(plain.substr(begin, end - begin)));
-    if (!line.empty()) lines.push_back(std::move(line));
+    if (!line.empty() && !line.starts_with(kCitation)) lines.push_back(std::move(line));
     begin = end + 1;
   }
   return lines;

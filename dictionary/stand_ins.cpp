@@ -23,6 +23,8 @@ constexpr std::array kStandIns = {
     StandIn{0x044B, u"踇"},    // hallux
     StandIn{0x0451, u"腘"},    // popliteal
     StandIn{0x2502, u""},      // a stray mark before some words
+    StandIn{0x25CB, u"〇"},    // the digit in names of compounds
+    StandIn{0x2609, u""},      // a stray mark before some words
     StandIn{0x2522, u"棓"},    // gallic
     StandIn{0x252D, u"噁"},    // oxazole
     StandIn{0x2533, u"䓬"},    // azepine, tropylium

@@ -1,11 +1,12 @@
 #include "dictionary/translation_line.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
+#include <utility>
 
 #include "dictionary/brackets.h"
 #include "dictionary/characters.h"
+#include "dictionary/explanation.h"
 #include "dictionary/line_head.h"
 #include "dictionary/name_piece.h"
 #include "dictionary/pieces.h"
@@ -16,6 +17,15 @@ namespace {
 
 /// Lines of this subject mark characters that may be left out with the brackets of tags.
 constexpr SubjectSet kLongTagsOnly = setOf(Subject::kMedicine);
+
+/// A note without blanks inside its brackets; "" if it holds lost characters.
+std::u16string cleanNote(std::u16string_view note) {
+  if (std::ranges::any_of(note, isForbidden)) return {};
+  std::u16string clean(note);
+  if (clean.size() > 2 && clean[1] == u' ') clean.erase(1, 1);
+  if (clean.size() > 2 && clean[clean.size() - 2] == u' ') clean.erase(clean.size() - 2, 1);
+  return clean;
+}
 
 /// The piece as a subject dictionary shows it: notes that hold lost characters are left out; ""
 /// where such a character stands elsewhere.
@@ -29,49 +39,77 @@ std::u16string notedText(std::u16string_view piece) {
       if (piece[i] != u'\\') noted += piece[i];
       continue;
     }
-    const std::u16string_view note = piece.substr(i, close + 1 - i);
-    if (std::ranges::none_of(note, isForbidden)) noted += note;
+    noted += cleanNote(piece.substr(i, close + 1 - i));
     i = close;
   }
   if (!isIntact(withoutNotes(noted))) return {};
   return foldBlanks(noted);
 }
 
+/// One line on its way to pieces: what holds from one piece to the next.
+class LineParser {
+ public:
+  explicit LineParser(std::u16string_view line)
+      : line_(line), head_(readHead(line, true)), current_(head_.subjects) {}
+
+  std::vector<Piece> pieces();
+
+ private:
+  void addPiece(const RawPiece& raw);
+  [[nodiscard]] Equivalent equivalentOf(std::u16string_view text, SubjectSet subjects,
+                                        bool introduced);
+
+  std::u16string_view line_;
+  LineHead head_;
+  SubjectSet current_;       ///< of pieces without a tag of their own
+  bool explaining_ = false;  ///< whether an explanation began in this clause
+  std::vector<Piece> pieces_;
+};
+
+Equivalent LineParser::equivalentOf(std::u16string_view text, SubjectSet subjects,
+                                    bool introduced) {
+  if (explaining_) return {u"", PieceFault::kExplanation};
+  const Explained explained = splitExplanation(text);
+  explaining_ = explained.explains;
+  if ((subjects & kNameSubjects) == 0) return makeEquivalent(explained.word, head_.abbreviation);
+  // Behind a tagged name, what has no tag or note of its own tells where the name comes from.
+  const bool isName = introduced || (head_.subjects & kNameSubjects) == 0;
+  if (!isName) return {u"", PieceFault::kExplanation};
+  return makeEquivalent(leadingName(explained.word), false);
+}
+
+void LineParser::addPiece(const RawPiece& raw) {
+  const bool first = raw.separator == 0;
+  const LineHead head = first ? head_ : readHead(raw.text, (head_.subjects & kLongTagsOnly) == 0);
+  const std::u16string_view text = first ? raw.text : raw.text.substr(head.length);
+  const std::u16string noted = head.notes + std::u16string(text);
+  if (announcesNames(noted)) {
+    current_ |= setOf(Subject::kPerson);
+    return;
+  }
+  if (raw.separator == u'；') explaining_ = false;
+  if ((head.subjects & kNameSubjects) != 0) current_ = head.subjects;
+  const SubjectSet named = namedByNote(text);
+  const bool listedPlace = current_ == setOf(Subject::kPlace) && raw.separator == u'、';
+  const bool introduced = first || head.subjects != 0 || named != 0 || listedPlace;
+
+  Piece piece;
+  piece.separator = pieces_.empty() ? u'\0' : raw.separator;
+  piece.subjects = (head.subjects != 0 ? head.subjects : current_) | named;
+  piece.noted = notedText(noted);
+  piece.equivalent = equivalentOf(text, piece.subjects, introduced);
+  pieces_.push_back(std::move(piece));
+}
+
+std::vector<Piece> LineParser::pieces() {
+  for (const RawPiece& raw : splitPieces(line_.substr(head_.length))) addPiece(raw);
+  return std::move(pieces_);
+}
+
 }  // namespace
 
 TranslationLine parseLine(std::u16string_view line) {
-  TranslationLine parsed;
-  const LineHead lineHead = readHead(line, true);
-  const bool shortTags = (lineHead.subjects & kLongTagsOnly) == 0;
-  SubjectSet current = lineHead.subjects;
-  bool first = true;
-  for (const RawPiece& raw : splitPieces(line.substr(lineHead.length))) {
-    const LineHead head = first ? lineHead : readHead(raw.text, shortTags);
-    const std::u16string_view text = first ? raw.text : raw.text.substr(head.length);
-    const bool tagged = first || head.subjects != 0;
-    if (announcesNames(std::u16string(head.notes) + std::u16string(text))) {
-      current |= setOf(Subject::kPerson);
-      first = false;
-      continue;
-    }
-    Piece piece;
-    piece.separator = parsed.pieces.empty() ? u'\0' : raw.separator;
-    piece.subjects = head.subjects != 0 ? head.subjects : current;
-    if ((head.subjects & kNameSubjects) != 0) current = head.subjects;
-    piece.subjects |= namedByNote(text);
-    piece.noted = notedText(head.notes + std::u16string(text));
-    if ((piece.subjects & kNameSubjects) == 0) {
-      piece.equivalent = makeEquivalent(text);
-    } else if (tagged || (lineHead.subjects & kNameSubjects) == 0) {
-      piece.equivalent = makeEquivalent(leadingName(text));
-    } else {
-      piece.equivalent.fault = PieceFault::kExplanation;
-    }
-    parsed.pieces.push_back(std::move(piece));
-    first = false;
-  }
-  parsed.inflection = inflectionNote(line);
-  return parsed;
+  return {LineParser(line).pieces(), inflectionNote(line)};
 }
 
 std::u16string subjectText(const TranslationLine& line, Subject subject) {

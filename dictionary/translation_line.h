@@ -13,7 +13,7 @@ namespace dictionary {
 struct Piece {
   Equivalent equivalent;   ///< as a Chinese headword
   std::u16string noted;    ///< as a subject dictionary shows it, notes included; "" if unusable
-  char16_t separator = 0;  ///< what parts it from the piece before: ，；、 or 0 for the first
+  char16_t separator = 0;  ///< what parts it from the piece before, 0 for the first
   SubjectSet subjects = 0;
 };
 
