@@ -5,6 +5,7 @@
 #include <charconv>
 #include <vector>
 
+#include "data/like_range.h"
 #include "data/sql_tokens.h"
 
 namespace data {
@@ -59,6 +60,7 @@ class Translator {
     if (distinct || at(list).isWord("all")) ++list;
     const bool limited = takeTop(list);
     if (limited) list += 2;
+    narrowLike(find("where", list) + 1);
 
     const std::optional<OnlyTable> table = onlyTable(list);
     if (!table) return;
@@ -85,6 +87,22 @@ class Translator {
     edits_.push_back({start, endOf(at(i + 1)) - start, ""});
     edits_.push_back({statementEnd(), 0, " limit " + std::string(digits)});
     return true;
+  }
+
+  /// Adds the range that "column like 'beginning%'" at `i` implies, where no other operator reaches
+  /// over to it.
+  void narrowLike(std::size_t i) {
+    if (!at(i).canName() || !at(i + 1).isWord("like")) return;
+    if (at(i + 2).kind != TokenKind::kText || !endsCondition(at(i + 3))) return;
+    const std::string range = likeRange(at(i).text, at(i + 2).text);
+    if (range.empty()) return;
+    edits_.push_back({startOf(at(i)), 0, "("});
+    edits_.push_back({endOf(at(i + 2)), 0, range + ")"});
+  }
+
+  static bool endsCondition(const Token& token) {
+    return token.text.empty() || token.isSymbol(';') || token.isWord("and") ||
+           isOneOf(token, kClauses);
   }
 
   /// Where the first statement ends: before its semicolon, or behind its last part.

@@ -26,7 +26,9 @@ struct Query {
 /// - "select [distinct] top n ..." becomes a limit. It is placed before a comment at the end, which
 ///   might have come in with the user's input;
 /// - in a query over one table "order by X" means the table's column X, even where the query gives
-///   another column the name X.
+///   another column the name X;
+/// - a condition "column like 'beginning%'" right behind "where" is joined by the range of texts
+///   that it implies, for the sake of an index.
 /// All else SQLite takes as it stands: names in brackets, no blank before "where", doubled blanks,
 /// LIKE with "%" and "_". Nothing inside quotes is touched, and a text that is no query is left for
 /// SQLite to refuse. Texts compare in the dictionary's order where their columns are declared with

@@ -10,8 +10,8 @@ using data::translate;
 std::string sqlOf(std::string_view sql) { return translate(sql).sql; }
 
 TEST(Dialect, TurnsTopIntoALimit) {
-  const Query query = translate("select top 100 word,meaning from med where word like 'a%'");
-  EXPECT_EQ(query.sql, "select  word,meaning from med where word like 'a%' limit 100");
+  const Query query = translate("select top 100 word,meaning from med where word like '%a%'");
+  EXPECT_EQ(query.sql, "select  word,meaning from med where word like '%a%' limit 100");
   EXPECT_EQ(query.top, 100U);
   EXPECT_EQ(sqlOf("SELECT DISTINCT TOP 3 word FROM t"), "SELECT DISTINCT  word FROM t limit 3");
   EXPECT_EQ(sqlOf("select all top 3 word from t"), "select all  word from t limit 3");
@@ -80,6 +80,33 @@ TEST(Dialect, LeavesTextsAloneThatAreNoTopQueries) {
     const Query query = translate(sql);
     EXPECT_EQ(query.sql, sql);
     EXPECT_FALSE(query.top.has_value()) << sql;
+  }
+}
+
+TEST(Dialect, AddsTheRangeOfALikePattern) {
+  EXPECT_EQ(sqlOf("select top 100 word,meaning from med where word like 'a%b_%' order by word"),
+            "select  word,meaning from med where (word like 'a%b_%' and word>='a' collate lexilo "
+            "and word<'b' collate lexilo) order by med.word limit 100");
+  EXPECT_EQ(sqlOf("select * from t where word like 'it''s%'"),
+            "select * from t where (word like 'it''s%' and word>='it''s' collate lexilo and "
+            "word<'it''t' collate lexilo)");
+  EXPECT_EQ(sqlOf("select * from t where  word like 'heat%' and meaning like '%x%'"),
+            "select * from t where  (word like 'heat%' and word>='heat' collate lexilo and "
+            "word<'heau' collate lexilo) and meaning like '%x%'");
+}
+
+TEST(Dialect, LeavesOtherLikesAlone) {
+  for (const char* sql :
+       {"select * from t where word like '%a%'", "select * from t where word like '热%'",
+        "select * from t where word like '1%'", "select * from t where word like 'a%' or n=1",
+        "select * from t where word like 'a%' || 'b'", "select * from t where not word like 'a%'",
+        "select * from t where word not like 'a%'",
+        "select * from t where word like 'a%' escape 'x'", "select * from t where n=word like 'a%'",
+        "select * from t where n between 1 and word like "
+        "'a%'",
+        "select * from t where t.word like 'a%'", "select * from t where word like a",
+        "select * from t where word like 'a%", "select * from t where word like 'a%'=1"}) {
+    EXPECT_EQ(sqlOf(sql), sql);
   }
 }
 

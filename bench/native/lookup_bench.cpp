@@ -1,0 +1,224 @@
+// How long the lookups of the quick lookup window and the searches of the multi-dictionary window
+// take on a full dictionary, without the drawing of the windows.
+//
+//   lookup_bench KK.DAT [ENGLISH.TXT CHINESE.TXT]
+//
+// The word lists hold one word a line in UTF-8; without them 5,000 English and 2,000 Chinese
+// headwords, evenly spread, are taken from the dictionary itself.
+
+#include <algorithm>
+#include <cstdio>
+#include <exception>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "bench/native/timings.h"
+#include "data/data_control.h"
+#include "data/headword_lookup.h"
+#include "text/query_text.h"
+#include "text/utf.h"
+
+namespace {
+
+using bench::Timings;
+using Words = std::vector<std::u16string>;
+
+constexpr std::size_t kEnglishWords = 5000;
+constexpr std::size_t kChineseWords = 2000;
+constexpr std::size_t kSearches = 200;
+
+std::u16string connectionStringFor(const char* file) {
+  return u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + text::toUtf16(file) +
+         u";Persist Security Info=False";
+}
+
+std::u16string decimal(std::size_t number) { return text::toUtf16(std::to_string(number)); }
+
+data::RecordSet& run(data::DataControl& control, std::u16string_view sql) {
+  control.setRecordSource(sql);
+  control.refresh();
+  return control.recordset();
+}
+
+/// The words of all rows, as a list takes them over.
+Words takeWords(data::RecordSet& rows) {
+  Words words;
+  if (rows.empty()) return words;
+  for (rows.moveFirst(); !rows.endOfFile(); rows.moveNext()) {
+    words.push_back(rows.field(u"word").text);
+  }
+  return words;
+}
+
+Words readWords(const char* file) {
+  std::ifstream input(file);
+  Words words;
+  for (std::string line; std::getline(input, line);) {
+    if (!line.empty()) words.push_back(text::toUtf16(line));
+  }
+  return words;
+}
+
+/// `count` headwords of `table`, evenly spread over its rows numbered by `number`.
+Words spreadWords(data::DataControl& control, std::u16string_view table, std::u16string_view number,
+                  std::size_t count) {
+  const std::u16string name(table);
+  const std::u16string column(number);
+  data::RecordSet& all = run(control, u"select * from " + name);
+  all.moveLast();
+  const auto rows = static_cast<std::size_t>(all.field(column).integer);
+  Words words;
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::u16string row = decimal(1 + (i * (rows - 1) / count));
+    data::RecordSet& found =
+        run(control, u"select * from " + name + u" where " + column + u"=" + row);
+    if (!found.empty()) words.push_back(found.field(u"word").text);
+  }
+  return words;
+}
+
+/// The steps of one keystroke, each with its times.
+struct Keystroke {
+  explicit Keystroke(const std::string& side)
+      : whole(side + ": keystroke, from text to meaning"),
+        sql(side + ": bounds and SQL of the list"),
+        list(side + ": list"),
+        meaning(side + ": meaning of the first word") {}
+
+  void print() const {
+    for (const Timings* timings : {&whole, &sql, &list, &meaning}) timings->print();
+  }
+
+  Timings whole;
+  Timings sql;
+  Timings list;
+  Timings meaning;
+};
+
+class Typist {
+ public:
+  Typist(data::DataControl& control, const data::IndexWords& indexWords)
+      : control_(control), lookup_(indexWords, {}) {}
+
+  /// Types each word letter by letter.
+  void type(const Words& words, Keystroke& times) {
+    for (const std::u16string& word : words) {
+      for (std::size_t length = 1; length <= word.size(); ++length) {
+        times.whole.time([&] { press(word.substr(0, length), times); });
+      }
+    }
+  }
+
+ private:
+  void press(std::u16string text, Keystroke& times) {
+    const std::u16string_view side = user::getEorC(text);
+    user::escapeQuote(text);
+    const std::u16string sql =
+        times.sql.time([&] { return lookup_.makeStrSql(side, text, control_); });
+    Words list = times.list.time([&] { return takeWords(run(control_, sql)); });
+    if (!list.empty()) times.meaning.time([&] { return show(list.front()); });
+  }
+
+  data::MeaningText show(std::u16string& word) {
+    const std::u16string_view side = user::getEorC(word);
+    user::escapeQuote(word);
+    data::RecordSet& rows = run(control_, lookup_.findword(side, word, control_));
+    return data::meaningLines(word, data::readMeanings(rows));
+  }
+
+  data::DataControl& control_;
+  data::HeadwordLookup lookup_;
+};
+
+void timeStart(const char* file) {
+  Timings start("open the file and read the index words");
+  for (int i = 0; i < 20; ++i) {
+    start.time([&] {
+      data::DataControl control;
+      control.setConnectionString(connectionStringFor(file));
+      return data::readIndexWords(control);
+    });
+  }
+  start.print();
+}
+
+/// The four searches of the multi-dictionary window in the largest dictionary.
+void timeSearches(data::DataControl& control, const Words& english, const Words& chinese) {
+  struct Search {
+    const char* name;
+    const Words& words;
+    std::size_t length;
+    std::u16string_view head;
+    std::u16string_view tail;
+  };
+  const Search searches[] = {
+      {"English beginning", english, 4, u"select top 100 word,meaning from med where word like '",
+       u"%' order by word"},
+      {"English part", english, 5, u"select top 200 word,meaning from med where word like '%",
+       u"%' order by word"},
+      {"Chinese beginning", chinese, 2,
+       u"select top 100 word as meaning,meaning as word from med where meaning like '",
+       u"%' order by meaning"},
+      {"Chinese part", chinese, 2,
+       u"select top 200 word as meaning,meaning as word from med where meaning like '%",
+       u"%' order by meaning"},
+  };
+  for (const Search& search : searches) {
+    Timings times(search.name);
+    const std::size_t step = std::max<std::size_t>(1, search.words.size() / kSearches);
+    for (std::size_t i = 0; i < search.words.size(); i += step) {
+      std::u16string part = search.words[i].substr(0, search.length);
+      user::escapeQuote(part);
+      times.time([&] {
+        return takeWords(
+            run(control, std::u16string(search.head) + part + std::u16string(search.tail)));
+      });
+    }
+    times.print();
+  }
+}
+
+int runAll(const std::vector<const char*>& arguments) {
+  const char* file = arguments.front();
+  data::DataControl control;
+  control.setConnectionString(connectionStringFor(file));
+  const data::IndexWords indexWords = data::readIndexWords(control);
+  const bool listed = arguments.size() == 3;
+  const Words english =
+      listed ? readWords(arguments[1]) : spreadWords(control, u"edict", u"eid", kEnglishWords);
+  const Words chinese =
+      listed ? readWords(arguments[2]) : spreadWords(control, u"cdict", u"cid", kChineseWords);
+  std::printf("%zu English and %zu Chinese words; times in ms\n", english.size(), chinese.size());
+
+  Timings::printHeading("Start");
+  timeStart(file);
+
+  Timings::printHeading("Quick lookup");
+  Typist typist(control, indexWords);
+  for (const auto& [side, words] : {std::pair{"English", &english}, {"Chinese", &chinese}}) {
+    Keystroke times(side);
+    typist.type(*words, times);
+    times.print();
+  }
+
+  Timings::printHeading("Search in the largest subject dictionary");
+  timeSearches(control, english, chinese);
+  return 0;
+}
+
+}  // namespace
+
+int main(int count, char** values) {
+  const std::vector<const char*> arguments(values + 1, values + count);
+  if (arguments.size() != 1 && arguments.size() != 3) {
+    std::fputs("usage: lookup_bench KK.DAT [ENGLISH.TXT CHINESE.TXT]\n", stderr);
+    return 2;
+  }
+  try {
+    return runAll(arguments);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "lookup_bench: %s\n", error.what());
+    return 1;
+  }
+}

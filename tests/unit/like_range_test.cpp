@@ -1,0 +1,80 @@
+#include "data/like_range.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "data/cursor.h"
+#include "tests/unit/support/sample_database.h"
+
+namespace {
+
+using data::likeRange;
+
+TEST(LikeRange, SpansTheTextsWithTheFixedBeginning) {
+  EXPECT_EQ(likeRange("word", "'ab%'"),
+            " and word>='ab' collate lexilo and word<'ac' collate lexilo");
+  EXPECT_EQ(likeRange("word", "'AB'"),
+            " and word>='AB' collate lexilo and word<'Ac' collate lexilo");
+  EXPECT_EQ(likeRange("[w]", "'z_'"), " and [w]>='z' collate lexilo and [w]<'{' collate lexilo");
+  EXPECT_EQ(likeRange("w", "'R&%'"), " and w>='R&' collate lexilo and w<'R''' collate lexilo");
+  EXPECT_EQ(likeRange("w", "'caf\u00E9%'"),
+            " and w>='caf' collate lexilo and w<'cag' collate lexilo");
+}
+
+TEST(LikeRange, IsNotThereWithoutALetterToBeginWith) {
+  for (const char* pattern :
+       {"''", "'%'", "'_a'", "'1a%'", "' a%'", "'''a%'", "'热%'", "'\u00E9%'"}) {
+    EXPECT_EQ(likeRange("word", pattern), "") << pattern;
+  }
+}
+
+/// Short texts over few characters, so that many of them begin alike.
+std::string randomText(std::mt19937& random) {
+  static const std::vector<std::string> kCharacters{
+      "a", "A", "b", "z", "Z", "{", "@", " ", "~", "-", "1", "\u00E9", "\u00C9", "热", "做", "''"};
+  std::string text;
+  for (std::size_t i = random() % 5; i > 0; --i) text += kCharacters[random() % kCharacters.size()];
+  return text;
+}
+
+std::vector<std::u16string> found(const std::shared_ptr<data::Database>& database,
+                                  const std::string& sql) {
+  data::RecordSet rows(std::make_unique<data::Cursor>(database, sql));
+  return support::column(rows, u"id");
+}
+
+TEST(LikeRange, NeverChangesWhatASearchFinds) {
+  std::mt19937 random(20'24);
+  const support::TempFolder folder;
+  const auto file = folder.file(u"kk.dat");
+  support::makeDatabase(file,
+                        "create table plain (word text collate lexilo, id integer);"
+                        "create table clustered (word text collate lexilo, id integer,"
+                        " primary key (word, id)) without rowid;"
+                        "create table other (word text, id integer);"
+                        "create index i on other (word);"
+                        "create table numbers (word integer, id integer)");
+  support::Writer writer(file);
+  writer.run("begin");
+  for (int id = 0; id < 600; ++id) {
+    const std::string values = "('" + randomText(random) + "'," + std::to_string(id) + ")";
+    for (const char* table : {"plain", "clustered", "other", "numbers"}) {
+      writer.run("insert into " + std::string(table) + " values " + values);
+    }
+  }
+  writer.run("commit");
+  const auto database = std::make_shared<data::Database>(support::utf8Path(file));
+  for (int i = 0; i < 100; ++i) {
+    const std::string pattern = "'" + std::string(1, "aAbzZ"[i % 5]) + randomText(random) + "%'";
+    ASSERT_NE(likeRange("word", pattern), "");
+    for (const std::string table : {"plain", "clustered", "other", "numbers"}) {
+      const std::string head = "select id from " + table + " where ";
+      EXPECT_EQ(found(database, head + "word like " + pattern + " order by id"),
+                found(database, head + "+word like " + pattern + " order by id"))
+          << table << ": " << pattern;
+    }
+  }
+}
+
+}  // namespace
