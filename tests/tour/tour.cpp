@@ -23,6 +23,19 @@ class Tour {
 
   void play() {
     const Lexilo lexilo(AppFolder::full());
+    try {
+      visit(lexilo);
+    } catch (const std::exception&) {
+      saveScreenshot(pictures_ + "/stopped.png");
+      throw;
+    }
+    const DWORD code = lexilo.exit();
+    if (code != 0) throw Failure("Lexilo ended with code " + std::to_string(code));
+    std::puts("The last item of the toolbar's menu ends the program.");
+  }
+
+ private:
+  void visit(const Lexilo& lexilo) {
     static_cast<void>(lexilo.toolbar());
     show("The toolbar floats near the top right corner", "toolbar");
 
@@ -40,14 +53,9 @@ class Tour {
 
     window.lookUp(L"数据");
     show("«数据» is typed", "chinese");
-
     window.close();
-    const DWORD code = lexilo.exit();
-    if (code != 0) throw Failure("Lexilo ended with code " + std::to_string(code));
-    std::puts("The last item of the toolbar's menu ends the program.");
   }
 
- private:
   void show(const std::string& what, const std::string& name) {
     const std::string file = pictures_ + "/" + std::to_string(++shown_) + "-" + name + ".png";
     saveScreenshot(file);
@@ -64,9 +72,13 @@ class Tour {
 int main(int argc, char** argv) {
   SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
   const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
+  if (arguments.size() != 2) {
+    std::puts("usage: tour PICTURE_FOLDER");
+    return EXIT_FAILURE;
+  }
+  const std::string pictures = arguments[1];
   try {
-    if (arguments.size() != 2) throw Failure("usage: tour PICTURE_FOLDER");
-    Tour(arguments[1]).play();
+    Tour(pictures).play();
     return EXIT_SUCCESS;
   } catch (const std::exception& error) {
     std::printf("error: the tour stopped: %s\n", error.what());
