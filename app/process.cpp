@@ -25,7 +25,7 @@ std::u16string applicationFolder() {
   }
   path.resize(length);
   const auto end = path.find_last_of(L'\\');
-  return forms::fromWide(std::wstring_view(path).substr(0, end == path.npos ? 0 : end));
+  return forms::fromWide(std::wstring_view(path).substr(0, end == std::wstring::npos ? 0 : end));
 }
 
 std::u16string connectionString(const std::u16string& folder) {

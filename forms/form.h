@@ -123,6 +123,7 @@ class Form {
   int dpi_ = 96;
   int width_ = 0;
   int height_ = 0;
+  SIZE resizedFor_{-1, -1};  // client size of the last Form_Resize, pixels
   bool loaded_ = false;
   bool shown_ = false;
   bool unloading_ = false;

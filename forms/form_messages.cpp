@@ -31,7 +31,11 @@ LRESULT CALLBACK Form::windowProc(HWND window, UINT message, WPARAM wParam, LPAR
 LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SIZE:
-      if (wParam != SIZE_MINIMIZED && shown_) resized();
+      if (wParam == SIZE_MINIMIZED) {
+        resizedFor_ = {-1, -1};
+      } else if (shown_) {
+        resized();
+      }
       return 0;
     case WM_PAINT:
       paint();
@@ -124,6 +128,11 @@ void Form::paint() {
 
 void Form::resized() {
   if (isMinimised()) return;
+  // The system tells a new window its size once more when it is shown.
+  RECT client{};
+  GetClientRect(handle_, &client);
+  const SIZE before = std::exchange(resizedFor_, {client.right, client.bottom});
+  if (before.cx == client.right && before.cy == client.bottom) return;
   takeClientSize();
   guard([this] { Form_Resize(); });
 }
@@ -143,8 +152,8 @@ void Form::takeClientSize() {
 
 void Form::giveFocusBack() {
   if (isMinimised()) return;
-  const bool usable =
-      IsChild(handle_, lastFocus_) && IsWindowVisible(lastFocus_) && IsWindowEnabled(lastFocus_);
+  const bool usable = IsChild(handle_, lastFocus_) != FALSE &&
+                      IsWindowVisible(lastFocus_) != FALSE && IsWindowEnabled(lastFocus_) != FALSE;
   HWND target = usable ? lastFocus_ : GetNextDlgTabItem(handle_, nullptr, FALSE);
   if (target != nullptr) SetFocus(target);
 }
@@ -165,6 +174,7 @@ void Form::limitTracking(MINMAXINFO& limits) const {
 
 void Form::rescale(int dpi, const RECT& suggested) {
   dpi_ = dpi;
+  resizedFor_ = {-1, -1};
   for (Widget* widget : widgets_) widget->rescale();
   const SIZE outer = outerPixels(width_, height_);
   SetWindowPos(handle_, nullptr, suggested.left, suggested.top, outer.cx, outer.cy,
