@@ -40,7 +40,6 @@ OwnedIcon loadIcon(int resource, int systemMetric, int dpi) {
 
 Form::Form(const FormDesign& design) : design_(design) {
   createWindow();
-  createToolTip();
   setSize(design_.width, design_.height);
 }
 
@@ -184,6 +183,9 @@ void Form::addWidget(Widget& widget) { widgets_.push_back(&widget); }
 void Form::removeWidget(Widget& widget) { std::erase(widgets_, &widget); }
 
 void Form::setToolTip(Widget& widget, const std::u16string& text) {
+  // Not before one is needed: beside the owned window of the tool tips a form that was not made
+  // topmost cannot become so on every system.
+  if (toolTip_ == nullptr) createToolTip();
   TOOLINFOW tool{};
   tool.cbSize = sizeof tool;
   tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
