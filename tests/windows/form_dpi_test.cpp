@@ -1,0 +1,85 @@
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+class FormDpi : public WindowTest {
+ protected:
+  // Borderless: the frame that the system draws follows the real monitor.
+  FormDpi() { plan<'A'>().design.frame = forms::Frame::borderless; }
+
+  /// What the system does when the form is moved to a monitor of `dpi`.
+  static void moveToMonitorOf(int dpi, const forms::Form& form) {
+    const RECT suggested{150, 120, 900, 700};
+    SendMessageW(form.handle(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi),
+                 reinterpret_cast<LPARAM>(&suggested));
+    forms::doEvents();
+  }
+
+  static LONG fontHeight(const forms::Widget& widget) {
+    LOGFONTW font{};
+    GetObjectW(reinterpret_cast<HFONT>(SendMessageW(widget.handle(), WM_GETFONT, 0, 0)),
+               sizeof font, &font);
+    return font.lfHeight;
+  }
+};
+
+TEST_F(FormDpi, WidgetsAndFontsFollow) {
+  FormA& form = opened<FormA>();
+  form.first.setFont({u"宋体", 12});
+  EXPECT_EQ(form.dpi(), 96);
+  EXPECT_EQ(fontHeight(form.first), -16);
+  moveToMonitorOf(144, form);
+  EXPECT_EQ(form.dpi(), 144);
+  EXPECT_EQ(fontHeight(form.first), -24);
+  const RECT box = pixelBox(form.first);
+  EXPECT_EQ(box.left, 15);
+  EXPECT_EQ(box.top, 15);
+  EXPECT_EQ(box.right, 315);
+  EXPECT_EQ(box.bottom, 45);
+  EXPECT_EQ(form.first.width(), 3000);
+}
+
+TEST_F(FormDpi, TheSizeInTwipsStaysAndThePlaceIsTheSuggestedOne) {
+  FormA& form = opened<FormA>();
+  form.setSize(4507, 3003);
+  moveToMonitorOf(192, form);
+  EXPECT_EQ(form.width(), 4507);
+  EXPECT_EQ(form.height(), 3003);
+  RECT client{};
+  GetClientRect(form.handle(), &client);
+  EXPECT_EQ(client.right, forms::toPixels(4507, 192));
+  EXPECT_EQ(client.bottom, forms::toPixels(3003, 192));
+  EXPECT_EQ(rectOf(form.handle()).left, 150);
+  EXPECT_EQ(rectOf(form.handle()).top, 120);
+}
+
+TEST_F(FormDpi, ThereAndBackChangesNothing) {
+  FormA& form = opened<FormA>();
+  const RECT before = pixelBox(form.second);
+  const LONG font = fontHeight(form.second);
+  for (const int dpi : {120, 144, 168, 96}) moveToMonitorOf(dpi, form);
+  EXPECT_TRUE(EqualRect(&before, std::array{pixelBox(form.second)}.data()));
+  EXPECT_EQ(fontHeight(form.second), font);
+  EXPECT_EQ(form.width(), 4500);
+}
+
+TEST_F(FormDpi, TheSystemsOwnFontFollowsToo) {
+  FormA& form = opened<FormA>();
+  const LONG font = fontHeight(form.second);
+  moveToMonitorOf(192, form);
+  EXPECT_NEAR(fontHeight(form.second), 2 * font, 1);
+}
+
+TEST_F(FormDpi, PlacesUnderTheMouseAreTwips) {
+  FormA& form = opened<FormA>();
+  moveToMonitorOf(144, form);
+  forms::Place place;
+  form.first.onMouseMove = [&](forms::Place at) { place = at; };
+  SendMessageW(form.first.handle(), WM_MOUSEMOVE, 0, MAKELPARAM(30, 15));
+  EXPECT_EQ(place.x, 300);
+  EXPECT_EQ(place.y, 150);
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,131 @@
+#include "forms/message_box.h"
+#include "tests/windows/support/other_program.h"
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+class FormFocus : public WindowTest {
+ protected:
+  static bool reached(std::size_t count) {
+    return eventually([=] { return events().size() >= count; });
+  }
+};
+
+TEST_F(FormFocus, TheOldWindowHearsFirstWhenTheFocusMovesBetweenForms) {
+  FormA& from = opened<FormA>();
+  FormB& to = opened<FormB>();
+  from.show();
+  awaitActive(from);
+  ASSERT_TRUE(eventually([&] { return GetFocus() == from.first.handle(); }));
+  events().clear();
+  SetForegroundWindow(to.handle());
+  ASSERT_TRUE(reached(4));
+  EXPECT_EQ(events(),
+            (Events{"A.first.LostFocus", "A.LostFocus", "B.Activate", "B.first.GotFocus"}));
+}
+
+TEST_F(FormFocus, AClickMovesItInTheSameOrder) {
+  FormA& from = opened<FormA>();
+  from.setPosition(300, 300);
+  FormB& to = opened<FormB>();
+  to.setPosition(9000, 300);
+  from.show();
+  awaitActive(from);
+  passTime(30);
+  events().clear();
+  input::click(centreOf(to.second));
+  ASSERT_TRUE(eventually([] { return times("B.second.GotFocus") == 1; }));
+  EXPECT_EQ(events()[0], "A.first.LostFocus");
+  EXPECT_EQ(events()[1], "A.LostFocus");
+  EXPECT_EQ(events()[2], "B.Activate");
+  EXPECT_EQ(events().back(), "B.second.GotFocus");
+}
+
+TEST_F(FormFocus, TabMovesItInsideAFormWithoutTheFormLosingIt) {
+  opened<FormA>();
+  ASSERT_TRUE(reached(4));
+  events().clear();
+  input::key(VK_TAB);
+  ASSERT_TRUE(reached(2));
+  input::key(VK_TAB);
+  ASSERT_TRUE(reached(4));
+  EXPECT_EQ(events(), (Events{"A.first.LostFocus", "A.second.GotFocus", "A.second.LostFocus",
+                              "A.first.GotFocus"}));
+}
+
+TEST_F(FormFocus, AnotherProgramTakesAndGivesItBackToTheSameWidget) {
+  OtherProgram other;
+  FormA& form = opened<FormA>();
+  form.second.setFocus();
+  events().clear();
+  other.activate();
+  ASSERT_TRUE(reached(2));
+  EXPECT_EQ(events(), (Events{"A.second.LostFocus", "A.LostFocus"}));
+  events().clear();
+  SetForegroundWindow(form.handle());
+  ASSERT_TRUE(reached(2));
+  EXPECT_EQ(events(), (Events{"A.Activate", "A.second.GotFocus"}));
+}
+
+TEST_F(FormFocus, AMessageBoxIsNoMoveOfTheFocus) {
+  FormA& form = opened<FormA>();
+  ASSERT_TRUE(reached(4));
+  events().clear();
+  boxes.whileUp([](HWND) { passTime(50); });
+  forms::showMessage(u"请选择字典！", forms::MessageIcon::exclamation);
+  ASSERT_TRUE(eventually([&] { return GetFocus() == form.first.handle(); }));
+  passTime(50);
+  EXPECT_EQ(boxes.take().size(), 1U);
+  EXPECT_EQ(events(), Events{});
+}
+
+TEST_F(FormFocus, WhatMovedWhileABoxWasUpIsToldAfterwards) {
+  FormA& form = opened<FormA>();
+  ASSERT_TRUE(reached(4));
+  events().clear();
+  boxes.whileUp([&](HWND) { form.unload(); });
+  opened<FormB>();
+  events().clear();
+  forms::showMessage(u"…", forms::MessageIcon::none);
+  EXPECT_EQ(boxes.take().size(), 1U);
+  passTime(50);
+  EXPECT_EQ(times("A.Unload"), 1);
+  EXPECT_EQ(times("B.LostFocus"), 0);
+}
+
+TEST_F(FormFocus, AClickOnAButtonIsHandledAfterTheEventsOfItsFocus) {
+  FormA& form = opened<FormA>();
+  ASSERT_TRUE(reached(4));
+  events().clear();
+  form.second.onMouseDown = [](forms::Place) { events().emplace_back("MouseDown"); };
+  input::click(centreOf(form.second));
+  ASSERT_TRUE(reached(3));
+  passTime(20);
+  EXPECT_EQ(events().front(), "MouseDown");
+  EXPECT_EQ(events().back(), "A.second.GotFocus");
+}
+
+TEST_F(FormFocus, AFormThatMovesTheFocusInActivateIsTold) {
+  plan<'A'>().activate = [] { forms::single<FormA>().second.setFocus(); };
+  opened<FormA>();
+  ASSERT_TRUE(eventually([] { return times("A.second.GotFocus") == 1; }));
+  EXPECT_EQ(times("A.first.GotFocus"), 0);
+}
+
+TEST_F(FormFocus, TwoWidgetsThatFightForItDoNotHangTheProgram) {
+  FormA& form = opened<FormA>();
+  ASSERT_TRUE(reached(4));
+  int events1 = 0;
+  form.first.onGotFocus = [&] {
+    if (++events1 < 1000) SetFocus(form.second.handle());
+  };
+  form.second.onGotFocus = [&] { SetFocus(form.first.handle()); };
+  form.second.setFocus();
+  form.first.onGotFocus = [] {};
+  passTime(30);
+  EXPECT_LT(events1, 1000);
+}
+
+}  // namespace
+}  // namespace wintest

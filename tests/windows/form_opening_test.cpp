@@ -1,0 +1,95 @@
+#include <stdexcept>
+
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+class FormOpening : public WindowTest {};
+
+TEST_F(FormOpening, RaisesItsEventsInOrder) {
+  opened<FormA>();
+  ASSERT_TRUE(eventually([] { return events().size() >= 4; }));
+  // A window manager may mend the size afterwards.
+  events().resize(4);
+  EXPECT_EQ(events(), (Events{"A.Load", "A.Resize", "A.Activate", "A.first.GotFocus"}));
+}
+
+TEST_F(FormOpening, LoadsOnTheFirstReferenceOnly) {
+  EXPECT_FALSE(forms::isLoaded<FormA>());
+  FormA& form = forms::single<FormA>();
+  EXPECT_TRUE(forms::isLoaded<FormA>());
+  EXPECT_EQ(&forms::single<FormA>(), &form);
+  EXPECT_EQ(events(), Events{"A.Load"});
+  EXPECT_FALSE(IsWindowVisible(form.handle()));
+}
+
+TEST_F(FormOpening, FindsItselfBehindItsWindow) {
+  FormA& form = forms::single<FormA>();
+  EXPECT_EQ(forms::Form::of(form.handle()), &form);
+  EXPECT_EQ(forms::Form::of(form.first.handle()), nullptr);
+  EXPECT_EQ(forms::Form::of(GetDesktopWindow()), nullptr);
+  EXPECT_EQ(forms::Form::of(nullptr), nullptr);
+  EXPECT_EQ(forms::Widget::of(form.first.handle()), &form.first);
+  EXPECT_EQ(forms::Widget::of(form.handle()), nullptr);
+}
+
+TEST_F(FormOpening, ShowsWhatLoadingPrepared) {
+  plan<'A'>().load = [] { forms::single<FormA>().first.setText(u"ready"); };
+  EXPECT_EQ(opened<FormA>().first.text(), u"ready");
+}
+
+TEST_F(FormOpening, ShowingAgainBringsItToTheFront) {
+  FormA& form = opened<FormA>();
+  FormB& other = opened<FormB>();
+  form.setPosition(1500, 1500);
+  other.setPosition(1500, 1500);
+  events().clear();
+  form.show();
+  awaitActive(form);
+  EXPECT_EQ(GetWindow(other.handle(), GW_HWNDPREV) != nullptr, true);
+  EXPECT_EQ(GetAncestor(WindowFromPoint(centreOf(form.second)), GA_ROOT), form.handle());
+  EXPECT_EQ(events(),
+            (Events{"B.first.LostFocus", "B.LostFocus", "A.Activate", "A.first.GotFocus"}));
+}
+
+TEST_F(FormOpening, ShowingAgainRestoresAMinimisedForm) {
+  FormA& form = opened<FormA>();
+  ShowWindow(form.handle(), SW_MINIMIZE);
+  ASSERT_TRUE(allAlong([&] { return form.isMinimised(); }, 100));
+  form.show();
+  awaitActive(form);
+  EXPECT_FALSE(form.isMinimised());
+  EXPECT_TRUE(eventually([&] { return GetFocus() == form.first.handle(); }));
+}
+
+TEST_F(FormOpening, AnErrorWhileLoadingIsShownAndTheFormStays) {
+  plan<'A'>().load = [] { throw std::runtime_error("加载失败"); };
+  FormA& form = opened<FormA>();
+  const auto seen = boxes.take();
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_EQ(seen[0].text, u"加载失败");
+  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].title, u"");
+  EXPECT_TRUE(IsWindowVisible(form.handle()));
+  EXPECT_EQ(&forms::single<FormA>(), &form);
+}
+
+TEST_F(FormOpening, GivesAnOwnedFormItsOwner) {
+  FormA& owner = opened<FormA>();
+  FormB& owned = forms::single<FormB>();
+  owned.show(&owner);
+  awaitActive(owned);
+  EXPECT_EQ(GetWindow(owned.handle(), GW_OWNER), owner.handle());
+}
+
+TEST_F(FormOpening, AFormCanOpenAnotherWhileItLoads) {
+  plan<'A'>().load = [] { forms::single<FormB>(); };
+  opened<FormA>();
+  ASSERT_TRUE(eventually([] { return events().size() >= 5; }));
+  events().resize(5);
+  EXPECT_EQ(events(), (Events{"A.Load", "B.Load", "A.Resize", "A.Activate", "A.first.GotFocus"}));
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,103 @@
+#include "tests/windows/support/other_program.h"
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+constexpr UINT kRaise = SWP_NOMOVE | SWP_NOSIZE;
+
+class FormRaising : public WindowTest {
+ protected:
+  /// Whether the other program keeps the foreground and its text box the focus.
+  bool otherKeepsTheFocus() {
+    return allAlong([this] { return other.isForeground() && GetActiveWindow() == nullptr; }, 60);
+  }
+  static bool isTopmost(const forms::Form& form) {
+    return (GetWindowLongPtrW(form.handle(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+  }
+
+  OtherProgram other;
+};
+
+TEST_F(FormRaising, ATopmostFormNeverTakesTheFocusByIt) {
+  plan<'A'>().design.topmost = true;
+  FormA& form = opened<FormA>();
+  other.activate();
+  form.bringToTop();
+  EXPECT_TRUE(otherKeepsTheFocus());
+  SetWindowPos(form.handle(), HWND_TOPMOST, 0, 0, 0, 0, kRaise);
+  EXPECT_TRUE(otherKeepsTheFocus());
+  SetWindowPos(form.handle(), HWND_TOPMOST, 0, 0, 0, 0, kRaise | SWP_SHOWWINDOW);
+  EXPECT_TRUE(otherKeepsTheFocus());
+  EXPECT_TRUE(isTopmost(form));
+}
+
+TEST_F(FormRaising, MovesAndSizesNothing) {
+  plan<'A'>().design.topmost = true;
+  FormA& form = opened<FormA>();
+  form.setPosition(3000, 3000);
+  const RECT before = rectOf(form.handle());
+  form.bringToTop();
+  const RECT after = rectOf(form.handle());
+  EXPECT_TRUE(EqualRect(&before, &after));
+}
+
+TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenShown) {
+  plan<'A'>().design.neverActive = true;
+  plan<'A'>().design.frame = forms::Frame::borderless;
+  other.activate();
+  FormA& form = forms::single<FormA>();
+  form.show();
+  EXPECT_TRUE(IsWindowVisible(form.handle()));
+  EXPECT_TRUE(otherKeepsTheFocus());
+  SetWindowPos(form.handle(), HWND_TOPMOST, 10, 10, 80, 5, SWP_SHOWWINDOW);
+  EXPECT_TRUE(otherKeepsTheFocus());
+  EXPECT_TRUE(isTopmost(form));
+}
+
+TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenClicked) {
+  plan<'A'>().design.neverActive = true;
+  plan<'A'>().design.frame = forms::Frame::borderless;
+  other.activate();
+  FormA& form = forms::single<FormA>();
+  form.setPosition(6000, 1500);
+  form.show();
+  input::click(centreOf(rectOf(form.handle())));
+  EXPECT_TRUE(otherKeepsTheFocus());
+  EXPECT_EQ(SendMessageW(form.handle(), WM_MOUSEACTIVATE, 0, 0), MA_NOACTIVATE);
+}
+
+TEST_F(FormRaising, ANeverActiveFormHasNoTaskbarButton) {
+  plan<'A'>().design.neverActive = true;
+  const LONG_PTR style = GetWindowLongPtrW(forms::single<FormA>().handle(), GWL_EXSTYLE);
+  EXPECT_NE(style & WS_EX_TOOLWINDOW, 0);
+  EXPECT_NE(style & WS_EX_NOACTIVATE, 0);
+  EXPECT_EQ(style & WS_EX_APPWINDOW, 0);
+}
+
+TEST_F(FormRaising, AFormWithoutTaskbarButtonIsAToolWindowThatTakesTheFocus) {
+  plan<'A'>().design.taskbarButton = false;
+  FormA& form = opened<FormA>();
+  EXPECT_NE(GetWindowLongPtrW(form.handle(), GWL_EXSTYLE) & WS_EX_TOOLWINDOW, 0);
+  EXPECT_EQ(GetWindowLongPtrW(form.handle(), GWL_EXSTYLE) & WS_EX_NOACTIVATE, 0);
+}
+
+TEST_F(FormRaising, TypingIsNotDisturbedByAHundredRepaints) {
+  plan<'A'>().design.topmost = true;
+  plan<'A'>().paint = [] { forms::single<FormA>().bringToTop(); };
+  FormA& form = opened<FormA>();
+  other.activate();
+  for (int i = 0; i < 100; ++i) {
+    input::type(i % 2 == 0 ? L"a" : L"b");
+    InvalidateRect(form.handle(), nullptr, TRUE);
+    UpdateWindow(form.handle());
+    forms::doEvents();
+  }
+  std::u16string expected;
+  for (int i = 0; i < 50; ++i) expected += u"ab";
+  EXPECT_TRUE(eventually([&] { return other.text() == expected; }));
+  EXPECT_TRUE(other.isForeground());
+}
+
+}  // namespace
+}  // namespace wintest

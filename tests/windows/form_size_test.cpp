@@ -1,0 +1,127 @@
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+class FormSize : public WindowTest {};
+
+SIZE clientOf(const forms::Form& form) {
+  RECT client{};
+  GetClientRect(form.handle(), &client);
+  return {client.right, client.bottom};
+}
+
+TEST_F(FormSize, IsTheClientSizeAndAFrameOf120By405Twips) {
+  FormA& form = opened<FormA>();
+  form.setSize(3500, 3200);
+  EXPECT_EQ(clientOf(form).cx, forms::toPixels(3500 - 120, 96));
+  EXPECT_EQ(clientOf(form).cy, forms::toPixels(3200 - 405, 96));
+}
+
+TEST_F(FormSize, ABorderlessFormHasNoFrame) {
+  plan<'A'>().design.frame = forms::Frame::borderless;
+  FormA& form = opened<FormA>();
+  form.setSize(1500, 750);
+  EXPECT_EQ(clientOf(form).cx, 100);
+  EXPECT_EQ(clientOf(form).cy, 50);
+  EXPECT_EQ(rectOf(form.handle()).right - rectOf(form.handle()).left, 100);
+}
+
+TEST_F(FormSize, KeepsTheTwipsThatWereSetWhateverThePixels) {
+  // Not under the window manager's hand, which answers one size while the next is set.
+  plan<'A'>().design.frame = forms::Frame::borderless;
+  plan<'A'>().design.neverActive = true;
+  FormA& form = forms::single<FormA>();
+  form.show();
+  for (int width = 3600; width < 3620; ++width) {
+    form.setSize(width, 2900);
+    forms::doEvents();
+    EXPECT_EQ(form.width(), width);
+  }
+}
+
+TEST_F(FormSize, TakesTheUsersPixelsAsTwips) {
+  FormA& form = opened<FormA>();
+  const RECT rect = rectOf(form.handle());
+  const int width = form.width();
+  const int height = form.height();
+  SetWindowPos(form.handle(), nullptr, 0, 0, rect.right - rect.left + 10,
+               rect.bottom - rect.top + 20, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  forms::doEvents();
+  EXPECT_EQ(form.width(), width + 150);
+  EXPECT_EQ(form.height(), height + 300);
+}
+
+TEST_F(FormSize, RaisesResizeOnlyOnceShown) {
+  FormA& form = forms::single<FormA>();
+  form.setSize(6000, 4000);
+  form.setSize(7000, 5000);
+  EXPECT_EQ(events(), Events{"A.Load"});
+  form.show();
+  awaitActive(form);
+  EXPECT_EQ(times("A.Resize"), 1);
+  form.setSize(6000, 4000);
+  EXPECT_EQ(times("A.Resize"), 2);
+}
+
+TEST_F(FormSize, StopsAt32767Twips) {
+  FormA& form = opened<FormA>();
+  form.setSize(40000, 1'000'000);
+  EXPECT_EQ(form.width(), 32767);
+  EXPECT_EQ(form.height(), 32767);
+  SetWindowPos(form.handle(), nullptr, 0, 0, 5000, 5000,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  forms::doEvents();
+  EXPECT_LE(form.width(), 32767);
+  EXPECT_LE(form.height(), 32767);
+  MINMAXINFO limits{};
+  SendMessageW(form.handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+  EXPECT_LE(forms::toTwips(limits.ptMaxTrackSize.x, 96), 32767 + 300);
+}
+
+TEST_F(FormSize, IsNeverNegative) {
+  FormA& form = forms::single<FormA>();
+  form.setSize(-5, 0);
+  EXPECT_EQ(form.width(), 0);
+  EXPECT_EQ(form.height(), 0);
+}
+
+TEST_F(FormSize, IsKeptWhileMinimised) {
+  FormA& form = opened<FormA>();
+  form.setSize(5005, 4007);
+  events().clear();
+  ShowWindow(form.handle(), SW_MINIMIZE);
+  ASSERT_TRUE(allAlong([&] { return form.isMinimised(); }, 100));
+  EXPECT_EQ(form.width(), 5005);
+  EXPECT_EQ(form.height(), 4007);
+  EXPECT_EQ(times("A.Resize"), 0);
+  ShowWindow(form.handle(), SW_RESTORE);
+  ASSERT_TRUE(eventually([&] { return !form.isMinimised(); }));
+  EXPECT_EQ(form.width(), 5005);
+  EXPECT_EQ(form.height(), 4007);
+}
+
+TEST_F(FormSize, ThePlaceIsTheWindowsOwn) {
+  FormA& form = opened<FormA>();
+  form.setPosition(3000, 1500);
+  EXPECT_EQ(rectOf(form.handle()).left, 200);
+  EXPECT_EQ(rectOf(form.handle()).top, 100);
+  EXPECT_EQ(form.left(), 3000);
+  EXPECT_EQ(form.top(), 1500);
+}
+
+TEST_F(FormSize, NeighbouringWidgetsStayNeighbours) {
+  FormA& form = opened<FormA>();
+  form.first.move({30, 600, 2002, 300});
+  form.second.move({2032, 600, 20, 300});
+  EXPECT_EQ(pixelBox(form.first).right, pixelBox(form.second).left);
+  EXPECT_EQ(form.first.width(), 2002);
+  form.first.setWidth(1000);
+  EXPECT_EQ(form.first.width(), 1000);
+  EXPECT_EQ(pixelBox(form.first).left, 2);
+  form.first.setWidth(-100);
+  EXPECT_EQ(pixelBox(form.first).right, pixelBox(form.first).left);
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,146 @@
+#include <stdexcept>
+
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+class FormUnloading : public WindowTest {};
+
+TEST_F(FormUnloading, RunsUnloadBeforeTheWindowGoes) {
+  FormA& form = opened<FormA>();
+  const HWND window = form.handle();
+  const HWND box = form.first.handle();
+  bool windowStood = false;
+  bool boxStood = false;
+  plan<'A'>().unload = [&] {
+    windowStood = IsWindow(window) && IsWindowVisible(window);
+    boxStood = IsWindow(box) && form.first.text().empty();
+  };
+  form.unload();
+  EXPECT_TRUE(windowStood);
+  EXPECT_TRUE(boxStood);
+  EXPECT_FALSE(IsWindow(window));
+  EXPECT_FALSE(forms::isLoaded<FormA>());
+}
+
+TEST_F(FormUnloading, TheNextReferenceLoadsItAnew) {
+  opened<FormA>().first.setText(u"old");
+  forms::single<FormA>().unload();
+  forms::doEvents();
+  events().clear();
+  EXPECT_EQ(opened<FormA>().first.text(), u"");
+  EXPECT_EQ(events().front(), "A.Load");
+}
+
+TEST_F(FormUnloading, TheCloseBoxUnloads) {
+  FormA& form = opened<FormA>();
+  const HWND window = form.handle();
+  PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
+  ASSERT_TRUE(eventually([&] { return !IsWindow(window); }));
+  EXPECT_FALSE(forms::isLoaded<FormA>());
+}
+
+TEST_F(FormUnloading, AltF4Unloads) {
+  const HWND window = opened<FormA>().handle();
+  input::key(VK_F4, {VK_MENU});
+  ASSERT_TRUE(eventually([&] { return !IsWindow(window); }));
+  EXPECT_EQ(events()[events().size() - 2], "A.Unload");
+}
+
+TEST_F(FormUnloading, AFormWithoutCloseBoxIgnoresAltF4AndClose) {
+  plan<'A'>().design.closable = false;
+  FormA& form = opened<FormA>();
+  const HWND window = form.handle();
+  input::key(VK_F4, {VK_MENU});
+  SendMessageW(window, WM_CLOSE, 0, 0);
+  SendMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
+  EXPECT_TRUE(allAlong([&] { return IsWindow(window) && forms::isLoaded<FormA>(); }, 100));
+}
+
+TEST_F(FormUnloading, TheEndOfTheSessionUnloadsEveryForm) {
+  plan<'A'>().design.closable = false;
+  opened<FormA>();
+  const HWND window = forms::single<FormA>().handle();
+  EXPECT_TRUE(SendMessageW(window, WM_QUERYENDSESSION, 0, 0));
+  EXPECT_TRUE(IsWindow(window));
+  SendMessageW(window, WM_ENDSESSION, FALSE, 0);
+  EXPECT_TRUE(IsWindow(window));
+  SendMessageW(window, WM_ENDSESSION, TRUE, 0);
+  EXPECT_FALSE(IsWindow(window));
+  EXPECT_EQ(times("A.Unload"), 1);
+}
+
+TEST_F(FormUnloading, AnOwnersFormsAreUnloadedFirstAndOnce) {
+  FormA& owner = opened<FormA>();
+  FormB& owned = forms::single<FormB>();
+  owned.show(&owner);
+  FormC& ownedByOwned = forms::single<FormC>();
+  ownedByOwned.show(&owned);
+  awaitActive(ownedByOwned);
+  events().clear();
+  owner.unload();
+  forms::doEvents();
+  std::erase_if(events(), [](const std::string& event) { return !event.ends_with(".Unload"); });
+  EXPECT_EQ(events(), (Events{"C.Unload", "B.Unload", "A.Unload"}));
+  EXPECT_FALSE(forms::isLoaded<FormB>());
+  EXPECT_FALSE(forms::isLoaded<FormC>());
+}
+
+TEST_F(FormUnloading, UnloadingFromUnloadRunsItOnce) {
+  FormA& form = opened<FormA>();
+  plan<'A'>().unload = [&] {
+    EXPECT_TRUE(form.isUnloading());
+    form.unload();
+  };
+  form.unload();
+  EXPECT_EQ(times("A.Unload"), 1);
+}
+
+TEST_F(FormUnloading, AnErrorInUnloadIsShownAndTheWindowGoes) {
+  FormA& form = opened<FormA>();
+  const HWND window = form.handle();
+  plan<'A'>().unload = [] { throw std::runtime_error("disk full"); };
+  form.unload();
+  ASSERT_EQ(boxes.take().size(), 1U);
+  EXPECT_FALSE(IsWindow(window));
+}
+
+TEST_F(FormUnloading, TheObjectOutlivesTheHandlerThatUnloadsIt) {
+  FormA& form = opened<FormA>();
+  bool gone = true;
+  bool textWasThere = false;
+  form.first.onChange = [&] {
+    form.unload();
+    forms::doEvents();
+    gone = times("A.gone") > 0;
+    textWasThere = form.first.text().empty();
+  };
+  form.first.setText(u"bye");
+  EXPECT_FALSE(gone);
+  EXPECT_TRUE(textWasThere);
+  EXPECT_TRUE(eventually([] { return times("A.gone") == 1; }));
+}
+
+TEST_F(FormUnloading, AFormCanBeOpenedAgainFromTheHandlerThatUnloadsIt) {
+  FormA& form = opened<FormA>();
+  form.first.onChange = [&] {
+    form.unload();
+    forms::single<FormA>().show();
+  };
+  form.first.setText(u"again");
+  ASSERT_TRUE(eventually([] { return times("A.gone") == 1; }));
+  EXPECT_TRUE(forms::isLoaded<FormA>());
+  EXPECT_TRUE(IsWindowVisible(forms::single<FormA>().handle()));
+}
+
+TEST_F(FormUnloading, AWindowThatGoesHearsOfNoLossOfFocus) {
+  FormA& form = opened<FormA>();
+  form.unload();
+  passTime(50);
+  EXPECT_EQ(times("A.LostFocus"), 0);
+  EXPECT_EQ(times("A.first.LostFocus"), 0);
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,48 @@
+#include "tests/windows/support/dictionary.h"
+
+#include "app/process.h"
+#include "app/state.h"
+
+namespace wintest {
+namespace {
+
+std::filesystem::path putAside() { return besideProgram().concat(".aside"); }
+
+}  // namespace
+
+const support::SampleDictionary& sampleDictionary() {
+  static const support::SampleDictionary dictionary;
+  return dictionary;
+}
+
+std::filesystem::path besideProgram() {
+  return std::filesystem::path(app::applicationFolder()) / u"kk.dat";
+}
+
+void writeDictionary() {
+  std::filesystem::remove(besideProgram());
+  std::filesystem::remove(putAside());
+  sampleDictionary().writeTo(besideProgram());
+}
+
+void useDictionary() {
+  user::ConnectionString = app::connectionString(app::applicationFolder());
+  data::DataControl control;
+  control.setConnectionString(user::ConnectionString);
+  control.setRecordSource(u"select word from edictidx order by word");
+  control.refresh();
+  user::IdxWords = data::readIndexWords(control);
+}
+
+OtherDictionary::OtherDictionary(const std::string& sql) {
+  std::filesystem::rename(besideProgram(), putAside());
+  if (!sql.empty()) support::makeDatabase(besideProgram(), sql);
+}
+
+OtherDictionary::~OtherDictionary() {
+  std::error_code ignored;
+  std::filesystem::remove(besideProgram(), ignored);
+  std::filesystem::rename(putAside(), besideProgram());
+}
+
+}  // namespace wintest

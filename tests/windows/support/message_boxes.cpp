@@ -1,0 +1,56 @@
+#include "tests/windows/support/message_boxes.h"
+
+#include "forms/window_text.h"
+
+namespace wintest {
+namespace {
+
+/// Number of a message box's text, as the system gives it.
+constexpr int kTextId = 65535;
+
+constexpr wchar_t kDialogClass[] = L"#32770";
+
+BOOL CALLBACK findBox(HWND window, LPARAM found) {
+  wchar_t name[16] = L"";
+  GetClassNameW(window, name, 16);
+  if (lstrcmpW(name, kDialogClass) != 0 || !IsWindowVisible(window)) return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
+}
+
+Icon iconOf(HWND box) {
+  HICON icon = nullptr;
+  for (HWND part = nullptr; (part = FindWindowExW(box, part, L"Static", nullptr)) != nullptr;) {
+    if ((GetWindowLongPtrW(part, GWL_STYLE) & SS_TYPEMASK) != SS_ICON) continue;
+    icon = reinterpret_cast<HICON>(SendMessageW(part, STM_GETICON, 0, 0));
+  }
+  if (icon == nullptr) return Icon::none;
+  // The system shares its own icons: one handle each.
+  if (icon == LoadIconW(nullptr, IDI_ERROR)) return Icon::error;
+  if (icon == LoadIconW(nullptr, IDI_WARNING)) return Icon::warning;
+  if (icon == LoadIconW(nullptr, IDI_INFORMATION)) return Icon::information;
+  return Icon::other;
+}
+
+}  // namespace
+
+MessageBoxes::MessageBoxes() : watcher_([this] { return look(); }) {}
+
+HWND MessageBoxes::current() {
+  HWND found = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), findBox, reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+bool MessageBoxes::look() {
+  HWND box = current();
+  if (box == nullptr || box == answered_) return false;
+  answered_ = box;
+  seen_.push_back({forms::windowText(box), forms::windowText(GetDlgItem(box, kTextId)), iconOf(box),
+                   GetWindow(box, GW_OWNER)});
+  if (const auto act = std::exchange(whileUp_, {})) act(box);
+  SendMessageW(FindWindowExW(box, nullptr, L"Button", nullptr), BM_CLICK, 0, 0);
+  return false;
+}
+
+}  // namespace wintest

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "tests/windows/support/watcher.h"
+
+namespace wintest {
+
+enum class Icon { none, error, warning, information, other };
+
+/// What a message box said.
+struct SeenBox {
+  std::u16string title;
+  std::u16string text;
+  Icon icon = Icon::none;
+  HWND owner = nullptr;
+};
+
+/// Reads every message box of this thread and presses its button.
+class MessageBoxes {
+ public:
+  MessageBoxes();
+
+  /// Runs once while the next box is up, before its button is pressed.
+  void whileUp(std::function<void(HWND)> act) { whileUp_ = std::move(act); }
+
+  /// What was seen since the last call.
+  [[nodiscard]] std::vector<SeenBox> take() { return std::exchange(seen_, {}); }
+  [[nodiscard]] std::size_t count() const { return seen_.size(); }
+
+  /// The box that is up now, or null.
+  static HWND current();
+
+ private:
+  bool look();
+
+  HWND answered_ = nullptr;
+  std::vector<SeenBox> seen_;
+  std::function<void(HWND)> whileUp_;
+  Watcher watcher_;
+};
+
+}  // namespace wintest

@@ -1,0 +1,74 @@
+#include "tests/windows/support/window_test.h"
+
+#include "tests/windows/support/open_menu.h"
+#include "text/utf.h"
+
+namespace wintest {
+namespace {
+
+BOOL CALLBACK collectForm(HWND window, LPARAM forms) {
+  if (forms::Form* form = forms::Form::of(window)) {
+    reinterpret_cast<std::vector<forms::Form*>*>(forms)->push_back(form);
+  }
+  return TRUE;
+}
+
+std::vector<forms::Form*> loadedForms() {
+  std::vector<forms::Form*> found;
+  EnumThreadWindows(GetCurrentThreadId(), collectForm, reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+/// Ends a menu that has been open for longer than any test takes over it.
+bool endForgottenMenu(ULONGLONG& since) {
+  if (openMenu() == nullptr) {
+    since = 0;
+    return false;
+  }
+  if (since == 0) since = GetTickCount64();
+  if (GetTickCount64() - since < kPatience) return false;
+  since = 0;
+  ADD_FAILURE() << "a menu stayed open";
+  EndMenu();
+  return false;
+}
+
+}  // namespace
+
+void unloadAll() {
+  for (std::vector<forms::Form*> found = loadedForms(); !found.empty(); found = loadedForms()) {
+    found.front()->unload();
+  }
+  forms::doEvents();
+}
+
+WindowTest::WindowTest()
+    : menuGuard_([since = ULONGLONG{0}]() mutable { return endForgottenMenu(since); }) {
+  plan<'A'>() = {plainDesign('A'), {}, {}, {}, {}};
+  plan<'B'>() = {plainDesign('B'), {}, {}, {}, {}};
+  plan<'C'>() = {plainDesign('C'), {}, {}, {}, {}};
+  input::moveTo(kNowhere);
+  events().clear();
+}
+
+WindowTest::~WindowTest() { unloadAll(); }
+
+void WindowTest::TearDown() {
+  unloadAll();
+  for (const SeenBox& box : boxes.take()) {
+    ADD_FAILURE() << "unexpected message box: " << text::toUtf8(box.text);
+  }
+}
+
+void WindowTest::awaitActive(const forms::Form& form) {
+  const auto active = [&] { return GetForegroundWindow() == form.handle(); };
+  ASSERT_TRUE(eventually(active));
+  // The window manager may still be answering an earlier window.
+  constexpr DWORD kQuiet = 50;
+  for (int tries = 0; tries < 10 && !allAlong(active, kQuiet); ++tries) {
+    SetForegroundWindow(form.handle());
+  }
+  ASSERT_TRUE(active());
+}
+
+}  // namespace wintest

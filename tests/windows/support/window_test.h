@@ -1,0 +1,45 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "tests/program/harness/input.h"
+#include "tests/windows/support/event_form.h"
+#include "tests/windows/support/message_boxes.h"
+#include "tests/windows/support/pump.h"
+#include "tests/windows/support/screen_places.h"
+
+namespace wintest {
+
+namespace input = harness::input;
+
+/// Starts every test without any window of ours and ends it so. A message box that no test took
+/// note of fails it; a menu that stays open is closed and fails it as well.
+class WindowTest : public ::testing::Test {
+ protected:
+  WindowTest();
+  ~WindowTest() override;
+
+  void TearDown() override;
+
+  /// Shows a form and waits until it has the foreground and all events of its opening are raised.
+  template <class F>
+  F& opened() {
+    F& form = forms::single<F>();
+    form.show();
+    awaitActive(form);
+    return form;
+  }
+
+  /// Waits until `form` has the foreground.
+  static void awaitActive(const forms::Form& form);
+
+  MessageBoxes boxes;
+
+ private:
+  Watcher menuGuard_;
+};
+
+/// Unloads all forms of this thread.
+void unloadAll();
+
+}  // namespace wintest
