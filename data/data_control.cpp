@@ -9,8 +9,8 @@ namespace data {
 
 DataControl::DataControl() = default;
 DataControl::~DataControl() = default;
-DataControl::DataControl(DataControl&&) noexcept = default;
-DataControl& DataControl::operator=(DataControl&&) noexcept = default;
+DataControl::DataControl(DataControl&& other) noexcept = default;
+DataControl& DataControl::operator=(DataControl&& other) noexcept = default;
 
 void DataControl::setConnectionString(std::u16string_view connectionString) {
   if (connectionString == connectionString_) return;

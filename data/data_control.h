@@ -17,8 +17,8 @@ class DataControl {
  public:
   DataControl();
   ~DataControl();
-  DataControl(DataControl&&) noexcept;
-  DataControl& operator=(DataControl&&) noexcept;
+  DataControl(DataControl&& other) noexcept;
+  DataControl& operator=(DataControl&& other) noexcept;
   DataControl(const DataControl&) = delete;
   DataControl& operator=(const DataControl&) = delete;
 

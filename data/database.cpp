@@ -37,8 +37,10 @@ Cell cellAt(sqlite3_stmt* statement, int column) {
 }
 
 std::vector<std::string> columnNames(sqlite3_stmt* statement) {
+  const int count = sqlite3_column_count(statement);
   std::vector<std::string> names;
-  for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+  names.reserve(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) {
     names.emplace_back(sqlite3_column_name(statement, i));
   }
   return names;

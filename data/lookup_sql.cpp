@@ -31,19 +31,15 @@ std::u16string chineseListSql(Bounds bounds, std::u16string_view word) {
 }
 
 std::u16string englishMeaningSql(Bounds bounds, std::u16string_view word) {
-  return joined(
-      {u"select edict.word as Word,cdict.word as Meaning from [edict],[cdict] where "
-       u"edict.eid>=",
-       decimal(bounds.lower), u" and edict.eid<=", decimal(bounds.upper),
-       u" and edict.cid=cdict.cid and edict.word = '", word, u"' order by cdict.word"});
+  return joined({u"select edict.word as Word,cdict.word as Meaning from [edict],[cdict] where ",
+                 u"edict.eid>=", decimal(bounds.lower), u" and edict.eid<=", decimal(bounds.upper),
+                 u" and edict.cid=cdict.cid and edict.word = '", word, u"' order by cdict.word"});
 }
 
 std::u16string chineseMeaningSql(Bounds bounds, std::u16string_view word) {
-  return joined(
-      {u"select cdict.word as Word,edict.word as Meaning from [edict],[cdict] where "
-       u"cdict.cid>=",
-       decimal(bounds.lower), u" and cdict.cid<=", decimal(bounds.upper),
-       u" and edict.eid=cdict.eid and cdict.word = '", word, u"' order by edict.word"});
+  return joined({u"select cdict.word as Word,edict.word as Meaning from [edict],[cdict] where ",
+                 u"cdict.cid>=", decimal(bounds.lower), u" and cdict.cid<=", decimal(bounds.upper),
+                 u" and edict.eid=cdict.eid and cdict.word = '", word, u"' order by edict.word"});
 }
 
 std::u16string indexRowsUpToSql(std::u16string_view low) {

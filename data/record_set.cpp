@@ -13,8 +13,8 @@ namespace data {
 RecordSet::RecordSet() = default;
 RecordSet::RecordSet(std::unique_ptr<Cursor> cursor) : cursor_(std::move(cursor)) {}
 RecordSet::~RecordSet() = default;
-RecordSet::RecordSet(RecordSet&&) noexcept = default;
-RecordSet& RecordSet::operator=(RecordSet&&) noexcept = default;
+RecordSet::RecordSet(RecordSet&& other) noexcept = default;
+RecordSet& RecordSet::operator=(RecordSet&& other) noexcept = default;
 
 bool RecordSet::empty() { return !cursor_ || cursor_->empty(); }
 

@@ -24,8 +24,8 @@ class RecordSet {
   RecordSet();
   explicit RecordSet(std::unique_ptr<Cursor> cursor);
   ~RecordSet();
-  RecordSet(RecordSet&&) noexcept;
-  RecordSet& operator=(RecordSet&&) noexcept;
+  RecordSet(RecordSet&& other) noexcept;
+  RecordSet& operator=(RecordSet&& other) noexcept;
   RecordSet(const RecordSet&) = delete;
   RecordSet& operator=(const RecordSet&) = delete;
 

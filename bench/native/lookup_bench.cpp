@@ -61,18 +61,16 @@ Words readWords(const char* file) {
 }
 
 /// `count` headwords of `table`, evenly spread over its rows numbered by `number`.
-Words spreadWords(data::DataControl& control, std::u16string_view table, std::u16string_view number,
-                  std::size_t count) {
-  const std::u16string name(table);
-  const std::u16string column(number);
-  data::RecordSet& all = run(control, u"select * from " + name);
+Words spreadWords(data::DataControl& control, const std::u16string& table,
+                  const std::u16string& number, std::size_t count) {
+  const std::u16string every = u"select * from " + table;
+  data::RecordSet& all = run(control, every);
   all.moveLast();
-  const auto rows = static_cast<std::size_t>(all.field(column).integer);
+  const auto rows = static_cast<std::size_t>(all.field(number).integer);
+  const std::u16string one = every + u" where " + number + u"=";
   Words words;
   for (std::size_t i = 0; i < count; ++i) {
-    const std::u16string row = decimal(1 + (i * (rows - 1) / count));
-    data::RecordSet& found =
-        run(control, u"select * from " + name + u" where " + column + u"=" + row);
+    data::RecordSet& found = run(control, one + decimal(1 + (i * (rows - 1) / count)));
     if (!found.empty()) words.push_back(found.field(u"word").text);
   }
   return words;

@@ -174,7 +174,7 @@ std::filesystem::path makeInterruptedUpdate(const TempFolder& folder) {
   support::Writer writer(whole);
   writer.run("pragma cache_size=2; begin; update t set n=n+100000, a='changed '||a");
   std::filesystem::create_directory(folder.file(u"left"));
-  const auto file = folder.file(u"left") / "kk.dat";
+  auto file = folder.file(u"left") / "kk.dat";
   support::writeFile(file, support::readFile(whole));
   auto journal = file;
   journal += "-journal";

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <chrono>
 
 #include "data/error.h"
@@ -163,6 +164,14 @@ TEST_F(DatabaseTest, EndsAQueryThatRunsTooLong) {
   EXPECT_EQ(database.read("select n from t where n=1 and a='data'", 1).count(), 1U);
 }
 
+/// The ids of all rows of `sql`, the second column, as they come in `order`.
+std::vector<std::int64_t> ids(Database& database, const std::string& sql, data::ScanOrder order) {
+  const data::Rows rows = database.read(sql, kMany, order);
+  std::vector<std::int64_t> result;
+  for (std::size_t i = 1; i < rows.cells.size(); i += 2) result.push_back(rows.cells[i].integer);
+  return result;
+}
+
 TEST_F(DatabaseTest, ScansBackwardWhateverTheTableIsLike) {
   support::Writer(file_).run(
       "create table plain (word text collate lexilo, id integer);"
@@ -174,20 +183,15 @@ TEST_F(DatabaseTest, ScansBackwardWhateverTheTableIsLike) {
       "insert into clustered select * from plain;"
       "create index i on indexed (word)");
   Database database(support::utf8Path(file_));
-  for (const std::string table : {"plain", "indexed", "clustered"}) {
-    for (const std::string word : {"0", "a", "b", "bb", "c", "地", "的", "坐", "做做"}) {
-      for (const std::string comparison : {"<=", ">="}) {
-        std::string sql = "select * from " + table + " where word";
-        sql += comparison + "'" + word + "'";
-        const data::Rows forward = database.read(sql, kMany);
-        const data::Rows backward = database.read(sql, kMany, data::ScanOrder::kBackward);
-        ASSERT_EQ(forward.count(), backward.count()) << sql;
-        for (std::size_t i = 0; i < forward.count(); ++i) {
-          const std::size_t mirrored = forward.count() - 1 - i;
-          EXPECT_EQ(forward.cells[(i * 2) + 1].text, backward.cells[(mirrored * 2) + 1].text)
-              << sql;
-        }
-      }
+  for (const char* table : {"plain", "indexed", "clustered"}) {
+    for (const char* condition :
+         {"<='0'", "<='a'", "<='b'", "<='bb'", "<='的'", "<='坐'", "<='做做'", ">='0'", ">='a'",
+          ">='b'", ">='bb'", ">='的'", ">='坐'", ">='做做'", "='b'"}) {
+      std::string sql = "select * from ";
+      sql.append(table).append(" where word").append(condition);
+      std::vector<std::int64_t> backward = ids(database, sql, data::ScanOrder::kBackward);
+      std::reverse(backward.begin(), backward.end());
+      EXPECT_EQ(ids(database, sql, data::ScanOrder::kForward), backward) << sql;
     }
   }
 }

@@ -102,8 +102,7 @@ TEST(Dialect, LeavesOtherLikesAlone) {
         "select * from t where word like 'a%' || 'b'", "select * from t where not word like 'a%'",
         "select * from t where word not like 'a%'",
         "select * from t where word like 'a%' escape 'x'", "select * from t where n=word like 'a%'",
-        "select * from t where n between 1 and word like "
-        "'a%'",
+        "select a from t where n between 1 and w like 'a%'",
         "select * from t where t.word like 'a%'", "select * from t where word like a",
         "select * from t where word like 'a%", "select * from t where word like 'a%'=1"}) {
     EXPECT_EQ(sqlOf(sql), sql);

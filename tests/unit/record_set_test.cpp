@@ -173,6 +173,17 @@ TEST_F(RecordSetTest, GoesToTheLastRowOfMany) {
   EXPECT_EQ(set.field(u"id").integer, 2);
 }
 
+TEST_F(RecordSetTest, DoesNotFetchTheRowsBeforeTheLast) {
+  RecordSet set = rows("select * from [long] where word<='w105000' ");
+  set.moveLast();
+  // What is changed now can only show if it was not fetched yet.
+  support::Writer(file_).run("update long set id=-2 where id=2");
+  EXPECT_EQ(set.field(u"id").integer, 5000);
+  set.moveFirst();
+  set.moveNext();
+  EXPECT_EQ(set.field(u"id").integer, -2);
+}
+
 TEST_F(RecordSetTest, KeepsWhatWasFetchedWhenItIsClosed) {
   RecordSet set = rows("select * from long");
   set.close();

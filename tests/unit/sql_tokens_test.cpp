@@ -8,7 +8,6 @@ namespace {
 
 using data::Token;
 using data::tokenize;
-using data::TokenKind;
 
 /// One letter for the kind and the text of each part, parted by bars.
 std::string cut(std::string_view sql) {

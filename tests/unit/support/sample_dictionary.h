@@ -51,11 +51,8 @@ class SampleDictionary {
         "create table edictidx (word text collate lexilo);"
         "create table cdictidx (word text collate lexilo, id integer)";
     for (std::size_t i = 0; i < pairs_.size(); ++i) {
-      const std::string eid = std::to_string(eids_[i]);
-      const std::string cid = std::to_string(cids_[i]);
-      sql += ";insert into edict values (" + eid + "," + quoted(pairs_[i].english) + "," + cid +
-             ");insert into cdict values (" + cid + "," + quoted(pairs_[i].chinese) + "," + eid +
-             ")";
+      sql += insertion("edict", eids_[i], pairs_[i].english, cids_[i]);
+      sql += insertion("cdict", cids_[i], pairs_[i].chinese, eids_[i]);
     }
     sql +=
         ";insert into edictidx select word from edict where eid%100=0 order by eid"
@@ -93,6 +90,12 @@ class SampleDictionary {
     std::vector<std::size_t> result(order.size());
     for (std::size_t i = 0; i < order.size(); ++i) result[order[i]] = i + 1;
     return result;
+  }
+
+  static std::string insertion(const std::string& table, std::size_t number,
+                               const std::u16string& word, std::size_t link) {
+    return ";insert into " + table + " values (" + std::to_string(number) + "," + quoted(word) +
+           "," + std::to_string(link) + ")";
   }
 
   static std::string quoted(const std::u16string& word) {
