@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <optional>
+
 #include "forms/message_box.h"
 #include "lookup/frm_sub.h"
 #include "text/query_text.h"
@@ -20,25 +23,26 @@ void frmSub::Query(std::u16string_view sql, data::DataControl& control, forms::T
 }
 
 void frmSub::fillList(data::DataControl& control, forms::TreeView& list) try {
-  const std::size_t shown = list.count();
   data::RecordSet& rows = control.recordset();
   if (rows.empty()) return;
+  const std::size_t shown = list.count();
+  const std::size_t filled = std::min(rows.recordCount(), static_cast<std::size_t>(MaxCount));
+  // New texts alone are one repaint anyway, and cheaper than switching repainting off and on.
+  std::optional<forms::TreeView::RepaintHeld> held;
+  if (filled != shown) held.emplace(list);
   rows.moveFirst();
-  std::size_t filled = 0;
-  {
-    const forms::TreeView::RepaintHeld held(list);
-    for (int i = 1; i <= MaxCount && !rows.endOfFile(); ++i) {
-      const std::u16string word = rows.field(u"word").text;
-      if (filled < shown) {
-        list.setText(filled + 1, word);
-      } else {
-        list.add(word);
-      }
-      ++filled;
-      rows.moveNext();
+  for (std::size_t node = 1; node <= filled; ++node) {
+    const std::u16string word = rows.field(u"word").text;
+    if (node > shown) {
+      list.add(word);
+    } else {
+      list.setText(node, word);
     }
-    for (std::size_t surplus = filled; surplus < shown; ++surplus) list.remove(filled + 1);
+    rows.moveNext();
   }
+  for (std::size_t surplus = filled; surplus < shown; ++surplus) list.remove(filled + 1);
+  held.reset();
+  list.refresh();
   rows.close();
   if (list.text(1).empty()) return;
   std::u16string first = list.text(1);
@@ -46,6 +50,7 @@ void frmSub::fillList(data::DataControl& control, forms::TreeView& list) try {
   list.select(1);
 } catch (const std::exception&) {
   // The nodes already written stay.
+  list.refresh();
   control.recordset().close();
 }
 
@@ -72,7 +77,6 @@ std::u16string frmSub::showMeaning(std::u16string& word, data::DataControl& cont
 
 void frmSub::showText(const data::MeaningText& text) {
   const forms::RichTextBox::RepaintHeld held(txtOut);
-  txtOut.setText({});
   txtOut.setText(text.body);
   txtOut.select(0, text.headLength);
   txtOut.setSelColor(kHeadwordColor);
