@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <numeric>
 #include <span>
 #include <string_view>
 #include <tuple>
@@ -69,10 +68,9 @@ std::vector<PairIndex> keptPairs(PairIndex begin, PairIndex end, const std::vect
   return group;
 }
 
-std::vector<TierCounts> prefixCounts(const std::vector<Pair>& pairs,
-                                     const std::vector<PairIndex>& units,
-                                     const std::vector<bool>& kept) {
-  std::vector<TierCounts> prefix = {TierCounts{}};
+PrefixCounts prefixCounts(const std::vector<Pair>& pairs, const std::vector<PairIndex>& units,
+                          const std::vector<bool>& kept) {
+  PrefixCounts prefix = {TierCounts{}};
   prefix.reserve(units.size());
   for (std::size_t unit = 0; unit + 1 < units.size(); ++unit) {
     TierCounts counts = prefix.back();
@@ -97,16 +95,14 @@ std::vector<bool> choosePairs(const Vocabulary& vocabulary, const LookupLimits& 
     keepBest(pairs, group, limits.blockRows, kept);
   }
 
-  const std::vector<TierCounts> prefix = prefixCounts(pairs, units, kept);
-  const std::size_t available =
-      std::accumulate(prefix.back().begin(), prefix.back().end(), std::size_t{0});
-  std::size_t blocks = std::min(available, limits.maxRows) / limits.blockRows;
-  std::vector<std::size_t> cuts;
-  for (; blocks > 0 && cuts.empty(); --blocks) cuts = chooseCuts(prefix, blocks, limits.blockRows);
-  if (cuts.empty()) {
+  const PrefixCounts prefix = prefixCounts(pairs, units, kept);
+  const std::size_t blocks =
+      std::min(mostBlocks(prefix, limits.blockRows), limits.maxRows / limits.blockRows);
+  if (blocks == 0) {
     throw Failure("the source has not enough pairs of words to fill one block of " +
                   std::to_string(limits.blockRows) + " rows");
   }
+  const std::vector<std::size_t> cuts = chooseCuts(prefix, blocks, limits.blockRows);
   for (std::size_t block = 0; block + 1 < cuts.size(); ++block) {
     std::vector<PairIndex> group = keptPairs(units[cuts[block]], units[cuts[block + 1]], kept);
     keepBest(pairs, group, limits.blockRows, kept);

@@ -1,6 +1,7 @@
 #include "dictionary/block_cuts.h"
 
 #include <algorithm>
+#include <functional>
 #include <limits>
 #include <numeric>
 
@@ -23,7 +24,7 @@ struct NaturalRows {
   std::uint64_t denominator = 1;
 };
 
-NaturalRows naturalRows(const std::vector<TierCounts>& prefix, std::uint64_t rows) {
+NaturalRows naturalRows(const PrefixCounts& prefix, std::uint64_t rows) {
   const TierCounts& all = prefix.back();
   std::size_t partly = 0;
   std::uint64_t left = rows;
@@ -76,20 +77,27 @@ CutPlaces placesAround(const NaturalRows& natural, std::uint64_t row, std::size_
   return places;
 }
 
-void extend(const std::vector<TierCounts>& prefix, const CutPlaces& from, CutPlaces& to,
+/// Finds the least loss for every place of a cut from those of the cut before.
+void extend(const PrefixCounts& prefix, const CutPlaces& from, CutPlaces& to,
             std::size_t blockRows) {
   for (std::size_t t = 0; t < to.loss.size(); ++t) {
-    for (std::size_t f = 0; f < from.loss.size() && from.first + f < to.first + t; ++f) {
-      if (from.loss[f] >= to.loss[t]) continue;
-      const std::uint64_t loss = blockLoss(prefix[from.first + f], prefix[to.first + t], blockRows);
-      if (loss == kImpossible || from.loss[f] + loss >= to.loss[t]) continue;
+    const std::size_t last = to.first + t;
+    if (last <= from.first) continue;
+    // The further the block reaches back, the greater its loss: what is worse than the best so far
+    // only gets worse.
+    for (std::size_t f = std::min(from.loss.size(), last - from.first); f-- > 0;) {
+      if (from.loss[f] == kImpossible) continue;
+      const std::uint64_t loss = blockLoss(prefix[from.first + f], prefix[last], blockRows);
+      if (loss == kImpossible) continue;
+      if (loss >= to.loss[t]) break;
+      if (from.loss[f] >= to.loss[t] - loss) continue;
       to.loss[t] = from.loss[f] + loss;
       to.previous[t] = static_cast<std::uint32_t>(f);
     }
   }
 }
 
-std::vector<std::size_t> tryCuts(const std::vector<TierCounts>& prefix, std::size_t blocks,
+std::vector<std::size_t> tryCuts(const PrefixCounts& prefix, std::size_t blocks,
                                  std::size_t blockRows, std::size_t reach) {
   const NaturalRows natural = naturalRows(prefix, std::uint64_t{blocks} * blockRows);
   std::vector<CutPlaces> cuts;
@@ -111,15 +119,31 @@ std::vector<std::size_t> tryCuts(const std::vector<TierCounts>& prefix, std::siz
   return chosen;
 }
 
+std::size_t pairsBetween(const TierCounts& first, const TierCounts& last) {
+  return std::transform_reduce(last.begin(), last.end(), first.begin(), std::size_t{0},
+                               std::plus<>(), std::minus<>());
+}
+
 }  // namespace
 
-std::vector<std::size_t> chooseCuts(const std::vector<TierCounts>& prefix, std::size_t blocks,
-                                    std::size_t blockRows) {
-  for (std::size_t reach = kReach; blocks > 0; reach *= 4) {
-    std::vector<std::size_t> cuts = tryCuts(prefix, blocks, blockRows, reach);
-    if (!cuts.empty() || reach > 16 * kReach) return cuts;
+std::size_t mostBlocks(const PrefixCounts& prefix, std::size_t blockRows) {
+  std::size_t blocks = 0;
+  std::size_t first = 0;
+  for (std::size_t unit = 1; unit < prefix.size(); ++unit) {
+    if (pairsBetween(prefix[first], prefix[unit]) < blockRows) continue;
+    ++blocks;
+    first = unit;
   }
-  return {};
+  return blocks;
+}
+
+std::vector<std::size_t> chooseCuts(const PrefixCounts& prefix, std::size_t blocks,
+                                    std::size_t blockRows) {
+  std::vector<std::size_t> cuts;
+  for (std::size_t reach = kReach; cuts.empty(); reach *= 4) {
+    cuts = tryCuts(prefix, blocks, blockRows, reach);
+  }
+  return cuts;
 }
 
 }  // namespace dictionary

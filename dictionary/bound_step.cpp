@@ -48,7 +48,7 @@ std::optional<RowWindow> EnglishBoundStep::window(std::u16string_view word) cons
 }
 
 ChineseBoundStep::ChineseBoundStep(const std::vector<std::u16string>& index)
-    : greatest_(index.begin(), index.end()), least_(index.begin(), index.end()) {
+    : greatest_(index), least_(index) {
   for (std::size_t i = 1; i < index.size(); ++i) {
     if (text::compare(greatest_[i - 1], greatest_[i]) > 0) greatest_[i] = greatest_[i - 1];
     const std::size_t back = index.size() - 1 - i;
@@ -60,13 +60,13 @@ RowWindow ChineseBoundStep::window(std::u16string_view word) const {
   // The last row that is not behind the word.
   const std::u16string low = withoutWildcards(word, u"0");
   const auto behind = std::ranges::partition_point(
-      least_, [&](std::u16string_view least) { return text::compare(least, low) <= 0; });
+      least_, [&](const std::u16string& least) { return text::compare(least, low) <= 0; });
   const std::ptrdiff_t before = behind - least_.begin();
 
   // The first row that is not before the word followed by the last of the common characters.
   const std::u16string high = withoutWildcards(word, u"做") + u"做做";
   const auto first = std::ranges::partition_point(
-      greatest_, [&](std::u16string_view greatest) { return text::compare(greatest, high) < 0; });
+      greatest_, [&](const std::u16string& greatest) { return text::compare(greatest, high) < 0; });
 
   RowWindow window;
   window.lower = before > 0 ? blockEnd(before) - kLead : 0;

@@ -40,8 +40,8 @@ class ChineseBoundStep {
   [[nodiscard]] RowWindow window(std::u16string_view word) const;
 
  private:
-  std::vector<std::u16string_view> greatest_;  ///< of each word and those before it
-  std::vector<std::u16string_view> least_;     ///< of each word and those behind it
+  std::vector<std::u16string> greatest_;  ///< of each word and those before it
+  std::vector<std::u16string> least_;     ///< of each word and those behind it
 };
 
 }  // namespace dictionary

@@ -11,7 +11,7 @@ constexpr std::u16string_view kOpening = u"(（﹙[［〔【〖<〈＜";
 constexpr std::u16string_view kClosing = u")）﹚]］〕】〗>〉＞";
 /// Longer notes and quotations are taken for brackets that do not close, which also keeps the work
 /// on a hostile text proportional to its length.
-constexpr std::size_t kMaxGroup = 1000;
+constexpr std::size_t kMaxGroup = 400;
 
 constexpr std::size_t kFirstSquare = 3;
 constexpr std::size_t kFirstAngle = 8;

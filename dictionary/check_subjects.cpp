@@ -83,15 +83,13 @@ void Catalogue::checkName(const RowReader& reader, const std::string& table) {
 }
 
 void Catalogue::checkFlags(const RowReader& reader, const std::string& table) {
-  for (const int column : {3, 4}) {
-    const bool flag =
-        reader.isInteger(column) && (reader.number(column) == 0 || reader.number(column) == 1);
-    if (!flag) {
-      findings_.add(Rule::kCatalogueShown, "[" + table + "] " + reader.columnName(column) + " is " +
-                                               std::string(reader.text(column)));
-    }
+  const bool isDefault = reader.number(4) == 1;
+  if (!reader.isInteger(3) || !reader.isInteger(4) || (!isDefault && reader.number(4) != 0)) {
+    findings_.add(Rule::kCatalogueFlags, "[" + table + "] has Isshow " +
+                                             std::string(reader.text(3)) + " and default " +
+                                             std::string(reader.text(4)));
   }
-  if (reader.number(4) != 1) return;
+  if (!isDefault) return;
   ++defaults_;
   if (reader.number(3) != 1) findings_.add(Rule::kCatalogueDefault, "[" + table + "] is hidden");
 }

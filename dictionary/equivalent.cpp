@@ -124,7 +124,8 @@ std::u16string_view withoutTail(std::u16string_view text) {
   std::size_t begin = text.size();
   while (begin > 0 && text[begin - 1] < 0x100) --begin;
   const std::u16string_view foreign = text.substr(begin);
-  const bool words = begin > 0 && isHan(text[begin - 1]) && std::ranges::count(foreign, u' ') > 0 &&
+  const bool words = begin > 0 && isHan(text[begin - 1]) &&
+                     foreign.find(u' ', 1) != std::u16string_view::npos &&
                      std::ranges::count_if(foreign, isSmall) > 4;
   return words ? text.substr(0, begin) : text;
 }

@@ -55,8 +55,8 @@ std::string_view describe(Rule rule) {
       return "the catalogue names each table once, by ASCII letters and digits and no word of SQL";
     case Rule::kCatalogueNames:
       return "the catalogue gives every dictionary a Chinese name of its own";
-    case Rule::kCatalogueShown:
-      return "Isshow and default are 0 or 1";
+    case Rule::kCatalogueFlags:
+      return "Isshow is a number, default is 0 or 1";
     case Rule::kCatalogueDefault:
       return "exactly one dictionary is the default, and it is shown";
     case Rule::kSubjectRows:

@@ -35,7 +35,7 @@ enum class Rule : std::uint8_t {
   kChineseReach,
   kCatalogueTables,
   kCatalogueNames,
-  kCatalogueShown,
+  kCatalogueFlags,
   kCatalogueDefault,
   kSubjectRows,
   kSubjectOrder,

@@ -1,0 +1,234 @@
+#include "dictionary/block_choice.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "dictionary/failure.h"
+#include "text/order.h"
+
+namespace {
+
+using dictionary::choosePairs;
+using dictionary::LookupLimits;
+using dictionary::Pair;
+using dictionary::Tier;
+using dictionary::Vocabulary;
+
+/// A headword with a number of pairs.
+struct Word {
+  std::u16string text;
+  std::size_t pairs;
+  Tier tier = Tier::kFirst;
+};
+
+std::u16string numbered(std::u16string_view stem, std::size_t number) {
+  const std::string digits = std::to_string(1000000 + number);
+  return std::u16string(stem) + std::u16string(digits.begin() + 1, digits.end());
+}
+
+/// Every pair has a Chinese headword of its own.
+Vocabulary vocabularyOf(std::vector<Word> words) {
+  std::ranges::sort(words,
+                    [](const Word& a, const Word& b) { return text::compare(a.text, b.text) < 0; });
+  Vocabulary vocabulary;
+  for (const Word& word : words) {
+    vocabulary.english.push_back(word.text);
+    for (std::size_t i = 0; i < word.pairs; ++i) {
+      vocabulary.chinese.push_back(numbered(u"词", vocabulary.chinese.size()));
+      vocabulary.pairs.push_back({static_cast<std::uint32_t>(vocabulary.english.size() - 1),
+                                  static_cast<std::uint32_t>(vocabulary.chinese.size() - 1),
+                                  word.tier,
+                                  static_cast<std::uint8_t>(std::min<std::size_t>(i, 255))});
+    }
+  }
+  return vocabulary;
+}
+
+std::u16string groupOf(const std::u16string& word) {
+  const std::size_t apostrophe = word.find(u'\'');
+  return apostrophe == std::u16string::npos ? word : word.substr(0, apostrophe + 1);
+}
+
+/// Kept pairs in order of their headwords, and whether every headword and every apostrophe group
+/// stays in its block.
+void expectWholeBlocks(const Vocabulary& vocabulary, const std::vector<bool>& kept) {
+  std::map<std::u16string, std::pair<std::size_t, std::size_t>> rows;
+  std::size_t row = 0;
+  for (std::size_t i = 0; i < kept.size(); ++i) {
+    if (!kept[i]) continue;
+    const std::u16string group =
+        groupOf(text::toLower(vocabulary.english[vocabulary.pairs[i].english]));
+    rows.try_emplace(group, row, row);
+    rows[group].second = row;
+    ++row;
+  }
+  EXPECT_EQ(row % 100, 0U);
+  for (const auto& [group, range] : rows) EXPECT_EQ(range.first / 100, range.second / 100);
+}
+
+std::size_t keptCount(const std::vector<bool>& kept) {
+  return static_cast<std::size_t>(std::ranges::count(kept, true));
+}
+
+std::vector<Word> singles(std::size_t count, std::u16string_view stem = u"m") {
+  std::vector<Word> words;
+  for (std::size_t i = 0; i < count; ++i) words.push_back({numbered(stem, i), 1});
+  return words;
+}
+
+TEST(ChoosePairs, TakesEverythingThatFillsBlocks) {
+  const Vocabulary vocabulary = vocabularyOf(singles(300));
+  EXPECT_EQ(keptCount(choosePairs(vocabulary, LookupLimits())), 300U);
+}
+
+TEST(ChoosePairs, LeavesOutWhatFillsNoBlock) {
+  const Vocabulary vocabulary = vocabularyOf(singles(399));
+  const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
+  EXPECT_EQ(keptCount(kept), 300U);
+  expectWholeBlocks(vocabulary, kept);
+}
+
+TEST(ChoosePairs, RefusesLessThanABlock) {
+  EXPECT_THROW(choosePairs(vocabularyOf(singles(99)), LookupLimits()), dictionary::Failure);
+  EXPECT_THROW(choosePairs(Vocabulary(), LookupLimits()), dictionary::Failure);
+}
+
+TEST(ChoosePairs, KeepsToTheRowLimit) {
+  LookupLimits limits;
+  limits.maxRows = 500;
+  const Vocabulary vocabulary = vocabularyOf(singles(2000));
+  const std::vector<bool> kept = choosePairs(vocabulary, limits);
+  EXPECT_EQ(keptCount(kept), 500U);
+  expectWholeBlocks(vocabulary, kept);
+}
+
+TEST(ChoosePairs, LetsNoHeadwordCrossABlock) {
+  std::vector<Word> words = singles(1000);
+  for (std::size_t i = 0; i < words.size(); ++i) words[i].pairs = 1 + i * 7 % 12;
+  const Vocabulary vocabulary = vocabularyOf(words);
+  const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
+  expectWholeBlocks(vocabulary, kept);
+  EXPECT_GT(keptCount(kept), vocabulary.pairs.size() * 95 / 100);
+}
+
+TEST(ChoosePairs, FindsRoomForALargeHeadwordAtABoundary) {
+  for (const std::size_t before : {20, 60, 90, 99}) {
+    std::vector<Word> words = singles(before, u"a");
+    words.push_back({u"b", 80});
+    for (Word& word : singles(220 - before, u"c")) words.push_back(word);
+    const Vocabulary vocabulary = vocabularyOf(words);
+    const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
+    expectWholeBlocks(vocabulary, kept);
+  }
+}
+
+TEST(ChoosePairs, CutsAHeadwordThatIsLargerThanABlock) {
+  std::vector<Word> words = singles(200);
+  words.push_back({u"z", 150});
+  const Vocabulary vocabulary = vocabularyOf(words);
+  const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
+  EXPECT_EQ(keptCount(kept), 300U);
+  expectWholeBlocks(vocabulary, kept);
+}
+
+TEST(ChoosePairs, KeepsWordsWithTheSameTextBeforeAnApostropheTogether) {
+  std::vector<Word> words = singles(95, u"a");
+  for (const std::u16string tail : {u"clock", u"er", u"er the hill", u"Brien", u" boy", u"''x"}) {
+    words.push_back({u"o'" + tail, 3});
+  }
+  words.push_back({u"O'Neill", 4});
+  for (Word& word : singles(180, u"p")) words.push_back(word);
+  const Vocabulary vocabulary = vocabularyOf(words);
+  const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
+  EXPECT_GE(keptCount(kept), 200U);
+  expectWholeBlocks(vocabulary, kept);
+}
+
+TEST(ChoosePairs, KeepsAGroupOfEightyRowsTogether) {
+  std::vector<Word> words = singles(970, u"a");
+  for (std::size_t i = 0; i < 40; ++i) words.push_back({numbered(u"o'", i), 2});
+  for (Word& word : singles(1050, u"p")) words.push_back(word);
+  for (Word& word : words) {
+    if (word.pairs == 1) word.tier = Tier::kOrdinary;
+  }
+  const Vocabulary vocabulary = vocabularyOf(words);
+  const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
+  EXPECT_EQ(keptCount(kept), 2000U);
+  expectWholeBlocks(vocabulary, kept);
+  for (std::size_t i = 0; i < kept.size(); ++i) {
+    if (vocabulary.pairs[i].tier == Tier::kFirst) {
+      EXPECT_TRUE(kept[i]);
+    }
+  }
+}
+
+TEST(ChoosePairs, GivesUpTheLeastValuableFirst) {
+  std::vector<Word> words = singles(1000);
+  for (std::size_t i = 0; i < words.size(); ++i) words[i].pairs = 1 + i % 3;
+  for (std::size_t i = 0; i < words.size(); i += 5) words[i].tier = Tier::kWeb;
+  const Vocabulary vocabulary = vocabularyOf(words);
+  LookupLimits limits;
+  limits.maxRows = 1700;
+  const std::vector<bool> kept = choosePairs(vocabulary, limits);
+  expectWholeBlocks(vocabulary, kept);
+  EXPECT_EQ(keptCount(kept), 1700U);
+  for (std::size_t i = 0; i < kept.size(); ++i) {
+    if (vocabulary.pairs[i].tier != Tier::kWeb) {
+      EXPECT_TRUE(kept[i]);
+    }
+  }
+}
+
+TEST(ChoosePairs, GivesUpLaterEquivalentsBeforeFirstOnes) {
+  std::vector<Word> words = singles(60);
+  for (Word& word : words) word.pairs = 3;
+  const Vocabulary vocabulary = vocabularyOf(words);
+  const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
+  EXPECT_EQ(keptCount(kept), 100U);
+  for (std::size_t i = 0; i < kept.size(); ++i) {
+    if (vocabulary.pairs[i].position == 0) {
+      EXPECT_TRUE(kept[i]);
+    }
+  }
+}
+
+TEST(ChoosePairs, LimitsTheRowsOfAChineseHeadword) {
+  Vocabulary vocabulary = vocabularyOf(singles(600));
+  for (std::size_t i = 0; i < 250; ++i) vocabulary.pairs[i * 2].chinese = 0;
+  for (std::size_t i = 0; i < 49; ++i) vocabulary.pairs[i * 2].tier = Tier::kWeb;
+  const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
+  std::size_t rows = 0;
+  for (std::size_t i = 0; i < kept.size(); ++i) {
+    if (kept[i] && vocabulary.pairs[i].chinese == 0) {
+      ++rows;
+      EXPECT_NE(vocabulary.pairs[i].tier, Tier::kWeb);
+    }
+  }
+  EXPECT_LE(rows, 201U);
+  expectWholeBlocks(vocabulary, kept);
+}
+
+TEST(ChoosePairs, HoldsForAnyMixtureOfGroups) {
+  std::mt19937 random(20240611);
+  for (int round = 0; round < 20; ++round) {
+    std::vector<Word> words = singles(500 + random() % 500);
+    for (Word& word : words) {
+      word.pairs = 1 + random() % 4;
+      if (random() % 50 == 0) word.pairs = 20 + random() % 90;
+      if (random() % 10 == 0) word.text += u"'s";
+      if (random() % 30 == 0) word.text = u"o'" + word.text;
+      word.tier = static_cast<Tier>(random() % dictionary::kTierCount);
+    }
+    const Vocabulary vocabulary = vocabularyOf(words);
+    const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
+    expectWholeBlocks(vocabulary, kept);
+    EXPECT_GT(keptCount(kept), vocabulary.pairs.size() / 2);
+  }
+}
+
+}  // namespace

@@ -1,0 +1,145 @@
+#include "dictionary/build.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "dictionary/check.h"
+#include "dictionary/failure.h"
+#include "tests/unit/support/sample_database.h"
+#include "tests/unit/support/small_dictionary.h"
+#include "tests/unit/support/temp_folder.h"
+
+namespace {
+
+using support::TempFolder;
+
+std::string build(const std::filesystem::path& source, const std::filesystem::path& target) {
+  std::ostringstream log;
+  dictionary::buildDatabase(source, target, log);
+  return log.str();
+}
+
+std::string failureOf(const std::filesystem::path& source, const std::filesystem::path& target) {
+  try {
+    build(source, target);
+  } catch (const dictionary::Failure& failure) {
+    return failure.what();
+  }
+  return "";
+}
+
+TEST(BuildDatabase, MakesADictionaryThatKeepsEveryRule) {
+  const dictionary::CheckResult result = dictionary::checkDatabase(support::smallDatabase());
+  std::ostringstream findings;
+  result.findings.print(findings);
+  EXPECT_EQ(findings.str(), "");
+  EXPECT_EQ(result.dictionaries, 24U);
+  EXPECT_GE(result.pairs, 1000U);
+  EXPECT_EQ(result.pairs % 100, 0U);
+}
+
+TEST(BuildDatabase, MakesTheSameBytesOfTheSameSource) {
+  const TempFolder folder;
+  build(support::smallSource(), folder.file(u"again.dat"));
+  EXPECT_EQ(support::readFile(folder.file(u"again.dat")),
+            support::readFile(support::smallDatabase()));
+}
+
+TEST(BuildDatabase, LeavesNothingBesideTheTarget) {
+  const TempFolder folder;
+  build(support::smallSource(), folder.file(u"kk.dat"));
+  EXPECT_EQ(support::entryCount(folder.path()), 1);
+}
+
+TEST(BuildDatabase, ReplacesAFormerDatabase) {
+  const TempFolder folder;
+  support::writeFile(folder.file(u"kk.dat"), "former");
+  build(support::smallSource(), folder.file(u"kk.dat"));
+  EXPECT_EQ(support::readFile(folder.file(u"kk.dat")), support::readFile(support::smallDatabase()));
+}
+
+TEST(BuildDatabase, KeepsTheFormerDatabaseWhenTheSourceIsNoGood) {
+  const TempFolder folder;
+  support::writeFile(folder.file(u"kk.dat"), "former");
+  support::writeFile(folder.file(u"empty.csv"), "");
+  support::writeFile(folder.file(u"header.csv"), "word,meaning\na,b\n");
+  support::writeFile(folder.file(u"short.csv"),
+                     "word,translation,collins,oxford,tag,bnc,frq\na,甲,,,,0,0\n");
+  EXPECT_NE(failureOf(folder.file(u"none.csv"), folder.file(u"kk.dat")), "");
+  EXPECT_NE(failureOf(folder.path(), folder.file(u"kk.dat")), "");
+  EXPECT_NE(failureOf(folder.file(u"empty.csv"), folder.file(u"kk.dat")), "");
+  EXPECT_NE(failureOf(folder.file(u"header.csv"), folder.file(u"kk.dat")), "");
+  EXPECT_NE(failureOf(folder.file(u"short.csv"), folder.file(u"kk.dat")), "");
+  EXPECT_EQ(support::readFile(folder.file(u"kk.dat")), "former");
+  EXPECT_EQ(support::entryCount(folder.path()), 4);
+}
+
+TEST(BuildDatabase, LeavesATargetThatCannotBeReplaced) {
+  const TempFolder folder;
+  std::filesystem::create_directory(folder.file(u"kk.dat"));
+  support::writeFile(folder.file(u"kk.dat") / "inside", "x");
+  EXPECT_NE(failureOf(support::smallSource(), folder.file(u"kk.dat")), "");
+  EXPECT_EQ(support::readFile(folder.file(u"kk.dat") / "inside"), "x");
+  EXPECT_EQ(support::entryCount(folder.path()), 1);
+}
+
+TEST(BuildDatabase, FailsWhereTheTargetsFolderIsNotThere) {
+  const TempFolder folder;
+  EXPECT_NE(failureOf(support::smallSource(), folder.file(u"none") / "kk.dat"), "");
+}
+
+TEST(BuildDatabase, ReportsBadLinesByTheirNumbersAndReadsOn) {
+  const TempFolder folder;
+  std::string source = support::readFile(support::smallSource());
+  source += "bad,\"line\n";
+  source += "worse\xFF,,,,,,,,,,,,\n";
+  source += "zyzzyva,,,象鼻虫,,5,1,gre,1,1,,,\n";
+  support::writeFile(folder.file(u"source.csv"), source);
+  const std::string log = build(folder.file(u"source.csv"), folder.file(u"kk.dat"));
+  const auto lines = std::count(source.begin(), source.end(), '\n');
+  EXPECT_NE(log.find("line " + std::to_string(lines - 2) + " skipped: a quoted field"),
+            std::string::npos);
+  EXPECT_NE(log.find("line " + std::to_string(lines - 1) + " skipped: it is not UTF-8"),
+            std::string::npos);
+  data::DataControl rows =
+      support::opened(folder.file(u"kk.dat"), u"select word from edict where word='zyzzyva'");
+  EXPECT_FALSE(rows.recordset().empty());
+}
+
+TEST(BuildDatabase, ReportsWhatItDid) {
+  const TempFolder folder;
+  const std::string log = build(support::smallSource(), folder.file(u"kk.dat"));
+  for (const std::string part :
+       {"entries read", "database checked", "English and", "left out: further web equivalents",
+        "Subject dictionaries:", "med"}) {
+    EXPECT_NE(log.find(part), std::string::npos) << part;
+  }
+}
+
+TEST(BuildDatabase, FillsTheCatalogue) {
+  data::DataControl control = support::opened(
+      support::smallDatabase(), u"select * from  [Index]  where Isshow = 1 order by Cname");
+  data::RecordSet& rows = control.recordset();
+  EXPECT_EQ(rows.recordCount(), 24U);
+  for (rows.moveFirst(); !rows.endOfFile(); rows.moveNext()) {
+    EXPECT_EQ(rows.field(1).text, rows.field(u"TableName").text);
+    EXPECT_EQ(rows.field(2).text, rows.field(u"cname").text);
+    EXPECT_EQ(rows.field(3).integer, 1);
+    EXPECT_EQ(rows.field(4).integer, rows.field(2).text == u"医学" ? 1 : 0);
+  }
+}
+
+TEST(BuildDatabase, FillsSubjectDictionaries) {
+  data::DataControl control = support::opened(
+      support::smallDatabase(), u"select * from chem where word='2,4-dinitrobenzene'");
+  data::RecordSet& rows = control.recordset();
+  ASSERT_EQ(rows.recordCount(), 1U);
+  rows.moveFirst();
+  EXPECT_EQ(rows.field(u"meaning").text, u"2,4-二硝基苯；间二硝基苯");
+}
+
+}  // namespace

@@ -1,0 +1,117 @@
+#include "dictionary/commands.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "dictionary/word_lookup.h"
+#include "tests/unit/support/sample_database.h"
+#include "tests/unit/support/small_dictionary.h"
+#include "tests/unit/support/temp_folder.h"
+
+namespace {
+
+struct Outcome {
+  dictionary::ExitCode code = dictionary::kSuccess;
+  std::string out;
+  std::string err;
+};
+
+Outcome run(const std::vector<std::string>& arguments) {
+  std::ostringstream out;
+  std::ostringstream err;
+  Outcome outcome;
+  outcome.code = dictionary::runCommand(arguments, out, err);
+  outcome.out = out.str();
+  outcome.err = err.str();
+  return outcome;
+}
+
+std::string small() { return support::utf8Path(support::smallDatabase()); }
+
+TEST(Commands, ShowHowTheyAreUsed) {
+  const Outcome help = run({"--help"});
+  EXPECT_EQ(help.code, dictionary::kSuccess);
+  EXPECT_NE(help.out.find("kkbuild build SOURCE.csv OUTPUT"), std::string::npos);
+  for (const std::vector<std::string>& wrong : {std::vector<std::string>{},
+                                                {"build"},
+                                                {"build", "a"},
+                                                {"check"},
+                                                {"lookup", "a"},
+                                                {"make"},
+                                                {"check", "a", "b"}}) {
+    const Outcome outcome = run(wrong);
+    EXPECT_EQ(outcome.code, dictionary::kMisused);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_NE(outcome.err.find("kkbuild check FILE"), std::string::npos);
+  }
+}
+
+TEST(Commands, BuildThenCheck) {
+  const support::TempFolder folder;
+  const std::string target = support::utf8Path(folder.file(u"词 kk.dat"));
+  const Outcome built = run({"build", support::utf8Path(support::smallSource()), target});
+  EXPECT_EQ(built.code, dictionary::kSuccess);
+  EXPECT_EQ(built.out, "");
+  const Outcome checked = run({"check", target});
+  EXPECT_EQ(checked.code, dictionary::kSuccess);
+  EXPECT_NE(checked.out.find("all rules are kept"), std::string::npos);
+  EXPECT_NE(checked.out.find("24 subject dictionaries"), std::string::npos);
+}
+
+TEST(Commands, SayInOneSentenceWhatFailed) {
+  const support::TempFolder folder;
+  const std::string target = support::utf8Path(folder.file(u"kk.dat"));
+  const Outcome built = run({"build", support::utf8Path(folder.file(u"none.csv")), target});
+  EXPECT_EQ(built.code, dictionary::kFailed);
+  EXPECT_EQ(built.err.find("kkbuild: there is no file"), 0U);
+  EXPECT_EQ(std::count(built.err.begin(), built.err.end(), '\n'), 1);
+  EXPECT_EQ(run({"check", target}).code, dictionary::kFailed);
+  EXPECT_EQ(run({"lookup", target, "a"}).code, dictionary::kFailed);
+  support::writeFile(folder.file(u"kk.dat"), "no database at all, but long enough to be read");
+  const Outcome lookedUp = run({"lookup", target, "a"});
+  EXPECT_EQ(lookedUp.code, dictionary::kFailed);
+  EXPECT_EQ(lookedUp.err.find("kkbuild: "), 0U);
+}
+
+TEST(Commands, CheckFailsForABrokenRule) {
+  const support::TempFolder folder;
+  std::filesystem::copy_file(support::smallDatabase(), folder.file(u"kk.dat"));
+  support::Writer(folder.file(u"kk.dat")).run("update edict set cid=3 where eid=9");
+  const Outcome outcome = run({"check", support::utf8Path(folder.file(u"kk.dat"))});
+  EXPECT_EQ(outcome.code, dictionary::kFailed);
+  EXPECT_NE(outcome.out.find("links back"), std::string::npos);
+  EXPECT_NE(outcome.out.find("[edict] row 9"), std::string::npos);
+  EXPECT_NE(outcome.out.find("breaks the rules above"), std::string::npos);
+}
+
+TEST(Commands, LookupShowsListAndMeaning) {
+  const Outcome outcome = run({"lookup", small(), " bit"});
+  EXPECT_EQ(outcome.code, dictionary::kSuccess);
+  EXPECT_EQ(outcome.out.find("bit\nbite\n"), 0U);
+  EXPECT_NE(outcome.out.find("\n\n bit\n 比特；\n 位\n"), std::string::npos);
+}
+
+TEST(Commands, LookupFindsNothingBehindTheLastWord) {
+  const Outcome outcome = run({"lookup", small(), "zzz"});
+  EXPECT_EQ(outcome.code, dictionary::kFailed);
+  EXPECT_EQ(outcome.out, "");
+}
+
+TEST(LookUp, DoublesTheApostropheAsTheWindowDoes) {
+  const dictionary::LookupResult result = dictionary::lookUp(support::smallDatabase(), u"it's");
+  ASSERT_FALSE(result.headwords.empty());
+  EXPECT_EQ(result.headwords.front(), u"it's");
+  EXPECT_EQ(result.meaning, u" it''s\r\n 它是；\r\n 它有");
+}
+
+TEST(LookUp, FindsChineseWords) {
+  const dictionary::LookupResult result = dictionary::lookUp(support::smallDatabase(), u"数据");
+  ASSERT_FALSE(result.headwords.empty());
+  EXPECT_EQ(result.headwords.front(), u"数据");
+  EXPECT_EQ(result.meaning, u" 数据\r\n data；\r\n datum");
+}
+
+}  // namespace

@@ -1,0 +1,148 @@
+#include "dictionary/pair_collector.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "dictionary/entry.h"
+#include "dictionary/general_dictionary.h"
+#include "dictionary/subject_collector.h"
+
+namespace {
+
+using dictionary::Entry;
+using dictionary::Pair;
+using dictionary::PairCollector;
+using dictionary::Subject;
+using dictionary::Tier;
+using dictionary::Vocabulary;
+
+Entry entry(const std::string& word, const std::string& translation, bool important = false) {
+  std::optional<Entry> extracted = dictionary::extractEntry({word, translation, important});
+  EXPECT_TRUE(extracted.has_value());
+  return std::move(*extracted);
+}
+
+Vocabulary collect(const std::vector<Entry>& entries) {
+  PairCollector collector;
+  for (const Entry& one : entries) collector.add(one);
+  return std::move(collector).finish();
+}
+
+/// "english=chinese" of every pair, in order.
+std::vector<std::u16string> texts(const Vocabulary& vocabulary) {
+  std::vector<std::u16string> result;
+  for (const Pair& pair : vocabulary.pairs) {
+    result.push_back(vocabulary.english[pair.english] + u"=" + vocabulary.chinese[pair.chinese]);
+  }
+  return result;
+}
+
+Tier tierOf(const Vocabulary& vocabulary, std::u16string_view chinese) {
+  for (const Pair& pair : vocabulary.pairs) {
+    if (vocabulary.chinese[pair.chinese] == chinese) return pair.tier;
+  }
+  ADD_FAILURE() << "no such pair";
+  return Tier::kWeb;
+}
+
+TEST(ExtractEntry, GivesNothingForAWordThatCannotBeLookedUp) {
+  EXPECT_FALSE(dictionary::extractEntry({"100%", "百分之百", false}).has_value());
+}
+
+TEST(PairCollector, GivesDistinctPairsInTheTextOrder) {
+  const Vocabulary vocabulary = collect(
+      {entry("zoo", "n. 动物园"), entry("Bit", "n. 位, 比特\\n[计] 位"), entry("a", "art. 一")});
+  EXPECT_EQ(texts(vocabulary),
+            (std::vector<std::u16string>{u"a=一", u"Bit=比特", u"Bit=位", u"zoo=动物园"}));
+}
+
+TEST(PairCollector, CountsTheEntrysPairs) {
+  PairCollector collector;
+  EXPECT_EQ(collector.add(entry("bit", "位, 比特, 位")), 2U);
+  EXPECT_EQ(collector.add(entry("bleaky", "= bleak")), 0U);
+}
+
+TEST(PairCollector, MakesOneOfWordsThatDifferInCaseOnly) {
+  const Vocabulary vocabulary =
+      collect({entry("Polish", "波兰语, A型"), entry("polish", "擦亮, a型, 波兰语")});
+  EXPECT_EQ(vocabulary.english, (std::vector<std::u16string>{u"Polish"}));
+  EXPECT_EQ(texts(vocabulary).size(), 3U);
+}
+
+TEST(PairCollector, RatesPairs) {
+  const Vocabulary vocabulary = collect({entry("data", "n. 数据, 资料\\n[网络] 数值；数码", true),
+                                         entry("abacus", "n. 算盘, 顶板\\n[网络] 珠算"),
+                                         entry("apples", "(apple 的复数) n. 苹果, 苹果树"),
+                                         entry("Rheic", "[网络] 瑞克洋；古洋"),
+                                         entry("bati", "n. (Bati)人名；(法)巴蒂；(意)巴提")});
+  EXPECT_EQ(tierOf(vocabulary, u"数据"), Tier::kImportantFirst);
+  EXPECT_EQ(tierOf(vocabulary, u"资料"), Tier::kImportant);
+  EXPECT_EQ(tierOf(vocabulary, u"数值"), Tier::kWebFirst);
+  EXPECT_EQ(tierOf(vocabulary, u"数码"), Tier::kWeb);
+  EXPECT_EQ(tierOf(vocabulary, u"算盘"), Tier::kFirst);
+  EXPECT_EQ(tierOf(vocabulary, u"顶板"), Tier::kOrdinary);
+  EXPECT_EQ(tierOf(vocabulary, u"苹果"), Tier::kInflectedFirst);
+  EXPECT_EQ(tierOf(vocabulary, u"苹果树"), Tier::kInflected);
+  EXPECT_EQ(tierOf(vocabulary, u"瑞克洋"), Tier::kOnlyWeb);
+  EXPECT_EQ(tierOf(vocabulary, u"古洋"), Tier::kWeb);
+  EXPECT_EQ(tierOf(vocabulary, u"巴蒂"), Tier::kOnlyName);
+  EXPECT_EQ(tierOf(vocabulary, u"巴提"), Tier::kName);
+}
+
+TEST(PairCollector, ANameInCommonUseIsImportant) {
+  const Vocabulary vocabulary = collect({entry("alexander", "n. 亚历山大（男子名）", true)});
+  EXPECT_EQ(tierOf(vocabulary, u"亚历山大"), Tier::kImportantFirst);
+}
+
+TEST(PairCollector, AnInflectedFormWithoutMeaningPointsToItsBase) {
+  EXPECT_EQ(texts(collect({entry("backslidden", "(backslide 的过去分词)")})),
+            (std::vector<std::u16string>{u"backslidden=backslide的过去分词"}));
+}
+
+TEST(Arrange, LinksBothTablesRowByRow) {
+  const Vocabulary vocabulary =
+      collect({entry("heat", "热, 加热"), entry("hot", "热, 热的"), entry("warm", "暖")});
+  const std::vector<bool> all(vocabulary.pairs.size(), true);
+  const dictionary::GeneralDictionary general = dictionary::arrange(vocabulary, all);
+  ASSERT_EQ(general.edict.size(), 5U);
+  ASSERT_EQ(general.cdict.size(), 5U);
+  for (std::size_t i = 0; i < 5; ++i) {
+    EXPECT_EQ(general.cdict[general.edict[i].link - 1].link, i + 1);
+    EXPECT_EQ(general.edict[general.cdict[i].link - 1].link, i + 1);
+    if (i > 0) {
+      EXPECT_LE(general.edict[i - 1].word, general.edict[i].word);
+      EXPECT_LE(general.cdict[i - 1].word, general.cdict[i].word);
+    }
+  }
+}
+
+TEST(Arrange, LeavesOutWhatIsNotChosen) {
+  const Vocabulary vocabulary = collect({entry("heat", "热, 加热"), entry("warm", "暖")});
+  const dictionary::GeneralDictionary general =
+      dictionary::arrange(vocabulary, {true, false, true});
+  EXPECT_EQ(general.edict.size(), 2U);
+  EXPECT_EQ(general.cdict.size(), 2U);
+}
+
+TEST(SubjectCollector, MakesOneRowOfAHeadword) {
+  dictionary::SubjectCollector collector;
+  collector.add(entry("zone", "[医] 带, 区(域)\\n[计] 区域\\n[医] 带, 区(域)\\n[医] 层"));
+  collector.add(entry("Acid", "[化] 酸"));
+  collector.add(entry("acid bath", "[化] 酸浴"));
+  collector.add(entry("acid", "[化] 酸性的"));
+  const dictionary::SubjectTables tables = std::move(collector).finish();
+  const auto& med = tables[static_cast<std::size_t>(Subject::kMedicine)];
+  ASSERT_EQ(med.size(), 1U);
+  EXPECT_EQ(med[0].word, u"zone");
+  EXPECT_EQ(med[0].meaning, u"带，区(域)；层");
+  const auto& chem = tables[static_cast<std::size_t>(Subject::kChemistry)];
+  ASSERT_EQ(chem.size(), 2U);
+  EXPECT_EQ(chem[0].word, u"Acid");
+  EXPECT_EQ(chem[0].meaning, u"酸；酸性的");
+  EXPECT_EQ(chem[1].word, u"acid bath");
+}
+
+}  // namespace

@@ -1,0 +1,87 @@
+#include "dictionary/pieces.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "dictionary/brackets.h"
+
+namespace {
+
+using Texts = std::vector<std::u16string>;
+
+Texts split(std::u16string_view text) {
+  Texts texts;
+  for (const dictionary::RawPiece& piece : dictionary::splitPieces(text)) {
+    texts.emplace_back(piece.text);
+  }
+  return texts;
+}
+
+TEST(SplitPieces, PartsAtSeparatorsNarrowAndWide) {
+  EXPECT_EQ(split(u"甲, 乙;丙；丁，戊、己!庚！"),
+            (Texts{u"甲", u"乙", u"丙", u"丁", u"戊", u"己", u"庚"}));
+  EXPECT_EQ(split(u" , ;甲,, "), (Texts{u"甲"}));
+  EXPECT_EQ(split(u""), Texts());
+}
+
+TEST(SplitPieces, RemembersTheSeparatorBefore) {
+  const std::u16string text = u"甲,乙；丙、丁!戊";
+  std::u16string separators;
+  for (const dictionary::RawPiece& piece : dictionary::splitPieces(text)) {
+    separators += piece.separator == 0 ? u'0' : piece.separator;
+  }
+  EXPECT_EQ(separators, u"0，；、！");
+}
+
+TEST(SplitPieces, LeavesBracketsAndQuotesWhole) {
+  EXPECT_EQ(split(u"覆盖(马,鹰等)头罩；“又矮,又胖”的人, [甲、乙]丙"),
+            (Texts{u"覆盖(马,鹰等)头罩", u"“又矮,又胖”的人", u"[甲、乙]丙"}));
+  EXPECT_EQ(split(u"甲（乙,丙)丁,戊"), (Texts{u"甲（乙,丙)丁", u"戊"}));
+  EXPECT_EQ(split(u"甲(乙(丙,丁)戊,己)庚,辛"), (Texts{u"甲(乙(丙,丁)戊,己)庚", u"辛"}));
+}
+
+TEST(SplitPieces, PartsBehindABracketThatDoesNotClose) {
+  EXPECT_EQ(split(u"甲(乙,丙"), (Texts{u"甲(乙", u"丙"}));
+  EXPECT_EQ(split(u"甲“乙,丙"), (Texts{u"甲“乙", u"丙"}));
+}
+
+TEST(SplitPieces, KeepsCommasInsideNamesOfCompounds) {
+  EXPECT_EQ(split(u"2,4-二氯苯, 1,2-二溴乙烷"), (Texts{u"2,4-二氯苯", u"1,2-二溴乙烷"}));
+  EXPECT_EQ(split(u"N,N-二甲基; 4',5-甲"), (Texts{u"N,N-二甲基", u"4',5-甲"}));
+  EXPECT_EQ(split(u"1, 4-二氮杂苯"), (Texts{u"1, 4-二氮杂苯"}));
+  EXPECT_EQ(split(u"维生素A, B"), (Texts{u"维生素A", u"B"}));
+}
+
+TEST(SplitPieces, TakesTimeInProportionToTheLength) {
+  const std::u16string hostile(30000, u'(');
+  EXPECT_EQ(split(hostile).size(), 1U);
+}
+
+TEST(InflectionNote, IsReadFromALine) {
+  EXPECT_EQ(dictionary::inflectionNote(u"(blood-stain 的复数) [医] 血迹"), u"blood-stain的复数");
+  EXPECT_EQ(dictionary::inflectionNote(u"v. 划定( circumscribe的现在分词 ); 限定"),
+            u"circumscribe的现在分词");
+  EXPECT_EQ(dictionary::inflectionNote(u"n. 数据（data的复数）"), u"data的复数");
+  EXPECT_EQ(dictionary::inflectionNote(u"n. 数据(计算机用)"), u"");
+  EXPECT_EQ(dictionary::inflectionNote(u"名词的复数, (名词的复数)"), u"");
+}
+
+TEST(Brackets, NotesAreDeleted) {
+  EXPECT_EQ(dictionary::withoutNotes(u"小脑[多发性]硬化(见下)"), u"小脑硬化");
+  EXPECT_EQ(dictionary::withoutNotes(u"甲（乙(丙)丁）戊〔己〕庚【辛】<美>壬"), u"甲戊庚壬");
+  EXPECT_EQ(dictionary::withoutNotes(u"甲(乙"), u"甲(乙");
+  EXPECT_EQ(dictionary::withoutNotes(u"甲)乙"), u"甲)乙");
+}
+
+TEST(Brackets, ThoseOfCompoundsStay) {
+  EXPECT_EQ(dictionary::withoutNotes(u"苯并[c]呋喃酮"), u"苯并[c]呋喃酮");
+  EXPECT_EQ(dictionary::withoutNotes(u"茚并[1,2-b]吲哚"), u"茚并[1,2-b]吲哚");
+  EXPECT_EQ(dictionary::withoutNotes(u"2-(1-萘甲基)-咪唑啉"), u"2-(1-萘甲基)-咪唑啉");
+  EXPECT_EQ(dictionary::withoutNotes(u"四氯合金(III)酸钾"), u"四氯合金(III)酸钾");
+  EXPECT_EQ(dictionary::withoutNotes(u"顺(式)-1,4-聚异戊二烯"), u"顺-1,4-聚异戊二烯");
+  EXPECT_EQ(dictionary::withoutNotes(u"爱克斯[X]射线"), u"爱克斯射线");
+}
+
+}  // namespace

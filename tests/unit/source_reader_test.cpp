@@ -1,0 +1,117 @@
+#include "dictionary/source_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "dictionary/failure.h"
+
+namespace {
+
+using dictionary::LineFault;
+using dictionary::SourceReader;
+using Result = SourceReader::Result;
+using namespace std::string_literals;
+
+const std::string kHeader =
+    "word,phonetic,definition,translation,pos,collins,oxford,tag,bnc,frq,exchange,detail,audio\n";
+
+/// Every line of a source as "word=translation" or "N:fault".
+std::vector<std::string> readAll(const std::string& bytes) {
+  std::istringstream stream(bytes);
+  SourceReader reader(stream);
+  std::vector<std::string> lines;
+  for (;;) {
+    const Result result = reader.next();
+    if (result == Result::kEnd) return lines;
+    if (result == Result::kEntry) {
+      lines.push_back(reader.entry().word + "=" + reader.entry().translation);
+    } else {
+      lines.push_back(std::to_string(reader.lineNumber()) + ":" +
+                      std::string(dictionary::describe(reader.fault())));
+    }
+  }
+}
+
+std::string faultOf(LineFault fault) { return std::string(dictionary::describe(fault)); }
+
+bool isImportant(const std::string& line) {
+  std::istringstream stream(kHeader + line);
+  SourceReader reader(stream);
+  EXPECT_EQ(reader.next(), Result::kEntry);
+  return reader.entry().important;
+}
+
+std::string headerFailure(const std::string& bytes) {
+  std::istringstream stream(bytes);
+  try {
+    const SourceReader reader(stream);
+  } catch (const dictionary::Failure& failure) {
+    return failure.what();
+  }
+  return "";
+}
+
+TEST(SourceReader, ReadsEntries) {
+  EXPECT_EQ(readAll(kHeader + "bit,bɪt,,\"n. 位, 比特\",,,,,0,0,,,\nit's,,,它是,,,,,0,0,,,\n"),
+            (std::vector<std::string>{"bit=n. 位, 比特", "it's=它是"}));
+}
+
+TEST(SourceReader, ReadsALastLineWithoutLineFeedAndLinesWithCarriageReturns) {
+  EXPECT_EQ(readAll(kHeader + "a,,,甲,,,,,0,0,,,\r\nb,,,乙,,,,,0,0,,,"),
+            (std::vector<std::string>{"a=甲", "b=乙"}));
+}
+
+TEST(SourceReader, FindsColumnsByTheirNames) {
+  EXPECT_EQ(readAll("tag,frq,bnc,oxford,collins,translation,word\n,0,0,,,甲,a\n"),
+            (std::vector<std::string>{"a=甲"}));
+}
+
+TEST(SourceReader, IgnoresAByteOrderMark) {
+  EXPECT_EQ(readAll("\xEF\xBB\xBF" + kHeader + "a,,,甲,,,,,0,0,,,\n"),
+            (std::vector<std::string>{"a=甲"}));
+}
+
+TEST(SourceReader, TellsBadLinesAndReadsOn) {
+  const std::string source = kHeader + "a,,,甲,,,,,0,0,,,\n" +   // 2
+                             "b,,,\"乙,,,,,0,0,,,\n" +           // 3: open quote
+                             "c,,,丙\n" +                        // 4: columns
+                             "d,,,\xB6\xA1,,,,,0,0,,,\n" +       // 5: bytes of another encoding
+                             "e\0,,,戊,,,,,0,0,,,\n"s +          // 6: NUL
+                             "\n" +                              // 7: empty
+                             "f,,,己,,,,,0,0,,,,\n" +            // 8: columns
+                             "g,,,\"庚\"x,,,,,0,0,,,\n" +        // 9: text after a quote
+                             std::string(2000000, '"') + "\n" +  // 10: too long
+                             "h,,,辛,,,,,0,0,,,\n";
+  EXPECT_EQ(
+      readAll(source),
+      (std::vector<std::string>{
+          "a=甲", "3:" + faultOf(LineFault::kOpenQuote), "4:" + faultOf(LineFault::kColumnCount),
+          "5:" + faultOf(LineFault::kInvalidUtf8), "6:" + faultOf(LineFault::kControlCharacter),
+          "8:" + faultOf(LineFault::kColumnCount), "9:" + faultOf(LineFault::kTextAfterQuote),
+          "10:" + faultOf(LineFault::kTooLong), "h=辛"}));
+}
+
+TEST(SourceReader, SeesMarksOfImportance) {
+  EXPECT_FALSE(isImportant("a,,,甲,,,,,0,0,,,\n"));
+  EXPECT_FALSE(isImportant("a,,,甲,,,,,,,,,\n"));
+  EXPECT_FALSE(isImportant("a,p,d,甲,n:1,,,,0,0,s:as,x,y\n"));
+  EXPECT_TRUE(isImportant("a,,,甲,,3,,,0,0,,,\n"));
+  EXPECT_TRUE(isImportant("a,,,甲,,,1,,0,0,,,\n"));
+  EXPECT_TRUE(isImportant("a,,,甲,,,,zk,0,0,,,\n"));
+  EXPECT_TRUE(isImportant("a,,,甲,,,,,5,0,,,\n"));
+  EXPECT_TRUE(isImportant("a,,,甲,,,,,0,7,,,\n"));
+}
+
+TEST(SourceReader, RefusesASourceWithoutItsHeader) {
+  EXPECT_EQ(headerFailure(""), "the source is empty");
+  EXPECT_NE(headerFailure("word,meaning\n").find("translation"), std::string::npos);
+  EXPECT_NE(headerFailure("translation\n").find("\"word\""), std::string::npos);
+  EXPECT_NE(headerFailure("a,,,甲\n").find("\"word\""), std::string::npos);
+  EXPECT_NE(headerFailure("word,\"translation\n").find("header"), std::string::npos);
+  EXPECT_NE(headerFailure("\xFF\xFE w o r d").find("UTF-8"), std::string::npos);
+}
+
+}  // namespace

@@ -1,0 +1,141 @@
+#include "dictionary/translation_line.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "dictionary/line_head.h"
+
+namespace {
+
+using dictionary::parseLine;
+using dictionary::Piece;
+using dictionary::Subject;
+using dictionary::subjectText;
+using Texts = std::vector<std::u16string>;
+
+/// The line's Chinese headwords.
+Texts words(std::u16string_view line) {
+  Texts result;
+  for (const Piece& piece : parseLine(line).pieces) {
+    if (!piece.equivalent.word.empty()) result.push_back(piece.equivalent.word);
+  }
+  return result;
+}
+
+std::u16string text(std::u16string_view line, Subject subject) {
+  return subjectText(parseLine(line), subject);
+}
+
+TEST(LineHead, HoldsMarksTagsAndNotes) {
+  const dictionary::LineHead head = dictionary::readHead(u"(data 的复数) n. [计] 数据", true);
+  EXPECT_EQ(head.subjects, setOf(Subject::kComputing));
+  EXPECT_EQ(head.notes, u"(data 的复数)");
+  EXPECT_FALSE(head.abbreviation);
+  EXPECT_TRUE(dictionary::readHead(u"abbr. [计] 甲", true).abbreviation);
+}
+
+TEST(LineHead, MayHoldSeveralTags) {
+  EXPECT_EQ(dictionary::readHead(u"n. [数][天] 横坐标", true).subjects,
+            setOf(Subject::kMathematics) | setOf(Subject::kPhysics));
+  EXPECT_EQ(dictionary::readHead(u"[计][修]逐块", true).subjects, setOf(Subject::kComputing));
+  EXPECT_EQ(dictionary::readHead(u"【动物学】甲", true).subjects, setOf(Subject::kZoology));
+  EXPECT_EQ(dictionary::readHead(u"〔植〕甲", true).subjects, setOf(Subject::kBotany));
+}
+
+TEST(LineHead, SkipsStrayMarksBeforeAPartOfSpeech) {
+  EXPECT_EQ(words(u"a. [通常作表语], adv. 在晕厥中(的)"), (Texts{u"在晕厥中"}));
+  EXPECT_EQ(words(u"[鱼]Ⅰ adj.总鳃类的"), (Texts{u"总鳃类的"}));
+  EXPECT_EQ(words(u"n<古>.乡下人, 老粗"), (Texts{u"乡下人", u"老粗"}));
+  EXPECT_EQ(words(u"adv. &. adj.[数]逐项地(的)"), (Texts{u"逐项地"}));
+}
+
+TEST(TranslationLine, GivesItsPieces) {
+  EXPECT_EQ(words(u"n. 罩；风帽；（布质）面罩"), (Texts{u"罩", u"风帽", u"面罩"}));
+  EXPECT_EQ(words(u"[医] [心]加速纤维"), (Texts{u"加速纤维"}));
+  EXPECT_EQ(words(u"n. [有化] 醋酸盐, [有化] 乙酸盐"), (Texts{u"醋酸盐", u"乙酸盐"}));
+  EXPECT_EQ(words(u"= bleak"), Texts());
+}
+
+TEST(TranslationLine, ATagHoldsForTheLine) {
+  EXPECT_EQ(text(u"[医] 小脑[多发性]硬化, 硬化(症)", Subject::kMedicine),
+            u"小脑[多发性]硬化，硬化(症)");
+  EXPECT_EQ(text(u"[医] 甲, 乙", Subject::kChemistry), u"");
+}
+
+TEST(TranslationLine, APieceMayHaveItsOwnTag) {
+  const std::u16string line = u"n. 恶习；缺点；[机] 老虎钳；卖淫";
+  EXPECT_EQ(text(line, Subject::kMechanics), u"老虎钳");
+  EXPECT_EQ(words(line), (Texts{u"恶习", u"缺点", u"老虎钳", u"卖淫"}));
+}
+
+TEST(TranslationLine, BracketsInMedicalLinesAreNoTags) {
+  const std::u16string line = u"[医] 体液排出过多, [体]液溢, 脑脊液溢";
+  EXPECT_EQ(text(line, Subject::kSport), u"");
+  EXPECT_EQ(text(line, Subject::kMedicine), u"体液排出过多，[体]液溢，脑脊液溢");
+  EXPECT_EQ(words(line), (Texts{u"体液排出过多", u"液溢", u"脑脊液溢"}));
+}
+
+TEST(TranslationLine, MarksOfUsageAreNoSubjects) {
+  for (int i = 0; i < static_cast<int>(dictionary::kSubjectCount); ++i) {
+    EXPECT_EQ(text(u"n. [口]家伙", static_cast<Subject>(i)), u"");
+  }
+  EXPECT_EQ(words(u"n. [口]家伙"), (Texts{u"家伙"}));
+}
+
+TEST(TranslationLine, NamesLoseTheirExplanations) {
+  const std::u16string line =
+      u"[人名] [英格兰人姓氏] 塔隆绰号，跑得快者，来源于古法语; [地名] [美国] 塔隆";
+  EXPECT_EQ(words(line), (Texts{u"塔隆", u"塔隆"}));
+  EXPECT_EQ(text(line, Subject::kPlace), u"[美国]塔隆");
+  EXPECT_EQ(text(line, Subject::kPerson), u"[英格兰人姓氏]塔隆绰号，跑得快者，来源于古法语");
+}
+
+TEST(TranslationLine, NamesMayBeAnnounced) {
+  const std::u16string line = u"n. (Bati)人名；(阿拉伯)巴提；(法、罗)巴蒂";
+  EXPECT_EQ(words(line), (Texts{u"巴提", u"巴蒂"}));
+  EXPECT_EQ(text(line, Subject::kPerson), u"(阿拉伯)巴提；(法、罗)巴蒂");
+}
+
+TEST(TranslationLine, WebLinesAreTheirOwnDictionary) {
+  EXPECT_EQ(text(u"[网络] 胡德；兜帽", Subject::kWeb), u"胡德；兜帽");
+}
+
+TEST(TranslationLine, AnExplanationGoesOnToTheNextSemicolon) {
+  EXPECT_EQ(words(u"[医]大菱形肌：起于胸椎横突，止于肩胛骨内缘；菱形肌"),
+            (Texts{u"大菱形肌", u"菱形肌"}));
+}
+
+TEST(TranslationLine, SubjectsDoNotShowLostCharacters) {
+  EXPECT_EQ(text(u"[化] 酸┏; 变性蛋白", Subject::kChemistry), u"变性蛋白");
+  EXPECT_EQ(text(u"[化] 甲(C\uE00917)乙", Subject::kChemistry), u"甲乙");
+  EXPECT_EQ(text(u"[化] 酸┏", Subject::kChemistry), u"");
+  EXPECT_EQ(text(u"[化] ABC", Subject::kChemistry), u"");
+}
+
+TEST(TranslationLine, KnowsInflectedForms) {
+  EXPECT_EQ(parseLine(u"(apple 的复数) n. 苹果").inflection, u"apple的复数");
+  EXPECT_EQ(parseLine(u"n. 苹果").inflection, u"");
+}
+
+TEST(Subjects, HaveTablesWithPlainNames) {
+  for (const dictionary::SubjectInfo& info : dictionary::kSubjectInfos) {
+    EXPECT_FALSE(info.name.empty());
+    for (const char letter : info.table) EXPECT_TRUE(letter >= 'a' && letter <= 'z');
+  }
+  EXPECT_EQ(dictionary::kSubjectInfos[0].table, "med");
+  EXPECT_EQ(dictionary::kSubjectInfos[23].name, u"网络释义");
+}
+
+TEST(Subjects, AreKnownByTheirTags) {
+  EXPECT_EQ(dictionary::subjectsOfTag(u"医"), setOf(Subject::kMedicine));
+  EXPECT_EQ(dictionary::subjectsOfTag(u"生化"), setOf(Subject::kChemistry));
+  EXPECT_EQ(dictionary::subjectsOfTag(u"网络"), setOf(Subject::kWeb));
+  for (const std::u16string_view tag :
+       {u"美", u"英", u"口", u"俚", u"古", u"拉", u"复", u"诗", u"", u" "}) {
+    EXPECT_EQ(dictionary::subjectsOfTag(tag), 0U);
+  }
+}
+
+}  // namespace
