@@ -58,13 +58,14 @@ ChineseBoundStep::ChineseBoundStep(const std::vector<std::u16string>& index)
 
 RowWindow ChineseBoundStep::window(std::u16string_view word) const {
   // The last row that is not behind the word.
-  const std::u16string low = withoutWildcards(word, u"0");
+  const std::u16string typed = escaped(word);
+  const std::u16string low = withoutWildcards(typed, u"0");
   const auto behind = std::ranges::partition_point(
       least_, [&](const std::u16string& least) { return text::compare(least, low) <= 0; });
   const std::ptrdiff_t before = behind - least_.begin();
 
   // The first row that is not before the word followed by the last of the common characters.
-  const std::u16string high = withoutWildcards(word, u"做") + u"做做";
+  const std::u16string high = withoutWildcards(typed, u"做") + u"做做";
   const auto first = std::ranges::partition_point(
       greatest_, [&](const std::u16string& greatest) { return text::compare(greatest, high) < 0; });
 

@@ -6,6 +6,7 @@
 #include <array>
 #include <span>
 #include <string_view>
+#include <utility>
 
 #include "data/text_functions.h"
 #include "dictionary/table.h"
@@ -58,15 +59,19 @@ bool checkColumns(sqlite3* connection, const std::string& table, std::span<const
   for (std::size_t i = 0; i < columns.size(); ++i) {
     const std::string name = reader.columnName(static_cast<int>(i));
     const std::string wanted(columns[i].name.empty() ? name : columns[i].name);
+    std::string example = "[" + table + "] column " + std::to_string(i) + ", ";
+    example += name;
     if (sqlite3_stricmp(name.c_str(), wanted.c_str()) != 0) {
-      findings.add(Rule::kColumns, "[" + table + "] column " + std::to_string(i) + " is " + name +
-                                       " instead of " + wanted);
-      right = false;
+      example += ", should be ";
+      example += wanted;
     } else if (!hasRightType(connection, table, name, columns[i].isText)) {
-      findings.add(Rule::kColumns, "[" + table + "]." + name + " is not declared as " +
-                                       (columns[i].isText ? "text collate lexilo" : "integer"));
-      right = false;
+      example += ", is not declared as ";
+      example += columns[i].isText ? "text collate lexilo" : "integer";
+    } else {
+      continue;
     }
+    findings.add(Rule::kColumns, std::move(example));
+    right = false;
   }
   return right;
 }

@@ -9,9 +9,7 @@ namespace dictionary {
 
 void checkText(std::u16string_view text, const std::string& place, Findings& findings) {
   if (std::ranges::any_of(text, isForbidden)) findings.add(Rule::kCharacters, place);
-  if (decodeEntities(text) != text || breakLines(text) != text) {
-    findings.add(Rule::kMarkup, place);
-  }
+  if (hasMarkup(text)) findings.add(Rule::kMarkup, place);
 }
 
 void checkSearchable(std::u16string_view word, const std::string& place, Findings& findings) {

@@ -104,12 +104,12 @@ std::u16string withoutQuotes(std::u16string_view text) {
 /// for ("National Gallery 国家美术馆"), or forms of the headword ("-dled, -dling 逃走").
 std::u16string_view withoutExpansion(std::u16string_view text, bool abbreviation) {
   const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
-  const auto end = std::ranges::find_if(text, [](char16_t unit) { return unit >= 0x100; });
-  const auto length = static_cast<std::size_t>(end - text.begin());
+  std::size_t length = 0;
+  while (length < text.size() && text[length] < 0x100) ++length;
   const std::u16string_view foreign = text.substr(0, length);
   const auto blanks = std::ranges::count(foreign, u' ');
   const bool parted = foreign.ends_with(u' ') || (abbreviation && blanks > 1);
-  if (end == text.end() || length < 2 || !isHan(*end) || !parted) return text;
+  if (length == text.size() || length < 2 || !isHan(text[length]) || !parted) return text;
   const auto small = std::ranges::count_if(foreign, isSmall);
   const bool words =
       isLatin(foreign[0]) && small > 1 && (abbreviation || std::ranges::count(foreign, u' ') > 1);

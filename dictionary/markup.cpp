@@ -116,4 +116,8 @@ std::u16string breakLines(std::u16string_view text) {
   return broken;
 }
 
+bool hasMarkup(std::u16string_view text) {
+  return decodeEntities(text) != text || breakLines(text) != text;
+}
+
 }  // namespace dictionary

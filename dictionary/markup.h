@@ -13,4 +13,7 @@ std::u16string decodeEntities(std::u16string_view text);
 /// feed, and deletes other tags ("<i>").
 std::u16string breakLines(std::u16string_view text);
 
+/// Whether one of the above would change `text`.
+bool hasMarkup(std::u16string_view text);
+
 }  // namespace dictionary

@@ -118,10 +118,10 @@ Vocabulary PairCollector::finish() && {
     return std::tie(pair.english, pair.chinese, pair.tier, pair.position);
   };
   std::ranges::sort(pairs_, {}, key);
-  const auto repeated = std::ranges::unique(pairs_, [](const Pair& a, const Pair& b) {
+  const auto same = [](const Pair& a, const Pair& b) {
     return a.english == b.english && a.chinese == b.chinese;
-  });
-  pairs_.erase(repeated.begin(), repeated.end());
+  };
+  pairs_.erase(std::unique(pairs_.begin(), pairs_.end(), same), pairs_.end());
   return {std::move(english_), std::move(chinese_), std::move(pairs_)};
 }
 

@@ -61,10 +61,16 @@ std::u16string_view trimBlanks(std::u16string_view text) {
   return text;
 }
 
-bool namesInflection(std::u16string_view note) {
-  return std::ranges::any_of(kInflections, [&](std::u16string_view inflection) {
+/// Whether `note` is a foreign word and what form of it the headword is, and nothing else.
+bool isInflection(std::u16string_view note) {
+  const bool named = std::ranges::any_of(kInflections, [&](std::u16string_view inflection) {
     return note.find(inflection) != std::u16string_view::npos;
   });
+  return named && isAsciiLetter(note[0]) && note.size() <= kMaxInflection &&
+         std::ranges::all_of(note, [](char16_t unit) {
+           return isHan(unit) || isAsciiLetter(unit) || isDigit(unit) || unit == u'-' ||
+                  unit == u'.' || unit == u'′';
+         });
 }
 
 }  // namespace
@@ -100,12 +106,10 @@ std::u16string inflectionNote(std::u16string_view line) {
     if (openingBracket(line[i]) != Bracket::kRound) continue;
     const std::size_t close = closingPosition(line, i);
     if (close == std::u16string_view::npos) return {};
-    const std::u16string_view note = trimBlanks(line.substr(i + 1, close - i - 1));
-    if (namesInflection(note) && isAsciiLetter(note[0]) && note.size() <= kMaxInflection) {
-      std::u16string inflection(note);
-      std::erase(inflection, u' ');
-      return inflection;
-    }
+    std::u16string inflection(line.substr(i + 1, close - i - 1));
+    std::erase(inflection, u' ');
+    std::ranges::replace(inflection, u'\'', u'′');
+    if (isInflection(inflection)) return inflection;
     i = close;
   }
   return {};

@@ -9,7 +9,8 @@ namespace dictionary {
 
 /// The English headword of an entry as the database keeps it: blanks trimmed and folded. Nothing
 /// for a word that could not be looked up: other characters than printable ASCII, neither letter
-/// nor digit, a wildcard, quote or backslash, a question mark in front, more than 64 characters.
+/// nor digit, a wildcard, quote or backslash, a question mark in front, markup, more than 64
+/// characters.
 std::optional<std::u16string> headword(std::u16string_view word);
 
 /// The lines of a translation, cleaned: entity codes and markup undone, blanks folded and trimmed,

@@ -8,6 +8,7 @@
 #include "dictionary/characters.h"
 #include "dictionary/explanation.h"
 #include "dictionary/line_head.h"
+#include "dictionary/markup.h"
 #include "dictionary/name_piece.h"
 #include "dictionary/pieces.h"
 #include "dictionary/source_text.h"
@@ -42,7 +43,7 @@ std::u16string notedText(std::u16string_view piece) {
     noted += cleanNote(piece.substr(i, close + 1 - i));
     i = close;
   }
-  if (!isIntact(withoutNotes(noted))) return {};
+  if (!isIntact(withoutNotes(noted)) || hasMarkup(noted)) return {};
   return foldBlanks(noted);
 }
 

@@ -64,6 +64,8 @@ TEST(InflectionNote, IsReadFromALine) {
   EXPECT_EQ(dictionary::inflectionNote(u"v. 划定( circumscribe的现在分词 ); 限定"),
             u"circumscribe的现在分词");
   EXPECT_EQ(dictionary::inflectionNote(u"n. 数据（data的复数）"), u"data的复数");
+  EXPECT_EQ(dictionary::inflectionNote(u"(o'er 的第三人称 -s形式)"), u"o′er的第三人称-s形式");
+  EXPECT_EQ(dictionary::inflectionNote(u"(apple%的复数) n. 苹果"), u"");
   EXPECT_EQ(dictionary::inflectionNote(u"n. 数据(计算机用)"), u"");
   EXPECT_EQ(dictionary::inflectionNote(u"名词的复数, (名词的复数)"), u"");
 }

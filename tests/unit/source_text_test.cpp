@@ -21,8 +21,9 @@ TEST(Headword, IsTrimmedAndItsBlanksFolded) {
 }
 
 TEST(Headword, MustBeSomethingThatCanBeLookedUp) {
-  for (const std::u16string word : {u"", u"   ", u"...", u"alligatoring厄", u"café", u"100%",
-                                    u"o_O", u"a*b", u"compound \"S\"", u"a\\b", u"?-mark"}) {
+  for (const std::u16string word :
+       {u"", u"   ", u"...", u"alligatoring厄", u"café", u"100%", u"o_O", u"a*b", u"compound \"S\"",
+        u"a\\b", u"?-mark", u"R&amp;D", u"<sigh>"}) {
     EXPECT_FALSE(headword(word).has_value()) << word.size();
   }
   EXPECT_TRUE(headword(u"what for?").has_value());
