@@ -1,5 +1,7 @@
 // The harness itself, tried on programs that are there anyway: what it types, reads and clicks is
 // really typed, read and clicked.
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <filesystem>
 
@@ -7,7 +9,6 @@
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/find.h"
 #include "tests/program/harness/input.h"
-#include "tests/program/harness/journey.h"
 #include "tests/program/harness/message_box.h"
 #include "tests/program/harness/notepad.h"
 #include "tests/program/harness/screen.h"
@@ -16,7 +17,7 @@
 namespace harness {
 namespace {
 
-class Harness : public Journey {};
+class Harness : public ::testing::Test {};
 
 TEST_F(Harness, TypesIntoAnotherProgramAndReadsItBack) {
   const Notepad notepad;
@@ -82,7 +83,7 @@ TEST_F(Harness, SeesWhatIsOnTheScreen) {
 TEST_F(Harness, ReadsAndAnswersAMessageBox) {
   // The shell tells of a program that is not there in a message box.
   const Process shell(L"C:\\windows\\system32\\winhlp32.exe", L"nothing-of-this-name.hlp");
-  const MessageBox box = waitForMessageBox(shell);
+  const ShownMessage box = waitForMessageBox(shell);
   EXPECT_FALSE(box.text.empty());
   EXPECT_FALSE(box.buttons.empty());
   box.answer();

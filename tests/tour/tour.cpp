@@ -22,7 +22,7 @@ class Tour {
   explicit Tour(std::string pictures) : pictures_(std::move(pictures)) {}
 
   void play() {
-    const Lexilo lexilo(AppFolder::full());
+    const Lexilo lexilo(AppFolder::withFullDictionary());
     try {
       visit(lexilo);
     } catch (const std::exception&) {
@@ -36,11 +36,10 @@ class Tour {
 
  private:
   void visit(const Lexilo& lexilo) {
-    static_cast<void>(lexilo.toolbar());
+    lexilo.waitUntilSeen();
     show("The toolbar floats near the top right corner", "toolbar");
 
-    const QuickLookup window = lexilo.openQuickLookup();
-    waitFor("the first words", [&] { return !window.words().empty(); });
+    const QuickLookup window = lexilo.openQuickLookupAtA();
     show("Its first button opens the quick lookup window", "open");
 
     window.lookUp(L"data");

@@ -3,6 +3,9 @@
 #include <array>
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
+
+#include "tests/program/harness/wait.h"
 
 namespace harness {
 namespace fs = std::filesystem;
@@ -13,7 +16,7 @@ fs::path named(const wchar_t* variable, const wchar_t* otherwise) {
   return fs::absolute(value != nullptr && *value != L'\0' ? value : otherwise);
 }
 
-fs::path full_folder() { return named(L"LEXILO_APP", L"build/app"); }
+fs::path fullFolder() { return named(L"LEXILO_APP", L"build/app"); }
 
 /// A new folder with the program alone. The program file is shared, since nothing changes it.
 fs::path freshFolder() {
@@ -21,21 +24,21 @@ fs::path freshFolder() {
   const fs::path path = fs::absolute(L"build/program") / std::to_wstring(++folders);
   fs::remove_all(path);
   fs::create_directories(path);
-  fs::create_hard_link(full_folder() / "lexilo.exe", path / "lexilo.exe");
+  fs::create_hard_link(fullFolder() / "lexilo.exe", path / "lexilo.exe");
   return path;
 }
 
 }  // namespace
 
-AppFolder AppFolder::full() { return AppFolder(full_folder()); }
+AppFolder AppFolder::withFullDictionary() { return AppFolder(fullFolder()); }
 
-AppFolder AppFolder::small() {
+AppFolder AppFolder::withSmallDictionary() {
   AppFolder folder(freshFolder());
   fs::copy_file(named(L"LEXILO_SMALL_DATABASE", L"build/small/kk.dat"), folder.database());
   return folder;
 }
 
-AppFolder AppFolder::empty() { return AppFolder(freshFolder()); }
+AppFolder AppFolder::withoutDictionary() { return AppFolder(freshFolder()); }
 
 void AppFolder::damageDatabase(std::uintmax_t offset, std::uintmax_t length) const {
   std::fstream file(database(), std::ios::binary | std::ios::in | std::ios::out);
@@ -44,6 +47,20 @@ void AppFolder::damageDatabase(std::uintmax_t offset, std::uintmax_t length) con
   // A pattern that is neither a page of a database nor zeros.
   static constexpr std::array<char, 4> kNonsense{'\xff', '\x5a', '\x01', '\xa5'};
   for (std::uintmax_t i = 0; i < length; ++i) file.put(kNonsense[i % kNonsense.size()]);
+}
+
+void AppFolder::renameTables(const std::string& name, const std::string& other) const {
+  if (name.size() != other.size()) throw Failure("the names differ in length");
+  std::ifstream in(database(), std::ios::binary);
+  std::string bytes{std::istreambuf_iterator<char>(in), {}};
+  in.close();
+  // The schema holds the name as such and in the table's definition; no headword looks like it.
+  for (std::size_t at = bytes.find(name); at != std::string::npos; at = bytes.find(name, at)) {
+    bytes.replace(at, name.size(), other);
+  }
+  std::ofstream out(database(), std::ios::binary | std::ios::trunc);
+  out.exceptions(std::ios::failbit | std::ios::badbit);
+  out << bytes;
 }
 
 }  // namespace harness

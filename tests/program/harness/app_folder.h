@@ -14,13 +14,13 @@ namespace harness {
 class AppFolder {
  public:
   /// The one with the full dictionary. Shared by all tests: nothing may be changed in it.
-  static AppFolder full();
+  static AppFolder withFullDictionary();
 
   /// A fresh copy with the small dictionary, to be changed at will.
-  static AppFolder small();
+  static AppFolder withSmallDictionary();
 
   /// A fresh copy without any dictionary.
-  static AppFolder empty();
+  static AppFolder withoutDictionary();
 
   [[nodiscard]] std::filesystem::path program() const { return path_ / "lexilo.exe"; }
   [[nodiscard]] std::filesystem::path database() const { return path_ / "kk.dat"; }
@@ -28,6 +28,10 @@ class AppFolder {
 
   /// Overwrites `length` bytes of the dictionary from `offset` on with bytes that mean nothing.
   void damageDatabase(std::uintmax_t offset, std::uintmax_t length) const;
+
+  /// Gives the dictionary's tables whose names begin with `name` another beginning of the same
+  /// length, so that they are no longer found.
+  void renameTables(const std::string& name, const std::string& other) const;
 
  private:
   explicit AppFolder(std::filesystem::path path) : path_(std::move(path)) {}

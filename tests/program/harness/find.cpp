@@ -1,5 +1,7 @@
 #include "tests/program/harness/find.h"
 
+#include <algorithm>
+
 #include "tests/program/harness/process.h"
 #include "tests/program/harness/text.h"
 
@@ -134,6 +136,17 @@ HWND focusIn(HWND window) {
   information.cbSize = sizeof information;
   GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &information);
   return information.hwndFocus;
+}
+
+void repaint(HWND window) {
+  RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+  waitFor("a repaint", [&] {
+    return GetUpdateRect(window, nullptr, FALSE) == FALSE &&
+           std::ranges::all_of(childrenOf(window), [](HWND child) {
+             return IsWindowVisible(child) == FALSE ||
+                    GetUpdateRect(child, nullptr, FALSE) == FALSE;
+           });
+  });
 }
 
 LRESULT send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

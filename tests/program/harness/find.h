@@ -51,6 +51,9 @@ bool isTopmost(HWND window);
 /// The control that has the keyboard in the thread of `window`.
 HWND focusIn(HWND window);
 
+/// Has a window and all that is in it painted anew, and waits until that is done.
+void repaint(HWND window);
+
 /// SendMessage that throws Failure where the window does not answer within five seconds.
 LRESULT send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 

@@ -1,12 +1,14 @@
 #include "tests/program/harness/lexilo.h"
 
 #include <algorithm>
+#include <functional>
+#include <optional>
 
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/popup_menu.h"
+#include "tests/program/harness/screen.h"
 
 namespace harness {
-
 Lexilo::Lexilo(const AppFolder& folder)
     : process_(folder.program().wstring(), L"", folder.path().wstring()) {}
 
@@ -14,17 +16,28 @@ HWND Lexilo::toolbar() const {
   return waitForWindow({.process = process_.id(), .className = L"Lexilo.frmTop", .title = {}});
 }
 
-RECT Lexilo::grip() const { return rectOf(onlyChild(toolbar(), L"Static")); }
+HWND Lexilo::waitUntilSeen() const {
+  HWND window = toolbar();
+  const RECT rect = buttonRect(ToolbarButton::quickLookup);
+  waitFor("the toolbar to be painted", [&] {
+    const std::vector<COLORREF> pixels = screenPixels(rect);
+    return std::ranges::adjacent_find(pixels, std::not_equal_to{}) != pixels.end();
+  });
+  Sleep(kReactionTime);
+  return window;
+}
 
-std::vector<HWND> Lexilo::buttons() const {
-  std::vector<HWND> buttons = childrenOf(toolbar(), L"Button");
-  std::erase_if(buttons, [](HWND button) { return IsWindowVisible(button) == FALSE; });
-  std::ranges::sort(buttons, {}, [](HWND button) { return rectOf(button).left; });
-  return buttons;
+RECT Lexilo::grip() const { return rectOf(fromLeftToRight(L"Static").front()); }
+
+std::vector<HWND> Lexilo::fromLeftToRight(const std::wstring& className) const {
+  std::vector<HWND> widgets = childrenOf(toolbar(), className);
+  std::erase_if(widgets, [](HWND widget) { return IsWindowVisible(widget) == FALSE; });
+  std::ranges::sort(widgets, {}, [](HWND widget) { return rectOf(widget).left; });
+  return widgets;
 }
 
 RECT Lexilo::buttonRect(ToolbarButton button) const {
-  return rectOf(buttons().at(static_cast<std::size_t>(button)));
+  return rectOf(fromLeftToRight(L"Button").at(static_cast<std::size_t>(button)));
 }
 
 void Lexilo::click(ToolbarButton button) const { input::click(centreOf(buttonRect(button))); }
@@ -32,6 +45,17 @@ void Lexilo::click(ToolbarButton button) const { input::click(centreOf(buttonRec
 QuickLookup Lexilo::openQuickLookup() const {
   click(ToolbarButton::quickLookup);
   return QuickLookup(process_);
+}
+
+QuickLookup Lexilo::openQuickLookupAtA() const {
+  return waitFor("the quick lookup window at its first words",
+                 [&]() -> std::optional<QuickLookup> {
+                   const QuickLookup window = openQuickLookup();
+                   if (!window.words().empty()) return window;
+                   window.close();
+                   return std::nullopt;
+                 })
+      .value();
 }
 
 HWND Lexilo::dropMenu() const {

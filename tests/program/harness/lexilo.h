@@ -35,6 +35,10 @@ class Lexilo {
   /// The toolbar's window, once it is visible.
   [[nodiscard]] HWND toolbar() const;
 
+  /// Waits until the toolbar can be seen on the screen, and for as long as a user takes to see it.
+  /// Returns its window.
+  HWND waitUntilSeen() const;
+
   /// The handle that the toolbar is dragged by, screen pixels.
   [[nodiscard]] RECT grip() const;
 
@@ -43,6 +47,10 @@ class Lexilo {
 
   /// Opens the quick lookup window by the toolbar's first button and waits for it.
   [[nodiscard]] QuickLookup openQuickLookup() const;
+
+  /// The same, and waits for the words that it starts with. One that was opened before the
+  /// dictionary's index was there shows none: then it is closed and opened again.
+  [[nodiscard]] QuickLookup openQuickLookupAtA() const;
 
   /// Drops the toolbar's menu down and waits for it. Returns its window.
   HWND dropMenu() const;
@@ -54,7 +62,7 @@ class Lexilo {
   DWORD exit() const;
 
  private:
-  [[nodiscard]] std::vector<HWND> buttons() const;
+  [[nodiscard]] std::vector<HWND> fromLeftToRight(const std::wstring& className) const;
 
   Process process_;
 };

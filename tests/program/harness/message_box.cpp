@@ -9,12 +9,19 @@
 namespace harness {
 namespace {
 
-/// Control ids of a message box, as the system numbers them.
-constexpr int kIconId = 20;
+/// The control id of a message box's text, as the system numbers it.
 constexpr int kTextId = 65535;
 
+/// The picture beside the text, if there is one.
+HWND iconOf(HWND box) {
+  for (HWND child : childrenOf(box, L"Static")) {
+    if ((GetWindowLongPtrW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON) return child;
+  }
+  return nullptr;
+}
+
 bool showsErrorIcon(HWND box) {
-  HWND icon = GetDlgItem(box, kIconId);
+  HWND icon = iconOf(box);
   if (icon == nullptr || IsWindowVisible(icon) == FALSE) return false;
   const RECT rect = clientRectOf(icon);
   const SIZE size{GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON)};
@@ -28,31 +35,39 @@ bool showsErrorIcon(HWND box) {
   return false;
 }
 
-std::vector<std::wstring> captions(HWND box) {
+std::vector<HWND> buttonsOf(HWND box) {
   std::vector<HWND> buttons = childrenOf(box, L"Button");
   std::erase_if(buttons, [](HWND button) { return IsWindowVisible(button) == FALSE; });
   std::ranges::sort(buttons, {}, [](HWND button) { return rectOf(button).left; });
+  return buttons;
+}
+
+std::vector<std::wstring> captions(HWND box) {
   std::vector<std::wstring> texts;
-  for (HWND button : buttons) texts.push_back(textOf(button));
+  for (HWND button : buttonsOf(box)) texts.push_back(textOf(button));
   return texts;
 }
 
 }  // namespace
 
-void MessageBox::answer() const {
-  waitFor("the message box to come to the front", [&] { return GetForegroundWindow() == window; });
-  input::key(VK_RETURN);
-  waitFor("the message box to close", [&] { return IsWindow(window) == FALSE; });
+void ShownMessage::answer() const {
+  // The window manager may still be about to put it in its place.
+  waitFor("the message box to close", [&] {
+    const std::vector<HWND> toPress = buttonsOf(window);
+    if (IsWindow(window) == FALSE || toPress.empty()) return true;
+    input::click(centreOf(rectOf(toPress.front())));
+    return !neverWithin(kReactionTime, [&] { return IsWindow(window) == FALSE; });
+  });
 }
 
-std::optional<MessageBox> findMessageBox(const Process& program) {
+std::optional<ShownMessage> findMessageBox(const Process& program) {
   HWND window = findWindow({.process = program.id(), .className = L"#32770", .title = {}});
   if (window == nullptr) return std::nullopt;
-  return MessageBox{window, textOf(window), textOf(GetDlgItem(window, kTextId)),
-                    showsErrorIcon(window), captions(window)};
+  return ShownMessage{window, textOf(window), textOf(GetDlgItem(window, kTextId)),
+                      showsErrorIcon(window), captions(window)};
 }
 
-MessageBox waitForMessageBox(const Process& program, DWORD milliseconds) {
+ShownMessage waitForMessageBox(const Process& program, DWORD milliseconds) {
   return *waitFor(
       "a message box", [&] { return findMessageBox(program); }, milliseconds);
 }

@@ -11,21 +11,21 @@
 namespace harness {
 
 /// A message box of another program.
-struct MessageBox {
+struct ShownMessage {
   HWND window = nullptr;
   std::wstring title;
   std::wstring text;
   bool criticalIcon = false;          ///< shows the icon of errors
   std::vector<std::wstring> buttons;  ///< captions, from left to right
 
-  /// Presses the button that has the focus as a user does, and waits until the box is gone.
+  /// Clicks the first button and waits until the box is gone.
   void answer() const;
 };
 
 /// The message box that a program shows now, if any.
-std::optional<MessageBox> findMessageBox(const Process& program);
+std::optional<ShownMessage> findMessageBox(const Process& program);
 
 /// Waits for one.
-MessageBox waitForMessageBox(const Process& program, DWORD milliseconds = kPatience);
+ShownMessage waitForMessageBox(const Process& program, DWORD milliseconds = kPatience);
 
 }  // namespace harness

@@ -21,6 +21,7 @@ QuickLookup::QuickLookup(const Process& process)
       exitButton_(waitForChild(window_, L"Button")) {
   waitFor("the quick lookup window to come to the front",
           [&] { return GetForegroundWindow() == window_; });
+  Sleep(kReactionTime);
 }
 
 HWND QuickLookup::find(const Process& process) { return findWindow(windowOf(process)); }

@@ -11,7 +11,7 @@ namespace harness {
 /// The quick lookup window of a running Lexilo.
 class QuickLookup {
  public:
-  /// Waits until the window is there and in front.
+  /// Waits until the window is there and in front, and for as long as a user takes to see that.
   explicit QuickLookup(const Process& process);
 
   /// The window of a running program if it is open now, else null.

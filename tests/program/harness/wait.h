@@ -2,20 +2,18 @@
 
 #include <windows.h>
 
-#include <stdexcept>
 #include <string>
+
+#include "tests/program/harness/failure.h"
 
 /// Waiting for what another program is about to do: by looking, never by sleeping for luck.
 namespace harness {
 
-/// Something that should have happened did not, or a call to the system failed.
-class Failure : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
 /// How long a test waits for anything unless it says otherwise, in milliseconds.
 inline constexpr DWORD kPatience = 10'000;
+
+/// How long a quick user takes to see that something has appeared, in milliseconds.
+inline constexpr DWORD kReactionTime = 200;
 
 /// Calls `look` until what it returns is true (or not null), and returns that. Throws Failure
 /// naming `what` when `milliseconds` have passed.

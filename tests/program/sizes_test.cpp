@@ -1,0 +1,182 @@
+// The quick lookup window's size and layout, changed by the user and kept.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "forms/geometry.h"
+#include "tests/program/harness/input.h"
+#include "tests/program/harness/lexilo.h"
+#include "tests/program/harness/message_box.h"
+#include "tests/program/harness/settings.h"
+
+namespace harness {
+namespace {
+
+/// Sizes in twips, as the settings keep them.
+struct Sizes {
+  int width = 0;
+  int height = 0;
+  int list = 0;
+  bool operator==(const Sizes&) const = default;
+};
+
+void PrintTo(const Sizes& sizes, std::ostream* out) {
+  *out << sizes.width << " x " << sizes.height << ", list " << sizes.list;
+}
+
+Sizes sizesOf(const QuickLookup& window) {
+  const int dpi = static_cast<int>(GetDpiForWindow(window.window()));
+  const SIZE client = sizeOf(clientRectOf(window.window()));
+  return {forms::toTwips(client.cx, dpi) + forms::kFrameWidth,
+          forms::toTwips(client.cy, dpi) + forms::kFrameHeight,
+          forms::toTwips(sizeOf(rectOf(window.list())).cx, dpi)};
+}
+
+Sizes savedSizes() {
+  return {std::stoi(settings::read(L"WindowWidth")), std::stoi(settings::read(L"WindowHeight")),
+          std::stoi(settings::read(L"TreeWidth"))};
+}
+
+/// Whether two sizes are the same but for the rounding of twips to pixels.
+bool alike(const Sizes& one, const Sizes& other) {
+  return std::abs(one.width - other.width) < 15 && std::abs(one.height - other.height) < 15 &&
+         std::abs(one.list - other.list) < 15;
+}
+
+class SizesKept : public ::testing::Test {
+ protected:
+  SizesKept() { settings::clear(); }
+  ~SizesKept() override { settings::clear(); }
+};
+
+/// Drags the window's lower right corner by the window manager's frame, below and beside the client
+/// area, until that has `width` x `height` pixels.
+void dragCorner(const QuickLookup& window, int width, int height) {
+  const RECT client = clientRectOf(window.window());
+  const auto place = [](LONG x, LONG y) { return std::to_string(x) + " " + std::to_string(y); };
+  runBelow("xdotool mousemove " + place(client.right - 2, client.bottom + 2) +
+           " mousedown 1 sleep 0.1 mousemove_relative -- 5 5 sleep 0.1 mousemove " +
+           place(client.left + width - 2, client.top + height + 2) + " sleep 0.2 mouseup 1");
+}
+
+TEST_F(SizesKept, WithoutSettingsItHasItsDesignSize) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  const QuickLookup window = lexilo.openQuickLookupAtA();
+  EXPECT_TRUE(alike(sizesOf(window), {3500, 3200, 2000}))
+      << ::testing::PrintToString(sizesOf(window));
+}
+
+TEST_F(SizesKept, OverClosingReopeningAndRestarting) {
+  const AppFolder folder = AppFolder::withFullDictionary();
+  Sizes chosen;
+  {
+    const Lexilo lexilo(folder);
+    lexilo.waitUntilSeen();
+    const QuickLookup window = lexilo.openQuickLookupAtA();
+    dragCorner(window, 500, 400);
+    waitFor("the new size", [&] { return alike(sizesOf(window), {7620, 6405, 2000}); });
+    const POINT handle = centreOf(window.splitter());
+    input::drag(handle, {handle.x + 40, handle.y});
+    waitFor("a wider list", [&] { return sizesOf(window).list > 2500; });
+    chosen = sizesOf(window);
+    window.close();
+    EXPECT_TRUE(alike(savedSizes(), chosen)) << ::testing::PrintToString(savedSizes());
+
+    const QuickLookup again = lexilo.openQuickLookupAtA();
+    EXPECT_TRUE(alike(sizesOf(again), chosen)) << ::testing::PrintToString(sizesOf(again));
+    EXPECT_EQ(lexilo.exit(), 0U);
+  }
+  const Lexilo restarted(folder);
+  restarted.waitUntilSeen();
+  EXPECT_TRUE(alike(sizesOf(restarted.openQuickLookup()), chosen));
+}
+
+TEST_F(SizesKept, ReopeningManyTimesDoesNotLetThemCreep) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  settings::write(L"WindowWidth", L"5003");
+  settings::write(L"WindowHeight", L"4007");
+  settings::write(L"TreeWidth", L"2011");
+  for (int i = 0; i < 5; ++i) lexilo.openQuickLookup().close();
+  EXPECT_TRUE(alike(savedSizes(), {5003, 4007, 2011})) << ::testing::PrintToString(savedSizes());
+}
+
+TEST_F(SizesKept, MinimisingSavesNothingSmall) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  const QuickLookup window = lexilo.openQuickLookupAtA();
+  const Sizes before = sizesOf(window);
+  runBelow("xdotool search --onlyvisible --name '^速查 V1.3$' windowminimize");
+  waitFor("the window to be minimised", [&] { return IsIconic(window.window()) != FALSE; });
+  lexilo.click(ToolbarButton::quickLookup);
+  waitFor("the window to be back", [&] { return IsIconic(window.window()) == FALSE; });
+  waitFor("the old size", [&] { return sizesOf(window) == before; });
+  runBelow("xdotool search --onlyvisible --name '^速查 V1.3$' windowminimize");
+  waitFor("the window to be minimised", [&] { return IsIconic(window.window()) != FALSE; });
+  PostMessageW(window.window(), WM_CLOSE, 0, 0);
+  waitFor("the window to close", [&] { return IsWindow(window.window()) == FALSE; });
+  EXPECT_TRUE(alike(savedSizes(), before)) << ::testing::PrintToString(savedSizes());
+}
+
+TEST_F(SizesKept, ClosingByTheFrameSavesAsTheButtonDoes) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  const QuickLookup window = lexilo.openQuickLookupAtA();
+  const Sizes before = sizesOf(window);
+  // The window manager's own key for closing.
+  runBelow("xdotool key --clearmodifiers alt+F4");
+  waitFor("the window to close", [&] { return IsWindow(window.window()) == FALSE; });
+  EXPECT_TRUE(alike(savedSizes(), before)) << ::testing::PrintToString(savedSizes());
+  EXPECT_TRUE(lexilo.process().running());
+}
+
+TEST_F(SizesKept, AWindowMadeTooSmallSnapsToItsLeastSize) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  const QuickLookup window = lexilo.openQuickLookupAtA();
+  dragCorner(window, 420, 330);
+  waitFor("the larger size", [&] { return alike(sizesOf(window), {6420, 5355, 2000}); });
+  dragCorner(window, 190, 130);
+  waitFor("the least size", [&] { return alike(sizesOf(window), {3500, 2800, 2000}); });
+}
+
+TEST_F(SizesKept, ASplitterDroppedFarLeftLeavesTheLeastList) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  const QuickLookup window = lexilo.openQuickLookupAtA();
+  const POINT handle = centreOf(window.splitter());
+  input::drag(handle, {rectOf(window.list()).left + 20, handle.y});
+  waitFor("the least list", [&] { return alike(sizesOf(window), {3500, 3200, 1600}); });
+}
+
+TEST_F(SizesKept, ASplitterDroppedFarRightStopsAtItsLimit) {
+  settings::write(L"WindowWidth", L"5000");
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  const QuickLookup window = lexilo.openQuickLookupAtA();
+  const POINT handle = centreOf(window.splitter());
+  input::drag(handle, {rectOf(window.pane()).right - 30, handle.y});
+  // (5000 - 3500) / 3 + 1650
+  waitFor("the widest list", [&] { return alike(sizesOf(window), {5000, 3200, 2150}); });
+  waitFor("the splitter to stand beside it",
+          [&] { return window.splitter().left == rectOf(window.list()).right; });
+}
+
+TEST_F(SizesKept, ASizeThatIsNoNumberIsToldAndReplacedAtClosing) {
+  settings::write(L"WindowWidth", L"wide");
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  lexilo.click(ToolbarButton::quickLookup);
+  const ShownMessage box = waitForMessageBox(lexilo.process());
+  EXPECT_FALSE(box.text.empty());
+  EXPECT_TRUE(box.criticalIcon);
+  box.answer();
+  const QuickLookup window(lexilo.process());
+  window.lookUp(L"data");
+  window.close();
+  EXPECT_GE(savedSizes().width, 3500);
+}
+
+}  // namespace
+}  // namespace harness

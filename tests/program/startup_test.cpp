@@ -1,0 +1,113 @@
+// From the start of the program to the toolbar, and to its end.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "forms/geometry.h"
+#include "tests/program/harness/input.h"
+#include "tests/program/harness/lexilo.h"
+#include "tests/program/harness/message_box.h"
+#include "tests/program/harness/notepad.h"
+#include "tests/program/harness/popup_menu.h"
+#include "tests/program/harness/screen.h"
+
+namespace harness {
+namespace {
+
+class Startup : public ::testing::Test {};
+
+TEST_F(Startup, ShowsTheToolbarNearTheTopRightCorner) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  HWND toolbar = lexilo.waitUntilSeen();
+  const int dpi = static_cast<int>(GetDpiForWindow(toolbar));
+  const RECT rect = rectOf(toolbar);
+  const int screen = forms::toTwips(GetSystemMetrics(SM_CXSCREEN), dpi);
+  const int width = forms::toTwips(rect.right - rect.left, dpi);
+  EXPECT_EQ(rect.top, forms::toPixels(375, dpi));
+  EXPECT_EQ(rect.bottom - rect.top, forms::toPixels(375, dpi));
+  EXPECT_NEAR(rect.left, forms::toPixels(screen - width - 1300, dpi), 1);
+  EXPECT_TRUE(isTopmost(toolbar));
+}
+
+TEST_F(Startup, ASecondInstanceEndsWithoutAWindow) {
+  const AppFolder folder = AppFolder::withFullDictionary();
+  const Lexilo first(folder);
+  first.waitUntilSeen();
+  const Lexilo second(folder);
+  const bool windowless = neverWithin(1'000, [&] {
+    return findWindow({.process = second.process().id(), .className = {}, .title = {}}) != nullptr;
+  });
+  EXPECT_TRUE(windowless);
+  EXPECT_EQ(second.process().waitForExit(), 0U);
+  EXPECT_TRUE(first.process().running());
+  static_cast<void>(first.openQuickLookupAtA());
+}
+
+TEST_F(Startup, AnInstanceMayFollowOneThatHasEnded) {
+  const AppFolder folder = AppFolder::withFullDictionary();
+  for (int run = 0; run < 2; ++run) {
+    const Lexilo lexilo(folder);
+    lexilo.waitUntilSeen();
+    EXPECT_EQ(lexilo.exit(), 0U);
+  }
+}
+
+TEST_F(Startup, ExitEndsTheProgramWithAllItsWindows) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  static_cast<void>(lexilo.openQuickLookup());
+  EXPECT_EQ(lexilo.exit(), 0U);
+  EXPECT_EQ(findWindow({.process = lexilo.process().id(), .className = {}, .title = {}}), nullptr);
+}
+
+TEST_F(Startup, LooksUpEnglishAlsoWhenTheToolbarLosesTheFocusAtOnce) {
+  const Notepad notepad;
+  notepad.place({100, 300, 600, 600});
+  const POINT text = centreOf(clientRectOf(onlyChild(notepad.window(), L"Edit")));
+  input::moveTo(text);
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  static_cast<void>(lexilo.toolbar());
+  input::click(text);
+  waitFor("Notepad to be in front", [&] { return GetForegroundWindow() == notepad.window(); });
+  lexilo.waitUntilSeen();
+  const QuickLookup window = lexilo.openQuickLookupAtA();
+  window.lookUp(L"data");
+  EXPECT_GT(window.words().size(), 10U);
+}
+
+TEST_F(Startup, TheFirstButtonPressedAtOnceStillShowsTheFirstWords) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  const QuickLookup window = lexilo.openQuickLookup();
+  EXPECT_FALSE(window.words().empty());
+  window.lookUp(L"data");
+}
+
+TEST_F(Startup, WithoutADictionaryItSaysSoAndGoesOn) {
+  const AppFolder folder = AppFolder::withoutDictionary();
+  const Lexilo lexilo(folder);
+  const ShownMessage box = waitForMessageBox(lexilo.process());
+  EXPECT_EQ(box.title, L"");
+  EXPECT_FALSE(box.text.empty());
+  EXPECT_TRUE(box.criticalIcon);
+  saveScreenshot("build/shots/no-dictionary.png");
+  box.answer();
+  EXPECT_EQ(lexilo.exit(), 0U);
+  EXPECT_FALSE(std::filesystem::exists(folder.database()));
+}
+
+TEST_F(Startup, WithoutADictionaryTheQuickLookupWindowStillOpensAndCloses) {
+  const Lexilo lexilo(AppFolder::withoutDictionary());
+  waitForMessageBox(lexilo.process()).answer();
+  lexilo.click(ToolbarButton::quickLookup);
+  waitForMessageBox(lexilo.process()).answer();
+  const QuickLookup window(lexilo.process());
+  window.type(L"data");
+  window.type(L"数据");
+  EXPECT_EQ(window.words().size(), 0U);
+  EXPECT_EQ(findMessageBox(lexilo.process()), std::nullopt);
+  window.close();
+  EXPECT_EQ(lexilo.exit(), 0U);
+}
+
+}  // namespace
+}  // namespace harness
