@@ -216,6 +216,14 @@ TEST_F(RecordSetTest, SurvivesRowsThatVanishBetweenItsFetches) {
   EXPECT_THROW(set.field(0), Error);
 }
 
+TEST_F(RecordSetTest, CountsAnewWhereRowsVanishBetweenItsFetches) {
+  RecordSet set = rows("select * from long");
+  support::Writer(file_).run("delete from long");
+  EXPECT_EQ(set.recordCount(), 0U);
+  EXPECT_TRUE(set.endOfFile());
+  EXPECT_THROW(set.field(0), Error);
+}
+
 TEST_F(RecordSetTest, ReportsErrorsWhenTheQueryIsRun) {
   EXPECT_THROW(rows("select top 5 word from nowhere"), Error);
   EXPECT_THROW(rows("select top 200 word,meaning from  where  word like '%a%'"), Error);
