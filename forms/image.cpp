@@ -31,6 +31,8 @@ Image::Image(Form& form, Look look, const WidgetBox& box)
     : Widget(form, {L"STATIC", SS_NOTIFY | WS_CLIPSIBLINGS, 0}, box), look_(look) {}
 
 LRESULT Image::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  // Whoever drags twice in quick succession means two drags.
+  if (message == WM_LBUTTONDBLCLK) message = WM_LBUTTONDOWN;
   switch (message) {
     case WM_PAINT:
       paint();
