@@ -154,7 +154,17 @@ void Form::setPosition(int left, int top) {
 }
 
 void Form::setMousePointer(const wchar_t* systemCursor) {
-  mousePointer_ = systemCursor == nullptr ? nullptr : LoadCursorW(nullptr, systemCursor);
+  HCURSOR pointer = systemCursor == nullptr ? nullptr : LoadCursorW(nullptr, systemCursor);
+  if (std::exchange(mousePointer_, pointer) == pointer) return;
+  // The system asks for a shape before it tells of a move: without this the old one would stay
+  // until the next move.
+  POINT place{};
+  GetCursorPos(&place);
+  HWND under = WindowFromPoint(place);
+  if (under == nullptr || GetAncestor(under, GA_ROOT) != handle_) return;
+  const LRESULT part = SendMessageW(under, WM_NCHITTEST, 0, MAKELPARAM(place.x, place.y));
+  SendMessageW(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
+               MAKELPARAM(part, WM_MOUSEMOVE));
 }
 
 void Form::bringToTop() {
