@@ -49,6 +49,7 @@ bool MessageBoxes::look() {
   seen_.push_back({forms::windowText(box), forms::windowText(GetDlgItem(box, kTextId)), iconOf(box),
                    GetWindow(box, GW_OWNER)});
   if (const auto act = std::exchange(whileUp_, {})) act(box);
+  if (std::exchange(leaveNextAlone_, false)) return false;
   SendMessageW(FindWindowExW(box, nullptr, L"Button", nullptr), BM_CLICK, 0, 0);
   return false;
 }

@@ -27,6 +27,9 @@ class MessageBoxes {
   /// Runs once while the next box is up, before its button is pressed.
   void whileUp(std::function<void(HWND)> act) { whileUp_ = std::move(act); }
 
+  /// Lets the test close the next box.
+  void leaveNextAlone() { leaveNextAlone_ = true; }
+
   /// What was seen since the last call.
   [[nodiscard]] std::vector<SeenBox> take() { return std::exchange(seen_, {}); }
   [[nodiscard]] std::size_t count() const { return seen_.size(); }
@@ -38,6 +41,7 @@ class MessageBoxes {
   bool look();
 
   HWND answered_ = nullptr;
+  bool leaveNextAlone_ = false;
   std::vector<SeenBox> seen_;
   std::function<void(HWND)> whileUp_;
   Watcher watcher_;

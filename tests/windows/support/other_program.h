@@ -22,6 +22,10 @@ class OtherProgram {
 
   /// Takes the foreground and waits until it has it.
   void activate() const;
+  /// Puts it above all other windows, topmost ones too.
+  void raiseAboveAll() const {
+    SetWindowPos(window_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
   [[nodiscard]] bool isForeground() const { return GetForegroundWindow() == window_; }
 
  private:

@@ -22,6 +22,14 @@ inline POINT centreOf(const RECT& rect) {
 
 inline POINT centreOf(const forms::Widget& widget) { return centreOf(rectOf(widget.handle())); }
 
+/// Whether top-level window `upper` lies above `lower` on the screen.
+inline bool isAbove(HWND upper, HWND lower) {
+  for (HWND window = upper; window != nullptr; window = GetWindow(window, GW_HWNDNEXT)) {
+    if (window == lower) return true;
+  }
+  return false;
+}
+
 /// Where a place in a widget, in twips from its top left corner, lies on the screen.
 inline POINT inWidget(const forms::Widget& widget, int x, int y) {
   const RECT rect = rectOf(widget.handle());

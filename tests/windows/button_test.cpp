@@ -1,0 +1,106 @@
+#include "forms/button.h"
+
+#include "app/resources/resource_ids.h"
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+class ButtonForm : public FormA {
+ public:
+  ButtonForm() {
+    plain.onClick = [this] { ++clicks; };
+    pictured.onClick = [this] { ++pictureClicks; };
+  }
+  forms::Button plain{*this, u"退出", {150, 1000, 900, 330}};
+  forms::Button pictured{*this, forms::Picture(IDI_CAPTURE_ON), {1500, 1000, 375, 375}};
+  int clicks = 0;
+  int pictureClicks = 0;
+};
+
+class ButtonTest : public WindowTest {};
+
+TEST_F(ButtonTest, AClickOfTheMouse) {
+  ButtonForm& form = opened<ButtonForm>();
+  input::click(centreOf(form.plain));
+  ASSERT_TRUE(eventually([&] { return form.clicks == 1; }));
+  input::click(centreOf(form.pictured));
+  ASSERT_TRUE(eventually([&] { return form.pictureClicks == 1; }));
+  EXPECT_EQ(form.clicks, 1);
+}
+
+TEST_F(ButtonTest, LettingGoElsewhereIsNoClick) {
+  ButtonForm& form = opened<ButtonForm>();
+  input::moveTo(centreOf(form.plain));
+  input::pressLeft();
+  passTime(20);
+  input::moveTo(centreOf(form.second));
+  passTime(20);
+  input::releaseLeft();
+  EXPECT_TRUE(allAlong([&] { return form.clicks == 0; }, 50));
+}
+
+TEST_F(ButtonTest, EnterAndSpace) {
+  ButtonForm& form = opened<ButtonForm>();
+  form.plain.setFocus();
+  input::key(VK_RETURN);
+  ASSERT_TRUE(eventually([&] { return form.clicks == 1; }));
+  input::key(VK_SPACE);
+  ASSERT_TRUE(eventually([&] { return form.clicks == 2; }));
+  EXPECT_TRUE(allAlong([&] { return form.clicks == 2; }, 40));
+}
+
+TEST_F(ButtonTest, TheClickComesAfterTheEventsOfTheFocus) {
+  ButtonForm& form = opened<ButtonForm>();
+  form.first.setFocus();
+  events().clear();
+  form.plain.onClick = [] { events().emplace_back("click"); };
+  input::click(centreOf(form.plain));
+  ASSERT_TRUE(eventually([] { return times("click") == 1; }));
+  EXPECT_EQ(events(), (Events{"A.first.LostFocus", "click"}));
+}
+
+TEST_F(ButtonTest, PicturesAreEqualByIdentity) {
+  const forms::Picture one(IDI_CAPTURE_ON);
+  const forms::Picture sameDrawing(IDI_CAPTURE_ON);
+  const forms::Picture& same = one;
+  EXPECT_EQ(one, same);
+  EXPECT_NE(one, sameDrawing);
+  EXPECT_EQ(forms::Picture(), forms::Picture());
+  EXPECT_NE(one, forms::Picture());
+}
+
+TEST_F(ButtonTest, ShowsThePictureDrawnForItsResolution) {
+  ButtonForm& form = opened<ButtonForm>();
+  const auto shown = [&] {
+    return reinterpret_cast<HICON>(
+        SendMessageW(form.pictured.handle(), BM_GETIMAGE, IMAGE_ICON, 0));
+  };
+  EXPECT_NE(shown(), nullptr);
+  EXPECT_EQ(shown(), form.pictured.picture().icon(16));
+  const RECT suggested{100, 100, 900, 700};
+  SendMessageW(form.handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
+               reinterpret_cast<LPARAM>(&suggested));
+  EXPECT_EQ(shown(), form.pictured.picture().icon(24));
+  const forms::Picture other(IDI_CAPTURE_OFF);
+  form.pictured.setPicture(other);
+  EXPECT_EQ(shown(), other.icon(24));
+  EXPECT_EQ(form.pictured.picture(), other);
+}
+
+TEST_F(ButtonTest, WithoutAPictureItShowsNone) {
+  ButtonForm& form = opened<ButtonForm>();
+  form.pictured.setPicture({});
+  EXPECT_EQ(SendMessageW(form.pictured.handle(), BM_GETIMAGE, IMAGE_ICON, 0), 0);
+  EXPECT_EQ(forms::Picture().icon(16), nullptr);
+}
+
+TEST_F(ButtonTest, DisabledItCannotBeClicked) {
+  ButtonForm& form = opened<ButtonForm>();
+  form.plain.setEnabled(false);
+  input::click(centreOf(form.plain));
+  EXPECT_TRUE(allAlong([&] { return form.clicks == 0; }, 50));
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,153 @@
+#include "app/process.h"
+#include "capture/screen_word.h"
+#include "lookup/frm_sub.h"
+#include "tests/windows/support/frm_top_test.h"
+#include "tests/windows/support/started_page.h"
+
+namespace wintest {
+namespace {
+
+// Numbers of the items without the separators, as the Down key counts them.
+constexpr int kQuickLookup = 2;
+constexpr int kMouse = 3;
+constexpr int kHelp = 5;
+constexpr int kWebSite = 7;
+
+class FrmMenu : public FrmTopTest {};
+
+TEST_F(FrmMenu, ShowsItsItemsInOrder) {
+  start();
+  std::vector<MenuLine> lines;
+  withMenu([&](HWND window) {
+    lines = linesOf(window);
+    input::key(VK_ESCAPE);
+  });
+  EXPECT_EQ(lines, (std::vector<MenuLine>{{u"多功能查询"},
+                                          {u"快速查询"},
+                                          {u"鼠标取词", true, true},
+                                          {u"-"},
+                                          {u"字典设置"},
+                                          {u"-"},
+                                          {u"帮助"},
+                                          {u"关于"},
+                                          {u"访问我们的网站"},
+                                          {u"-"},
+                                          {u"退出"}}));
+}
+
+TEST_F(FrmMenu, IsNeverShownItself) {
+  start();
+  bool shown = true;
+  withMenu([&](HWND) {
+    shown = IsWindowVisible(menu().handle()) != FALSE;
+    input::key(VK_ESCAPE);
+  });
+  EXPECT_FALSE(shown);
+  EXPECT_FALSE(IsWindowVisible(menu().handle()));
+}
+
+TEST_F(FrmMenu, CaptureRestsWhileItIsOpenAndRunsAfterwards) {
+  start();
+  bool rested = false;
+  withMenu([&](HWND) {
+    rested = !captureRuns();
+    input::key(VK_ESCAPE);
+  });
+  EXPECT_TRUE(rested);
+  EXPECT_TRUE(captureRuns());
+}
+
+TEST_F(FrmMenu, CaptureRunsAfterwardsEvenIfItWasSwitchedOff) {
+  start();
+  click(top().cmdMouse);
+  ASSERT_FALSE(captureRuns());
+  withMenu([](HWND) { input::key(VK_ESCAPE); });
+  EXPECT_TRUE(captureRuns());
+  expectCaptureShown(false);
+}
+
+TEST_F(FrmMenu, AClickElsewhereClosesItLikeEsc) {
+  start();
+  withMenu([](HWND) { input::click(kNowhere); });
+  EXPECT_TRUE(eventually([] { return captureRuns(); }));
+}
+
+TEST_F(FrmMenu, ChoosingTheMouseSwitchesCaptureOff) {
+  start();
+  chooseFromMenu(kMouse);
+  expectCaptureShown(false);
+  // The loss of the menu's focus starts it before the command stops it.
+  EXPECT_FALSE(captureRuns());
+}
+
+TEST_F(FrmMenu, ChoosingTheMouseTwiceRestoresAll) {
+  start();
+  chooseFromMenu(kMouse);
+  chooseFromMenu(kMouse);
+  expectCaptureShown(true);
+  EXPECT_TRUE(captureRuns());
+}
+
+TEST_F(FrmMenu, ShowsTheCheckMarkAsItIs) {
+  start();
+  click(top().cmdMouse);
+  bool checked = true;
+  withMenu([&](HWND window) {
+    checked = linesOf(window)[2].checked;
+    input::key(VK_ESCAPE);
+  });
+  EXPECT_FALSE(checked);
+}
+
+TEST_F(FrmMenu, QuickLookupOpensItsWindowAndChangesNoSharedFlag) {
+  start();
+  chooseFromMenu(kQuickLookup);
+  ASSERT_TRUE(forms::isLoaded<frmSub>());
+  awaitActive(forms::single<frmSub>());
+  EXPECT_FALSE(user::MainOpen);
+}
+
+TEST_F(FrmMenu, HelpIsTheToolbars) {
+  start();
+  useAsBrowser();
+  chooseFromMenu(kHelp);
+  ASSERT_TRUE(eventually([] { return !startedCommandLine().empty(); }));
+  EXPECT_EQ(startedCommandLine(),
+            user::BrowserPath + u" " + app::applicationFolder() + u"\\help\\help.htm");
+}
+
+TEST_F(FrmMenu, HelpWithoutABrowserIsTold) {
+  start();
+  user::BrowserPath = u"C:\\no such folder\\IEXPLORE.EXE";
+  chooseFromMenu(kHelp);
+  ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
+  const auto seen = boxes.take();
+  EXPECT_EQ(seen[0].text, u"未找到帮助文件！");
+  EXPECT_EQ(seen[0].icon, Icon::error);
+}
+
+TEST_F(FrmMenu, TheWebSiteStartsTheBrowserWithItsAddress) {
+  start();
+  useAsBrowser();
+  chooseFromMenu(kWebSite);
+  ASSERT_TRUE(eventually([] { return !startedCommandLine().empty(); }));
+  EXPECT_EQ(startedCommandLine(), user::BrowserPath + u" " + std::u16string(app::kHomePage));
+}
+
+TEST_F(FrmMenu, TheWebSiteWithoutABrowserIsAnUncaughtError) {
+  start();
+  user::BrowserPath = u"C:\\no such folder\\IEXPLORE.EXE";
+  chooseFromMenu(kWebSite);
+  ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
+  const auto seen = boxes.take();
+  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].title, u"");
+  EXPECT_FALSE(seen[0].text.empty());
+  EXPECT_NE(seen[0].text, u"未找到帮助文件！");
+  // The program goes on.
+  chooseFromMenu(kMouse);
+  expectCaptureShown(false);
+}
+
+}  // namespace
+}  // namespace wintest

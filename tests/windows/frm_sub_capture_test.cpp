@@ -1,0 +1,79 @@
+#include "app/frm_top.h"
+#include "capture/screen_word.h"
+#include "tests/windows/support/frm_sub_test.h"
+#include "tests/windows/support/other_program.h"
+
+namespace wintest {
+namespace {
+
+class FrmSubCapture : public FrmSubTest {
+ protected:
+  static bool runs() {
+    return eventually([] { return captureRuns(); });
+  }
+  static bool rests() {
+    return eventually([] { return !captureRuns(); });
+  }
+};
+
+TEST_F(FrmSubCapture, RestsWhileTheBoxHasTheFocus) {
+  ScreenWord::StartCapture();
+  open();
+  EXPECT_TRUE(rests());
+  input::click(nodePoint(2));
+  EXPECT_TRUE(runs());
+  input::click(centreOf(sub().txtInput));
+  EXPECT_TRUE(rests());
+  input::key(VK_TAB);
+  EXPECT_TRUE(runs());
+}
+
+TEST_F(FrmSubCapture, RunsAgainWhenAnotherProgramTakesTheFocus) {
+  OtherProgram other;
+  open();
+  ASSERT_TRUE(rests());
+  other.activate();
+  EXPECT_TRUE(runs());
+  SetForegroundWindow(sub().handle());
+  EXPECT_TRUE(rests());
+}
+
+TEST_F(FrmSubCapture, RunsAgainWhateverTheToolbarShows) {
+  open();
+  ScreenWord::StopCapture();
+  input::key(VK_TAB);
+  EXPECT_TRUE(runs());
+}
+
+TEST_F(FrmSubCapture, RunsOnceTheWindowIsClosed) {
+  open();
+  ASSERT_TRUE(rests());
+  input::click(centreOf(sub().cmdExit));
+  ASSERT_TRUE(eventually([] { return !forms::isLoaded<frmSub>(); }));
+  EXPECT_TRUE(captureRuns());
+}
+
+TEST_F(FrmSubCapture, AMessageBoxDoesNotWakeIt) {
+  frmSub& form = open();
+  ASSERT_TRUE(rests());
+  form.Adodc1.setConnectionString(u"Provider=x;Data Source=C:\\no such folder\\kk.dat;");
+  bool restedMeanwhile = false;
+  boxes.whileUp([&](HWND) { restedMeanwhile = allAlong([] { return !captureRuns(); }, 60); });
+  std::u16string word = u"data";
+  form.showMeaning(word, form.Adodc1);
+  EXPECT_EQ(boxes.take().size(), 1U);
+  EXPECT_TRUE(restedMeanwhile);
+  EXPECT_TRUE(allAlong([] { return !captureRuns(); }, 60));
+}
+
+TEST_F(FrmSubCapture, TheToolbarThatLosesTheFocusToTheBoxDoesNotWakeIt) {
+  frmTop& top = forms::single<frmTop>();
+  awaitActive(top);
+  ASSERT_TRUE(eventually([] { return user::IdxWords.size() > 1; }));
+  open();
+  EXPECT_TRUE(rests());
+  EXPECT_TRUE(allAlong([] { return !captureRuns(); }, 60));
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,112 @@
+#include "tests/windows/support/frm_sub_test.h"
+#include "tests/windows/support/other_program.h"
+
+namespace wintest {
+namespace {
+
+class FrmSubLayout : public FrmSubTest {
+ protected:
+  static void expectBox(const forms::Widget& widget, forms::WidgetBox expected) {
+    EXPECT_EQ(widget.left(), expected.left);
+    EXPECT_EQ(widget.top(), expected.top);
+    EXPECT_EQ(widget.width(), expected.width);
+    EXPECT_EQ(widget.height(), expected.height);
+    const RECT pixels = pixelBox(widget);
+    EXPECT_EQ(pixels.left, forms::toPixels(expected.left, 96));
+    EXPECT_EQ(pixels.right, forms::toPixels(expected.left + expected.width, 96));
+    EXPECT_EQ(pixels.bottom, forms::toPixels(expected.top + expected.height, 96));
+  }
+
+  static void expectLaidOut(int width, int height) {
+    const frmSub& form = sub();
+    const int list = form.TreeView1.width();
+    EXPECT_EQ(form.width(), width);
+    EXPECT_EQ(form.height(), height);
+    EXPECT_EQ(form.txtInput.left(), 750);
+    EXPECT_EQ(form.txtInput.width(), width - 1750);
+    EXPECT_EQ(form.cmdExit.left(), width - 900);
+    expectBox(form.TreeView1, {30, 600, list, height - 1000});
+    expectBox(form.Image1, {list + 30, 600, 20, height - 1000});
+    expectBox(form.txtOut, {list + 50, 600, width - list - 200, height - 1000});
+  }
+};
+
+TEST_F(FrmSubLayout, FollowsTheWindow) {
+  open();
+  for (const auto& [width, height] : {std::pair{6000, 5000}, {3600, 2900}, {9001, 7003}}) {
+    sub().setSize(width, height);
+    forms::doEvents();
+    expectLaidOut(width, height);
+  }
+}
+
+TEST_F(FrmSubLayout, BelowItsThresholdsItSnaps) {
+  open();
+  sub().setSize(3000, 2500);
+  expectLaidOut(3500, 2800);
+  sub().setSize(3599, 5000);
+  expectLaidOut(3500, 5000);
+  sub().setSize(5000, 2899);
+  expectLaidOut(5000, 2800);
+}
+
+TEST_F(FrmSubLayout, TheUsersHandSnapsItToo) {
+  open();
+  SetWindowPos(sub().handle(), nullptr, 0, 0, 120, 150, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  forms::doEvents();
+  expectLaidOut(3500, 2800);
+}
+
+TEST_F(FrmSubLayout, ThePaneLiesInsideTheWindow) {
+  open();
+  sub().setSize(6000, 5000);
+  forms::doEvents();
+  RECT client{};
+  GetClientRect(sub().handle(), &client);
+  // Its height is made for a frame 5 twips, less than a pixel, lower.
+  EXPECT_LE(pixelBox(sub().txtOut).right, client.right);
+  EXPECT_LE(pixelBox(sub().txtOut).bottom, client.bottom + 1);
+  EXPECT_LE(pixelBox(sub().cmdExit).right, client.right);
+}
+
+TEST_F(FrmSubLayout, EveryPaintPutsItOnTopAgainWithoutTakingTheFocus) {
+  frmSub& form = open();
+  OtherProgram other;
+  other.activate();
+  other.raiseAboveAll();
+  ASSERT_TRUE(isAbove(other.window(), form.handle()));
+  const RECT before = rectOf(form.handle());
+  InvalidateRect(form.handle(), nullptr, TRUE);
+  EXPECT_TRUE(eventually([&] { return isAbove(form.handle(), other.window()); }));
+  const RECT after = rectOf(form.handle());
+  EXPECT_TRUE(EqualRect(&before, &after));
+  EXPECT_TRUE(allAlong([&] { return other.isForeground(); }, 60));
+}
+
+TEST_F(FrmSubLayout, MaximisedItIsLaidOutAndComesBack) {
+  open();
+  sub().setSize(6000, 5010);
+  passTime(50);
+  ShowWindow(sub().handle(), SW_MAXIMIZE);
+  ASSERT_TRUE(eventually([] { return sub().width() > 10'000; }));
+  passTime(100);
+  expectLaidOut(sub().width(), sub().height());
+  ShowWindow(sub().handle(), SW_RESTORE);
+  ASSERT_TRUE(eventually([] { return sub().width() == 6000; }));
+  expectLaidOut(6000, 5010);
+}
+
+TEST_F(FrmSubLayout, FollowsTheResolution) {
+  open();
+  sub().setSize(6000, 5000);
+  const RECT suggested{100, 100, 900, 800};
+  SendMessageW(sub().handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
+               reinterpret_cast<LPARAM>(&suggested));
+  forms::doEvents();
+  const RECT pane = pixelBox(sub().txtOut);
+  EXPECT_EQ(pane.left, forms::toPixels(sub().TreeView1.width() + 50, 144));
+  EXPECT_EQ(pane.top, 60);
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,99 @@
+#include "tests/program/harness/clipboard.h"
+#include "tests/windows/support/clipboard_holder.h"
+#include "tests/windows/support/frm_sub_test.h"
+#include "tests/windows/support/open_menu.h"
+
+namespace wintest {
+namespace {
+
+class FrmSubPaneMenu : public FrmSubTest {
+ protected:
+  /// Opens the menu by a right click on the pane and deals with it. Returns its lines.
+  static std::vector<MenuLine> rightClick(std::initializer_list<WORD> keys) {
+    std::vector<MenuLine> lines;
+    const Watcher user([&, keys = std::vector<WORD>(keys)] {
+      HWND window = openMenu();
+      if (window == nullptr) return false;
+      lines = linesOf(window);
+      for (const WORD key : keys) input::key(key);
+      return true;
+    });
+    input::rightClick(centreOf(sub().txtOut));
+    EXPECT_TRUE(eventually([&] { return user.done() && openMenu() == nullptr; }));
+    forms::doEvents();
+    return lines;
+  }
+
+  static std::vector<MenuLine> both(bool enabled) {
+    return {{u"反查", enabled, false}, {u"复制", enabled, false}};
+  }
+};
+
+TEST_F(FrmSubPaneMenu, WithoutASelectionBothItemsAreDisabled) {
+  open();
+  EXPECT_EQ(rightClick({VK_ESCAPE}), both(false));
+}
+
+TEST_F(FrmSubPaneMenu, WithASelectionBothAreEnabled) {
+  open().txtInput.setText(u"data");
+  sub().txtOut.select(1, 4);
+  EXPECT_EQ(rightClick({VK_ESCAPE}), both(true));
+  EXPECT_EQ(sub().txtOut.selText(), u"data");
+  sub().txtOut.select(1, 0);
+  EXPECT_EQ(rightClick({VK_ESCAPE}), both(false));
+}
+
+TEST_F(FrmSubPaneMenu, SearchLooksTheSelectionUp) {
+  frmSub& form = open();
+  form.txtInput.setText(u"data");
+  form.txtOut.select(8, 2);
+  ASSERT_EQ(form.txtOut.selText(), u"数据");
+  rightClick({VK_DOWN, VK_RETURN});
+  ASSERT_TRUE(eventually([&] { return form.txtInput.text() == u"数据"; }));
+  EXPECT_EQ(list()[0], u"数据");
+  EXPECT_EQ(form.txtOut.text(), u" 数据\r\n data；\r\n datum");
+  EXPECT_EQ(form.txtOut.selLength(), 0U);
+}
+
+TEST_F(FrmSubPaneMenu, CopyPutsTheSelectionOnTheClipboardAsText) {
+  frmSub& form = open();
+  form.txtInput.setText(u"data");
+  form.txtOut.select(1, 9);
+  rightClick({VK_DOWN, VK_DOWN, VK_RETURN});
+  EXPECT_TRUE(eventually([] { return harness::clipboardText() == L"data\r\n 数据"; }));
+  EXPECT_EQ(form.txtOut.selLength(), 9U);
+  EXPECT_EQ(form.txtInput.text(), u"data");
+}
+
+TEST_F(FrmSubPaneMenu, ABusyClipboardIsToldAfterAMoment) {
+  frmSub& form = open();
+  form.txtInput.setText(u"data");
+  form.txtOut.select(1, 4);
+  {
+    const ClipboardHolder holder(500);
+    rightClick({VK_DOWN, VK_DOWN, VK_RETURN});
+    EXPECT_TRUE(eventually([this] { return boxes.count() == 1; }));
+  }
+  const auto seen = boxes.take();
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_NE(seen[0].text.find(u"剪贴板"), seen[0].text.npos);
+  EXPECT_EQ(seen[0].icon, Icon::error);
+}
+
+TEST_F(FrmSubPaneMenu, EscAndAClickElsewhereChangeNothing) {
+  frmSub& form = open();
+  form.txtInput.setText(u"data");
+  form.txtOut.select(8, 2);
+  rightClick({VK_DOWN, VK_ESCAPE});
+  EXPECT_EQ(form.txtInput.text(), u"data");
+  EXPECT_EQ(form.txtOut.selLength(), 2U);
+}
+
+TEST_F(FrmSubPaneMenu, ALeftClickOpensNoMenu) {
+  open();
+  input::click(centreOf(sub().txtOut));
+  EXPECT_TRUE(allAlong([] { return openMenu() == nullptr; }, 60));
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,140 @@
+#include "tests/windows/support/frm_sub_test.h"
+
+namespace wintest {
+namespace {
+
+class FrmSubSplitter : public FrmSubTest {
+ protected:
+  /// Opens the window at a size, with a list of a given width.
+  static void openAt(int width, int height, const wchar_t* listWidth) {
+    harness::settings::write(L"WindowWidth", std::to_wstring(width));
+    harness::settings::write(L"WindowHeight", std::to_wstring(height));
+    harness::settings::write(L"TreeWidth", listWidth);
+  }
+
+  /// Drags the splitter to a point and lets go.
+  static void dropAt(POINT point) {
+    input::moveTo(centreOf(sub().Image1));
+    forms::doEvents();
+    input::pressLeft();
+    ASSERT_TRUE(eventually([] { return sub().Image1.isDragged(); }));
+    input::moveTo(point);
+    passTime(20);
+    input::releaseLeft();
+    ASSERT_TRUE(eventually([] { return !sub().Image1.isDragged(); }));
+  }
+
+  static void expectPlaced(int listWidth) {
+    const frmSub& form = sub();
+    EXPECT_EQ(form.TreeView1.width(), listWidth);
+    EXPECT_EQ(form.TreeView1.left(), 30);
+    EXPECT_EQ(form.TreeView1.top(), 600);
+    EXPECT_EQ(form.Image1.left(), listWidth + 30);
+    EXPECT_EQ(pixelBox(form.Image1).left, forms::toPixels(listWidth + 30, 96));
+    EXPECT_EQ(form.txtOut.left(), listWidth + 50);
+    EXPECT_EQ(form.txtOut.width(), form.width() - listWidth - 200);
+    EXPECT_EQ(form.TreeView1.height(), form.height() - 1000);
+    EXPECT_EQ(form.Image1.height(), form.height() - 1000);
+  }
+};
+
+TEST_F(FrmSubSplitter, DroppedOnTheListNearItsLeftEdgeLeaves1600) {
+  openAt(5000, 4000, L"2100");
+  open();
+  dropAt(inWidget(sub().TreeView1, 900, 1500));
+  expectPlaced(1600);
+}
+
+TEST_F(FrmSubSplitter, DroppedOnTheListItTakesOff30Twips) {
+  openAt(5000, 4000, L"2100");
+  open();
+  dropAt(inWidget(sub().TreeView1, 1800, 1500));
+  expectPlaced(1770);
+}
+
+TEST_F(FrmSubSplitter, JustBehind1600ItComesOutBelow) {
+  openAt(5000, 4000, L"2100");
+  open();
+  dropAt(inWidget(sub().TreeView1, 1605, 1500));
+  expectPlaced(1575);
+}
+
+TEST_F(FrmSubSplitter, DroppedOnThePaneItWidensTheList) {
+  openAt(9000, 4000, L"1800");
+  open();
+  dropAt(inWidget(sub().txtOut, 600, 1500));
+  expectPlaced(2400);
+}
+
+TEST_F(FrmSubSplitter, AWindowOf5000StopsAt2150) {
+  openAt(5000, 4000, L"1800");
+  open();
+  dropAt(inWidget(sub().txtOut, 1200, 1500));
+  expectPlaced(2150);
+}
+
+TEST_F(FrmSubSplitter, AWindowOf9000StopsAt3000) {
+  openAt(9000, 4000, L"1800");
+  open();
+  dropAt(inWidget(sub().txtOut, 3000, 1500));
+  expectPlaced(3000);
+}
+
+TEST_F(FrmSubSplitter, DroppedElsewhereNothingChanges) {
+  openAt(5000, 4000, L"2100");
+  open();
+  dropAt(centreOf(sub().cmdExit));
+  expectPlaced(2100);
+  dropAt(centreOf(sub().Label1));
+  expectPlaced(2100);
+  dropAt(kNowhere);
+  expectPlaced(2100);
+}
+
+TEST_F(FrmSubSplitter, APressWithoutAMoveChangesNothing) {
+  openAt(5000, 4000, L"2100");
+  open();
+  dropAt(centreOf(sub().Image1));
+  expectPlaced(2100);
+}
+
+TEST_F(FrmSubSplitter, DropsOfAnythingElseChangeNothing) {
+  openAt(5000, 4000, L"2100");
+  open();
+  sub().TreeView1.onDragDrop.raise(sub().txtInput, {1800, 100});
+  sub().txtOut.onDragDrop.raise(sub().txtInput, {300, 100});
+  expectPlaced(2100);
+}
+
+TEST_F(FrmSubSplitter, AClickBesideTheDragStillChoosesWords) {
+  openAt(5000, 4000, L"2100");
+  open();
+  dropAt(inWidget(sub().TreeView1, 1800, 1500));
+  input::click(nodePoint(2));
+  EXPECT_TRUE(eventually([] { return sub().TreeView1.selected() == 2; }));
+}
+
+TEST_F(FrmSubSplitter, ThePointerShowsWhereItCanBeDragged) {
+  openAt(5000, 4000, L"2100");
+  frmSub& form = open();
+  HCURSOR sizing = LoadCursorW(nullptr, IDC_SIZEWE);
+  input::moveTo(centreOf(form.Image1));
+  EXPECT_TRUE(eventually([&] { return GetCursor() == sizing; }));
+  EXPECT_EQ(form.Image1.toolTip(), u"拖动以调解窗体宽度");
+  for (const forms::Widget* widget : std::initializer_list<const forms::Widget*>{
+           &form.Label1, &form.txtInput, &form.cmdExit, &form.TreeView1, &form.txtOut}) {
+    input::moveTo(centreOf(form.Image1));
+    ASSERT_TRUE(eventually([&] { return GetCursor() == sizing; }));
+    input::moveTo(centreOf(*widget));
+    EXPECT_TRUE(eventually([&] { return GetCursor() != sizing; }));
+  }
+  input::moveTo(centreOf(form.Image1));
+  ASSERT_TRUE(eventually([&] { return GetCursor() == sizing; }));
+  POINT empty{3, 3};
+  ClientToScreen(form.handle(), &empty);
+  input::moveTo(empty);
+  EXPECT_TRUE(eventually([&] { return GetCursor() == LoadCursorW(nullptr, IDC_ARROW); }));
+}
+
+}  // namespace
+}  // namespace wintest

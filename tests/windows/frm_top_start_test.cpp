@@ -1,0 +1,158 @@
+#include "app/process.h"
+#include "tests/windows/support/frm_top_test.h"
+#include "tests/windows/support/other_program.h"
+
+namespace wintest {
+namespace {
+
+class FrmTopStart : public FrmTopTest {};
+
+TEST_F(FrmTopStart, LeavesTheProgramReady) {
+  frmTop& form = top();
+  EXPECT_TRUE(IsWindowVisible(form.handle()));
+  EXPECT_FALSE(user::MainOpen);
+  EXPECT_EQ(user::ConnectionString, u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" +
+                                        app::applicationFolder() +
+                                        u"\\kk.dat;Persist Security Info=False");
+  EXPECT_EQ(user::BrowserPath, u"C:\\Program Files\\Internet Explorer\\IEXPLORE.EXE");
+  EXPECT_EQ(form.height(), 375);
+  EXPECT_EQ(form.foreColor(), RGB(0, 0, 255));
+  EXPECT_EQ(form.Timer1.interval(), 10);
+  expectCaptureShown(true);
+  EXPECT_TRUE(captureRuns());
+}
+
+TEST_F(FrmTopStart, LoadsTheIndexOnlyWithTheFirstTick) {
+  frmTop& form = top();
+  EXPECT_TRUE(user::IdxWords.empty());
+  EXPECT_TRUE(form.Timer1.enabled());
+  ASSERT_TRUE(eventually([] { return !user::IdxWords.empty(); }));
+  EXPECT_FALSE(form.Timer1.enabled());
+}
+
+TEST_F(FrmTopStart, TheIndexIsThatOfTheDatabase) {
+  start();
+  const auto rows = sampleDictionary().ordered(&support::SampleDictionary::Pair::english);
+  ASSERT_EQ(user::IdxWords.size(), (rows.size() / 100) + 1);
+  EXPECT_EQ(user::IdxWords[0], u"");
+  for (std::size_t slot = 1; slot < user::IdxWords.size(); ++slot) {
+    EXPECT_EQ(user::IdxWords[slot], text::toLower(rows[(slot * 100) - 1].english));
+  }
+}
+
+TEST_F(FrmTopStart, TheIndexIsInLowerCase) {
+  const OtherDictionary other(
+      "create table edictidx (word text);"
+      "insert into edictidx values ('Alpha'),('BETA'),('gamma ÉÀ')");
+  start();
+  EXPECT_EQ(user::IdxWords, (data::IndexWords{u"", u"alpha", u"beta", u"gamma éà"}));
+  unloadAll();
+}
+
+TEST_F(FrmTopStart, AnEmptyIndexHasOnlySlotZero) {
+  const OtherDictionary other("create table edictidx (word text)");
+  start();
+  EXPECT_EQ(user::IdxWords, data::IndexWords{u""});
+  unloadAll();
+}
+
+TEST_F(FrmTopStart, AnIndexBeyond16BitsIsAnUncaughtError) {
+  const OtherDictionary other(
+      "create table edictidx (word text);"
+      "with recursive n(i) as (select 1 union all select i+1 from n where i<32768)"
+      "insert into edictidx select 'w'||i from n");
+  frmTop& form = top();
+  ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
+  const auto seen = boxes.take();
+  EXPECT_FALSE(seen[0].text.empty());
+  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].title, u"");
+  EXPECT_TRUE(user::IdxWords.empty());
+  EXPECT_FALSE(form.Timer1.enabled());
+  EXPECT_TRUE(allAlong([this] { return boxes.count() == 0; }, 60));
+  unloadAll();
+}
+
+TEST_F(FrmTopStart, TheLargestIndexIsLoaded) {
+  const OtherDictionary other(
+      "create table edictidx (word text);"
+      "with recursive n(i) as (select 1 union all select i+1 from n where i<32767)"
+      "insert into edictidx select 'w'||i from n");
+  start();
+  EXPECT_EQ(user::IdxWords.size(), 32'768U);
+  unloadAll();
+}
+
+TEST_F(FrmTopStart, AMissingDatabaseIsToldOnceAndTheToolbarStays) {
+  const OtherDictionary none("");
+  frmTop& form = top();
+  ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
+  const auto seen = boxes.take();
+  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_FALSE(seen[0].text.empty());
+  EXPECT_TRUE(IsWindowVisible(form.handle()));
+  EXPECT_TRUE(allAlong([this] { return boxes.count() == 0; }, 60));
+  EXPECT_FALSE(std::filesystem::exists(besideProgram()));
+  unloadAll();
+}
+
+TEST_F(FrmTopStart, LosingTheFocusAtOnceDoesNotCostTheIndex) {
+  OtherProgram other;
+  top();
+  SetForegroundWindow(other.window());
+  EXPECT_TRUE(eventually([] { return user::IdxWords.size() > 1; }));
+}
+
+TEST_F(FrmTopStart, StandsBelowTheTopNearTheRightEdge) {
+  frmTop& form = start();
+  const int screenWidth = GetSystemMetrics(SM_CXSCREEN) * 15;
+  EXPECT_EQ(form.top(), form.height());
+  const RECT rect = rectOf(form.handle());
+  EXPECT_EQ(rect.left, forms::toPixels(screenWidth - form.width() - 1300, 96));
+  EXPECT_EQ(rect.top, 25);
+  EXPECT_EQ(rect.bottom - rect.top, 25);
+  EXPECT_EQ(rect.right - rect.left, forms::toPixels(form.width(), 96));
+}
+
+TEST_F(FrmTopStart, TheHostOfCaptureIsLoadedAndHidden) {
+  start();
+  EXPECT_TRUE(forms::isLoaded<frmScreenWord>());
+  EXPECT_FALSE(IsWindowVisible(host().handle()));
+  EXPECT_EQ(host().timScreenWord1.interval(), 100);
+  EXPECT_EQ(host().timScreenWord2.interval(), 60'000);
+  EXPECT_EQ(host().Timer1.interval(), 5);
+  const LONG_PTR style = GetWindowLongPtrW(host().handle(), GWL_EXSTYLE);
+  EXPECT_NE(style & WS_EX_NOACTIVATE, 0);
+  EXPECT_NE(style & WS_EX_TOOLWINDOW, 0);
+}
+
+TEST_F(FrmTopStart, KeepsTheFocusThroughIt) {
+  frmTop& form = start();
+  EXPECT_TRUE(allAlong([&] { return GetActiveWindow() == form.handle(); }, 60));
+}
+
+TEST_F(FrmTopStart, AnErrorOnTheWayIsToldAndWhatWasDoneStays) {
+  // A window of the host's class that cannot be made.
+  UnregisterClassW(L"Lexilo.frmScreenWord", GetModuleHandleW(nullptr));
+  WNDCLASSW refusing{};
+  refusing.lpfnWndProc = [](HWND, UINT, WPARAM, LPARAM) -> LRESULT {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return 0;
+  };
+  refusing.hInstance = GetModuleHandleW(nullptr);
+  refusing.lpszClassName = L"Lexilo.frmScreenWord";
+  ASSERT_NE(RegisterClassW(&refusing), 0);
+  frmTop& form = top();
+  const auto seen = boxes.take();
+  UnregisterClassW(L"Lexilo.frmScreenWord", GetModuleHandleW(nullptr));
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_FALSE(seen[0].text.empty());
+  EXPECT_EQ(seen[0].icon, Icon::none);
+  EXPECT_EQ(seen[0].title, u"Lexilo");
+  EXPECT_TRUE(IsWindowVisible(form.handle()));
+  EXPECT_FALSE(user::BrowserPath.empty());
+  EXPECT_EQ(form.cmdMouse.picture(), form.cmdMouseYes.picture());
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,127 @@
+#include "tests/windows/support/frm_top_test.h"
+#include "app/process.h"
+#include "lookup/frm_sub.h"
+#include "tests/windows/support/other_program.h"
+#include "tests/windows/support/started_page.h"
+
+namespace wintest {
+namespace {
+
+class FrmTop : public FrmTopTest {};
+
+TEST_F(FrmTop, SaysWhatItsButtonsDo) {
+  frmTop& form = start();
+  EXPECT_EQ(form.cmdMain.toolTip(), u"快速查询");
+  EXPECT_EQ(form.cmdSub.toolTip(), u"多功能查询");
+  EXPECT_EQ(form.cmdDictSetting.toolTip(), u"查询设置");
+  EXPECT_EQ(form.cmdMouse.toolTip(), u"允许鼠标取词");
+}
+
+TEST_F(FrmTop, EveryButtonHasAPictureAndTheTwoThatHoldOneAreHidden) {
+  frmTop& form = start();
+  const std::initializer_list<const forms::Button*> shown{&form.cmdMain,        &form.cmdSub,
+                                                          &form.cmdDictSetting, &form.cmdMouse,
+                                                          &form.cmdHelp,        &form.Command1};
+  for (const forms::Button* button : shown) {
+    EXPECT_TRUE(IsWindowVisible(button->handle()));
+    EXPECT_NE(SendMessageW(button->handle(), BM_GETIMAGE, IMAGE_ICON, 0), 0);
+    EXPECT_LE(pixelBox(*button).bottom, 25);
+    EXPECT_LE(pixelBox(*button).right, forms::toPixels(form.width(), 96));
+  }
+  EXPECT_FALSE(IsWindowVisible(form.cmdMouseYes.handle()));
+  EXPECT_FALSE(IsWindowVisible(form.cmdMouseNot.handle()));
+  EXPECT_NE(form.cmdMouseYes.picture(), form.cmdMouseNot.picture());
+}
+
+TEST_F(FrmTop, TheFirstButtonOpensTheQuickLookupWindow) {
+  start();
+  input::click(centreOf(top().cmdMain));
+  ASSERT_TRUE(eventually([] { return forms::isLoaded<frmSub>(); }));
+  awaitActive(forms::single<frmSub>());
+  EXPECT_TRUE(IsWindowVisible(top().handle()));
+}
+
+TEST_F(FrmTop, StaysAboveOtherWindowsWithEveryPaintAndTakesNoFocus) {
+  frmTop& form = start();
+  OtherProgram other;
+  other.activate();
+  other.raiseAboveAll();
+  ASSERT_TRUE(isAbove(other.window(), form.handle()));
+  RedrawWindow(form.handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+  EXPECT_TRUE(eventually([&] { return isAbove(form.handle(), other.window()); }));
+  EXPECT_TRUE(allAlong([&] { return other.isForeground(); }, 60));
+}
+
+TEST_F(FrmTop, IgnoresAltF4AndHasNoCloseBox) {
+  frmTop& form = start();
+  const HWND window = form.handle();
+  input::key(VK_F4, {VK_MENU});
+  SendMessageW(window, WM_CLOSE, 0, 0);
+  EXPECT_TRUE(allAlong([&] { return IsWindow(window) && forms::isLoaded<frmTop>(); }, 80));
+  EXPECT_EQ(GetWindowLongPtrW(window, GWL_STYLE) & (WS_SYSMENU | WS_CAPTION), 0);
+}
+
+TEST_F(FrmTop, UnloadingItUnloadsNothingElse) {
+  start();
+  forms::single<frmSub>().show();
+  top().unload();
+  forms::doEvents();
+  EXPECT_FALSE(forms::isLoaded<frmTop>());
+  EXPECT_TRUE(forms::isLoaded<frmSub>());
+  EXPECT_TRUE(forms::isLoaded<frmScreenWord>());
+  EXPECT_TRUE(IsWindowVisible(forms::single<frmSub>().handle()));
+}
+
+TEST_F(FrmTop, HelpWithoutABrowserIsTold) {
+  start();
+  user::BrowserPath = u"C:\\no such folder\\IEXPLORE.EXE";
+  click(top().cmdHelp);
+  ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
+  const auto seen = boxes.take();
+  EXPECT_EQ(seen[0].text, u"未找到帮助文件！");
+  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].title, u"");
+}
+
+TEST_F(FrmTop, HelpStartsTheBrowserWithThePage) {
+  start();
+  useAsBrowser();
+  click(top().cmdHelp);
+  ASSERT_TRUE(eventually([] { return !startedCommandLine().empty(); }));
+  EXPECT_EQ(startedCommandLine(),
+            user::BrowserPath + u" " + app::applicationFolder() + u"\\help\\help.htm");
+}
+
+TEST_F(FrmTop, TheMenuDropsDownJustBelowTheButtons) {
+  start();
+  POINT corner{};
+  withMenu([&](HWND window) {
+    const RECT rect = rectOf(window);
+    corner = {rect.left, rect.top};
+    input::key(VK_ESCAPE);
+  });
+  EXPECT_EQ(corner.x, rectOf(top().handle()).left);
+  EXPECT_EQ(corner.y, rectOf(top().handle()).top + forms::toPixels(345, 96));
+}
+
+TEST_F(FrmTop, TypingElsewhereIsNotDisturbedByAHundredRepaintsOfOurWindows) {
+  start();
+  forms::single<frmSub>().show();
+  awaitActive(forms::single<frmSub>());
+  OtherProgram other;
+  other.activate();
+  std::u16string expected;
+  for (int i = 0; i < 100; ++i) {
+    input::type(i % 2 == 0 ? L"x" : L"词");
+    expected += i % 2 == 0 ? u'x' : u'词';
+    for (HWND window : {top().handle(), forms::single<frmSub>().handle()}) {
+      RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
+    forms::doEvents();
+  }
+  EXPECT_TRUE(eventually([&] { return other.text() == expected; }));
+  EXPECT_TRUE(other.isForeground());
+}
+
+}  // namespace
+}  // namespace wintest

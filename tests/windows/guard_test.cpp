@@ -1,0 +1,181 @@
+#include <stdexcept>
+
+#include "forms/button.h"
+#include "forms/guard.h"
+#include "forms/message_box.h"
+#include "forms/timer.h"
+#include "tests/windows/support/other_program.h"
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+class Guard : public WindowTest {};
+
+/// A form whose box fails on every change.
+class FailingForm : public FormA {
+ public:
+  FailingForm() {
+    first.onChange = [] { throw std::runtime_error("数据库已损坏"); };
+  }
+};
+
+TEST_F(Guard, AnUncaughtErrorIsShownWithItsOwnDescription) {
+  FailingForm& form = opened<FailingForm>();
+  form.first.setText(u"x");
+  const auto seen = boxes.take();
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_EQ(seen[0].text, u"数据库已损坏");
+  EXPECT_EQ(seen[0].title, u"");
+  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].owner, form.handle());
+}
+
+TEST_F(Guard, TheProgramGoesOnWithItsDataIntact) {
+  FailingForm& form = opened<FailingForm>();
+  form.first.setText(u"kept");
+  EXPECT_EQ(boxes.take().size(), 1U);
+  EXPECT_EQ(form.first.text(), u"kept");
+  EXPECT_EQ(forms::HandlerRunning::depth(), 0);
+  form.first.setText(u"again");
+  EXPECT_EQ(boxes.take().size(), 1U);
+}
+
+TEST_F(Guard, OneBoxAtATimeWhateverElseFails) {
+  FailingForm& form = opened<FailingForm>();
+  forms::Timer timer(form, 10, true);
+  int ticks = 0;
+  timer.onTimer = [&] {
+    ++ticks;
+    throw std::runtime_error("tick");
+  };
+  boxes.whileUp([&](HWND) {
+    form.first.setText(u"second error");
+    eventually([&] { return ticks >= 3; });
+    int count = 0;
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM found) {
+          wchar_t name[16] = L"";
+          GetClassNameW(window, name, 16);
+          if (lstrcmpW(name, L"#32770") == 0) ++*reinterpret_cast<int*>(found);
+          return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&count));
+    EXPECT_EQ(count, 1);
+    timer.setEnabled(false);
+  });
+  form.first.setText(u"x");
+  passTime(50);
+  EXPECT_GE(ticks, 3);
+  EXPECT_EQ(boxes.take().size(), 1U);
+}
+
+TEST_F(Guard, AnErrorInATimerReachesIt) {
+  FormA& form = opened<FormA>();
+  forms::Timer timer(form, 10, true);
+  timer.onTimer = [&] {
+    timer.setEnabled(false);
+    throw std::overflow_error("Overflow");
+  };
+  ASSERT_TRUE(eventually([&] { return boxes.count() == 1; }));
+  EXPECT_EQ(boxes.take()[0].text, u"Overflow");
+}
+
+TEST_F(Guard, WhatIsNoExceptionHasADescriptionToo) {
+  FormA& form = opened<FormA>();
+  form.first.onChange = [] { throw 42; };
+  form.first.setText(u"x");
+  ASSERT_EQ(boxes.count(), 1U);
+  EXPECT_FALSE(boxes.take()[0].text.empty());
+}
+
+TEST_F(Guard, WithoutAnActiveWindowTheBoxComesAllTheSame) {
+  FormA& form = opened<FormA>();
+  OtherProgram other;
+  other.activate();
+  ASSERT_TRUE(eventually([] { return GetActiveWindow() == nullptr; }));
+  form.first.onChange = [] { throw std::runtime_error("behind"); };
+  form.first.setText(u"x");
+  EXPECT_EQ(boxes.take().size(), 1U);
+  EXPECT_TRUE(IsWindowEnabled(form.handle()));
+}
+
+using MessageBoxTest = Guard;
+
+TEST_F(MessageBoxTest, HoldsEveryWindowOfTheProgram) {
+  FormA& owner = opened<FormA>();
+  FormB& other = forms::single<FormB>();
+  other.show();
+  awaitActive(other);
+  owner.show();
+  awaitActive(owner);
+  bool held = false;
+  boxes.whileUp(
+      [&](HWND) { held = !IsWindowEnabled(owner.handle()) && !IsWindowEnabled(other.handle()); });
+  forms::showMessage(u"查询条件不为空！", forms::MessageIcon::exclamation);
+  EXPECT_TRUE(held);
+  EXPECT_TRUE(IsWindowEnabled(owner.handle()));
+  EXPECT_TRUE(IsWindowEnabled(other.handle()));
+  const auto seen = boxes.take();
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_EQ(seen[0].owner, owner.handle());
+}
+
+TEST_F(MessageBoxTest, LeavesAWindowDisabledThatWasSo) {
+  opened<FormA>();
+  FormB& other = opened<FormB>();
+  forms::single<FormA>().show();
+  awaitActive(forms::single<FormA>());
+  EnableWindow(other.handle(), FALSE);
+  forms::showMessage(u"…", forms::MessageIcon::none);
+  EXPECT_EQ(boxes.take().size(), 1U);
+  EXPECT_FALSE(IsWindowEnabled(other.handle()));
+  EnableWindow(other.handle(), TRUE);
+}
+
+TEST_F(MessageBoxTest, ShowsTextTitleAndIconAsAsked) {
+  opened<FormA>();
+  forms::showMessage(u"一", forms::MessageIcon::critical);
+  forms::showMessage(u"二", forms::MessageIcon::exclamation);
+  forms::showMessage(u"三", forms::MessageIcon::information);
+  forms::showMessage(u"四", forms::MessageIcon::none, u"Lexilo");
+  const auto seen = boxes.take();
+  ASSERT_EQ(seen.size(), 4U);
+  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[1].icon, Icon::warning);
+  EXPECT_EQ(seen[2].icon, Icon::information);
+  EXPECT_EQ(seen[3].icon, Icon::none);
+  EXPECT_EQ(seen[0].title, u"");
+  EXPECT_EQ(seen[3].title, u"Lexilo");
+  EXPECT_EQ(seen[1].text, u"二");
+}
+
+TEST_F(MessageBoxTest, StandsAboveOurTopmostWindows) {
+  plan<'A'>().design.topmost = true;
+  opened<FormA>();
+  bool above = false;
+  boxes.whileUp(
+      [&](HWND box) { above = (GetWindowLongPtrW(box, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; });
+  forms::showMessage(u"…", forms::MessageIcon::none);
+  EXPECT_EQ(boxes.take().size(), 1U);
+  EXPECT_TRUE(above);
+}
+
+TEST_F(MessageBoxTest, ClosesByTheKeyboard) {
+  FormA& form = opened<FormA>();
+  boxes.leaveNextAlone();
+  const Watcher user([] {
+    HWND box = MessageBoxes::current();
+    if (box == nullptr || GetForegroundWindow() != box) return false;
+    input::key(VK_RETURN);
+    return true;
+  });
+  forms::showMessage(u"…", forms::MessageIcon::none);
+  EXPECT_TRUE(user.done());
+  EXPECT_EQ(boxes.take().size(), 1U);
+  EXPECT_TRUE(eventually([&] { return GetFocus() == form.first.handle(); }));
+}
+
+}  // namespace
+}  // namespace wintest

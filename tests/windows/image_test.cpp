@@ -1,0 +1,142 @@
+#include "forms/image.h"
+
+#include "forms/label.h"
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+/// A splitter between two boxes, which note what is dropped on them.
+class SplitForm : public FormA {
+ public:
+  SplitForm() {
+    first.move({30, 300, 1500, 2000});
+    second.move({1550, 300, 1500, 2000});
+    splitter.onMouseDown = [this](forms::Place) { splitter.beginDrag(); };
+    splitter.onDragEnded = [this] { ++ended; };
+    first.onDragDrop = [this](forms::Widget& source, forms::Place at) {
+      note("first", source, at);
+    };
+    second.onDragDrop = [this](forms::Widget& source, forms::Place at) {
+      note("second", source, at);
+    };
+  }
+  forms::Image splitter{*this, forms::Image::Look::line, {1530, 300, 20, 2000}};
+  std::vector<std::string> drops;
+  forms::Place place;
+  int ended = 0;
+
+ private:
+  void note(const char* target, const forms::Widget& source, forms::Place at) {
+    EXPECT_EQ(&source, &splitter);
+    drops.emplace_back(target);
+    place = at;
+  }
+};
+
+class ImageTest : public WindowTest {
+ protected:
+  static SplitForm& form() { return forms::single<SplitForm>(); }
+
+  /// Presses on the splitter and moves to a point, without letting go.
+  static void dragTo(POINT point) {
+    input::moveTo(centreOf(form().splitter));
+    forms::doEvents();
+    input::pressLeft();
+    ASSERT_TRUE(eventually([] { return form().splitter.isDragged(); }));
+    input::moveTo(point);
+    passTime(30);
+  }
+  static bool ended() {
+    return eventually([] { return form().ended > 0; });
+  }
+};
+
+TEST_F(ImageTest, IsDroppedOnTheWidgetBelowThePointer) {
+  opened<SplitForm>();
+  dragTo(inWidget(form().second, 600, 900));
+  input::releaseLeft();
+  ASSERT_TRUE(ended());
+  EXPECT_EQ(form().drops, std::vector<std::string>{"second"});
+  EXPECT_EQ(form().place.x, 600);
+  EXPECT_EQ(form().place.y, 900);
+  EXPECT_FALSE(form().splitter.isDragged());
+}
+
+TEST_F(ImageTest, CanBeDroppedToTheLeftAsWell) {
+  opened<SplitForm>();
+  dragTo(inWidget(form().first, 450, 150));
+  input::releaseLeft();
+  ASSERT_TRUE(ended());
+  EXPECT_EQ(form().drops, std::vector<std::string>{"first"});
+  EXPECT_EQ(form().place.x, 450);
+}
+
+TEST_F(ImageTest, FollowsThePointerFromLeftToRight) {
+  opened<SplitForm>();
+  const RECT before = rectOf(form().splitter.handle());
+  const POINT point = inWidget(form().second, 600, 900);
+  dragTo(point);
+  EXPECT_TRUE(eventually([&] { return rectOf(form().splitter.handle()).left == point.x; }));
+  EXPECT_EQ(rectOf(form().splitter.handle()).top, before.top);
+  input::releaseLeft();
+  ended();
+}
+
+TEST_F(ImageTest, DroppedElsewhereNothingHears) {
+  opened<SplitForm>();
+  RECT client{};
+  GetClientRect(form().handle(), &client);
+  POINT bottom{client.right - 5, client.bottom - 5};
+  ClientToScreen(form().handle(), &bottom);
+  dragTo(bottom);
+  input::releaseLeft();
+  ASSERT_TRUE(ended());
+  EXPECT_EQ(form().drops, std::vector<std::string>{});
+}
+
+TEST_F(ImageTest, DroppedOutsideTheFormNothingHears) {
+  opened<SplitForm>();
+  dragTo(kNowhere);
+  input::releaseLeft();
+  ASSERT_TRUE(ended());
+  EXPECT_EQ(form().drops, std::vector<std::string>{});
+}
+
+TEST_F(ImageTest, APressWithoutAMoveDropsNothing) {
+  opened<SplitForm>();
+  dragTo(centreOf(form().splitter));
+  input::releaseLeft();
+  ASSERT_TRUE(ended());
+  EXPECT_EQ(form().drops, std::vector<std::string>{});
+}
+
+TEST_F(ImageTest, LosingTheMouseEndsTheDragWithoutADrop) {
+  opened<SplitForm>();
+  dragTo(inWidget(form().second, 600, 900));
+  ReleaseCapture();
+  EXPECT_TRUE(ended());
+  EXPECT_FALSE(form().splitter.isDragged());
+  input::releaseLeft();
+  passTime(30);
+  EXPECT_EQ(form().drops, std::vector<std::string>{});
+  EXPECT_EQ(form().ended, 1);
+}
+
+TEST_F(ImageTest, ALineTakesHoldAFewPixelsBesideItself) {
+  opened<SplitForm>();
+  const RECT line = rectOf(form().splitter.handle());
+  const POINT beside{line.left - 2, (line.top + line.bottom) / 2};
+  EXPECT_FALSE(form().splitter.grabs(beside));
+  form().splitter.setGrabMargin(45);
+  EXPECT_TRUE(form().splitter.grabs(beside));
+  EXPECT_FALSE(form().splitter.grabs({line.left - 10, beside.y}));
+  input::moveTo(beside);
+  input::pressLeft();
+  EXPECT_TRUE(eventually([] { return form().splitter.isDragged(); }));
+  input::releaseLeft();
+  EXPECT_TRUE(ended());
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,107 @@
+#include "forms/popup_menu.h"
+
+#include "tests/windows/support/open_menu.h"
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+class PopupMenuTest : public WindowTest {
+ protected:
+  PopupMenuTest() {
+    menu.add(u"反查", [] { events().emplace_back("search"); });
+    menu.add(u"-");
+    menu.add(u"复制", [] { events().emplace_back("copy"); });
+    menu.add(u"退出");
+    menu.item(2).checked = true;
+    menu.item(3).enabled = false;
+  }
+
+  /// Drops the menu down and lets `act` deal with it. Returns the chosen item.
+  const forms::PopupMenu::Item* choose(std::function<void(HWND)> act) {
+    const Watcher user([act = std::move(act)] {
+      HWND window = openMenu();
+      if (window == nullptr) return false;
+      act(window);
+      return true;
+    });
+    const auto* chosen = menu.choose(forms::single<FormA>(), {500, 300});
+    EXPECT_TRUE(user.done());
+    return chosen;
+  }
+
+  forms::PopupMenu menu;
+};
+
+TEST_F(PopupMenuTest, ShowsItsItemsAsDescribed) {
+  opened<FormA>();
+  std::vector<MenuLine> lines;
+  POINT corner{};
+  choose([&](HWND window) {
+    lines = linesOf(window);
+    const RECT rect = rectOf(window);
+    corner = {rect.left, rect.top};
+    input::key(VK_ESCAPE);
+  });
+  EXPECT_EQ(lines,
+            (std::vector<MenuLine>{
+                {u"反查", true, false}, {u"-"}, {u"复制", true, true}, {u"退出", false, false}}));
+  EXPECT_EQ(corner.x, 500);
+  EXPECT_EQ(corner.y, 300);
+}
+
+TEST_F(PopupMenuTest, KeysChooseAndSkipTheSeparator) {
+  opened<FormA>();
+  events().clear();
+  const auto* chosen = choose([](HWND) {
+    input::key(VK_DOWN);
+    input::key(VK_DOWN);
+    input::key(VK_RETURN);
+  });
+  ASSERT_EQ(chosen, &menu.item(2));
+  // Its handler runs when the caller says so.
+  EXPECT_EQ(times("copy"), 0);
+  chosen->onClick();
+  EXPECT_EQ(times("copy"), 1);
+}
+
+TEST_F(PopupMenuTest, AClickChooses) {
+  opened<FormA>();
+  const auto* chosen = choose([](HWND window) {
+    const RECT rect = rectOf(window);
+    input::click({rect.left + 40, rect.top + 12});
+  });
+  EXPECT_EQ(chosen, &menu.item(0));
+}
+
+TEST_F(PopupMenuTest, EscapeLeavesIt) {
+  opened<FormA>();
+  EXPECT_EQ(choose([](HWND) { input::key(VK_ESCAPE); }), nullptr);
+  EXPECT_EQ(openMenu(), nullptr);
+}
+
+TEST_F(PopupMenuTest, AClickElsewhereLeavesIt) {
+  opened<FormA>();
+  EXPECT_EQ(choose([](HWND) { input::click(kNowhere); }), nullptr);
+  EXPECT_EQ(openMenu(), nullptr);
+}
+
+TEST_F(PopupMenuTest, ADisabledItemCannotBeChosen) {
+  opened<FormA>();
+  const auto* chosen = choose([](HWND window) {
+    const RECT rect = rectOf(window);
+    input::click({rect.left + 40, rect.bottom - 12});
+    EndMenu();
+  });
+  EXPECT_EQ(chosen, nullptr);
+}
+
+TEST_F(PopupMenuTest, CountsItsItems) {
+  EXPECT_EQ(menu.count(), 4U);
+  EXPECT_EQ(menu.add(u"x"), 4U);
+  EXPECT_EQ(menu.item(4).caption, u"x");
+  EXPECT_TRUE(menu.item(4).enabled);
+}
+
+}  // namespace
+}  // namespace wintest

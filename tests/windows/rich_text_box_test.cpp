@@ -1,0 +1,153 @@
+#include "forms/rich_text_box.h"
+
+#include "tests/program/harness/controls.h"
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
+
+class PaneForm : public FormA {
+ public:
+  forms::RichTextBox pane{*this, {150, 1000, 3900, 1200}};
+};
+
+class RichTextBoxTest : public WindowTest {
+ protected:
+  static forms::RichTextBox& pane() { return forms::single<PaneForm>().pane; }
+  static std::vector<COLORREF> colours() { return harness::richTextColours(pane().handle()); }
+};
+
+TEST_F(RichTextBoxTest, GivesBackTheTextThatWasSet) {
+  opened<PaneForm>();
+  pane().setText(u" bit\r\n 位；\r\n 比特");
+  EXPECT_EQ(pane().text(), u" bit\r\n 位；\r\n 比特");
+  pane().setText(u"");
+  EXPECT_EQ(pane().text(), u"");
+}
+
+TEST_F(RichTextBoxTest, ColoursAreRightToTheCharacter) {
+  opened<PaneForm>();
+  const std::u16string text = u" bit\r\n 位；\r\n 比特";
+  pane().setText(text);
+  pane().select(0, 6);
+  pane().setSelColor(kRed);
+  pane().select(6, text.size() - 6);
+  pane().setSelColor(kBlue);
+  // The control counts a line end once: " bit" and its end are 5, "位；" with blank and end 4.
+  std::vector<COLORREF> expected(5, kRed);
+  expected.insert(expected.end(), 7, kBlue);
+  EXPECT_EQ(colours(), expected);
+}
+
+TEST_F(RichTextBoxTest, PositionsAreThoseOfTheTextAsItWasSet) {
+  opened<PaneForm>();
+  const std::u16string text = u"one\r\ntwo\r\nthree";
+  pane().setText(text);
+  for (std::size_t start = 0; start <= text.size(); ++start) {
+    if (start > 0 && text[start - 1] == u'\r') continue;
+    pane().select(start, 0);
+    EXPECT_EQ(pane().selStart(), start);
+    EXPECT_EQ(pane().selLength(), 0U);
+  }
+}
+
+TEST_F(RichTextBoxTest, ASelectionAcrossLinesKeepsTheirEnds) {
+  opened<PaneForm>();
+  pane().setText(u"one\r\ntwo\r\nthree");
+  pane().select(2, 9);
+  EXPECT_EQ(pane().selStart(), 2U);
+  EXPECT_EQ(pane().selLength(), 9U);
+  EXPECT_EQ(pane().selText(), u"e\r\ntwo\r\nt");
+}
+
+TEST_F(RichTextBoxTest, ASelectionBeyondTheEndStopsThere) {
+  opened<PaneForm>();
+  pane().setText(u"word");
+  pane().select(2, 100);
+  EXPECT_EQ(pane().selText(), u"rd");
+  pane().select(100, 5);
+  EXPECT_EQ(pane().selText(), u"");
+}
+
+TEST_F(RichTextBoxTest, ANewTextHasNoSelectionAndTheDefaultColour) {
+  opened<PaneForm>();
+  pane().setText(u"first");
+  pane().select(0, 5);
+  pane().setSelColor(kRed);
+  pane().setText(u"second");
+  EXPECT_EQ(pane().selStart(), 0U);
+  EXPECT_EQ(pane().selLength(), 0U);
+  for (const COLORREF colour : colours()) EXPECT_NE(colour, kRed);
+}
+
+TEST_F(RichTextBoxTest, AHangingIndentLeavesTextAndSelectionAlone) {
+  opened<PaneForm>();
+  pane().setHangingIndent(180);
+  pane().setText(u"a\r\nb");
+  EXPECT_EQ(pane().text(), u"a\r\nb");
+  EXPECT_EQ(pane().selStart(), 0U);
+  EXPECT_EQ(pane().selLength(), 0U);
+  PARAFORMAT2 format{};
+  format.cbSize = sizeof format;
+  SendMessageW(pane().handle(), EM_GETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&format));
+  EXPECT_EQ(format.dxOffset, 180);
+}
+
+TEST_F(RichTextBoxTest, IsReadOnly) {
+  opened<PaneForm>();
+  pane().setText(u"word");
+  pane().setFocus();
+  pane().select(0, 4);
+  input::type(L"x");
+  input::key(VK_DELETE);
+  input::key(VK_BACK);
+  input::key('X', {VK_CONTROL});
+  passTime(60);
+  EXPECT_EQ(pane().text(), u"word");
+}
+
+TEST_F(RichTextBoxTest, TabLeavesIt) {
+  PaneForm& form = opened<PaneForm>();
+  pane().setFocus();
+  input::key(VK_TAB);
+  EXPECT_TRUE(eventually([&] { return GetFocus() == form.first.handle(); }));
+  input::key(VK_TAB, {VK_SHIFT});
+  EXPECT_TRUE(eventually([&] { return GetFocus() == pane().handle(); }));
+}
+
+TEST_F(RichTextBoxTest, CtrlASelectsAll) {
+  opened<PaneForm>();
+  pane().setText(u"one\r\ntwo");
+  pane().setFocus();
+  input::key('A', {VK_CONTROL});
+  EXPECT_TRUE(eventually([] { return pane().selText() == u"one\r\ntwo"; }));
+}
+
+TEST_F(RichTextBoxTest, TheRightButtonAndTheMenuKeyRaiseTheirEvent) {
+  opened<PaneForm>();
+  int raised = 0;
+  pane().onRightMouseUp = [&](forms::Place) { ++raised; };
+  input::rightClick(centreOf(pane()));
+  ASSERT_TRUE(eventually([&] { return raised == 1; }));
+  pane().setFocus();
+  input::key(VK_F10, {VK_SHIFT});
+  EXPECT_TRUE(eventually([&] { return raised == 2; }));
+  EXPECT_TRUE(allAlong([&] { return raised == 2; }, 40));
+}
+
+TEST_F(RichTextBoxTest, HoldsItsRepaintAndThenShowsWhatChanged) {
+  opened<PaneForm>();
+  {
+    const forms::RichTextBox::RepaintHeld held(pane());
+    pane().setText(u"quiet");
+  }
+  EXPECT_TRUE(GetUpdateRect(pane().handle(), nullptr, FALSE));
+  forms::doEvents();
+  EXPECT_EQ(pane().text(), u"quiet");
+}
+
+}  // namespace
+}  // namespace wintest

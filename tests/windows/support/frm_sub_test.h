@@ -1,0 +1,85 @@
+#pragma once
+
+#include <array>
+
+#include "app/state.h"
+#include "capture/frm_screen_word.h"
+#include "lookup/frm_sub.h"
+#include "tests/program/harness/controls.h"
+#include "tests/program/harness/settings.h"
+#include "tests/windows/support/dictionary.h"
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+
+/// The quick lookup window over the made-up dictionary, without stored sizes.
+class FrmSubTest : public WindowTest {
+ protected:
+  FrmSubTest() {
+    useDictionary();
+    harness::settings::clear();
+  }
+  ~FrmSubTest() override { harness::settings::clear(); }
+
+  static frmSub& sub() { return forms::single<frmSub>(); }
+
+  /// Shows it and waits until its input box has the focus.
+  frmSub& open() {
+    frmSub& form = opened<frmSub>();
+    EXPECT_TRUE(eventually([&] { return GetFocus() == form.txtInput.handle(); }));
+    return form;
+  }
+
+  /// What the list shows.
+  static std::vector<std::u16string> list() {
+    std::vector<std::u16string> texts;
+    for (const std::wstring& text : harness::treeTexts(sub().TreeView1.handle())) {
+      texts.emplace_back(text.begin(), text.end());
+    }
+    return texts;
+  }
+
+  /// The words that the list is to show for `word`, within the window's present bounds.
+  static std::vector<std::u16string> expectedList(std::u16string_view word) {
+    const bool chinese = word.front() >= 256;
+    auto side = chinese ? &support::SampleDictionary::Pair::chinese
+                        : &support::SampleDictionary::Pair::english;
+    const auto rows = sampleDictionary().ordered(side);
+    const auto [lower, upper] = sub().bounds();
+    std::vector<std::u16string> words;
+    for (int row = std::max(lower, 1); row <= upper && row <= static_cast<int>(rows.size());
+         ++row) {
+      const std::u16string& candidate = rows[static_cast<std::size_t>(row) - 1].*side;
+      const bool listed = !words.empty() && text::compare(words.back(), candidate) == 0;
+      if (!listed && text::compare(candidate, word) >= 0 && words.size() < 75) {
+        words.push_back(candidate);
+      }
+    }
+    return words;
+  }
+
+  /// The pane's text for an English word of the dictionary.
+  static std::u16string meaningOf(const std::u16string& english) {
+    std::u16string text;
+    for (const auto& pair : sampleDictionary().ordered(&support::SampleDictionary::Pair::chinese)) {
+      if (text::compare(pair.english, english) != 0) continue;
+      text += text.empty() ? u" " + english + u"\r\n " : std::u16string(u"；\r\n ");
+      text += pair.chinese;
+    }
+    return text;
+  }
+
+  static bool captureRuns() {
+    const auto& host = forms::single<frmScreenWord>();
+    EXPECT_EQ(host.Timer1.enabled(), host.timScreenWord1.enabled());
+    EXPECT_EQ(host.Timer1.enabled(), host.timScreenWord2.enabled());
+    return host.Timer1.enabled();
+  }
+
+  /// The middle of a list entry, counted from 1, on the screen.
+  static POINT nodePoint(int number) {
+    return centreOf(harness::treeNodeRect(sub().TreeView1.handle(), number - 1).value_or(RECT{}));
+  }
+};
+
+}  // namespace wintest
