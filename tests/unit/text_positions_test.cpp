@@ -1,0 +1,73 @@
+#include "forms/text_positions.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+
+namespace {
+
+using forms::controlPosition;
+using forms::textPosition;
+
+TEST(TextPositions, AreTheSameWithoutLineEnds) {
+  for (std::size_t at = 0; at <= 4; ++at) {
+    EXPECT_EQ(controlPosition(u"word", at), at);
+    EXPECT_EQ(textPosition(u"word", at), at);
+  }
+  EXPECT_EQ(controlPosition(u"", 0), 0U);
+  EXPECT_EQ(textPosition(u"", 0), 0U);
+}
+
+TEST(TextPositions, ALineEndCountsTwiceInTheTextAndOnceInTheControl) {
+  constexpr std::u16string_view kText = u" bit\r\n 位；\r\n 比特";
+  EXPECT_EQ(controlPosition(kText, 4), 4U);
+  EXPECT_EQ(controlPosition(kText, 6), 5U);
+  EXPECT_EQ(controlPosition(kText, 11), 9U);
+  EXPECT_EQ(controlPosition(kText, kText.size()), kText.size() - 2);
+  EXPECT_EQ(textPosition(kText, 4), 4U);
+  EXPECT_EQ(textPosition(kText, 5), 6U);
+  EXPECT_EQ(textPosition(kText, 9), 11U);
+  EXPECT_EQ(textPosition(kText, kText.size() - 2), kText.size());
+}
+
+TEST(TextPositions, BetweenTheTwoHalvesIsBeforeThePair) {
+  EXPECT_EQ(controlPosition(u"ab\r\ncd", 3), 2U);
+  EXPECT_EQ(controlPosition(u"\r\n\r\n", 3), 1U);
+}
+
+TEST(TextPositions, BehindTheEndIsTheEnd) {
+  EXPECT_EQ(controlPosition(u"ab\r\n", 99), 3U);
+  EXPECT_EQ(textPosition(u"ab\r\n", 99), 4U);
+}
+
+TEST(TextPositions, OnlyPairsAreLineEnds) {
+  EXPECT_EQ(controlPosition(u"a\rb\nc", 5), 5U);
+  EXPECT_EQ(controlPosition(u"\n\r", 2), 2U);
+  EXPECT_EQ(controlPosition(u"\r\r\n", 3), 2U);
+  EXPECT_EQ(textPosition(u"\r\r\n", 2), 3U);
+  EXPECT_EQ(controlPosition(u"a\r", 2), 2U);
+}
+
+TEST(TextPositions, GoThereAndBackInAnyText) {
+  std::mt19937 random(7);
+  for (int run = 0; run < 500; ++run) {
+    std::u16string text;
+    for (std::size_t length = random() % 40; length > 0; --length) {
+      text += std::u16string_view(u"a词\r\n")[random() % 4];
+    }
+    std::size_t last = 0;
+    for (std::size_t at = 0; at <= text.size(); ++at) {
+      const std::size_t inControl = controlPosition(text, at);
+      EXPECT_GE(inControl, last);
+      EXPECT_LE(inControl, last + 1);
+      last = inControl;
+      const bool inPair = at > 0 && at < text.size() && text[at - 1] == u'\r' && text[at] == u'\n';
+      if (!inPair) {
+        EXPECT_EQ(textPosition(text, inControl), at);
+      }
+    }
+  }
+}
+
+}  // namespace
