@@ -35,6 +35,8 @@ class Translator {
 
   Query translate() {
     if (at(0).isWord("select")) translateSelect();
+    // Behind all else that may come in at the end of the statement.
+    if (query_.top) edits_.push_back({statementEnd(), 0, " limit " + std::to_string(*query_.top)});
     query_.sql = edited(edits_);
     return std::move(query_);
   }
@@ -75,7 +77,7 @@ class Translator {
     query_.sqlWithRowid = edited(std::move(edits));
   }
 
-  /// Turns "top n" at `i` into a limit at the end of the statement.
+  /// Takes "top n" at `i` out.
   bool takeTop(std::size_t i) {
     if (!at(i).isWord("top") || at(i + 1).kind != TokenKind::kNumber) return false;
     const std::string_view digits = at(i + 1).text;
@@ -85,7 +87,6 @@ class Translator {
     query_.top = count;
     const std::size_t start = startOf(at(i));
     edits_.push_back({start, endOf(at(i + 1)) - start, ""});
-    edits_.push_back({statementEnd(), 0, " limit " + std::string(digits)});
     return true;
   }
 

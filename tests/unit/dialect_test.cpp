@@ -95,6 +95,15 @@ TEST(Dialect, AddsTheRangeOfALikePattern) {
             "word<'heau' collate lexilo) and meaning like '%x%'");
 }
 
+TEST(Dialect, LimitsBehindTheRangeOfALikePattern) {
+  EXPECT_EQ(sqlOf("select top 5 word from med where word like 'a%'"),
+            "select  word from med where (word like 'a%' and word>='a' collate lexilo and "
+            "word<'b' collate lexilo) limit 5");
+  EXPECT_EQ(sqlOf("select top 5 word from med where word like 'a%' --' and 1"),
+            "select  word from med where (word like 'a%' and word>='a' collate lexilo and "
+            "word<'b' collate lexilo) limit 5 --' and 1");
+}
+
 TEST(Dialect, LeavesOtherLikesAlone) {
   for (const char* sql :
        {"select * from t where word like '%a%'", "select * from t where word like '热%'",

@@ -154,6 +154,7 @@ TEST_F(RecordSetTest, StopsAtTheTopOfAQueryWhateverItsTextHolds) {
                 .recordCount(),
             2U);
   EXPECT_EQ(rows("select top 75 word from long").recordCount(), 75U);
+  EXPECT_EQ(rows("select top 75 word from long where word like 'w%'").recordCount(), 75U);
 }
 
 TEST_F(RecordSetTest, GoesToTheLastRowOfMany) {
