@@ -1,14 +1,18 @@
 #include "dictionary/block_choice.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <numeric>
 #include <span>
+#include <string>
 #include <string_view>
 #include <tuple>
 
 #include "dictionary/block_cuts.h"
 #include "dictionary/failure.h"
+#include "dictionary/row_exchange.h"
 #include "text/order.h"
 
 namespace dictionary {
@@ -16,26 +20,18 @@ namespace {
 
 using PairIndex = std::uint32_t;
 
-/// Leaves all but the `limit` most valuable of the pairs out.
-void keepBest(const std::vector<Pair>& pairs, std::vector<PairIndex>& group, std::size_t limit,
-              std::vector<bool>& kept) {
-  if (group.size() <= limit) return;
-  std::ranges::sort(group, {}, [&](PairIndex index) {
-    return std::tuple(pairs[index].tier, pairs[index].position, index);
-  });
-  for (const PairIndex index : std::span(group).subspan(limit)) kept[index] = false;
-}
+constexpr Tier kLastTier = static_cast<Tier>(kTierCount - 1);
 
-void limitChineseRows(const Vocabulary& vocabulary, std::size_t limit, std::vector<bool>& kept) {
-  std::vector<std::size_t> rows(vocabulary.chinese.size());
-  for (const Pair& pair : vocabulary.pairs) ++rows[pair.chinese];
-  std::vector<std::vector<PairIndex>> groups(vocabulary.chinese.size());
-  for (PairIndex i = 0; i < vocabulary.pairs.size(); ++i) {
-    const std::uint32_t chinese = vocabulary.pairs[i].chinese;
-    if (rows[chinese] > limit) groups[chinese].push_back(i);
+/// The pairs in one language's order, and where its units begin in that order.
+struct Sequence {
+  std::vector<PairIndex> order;
+  std::vector<std::size_t> unitBegins;  ///< and the end of the last
+
+  [[nodiscard]] std::span<const PairIndex> unit(std::size_t index) const {
+    return std::span(order).subspan(unitBegins[index], unitBegins[index + 1] - unitBegins[index]);
   }
-  for (std::vector<PairIndex>& group : groups) keepBest(vocabulary.pairs, group, limit, kept);
-}
+  [[nodiscard]] std::size_t unitCount() const { return unitBegins.size() - 1; }
+};
 
 /// Whether two headwords that follow each other must stay in one block. The bound step searches
 /// with every apostrophe doubled, which sorts before all words that are the same up to the first.
@@ -45,69 +41,164 @@ bool sharesApostrophe(std::u16string_view a, std::u16string_view b) {
          text::equal(a.substr(0, apostrophe + 1), b.substr(0, apostrophe + 1));
 }
 
-/// First pair of each unit, and the end of the last.
-std::vector<PairIndex> unitBegins(const Vocabulary& vocabulary) {
-  std::vector<PairIndex> begins;
+Sequence englishSequence(const Vocabulary& vocabulary) {
   const std::vector<Pair>& pairs = vocabulary.pairs;
-  for (PairIndex i = 0; i < pairs.size(); ++i) {
+  Sequence sequence;
+  sequence.order.resize(pairs.size());
+  std::iota(sequence.order.begin(), sequence.order.end(), 0U);
+  for (std::size_t i = 0; i < pairs.size(); ++i) {
     const bool together = i > 0 && (pairs[i].english == pairs[i - 1].english ||
                                     sharesApostrophe(vocabulary.english[pairs[i - 1].english],
                                                      vocabulary.english[pairs[i].english]));
-    if (!together) begins.push_back(i);
+    if (!together) sequence.unitBegins.push_back(i);
   }
-  begins.push_back(static_cast<PairIndex>(pairs.size()));
-  return begins;
+  sequence.unitBegins.push_back(pairs.size());
+  return sequence;
 }
 
-/// Kept pairs among those from `begin` to before `end`.
-std::vector<PairIndex> keptPairs(PairIndex begin, PairIndex end, const std::vector<bool>& kept) {
-  std::vector<PairIndex> group;
-  for (PairIndex i = begin; i < end; ++i) {
-    if (kept[i]) group.push_back(i);
+Sequence chineseSequence(const Vocabulary& vocabulary) {
+  const std::vector<Pair>& pairs = vocabulary.pairs;
+  Sequence sequence;
+  sequence.order.resize(pairs.size());
+  std::iota(sequence.order.begin(), sequence.order.end(), 0U);
+  std::ranges::sort(sequence.order, {},
+                    [&](PairIndex index) { return std::tuple(pairs[index].chinese, index); });
+  for (std::size_t i = 0; i < pairs.size(); ++i) {
+    if (i == 0 || pairs[sequence.order[i]].chinese != pairs[sequence.order[i - 1]].chinese) {
+      sequence.unitBegins.push_back(i);
+    }
   }
+  sequence.unitBegins.push_back(pairs.size());
+  return sequence;
+}
+
+/// One choice on its way.
+class Choice {
+ public:
+  Choice(const Vocabulary& vocabulary, const LookupLimits& limits)
+      : pairs_(vocabulary.pairs),
+        limits_(limits),
+        english_(englishSequence(vocabulary)),
+        chinese_(chineseSequence(vocabulary)),
+        barred_(pairs_.size()),
+        kept_(pairs_.size()) {}
+
+  std::vector<bool> run();
+
+ private:
+  void barBeyond(const Sequence& sequence, std::size_t limit);
+  std::vector<PairIndex> beyondBest(std::vector<PairIndex> group, std::size_t limit) const;
+  [[nodiscard]] Tier tierAtRow(std::size_t rows) const;
+  [[nodiscard]] StockBefore stockOf(const Sequence& sequence, Tier spare) const;
+  BlockPlan planOf(const Sequence& sequence, const std::vector<BlockCut>& cuts);
+
+  const std::vector<Pair>& pairs_;
+  LookupLimits limits_;
+  Sequence english_;
+  Sequence chinese_;
+  std::vector<bool> barred_;  ///< pairs that can have no row
+  std::vector<bool> kept_;
+};
+
+/// All but the `limit` most valuable pairs of a group.
+std::vector<PairIndex> Choice::beyondBest(std::vector<PairIndex> group, std::size_t limit) const {
+  if (group.size() <= limit) return {};
+  std::ranges::sort(group, {}, [&](PairIndex index) {
+    return std::tuple(pairs_[index].tier, pairs_[index].position, index);
+  });
+  group.erase(group.begin(), group.begin() + static_cast<std::ptrdiff_t>(limit));
   return group;
 }
 
-PrefixCounts prefixCounts(const std::vector<Pair>& pairs, const std::vector<PairIndex>& units,
-                          const std::vector<bool>& kept) {
-  PrefixCounts prefix = {TierCounts{}};
-  prefix.reserve(units.size());
-  for (std::size_t unit = 0; unit + 1 < units.size(); ++unit) {
-    TierCounts counts = prefix.back();
-    for (PairIndex i = units[unit]; i < units[unit + 1]; ++i) {
-      if (kept[i]) ++counts[static_cast<std::size_t>(pairs[i].tier)];
+/// Bars what any unit has beyond `limit` pairs.
+void Choice::barBeyond(const Sequence& sequence, std::size_t limit) {
+  for (std::size_t unit = 0; unit < sequence.unitCount(); ++unit) {
+    if (sequence.unit(unit).size() <= limit) continue;
+    std::vector<PairIndex> group;
+    for (const PairIndex index : sequence.unit(unit)) {
+      if (!barred_[index]) group.push_back(index);
     }
-    prefix.push_back(counts);
+    for (const PairIndex index : beyondBest(std::move(group), limit)) barred_[index] = true;
   }
-  return prefix;
+}
+
+/// Tier of the last row if the most valuable pairs of all took `rows` rows.
+Tier Choice::tierAtRow(std::size_t rows) const {
+  std::array<std::size_t, kTierCount> counts{};
+  for (std::size_t i = 0; i < pairs_.size(); ++i) {
+    if (!barred_[i]) ++counts[static_cast<std::size_t>(pairs_[i].tier)];
+  }
+  std::size_t tier = 0;
+  for (std::size_t taken = counts[0]; taken < rows && tier + 1 < kTierCount;) {
+    taken += counts[++tier];
+  }
+  return static_cast<Tier>(tier);
+}
+
+/// What stands before each unit: pairs above the tier `spare` are wanted, those below in reserve.
+StockBefore Choice::stockOf(const Sequence& sequence, Tier spare) const {
+  StockBefore stock = {PairStock()};
+  stock.reserve(sequence.unitBegins.size());
+  for (std::size_t unit = 0; unit < sequence.unitCount(); ++unit) {
+    PairStock before = stock.back();
+    for (const PairIndex index : sequence.unit(unit)) {
+      if (barred_[index]) continue;
+      const Tier tier = pairs_[index].tier;
+      ++(tier < spare ? before.wanted : tier == spare ? before.spare : before.reserve);
+    }
+    stock.push_back(before);
+  }
+  return stock;
+}
+
+/// The blocks between the cuts; what is kept beyond their rows goes.
+BlockPlan Choice::planOf(const Sequence& sequence, const std::vector<BlockCut>& cuts) {
+  BlockPlan plan;
+  plan.blockOf.resize(pairs_.size());
+  for (std::size_t block = 0; block + 1 < cuts.size(); ++block) {
+    const std::size_t rows = cuts[block + 1].rows - cuts[block].rows;
+    plan.rows.push_back(static_cast<std::uint32_t>(rows));
+    std::vector<PairIndex> group;
+    for (std::size_t unit = cuts[block].unit; unit < cuts[block + 1].unit; ++unit) {
+      for (const PairIndex index : sequence.unit(unit)) {
+        plan.blockOf[index] = static_cast<std::uint32_t>(block);
+        if (kept_[index]) group.push_back(index);
+      }
+    }
+    for (const PairIndex index : beyondBest(std::move(group), rows)) kept_[index] = false;
+  }
+  return plan;
+}
+
+std::vector<bool> Choice::run() {
+  barBeyond(chinese_, limits_.maxChineseRows);
+  barBeyond(english_, limits_.blockRows);
+  const std::size_t blocks = std::min(mostBlocks(stockOf(english_, kLastTier), limits_.blockRows),
+                                      limits_.maxRows / limits_.blockRows);
+  if (blocks == 0) {
+    throw Failure("the source has not enough pairs of words to fill one block of " +
+                  std::to_string(limits_.blockRows) + " rows");
+  }
+  const Tier spare = tierAtRow(blocks * limits_.blockRows);
+  for (std::size_t i = 0; i < pairs_.size(); ++i) kept_[i] = !barred_[i] && pairs_[i].tier < spare;
+  const BlockPlan english =
+      planOf(english_, chooseCuts(stockOf(english_, spare), blocks, limits_.blockRows));
+  const BlockPlan chinese =
+      planOf(chinese_, chooseCutsJoining(stockOf(chinese_, spare), blocks, limits_.blockRows));
+
+  RowExchange exchange(pairs_, english, chinese, kept_);
+  exchange.run(spare, spare, barred_);
+  for (auto first = static_cast<std::uint8_t>(spare) + 1; first-- > 0 && !exchange.done();) {
+    exchange.run(static_cast<Tier>(first), kLastTier, barred_);
+  }
+  exchange.fillEnglish(barred_);
+  return kept_;
 }
 
 }  // namespace
 
 std::vector<bool> choosePairs(const Vocabulary& vocabulary, const LookupLimits& limits) {
-  const std::vector<Pair>& pairs = vocabulary.pairs;
-  std::vector<bool> kept(pairs.size(), true);
-  limitChineseRows(vocabulary, limits.maxChineseRows, kept);
-
-  const std::vector<PairIndex> units = unitBegins(vocabulary);
-  for (std::size_t unit = 0; unit + 1 < units.size(); ++unit) {
-    std::vector<PairIndex> group = keptPairs(units[unit], units[unit + 1], kept);
-    keepBest(pairs, group, limits.blockRows, kept);
-  }
-
-  const PrefixCounts prefix = prefixCounts(pairs, units, kept);
-  const std::size_t blocks =
-      std::min(mostBlocks(prefix, limits.blockRows), limits.maxRows / limits.blockRows);
-  if (blocks == 0) {
-    throw Failure("the source has not enough pairs of words to fill one block of " +
-                  std::to_string(limits.blockRows) + " rows");
-  }
-  const std::vector<std::size_t> cuts = chooseCuts(prefix, blocks, limits.blockRows);
-  for (std::size_t block = 0; block + 1 < cuts.size(); ++block) {
-    std::vector<PairIndex> group = keptPairs(units[cuts[block]], units[cuts[block + 1]], kept);
-    keepBest(pairs, group, limits.blockRows, kept);
-  }
-  return kept;
+  return Choice(vocabulary, limits).run();
 }
 
 }  // namespace dictionary

@@ -1,148 +1,172 @@
 #include "dictionary/block_cuts.h"
 
 #include <algorithm>
-#include <functional>
 #include <limits>
-#include <numeric>
+#include <optional>
 
 namespace dictionary {
 namespace {
-
-/// What leaving out one pair of each tier costs, relative to the others.
-constexpr std::array<std::uint64_t, kTierCount> kLoss = {1000, 600, 400, 150, 60, 40,
-                                                         30,   30,  8,   4,   1};
 
 constexpr std::uint64_t kImpossible = std::numeric_limits<std::uint64_t>::max();
 
 /// How far from its natural place a cut is looked for, in rows; widened where that is not enough.
 constexpr std::size_t kReach = 40;
 
-/// The rows before each unit if the most valuable pairs of all were taken, as multiples of
-/// 1 / `denominator`, so that no rounding is needed.
-struct NaturalRows {
-  std::vector<std::uint64_t> before;
-  std::uint64_t denominator = 1;
+/// The unit of losses: a block that uses one spare pair more or less than its share.
+constexpr std::int64_t kUnit = 1024;
+/// Losses of a wanted pair given up, a reserve pair used, a cut left out.
+constexpr std::uint64_t kWantedLoss = 50 * kUnit;
+constexpr std::uint64_t kReserveLoss = 10 * kUnit;
+constexpr std::uint64_t kJoinLoss = 400 * kUnit;
+
+std::uint64_t total(const PairStock& stock) { return stock.wanted + stock.spare + stock.reserve; }
+
+/// The task: the sequence, the rows of a block, and the share of the spare pairs that is needed.
+class CutSearch {
+ public:
+  CutSearch(const StockBefore& stock, std::size_t blocks, std::size_t blockRows,
+            std::size_t mostJoined)
+      : stock_(stock), blocks_(blocks), blockRows_(blockRows), mostJoined_(mostJoined) {
+    const PairStock& all = stock.back();
+    const std::uint64_t rows = blocks * blockRows;
+    spare_ = std::max<std::uint64_t>(all.spare, 1);
+    needed_ = std::min(rows > all.wanted ? rows - all.wanted : 0, spare_);
+  }
+
+  /// The best cuts, each at most `reach` rows from its natural place; nothing if there are none.
+  std::vector<BlockCut> run(std::size_t reach);
+
+ private:
+  /// Places where one cut may be: before units first .. first + loss.size() - 1, with the least
+  /// loss of all blocks before it and the place of the cut before that gives it.
+  struct Places {
+    std::size_t first = 0;
+    std::vector<std::uint64_t> loss;
+    std::vector<std::uint32_t> previous;
+    std::vector<std::uint8_t> joined;
+  };
+
+  [[nodiscard]] std::uint64_t naturalRows(const PairStock& before) const {
+    return before.wanted * spare_ + before.spare * needed_;
+  }
+  [[nodiscard]] Places placesAround(std::uint64_t row, std::size_t reach) const;
+  [[nodiscard]] std::uint64_t blockLoss(std::size_t first, std::size_t last,
+                                        std::size_t joined) const;
+  void extend(const Places& from, Places& to, std::size_t joined) const;
+  [[nodiscard]] std::vector<BlockCut> trace(const std::vector<Places>& cuts) const;
+
+  const StockBefore& stock_;
+  std::size_t blocks_;
+  std::size_t blockRows_;
+  std::size_t mostJoined_;
+  std::uint64_t needed_ = 0;  ///< of the spare pairs
+  std::uint64_t spare_ = 1;
 };
 
-NaturalRows naturalRows(const PrefixCounts& prefix, std::uint64_t rows) {
-  const TierCounts& all = prefix.back();
-  std::size_t partly = 0;
-  std::uint64_t left = rows;
-  while (partly + 1 < kTierCount && all[partly] <= left) left -= all[partly++];
-  NaturalRows natural;
-  natural.denominator = std::max<std::uint64_t>(all[partly], 1);
-  natural.before.reserve(prefix.size());
-  for (const TierCounts& counts : prefix) {
-    const std::uint64_t whole = std::accumulate(
-        counts.begin(), counts.begin() + static_cast<std::ptrdiff_t>(partly), std::uint64_t{0});
-    natural.before.push_back(whole * natural.denominator + left * counts[partly]);
-  }
-  return natural;
-}
-
-/// Loss of the block of the units from `first` to before `last`.
-std::uint64_t blockLoss(const TierCounts& first, const TierCounts& last, std::size_t blockRows) {
-  std::uint64_t surplus = 0;
-  for (std::size_t tier = 0; tier < kTierCount; ++tier) surplus += last[tier] - first[tier];
-  if (surplus < blockRows) return kImpossible;
-  surplus -= blockRows;
-  std::uint64_t loss = 0;
-  for (std::size_t tier = kTierCount; tier-- > 0 && surplus > 0;) {
-    const std::uint64_t dropped = std::min<std::uint64_t>(surplus, last[tier] - first[tier]);
-    loss += dropped * kLoss[tier];
-    surplus -= dropped;
-  }
-  return loss;
-}
-
-/// Places where one cut may be: units first .. first + loss.size() - 1, the least loss of all
-/// blocks before each, and the place of the cut before that gives it.
-struct CutPlaces {
-  std::size_t first = 0;
-  std::vector<std::uint64_t> loss;
-  std::vector<std::uint32_t> previous;
-};
-
-CutPlaces placesAround(const NaturalRows& natural, std::uint64_t row, std::size_t reach) {
-  const std::uint64_t low = row > reach ? (row - reach) * natural.denominator : 0;
-  const std::uint64_t high = (row + reach) * natural.denominator;
-  const auto begin = natural.before.begin();
-  const auto lowest = std::lower_bound(begin, natural.before.end(), low) - begin;
-  const auto highest = std::upper_bound(begin, natural.before.end(), high) - begin;
-  CutPlaces places;
+/// Units before which about `row` rows lie if every unit uses the same share of its spare pairs.
+CutSearch::Places CutSearch::placesAround(std::uint64_t row, std::size_t reach) const {
+  const auto rowsBefore = [this](const PairStock& before) { return naturalRows(before); };
+  const std::uint64_t low = row > reach ? (row - reach) * spare_ : 0;
+  const std::uint64_t high = (row + reach) * spare_;
+  const auto begin = stock_.begin();
+  const auto lowest = std::ranges::lower_bound(stock_, low, {}, rowsBefore) - begin;
+  const auto highest = std::ranges::upper_bound(stock_, high, {}, rowsBefore) - begin;
+  Places places;
   places.first = static_cast<std::size_t>(std::max<std::ptrdiff_t>(lowest - 1, 0));
-  const auto last = std::min(static_cast<std::size_t>(highest), natural.before.size() - 1);
-  places.loss.assign(last + 1 - places.first, kImpossible);
-  places.previous.assign(places.loss.size(), 0);
+  const auto last = std::min(static_cast<std::size_t>(highest), stock_.size() - 1);
+  const std::size_t count = last + 1 - places.first;
+  places.loss.assign(count, kImpossible);
+  places.previous.assign(count, 0);
+  places.joined.assign(count, 0);
   return places;
 }
 
-/// Finds the least loss for every place of a cut from those of the cut before.
-void extend(const PrefixCounts& prefix, const CutPlaces& from, CutPlaces& to,
-            std::size_t blockRows) {
+std::uint64_t CutSearch::blockLoss(std::size_t first, std::size_t last, std::size_t joined) const {
+  const PairStock& before = stock_[first];
+  const PairStock& behind = stock_[last];
+  const std::uint64_t rows = joined * blockRows_;
+  const std::uint64_t wanted = behind.wanted - before.wanted;
+  const std::uint64_t spare = behind.spare - before.spare;
+  if (total(behind) - total(before) < rows) return kImpossible;
+  std::uint64_t loss = (joined - 1) * kJoinLoss;
+  if (wanted > rows) loss += (wanted - rows) * kWantedLoss;
+  const std::uint64_t open = wanted < rows ? rows - wanted : 0;
+  if (open > spare) loss += (open - spare) * kReserveLoss;
+  const auto used = static_cast<std::int64_t>(std::min(open, spare));
+  const auto share = static_cast<std::int64_t>(spare * needed_ * kUnit / spare_);
+  const std::int64_t deviation = used * kUnit - share;
+  return loss + static_cast<std::uint64_t>(deviation * deviation / kUnit);
+}
+
+void CutSearch::extend(const Places& from, Places& to, std::size_t joined) const {
   for (std::size_t t = 0; t < to.loss.size(); ++t) {
     const std::size_t last = to.first + t;
     if (last <= from.first) continue;
-    // The further the block reaches back, the greater its loss: what is worse than the best so far
-    // only gets worse.
-    for (std::size_t f = std::min(from.loss.size(), last - from.first); f-- > 0;) {
-      if (from.loss[f] == kImpossible) continue;
-      const std::uint64_t loss = blockLoss(prefix[from.first + f], prefix[last], blockRows);
-      if (loss == kImpossible) continue;
-      if (loss >= to.loss[t]) break;
-      if (from.loss[f] >= to.loss[t] - loss) continue;
+    const std::size_t count = std::min(from.loss.size(), last - from.first);
+    for (std::size_t f = 0; f < count; ++f) {
+      if (from.loss[f] >= to.loss[t]) continue;
+      const std::uint64_t loss = blockLoss(from.first + f, last, joined);
+      if (loss == kImpossible || from.loss[f] + loss >= to.loss[t]) continue;
       to.loss[t] = from.loss[f] + loss;
       to.previous[t] = static_cast<std::uint32_t>(f);
+      to.joined[t] = static_cast<std::uint8_t>(joined);
     }
   }
 }
 
-std::vector<std::size_t> tryCuts(const PrefixCounts& prefix, std::size_t blocks,
-                                 std::size_t blockRows, std::size_t reach) {
-  const NaturalRows natural = naturalRows(prefix, std::uint64_t{blocks} * blockRows);
-  std::vector<CutPlaces> cuts;
-  cuts.push_back({0, {0}, {0}});
-  for (std::size_t i = 1; i < blocks; ++i) {
-    cuts.push_back(placesAround(natural, std::uint64_t{i} * blockRows, reach));
-    extend(prefix, cuts[i - 1], cuts[i], blockRows);
-  }
-  cuts.push_back({prefix.size() - 1, {kImpossible}, {0}});
-  extend(prefix, cuts[blocks - 1], cuts[blocks], blockRows);
-  if (cuts[blocks].loss[0] == kImpossible) return {};
-
-  std::vector<std::size_t> chosen(blocks + 1);
+std::vector<BlockCut> CutSearch::trace(const std::vector<Places>& cuts) const {
+  std::vector<BlockCut> chosen;
   std::size_t place = 0;
-  for (std::size_t i = blocks + 1; i-- > 0;) {
-    chosen[i] = cuts[i].first + place;
+  for (std::size_t i = blocks_; i > 0;) {
+    chosen.push_back({cuts[i].first + place, i * blockRows_});
+    const std::size_t joined = cuts[i].joined[place];
     place = cuts[i].previous[place];
+    i -= joined;
   }
+  chosen.push_back({0, 0});
+  std::ranges::reverse(chosen);
   return chosen;
 }
 
-std::size_t pairsBetween(const TierCounts& first, const TierCounts& last) {
-  return std::transform_reduce(last.begin(), last.end(), first.begin(), std::size_t{0},
-                               std::plus<>(), std::minus<>());
+std::vector<BlockCut> CutSearch::run(std::size_t reach) {
+  std::vector<Places> cuts(blocks_ + 1);
+  cuts[0] = {0, {0}, {0}, {0}};
+  for (std::size_t i = 1; i <= blocks_; ++i) {
+    cuts[i] = placesAround(std::uint64_t{i} * blockRows_, reach);
+    if (i == blocks_) cuts[i] = {stock_.size() - 1, {kImpossible}, {0}, {0}};
+    for (std::size_t joined = 1; joined <= std::min(mostJoined_, i); ++joined) {
+      extend(cuts[i - joined], cuts[i], joined);
+    }
+  }
+  return cuts[blocks_].loss[0] == kImpossible ? std::vector<BlockCut>() : trace(cuts);
 }
 
 }  // namespace
 
-std::size_t mostBlocks(const PrefixCounts& prefix, std::size_t blockRows) {
+std::size_t mostBlocks(const StockBefore& stock, std::size_t blockRows) {
   std::size_t blocks = 0;
   std::size_t first = 0;
-  for (std::size_t unit = 1; unit < prefix.size(); ++unit) {
-    if (pairsBetween(prefix[first], prefix[unit]) < blockRows) continue;
+  for (std::size_t unit = 1; unit < stock.size(); ++unit) {
+    if (total(stock[unit]) - total(stock[first]) < blockRows) continue;
     ++blocks;
     first = unit;
   }
   return blocks;
 }
 
-std::vector<std::size_t> chooseCuts(const PrefixCounts& prefix, std::size_t blocks,
-                                    std::size_t blockRows) {
-  std::vector<std::size_t> cuts;
-  for (std::size_t reach = kReach; cuts.empty(); reach *= 4) {
-    cuts = tryCuts(prefix, blocks, blockRows, reach);
-  }
+std::vector<BlockCut> chooseCuts(const StockBefore& stock, std::size_t blocks,
+                                 std::size_t blockRows) {
+  CutSearch search(stock, blocks, blockRows, 1);
+  std::vector<BlockCut> cuts;
+  for (std::size_t reach = kReach; cuts.empty(); reach *= 4) cuts = search.run(reach);
+  return cuts;
+}
+
+std::vector<BlockCut> chooseCutsJoining(const StockBefore& stock, std::size_t blocks,
+                                        std::size_t blockRows) {
+  constexpr std::size_t kMostJoined = 3;
+  std::vector<BlockCut> cuts = CutSearch(stock, blocks, blockRows, kMostJoined).run(kReach);
+  if (cuts.empty()) cuts = {{0, 0}, {stock.size() - 1, blocks * blockRows}};
   return cuts;
 }
 

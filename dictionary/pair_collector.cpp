@@ -45,9 +45,9 @@ Tier tierOf(const Entry& entry, bool inflected, Kind kind, bool only, bool first
   }
   if (kind == Kind::kWeb) {
     if (!first) return Tier::kWeb;
-    return only ? Tier::kOnlyWeb : Tier::kWebFirst;
+    return only ? Tier::kOnly : Tier::kWebFirst;
   }
-  if (kind == Kind::kName) return first && only ? Tier::kOnlyName : Tier::kName;
+  if (kind == Kind::kName) return first && only ? Tier::kOnly : Tier::kName;
   if (entry.important) return first ? Tier::kImportantFirst : Tier::kImportant;
   if (inflected) return first ? Tier::kInflectedFirst : Tier::kInflected;
   return first ? Tier::kFirst : Tier::kOrdinary;

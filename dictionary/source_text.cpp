@@ -47,7 +47,7 @@ std::u16string foldBlanks(std::u16string_view text) {
 std::optional<std::u16string> headword(std::u16string_view word) {
   std::u16string folded = foldBlanks(word);
   const bool searchable = folded.size() <= kMaxHeadword && !folded.starts_with(u'?') &&
-                          std::ranges::all_of(folded, isHeadwordCharacter) &&
+                          !hasMarkup(folded) && std::ranges::all_of(folded, isHeadwordCharacter) &&
                           std::ranges::any_of(folded, [](char16_t unit) {
                             return isAsciiLetter(unit) || isDigit(unit);
                           });

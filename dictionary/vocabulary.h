@@ -15,14 +15,13 @@ enum class Tier : std::uint8_t {
   kOrdinary,        ///< its further ones
   kInflectedFirst,  ///< first equivalent of an inflected form
   kInflected,       ///< its further ones
-  kOnlyWeb,         ///< first web equivalent of a word that has nothing else
-  kOnlyName,        ///< first name for a word that has nothing else
+  kOnly,            ///< first equivalent of a word that has only names or web equivalents
   kWebFirst,        ///< first web equivalent of a word that has others
   kName,            ///< any other name
   kWeb,             ///< any other web equivalent
 };
 
-inline constexpr std::size_t kTierCount = 11;
+inline constexpr std::size_t kTierCount = 10;
 
 /// An English headword and a Chinese equivalent, as positions in the vocabulary's lists.
 struct Pair {

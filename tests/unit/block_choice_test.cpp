@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <map>
+#include <numeric>
 #include <random>
 #include <string>
 #include <vector>
@@ -31,7 +32,7 @@ std::u16string numbered(std::u16string_view stem, std::size_t number) {
   return std::u16string(stem) + std::u16string(digits.begin() + 1, digits.end());
 }
 
-/// Every pair has a Chinese headword of its own.
+/// Every pair has a Chinese headword of its own, in another order than the English ones.
 Vocabulary vocabularyOf(std::vector<Word> words) {
   std::ranges::sort(words,
                     [](const Word& a, const Word& b) { return text::compare(a.text, b.text) < 0; });
@@ -45,6 +46,12 @@ Vocabulary vocabularyOf(std::vector<Word> words) {
                                   word.tier,
                                   static_cast<std::uint8_t>(std::min<std::size_t>(i, 255))});
     }
+  }
+  const std::size_t count = vocabulary.pairs.size();
+  std::size_t step = 7919;
+  while (count > 0 && std::gcd(step, count) != 1) ++step;
+  for (Pair& pair : vocabulary.pairs) {
+    pair.chinese = static_cast<std::uint32_t>(pair.chinese * step % count);
   }
   return vocabulary;
 }
@@ -211,6 +218,36 @@ TEST(ChoosePairs, LimitsTheRowsOfAChineseHeadword) {
   }
   EXPECT_LE(rows, 201U);
   expectWholeBlocks(vocabulary, kept);
+}
+
+TEST(ChoosePairs, EndsChineseHeadwordsWhereListsEnd) {
+  // 4,000 pairs that must stay and 1,000 that may, of 1,500 Chinese headwords in another order.
+  std::mt19937 random(7);
+  std::vector<Word> words = singles(2500);
+  for (Word& word : words) word.pairs = 2;
+  Vocabulary vocabulary = vocabularyOf(words);
+  for (Pair& pair : vocabulary.pairs) {
+    pair.chinese = static_cast<std::uint32_t>(random() % 1500);
+    pair.tier = random() % 5 == 0 ? Tier::kWeb : Tier::kFirst;
+  }
+  LookupLimits limits;
+  limits.maxRows = 4500;
+  const std::vector<bool> kept = choosePairs(vocabulary, limits);
+  expectWholeBlocks(vocabulary, kept);
+
+  std::vector<std::uint32_t> chinese;
+  for (std::size_t i = 0; i < kept.size(); ++i) {
+    if (kept[i]) {
+      chinese.push_back(vocabulary.pairs[i].chinese);
+    } else {
+      EXPECT_EQ(vocabulary.pairs[i].tier, Tier::kWeb);
+    }
+  }
+  std::ranges::sort(chinese);
+  ASSERT_EQ(chinese.size(), 4500U);
+  for (std::size_t row = 100; row < chinese.size(); row += 100) {
+    EXPECT_NE(chinese[row - 1], chinese[row]) << row;
+  }
 }
 
 TEST(ChoosePairs, HoldsForAnyMixtureOfGroups) {

@@ -86,9 +86,9 @@ TEST(PairCollector, RatesPairs) {
   EXPECT_EQ(tierOf(vocabulary, u"顶板"), Tier::kOrdinary);
   EXPECT_EQ(tierOf(vocabulary, u"苹果"), Tier::kInflectedFirst);
   EXPECT_EQ(tierOf(vocabulary, u"苹果树"), Tier::kInflected);
-  EXPECT_EQ(tierOf(vocabulary, u"瑞克洋"), Tier::kOnlyWeb);
+  EXPECT_EQ(tierOf(vocabulary, u"瑞克洋"), Tier::kOnly);
   EXPECT_EQ(tierOf(vocabulary, u"古洋"), Tier::kWeb);
-  EXPECT_EQ(tierOf(vocabulary, u"巴蒂"), Tier::kOnlyName);
+  EXPECT_EQ(tierOf(vocabulary, u"巴蒂"), Tier::kOnly);
   EXPECT_EQ(tierOf(vocabulary, u"巴提"), Tier::kName);
 }
 

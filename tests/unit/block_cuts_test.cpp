@@ -1,0 +1,102 @@
+#include "dictionary/block_cuts.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <vector>
+
+namespace {
+
+using dictionary::BlockCut;
+using dictionary::chooseCuts;
+using dictionary::chooseCutsJoining;
+using dictionary::mostBlocks;
+using dictionary::PairStock;
+using dictionary::StockBefore;
+
+StockBefore stockOf(const std::vector<PairStock>& units) {
+  StockBefore stock = {PairStock()};
+  for (const PairStock& unit : units) {
+    const PairStock& before = stock.back();
+    stock.push_back(
+        {before.wanted + unit.wanted, before.spare + unit.spare, before.reserve + unit.reserve});
+  }
+  return stock;
+}
+
+StockBefore wanted(const std::vector<std::size_t>& sizes) {
+  std::vector<PairStock> units;
+  for (const std::size_t size : sizes) units.push_back({size, 0, 0});
+  return stockOf(units);
+}
+
+std::vector<std::size_t> unitsOf(const std::vector<BlockCut>& cuts) {
+  std::vector<std::size_t> units;
+  for (const BlockCut& cut : cuts) units.push_back(cut.unit);
+  return units;
+}
+
+std::vector<std::size_t> rowsOf(const std::vector<BlockCut>& cuts) {
+  std::vector<std::size_t> rows;
+  for (const BlockCut& cut : cuts) rows.push_back(cut.rows);
+  return rows;
+}
+
+TEST(MostBlocks, CountsRunsOfWholeUnits) {
+  EXPECT_EQ(mostBlocks(wanted({}), 10), 0U);
+  EXPECT_EQ(mostBlocks(wanted({9}), 10), 0U);
+  EXPECT_EQ(mostBlocks(wanted({5, 5, 5, 5}), 10), 2U);
+  EXPECT_EQ(mostBlocks(wanted({9, 9, 9, 9}), 10), 2U);
+  EXPECT_EQ(mostBlocks(stockOf({{3, 3, 3}, {0, 0, 1}}), 10), 1U);
+}
+
+TEST(ChooseCuts, DividesEvenlyWhereUnitsAllowIt) {
+  const std::vector<BlockCut> cuts = chooseCuts(wanted(std::vector<std::size_t>(40, 1)), 4, 10);
+  EXPECT_EQ(unitsOf(cuts), (std::vector<std::size_t>{0, 10, 20, 30, 40}));
+  EXPECT_EQ(rowsOf(cuts), (std::vector<std::size_t>{0, 10, 20, 30, 40}));
+}
+
+TEST(ChooseCuts, GivesUpAsFewWantedPairsAsPossible) {
+  // Cut behind the third unit, nothing is given up; behind the second, eight pairs would be
+  // missing.
+  EXPECT_EQ(unitsOf(chooseCuts(wanted({1, 1, 8, 5, 5, 1}), 2, 10)),
+            (std::vector<std::size_t>{0, 3, 6}));
+}
+
+TEST(ChooseCuts, SharesTheSparePairsOut) {
+  std::vector<PairStock> units;
+  for (int i = 0; i < 100; ++i) units.push_back({1, i % 2 == 0 ? 1U : 0U, 0});
+  const std::vector<BlockCut> cuts = chooseCuts(stockOf(units), 12, 10);
+  for (std::size_t i = 0; i + 1 < cuts.size(); ++i) {
+    const std::size_t taken = cuts[i + 1].unit - cuts[i].unit;
+    EXPECT_GE(taken, 7U);
+    EXPECT_LE(taken, 9U);
+  }
+}
+
+TEST(ChooseCuts, FindsTheOnlyDivisionHoweverFarItLies) {
+  // All small units come first: every cut lies far from where equal blocks would end.
+  std::vector<std::size_t> sizes(10, 1);
+  sizes.insert(sizes.end(), {100, 100, 100});
+  EXPECT_EQ(unitsOf(chooseCuts(wanted(sizes), 4, 10)),
+            (std::vector<std::size_t>{0, 10, 11, 12, 13}));
+}
+
+TEST(ChooseCutsJoining, MakesOneOfBlocksThatALargeUnitCrosses) {
+  std::vector<std::size_t> sizes(90, 1);
+  sizes.push_back(120);
+  sizes.insert(sizes.end(), 90, 1);
+  const std::vector<BlockCut> cuts = chooseCutsJoining(wanted(sizes), 3, 100);
+  EXPECT_EQ(rowsOf(cuts).front(), 0U);
+  EXPECT_EQ(rowsOf(cuts).back(), 300U);
+  EXPECT_EQ(unitsOf(cuts).back(), sizes.size());
+  EXPECT_LT(cuts.size(), 4U);
+}
+
+TEST(ChooseCutsJoining, FallsBackToOneBlock) {
+  const std::vector<BlockCut> cuts = chooseCutsJoining(wanted({1000}), 10, 100);
+  EXPECT_EQ(unitsOf(cuts), (std::vector<std::size_t>{0, 1}));
+  EXPECT_EQ(rowsOf(cuts), (std::vector<std::size_t>{0, 1000}));
+}
+
+}  // namespace
