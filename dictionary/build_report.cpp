@@ -43,6 +43,8 @@ void BuildReport::addEntry(const Entry& entry, std::size_t pairs) {
   ++entries_;
   if (entry.lines.empty()) {
     ++emptyEntries_;
+  } else if (pairs == 0 && !entry.references.empty()) {
+    ++referringEntries_;
   } else if (pairs == 0) {
     ++entriesWithoutPairs_;
   }
@@ -76,6 +78,7 @@ void BuildReport::printSource(std::ostream& out) const {
   }
   printCount(out, badHeadwords_, "entries left out: the word cannot be looked up");
   printCount(out, emptyEntries_, "entries left out: no translation");
+  printCount(out, referringEntries_, "entries that only refer to another headword");
   printCount(out, entriesWithoutPairs_, "entries left out: no equivalent could be used");
   for (std::size_t i = 1; i < pieces_.size(); ++i) {
     const std::string_view fault = describe(static_cast<PieceFault>(i));

@@ -32,6 +32,7 @@ class BuildReport {
   std::size_t badHeadwords_ = 0;
   std::size_t entries_ = 0;
   std::size_t emptyEntries_ = 0;
+  std::size_t referringEntries_ = 0;
   std::size_t entriesWithoutPairs_ = 0;
   std::array<std::size_t, static_cast<std::size_t>(PieceFault::kCount)> pieces_{};
 

@@ -8,7 +8,6 @@
 #include "dictionary/check_reach.h"
 #include "dictionary/check_schema.h"
 #include "dictionary/check_subjects.h"
-#include "dictionary/failure.h"
 #include "dictionary/general_tables.h"
 #include "dictionary/paths.h"
 
@@ -36,7 +35,7 @@ CheckResult checkDatabase(const std::filesystem::path& file) {
         data::openConnection(utf8Path(file), data::Access::kRead, std::chrono::seconds(1));
     return checkOpened(connection.get());
   } catch (const data::Error& error) {
-    throw Failure(displayName(file) + " cannot be read as a dictionary: " + error.what());
+    throw unreadable(file, error);
   }
 }
 

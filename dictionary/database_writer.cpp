@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "data/connection.h"
+#include "data/error.h"
 #include "dictionary/failure.h"
 #include "dictionary/lookup_limits.h"
 #include "dictionary/paths.h"
@@ -72,13 +73,7 @@ void writeSubjects(sqlite3* connection, const SubjectTables& subjects) {
   }
 }
 
-}  // namespace
-
-void writeDatabase(const DatabaseContent& content, const std::filesystem::path& file) {
-  createEmpty(file);
-  const data::Connection owner =
-      data::openConnection(utf8Path(file), data::Access::kWrite, std::chrono::milliseconds(0));
-  sqlite3* connection = owner.get();
+void writeTables(sqlite3* connection, const DatabaseContent& content) {
   for (const char* pragma : {"pragma page_size=4096", "pragma encoding='UTF-8'",
                              "pragma journal_mode=memory", "pragma synchronous=full"}) {
     data::execute(connection, pragma);
@@ -92,6 +87,19 @@ void writeDatabase(const DatabaseContent& content, const std::filesystem::path& 
   writeCatalogue(connection, content.subjects);
   writeSubjects(connection, content.subjects);
   data::execute(connection, "commit");
+}
+
+}  // namespace
+
+void writeDatabase(const DatabaseContent& content, const std::filesystem::path& file) {
+  createEmpty(file);
+  try {
+    const data::Connection connection =
+        data::openConnection(utf8Path(file), data::Access::kWrite, std::chrono::milliseconds(0));
+    writeTables(connection.get(), content);
+  } catch (const data::Error& error) {
+    throw Failure("cannot write " + displayName(file) + ": " + error.what());
+  }
 }
 
 }  // namespace dictionary

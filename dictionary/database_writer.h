@@ -16,8 +16,7 @@ struct DatabaseContent {
 };
 
 /// Writes a new database file in the place of `file`: the same bytes for the same content. Subject
-/// dictionaries without rows are left out. Throws data::Error or Failure; the file is incomplete
-/// then.
+/// dictionaries without rows are left out. Throws Failure; the file is incomplete then.
 void writeDatabase(const DatabaseContent& content, const std::filesystem::path& file);
 
 }  // namespace dictionary

@@ -14,6 +14,8 @@ struct Entry {
   std::u16string headword;
   bool important = false;
   std::vector<TranslationLine> lines;
+  /// Other headwords that the entry says it means the same as: "= groundsheet".
+  std::vector<std::u16string> references;
 };
 
 /// Takes an entry of the source apart; nothing if its word cannot be a headword.

@@ -10,6 +10,9 @@
 namespace dictionary {
 namespace {
 
+/// How many equivalents of another headword an entry that refers to it gets.
+constexpr std::size_t kMostFollowed = 4;
+
 enum class Kind : std::uint8_t { kOrdinary, kWeb, kName };
 
 struct Candidate {
@@ -90,6 +93,14 @@ std::size_t PairCollector::add(const Entry& entry) {
       entry.lines, [](const TranslationLine& line) { return !line.inflection.empty(); });
   const bool inflected = inflectedLine != entry.lines.end();
   const std::vector<Candidate> candidates = candidatesOf(entry);
+  if (candidates.empty() && !entry.references.empty()) {
+    Reference reference{entry.headword, {}, entry.important};
+    for (const std::u16string& other : entry.references) {
+      reference.others.push_back(text::toLower(other));
+    }
+    references_.push_back(std::move(reference));
+    return 0;
+  }
   if (candidates.empty() && !inflected) return 0;
 
   english_.push_back(entry.headword);
@@ -106,7 +117,34 @@ std::size_t PairCollector::add(const Entry& entry) {
   return candidates.size();
 }
 
+void PairCollector::followReferences() {
+  std::unordered_map<std::u16string, std::vector<std::uint32_t>> meanings;
+  for (const Reference& reference : references_) {
+    for (const std::u16string& other : reference.others) meanings.try_emplace(other);
+  }
+  for (const Pair& pair : pairs_) {
+    const auto found = meanings.find(text::toLower(english_[pair.english]));
+    const bool wanted =
+        found != meanings.end() && pair.tier < Tier::kOnly && found->second.size() < kMostFollowed;
+    if (wanted) found->second.push_back(pair.chinese);
+  }
+  for (const Reference& reference : references_) {
+    english_.push_back(reference.headword);
+    std::size_t position = 0;
+    for (const std::u16string& other : reference.others) {
+      for (const std::uint32_t chinese : meanings[other]) {
+        const bool first = position == 0;
+        const Tier tier = reference.important ? (first ? Tier::kImportantFirst : Tier::kImportant)
+                                              : (first ? Tier::kFirst : Tier::kOrdinary);
+        addPair(std::u16string(chinese_[chinese]), tier, position++);
+      }
+    }
+  }
+  references_.clear();
+}
+
 Vocabulary PairCollector::finish() && {
+  followReferences();
   chineseIds_.clear();
   const std::vector<std::uint32_t> englishPlaces = sortWords(english_);
   const std::vector<std::uint32_t> chinesePlaces = sortWords(chinese_);

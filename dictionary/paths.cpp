@@ -2,8 +2,6 @@
 
 #include <system_error>
 
-#include "dictionary/failure.h"
-
 namespace dictionary {
 
 std::string utf8Path(const std::filesystem::path& path) {
@@ -22,6 +20,10 @@ void requireFile(const std::filesystem::path& path) {
   if (!std::filesystem::is_regular_file(path, error)) {
     throw Failure("there is no file " + displayName(path));
   }
+}
+
+Failure unreadable(const std::filesystem::path& database, const data::Error& error) {
+  return Failure(displayName(database) + " cannot be read as a dictionary: " + error.what());
 }
 
 }  // namespace dictionary

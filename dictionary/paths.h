@@ -4,6 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "data/error.h"
+#include "dictionary/failure.h"
+
 namespace dictionary {
 
 /// A path in UTF-8, as SQLite and the console take it.
@@ -17,5 +20,8 @@ std::string displayName(const std::filesystem::path& path);
 
 /// Throws Failure unless there is a file of that name.
 void requireFile(const std::filesystem::path& path);
+
+/// What to say about a database that the engine cannot read.
+Failure unreadable(const std::filesystem::path& database, const data::Error& error);
 
 }  // namespace dictionary

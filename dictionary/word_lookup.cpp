@@ -1,6 +1,7 @@
 #include "dictionary/word_lookup.h"
 
 #include "data/data_control.h"
+#include "data/error.h"
 #include "data/headword_lookup.h"
 #include "data/index_words.h"
 #include "data/meaning_text.h"
@@ -31,10 +32,7 @@ void run(data::DataControl& control, const std::u16string& sql) {
   control.refresh();
 }
 
-}  // namespace
-
-LookupResult lookUp(const std::filesystem::path& database, std::u16string_view word) {
-  requireFile(database);
+LookupResult lookUpIn(const std::filesystem::path& database, std::u16string_view word) {
   data::DataControl control;
   control.setConnectionString(u"Data Source=" + text::toUtf16(utf8Path(database)));
   const data::IndexWords index = data::readIndexWords(control);
@@ -55,6 +53,17 @@ LookupResult lookUp(const std::filesystem::path& database, std::u16string_view w
     result.meaning = data::meaningLines(chosen, data::readMeanings(control.recordset())).body;
   }
   return result;
+}
+
+}  // namespace
+
+LookupResult lookUp(const std::filesystem::path& database, std::u16string_view word) {
+  requireFile(database);
+  try {
+    return lookUpIn(database, word);
+  } catch (const data::Error& error) {
+    throw unreadable(database, error);
+  }
 }
 
 }  // namespace dictionary

@@ -13,8 +13,8 @@ struct LookupResult {
   std::u16string meaning;                 ///< the pane's text for the first of them, lines by CR LF
 };
 
-/// Looks a word up as the quick lookup window does, with the same queries. Throws Failure if there
-/// is no database, data::Error if it cannot be read.
+/// Looks a word up as the quick lookup window does, with the same queries. Throws Failure if the
+/// database is not there or cannot be read.
 LookupResult lookUp(const std::filesystem::path& database, std::u16string_view word);
 
 }  // namespace dictionary

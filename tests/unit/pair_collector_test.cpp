@@ -102,6 +102,21 @@ TEST(PairCollector, AnInflectedFormWithoutMeaningPointsToItsBase) {
             (std::vector<std::u16string>{u"backslidden=backslide的过去分词"}));
 }
 
+TEST(PairCollector, FollowsReferences) {
+  const Vocabulary vocabulary = collect(
+      {entry("ground cloth", " = Groundsheet"), entry("groundsheet", "n. 防潮布, 铺地防潮布"),
+       entry("costrel bottle", "[某]=costrel [参较 jug]"), entry("costrel", "壶, 罐, 瓶, 坛, 缸"),
+       entry("loop one", "= loop two"), entry("loop two", "= loop one"),
+       entry("odd", "= nothing known")});
+  EXPECT_EQ(texts(vocabulary),
+            (std::vector<std::u16string>{u"costrel=缸", u"costrel=罐", u"costrel=壶", u"costrel=瓶",
+                                         u"costrel=坛", u"costrel bottle=罐", u"costrel bottle=壶",
+                                         u"costrel bottle=瓶", u"costrel bottle=坛",
+                                         u"ground cloth=防潮布", u"ground cloth=铺地防潮布",
+                                         u"groundsheet=防潮布", u"groundsheet=铺地防潮布"}));
+  EXPECT_EQ(tierOf(vocabulary, u"铺地防潮布"), Tier::kOrdinary);
+}
+
 TEST(Arrange, LinksBothTablesRowByRow) {
   const Vocabulary vocabulary =
       collect({entry("heat", "热, 加热"), entry("hot", "热, 热的"), entry("warm", "暖")});
