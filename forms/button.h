@@ -11,6 +11,7 @@ class Button : public Widget {
   Button(Form& form, const std::u16string& caption, const WidgetBox& box);
   Button(Form& form, const Picture& picture, const WidgetBox& box);
 
+  /// Shows `picture`; the button's name for screen readers is its tool tip.
   void setPicture(const Picture& picture);
   [[nodiscard]] const Picture& picture() const { return picture_; }
 

@@ -1,7 +1,9 @@
 #include "forms/clipboard.h"
 
+#include <new>
 #include <stdexcept>
 
+#include "forms/handles.h"
 #include "forms/line_ends.h"
 #include "forms/system_error.h"
 
@@ -26,27 +28,25 @@ class OpenClipboardLock {
   OpenClipboardLock& operator=(const OpenClipboardLock&) = delete;
 };
 
-HGLOBAL copyToGlobalMemory(const std::u16string& text) {
+OwnedMemory copyToGlobalMemory(const std::u16string& text) {
   const std::size_t bytes = (text.size() + 1) * sizeof(char16_t);
-  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
-  if (memory == nullptr) throw std::bad_alloc();
-  CopyMemory(GlobalLock(memory), text.c_str(), bytes);
-  GlobalUnlock(memory);
+  OwnedMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes));
+  void* copy = memory ? GlobalLock(memory.get()) : nullptr;
+  if (copy == nullptr) throw std::bad_alloc();
+  CopyMemory(copy, text.c_str(), bytes);
+  GlobalUnlock(memory.get());
   return memory;
 }
 
 }  // namespace
 
 void setClipboardText(HWND owner, std::u16string_view text) {
-  const std::u16string lines = withWindowsLineEnds(text);
+  OwnedMemory memory = copyToGlobalMemory(withWindowsLineEnds(text));
   const OpenClipboardLock lock(owner);
   EmptyClipboard();
-  HGLOBAL memory = copyToGlobalMemory(lines);
-  // The clipboard owns the memory once it has taken it.
-  if (SetClipboardData(CF_UNICODETEXT, memory) == nullptr) {
-    GlobalFree(memory);
-    throwLastError();
-  }
+  if (SetClipboardData(CF_UNICODETEXT, memory.get()) == nullptr) throwLastError();
+  // The clipboard owns the memory now.
+  static_cast<void>(memory.release());
 }
 
 }  // namespace forms

@@ -55,16 +55,17 @@ LRESULT CALLBACK Dispatcher::windowProc(HWND window, UINT message, WPARAM wParam
   return DefWindowProcW(window, message, wParam, lParam);
 }
 
-void Dispatcher::post(std::function<void()> work) {
+bool Dispatcher::post(std::function<void()> work) {
   posted_.push_back(std::move(work));
-  PostMessageW(window_, kRunPosted, 0, 0);
+  return PostMessageW(window_, kRunPosted, 0, 0) != FALSE;
 }
 
 void Dispatcher::runPosted() {
-  if (posted_.empty()) return;
-  const auto work = std::move(posted_.front());
-  posted_.pop_front();
-  guard(work);
+  while (!posted_.empty()) {
+    const auto work = std::move(posted_.front());
+    posted_.pop_front();
+    guard(work);
+  }
 }
 
 UINT_PTR Dispatcher::startTimer(UINT milliseconds, std::function<void()> tick) {

@@ -17,8 +17,9 @@ class Dispatcher {
   Dispatcher(const Dispatcher&) = delete;
   Dispatcher& operator=(const Dispatcher&) = delete;
 
-  /// Runs `work` guarded, soon, ahead of pending input; in the order posted.
-  void post(std::function<void()> work);
+  /// Runs `work` guarded, soon, ahead of pending input; in the order posted. false where the system
+  /// takes no more messages; the work then waits for the next one that it takes.
+  bool post(std::function<void()> work);
 
   /// Calls `tick` every `milliseconds` (at least 10: the system's own floor) until stopped. The
   /// returned number names the timer.

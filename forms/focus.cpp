@@ -53,8 +53,7 @@ bool settleOneStep(Account& known) {
 void focusMayHaveMoved() {
   Account& known = account();
   if (known.posted) return;
-  known.posted = true;
-  Dispatcher::instance().post([] {
+  known.posted = Dispatcher::instance().post([] {
     account().posted = false;
     settleFocus();
   });
@@ -71,17 +70,23 @@ void settleFocus() {
   known.settling = false;
 }
 
-void forgetFocus(const Form* form) {
+void forgetFocus(const Form& form) {
   Account& known = account();
-  if (known.widget != nullptr && &known.widget->form() == form) known.widget = nullptr;
-  if (known.form == form) known.form = nullptr;
+  if (known.form == &form) known.form = nullptr;
 }
+
+void forgetFocus(const Widget& widget) {
+  Account& known = account();
+  if (known.widget == &widget) known.widget = nullptr;
+}
+
+bool isFocusHeld() { return account().holds > 0; }
 
 FocusHeld::FocusHeld() { ++account().holds; }
 
 FocusHeld::~FocusHeld() {
   --account().holds;
-  focusMayHaveMoved();
+  guard([] { focusMayHaveMoved(); });
 }
 
 }  // namespace forms

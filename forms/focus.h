@@ -17,7 +17,8 @@ void focusMayHaveMoved();
 void settleFocus();
 
 /// Takes a window that goes away out of the account; it hears of no loss.
-void forgetFocus(const Form* form);
+void forgetFocus(const Form& form);
+void forgetFocus(const Widget& widget);
 
 /// While one lives, the focus counts as resting where it was: a message box is up.
 class FocusHeld {
@@ -27,5 +28,7 @@ class FocusHeld {
   FocusHeld(const FocusHeld&) = delete;
   FocusHeld& operator=(const FocusHeld&) = delete;
 };
+
+bool isFocusHeld();
 
 }  // namespace forms

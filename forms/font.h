@@ -13,7 +13,7 @@ struct Font {
   double points = 9;
 };
 
-/// The system's font of `font` for `dpi`. Throws std::system_error.
+/// The system's font of `font` for `dpi`. Throws std::runtime_error.
 OwnedFont makeFont(const Font& font, int dpi);
 
 }  // namespace forms

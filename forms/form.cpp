@@ -44,7 +44,7 @@ Form::Form(const FormDesign& design) : design_(design) {
 }
 
 Form::~Form() {
-  forgetFocus(this);
+  forgetFocus(*this);
   if (handle_ != nullptr) DestroyWindow(std::exchange(handle_, nullptr));
 }
 
@@ -113,7 +113,8 @@ void Form::unload() {
   for (Form* owned : Registry::instance().ownedBy(*this)) owned->unload();
   unloading_ = true;
   guard([this] { Form_Unload(); });
-  forgetFocus(this);
+  for (const Widget* widget : widgets_) forgetFocus(*widget);
+  forgetFocus(*this);
   DestroyWindow(handle_);
   Registry::instance().retire(*this);
 }
@@ -131,6 +132,7 @@ SIZE Form::outerPixels(int width, int height) const {
 void Form::setSize(int width, int height) {
   width_ = std::clamp(width, 0, kMaxSize);
   height_ = std::clamp(height, 0, kMaxSize);
+  sizeSet_ = {width_, height_};
   const SIZE outer = outerPixels(width_, height_);
   SetWindowPos(handle_, nullptr, 0, 0, outer.cx, outer.cy,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -168,6 +170,8 @@ void Form::setMousePointer(const wchar_t* systemCursor) {
 }
 
 void Form::bringToTop() {
+  // Not above a message box that may belong to another window.
+  if (isFocusHeld()) return;
   SetWindowPos(handle_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 }
 

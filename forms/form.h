@@ -11,6 +11,9 @@ namespace forms {
 
 enum class Frame { borderless, sizable, fixed };
 
+/// Resource number of the program's own icon: the first, which Explorer takes too.
+inline constexpr int kProgramIcon = 1;
+
 /// What a form is made of. Sizes in twips, as Width and Height count them.
 struct FormDesign {
   std::u16string name;  ///< "frmSub"; its window class is "Lexilo.frmSub"
@@ -123,6 +126,7 @@ class Form {
   int dpi_ = 96;
   int width_ = 0;
   int height_ = 0;
+  SIZE sizeSet_{};           // what setSize was last given, twips
   SIZE resizedFor_{-1, -1};  // client size of the last Form_Resize, pixels
   bool loaded_ = false;
   bool shown_ = false;

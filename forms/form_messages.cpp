@@ -140,14 +140,20 @@ void Form::resized() {
 void Form::takeClientSize() {
   RECT client{};
   GetClientRect(handle_, &client);
-  // A size that was set in twips stays as it was set where it gave just these pixels.
-  const auto take = [&](int pixels, int frame, int& twips) {
-    if (toPixels(std::max(twips - frame, 0), dpi_) != pixels) {
+  // A size that was set in twips stays as it was set where it gave just these pixels, and is that
+  // again when the window comes back to them: maximising and restoring changes no size.
+  const auto take = [&](int pixels, int frame, LONG set, int& twips) {
+    const auto gives = [&](int size) {
+      return toPixels(std::max(size - frame, 0), dpi_) == pixels;
+    };
+    if (gives(set)) {
+      twips = set;
+    } else if (!gives(twips)) {
       twips = std::min(toTwips(pixels, dpi_) + frame, kMaxSize);
     }
   };
-  take(client.right, frameWidth(), width_);
-  take(client.bottom, frameHeight(), height_);
+  take(client.right, frameWidth(), sizeSet_.cx, width_);
+  take(client.bottom, frameHeight(), sizeSet_.cy, height_);
 }
 
 void Form::giveFocusBack() {

@@ -24,6 +24,8 @@ class Owned {
   ~Owned() { reset(); }
 
   [[nodiscard]] Handle get() const { return handle_; }
+  /// Gives the handle away.
+  [[nodiscard]] Handle release() { return std::exchange(handle_, nullptr); }
   explicit operator bool() const { return handle_ != nullptr; }
   void reset() {
     if (handle_ != nullptr) Close(std::exchange(handle_, nullptr));
@@ -36,11 +38,13 @@ class Owned {
 inline void closeFont(HFONT font) { DeleteObject(font); }
 inline void closeIcon(HICON icon) { DestroyIcon(icon); }
 inline void closeMenu(HMENU menu) { DestroyMenu(menu); }
+inline void freeMemory(HGLOBAL memory) { GlobalFree(memory); }
 inline void closeKernelObject(HANDLE object) { CloseHandle(object); }
 
 using OwnedFont = Owned<HFONT, closeFont>;
 using OwnedIcon = Owned<HICON, closeIcon>;
 using OwnedMenu = Owned<HMENU, closeMenu>;
+using OwnedMemory = Owned<HGLOBAL, freeMemory>;
 using OwnedKernelObject = Owned<HANDLE, closeKernelObject>;
 
 }  // namespace forms

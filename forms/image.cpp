@@ -33,17 +33,23 @@ Image::Image(Form& form, Look look, const WidgetBox& box)
 LRESULT Image::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   // Whoever drags twice in quick succession means two drags.
   if (message == WM_LBUTTONDBLCLK) message = WM_LBUTTONDOWN;
+  if (message == WM_RBUTTONDBLCLK) message = WM_RBUTTONDOWN;
+  if (message == WM_MBUTTONDBLCLK) message = WM_MBUTTONDOWN;
   switch (message) {
     case WM_PAINT:
       paint();
       return 0;
     case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MBUTTONDOWN:
       SetCapture(handle());
       break;
     case WM_MOUSEMOVE:
       if (dragged_) follow(screenPoint(handle(), lParam));
       break;
-    case WM_LBUTTONUP: {
+    case WM_LBUTTONUP:
+    case WM_RBUTTONUP:
+    case WM_MBUTTONUP: {
       const POINT screen = screenPoint(handle(), lParam);
       const LRESULT result = Widget::handleMessage(message, wParam, lParam);
       if (dragged_) drop(screen);

@@ -1,5 +1,7 @@
 #include "forms/rich_text_box.h"
 
+#include <algorithm>
+
 #include "forms/system_error.h"
 #include "forms/text_positions.h"
 #include "forms/window_text.h"
@@ -75,6 +77,17 @@ void RichTextBox::setSelColor(COLORREF color) {
   send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
 }
 
+Place RichTextBox::caretPlace() const {
+  CHARRANGE range{};
+  send(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
+  POINTL point{};
+  send(EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&point), range.cpMax);
+  RECT client{};
+  GetClientRect(handle(), &client);
+  return {toTwips(std::clamp(point.x, client.left, client.right), form().dpi()),
+          toTwips(std::clamp(point.y, client.top, client.bottom), form().dpi())};
+}
+
 LRESULT RichTextBox::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_GETDLGCODE:
@@ -83,7 +96,7 @@ LRESULT RichTextBox::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
              ~static_cast<LRESULT>(DLGC_WANTTAB | DLGC_WANTALLKEYS);
     case WM_CONTEXTMENU:
       // From the keyboard; the mouse's right button has its own event.
-      if (lParam == -1) onRightMouseUp.raise({});
+      if (lParam == -1) onRightMouseUp.raise(caretPlace());
       return 0;
     default:
       return Widget::handleMessage(message, wParam, lParam);

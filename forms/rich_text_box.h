@@ -40,6 +40,8 @@ class RichTextBox : public Widget {
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+  [[nodiscard]] Place caretPlace() const;
+
   std::u16string text_;
   int hangingIndent_ = 0;
 };

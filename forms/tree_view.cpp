@@ -6,7 +6,7 @@ namespace forms {
 
 TreeView::TreeView(Form& form, const WidgetBox& box)
     : Widget(form,
-             {WC_TREEVIEWW, TVS_SHOWSELALWAYS | TVS_FULLROWSELECT | TVS_NOHSCROLL | WS_TABSTOP,
+             {WC_TREEVIEWW, TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_FULLROWSELECT | TVS_NOHSCROLL | WS_TABSTOP,
               WS_EX_CLIENTEDGE},
              box) {
   onKeyDown[VK_RETURN] = [this] {

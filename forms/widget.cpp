@@ -32,6 +32,7 @@ Widget::Widget(Form& form, const ControlKind& kind, const WidgetBox& box,
 }
 
 Widget::~Widget() {
+  forgetFocus(*this);
   form_.removeWidget(*this);
   if (handle_ != nullptr) {
     DestroyWindow(handle_);
@@ -171,6 +172,8 @@ void Widget::setFont(Font font) {
 void Widget::setToolTip(const std::u16string& text) {
   if (toolTip_ == text) return;
   toolTip_ = text;
+  // A picture has no name that a screen reader could read out.
+  if (GetWindowTextLengthW(handle_) == 0) SetWindowTextW(handle_, wide(text));
   form_.setToolTip(*this, toolTip_);
 }
 
