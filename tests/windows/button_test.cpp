@@ -21,7 +21,7 @@ class ButtonForm : public FormA {
 class ButtonTest : public WindowTest {};
 
 TEST_F(ButtonTest, AClickOfTheMouse) {
-  ButtonForm& form = opened<ButtonForm>();
+  auto& form = opened<ButtonForm>();
   input::click(centreOf(form.plain));
   ASSERT_TRUE(eventually([&] { return form.clicks == 1; }));
   input::click(centreOf(form.pictured));
@@ -30,7 +30,7 @@ TEST_F(ButtonTest, AClickOfTheMouse) {
 }
 
 TEST_F(ButtonTest, LettingGoElsewhereIsNoClick) {
-  ButtonForm& form = opened<ButtonForm>();
+  auto& form = opened<ButtonForm>();
   input::moveTo(centreOf(form.plain));
   input::pressLeft();
   passTime(20);
@@ -41,7 +41,7 @@ TEST_F(ButtonTest, LettingGoElsewhereIsNoClick) {
 }
 
 TEST_F(ButtonTest, EnterAndSpace) {
-  ButtonForm& form = opened<ButtonForm>();
+  auto& form = opened<ButtonForm>();
   form.plain.setFocus();
   input::key(VK_RETURN);
   ASSERT_TRUE(eventually([&] { return form.clicks == 1; }));
@@ -51,7 +51,7 @@ TEST_F(ButtonTest, EnterAndSpace) {
 }
 
 TEST_F(ButtonTest, TheClickComesAfterTheEventsOfTheFocus) {
-  ButtonForm& form = opened<ButtonForm>();
+  auto& form = opened<ButtonForm>();
   form.first.setFocus();
   events().clear();
   form.plain.onClick = [] { events().emplace_back("click"); };
@@ -71,7 +71,7 @@ TEST_F(ButtonTest, PicturesAreEqualByIdentity) {
 }
 
 TEST_F(ButtonTest, ShowsThePictureDrawnForItsResolution) {
-  ButtonForm& form = opened<ButtonForm>();
+  auto& form = opened<ButtonForm>();
   const auto shown = [&] {
     return reinterpret_cast<HICON>(
         SendMessageW(form.pictured.handle(), BM_GETIMAGE, IMAGE_ICON, 0));
@@ -89,14 +89,14 @@ TEST_F(ButtonTest, ShowsThePictureDrawnForItsResolution) {
 }
 
 TEST_F(ButtonTest, WithoutAPictureItShowsNone) {
-  ButtonForm& form = opened<ButtonForm>();
+  auto& form = opened<ButtonForm>();
   form.pictured.setPicture({});
   EXPECT_EQ(SendMessageW(form.pictured.handle(), BM_GETIMAGE, IMAGE_ICON, 0), 0);
   EXPECT_EQ(forms::Picture().icon(16), nullptr);
 }
 
 TEST_F(ButtonTest, DisabledItCannotBeClicked) {
-  ButtonForm& form = opened<ButtonForm>();
+  auto& form = opened<ButtonForm>();
   form.plain.setEnabled(false);
   input::click(centreOf(form.plain));
   EXPECT_TRUE(allAlong([&] { return form.clicks == 0; }, 50));

@@ -25,7 +25,7 @@ class FormDpi : public WindowTest {
 };
 
 TEST_F(FormDpi, WidgetsAndFontsFollow) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.first.setFont({u"宋体", 12});
   EXPECT_EQ(form.dpi(), 96);
   EXPECT_EQ(fontHeight(form.first), -16);
@@ -41,7 +41,7 @@ TEST_F(FormDpi, WidgetsAndFontsFollow) {
 }
 
 TEST_F(FormDpi, TheSizeInTwipsStaysAndThePlaceIsTheSuggestedOne) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.setSize(4507, 3003);
   moveToMonitorOf(192, form);
   EXPECT_EQ(form.width(), 4507);
@@ -55,7 +55,7 @@ TEST_F(FormDpi, TheSizeInTwipsStaysAndThePlaceIsTheSuggestedOne) {
 }
 
 TEST_F(FormDpi, ThereAndBackChangesNothing) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   const RECT before = pixelBox(form.second);
   const LONG font = fontHeight(form.second);
   for (const int dpi : {120, 144, 168, 96}) moveToMonitorOf(dpi, form);
@@ -65,14 +65,14 @@ TEST_F(FormDpi, ThereAndBackChangesNothing) {
 }
 
 TEST_F(FormDpi, TheSystemsOwnFontFollowsToo) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   const LONG font = fontHeight(form.second);
   moveToMonitorOf(192, form);
   EXPECT_NEAR(fontHeight(form.second), 2 * font, 1);
 }
 
 TEST_F(FormDpi, PlacesUnderTheMouseAreTwips) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   moveToMonitorOf(144, form);
   forms::Place place;
   form.first.onMouseMove = [&](forms::Place at) { place = at; };

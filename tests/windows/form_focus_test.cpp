@@ -13,8 +13,8 @@ class FormFocus : public WindowTest {
 };
 
 TEST_F(FormFocus, TheOldWindowHearsFirstWhenTheFocusMovesBetweenForms) {
-  FormA& from = opened<FormA>();
-  FormB& to = opened<FormB>();
+  auto& from = opened<FormA>();
+  auto& to = opened<FormB>();
   from.show();
   awaitActive(from);
   ASSERT_TRUE(eventually([&] { return GetFocus() == from.first.handle(); }));
@@ -26,9 +26,9 @@ TEST_F(FormFocus, TheOldWindowHearsFirstWhenTheFocusMovesBetweenForms) {
 }
 
 TEST_F(FormFocus, AClickMovesItInTheSameOrder) {
-  FormA& from = opened<FormA>();
+  auto& from = opened<FormA>();
   from.setPosition(300, 300);
-  FormB& to = opened<FormB>();
+  auto& to = opened<FormB>();
   to.setPosition(9000, 300);
   from.show();
   awaitActive(from);
@@ -56,7 +56,7 @@ TEST_F(FormFocus, TabMovesItInsideAFormWithoutTheFormLosingIt) {
 
 TEST_F(FormFocus, AnotherProgramTakesAndGivesItBackToTheSameWidget) {
   OtherProgram other;
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.second.setFocus();
   events().clear();
   other.activate();
@@ -69,7 +69,7 @@ TEST_F(FormFocus, AnotherProgramTakesAndGivesItBackToTheSameWidget) {
 }
 
 TEST_F(FormFocus, AMessageBoxIsNoMoveOfTheFocus) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   ASSERT_TRUE(reached(4));
   events().clear();
   boxes.whileUp([](HWND) { passTime(50); });
@@ -81,7 +81,7 @@ TEST_F(FormFocus, AMessageBoxIsNoMoveOfTheFocus) {
 }
 
 TEST_F(FormFocus, WhatMovedWhileABoxWasUpIsToldAfterwards) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   ASSERT_TRUE(reached(4));
   events().clear();
   boxes.whileUp([&](HWND) { form.unload(); });
@@ -95,7 +95,7 @@ TEST_F(FormFocus, WhatMovedWhileABoxWasUpIsToldAfterwards) {
 }
 
 TEST_F(FormFocus, AClickOnAButtonIsHandledAfterTheEventsOfItsFocus) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   ASSERT_TRUE(reached(4));
   events().clear();
   form.second.onMouseDown = [](forms::Place) { events().emplace_back("MouseDown"); };
@@ -114,7 +114,7 @@ TEST_F(FormFocus, AFormThatMovesTheFocusInActivateIsTold) {
 }
 
 TEST_F(FormFocus, TwoWidgetsThatFightForItDoNotHangTheProgram) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   ASSERT_TRUE(reached(4));
   int events1 = 0;
   form.first.onGotFocus = [&] {

@@ -17,7 +17,7 @@ TEST_F(FormOpening, RaisesItsEventsInOrder) {
 
 TEST_F(FormOpening, LoadsOnTheFirstReferenceOnly) {
   EXPECT_FALSE(forms::isLoaded<FormA>());
-  FormA& form = forms::single<FormA>();
+  auto& form = forms::single<FormA>();
   EXPECT_TRUE(forms::isLoaded<FormA>());
   EXPECT_EQ(&forms::single<FormA>(), &form);
   EXPECT_EQ(events(), Events{"A.Load"});
@@ -25,7 +25,7 @@ TEST_F(FormOpening, LoadsOnTheFirstReferenceOnly) {
 }
 
 TEST_F(FormOpening, FindsItselfBehindItsWindow) {
-  FormA& form = forms::single<FormA>();
+  auto& form = forms::single<FormA>();
   EXPECT_EQ(forms::Form::of(form.handle()), &form);
   EXPECT_EQ(forms::Form::of(form.first.handle()), nullptr);
   EXPECT_EQ(forms::Form::of(GetDesktopWindow()), nullptr);
@@ -40,8 +40,8 @@ TEST_F(FormOpening, ShowsWhatLoadingPrepared) {
 }
 
 TEST_F(FormOpening, ShowingAgainBringsItToTheFront) {
-  FormA& form = opened<FormA>();
-  FormB& other = opened<FormB>();
+  auto& form = opened<FormA>();
+  auto& other = opened<FormB>();
   form.setPosition(1500, 1500);
   other.setPosition(1500, 1500);
   events().clear();
@@ -54,7 +54,7 @@ TEST_F(FormOpening, ShowingAgainBringsItToTheFront) {
 }
 
 TEST_F(FormOpening, ShowingAgainRestoresAMinimisedForm) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   ShowWindow(form.handle(), SW_MINIMIZE);
   ASSERT_TRUE(allAlong([&] { return form.isMinimised(); }, 100));
   form.show();
@@ -65,7 +65,7 @@ TEST_F(FormOpening, ShowingAgainRestoresAMinimisedForm) {
 
 TEST_F(FormOpening, AnErrorWhileLoadingIsShownAndTheFormStays) {
   plan<'A'>().load = [] { throw std::runtime_error("加载失败"); };
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   const auto seen = boxes.take();
   ASSERT_EQ(seen.size(), 1U);
   EXPECT_EQ(seen[0].text, u"加载失败");
@@ -76,8 +76,8 @@ TEST_F(FormOpening, AnErrorWhileLoadingIsShownAndTheFormStays) {
 }
 
 TEST_F(FormOpening, GivesAnOwnedFormItsOwner) {
-  FormA& owner = opened<FormA>();
-  FormB& owned = forms::single<FormB>();
+  auto& owner = opened<FormA>();
+  auto& owned = forms::single<FormB>();
   owned.show(&owner);
   awaitActive(owned);
   EXPECT_EQ(GetWindow(owned.handle(), GW_OWNER), owner.handle());

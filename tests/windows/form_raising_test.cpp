@@ -21,7 +21,7 @@ class FormRaising : public WindowTest {
 
 TEST_F(FormRaising, ATopmostFormNeverTakesTheFocusByIt) {
   plan<'A'>().design.topmost = true;
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   other.activate();
   form.bringToTop();
   EXPECT_TRUE(otherKeepsTheFocus());
@@ -34,7 +34,7 @@ TEST_F(FormRaising, ATopmostFormNeverTakesTheFocusByIt) {
 
 TEST_F(FormRaising, MovesAndSizesNothing) {
   plan<'A'>().design.topmost = true;
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.setPosition(3000, 3000);
   const RECT before = rectOf(form.handle());
   form.bringToTop();
@@ -46,7 +46,7 @@ TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenShown) {
   plan<'A'>().design.neverActive = true;
   plan<'A'>().design.frame = forms::Frame::borderless;
   other.activate();
-  FormA& form = forms::single<FormA>();
+  auto& form = forms::single<FormA>();
   form.show();
   EXPECT_TRUE(IsWindowVisible(form.handle()));
   EXPECT_TRUE(otherKeepsTheFocus());
@@ -59,7 +59,7 @@ TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenClicked) {
   plan<'A'>().design.neverActive = true;
   plan<'A'>().design.frame = forms::Frame::borderless;
   other.activate();
-  FormA& form = forms::single<FormA>();
+  auto& form = forms::single<FormA>();
   form.setPosition(6000, 1500);
   form.show();
   input::click(centreOf(rectOf(form.handle())));
@@ -77,7 +77,7 @@ TEST_F(FormRaising, ANeverActiveFormHasNoTaskbarButton) {
 
 TEST_F(FormRaising, AFormWithoutTaskbarButtonIsAToolWindowThatTakesTheFocus) {
   plan<'A'>().design.taskbarButton = false;
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   EXPECT_NE(GetWindowLongPtrW(form.handle(), GWL_EXSTYLE) & WS_EX_TOOLWINDOW, 0);
   EXPECT_EQ(GetWindowLongPtrW(form.handle(), GWL_EXSTYLE) & WS_EX_NOACTIVATE, 0);
 }
@@ -85,7 +85,7 @@ TEST_F(FormRaising, AFormWithoutTaskbarButtonIsAToolWindowThatTakesTheFocus) {
 TEST_F(FormRaising, TypingIsNotDisturbedByAHundredRepaints) {
   plan<'A'>().design.topmost = true;
   plan<'A'>().paint = [] { forms::single<FormA>().bringToTop(); };
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   other.activate();
   for (int i = 0; i < 100; ++i) {
     input::type(i % 2 == 0 ? L"a" : L"b");

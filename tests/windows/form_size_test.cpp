@@ -3,7 +3,15 @@
 namespace wintest {
 namespace {
 
-class FormSize : public WindowTest {};
+class FormSize : public WindowTest {
+ protected:
+  /// Takes the form out of the window manager's hand, which may answer one size while the next is
+  /// set.
+  static void notManaged() {
+    plan<'A'>().design.frame = forms::Frame::borderless;
+    plan<'A'>().design.neverActive = true;
+  }
+};
 
 SIZE clientOf(const forms::Form& form) {
   RECT client{};
@@ -12,7 +20,7 @@ SIZE clientOf(const forms::Form& form) {
 }
 
 TEST_F(FormSize, IsTheClientSizeAndAFrameOf120By405Twips) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.setSize(3500, 3200);
   EXPECT_EQ(clientOf(form).cx, forms::toPixels(3500 - 120, 96));
   EXPECT_EQ(clientOf(form).cy, forms::toPixels(3200 - 405, 96));
@@ -20,7 +28,7 @@ TEST_F(FormSize, IsTheClientSizeAndAFrameOf120By405Twips) {
 
 TEST_F(FormSize, ABorderlessFormHasNoFrame) {
   plan<'A'>().design.frame = forms::Frame::borderless;
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.setSize(1500, 750);
   EXPECT_EQ(clientOf(form).cx, 100);
   EXPECT_EQ(clientOf(form).cy, 50);
@@ -28,10 +36,8 @@ TEST_F(FormSize, ABorderlessFormHasNoFrame) {
 }
 
 TEST_F(FormSize, KeepsTheTwipsThatWereSetWhateverThePixels) {
-  // Not under the window manager's hand, which answers one size while the next is set.
-  plan<'A'>().design.frame = forms::Frame::borderless;
-  plan<'A'>().design.neverActive = true;
-  FormA& form = forms::single<FormA>();
+  notManaged();
+  auto& form = forms::single<FormA>();
   form.show();
   for (int width = 3600; width < 3620; ++width) {
     form.setSize(width, 2900);
@@ -41,7 +47,7 @@ TEST_F(FormSize, KeepsTheTwipsThatWereSetWhateverThePixels) {
 }
 
 TEST_F(FormSize, TakesTheUsersPixelsAsTwips) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   const RECT rect = rectOf(form.handle());
   const int width = form.width();
   const int height = form.height();
@@ -52,20 +58,36 @@ TEST_F(FormSize, TakesTheUsersPixelsAsTwips) {
   EXPECT_EQ(form.height(), height + 300);
 }
 
+TEST_F(FormSize, ComesBackToTheTwipsThatWereSet) {
+  notManaged();
+  auto& form = forms::single<FormA>();
+  form.show();
+  form.setSize(5003, 4006);
+  const RECT rect = rectOf(form.handle());
+  for (const LONG change : {40, 0}) {
+    SetWindowPos(form.handle(), nullptr, 0, 0, rect.right - rect.left + change,
+                 rect.bottom - rect.top + change, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    forms::doEvents();
+    EXPECT_EQ(form.width() != 5003, change != 0);
+  }
+  EXPECT_EQ(form.height(), 4006);
+}
+
 TEST_F(FormSize, RaisesResizeOnlyOnceShown) {
-  FormA& form = forms::single<FormA>();
+  notManaged();
+  auto& form = forms::single<FormA>();
   form.setSize(6000, 4000);
   form.setSize(7000, 5000);
   EXPECT_EQ(events(), Events{"A.Load"});
   form.show();
-  awaitActive(form);
+  forms::doEvents();
   EXPECT_EQ(times("A.Resize"), 1);
   form.setSize(6000, 4000);
   EXPECT_EQ(times("A.Resize"), 2);
 }
 
 TEST_F(FormSize, StopsAt32767Twips) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.setSize(40000, 1'000'000);
   EXPECT_EQ(form.width(), 32767);
   EXPECT_EQ(form.height(), 32767);
@@ -80,14 +102,14 @@ TEST_F(FormSize, StopsAt32767Twips) {
 }
 
 TEST_F(FormSize, IsNeverNegative) {
-  FormA& form = forms::single<FormA>();
+  auto& form = forms::single<FormA>();
   form.setSize(-5, 0);
   EXPECT_EQ(form.width(), 0);
   EXPECT_EQ(form.height(), 0);
 }
 
 TEST_F(FormSize, IsKeptWhileMinimised) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.setSize(5005, 4007);
   events().clear();
   ShowWindow(form.handle(), SW_MINIMIZE);
@@ -102,7 +124,7 @@ TEST_F(FormSize, IsKeptWhileMinimised) {
 }
 
 TEST_F(FormSize, ThePlaceIsTheWindowsOwn) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.setPosition(3000, 1500);
   EXPECT_EQ(rectOf(form.handle()).left, 200);
   EXPECT_EQ(rectOf(form.handle()).top, 100);
@@ -111,7 +133,7 @@ TEST_F(FormSize, ThePlaceIsTheWindowsOwn) {
 }
 
 TEST_F(FormSize, NeighbouringWidgetsStayNeighbours) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.first.move({30, 600, 2002, 300});
   form.second.move({2032, 600, 20, 300});
   EXPECT_EQ(pixelBox(form.first).right, pixelBox(form.second).left);

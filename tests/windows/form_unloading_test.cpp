@@ -8,7 +8,7 @@ namespace {
 class FormUnloading : public WindowTest {};
 
 TEST_F(FormUnloading, RunsUnloadBeforeTheWindowGoes) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   const HWND window = form.handle();
   const HWND box = form.first.handle();
   bool windowStood = false;
@@ -34,7 +34,7 @@ TEST_F(FormUnloading, TheNextReferenceLoadsItAnew) {
 }
 
 TEST_F(FormUnloading, TheCloseBoxUnloads) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   const HWND window = form.handle();
   PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
   ASSERT_TRUE(eventually([&] { return !IsWindow(window); }));
@@ -50,7 +50,7 @@ TEST_F(FormUnloading, AltF4Unloads) {
 
 TEST_F(FormUnloading, AFormWithoutCloseBoxIgnoresAltF4AndClose) {
   plan<'A'>().design.closable = false;
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   const HWND window = form.handle();
   input::key(VK_F4, {VK_MENU});
   SendMessageW(window, WM_CLOSE, 0, 0);
@@ -72,10 +72,10 @@ TEST_F(FormUnloading, TheEndOfTheSessionUnloadsEveryForm) {
 }
 
 TEST_F(FormUnloading, AnOwnersFormsAreUnloadedFirstAndOnce) {
-  FormA& owner = opened<FormA>();
-  FormB& owned = forms::single<FormB>();
+  auto& owner = opened<FormA>();
+  auto& owned = forms::single<FormB>();
   owned.show(&owner);
-  FormC& ownedByOwned = forms::single<FormC>();
+  auto& ownedByOwned = forms::single<FormC>();
   ownedByOwned.show(&owned);
   awaitActive(ownedByOwned);
   events().clear();
@@ -88,7 +88,7 @@ TEST_F(FormUnloading, AnOwnersFormsAreUnloadedFirstAndOnce) {
 }
 
 TEST_F(FormUnloading, UnloadingFromUnloadRunsItOnce) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   plan<'A'>().unload = [&] {
     EXPECT_TRUE(form.isUnloading());
     form.unload();
@@ -98,7 +98,7 @@ TEST_F(FormUnloading, UnloadingFromUnloadRunsItOnce) {
 }
 
 TEST_F(FormUnloading, AnErrorInUnloadIsShownAndTheWindowGoes) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   const HWND window = form.handle();
   plan<'A'>().unload = [] { throw std::runtime_error("disk full"); };
   form.unload();
@@ -107,7 +107,7 @@ TEST_F(FormUnloading, AnErrorInUnloadIsShownAndTheWindowGoes) {
 }
 
 TEST_F(FormUnloading, TheObjectOutlivesTheHandlerThatUnloadsIt) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   bool gone = true;
   bool textWasThere = false;
   form.first.onChange = [&] {
@@ -123,7 +123,7 @@ TEST_F(FormUnloading, TheObjectOutlivesTheHandlerThatUnloadsIt) {
 }
 
 TEST_F(FormUnloading, AFormCanBeOpenedAgainFromTheHandlerThatUnloadsIt) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.first.onChange = [&] {
     form.unload();
     forms::single<FormA>().show();
@@ -135,7 +135,7 @@ TEST_F(FormUnloading, AFormCanBeOpenedAgainFromTheHandlerThatUnloadsIt) {
 }
 
 TEST_F(FormUnloading, AWindowThatGoesHearsOfNoLossOfFocus) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.unload();
   passTime(50);
   EXPECT_EQ(times("A.LostFocus"), 0);

@@ -145,6 +145,7 @@ TEST_F(FrmMenu, TheWebSiteWithoutABrowserIsAnUncaughtError) {
   EXPECT_FALSE(seen[0].text.empty());
   EXPECT_NE(seen[0].text, u"未找到帮助文件！");
   // The program goes on.
+  awaitActive(top());
   chooseFromMenu(kMouse);
   expectCaptureShown(false);
 }

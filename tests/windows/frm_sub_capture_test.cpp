@@ -67,7 +67,7 @@ TEST_F(FrmSubCapture, AMessageBoxDoesNotWakeIt) {
 }
 
 TEST_F(FrmSubCapture, TheToolbarThatLosesTheFocusToTheBoxDoesNotWakeIt) {
-  frmTop& top = forms::single<frmTop>();
+  auto& top = forms::single<frmTop>();
   awaitActive(top);
   ASSERT_TRUE(eventually([] { return user::IdxWords.size() > 1; }));
   open();

@@ -85,15 +85,15 @@ TEST_F(FrmSubLayout, EveryPaintPutsItOnTopAgainWithoutTakingTheFocus) {
 
 TEST_F(FrmSubLayout, MaximisedItIsLaidOutAndComesBack) {
   open();
-  sub().setSize(6000, 5010);
+  sub().setSize(6004, 5003);
   passTime(50);
   ShowWindow(sub().handle(), SW_MAXIMIZE);
   ASSERT_TRUE(eventually([] { return sub().width() > 10'000; }));
   passTime(100);
   expectLaidOut(sub().width(), sub().height());
   ShowWindow(sub().handle(), SW_RESTORE);
-  ASSERT_TRUE(eventually([] { return sub().width() == 6000; }));
-  expectLaidOut(6000, 5010);
+  ASSERT_TRUE(eventually([] { return sub().width() == 6004; }));
+  expectLaidOut(6004, 5003);
 }
 
 TEST_F(FrmSubLayout, FollowsTheResolution) {

@@ -21,7 +21,7 @@ class FailingForm : public FormA {
 };
 
 TEST_F(Guard, AnUncaughtErrorIsShownWithItsOwnDescription) {
-  FailingForm& form = opened<FailingForm>();
+  auto& form = opened<FailingForm>();
   form.first.setText(u"x");
   const auto seen = boxes.take();
   ASSERT_EQ(seen.size(), 1U);
@@ -32,7 +32,7 @@ TEST_F(Guard, AnUncaughtErrorIsShownWithItsOwnDescription) {
 }
 
 TEST_F(Guard, TheProgramGoesOnWithItsDataIntact) {
-  FailingForm& form = opened<FailingForm>();
+  auto& form = opened<FailingForm>();
   form.first.setText(u"kept");
   EXPECT_EQ(boxes.take().size(), 1U);
   EXPECT_EQ(form.first.text(), u"kept");
@@ -42,7 +42,7 @@ TEST_F(Guard, TheProgramGoesOnWithItsDataIntact) {
 }
 
 TEST_F(Guard, OneBoxAtATimeWhateverElseFails) {
-  FailingForm& form = opened<FailingForm>();
+  auto& form = opened<FailingForm>();
   forms::Timer timer(form, 10, true);
   int ticks = 0;
   timer.onTimer = [&] {
@@ -72,7 +72,7 @@ TEST_F(Guard, OneBoxAtATimeWhateverElseFails) {
 }
 
 TEST_F(Guard, AnErrorInATimerReachesIt) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   forms::Timer timer(form, 10, true);
   timer.onTimer = [&] {
     timer.setEnabled(false);
@@ -83,7 +83,7 @@ TEST_F(Guard, AnErrorInATimerReachesIt) {
 }
 
 TEST_F(Guard, WhatIsNoExceptionHasADescriptionToo) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.first.onChange = [] { throw 42; };
   form.first.setText(u"x");
   ASSERT_EQ(boxes.count(), 1U);
@@ -91,7 +91,7 @@ TEST_F(Guard, WhatIsNoExceptionHasADescriptionToo) {
 }
 
 TEST_F(Guard, WithoutAnActiveWindowTheBoxComesAllTheSame) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   OtherProgram other;
   other.activate();
   ASSERT_TRUE(eventually([] { return GetActiveWindow() == nullptr; }));
@@ -104,15 +104,16 @@ TEST_F(Guard, WithoutAnActiveWindowTheBoxComesAllTheSame) {
 using MessageBoxTest = Guard;
 
 TEST_F(MessageBoxTest, HoldsEveryWindowOfTheProgram) {
-  FormA& owner = opened<FormA>();
-  FormB& other = forms::single<FormB>();
+  auto& owner = opened<FormA>();
+  auto& other = forms::single<FormB>();
   other.show();
   awaitActive(other);
   owner.show();
   awaitActive(owner);
   bool held = false;
-  boxes.whileUp(
-      [&](HWND) { held = !IsWindowEnabled(owner.handle()) && !IsWindowEnabled(other.handle()); });
+  boxes.whileUp([&](HWND) {
+    held = IsWindowEnabled(owner.handle()) == FALSE && IsWindowEnabled(other.handle()) == FALSE;
+  });
   forms::showMessage(u"查询条件不为空！", forms::MessageIcon::exclamation);
   EXPECT_TRUE(held);
   EXPECT_TRUE(IsWindowEnabled(owner.handle()));
@@ -124,7 +125,7 @@ TEST_F(MessageBoxTest, HoldsEveryWindowOfTheProgram) {
 
 TEST_F(MessageBoxTest, LeavesAWindowDisabledThatWasSo) {
   opened<FormA>();
-  FormB& other = opened<FormB>();
+  auto& other = opened<FormB>();
   forms::single<FormA>().show();
   awaitActive(forms::single<FormA>());
   EnableWindow(other.handle(), FALSE);
@@ -163,7 +164,7 @@ TEST_F(MessageBoxTest, StandsAboveOurTopmostWindows) {
 }
 
 TEST_F(MessageBoxTest, ClosesByTheKeyboard) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   boxes.leaveNextAlone();
   const Watcher user([] {
     HWND box = MessageBoxes::current();

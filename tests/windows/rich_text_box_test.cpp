@@ -110,7 +110,7 @@ TEST_F(RichTextBoxTest, IsReadOnly) {
 }
 
 TEST_F(RichTextBoxTest, TabLeavesIt) {
-  PaneForm& form = opened<PaneForm>();
+  auto& form = opened<PaneForm>();
   pane().setFocus();
   input::key(VK_TAB);
   EXPECT_TRUE(eventually([&] { return GetFocus() == form.first.handle(); }));

@@ -68,7 +68,7 @@ TEST_F(TimerTest, ATickThatWaitedWhenItWasStoppedIsNotRaised) {
 }
 
 TEST_F(TimerTest, RaisesNothingOnceItsFormUnloads) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   forms::Timer timer(form, 10, true);
   timer.onTimer = [this] { ++ticks; };
   int before = 0;

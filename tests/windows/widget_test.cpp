@@ -33,7 +33,7 @@ class WidgetTest : public WindowTest {
 };
 
 TEST_F(WidgetTest, KeepsAToolTipForEachWidget) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   EXPECT_EQ(tipText(form.first), u"");
   form.first.setToolTip(u"快速查询");
   form.second.setToolTip(u"查询设置");
@@ -48,7 +48,7 @@ TEST_F(WidgetTest, KeepsAToolTipForEachWidget) {
 }
 
 TEST_F(WidgetTest, TheToolTipAppearsUnderThePointer) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.first.setToolTip(u"快速查询");
   SendMessageW(toolTipOf(form), TTM_SETDELAYTIME, TTDT_INITIAL, 20);
   const POINT centre = centreOf(form.first);
@@ -63,7 +63,7 @@ TEST_F(WidgetTest, ALabelTakesNoFocusButTellsTheMouse) {
    public:
     forms::Label label{*this, u"输入：&x", {150, 1200, 900, 300}};
   };
-  LabelForm& form = opened<LabelForm>();
+  auto& form = opened<LabelForm>();
   int moves = 0;
   form.label.onMouseMove = [&](forms::Place) { ++moves; };
   input::click(centreOf(form.label));
@@ -75,7 +75,7 @@ TEST_F(WidgetTest, ALabelTakesNoFocusButTellsTheMouse) {
 }
 
 TEST_F(WidgetTest, CanBeHiddenAndShown) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   form.second.setVisible(false);
   EXPECT_FALSE(IsWindowVisible(form.second.handle()));
   EXPECT_EQ(form.widgetAt(inWidget(form.first, 300, 150)), &form.first);
@@ -86,7 +86,7 @@ TEST_F(WidgetTest, CanBeHiddenAndShown) {
 }
 
 TEST_F(WidgetTest, ThePointersShapeIsTheFormsWhereItIsSet) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   const auto shapeOver = [&](const forms::Widget& widget) {
     SendMessageW(widget.handle(), WM_SETCURSOR, reinterpret_cast<WPARAM>(widget.handle()),
                  MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
@@ -100,7 +100,7 @@ TEST_F(WidgetTest, ThePointersShapeIsTheFormsWhereItIsSet) {
 }
 
 TEST_F(WidgetTest, TheMouseOverTheFormIsTheForms) {
-  FormA& form = opened<FormA>();
+  auto& form = opened<FormA>();
   int moves = 0;
   form.onMouseMove = [&](forms::Place) { ++moves; };
   POINT empty{5, 5};

@@ -25,7 +25,7 @@ class FrmSubTest : public WindowTest {
 
   /// Shows it and waits until its input box has the focus.
   frmSub& open() {
-    frmSub& form = opened<frmSub>();
+    auto& form = opened<frmSub>();
     EXPECT_TRUE(eventually([&] { return GetFocus() == form.txtInput.handle(); }));
     return form;
   }

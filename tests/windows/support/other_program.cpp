@@ -34,7 +34,7 @@ OtherProgram::OtherProgram() {
 OtherProgram::~OtherProgram() {
   PostMessageW(window_, WM_CLOSE, 0, 0);
   // Its thread may wait for an answer from ours while it goes.
-  eventually([this] { return !IsWindow(window_); });
+  eventually([this] { return IsWindow(window_) == FALSE; });
   thread_.join();
 }
 

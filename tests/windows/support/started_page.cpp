@@ -25,7 +25,8 @@ std::u16string ownPath() {
 
 bool tookPage() {
   const std::wstring_view line = GetCommandLineW();
-  if (!line.ends_with(L"help.htm") && line.find(L" https://") == line.npos) return false;
+  if (!line.ends_with(L"help.htm") && line.find(L" https://") == std::wstring_view::npos)
+    return false;
   // Under another name until it is complete.
   const auto draft = record().concat(".new");
   support::writeFile(draft, {reinterpret_cast<const char*>(line.data()), line.size() * 2});

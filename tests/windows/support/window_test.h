@@ -2,15 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/program/harness/input.h"
 #include "tests/windows/support/event_form.h"
+#include "tests/windows/support/input.h"
 #include "tests/windows/support/message_boxes.h"
 #include "tests/windows/support/pump.h"
 #include "tests/windows/support/screen_places.h"
 
 namespace wintest {
-
-namespace input = harness::input;
 
 /// Starts every test without any window of ours and ends it so. A message box that no test took
 /// note of fails it; a menu that stays open is closed and fails it as well.
@@ -24,7 +22,7 @@ class WindowTest : public ::testing::Test {
   /// Shows a form and waits until it has the foreground and all events of its opening are raised.
   template <class F>
   F& opened() {
-    F& form = forms::single<F>();
+    auto& form = forms::single<F>();
     form.show();
     awaitActive(form);
     return form;
