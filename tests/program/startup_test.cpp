@@ -67,8 +67,10 @@ TEST_F(Startup, LooksUpEnglishAlsoWhenTheToolbarLosesTheFocusAtOnce) {
   input::moveTo(text);
   const Lexilo lexilo(AppFolder::withFullDictionary());
   static_cast<void>(lexilo.toolbar());
-  input::click(text);
-  waitFor("Notepad to be in front", [&] { return GetForegroundWindow() == notepad.window(); });
+  waitFor("Notepad to be in front", [&] {
+    input::click(text);
+    return !neverWithin(kReactionTime, [&] { return GetForegroundWindow() == notepad.window(); });
+  });
   lexilo.waitUntilSeen();
   const QuickLookup window = lexilo.openQuickLookupAtA();
   window.lookUp(L"data");
@@ -77,6 +79,7 @@ TEST_F(Startup, LooksUpEnglishAlsoWhenTheToolbarLosesTheFocusAtOnce) {
 
 TEST_F(Startup, TheFirstButtonPressedAtOnceStillShowsTheFirstWords) {
   const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilPainted();
   const QuickLookup window = lexilo.openQuickLookup();
   EXPECT_FALSE(window.words().empty());
   window.lookUp(L"data");

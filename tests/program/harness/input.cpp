@@ -1,8 +1,9 @@
 #include "tests/program/harness/input.h"
 
+#include <string>
 #include <vector>
 
-#include "tests/program/harness/wait.h"
+#include "tests/program/harness/process.h"
 
 namespace harness::input {
 namespace {
@@ -12,15 +13,6 @@ void inject(std::vector<INPUT> events) {
   if (SendInput(count, events.data(), sizeof(INPUT)) != count) {
     throw Failure("the system took no input");
   }
-}
-
-INPUT mouseEvent(DWORD flags, POINT place = {}) {
-  INPUT event{};
-  event.type = INPUT_MOUSE;
-  event.mi.dwFlags = flags;
-  event.mi.dx = place.x;
-  event.mi.dy = place.y;
-  return event;
 }
 
 INPUT keyEvent(WORD virtualKey, DWORD flags) {
@@ -48,18 +40,17 @@ INPUT keyEvent(WORD virtualKey, DWORD flags) {
   return event;
 }
 
-/// A pixel in the measure of absolute moves, where the screen is 65,536 wide and high: the middle
-/// of the pixel, so that rounding cannot lead to its neighbour.
-POINT absolute(POINT point) {
-  const int width = GetSystemMetrics(SM_CXSCREEN);
-  const int height = GetSystemMetrics(SM_CYSCREEN);
-  return {((point.x * 65'536) + 32'768) / width, ((point.y * 65'536) + 32'768) / height};
+/// One run of the tool that moves the mouse of the display.
+void useMouse(const std::string& commands) { runBelow("xdotool " + commands); }
+
+std::string place(POINT point) {
+  return " mousemove " + std::to_string(point.x) + " " + std::to_string(point.y);
 }
 
 }  // namespace
 
 void moveTo(POINT point) {
-  inject({mouseEvent(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, absolute(point))});
+  useMouse(place(point));
   waitFor("the pointer to arrive", [&] {
     POINT now{};
     GetCursorPos(&now);
@@ -67,37 +58,23 @@ void moveTo(POINT point) {
   });
 }
 
-void pressLeft() { inject({mouseEvent(MOUSEEVENTF_LEFTDOWN)}); }
+void click(POINT point) { useMouse(place(point) + " sleep 0.02 mousedown 1 sleep 0.04 mouseup 1"); }
 
-void releaseLeft() { inject({mouseEvent(MOUSEEVENTF_LEFTUP)}); }
-
-void click(POINT point) {
-  moveTo(point);
-  pressLeft();
-  releaseLeft();
-}
-
-void doubleClick(POINT point) {
-  click(point);
-  pressLeft();
-  releaseLeft();
-}
+void doubleClick(POINT point) { useMouse(place(point) + " click --repeat 2 --delay 60 1"); }
 
 void rightClick(POINT point) {
-  moveTo(point);
-  inject({mouseEvent(MOUSEEVENTF_RIGHTDOWN), mouseEvent(MOUSEEVENTF_RIGHTUP)});
+  useMouse(place(point) + " sleep 0.02 mousedown 3 sleep 0.04 mouseup 3");
 }
 
 void drag(POINT from, POINT to, int steps) {
-  moveTo(from);
-  pressLeft();
-  // A hand takes a moment; programs that arm a drag by a timer need it.
-  Sleep(60);
+  // A hand takes its time; programs that arm a drag by a timer need it.
+  std::string commands = place(from) + " mousedown 1 sleep 0.06";
   for (int i = 1; i <= steps; ++i) {
-    moveTo({from.x + ((to.x - from.x) * i / steps), from.y + ((to.y - from.y) * i / steps)});
-    Sleep(10);
+    commands +=
+        place({from.x + ((to.x - from.x) * i / steps), from.y + ((to.y - from.y) * i / steps)});
+    commands += " sleep 0.01";
   }
-  releaseLeft();
+  useMouse(commands + " sleep 0.06 mouseup 1");
 }
 
 void key(WORD virtualKey, std::initializer_list<WORD> modifiers) {

@@ -5,14 +5,13 @@
 #include <initializer_list>
 #include <string_view>
 
-/// The user's hands: mouse and keyboard events as the system gets them from the devices.
+/// The user's hands. The mouse's events come from below Wine, through the display and its window
+/// manager; the keyboard's are the system's own, so that any character can be typed.
 namespace harness::input {
 
 /// Moves the pointer and waits until it is there.
 void moveTo(POINT point);
 
-void pressLeft();
-void releaseLeft();
 void click(POINT point);
 void doubleClick(POINT point);
 void rightClick(POINT point);

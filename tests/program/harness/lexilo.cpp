@@ -16,13 +16,18 @@ HWND Lexilo::toolbar() const {
   return waitForWindow({.process = process_.id(), .className = L"Lexilo.frmTop", .title = {}});
 }
 
-HWND Lexilo::waitUntilSeen() const {
+HWND Lexilo::waitUntilPainted() const {
   HWND window = toolbar();
   const RECT rect = buttonRect(ToolbarButton::quickLookup);
   waitFor("the toolbar to be painted", [&] {
     const std::vector<COLORREF> pixels = screenPixels(rect);
     return std::ranges::adjacent_find(pixels, std::not_equal_to{}) != pixels.end();
   });
+  return window;
+}
+
+HWND Lexilo::waitUntilSeen() const {
+  HWND window = waitUntilPainted();
   Sleep(kReactionTime);
   return window;
 }

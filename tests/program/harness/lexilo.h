@@ -35,8 +35,10 @@ class Lexilo {
   /// The toolbar's window, once it is visible.
   [[nodiscard]] HWND toolbar() const;
 
-  /// Waits until the toolbar can be seen on the screen, and for as long as a user takes to see it.
-  /// Returns its window.
+  /// Waits until the toolbar is painted on the screen and returns its window.
+  HWND waitUntilPainted() const;
+
+  /// The same, and waits for as long as a user takes to see it.
   HWND waitUntilSeen() const;
 
   /// The handle that the toolbar is dragged by, screen pixels.

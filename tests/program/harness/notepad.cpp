@@ -9,6 +9,8 @@ Notepad::Notepad()
       window_(waitForWindow({.process = process_.id(), .className = L"Notepad", .title = {}})),
       edit_(waitForChild(window_, L"Edit")) {
   waitFor("Notepad to come to the front", [&] { return GetForegroundWindow() == window_; });
+  // The window manager gives a new window the focus in its own time.
+  Sleep(kReactionTime);
 }
 
 void Notepad::clickIntoText() const {

@@ -10,7 +10,7 @@ namespace harness {
 /// The system's Notepad, as another program that users work in.
 class Notepad {
  public:
-  /// Starts it and waits until one can type into it.
+  /// Starts it and waits until one can type into it and a user has seen it.
   Notepad();
 
   [[nodiscard]] HWND window() const { return window_; }

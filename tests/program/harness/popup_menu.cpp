@@ -17,7 +17,11 @@ Sought menuOf(const Process& program) {
 
 }  // namespace
 
-HWND waitForMenu(const Process& program) { return waitForWindow(menuOf(program)); }
+HWND waitForMenu(const Process& program) {
+  HWND menu = waitForWindow(menuOf(program));
+  Sleep(kReactionTime);
+  return menu;
+}
 
 bool isOpen(const Process& program) { return findWindow(menuOf(program)) != nullptr; }
 

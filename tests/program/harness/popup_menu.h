@@ -8,7 +8,7 @@
 /// chosen as users choose them.
 namespace harness::popup_menu {
 
-/// The menu's window, once it is there.
+/// The menu's window, once it has been there for as long as a user takes to see it.
 HWND waitForMenu(const Process& program);
 
 /// Whether there is one now.

@@ -1,0 +1,100 @@
+// The same program where the system shows everything at one and a half times the size.
+#include <gtest/gtest.h>
+
+#include "forms/geometry.h"
+#include "tests/program/harness/controls.h"
+#include "tests/program/harness/input.h"
+#include "tests/program/harness/lexilo.h"
+#include "tests/program/harness/popup_menu.h"
+#include "tests/program/harness/screen.h"
+#include "tests/program/harness/settings.h"
+
+namespace harness {
+namespace {
+
+constexpr int kDpi = 144;
+
+class Dpi144 : public ::testing::Test {
+ protected:
+  Dpi144() { settings::clear(); }
+  ~Dpi144() override { settings::clear(); }
+
+  void SetUp() override { ASSERT_EQ(GetDpiForSystem(), static_cast<UINT>(kDpi)); }
+};
+
+TEST_F(Dpi144, TheToolbarIsLargerAndStillNearTheTopRightCorner) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  const RECT rect = rectOf(lexilo.waitUntilSeen());
+  const int screen = forms::toTwips(GetSystemMetrics(SM_CXSCREEN), kDpi);
+  const int width = forms::toTwips(rect.right - rect.left, kDpi);
+  EXPECT_EQ(rect.top, forms::toPixels(375, kDpi));
+  EXPECT_EQ(rect.bottom - rect.top, forms::toPixels(375, kDpi));
+  EXPECT_NEAR(rect.left, forms::toPixels(screen - width - 1300, kDpi), 1);
+  saveScreenshot("build/shots/toolbar-144dpi.png");
+}
+
+TEST_F(Dpi144, TheMenuOpensBelowTheToolbar) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  const RECT bar = rectOf(lexilo.waitUntilSeen());
+  const RECT menu = rectOf(lexilo.dropMenu());
+  EXPECT_EQ(menu.left, bar.left);
+  EXPECT_EQ(menu.top, bar.top + forms::toPixels(345, kDpi));
+  popup_menu::dismiss(lexilo.process());
+}
+
+TEST_F(Dpi144, TheQuickLookupWindowIsLaidOutInTwips) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  const QuickLookup window = lexilo.openQuickLookupAtA();
+  window.lookUp(L"data");
+  saveScreenshot("build/shots/quick-lookup-144dpi.png");
+  const RECT client = clientRectOf(window.window());
+  const auto pixels = [](int twips) { return forms::toPixels(twips, kDpi); };
+  EXPECT_NEAR(client.right - client.left, pixels(3500 - forms::kFrameWidth), 1);
+  EXPECT_NEAR(client.bottom - client.top, pixels(3200 - forms::kFrameHeight), 1);
+  const RECT list = rectOf(window.list());
+  EXPECT_EQ(list.left - client.left, pixels(30));
+  EXPECT_EQ(list.top - client.top, pixels(600));
+  EXPECT_EQ(list.right - list.left, pixels(2000));
+  EXPECT_NEAR(list.bottom - list.top, pixels(2200), 1);
+  EXPECT_NEAR(rectOf(window.pane()).left - client.left, pixels(2050), 1);
+  EXPECT_NEAR(rectOf(window.input()).left - client.left, pixels(750), 1);
+  EXPECT_NEAR(rectOf(window.exitButton()).left - client.left, pixels(2600), 1);
+}
+
+TEST_F(Dpi144, TheSplitterCountsInTwips) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  const QuickLookup window = lexilo.openQuickLookupAtA();
+  const POINT handle = centreOf(window.splitter());
+  input::drag(handle, {rectOf(window.list()).left + 20, handle.y});
+  waitFor("the least list",
+          [&] { return sizeOf(rectOf(window.list())).cx == forms::toPixels(1600, kDpi); });
+}
+
+TEST_F(Dpi144, SizesAreKept) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  settings::write(L"WindowWidth", L"5003");
+  settings::write(L"WindowHeight", L"4007");
+  settings::write(L"TreeWidth", L"2011");
+  for (int i = 0; i < 3; ++i) lexilo.openQuickLookupAtA().close();
+  EXPECT_NEAR(std::stoi(settings::read(L"WindowWidth")), 5003, 10);
+  EXPECT_NEAR(std::stoi(settings::read(L"WindowHeight")), 4007, 10);
+  EXPECT_NEAR(std::stoi(settings::read(L"TreeWidth")), 2011, 10);
+}
+
+TEST_F(Dpi144, WordsAreLookedUpByMouseAndKeys) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  const QuickLookup window = lexilo.openQuickLookupAtA();
+  window.lookUp(L"数据");
+  const std::vector<std::wstring> words = window.words();
+  window.clickWord(2);
+  window.waitForHeadword(words.at(2));
+  input::key(VK_DOWN);
+  window.waitForHeadword(words.at(3));
+}
+
+}  // namespace
+}  // namespace harness
