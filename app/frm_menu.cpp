@@ -33,9 +33,9 @@ frmMenu::frmMenu() : Form(design()) {
   checkMouse(true);
 }
 
-void frmMenu::popUp(const forms::Form& owner, POINT screen) {
+void frmMenu::popUp(const forms::Form& owner, POINT screen, const forms::Widget& opener) {
   Form_GotFocus();
-  const forms::PopupMenu::Item* chosen = mnu_file.choose(owner, screen);
+  const forms::PopupMenu::Item* chosen = mnu_file.choose(owner, screen, &opener);
   Form_LostFocus();
   if (chosen != nullptr && chosen->onClick) chosen->onClick();
 }

@@ -12,7 +12,7 @@ class frmMenu : public forms::Form {
 
   /// Drops the menu down at a screen point and runs the chosen item. While the menu is open this
   /// form counts as having the focus.
-  void popUp(const forms::Form& owner, POINT screen);
+  void popUp(const forms::Form& owner, POINT screen, const forms::Widget& opener);
 
   /// The check mark of "鼠标取词".
   void checkMouse(bool checked);

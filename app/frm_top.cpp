@@ -25,11 +25,9 @@ forms::FormDesign design() {
   design.height = kDesignHeight;
   design.topmost = true;
   design.closable = false;
-  design.iconResource = IDI_APP;
+  design.iconResource = forms::kProgramIcon;
   return design;
 }
-
-constexpr std::u16string_view kIndexQuery = u"select word from edictidx order by word";
 
 }  // namespace
 
@@ -96,6 +94,9 @@ void frmTop::placeAtTopRight() {
 
 void frmTop::Form_Paint() { bringToTop(); }
 
+// A drag keeps the size that WindowRect holds, which another resolution changes.
+void frmTop::Form_Resize() { Get_Windows_Rect(); }
+
 void frmTop::Form_LostFocus() {
   // Losing the focus in the first milliseconds must not cost the program its index.
   if (!IdxPending) Timer1.setEnabled(false);
@@ -109,7 +110,7 @@ void frmTop::cmdHelp_Click() { app::showHelp(); }
 void frmTop::Command1_Click() {
   POINT corner{0, forms::toPixels(TopHeight - 30, dpi())};
   ClientToScreen(handle(), &corner);
-  forms::single<frmMenu>().popUp(*this, corner);
+  forms::single<frmMenu>().popUp(*this, corner, Command1);
 }
 
 void frmTop::cmdMouse_Click() {
@@ -163,8 +164,8 @@ void frmTop::Timer1_Timer() {
 }
 
 void frmTop::GetIdx() {
-  RunQuery(Adodc1, kIndexQuery);
-  user::IdxWords = data::readIndexWords(Adodc1);
+  RunQuery(Adodc1, data::kIndexQuery);
+  user::IdxWords = data::readIndexWords(Adodc1.recordset());
 }
 
 void frmTop::RunQuery(data::DataControl& control, std::u16string_view sql) {

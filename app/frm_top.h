@@ -36,6 +36,7 @@ class frmTop : public forms::Form {
  private:
   void Form_Load() override;
   void Form_Paint() override;
+  void Form_Resize() override;
   void Form_LostFocus() override;
   void cmdMain_Click();
   void cmdHelp_Click();

@@ -5,6 +5,9 @@
 /// The toolbar is the start object: loading it starts the program. The exit command ends it.
 int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*commandLine*/,
                     int /*show*/) {
+  // Whatever loads a library by its plain name finds it in the system directory or not at all.
+  SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
   forms::guard([] { forms::single<frmTop>(); });
+  if (!forms::isLoaded<frmTop>()) return 1;
   return forms::runMessageLoop();
 }

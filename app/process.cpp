@@ -8,9 +8,12 @@
 namespace app {
 
 bool claimOnlyInstance() {
-  // The last error has to be read before anything else runs: hence one expression a line.
-  static const HANDLE mutex = CreateMutexW(nullptr, FALSE, L"Local\\Lexilo.Instance");
-  static const bool first = mutex != nullptr && GetLastError() != ERROR_ALREADY_EXISTS;
+  // The mutex is kept, on purpose without an owner, until the process ends.
+  static const bool first = [] {
+    const HANDLE mutex = CreateMutexW(nullptr, FALSE, L"Local\\Lexilo.Instance");
+    const DWORD error = GetLastError();
+    return mutex != nullptr && error != ERROR_ALREADY_EXISTS;
+  }();
   return first;
 }
 

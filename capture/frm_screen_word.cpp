@@ -1,6 +1,7 @@
 #include "capture/frm_screen_word.h"
 
 #include "app/state.h"
+#include "forms/geometry.h"
 
 namespace {
 
@@ -16,11 +17,13 @@ forms::FormDesign design() {
   return design;
 }
 
-/// Twips left of and above every desktop: the host is shown for a moment at start-up.
-constexpr int kOffDesktop = -10000;
-
 }  // namespace
 
-frmScreenWord::frmScreenWord() : Form(design()) { setPosition(kOffDesktop, kOffDesktop); }
+frmScreenWord::frmScreenWord() : Form(design()) {
+  // The host is shown for a moment at start-up: left of and above all monitors.
+  const int left = forms::toTwips(GetSystemMetrics(SM_XVIRTUALSCREEN), dpi());
+  const int top = forms::toTwips(GetSystemMetrics(SM_YVIRTUALSCREEN), dpi());
+  setPosition(left - width(), top - height());
+}
 
 void frmScreenWord::Form_Load() { Adodc1.setConnectionString(user::ConnectionString); }

@@ -29,9 +29,10 @@ class BackwardScan {
 };
 
 Cell cellAt(sqlite3_stmt* statement, int column) {
+  if (sqlite3_column_type(statement, column) == SQLITE_NULL) return {};
   const std::int64_t integer = sqlite3_column_int64(statement, column);
   const void* text = sqlite3_column_text(statement, column);
-  if (text == nullptr) return {{}, integer};
+  if (text == nullptr) throw Error(SQLITE_NOMEM, sqlite3_errstr(SQLITE_NOMEM));
   const auto bytes = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
   return {std::string(static_cast<const char*>(text), bytes), integer};
 }
@@ -89,6 +90,7 @@ auto Database::withRecovery(Operation operation) {
     if (error.code() != SQLITE_READONLY_ROLLBACK) throw;
   }
   rollBackJournal();
+  deadline_ = std::chrono::steady_clock::now() + patience_.query;
   return operation();
 }
 

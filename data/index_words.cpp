@@ -9,9 +9,12 @@
 namespace data {
 
 IndexWords readIndexWords(DataControl& control) {
-  control.setRecordSource(u"select word from edictidx order by word");
+  control.setRecordSource(kIndexQuery);
   control.refresh();
-  RecordSet& rows = control.recordset();
+  return readIndexWords(control.recordset());
+}
+
+IndexWords readIndexWords(RecordSet& rows) {
   const std::size_t count = rows.recordCount();
   if (count > std::numeric_limits<std::int16_t>::max()) {
     throw std::overflow_error("more index words than a 16-bit number can count");

@@ -65,6 +65,10 @@ void Form::createWindow() {
     throwLastError();
   }
   dpi_ = static_cast<int>(GetDpiForWindow(handle_));
+  showIcons();
+}
+
+void Form::showIcons() {
   if (design_.iconResource == 0) return;
   bigIcon_ = loadIcon(design_.iconResource, SM_CXICON, dpi_);
   smallIcon_ = loadIcon(design_.iconResource, SM_CXSMICON, dpi_);
@@ -123,10 +127,10 @@ int Form::frameWidth() const { return design_.frame == Frame::borderless ? 0 : k
 
 int Form::frameHeight() const { return design_.frame == Frame::borderless ? 0 : kFrameHeight; }
 
-SIZE Form::outerPixels(int width, int height) const {
-  const SIZE frame = frameOf(styleOf(design_), exStyleOf(design_), dpi_);
-  return {toPixels(std::max(width - frameWidth(), 0), dpi_) + frame.cx,
-          toPixels(std::max(height - frameHeight(), 0), dpi_) + frame.cy};
+SIZE Form::outerPixels(int width, int height, int dpi) const {
+  const SIZE frame = frameOf(styleOf(design_), exStyleOf(design_), dpi);
+  return {toPixels(std::max(width - frameWidth(), 0), dpi) + frame.cx,
+          toPixels(std::max(height - frameHeight(), 0), dpi) + frame.cy};
 }
 
 void Form::setSize(int width, int height) {

@@ -102,6 +102,7 @@ class Form {
  private:
   static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void createWindow();
+  void showIcons();
   void createToolTip();
   void takeClientSize();
   void resized();
@@ -111,7 +112,10 @@ class Form {
   bool passToGrabber(UINT message, WPARAM wParam, LPARAM lParam);
   void limitTracking(MINMAXINFO& limits) const;
   void adjustPlacement(WINDOWPOS& position) const;
-  [[nodiscard]] SIZE outerPixels(int width, int height) const;
+  [[nodiscard]] SIZE outerPixels(int width, int height, int dpi) const;
+  [[nodiscard]] SIZE outerPixels(int width, int height) const {
+    return outerPixels(width, height, dpi_);
+  }
   [[nodiscard]] int frameWidth() const;
   [[nodiscard]] int frameHeight() const;
 

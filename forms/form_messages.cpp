@@ -67,6 +67,13 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DPICHANGED:
       rescale(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;
+    case WM_GETDPISCALEDSIZE:
+      // So that the size the system suggests is the one that rescale() sets.
+      *reinterpret_cast<SIZE*>(lParam) = outerPixels(width_, height_, static_cast<int>(wParam));
+      return TRUE;
+    case WM_SYSCOLORCHANGE:
+      for (const Widget* widget : widgets_) SendMessageW(widget->handle(), message, wParam, lParam);
+      return 0;
     case WM_SETCURSOR:
       if (mousePointer_ != nullptr && LOWORD(lParam) == HTCLIENT) {
         SetCursor(mousePointer_);
@@ -181,8 +188,11 @@ void Form::limitTracking(MINMAXINFO& limits) const {
 void Form::rescale(int dpi, const RECT& suggested) {
   dpi_ = dpi;
   resizedFor_ = {-1, -1};
+  showIcons();
   for (Widget* widget : widgets_) widget->rescale();
-  const SIZE outer = outerPixels(width_, height_);
+  const SIZE outer = IsZoomed(handle_) != FALSE
+                         ? SIZE{suggested.right - suggested.left, suggested.bottom - suggested.top}
+                         : outerPixels(width_, height_);
   SetWindowPos(handle_, nullptr, suggested.left, suggested.top, outer.cx, outer.cy,
                SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -7,7 +7,19 @@ std::size_t PopupMenu::add(const std::u16string& caption, std::function<void()> 
   return items_.size() - 1;
 }
 
-const PopupMenu::Item* PopupMenu::choose(const Form& owner, POINT screen) const {
+namespace {
+
+/// Takes a press of the left button that waits for `widget` out of the queue.
+void dropPress(const Widget& widget) {
+  MSG message;
+  while (PeekMessageW(&message, widget.handle(), WM_LBUTTONDOWN, WM_LBUTTONDOWN, PM_REMOVE)) {
+  }
+}
+
+}  // namespace
+
+const PopupMenu::Item* PopupMenu::choose(const Form& owner, POINT screen,
+                                         const Widget* opener) const {
   const OwnedMenu menu(CreatePopupMenu());
   for (std::size_t place = 0; place < items_.size(); ++place) {
     const Item& item = items_[place];
@@ -23,6 +35,7 @@ const PopupMenu::Item* PopupMenu::choose(const Form& owner, POINT screen) const 
   const auto chosen = static_cast<std::size_t>(TrackPopupMenuEx(
       menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screen.x, screen.y, owner.handle(), nullptr));
   PostMessageW(owner.handle(), WM_NULL, 0, 0);
+  if (opener != nullptr) dropPress(*opener);
   return chosen == 0 ? nullptr : &items_[chosen - 1];
 }
 

@@ -27,8 +27,11 @@ class PopupMenu {
   [[nodiscard]] std::size_t count() const { return items_.size(); }
 
   /// Shows the menu with its top left corner at a screen point and waits until the user has chosen
-  /// or left it. Returns the chosen item, or nullptr; its handler has not run yet.
-  [[nodiscard]] const Item* choose(const Form& owner, POINT screen) const;
+  /// or left it. Returns the chosen item, or nullptr; its handler has not run yet. A click on
+  /// `opener` that closes the menu does nothing further, so that the button that opened the menu
+  /// closes it too.
+  [[nodiscard]] const Item* choose(const Form& owner, POINT screen,
+                                   const Widget* opener = nullptr) const;
 
  private:
   std::vector<Item> items_;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "forms/form.h"
+#include "forms/geometry.h"
 #include "forms/system_error.h"
 #include "forms/text_positions.h"
 #include "forms/window_text.h"

@@ -5,10 +5,12 @@
 namespace forms {
 
 TreeView::TreeView(Form& form, const WidgetBox& box)
-    : Widget(form,
-             {WC_TREEVIEWW, TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_FULLROWSELECT | TVS_NOHSCROLL | WS_TABSTOP,
-              WS_EX_CLIENTEDGE},
-             box) {
+    : Widget(
+          form,
+          {WC_TREEVIEWW,
+           TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_FULLROWSELECT | TVS_NOHSCROLL | WS_TABSTOP,
+           WS_EX_CLIENTEDGE},
+          box) {
   onKeyDown[VK_RETURN] = [this] {
     if (const std::size_t node = selected(); node != 0) onNodeClick.raise(node);
   };

@@ -1,9 +1,9 @@
 #include "lookup/frm_sub.h"
 
-#include "app/resources/resource_ids.h"
 #include "app/state.h"
 #include "capture/screen_word.h"
 #include "forms/clipboard.h"
+#include "forms/geometry.h"
 #include "lookup/layout.h"
 #include "text/query_text.h"
 #include "text/trim.h"
@@ -17,7 +17,7 @@ forms::FormDesign design() {
   design.width = 3500;
   design.height = 3200;
   design.topmost = true;
-  design.iconResource = IDI_APP;
+  design.iconResource = forms::kProgramIcon;
   return design;
 }
 
@@ -66,7 +66,7 @@ void frmSub::wireMouse() {
   txtOut.onDragDrop = [this](forms::Widget& source, forms::Place place) {
     txtOut_DragDrop(source, place);
   };
-  txtOut.onRightMouseUp = [this](forms::Place) { txtOut_MouseUp(); };
+  txtOut.onRightMouseUp = [this](forms::Place place) { txtOut_MouseUp(place); };
 }
 
 void frmSub::wireKeys() {
@@ -152,13 +152,13 @@ void frmSub::txtOut_DragDrop(const forms::Widget& source, forms::Place place) {
   placeListAndPane();
 }
 
-void frmSub::txtOut_MouseUp() {
+void frmSub::txtOut_MouseUp(forms::Place place) {
   const bool selected = txtOut.selLength() != 0;
   mnuOper.item(mnuSearch_).enabled = selected;
   mnuOper.item(mnuCopy_).enabled = selected;
-  POINT pointer{};
-  GetCursorPos(&pointer);
-  if (const auto* chosen = mnuOper.choose(*this, pointer)) chosen->onClick();
+  POINT point{forms::toPixels(place.x, dpi()), forms::toPixels(place.y, dpi())};
+  ClientToScreen(txtOut.handle(), &point);
+  if (const auto* chosen = mnuOper.choose(*this, point)) chosen->onClick();
 }
 
 void frmSub::mnuSearch_Click() {

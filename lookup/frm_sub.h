@@ -55,7 +55,7 @@ class frmSub : public forms::Form {
   void TreeView1_NodeClick(std::size_t node);
   void TreeView1_DragDrop(const forms::Widget& source, forms::Place place);
   void txtOut_DragDrop(const forms::Widget& source, forms::Place place);
-  void txtOut_MouseUp();
+  void txtOut_MouseUp(forms::Place place);
   void Image1_MouseMove();
   void Image1_MouseDown();
   void mnuSearch_Click();

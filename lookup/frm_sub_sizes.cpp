@@ -1,6 +1,7 @@
 #include <stdexcept>
 
 #include "lookup/frm_sub.h"
+#include "lookup/layout.h"
 #include "settings/settings_file.h"
 #include "settings/settings_rules.h"
 #include "text/utf.h"
@@ -17,6 +18,12 @@ std::u16string decimal(int number) {
   return {digits.begin(), digits.end()};
 }
 
+std::runtime_error unusable(const std::u16string& key, const std::u16string& value,
+                            const std::u16string& file) {
+  return std::runtime_error(
+      text::toUtf8(u"设置文件中 " + key + u" 的值“" + value + u"”无法使用：" + file));
+}
+
 }  // namespace
 
 void frmSub::readSizes() {
@@ -24,6 +31,9 @@ void frmSub::readSizes() {
   const int windowWidth = readSize(kWindowWidth, 3500);
   const int windowHeight = readSize(kWindowHeight, 3200);
   const int treeWidth = readSize(kTreeWidth, 2000);
+  if (!lookup::leavesRoomForPane({windowWidth, windowHeight}, treeWidth)) {
+    throw unusable(kTreeWidth, decimal(treeWidth), settingsPath_);
+  }
   setSize(width(), windowHeight);
   setSize(windowWidth, height());
   TreeView1.setWidth(treeWidth);
@@ -33,10 +43,7 @@ int frmSub::readSize(const std::u16string& key, int fallback) const {
   const std::u16string value = user::getINIProfileString(kSection, key, {}, settingsPath_);
   if (value.empty() || value == settingsPath_) return fallback;
   const auto size = user::toInteger16(value);
-  if (!size || *size < 0) {
-    throw std::runtime_error(
-        text::toUtf8(u"设置文件中 " + key + u" 的值“" + value + u"”无法使用：" + settingsPath_));
-  }
+  if (!size || *size < 0) throw unusable(key, value, settingsPath_);
   return *size;
 }
 

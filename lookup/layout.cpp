@@ -32,6 +32,10 @@ Layout layOut(Size window, int listWidth) {
   return layout;
 }
 
+bool leavesRoomForPane(Size window, int listWidth) {
+  return layOut(snapSize(window), listWidth).pane.width > 0;
+}
+
 int widthAfterDropOnList(int x) { return x < kNarrowestDrop ? kNarrowestDrop : x - kMargin; }
 
 int widthAfterDropOnPane(int windowWidth, int listWidth, int x) {

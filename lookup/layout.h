@@ -35,6 +35,9 @@ struct Layout {
 };
 Layout layOut(Size window, int listWidth);
 
+/// Whether a list of `listWidth` leaves room for the splitter and some of the pane.
+bool leavesRoomForPane(Size window, int listWidth);
+
 /// List width after the splitter is dropped on the list, `x` twips from the list's left edge.
 int widthAfterDropOnList(int x);
 
