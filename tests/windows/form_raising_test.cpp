@@ -12,9 +12,6 @@ class FormRaising : public WindowTest {
   bool otherKeepsTheFocus() {
     return allAlong([this] { return other.isForeground() && GetActiveWindow() == nullptr; }, 60);
   }
-  static bool isTopmost(const forms::Form& form) {
-    return (GetWindowLongPtrW(form.handle(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
-  }
 
   OtherProgram other;
 };
@@ -29,7 +26,7 @@ TEST_F(FormRaising, ATopmostFormNeverTakesTheFocusByIt) {
   EXPECT_TRUE(otherKeepsTheFocus());
   SetWindowPos(form.handle(), HWND_TOPMOST, 0, 0, 0, 0, kRaise | SWP_SHOWWINDOW);
   EXPECT_TRUE(otherKeepsTheFocus());
-  EXPECT_TRUE(isTopmost(form));
+  EXPECT_TRUE(isTopmost(form.handle()));
 }
 
 TEST_F(FormRaising, MovesAndSizesNothing) {
@@ -52,7 +49,7 @@ TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenShown) {
   EXPECT_TRUE(otherKeepsTheFocus());
   SetWindowPos(form.handle(), HWND_TOPMOST, 10, 10, 80, 5, SWP_SHOWWINDOW);
   EXPECT_TRUE(otherKeepsTheFocus());
-  EXPECT_TRUE(isTopmost(form));
+  EXPECT_TRUE(isTopmost(form.handle()));
 }
 
 TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenClicked) {
@@ -69,17 +66,16 @@ TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenClicked) {
 
 TEST_F(FormRaising, ANeverActiveFormHasNoTaskbarButton) {
   plan<'A'>().design.neverActive = true;
-  const LONG_PTR style = GetWindowLongPtrW(forms::single<FormA>().handle(), GWL_EXSTYLE);
-  EXPECT_NE(style & WS_EX_TOOLWINDOW, 0);
-  EXPECT_NE(style & WS_EX_NOACTIVATE, 0);
-  EXPECT_EQ(style & WS_EX_APPWINDOW, 0);
+  HWND window = forms::single<FormA>().handle();
+  EXPECT_TRUE(isToolWindow(window));
+  EXPECT_TRUE(refusesActivation(window));
 }
 
 TEST_F(FormRaising, AFormWithoutTaskbarButtonIsAToolWindowThatTakesTheFocus) {
   plan<'A'>().design.taskbarButton = false;
   auto& form = opened<FormA>();
-  EXPECT_NE(GetWindowLongPtrW(form.handle(), GWL_EXSTYLE) & WS_EX_TOOLWINDOW, 0);
-  EXPECT_EQ(GetWindowLongPtrW(form.handle(), GWL_EXSTYLE) & WS_EX_NOACTIVATE, 0);
+  EXPECT_TRUE(isToolWindow(form.handle()));
+  EXPECT_FALSE(refusesActivation(form.handle()));
 }
 
 TEST_F(FormRaising, TypingIsNotDisturbedByAHundredRepaints) {

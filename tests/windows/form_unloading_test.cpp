@@ -14,8 +14,8 @@ TEST_F(FormUnloading, RunsUnloadBeforeTheWindowGoes) {
   bool windowStood = false;
   bool boxStood = false;
   plan<'A'>().unload = [&] {
-    windowStood = IsWindow(window) && IsWindowVisible(window);
-    boxStood = IsWindow(box) && form.first.text().empty();
+    windowStood = IsWindowVisible(window) != FALSE;
+    boxStood = IsWindow(box) != FALSE && form.first.text().empty();
   };
   form.unload();
   EXPECT_TRUE(windowStood);

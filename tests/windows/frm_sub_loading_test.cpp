@@ -22,7 +22,7 @@ TEST_F(FrmSubLoading, HasItsCaptionsAndStandsAboveAll) {
   EXPECT_EQ(forms::windowText(form.handle()), u"速查 V1.3");
   EXPECT_EQ(forms::windowText(form.Label1.handle()), u"输入：");
   EXPECT_EQ(forms::windowText(form.cmdExit.handle()), u"退出");
-  EXPECT_NE(GetWindowLongPtrW(form.handle(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+  EXPECT_TRUE(isTopmost(form.handle()));
   EXPECT_EQ(GetMenu(form.handle()), nullptr);
   LOGFONTW font{};
   GetObjectW(reinterpret_cast<HFONT>(SendMessageW(form.txtInput.handle(), WM_GETFONT, 0, 0)),

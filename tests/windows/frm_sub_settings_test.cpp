@@ -83,6 +83,12 @@ TEST_F(FrmSubSettings, TheCloseBoxStoresThemToo) {
   expectStored(L"7001", L"5502", L"2000");
 }
 
+TEST_F(FrmSubSettings, TheEndOfTheSessionStoresThemToo) {
+  open().setSize(7001, 5502);
+  SendMessageW(sub().handle(), WM_ENDSESSION, TRUE, 0);
+  expectStored(L"7001", L"5502", L"2000");
+}
+
 TEST_F(FrmSubSettings, OpeningAndClosingChangesNoSize) {
   store(L"6005", L"5003", L"2107");
   for (int i = 0; i < 3; ++i) {

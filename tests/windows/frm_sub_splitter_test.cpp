@@ -114,6 +114,38 @@ TEST_F(FrmSubSplitter, AClickBesideTheDragStillChoosesWords) {
   EXPECT_TRUE(eventually([] { return sub().TreeView1.selected() == 2; }));
 }
 
+TEST_F(FrmSubSplitter, CanBeTakenHoldOfBesideItsThinLine) {
+  openAt(5000, 4000, L"2100");
+  frmSub& form = open();
+  const POINT target = inWidget(form.TreeView1, 1800, 1500);
+  for (const int beside : {-2, 3}) {
+    const RECT line = rectOf(form.Image1.handle());
+    input::moveTo({line.left + beside, centreOf(line).y});
+    forms::doEvents();
+    input::pressLeft();
+    EXPECT_TRUE(eventually([&] { return form.Image1.isDragged(); }));
+    input::releaseLeft();
+    EXPECT_TRUE(eventually([&] { return !form.Image1.isDragged(); }));
+  }
+  const RECT line = rectOf(form.Image1.handle());
+  input::moveTo({line.left - 2, target.y});
+  input::pressLeft();
+  forms::doEvents();
+  input::moveTo(target);
+  forms::doEvents();
+  input::releaseLeft();
+  EXPECT_TRUE(eventually([&] { return form.TreeView1.width() == 1770; }));
+}
+
+TEST_F(FrmSubSplitter, TwoDragsInQuickSuccessionBothCount) {
+  openAt(5000, 4000, L"2100");
+  frmSub& form = open();
+  dropAt(inWidget(form.txtOut, 15, 1500));
+  expectPlaced(2115);
+  dropAt(inWidget(form.txtOut, 15, 1500));
+  expectPlaced(2130);
+}
+
 TEST_F(FrmSubSplitter, ThePointerShowsWhereItCanBeDragged) {
   openAt(5000, 4000, L"2100");
   frmSub& form = open();

@@ -121,9 +121,8 @@ TEST_F(FrmTopStart, TheHostOfCaptureIsLoadedAndHidden) {
   EXPECT_EQ(host().timScreenWord1.interval(), 100);
   EXPECT_EQ(host().timScreenWord2.interval(), 60'000);
   EXPECT_EQ(host().Timer1.interval(), 5);
-  const LONG_PTR style = GetWindowLongPtrW(host().handle(), GWL_EXSTYLE);
-  EXPECT_NE(style & WS_EX_NOACTIVATE, 0);
-  EXPECT_NE(style & WS_EX_TOOLWINDOW, 0);
+  EXPECT_TRUE(isToolWindow(host().handle()));
+  EXPECT_TRUE(refusesActivation(host().handle()));
 }
 
 TEST_F(FrmTopStart, KeepsTheFocusThroughIt) {

@@ -156,8 +156,7 @@ TEST_F(MessageBoxTest, StandsAboveOurTopmostWindows) {
   plan<'A'>().design.topmost = true;
   opened<FormA>();
   bool above = false;
-  boxes.whileUp(
-      [&](HWND box) { above = (GetWindowLongPtrW(box, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; });
+  boxes.whileUp([&](HWND box) { above = isTopmost(box); });
   forms::showMessage(u"…", forms::MessageIcon::none);
   EXPECT_EQ(boxes.take().size(), 1U);
   EXPECT_TRUE(above);

@@ -22,6 +22,21 @@ inline POINT centreOf(const RECT& rect) {
 
 inline POINT centreOf(const forms::Widget& widget) { return centreOf(rectOf(widget.handle())); }
 
+inline bool isTopmost(HWND window) {
+  return (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+}
+
+/// Whether a window has neither a taskbar button nor a place in Alt+Tab.
+inline bool isToolWindow(HWND window) {
+  const LONG_PTR style = GetWindowLongPtrW(window, GWL_EXSTYLE);
+  return (style & WS_EX_TOOLWINDOW) != 0 && (style & WS_EX_APPWINDOW) == 0;
+}
+
+/// Whether no click activates a window.
+inline bool refusesActivation(HWND window) {
+  return (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_NOACTIVATE) != 0;
+}
+
 /// Whether top-level window `upper` lies above `lower` on the screen.
 inline bool isAbove(HWND upper, HWND lower) {
   for (HWND window = upper; window != nullptr; window = GetWindow(window, GW_HWNDNEXT)) {
