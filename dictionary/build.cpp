@@ -6,15 +6,14 @@
 
 #include "dictionary/block_choice.h"
 #include "dictionary/build_report.h"
-#include "dictionary/check.h"
 #include "dictionary/database_writer.h"
 #include "dictionary/failure.h"
+#include "dictionary/install.h"
 #include "dictionary/pair_collector.h"
 #include "dictionary/paths.h"
 #include "dictionary/progress.h"
 #include "dictionary/source_reader.h"
 #include "dictionary/subject_collector.h"
-#include "dictionary/temporary_file.h"
 
 namespace dictionary {
 namespace {
@@ -28,7 +27,9 @@ class Builder {
 
   void readSource(std::istream& stream);
   void arrangeContent();
-  void write(const std::filesystem::path& target);
+  void install(const std::filesystem::path& target) {
+    installDatabase(content_, target, log_, progress_);
+  }
   void printReport() const { report_.print(log_); }
 
  private:
@@ -87,21 +88,6 @@ void Builder::arrangeContent() {
   progress_.tell(grouped(content_.general.edict.size()) + " pairs chosen");
 }
 
-void Builder::write(const std::filesystem::path& target) {
-  const TemporaryFile temporary(target);
-  writeDatabase(content_, temporary.path());
-  progress_.tell("database written");
-  const CheckResult check = checkDatabase(temporary.path());
-  if (!check.findings.empty()) {
-    check.findings.print(log_);
-    throw Failure("the new database breaks the rules above; " + displayName(target) +
-                  " stays as it was");
-  }
-  progress_.tell("database checked");
-  temporary.replace(target);
-  progress_.tell(displayName(target) + " is ready");
-}
-
 }  // namespace
 
 void buildDatabase(const std::filesystem::path& source, const std::filesystem::path& target,
@@ -112,7 +98,7 @@ void buildDatabase(const std::filesystem::path& source, const std::filesystem::p
   Builder builder(log);
   builder.readSource(stream);
   builder.arrangeContent();
-  builder.write(target);
+  builder.install(target);
   builder.printReport();
 }
 

@@ -35,7 +35,7 @@ CheckResult checkDatabase(const std::filesystem::path& file) {
         data::openConnection(utf8Path(file), data::Access::kRead, std::chrono::seconds(1));
     return checkOpened(connection.get());
   } catch (const data::Error& error) {
-    throw unreadable(file, error);
+    throwUnreadable(file, error);
   }
 }
 

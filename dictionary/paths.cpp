@@ -2,6 +2,8 @@
 
 #include <system_error>
 
+#include "dictionary/failure.h"
+
 namespace dictionary {
 
 std::string utf8Path(const std::filesystem::path& path) {
@@ -22,8 +24,8 @@ void requireFile(const std::filesystem::path& path) {
   }
 }
 
-Failure unreadable(const std::filesystem::path& database, const data::Error& error) {
-  return Failure(displayName(database) + " cannot be read as a dictionary: " + error.what());
+void throwUnreadable(const std::filesystem::path& database, const data::Error& error) {
+  throw Failure(displayName(database) + " cannot be read as a dictionary: " + error.what());
 }
 
 }  // namespace dictionary

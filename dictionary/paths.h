@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "data/error.h"
-#include "dictionary/failure.h"
 
 namespace dictionary {
 
@@ -21,7 +20,7 @@ std::string displayName(const std::filesystem::path& path);
 /// Throws Failure unless there is a file of that name.
 void requireFile(const std::filesystem::path& path);
 
-/// What to say about a database that the engine cannot read.
-Failure unreadable(const std::filesystem::path& database, const data::Error& error);
+/// Throws Failure for a database that the engine cannot read.
+[[noreturn]] void throwUnreadable(const std::filesystem::path& database, const data::Error& error);
 
 }  // namespace dictionary

@@ -62,7 +62,7 @@ LookupResult lookUp(const std::filesystem::path& database, std::u16string_view w
   try {
     return lookUpIn(database, word);
   } catch (const data::Error& error) {
-    throw unreadable(database, error);
+    throwUnreadable(database, error);
   }
 }
 

@@ -47,9 +47,9 @@ Vocabulary vocabularyOf(std::vector<Word> words) {
                                   static_cast<std::uint8_t>(std::min<std::size_t>(i, 255))});
     }
   }
-  const std::size_t count = vocabulary.pairs.size();
+  const std::size_t count = std::max<std::size_t>(vocabulary.pairs.size(), 1);
   std::size_t step = 7919;
-  while (count > 0 && std::gcd(step, count) != 1) ++step;
+  while (std::gcd(step, count) != 1) ++step;
   for (Pair& pair : vocabulary.pairs) {
     pair.chinese = static_cast<std::uint32_t>(pair.chinese * step % count);
   }

@@ -26,18 +26,21 @@ StockBefore stockOf(const std::vector<PairStock>& units) {
 
 StockBefore wanted(const std::vector<std::size_t>& sizes) {
   std::vector<PairStock> units;
+  units.reserve(sizes.size());
   for (const std::size_t size : sizes) units.push_back({size, 0, 0});
   return stockOf(units);
 }
 
 std::vector<std::size_t> unitsOf(const std::vector<BlockCut>& cuts) {
   std::vector<std::size_t> units;
+  units.reserve(cuts.size());
   for (const BlockCut& cut : cuts) units.push_back(cut.unit);
   return units;
 }
 
 std::vector<std::size_t> rowsOf(const std::vector<BlockCut>& cuts) {
   std::vector<std::size_t> rows;
+  rows.reserve(cuts.size());
   for (const BlockCut& cut : cuts) rows.push_back(cut.rows);
   return rows;
 }
@@ -64,8 +67,8 @@ TEST(ChooseCuts, GivesUpAsFewWantedPairsAsPossible) {
 }
 
 TEST(ChooseCuts, SharesTheSparePairsOut) {
-  std::vector<PairStock> units;
-  for (int i = 0; i < 100; ++i) units.push_back({1, i % 2 == 0 ? 1U : 0U, 0});
+  std::vector<PairStock> units(100);
+  for (std::size_t i = 0; i < units.size(); ++i) units[i] = {1, i % 2 == 0 ? 1U : 0U, 0};
   const std::vector<BlockCut> cuts = chooseCuts(stockOf(units), 12, 10);
   for (std::size_t i = 0; i + 1 < cuts.size(); ++i) {
     const std::size_t taken = cuts[i + 1].unit - cuts[i].unit;

@@ -9,6 +9,7 @@
 
 #include "dictionary/check.h"
 #include "dictionary/failure.h"
+#include "dictionary/install.h"
 #include "tests/unit/support/sample_database.h"
 #include "tests/unit/support/small_dictionary.h"
 #include "tests/unit/support/temp_folder.h"
@@ -76,6 +77,23 @@ TEST(BuildDatabase, KeepsTheFormerDatabaseWhenTheSourceIsNoGood) {
   EXPECT_NE(failureOf(folder.file(u"short.csv"), folder.file(u"kk.dat")), "");
   EXPECT_EQ(support::readFile(folder.file(u"kk.dat")), "former");
   EXPECT_EQ(support::entryCount(folder.path()), 4);
+}
+
+TEST(InstallDatabase, RefusesContentThatBreaksARule) {
+  const TempFolder folder;
+  support::writeFile(folder.file(u"kk.dat"), "former");
+  dictionary::DatabaseContent content;
+  content.vocabulary.english = {u"zoo", u"ant"};
+  content.vocabulary.chinese = {u"动物园", u"蚁"};
+  content.general.edict = {{0, 1}, {1, 2}};
+  content.general.cdict = {{0, 1}, {1, 2}};
+  std::ostringstream log;
+  dictionary::Progress progress(log);
+  EXPECT_THROW(dictionary::installDatabase(content, folder.file(u"kk.dat"), log, progress),
+               dictionary::Failure);
+  EXPECT_NE(log.str().find(dictionary::describe(dictionary::Rule::kOrder)), std::string::npos);
+  EXPECT_EQ(support::readFile(folder.file(u"kk.dat")), "former");
+  EXPECT_EQ(support::entryCount(folder.path()), 1);
 }
 
 TEST(BuildDatabase, LeavesATargetThatCannotBeReplaced) {
