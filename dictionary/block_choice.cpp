@@ -4,73 +4,18 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <numeric>
-#include <span>
 #include <string>
-#include <string_view>
 #include <tuple>
 
 #include "dictionary/block_cuts.h"
 #include "dictionary/failure.h"
+#include "dictionary/pair_sequence.h"
 #include "dictionary/row_exchange.h"
-#include "text/order.h"
 
 namespace dictionary {
 namespace {
 
-using PairIndex = std::uint32_t;
-
 constexpr Tier kLastTier = static_cast<Tier>(kTierCount - 1);
-
-/// The pairs in one language's order, and where its units begin in that order.
-struct Sequence {
-  std::vector<PairIndex> order;
-  std::vector<std::size_t> unitBegins;  ///< and the end of the last
-
-  [[nodiscard]] std::span<const PairIndex> unit(std::size_t index) const {
-    return std::span(order).subspan(unitBegins[index], unitBegins[index + 1] - unitBegins[index]);
-  }
-  [[nodiscard]] std::size_t unitCount() const { return unitBegins.size() - 1; }
-};
-
-/// Whether two headwords that follow each other must stay in one block. The bound step searches
-/// with every apostrophe doubled, which sorts before all words that are the same up to the first.
-bool sharesApostrophe(std::u16string_view a, std::u16string_view b) {
-  const std::size_t apostrophe = a.find(u'\'');
-  return apostrophe != std::u16string_view::npos &&
-         text::equal(a.substr(0, apostrophe + 1), b.substr(0, apostrophe + 1));
-}
-
-Sequence englishSequence(const Vocabulary& vocabulary) {
-  const std::vector<Pair>& pairs = vocabulary.pairs;
-  Sequence sequence;
-  sequence.order.resize(pairs.size());
-  std::iota(sequence.order.begin(), sequence.order.end(), 0U);
-  for (std::size_t i = 0; i < pairs.size(); ++i) {
-    const bool together = i > 0 && (pairs[i].english == pairs[i - 1].english ||
-                                    sharesApostrophe(vocabulary.english[pairs[i - 1].english],
-                                                     vocabulary.english[pairs[i].english]));
-    if (!together) sequence.unitBegins.push_back(i);
-  }
-  sequence.unitBegins.push_back(pairs.size());
-  return sequence;
-}
-
-Sequence chineseSequence(const Vocabulary& vocabulary) {
-  const std::vector<Pair>& pairs = vocabulary.pairs;
-  Sequence sequence;
-  sequence.order.resize(pairs.size());
-  std::iota(sequence.order.begin(), sequence.order.end(), 0U);
-  std::ranges::sort(sequence.order, {},
-                    [&](PairIndex index) { return std::tuple(pairs[index].chinese, index); });
-  for (std::size_t i = 0; i < pairs.size(); ++i) {
-    if (i == 0 || pairs[sequence.order[i]].chinese != pairs[sequence.order[i - 1]].chinese) {
-      sequence.unitBegins.push_back(i);
-    }
-  }
-  sequence.unitBegins.push_back(pairs.size());
-  return sequence;
-}
 
 /// One choice on its way.
 class Choice {
@@ -86,16 +31,16 @@ class Choice {
   std::vector<bool> run();
 
  private:
-  void barBeyond(const Sequence& sequence, std::size_t limit);
+  void barBeyond(const PairSequence& sequence, std::size_t limit);
   std::vector<PairIndex> beyondBest(std::vector<PairIndex> group, std::size_t limit) const;
   [[nodiscard]] Tier tierAtRow(std::size_t rows) const;
-  [[nodiscard]] StockBefore stockOf(const Sequence& sequence, Tier spare) const;
-  BlockPlan planOf(const Sequence& sequence, const std::vector<BlockCut>& cuts);
+  [[nodiscard]] StockBefore stockOf(const PairSequence& sequence, Tier spare) const;
+  BlockPlan planOf(const PairSequence& sequence, const std::vector<BlockCut>& cuts);
 
   const std::vector<Pair>& pairs_;
   LookupLimits limits_;
-  Sequence english_;
-  Sequence chinese_;
+  PairSequence english_;
+  PairSequence chinese_;
   std::vector<bool> barred_;  ///< pairs that can have no row
   std::vector<bool> kept_;
 };
@@ -111,7 +56,7 @@ std::vector<PairIndex> Choice::beyondBest(std::vector<PairIndex> group, std::siz
 }
 
 /// Bars what any unit has beyond `limit` pairs.
-void Choice::barBeyond(const Sequence& sequence, std::size_t limit) {
+void Choice::barBeyond(const PairSequence& sequence, std::size_t limit) {
   for (std::size_t unit = 0; unit < sequence.unitCount(); ++unit) {
     if (sequence.unit(unit).size() <= limit) continue;
     std::vector<PairIndex> group;
@@ -136,7 +81,7 @@ Tier Choice::tierAtRow(std::size_t rows) const {
 }
 
 /// What stands before each unit: pairs above the tier `spare` are wanted, those below in reserve.
-StockBefore Choice::stockOf(const Sequence& sequence, Tier spare) const {
+StockBefore Choice::stockOf(const PairSequence& sequence, Tier spare) const {
   StockBefore stock = {PairStock()};
   stock.reserve(sequence.unitBegins.size());
   for (std::size_t unit = 0; unit < sequence.unitCount(); ++unit) {
@@ -152,7 +97,7 @@ StockBefore Choice::stockOf(const Sequence& sequence, Tier spare) const {
 }
 
 /// The blocks between the cuts; what is kept beyond their rows goes.
-BlockPlan Choice::planOf(const Sequence& sequence, const std::vector<BlockCut>& cuts) {
+BlockPlan Choice::planOf(const PairSequence& sequence, const std::vector<BlockCut>& cuts) {
   BlockPlan plan;
   plan.blockOf.resize(pairs_.size());
   for (std::size_t block = 0; block + 1 < cuts.size(); ++block) {

@@ -21,7 +21,7 @@ constexpr std::uint64_t kJoinLoss = 400 * kUnit;
 
 std::uint64_t total(const PairStock& stock) { return stock.wanted + stock.spare + stock.reserve; }
 
-/// The task: the sequence, the rows of a block, and the share of the spare pairs that is needed.
+/// What is to be divided: the sequence, the rows of a block, the share of spare pairs needed.
 class CutSearch {
  public:
   CutSearch(const StockBefore& stock, std::size_t blocks, std::size_t blockRows,

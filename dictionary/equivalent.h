@@ -27,9 +27,7 @@ struct Equivalent {
   PieceFault fault = PieceFault::kNone;
 };
 
-/// Makes a Chinese headword of a piece: notes deleted, wide forms narrowed, dots and blanks
-/// trimmed. The foreign words that an abbreviation stands for are dropped from in front of their
-/// translation, a single one only if `abbreviation` says that the piece translates one.
+/// Makes a Chinese headword of a piece (see headwordText), or says why there is none.
 Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation);
 
 /// Whether no lost or forbidden character stands in `text`.
