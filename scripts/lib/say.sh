@@ -29,14 +29,16 @@ pause() {
   sleep "$1" >/dev/null 2>&1
 }
 
-# Announces a step that has been running for a second, then its progress every ten seconds.
+# Announces a step that has been running for a second, then its progress: every ten seconds, after a
+# minute every thirty.
 announce() {
-  local title=$1 log=$2 seconds=1
+  local title=$1 log=$2 seconds=1 rest=10
   pause 1
   say "$title ..."
   while true; do
-    pause 10
-    seconds=$((seconds + 10))
+    ((seconds < 60)) || rest=30
+    pause "$rest"
+    seconds=$((seconds + rest))
     say "  $seconds s: $(last_line "$log")"
   done
 }
