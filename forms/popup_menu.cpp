@@ -9,10 +9,11 @@ std::size_t PopupMenu::add(const std::u16string& caption, std::function<void()> 
 
 namespace {
 
-/// Takes a press of the left button that waits for `widget` out of the queue.
+/// Takes a press of the left button that waits for `widget` out of the queue, and its release. Soon
+/// after another it is a double click, which a range for the press alone would leave there.
 void dropPress(const Widget& widget) {
   MSG message;
-  while (PeekMessageW(&message, widget.handle(), WM_LBUTTONDOWN, WM_LBUTTONDOWN, PM_REMOVE)) {
+  while (PeekMessageW(&message, widget.handle(), WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, PM_REMOVE)) {
   }
 }
 
