@@ -64,6 +64,18 @@ TEST(Layout, ThePaneBeginsWhereTheSplitterEnds) {
   }
 }
 
+TEST(Layout, AListLeavesRoomForThePaneUpTo200TwipsLess) {
+  EXPECT_TRUE(lookup::leavesRoomForPane({5000, 4000}, 2100));
+  EXPECT_TRUE(lookup::leavesRoomForPane({5000, 4000}, 4799));
+  EXPECT_FALSE(lookup::leavesRoomForPane({5000, 4000}, 4800));
+  EXPECT_FALSE(lookup::leavesRoomForPane({5000, 4000}, 32767));
+}
+
+TEST(Layout, TheRoomIsThatOfTheSnappedWindow) {
+  EXPECT_TRUE(lookup::leavesRoomForPane({0, 0}, 3299));
+  EXPECT_FALSE(lookup::leavesRoomForPane({0, 0}, 3300));
+}
+
 TEST(DropOnTheList, Below1600Gives1600) {
   EXPECT_EQ(widthAfterDropOnList(0), 1600);
   EXPECT_EQ(widthAfterDropOnList(-50), 1600);

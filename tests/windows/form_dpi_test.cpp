@@ -71,6 +71,16 @@ TEST_F(FormDpi, TheSystemsOwnFontFollowsToo) {
   EXPECT_NEAR(fontHeight(form.second), 2 * font, 1);
 }
 
+TEST_F(FormDpi, TellsTheSystemTheSizeItWillHave) {
+  auto& form = opened<FormA>();
+  SIZE size{1, 1};
+  EXPECT_TRUE(
+      SendMessageW(form.handle(), WM_GETDPISCALEDSIZE, 144, reinterpret_cast<LPARAM>(&size)));
+  EXPECT_EQ(size.cx, forms::toPixels(4500, 144));
+  EXPECT_EQ(size.cy, forms::toPixels(3000, 144));
+  EXPECT_EQ(form.dpi(), 96);
+}
+
 TEST_F(FormDpi, PlacesUnderTheMouseAreTwips) {
   auto& form = opened<FormA>();
   moveToMonitorOf(144, form);

@@ -72,6 +72,20 @@ TEST_F(FrmMenu, AClickElsewhereClosesItLikeEsc) {
   EXPECT_TRUE(eventually([] { return captureRuns(); }));
 }
 
+TEST_F(FrmMenu, TheButtonThatOpenedItClosesIt) {
+  start();
+  withMenu([](HWND) { input::click(centreOf(top().Command1)); });
+  EXPECT_TRUE(allAlong([] { return openMenu() == nullptr; }, 100));
+  EXPECT_TRUE(captureRuns());
+  // And opens it again.
+  bool opened = false;
+  withMenu([&](HWND) {
+    opened = true;
+    input::key(VK_ESCAPE);
+  });
+  EXPECT_TRUE(opened);
+}
+
 TEST_F(FrmMenu, ChoosingTheMouseSwitchesCaptureOff) {
   start();
   chooseFromMenu(kMouse);

@@ -89,6 +89,40 @@ TEST_F(FrmSubPaneMenu, EscAndAClickElsewhereChangeNothing) {
   EXPECT_EQ(form.txtOut.selLength(), 2U);
 }
 
+TEST_F(FrmSubPaneMenu, TheMenuKeyOpensItInsideThePane) {
+  open().txtInput.setText(u"data");
+  sub().txtOut.setFocus();
+  RECT menu{};
+  const Watcher user([&] {
+    HWND window = openMenu();
+    if (window == nullptr) return false;
+    menu = rectOf(window);
+    input::key(VK_ESCAPE);
+    return true;
+  });
+  input::key(VK_F10, {VK_SHIFT});
+  ASSERT_TRUE(eventually([&] { return user.done() && openMenu() == nullptr; }));
+  const RECT pane = rectOf(sub().txtOut.handle());
+  EXPECT_TRUE(PtInRect(&pane, {menu.left, menu.top}));
+}
+
+TEST_F(FrmSubPaneMenu, TheMouseOpensItUnderThePointer) {
+  open();
+  RECT menu{};
+  const Watcher user([&] {
+    HWND window = openMenu();
+    if (window == nullptr) return false;
+    menu = rectOf(window);
+    input::key(VK_ESCAPE);
+    return true;
+  });
+  const POINT point = centreOf(sub().txtOut);
+  input::rightClick(point);
+  ASSERT_TRUE(eventually([&] { return user.done() && openMenu() == nullptr; }));
+  EXPECT_NEAR(menu.left, point.x, 1);
+  EXPECT_NEAR(menu.top, point.y, 1);
+}
+
 TEST_F(FrmSubPaneMenu, ALeftClickOpensNoMenu) {
   open();
   input::click(centreOf(sub().txtOut));

@@ -132,6 +132,11 @@ TEST_F(FrmSubSettings, ANegativeValueIsRefused) {
   expectRefused();
 }
 
+TEST_F(FrmSubSettings, AListThatLeavesThePaneNoRoomIsRefused) {
+  store(L"5000", L"4000", L"4800");
+  expectRefused();
+}
+
 TEST_F(FrmSubSettings, ClosedWhileMinimisedItKeepsItsRestoredSizes) {
   store(L"6000", L"5000", L"2100");
   open();

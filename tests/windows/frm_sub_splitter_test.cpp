@@ -1,4 +1,5 @@
 #include "tests/windows/support/frm_sub_test.h"
+#include "tests/windows/support/open_menu.h"
 
 namespace wintest {
 namespace {
@@ -135,6 +136,20 @@ TEST_F(FrmSubSplitter, CanBeTakenHoldOfBesideItsThinLine) {
   forms::doEvents();
   input::releaseLeft();
   EXPECT_TRUE(eventually([&] { return form.TreeView1.width() == 1770; }));
+}
+
+TEST_F(FrmSubSplitter, AnyButtonDragsItAndOpensNoMenu) {
+  openAt(5000, 4000, L"2100");
+  frmSub& form = open();
+  input::moveTo(centreOf(form.Image1));
+  input::pressRight();
+  ASSERT_TRUE(eventually([&] { return form.Image1.isDragged(); }));
+  input::moveTo(inWidget(form.txtOut, 15, 1500));
+  forms::doEvents();
+  input::releaseRight();
+  ASSERT_TRUE(eventually([&] { return !form.Image1.isDragged(); }));
+  expectPlaced(2115);
+  EXPECT_EQ(openMenu(), nullptr);
 }
 
 TEST_F(FrmSubSplitter, TwoDragsInQuickSuccessionBothCount) {

@@ -36,6 +36,10 @@ void pressLeft() { inject(MOUSEEVENTF_LEFTDOWN); }
 
 void releaseLeft() { inject(MOUSEEVENTF_LEFTUP); }
 
+void pressRight() { inject(MOUSEEVENTF_RIGHTDOWN); }
+
+void releaseRight() { inject(MOUSEEVENTF_RIGHTUP); }
+
 void click(POINT point) {
   moveTo(point);
   pressLeft();
@@ -44,8 +48,8 @@ void click(POINT point) {
 
 void rightClick(POINT point) {
   moveTo(point);
-  inject(MOUSEEVENTF_RIGHTDOWN);
-  inject(MOUSEEVENTF_RIGHTUP);
+  pressRight();
+  releaseRight();
 }
 
 }  // namespace wintest::input

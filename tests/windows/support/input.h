@@ -13,6 +13,8 @@ using harness::input::type;
 void moveTo(POINT point);
 void pressLeft();
 void releaseLeft();
+void pressRight();
+void releaseRight();
 void click(POINT point);
 void rightClick(POINT point);
 
