@@ -5,8 +5,19 @@ namespace {
 
 class FormDpi : public WindowTest {
  protected:
-  // Borderless: the frame that the system draws follows the real monitor.
-  FormDpi() { plan<'A'>().design.frame = forms::Frame::borderless; }
+  // Borderless: the frame that the system draws follows the real monitor. Never active: the window
+  // manager lets it alone.
+  FormDpi() {
+    plan<'A'>().design.frame = forms::Frame::borderless;
+    plan<'A'>().design.neverActive = true;
+  }
+
+  static FormA& shown() {
+    auto& form = forms::single<FormA>();
+    form.show();
+    forms::doEvents();
+    return form;
+  }
 
   /// What the system does when the form is moved to a monitor of `dpi`.
   static void moveToMonitorOf(int dpi, const forms::Form& form) {
@@ -25,7 +36,7 @@ class FormDpi : public WindowTest {
 };
 
 TEST_F(FormDpi, WidgetsAndFontsFollow) {
-  auto& form = opened<FormA>();
+  auto& form = shown();
   form.first.setFont({u"宋体", 12});
   EXPECT_EQ(form.dpi(), 96);
   EXPECT_EQ(fontHeight(form.first), -16);
@@ -41,7 +52,7 @@ TEST_F(FormDpi, WidgetsAndFontsFollow) {
 }
 
 TEST_F(FormDpi, TheSizeInTwipsStaysAndThePlaceIsTheSuggestedOne) {
-  auto& form = opened<FormA>();
+  auto& form = shown();
   form.setSize(4507, 3003);
   moveToMonitorOf(192, form);
   EXPECT_EQ(form.width(), 4507);
@@ -55,7 +66,7 @@ TEST_F(FormDpi, TheSizeInTwipsStaysAndThePlaceIsTheSuggestedOne) {
 }
 
 TEST_F(FormDpi, ThereAndBackChangesNothing) {
-  auto& form = opened<FormA>();
+  auto& form = shown();
   const RECT before = pixelBox(form.second);
   const LONG font = fontHeight(form.second);
   for (const int dpi : {120, 144, 168, 96}) moveToMonitorOf(dpi, form);
@@ -65,14 +76,14 @@ TEST_F(FormDpi, ThereAndBackChangesNothing) {
 }
 
 TEST_F(FormDpi, TheSystemsOwnFontFollowsToo) {
-  auto& form = opened<FormA>();
+  auto& form = shown();
   const LONG font = fontHeight(form.second);
   moveToMonitorOf(192, form);
   EXPECT_NEAR(fontHeight(form.second), 2 * font, 1);
 }
 
 TEST_F(FormDpi, TellsTheSystemTheSizeItWillHave) {
-  auto& form = opened<FormA>();
+  auto& form = shown();
   SIZE size{1, 1};
   EXPECT_TRUE(
       SendMessageW(form.handle(), WM_GETDPISCALEDSIZE, 144, reinterpret_cast<LPARAM>(&size)));
@@ -82,7 +93,7 @@ TEST_F(FormDpi, TellsTheSystemTheSizeItWillHave) {
 }
 
 TEST_F(FormDpi, PlacesUnderTheMouseAreTwips) {
-  auto& form = opened<FormA>();
+  auto& form = shown();
   moveToMonitorOf(144, form);
   forms::Place place;
   form.first.onMouseMove = [&](forms::Place at) { place = at; };

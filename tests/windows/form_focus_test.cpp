@@ -72,12 +72,15 @@ TEST_F(FormFocus, AMessageBoxIsNoMoveOfTheFocus) {
   auto& form = opened<FormA>();
   ASSERT_TRUE(reached(4));
   events().clear();
-  boxes.whileUp([](HWND) { passTime(50); });
+  bool quiet = false;
+  boxes.whileUp([&](HWND) { quiet = allAlong([] { return events().empty(); }, 60); });
   forms::showMessage(u"请选择字典！", forms::MessageIcon::exclamation);
-  ASSERT_TRUE(eventually([&] { return GetFocus() == form.first.handle(); }));
-  passTime(50);
   EXPECT_EQ(boxes.take().size(), 1U);
-  EXPECT_EQ(events(), Events{});
+  EXPECT_TRUE(quiet);
+  ASSERT_TRUE(eventually([&] { return GetFocus() == form.first.handle(); }));
+  // A window manager that is busy may leave no window active for a moment; then all is as it was.
+  passTime(50);
+  EXPECT_TRUE(events().empty() || events().back() == "A.first.GotFocus");
 }
 
 TEST_F(FormFocus, WhatMovedWhileABoxWasUpIsToldAfterwards) {

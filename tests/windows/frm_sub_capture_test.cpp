@@ -63,7 +63,7 @@ TEST_F(FrmSubCapture, AMessageBoxDoesNotWakeIt) {
   form.showMeaning(word, form.Adodc1);
   EXPECT_EQ(boxes.take().size(), 1U);
   EXPECT_TRUE(restedMeanwhile);
-  EXPECT_TRUE(allAlong([] { return !captureRuns(); }, 60));
+  EXPECT_TRUE(rests());
 }
 
 TEST_F(FrmSubCapture, TheToolbarThatLosesTheFocusToTheBoxDoesNotWakeIt) {
