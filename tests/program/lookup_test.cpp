@@ -217,7 +217,7 @@ TEST_F(Lookup, RepaintingDoesNotDisturbTypingIntoTheWindow) {
   window.type(L"x");
   std::wstring typed = L"x";
   for (int i = 0; i < 100; ++i) {
-    const wchar_t letter = static_cast<wchar_t>(L'a' + (i % 26));
+    const auto letter = static_cast<wchar_t>(L'a' + (i % 26));
     input::type({&letter, 1});
     typed += letter;
     repaint(lexilo.toolbar());
@@ -233,7 +233,7 @@ TEST_F(Lookup, RepaintingDoesNotDisturbTypingIntoAnotherProgram) {
   notepad.clickIntoText();
   std::wstring typed;
   for (int i = 0; i < 100; ++i) {
-    const wchar_t letter = static_cast<wchar_t>(L'a' + (i % 26));
+    const auto letter = static_cast<wchar_t>(L'a' + (i % 26));
     input::type({&letter, 1});
     typed += letter;
     repaint(lexilo.toolbar());

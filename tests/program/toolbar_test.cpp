@@ -149,7 +149,7 @@ TEST_F(Toolbar, ItsRepaintingDoesNotDisturbTypingElsewhere) {
   notepad.clickIntoText();
   std::wstring typed;
   for (int i = 0; i < 100; ++i) {
-    const wchar_t letter = static_cast<wchar_t>(L'a' + (i % 26));
+    const auto letter = static_cast<wchar_t>(L'a' + (i % 26));
     input::type({&letter, 1});
     typed += letter;
     repaint(toolbar);

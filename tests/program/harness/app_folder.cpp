@@ -21,7 +21,7 @@ fs::path fullFolder() { return named(L"LEXILO_APP", L"build/app"); }
 /// A new folder with the program alone. The program file is shared, since nothing changes it.
 fs::path freshFolder() {
   static int folders = 0;
-  const fs::path path = fs::absolute(L"build/program") / std::to_wstring(++folders);
+  fs::path path = fs::absolute(L"build/program") / std::to_wstring(++folders);
   fs::remove_all(path);
   fs::create_directories(path);
   fs::create_hard_link(fullFolder() / "lexilo.exe", path / "lexilo.exe");

@@ -4,6 +4,7 @@
 #include <richedit.h>
 
 #include <algorithm>
+#include <cstdint>
 
 #include "tests/program/harness/find.h"
 #include "tests/program/harness/remote_memory.h"
@@ -68,7 +69,7 @@ std::optional<RECT> treeNodeRect(HWND tree, int index) {
   if (index < 0 || static_cast<std::size_t>(index) >= items.size()) return std::nullopt;
   // The rectangle's memory holds the node's handle when the question is asked.
   const RemoteMemory memory(tree, sizeof(RECT));
-  memory.put(items[static_cast<std::size_t>(index)]);
+  memory.put(reinterpret_cast<std::uintptr_t>(items[static_cast<std::size_t>(index)]));
   if (send(tree, TVM_GETITEMRECT, TRUE, memory.parameter()) == 0) return std::nullopt;
   auto rect = memory.get<RECT>();
   MapWindowPoints(tree, nullptr, reinterpret_cast<POINT*>(&rect), 2);

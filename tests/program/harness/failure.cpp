@@ -5,7 +5,7 @@
 namespace harness {
 namespace {
 
-std::function<void()>& witness() {
+std::function<void()>& installed() {
   static std::function<void()> instance;
   return instance;
 }
@@ -13,9 +13,9 @@ std::function<void()>& witness() {
 }  // namespace
 
 Failure::Failure(const std::string& what) : std::runtime_error(what) {
-  if (witness()) witness()();
+  if (installed()) installed()();
 }
 
-void Failure::setWitness(std::function<void()> other) { witness() = std::move(other); }
+void Failure::setWitness(std::function<void()> witness) { installed() = std::move(witness); }
 
 }  // namespace harness
