@@ -1,0 +1,72 @@
+#include "capture/probe_rules.h"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+#include "text/query_text.h"
+#include "text/trim.h"
+
+namespace capture {
+namespace {
+
+/// Longer names that contain a shorter one stand here for the windows that they are meant for.
+constexpr std::array<std::string_view, 17> kTextWindows = {
+    "ttyGrab",
+    "AVL_AVView",
+    "tty",
+    "_WwG",
+    "ConsoleWindowClass",
+    "EXCEL6",
+    "EXCEL7",
+    "EXCEL<",
+    "ThunderRT6TextBox",
+    "ThunderRT5TextBox",
+    "ThunderTextBox",
+    "HTML_Internet Explorer",
+    "RichEdit20W",
+    "RichEdit20A",
+    "RichEdit",
+    "Internet Explorer_Server",
+    "Edit",
+};
+
+constexpr int kStripHeight = 5;
+constexpr int kStripMargin = 4;
+constexpr int kStripReach = 200;
+
+}  // namespace
+
+bool isProbed(std::string_view className) {
+  return std::any_of(kTextWindows.begin(), kTextWindows.end(), [&](std::string_view name) {
+    return className.find(name) != std::string_view::npos;
+  });
+}
+
+Rectangle stripPlace(int x, int y, int windowLeft, int windowRight) {
+  Rectangle strip{windowLeft - kStripMargin, y - kStripHeight,
+                  windowRight - windowLeft - 2 * kStripMargin, kStripHeight};
+  if (x - strip.left > kStripReach) strip.left = x - kStripReach;
+  return strip;
+}
+
+std::string_view reportedText(std::span<const char> buffer) {
+  const auto end = std::find(buffer.begin(), buffer.end(), '\0');
+  if (end == buffer.end()) throw std::length_error("the reported word has no end");
+  return {buffer.data(), static_cast<std::size_t>(end - buffer.begin())};
+}
+
+bool opensPopup(std::u16string_view text) {
+  return text.size() >= 2 && user::getEorC(text) == user::kEnglish;
+}
+
+}  // namespace capture
+
+namespace ScreenWord {
+
+std::u16string GetFirstWord(std::u16string_view text) {
+  const auto trimmed = user::trimBlanks(text);
+  return std::u16string(trimmed.substr(0, trimmed.find(u' ')));
+}
+
+}  // namespace ScreenWord
