@@ -52,6 +52,7 @@ void Form::createWindow() {
   const std::u16string className = u"Lexilo." + design_.name;
   WNDCLASSEXW windowClass{};
   windowClass.cbSize = sizeof windowClass;
+  windowClass.style = design_.shadow ? CS_DROPSHADOW : 0;
   windowClass.lpfnWndProc = windowProc;
   windowClass.hInstance = GetModuleHandleW(nullptr);
   windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);

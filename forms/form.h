@@ -25,6 +25,7 @@ struct FormDesign {
   bool neverActive = false;  ///< no focus, no taskbar button, no place in Alt+Tab
   bool taskbarButton = true;
   bool closable = true;  ///< reacts to Alt+F4, the close box and WM_CLOSE
+  bool shadow = false;   ///< casts one, as tool tips do
   int iconResource = 0;
   int background = COLOR_BTNFACE;  ///< a system colour
 };

@@ -21,16 +21,35 @@ const wchar_t* richEditClass() {
   return MSFTEDIT_CLASS;
 }
 
+constexpr DWORD kStyle = ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_NOHIDESEL | WS_VSCROLL;
+
+/// Twips between the edge of a tool tip and its text.
+constexpr int kToolTipMargin = 60;
+
+ControlKind kindOf(RichTextBox::Look look) {
+  if (look == RichTextBox::Look::toolTip) return {richEditClass(), kStyle | WS_BORDER, 0};
+  return {richEditClass(), kStyle | WS_TABSTOP, WS_EX_CLIENTEDGE};
+}
+
 }  // namespace
 
-RichTextBox::RichTextBox(Form& form, const WidgetBox& box)
-    : Widget(form,
-             {richEditClass(),
-              ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_NOHIDESEL | WS_VSCROLL | WS_TABSTOP,
-              WS_EX_CLIENTEDGE},
-             box) {
+RichTextBox::RichTextBox(Form& form, const WidgetBox& box, Look look)
+    : Widget(form, kindOf(look), box), look_(look) {
   send(EM_SETUNDOLIMIT, 0);
-  send(EM_SETBKGNDCOLOR, TRUE);
+  if (look == Look::toolTip) {
+    send(EM_SETBKGNDCOLOR, FALSE, static_cast<LPARAM>(GetSysColor(COLOR_INFOBK)));
+    keepMargins();
+  } else {
+    send(EM_SETBKGNDCOLOR, TRUE);
+  }
+}
+
+void RichTextBox::keepMargins() {
+  const int margin = toPixels(kToolTipMargin, form().dpi());
+  RECT inner{};
+  GetClientRect(handle(), &inner);
+  InflateRect(&inner, -margin, -margin);
+  send(EM_SETRECT, 0, reinterpret_cast<LPARAM>(&inner));
 }
 
 void RichTextBox::setText(const std::u16string& text) {
@@ -100,6 +119,11 @@ LRESULT RichTextBox::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       // From the keyboard; the mouse's right button has its own event.
       if (lParam == -1) onRightMouseUp.raise(caretPlace());
       return 0;
+    case WM_SIZE: {
+      const LRESULT result = Widget::handleMessage(message, wParam, lParam);
+      if (look_ == Look::toolTip) keepMargins();
+      return result;
+    }
     default:
       return Widget::handleMessage(message, wParam, lParam);
   }

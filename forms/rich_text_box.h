@@ -8,7 +8,12 @@ namespace forms {
 /// CR LF counts two.
 class RichTextBox : public Widget {
  public:
-  RichTextBox(Form& form, const WidgetBox& box);
+  enum class Look {
+    pane,     ///< a sunken part of a window
+    toolTip,  ///< all of a window that looks like a tool tip: its colours, a thin edge, no tab stop
+  };
+
+  RichTextBox(Form& form, const WidgetBox& box, Look look = Look::pane);
 
   /// Replaces the text; all of it takes the default colour, nothing is selected.
   void setText(const std::u16string& text);
@@ -41,7 +46,9 @@ class RichTextBox : public Widget {
 
  private:
   [[nodiscard]] Place caretPlace() const;
+  void keepMargins();
 
+  Look look_;
   std::u16string text_;
   int hangingIndent_ = 0;
 };
