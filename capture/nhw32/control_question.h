@@ -1,0 +1,23 @@
+#pragma once
+
+#include <functional>
+
+#include "capture/nhw32/control_text.h"
+#include "capture/nhw32/target_window.h"
+
+namespace nhw32 {
+
+/// Answers a question about a text control. `read` reads the control's text by messages and is
+/// called once it is known that the control shows what it holds.
+Answer answerOfControl(const Question& question,
+                       const std::function<std::optional<PlacedWord>(
+                           const TargetWindow& target, ScreenPoint clientPoint)>& read);
+
+/// The height of the caret where it stands in this window: that of a line of a text control.
+std::optional<int> caretHeight(HWND window);
+
+/// Whether a window answers as text controls do: one that only sounds like it by its class's name
+/// has no lines. Throws NoAnswer where it does not answer.
+bool hasLines(WindowId window);
+
+}  // namespace nhw32

@@ -1,0 +1,82 @@
+#include "capture/nhw32/edit_provider.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "capture/nhw32/control_question.h"
+#include "capture/nhw32/edit_index.h"
+#include "capture/nhw32/word_at.h"
+
+namespace nhw32 {
+namespace {
+
+/// "There is none", in the 32 bits in which edit controls say it.
+bool isNone(LRESULT answer) { return static_cast<std::int32_t>(answer) == -1; }
+
+class EditText : public ControlText {
+ public:
+  explicit EditText(const TargetWindow& target)
+      : target_(target), multiline_((target.style() & ES_MULTILINE) != 0) {}
+
+  std::size_t positionNear(ScreenPoint point) override {
+    const LRESULT packed = target_.ask(EM_CHARFROMPOS, 0, MAKELPARAM(point.x, point.y));
+    if (isNone(packed)) throw NoAnswer(Outcome::none);
+    // The first visible line; in a single line the first visible character.
+    const std::size_t visible = number(target_.ask(EM_GETFIRSTVISIBLELINE));
+    if (!multiline_) return unwrapped(visible, LOWORD(packed));
+    const auto start = startOf(unwrapped(visible, HIWORD(packed)));
+    if (!start) throw NoAnswer(Outcome::none);
+    return unwrapped(*start, LOWORD(packed));
+  }
+
+  /// From the beginning: EM_GETLINE, which would say less, is not safe across programs.
+  TextPart textAround(std::size_t position) override {
+    const std::size_t capacity = position + kLongestWord + 2;  // with the NUL
+    auto buffer = std::make_unique<wchar_t[]>(capacity);
+    try {
+      const auto length =
+          number(target_.ask(WM_GETTEXT, capacity, reinterpret_cast<LPARAM>(buffer.get())));
+      return {{buffer.get(), buffer.get() + std::min(length, capacity - 1)}, 0};
+    } catch (const NoAnswer&) {
+      // A control of our own program may yet write into the memory that it was given.
+      static_cast<void>(buffer.release());
+      throw;
+    }
+  }
+
+  std::optional<ScreenPoint> cornerOf(std::size_t position) override {
+    const LRESULT packed = target_.ask(EM_POSFROMCHAR, position);
+    if (isNone(packed)) return std::nullopt;
+    return ScreenPoint{static_cast<std::int16_t>(LOWORD(packed)),
+                       static_cast<std::int16_t>(HIWORD(packed))};
+  }
+
+  std::size_t lineOf(std::size_t position) override {
+    return multiline_ ? number(target_.ask(EM_LINEFROMCHAR, position)) : 0;
+  }
+
+  std::optional<std::size_t> startOf(std::size_t line) override {
+    if (!multiline_) return line == 0 ? std::optional<std::size_t>(0) : std::nullopt;
+    const LRESULT start = target_.ask(EM_LINEINDEX, line);
+    return isNone(start) ? std::nullopt : std::optional(number(start));
+  }
+
+  std::optional<int> lineHeight() override { return caretHeight(target_.handle()); }
+
+ private:
+  static std::size_t number(LRESULT answer) { return static_cast<std::uint32_t>(answer); }
+
+  const TargetWindow& target_;
+  bool multiline_;
+};
+
+}  // namespace
+
+Answer EditProvider::wordAt(const Question& question) {
+  return answerOfControl(question, [](const TargetWindow& target, ScreenPoint point) {
+    EditText text(target);
+    return wordUnder(text, point);
+  });
+}
+
+}  // namespace nhw32

@@ -1,0 +1,49 @@
+#include "capture/nhw32/nhw32.h"
+
+#include <algorithm>
+
+#include "capture/nhw32/ansi_word.h"
+#include "capture/nhw32/router.h"
+#include "capture/nhw32/service.h"
+
+namespace nhw32 {
+namespace {
+
+/// Of one character; letters that the code page lacks become the nearest it has.
+std::string toAnsi(std::u16string_view character) {
+  std::string bytes(8, '\0');
+  const int length =
+      WideCharToMultiByte(CP_ACP, 0, reinterpret_cast<const wchar_t*>(character.data()),
+                          static_cast<int>(character.size()), bytes.data(),
+                          static_cast<int>(bytes.size()), nullptr, nullptr);
+  bytes.resize(static_cast<std::size_t>(length));
+  return bytes;
+}
+
+}  // namespace
+
+Service& service() {
+  static Service instance(makeRouter);
+  return instance;
+}
+
+void SetNHW32() { service().start(); }
+
+void ResetNHW32() { service().stop(); }
+
+void BL_SetFlag32(std::uint32_t flag, HWND window, std::int16_t x, std::int16_t y) {
+  if (flag == kArm) service().arm(window, {x, y});
+  if (flag == kDisarm) service().disarm();
+}
+
+void BL_GetText32(char* buffer, std::int32_t size, RECT* word) {
+  const Word found = service().word().value_or(Word{});
+  if (word != nullptr) {
+    *word = {found.box.left, found.box.top, found.box.right, found.box.bottom};
+  }
+  if (buffer == nullptr || size < 0) return;
+  const std::string text = ansiWord(found.text, static_cast<std::size_t>(size), toAnsi);
+  *std::ranges::copy(text, buffer).out = '\0';
+}
+
+}  // namespace nhw32

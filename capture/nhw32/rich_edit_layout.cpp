@@ -1,0 +1,23 @@
+#include "capture/nhw32/rich_edit_layout.h"
+
+namespace nhw32 {
+namespace {
+
+void append(std::vector<std::byte>& bytes, std::uint64_t value, std::size_t size) {
+  for (std::size_t i = 0; i < size; ++i) {
+    bytes.push_back(static_cast<std::byte>(value >> (8 * i) & 0xFF));
+  }
+}
+
+}  // namespace
+
+std::vector<std::byte> textRangeBytes(Bitness bitness, std::int32_t begin, std::int32_t end,
+                                      std::uint64_t textAddress) {
+  std::vector<std::byte> bytes;
+  append(bytes, static_cast<std::uint32_t>(begin), 4);
+  append(bytes, static_cast<std::uint32_t>(end), 4);
+  append(bytes, textAddress, bitness == Bitness::bits64 ? 8 : 4);
+  return bytes;
+}
+
+}  // namespace nhw32

@@ -1,0 +1,130 @@
+#include "capture/nhw32/rich_edit_provider.h"
+
+#include <windows.h>
+
+#include <richedit.h>
+
+#include <algorithm>
+#include <limits>
+
+#include "capture/nhw32/control_question.h"
+#include "capture/nhw32/remote_memory.h"
+#include "capture/nhw32/rich_edit_layout.h"
+#include "capture/nhw32/word_at.h"
+
+namespace nhw32 {
+namespace {
+
+/// Where things lie in the memory that the control reads and writes.
+constexpr std::size_t kStructure = 0;
+constexpr std::size_t kText = 64;
+constexpr std::size_t kMostText = 2 * (kLongestWord + 1);
+constexpr std::size_t kMemory = kText + (kMostText + 1) * sizeof(wchar_t);
+
+constexpr UINT kUtf16 = 1200;  ///< its number among the code pages
+
+class RichEditText : public ControlText {
+ public:
+  explicit RichEditText(const TargetWindow& target)
+      : target_(target), memory_(target.handle(), kMemory) {}
+
+  std::size_t positionNear(ScreenPoint point) override {
+    put(POINTL{point.x, point.y});
+    return number(ask(EM_CHARFROMPOS, 0, parameter()));
+  }
+
+  TextPart textAround(std::size_t position) override {
+    const std::size_t reach = kLongestWord + 1;
+    const std::size_t begin = position > reach ? position - reach : 0;
+    const std::size_t end = std::min(position + reach, length());
+    if (begin >= end) return {};
+    const auto bitness = memory_.inProgramOf32Bits() ? Bitness::bits32 : Bitness::bits64;
+    const auto range = textRangeBytes(bitness, static_cast<std::int32_t>(begin),
+                                      static_cast<std::int32_t>(end), memory_.address(kText));
+    memory_.write(kStructure, range.data(), range.size());
+    const std::size_t count = number(ask(EM_GETTEXTRANGE, 0, parameter()));
+    return {IsWindowUnicode(target_.handle()) != FALSE ? wideText(count) : ansiText(count), begin};
+  }
+
+  std::optional<ScreenPoint> cornerOf(std::size_t position) override {
+    constexpr POINTL kUntouched{std::numeric_limits<LONG>::min(), 0};
+    put(kUntouched);
+    ask(EM_POSFROMCHAR, memory_.address(kStructure), static_cast<LPARAM>(position));
+    POINTL corner{};
+    memory_.read(kStructure, &corner, sizeof corner);
+    if (corner.x == kUntouched.x) return std::nullopt;
+    return ScreenPoint{static_cast<int>(corner.x), static_cast<int>(corner.y)};
+  }
+
+  std::size_t lineOf(std::size_t position) override {
+    return number(ask(EM_EXLINEFROMCHAR, 0, static_cast<LPARAM>(position)));
+  }
+
+  std::optional<std::size_t> startOf(std::size_t line) override {
+    const auto start = static_cast<std::int32_t>(ask(EM_LINEINDEX, line, 0));
+    return start < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(start));
+  }
+
+  std::optional<int> lineHeight() override { return caretHeight(target_.handle()); }
+
+ private:
+  /// Whatever a control that ran out of time was told to read or write, it may do so later.
+  LRESULT ask(UINT message, WPARAM wParam, LPARAM lParam) {
+    try {
+      return target_.ask(message, wParam, lParam);
+    } catch (const NoAnswer& silence) {
+      if (silence.outcome() == Outcome::outOfTime) memory_.abandon();
+      throw;
+    }
+  }
+
+  std::size_t length() {
+    put(GETTEXTLENGTHEX{GTL_NUMCHARS | GTL_PRECISE, kUtf16});
+    return number(ask(EM_GETTEXTLENGTHEX, memory_.address(kStructure), 0));
+  }
+
+  std::u16string wideText(std::size_t count) {
+    std::u16string text(std::min(count, kMostText), u'\0');
+    memory_.read(kText, text.data(), text.size() * sizeof(char16_t));
+    return text;
+  }
+
+  std::u16string ansiText(std::size_t count) {
+    std::string bytes(std::min(count, kMostText * 2), '\0');
+    memory_.read(kText, bytes.data(), bytes.size());
+    std::wstring text(bytes.size(), L'\0');
+    const int units = MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(bytes.size()),
+                                          text.data(), static_cast<int>(text.size()));
+    return {text.begin(), text.begin() + units};
+  }
+
+  template <class Structure>
+  void put(const Structure& structure) {
+    memory_.write(kStructure, &structure, sizeof structure);
+  }
+
+  [[nodiscard]] LPARAM parameter() const {
+    return static_cast<LPARAM>(memory_.address(kStructure));
+  }
+
+  /// A position or count. Negative ones are refusals.
+  static std::size_t number(LRESULT answer) {
+    const auto value = static_cast<std::int32_t>(answer);
+    if (value < 0) throw NoAnswer(Outcome::none);
+    return static_cast<std::size_t>(value);
+  }
+
+  const TargetWindow& target_;
+  RemoteMemory memory_;
+};
+
+}  // namespace
+
+Answer RichEditProvider::wordAt(const Question& question) {
+  return answerOfControl(question, [](const TargetWindow& target, ScreenPoint point) {
+    RichEditText text(target);
+    return wordUnder(text, point);
+  });
+}
+
+}  // namespace nhw32

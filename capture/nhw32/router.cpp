@@ -1,0 +1,45 @@
+#include "capture/nhw32/router.h"
+
+#include "capture/nhw32/choose_way.h"
+#include "capture/nhw32/control_question.h"
+#include "capture/nhw32/edit_provider.h"
+#include "capture/nhw32/patient_provider.h"
+#include "capture/nhw32/rich_edit_provider.h"
+
+namespace nhw32 {
+namespace {
+
+/// For windows that are no text controls.
+class NoWords : public TextProvider {
+ public:
+  Answer wordAt(const Question& /*question*/) override { return {}; }
+};
+
+class Router : public TextProvider {
+ public:
+  Answer wordAt(const Question& question) override try {
+    return providerFor(question.window).wordAt(question);
+  } catch (const NoAnswer& silence) {
+    return {.outcome = silence.outcome(), .word = {}};
+  }
+
+ private:
+  TextProvider& providerFor(WindowId window) {
+    const Way way = wayFor(classNameOf(reinterpret_cast<HWND>(window)));
+    if (way == Way::automation || !hasLines(window)) return noWords_;
+    if (way == Way::richEdit) return richEdit_;
+    return edit_;
+  }
+
+  EditProvider edit_;
+  RichEditProvider richEdit_;
+  NoWords noWords_;
+};
+
+}  // namespace
+
+std::unique_ptr<TextProvider> makeRouter() {
+  return std::make_unique<PatientProvider>(std::make_unique<Router>());
+}
+
+}  // namespace nhw32

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <windows.h>
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "capture/nhw32/request_desk.h"
+
+namespace nhw32 {
+
+/// Makes the way in which a worker asks; called on the worker's own thread.
+using ProviderFactory = std::function<std::unique_ptr<TextProvider>()>;
+
+/// What stands behind the operations of nhw32.h, with any way to ask.
+class Service {
+ public:
+  explicit Service(ProviderFactory factory);
+  ~Service() { stop(); }
+  Service(const Service&) = delete;
+  Service& operator=(const Service&) = delete;
+
+  void start();
+  void stop();
+  void arm(HWND host, POINT point);
+  void disarm();
+  /// The announced word, if there is one.
+  [[nodiscard]] std::optional<Word> word() const;
+
+  /// Threads at work, those included that were sent away and are still waiting for a window.
+  [[nodiscard]] int workers() const { return *workers_; }
+
+ private:
+  void startWorker();
+
+  ProviderFactory factory_;
+  std::shared_ptr<std::atomic<int>> workers_ = std::make_shared<std::atomic<int>>(0);
+  std::shared_ptr<RequestDesk> desk_;  ///< shared with the worker, which may outlive us
+  bool started_ = false;
+};
+
+/// The one behind the operations of nhw32.h.
+Service& service();
+
+}  // namespace nhw32

@@ -1,0 +1,77 @@
+#include "capture/nhw32/target_window.h"
+
+#include <algorithm>
+#include <array>
+
+namespace nhw32 {
+namespace {
+
+ScreenBox boxOf(HWND window) {
+  RECT rect{};
+  GetWindowRect(window, &rect);
+  return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
+          static_cast<int>(rect.bottom)};
+}
+
+}  // namespace
+
+TargetWindow::TargetWindow(WindowId window)
+    : window_(reinterpret_cast<HWND>(window)),
+      deadline_(std::chrono::steady_clock::now() + kQuestionTime) {}
+
+DWORD TargetWindow::style() const {
+  return static_cast<DWORD>(GetWindowLongPtrW(window_, GWL_STYLE));
+}
+
+LRESULT TargetWindow::ask(UINT message, WPARAM wParam, LPARAM lParam) const {
+  const auto left =
+      std::chrono::ceil<std::chrono::milliseconds>(deadline_ - std::chrono::steady_clock::now());
+  if (left.count() <= 0) throw NoAnswer(Outcome::outOfTime);
+  const auto time = static_cast<UINT>(std::min(left, kMessageTime).count());
+  DWORD_PTR answer = 0;
+  SetLastError(0);
+  if (SendMessageTimeoutW(window_, message, wParam, lParam, SMTO_ABORTIFHUNG | SMTO_BLOCK, time,
+                          &answer) == 0) {
+    throw NoAnswer(GetLastError() == ERROR_TIMEOUT ? Outcome::outOfTime : Outcome::none);
+  }
+  return static_cast<LRESULT>(answer);
+}
+
+void TargetWindow::refusePasswords() const {
+  if ((style() & ES_PASSWORD) != 0 || ask(EM_GETPASSWORDCHAR) != 0) throw NoAnswer(Outcome::none);
+}
+
+std::u16string classNameOf(HWND window) {
+  std::array<wchar_t, 257> name{};  // Windows' limit for class names is 256 characters
+  const int length = GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+  return {name.begin(), name.begin() + length};
+}
+
+WindowScale scaleOf(HWND window) {
+  WindowScale scale{.onScreen = boxOf(window), .forTarget = {}};
+  const TargetAwareness awareness(window);
+  scale.forTarget = boxOf(window);
+  return scale;
+}
+
+ScreenPoint toClient(HWND window, ScreenPoint point) {
+  POINT client{point.x, point.y};
+  ScreenToClient(window, &client);
+  return {static_cast<int>(client.x), static_cast<int>(client.y)};
+}
+
+ScreenBox fromClient(HWND window, const ScreenBox& box) {
+  POINT origin{0, 0};
+  ClientToScreen(window, &origin);
+  const int x = static_cast<int>(origin.x);
+  const int y = static_cast<int>(origin.y);
+  return {box.left + x, box.top + y, box.right + x, box.bottom + y};
+}
+
+bool inClientArea(HWND window, ScreenPoint clientPoint) {
+  RECT rect{};
+  GetClientRect(window, &rect);
+  return PtInRect(&rect, POINT{clientPoint.x, clientPoint.y}) != FALSE;
+}
+
+}  // namespace nhw32
