@@ -1,5 +1,6 @@
 #include "capture/nhw32/router.h"
 
+#include "capture/nhw32/automation_provider.h"
 #include "capture/nhw32/choose_way.h"
 #include "capture/nhw32/control_question.h"
 #include "capture/nhw32/edit_provider.h"
@@ -8,12 +9,6 @@
 
 namespace nhw32 {
 namespace {
-
-/// For windows that are no text controls.
-class NoWords : public TextProvider {
- public:
-  Answer wordAt(const Question& /*question*/) override { return {}; }
-};
 
 class Router : public TextProvider {
  public:
@@ -26,14 +21,14 @@ class Router : public TextProvider {
  private:
   TextProvider& providerFor(WindowId window) {
     const Way way = wayFor(classNameOf(reinterpret_cast<HWND>(window)));
-    if (way == Way::automation || !hasLines(window)) return noWords_;
+    if (way == Way::automation || !hasLines(window)) return *automation_;
     if (way == Way::richEdit) return richEdit_;
     return edit_;
   }
 
   EditProvider edit_;
   RichEditProvider richEdit_;
-  NoWords noWords_;
+  std::unique_ptr<TextProvider> automation_ = makeAutomationProvider();
 };
 
 }  // namespace

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "capture/nhw32/automation_calls.h"
+#include "capture/nhw32/text_provider.h"
+
+namespace nhw32 {
+
+/// What asking by UI Automation rests on.
+struct AutomationSystem {
+  /// Makes the client; may take long where there is none.
+  std::function<HRESULT(AutomationClient2** client)> makeClient;
+  Clock now;
+};
+
+/// How long a system without UI Automation is believed to stay so.
+inline constexpr std::chrono::seconds kClientPause{60};
+
+/// Asks windows for their words by UI Automation: word processors, spreadsheets, browsers, readers,
+/// consoles. No question takes longer than kQuestionLimit. The first question prepares COM for the
+/// asking thread, on which the provider has to go as well.
+std::unique_ptr<TextProvider> makeAutomationProvider();
+std::unique_ptr<TextProvider> makeAutomationProvider(AutomationSystem system);
+
+}  // namespace nhw32

@@ -1,0 +1,134 @@
+#include <string>
+
+#include "tests/windows/support/automation_test.h"
+
+namespace wintest {
+namespace {
+
+using nhw32::Outcome;
+using nhw32::ScreenPoint;
+
+class AutomationTextTest : public AutomationTest {};
+
+TEST_F(AutomationTextTest, FindsTheWordUnderEveryPixelOfIt) {
+  showText(u"one hello two");
+  for (int column = 4; column < 9; ++column) {
+    for (int right = 0; right < grid::kWidth; ++right) {
+      const auto answer = ask(grid::at(0, column, right));
+      ASSERT_EQ(answer.outcome, Outcome::word) << column << " + " << right;
+      ASSERT_EQ(answer.word.text, u"hello") << column << " + " << right;
+      ASSERT_EQ(answer.word.box, grid::box(0, 4, 5));
+    }
+  }
+}
+
+TEST_F(AutomationTextTest, FindsNoneOnBlanksAndOtherCharacters) {
+  showText(u"one  two, 42 \t.");
+  for (const int column : {3, 4, 8, 9, 10, 11, 12, 13, 14}) {
+    for (const int right : {0, 4, 5, 9}) {
+      EXPECT_EQ(outcome(grid::at(0, column, right)), Outcome::none) << column << " + " << right;
+    }
+  }
+}
+
+TEST_F(AutomationTextTest, TakesNoNearestWordThatIsNotUnderThePoint) {
+  showText(u"first\nsecond");
+  const ScreenPoint besides[] = {
+      grid::at(0, -1), grid::at(-1, 0), grid::at(0, 5),   grid::at(0, 5, 0), grid::at(0, 300),
+      grid::at(2, 0),  grid::at(1, 6),  grid::at(50, 50), {-30000, -30000},  grid::at(0, -1, 9)};
+  for (const auto& point : besides) {
+    EXPECT_EQ(outcome(point), Outcome::none) << point.x << ", " << point.y;
+  }
+  EXPECT_EQ(wordAt(grid::at(0, 4, 9)), u"first");
+  EXPECT_EQ(wordAt(grid::at(1, 0, 0)), u"second");
+  EXPECT_EQ(wordAt(grid::at(1, 5, 9)), u"second");
+}
+
+TEST_F(AutomationTextTest, KnowsThePlaceInLaterLines) {
+  showText(u"a\nbb cc\nddd");
+  const auto answer = ask(grid::at(1, 3));
+  EXPECT_EQ(answer.word.text, u"cc");
+  EXPECT_EQ(answer.word.box, grid::box(1, 3, 2));
+}
+
+TEST_F(AutomationTextTest, KeepsWordsWithHyphensAndApostrophesWhole) {
+  showText(u"a well-known don\u2019t 'tis");
+  for (const int column : {2, 5, 6, 7, 11}) {
+    EXPECT_EQ(wordAt(grid::at(0, column)), u"well-known") << column;
+  }
+  EXPECT_EQ(wordAt(grid::at(0, 16)), u"don\u2019t");
+  EXPECT_EQ(wordAt(grid::at(0, 17)), u"don\u2019t");
+  EXPECT_EQ(wordAt(grid::at(0, 19)), u"");
+  EXPECT_EQ(wordAt(grid::at(0, 20)), u"tis");
+}
+
+TEST_F(AutomationTextTest, PartsEnglishFromChinese) {
+  showText(u"请看word这里");
+  EXPECT_EQ(wordAt(grid::at(0, 2)), u"word");
+  EXPECT_EQ(wordAt(grid::at(0, 5, 9)), u"word");
+  EXPECT_EQ(wordAt(grid::at(0, 6)), u"这里");
+  EXPECT_EQ(ask(grid::at(0, 3)).word.box, grid::box(0, 2, 4));
+}
+
+TEST_F(AutomationTextTest, StandsCharactersOfTwoUnits) {
+  showText(u"\U0001F600word\U0001F600 \U0001F600");
+  EXPECT_EQ(wordAt(grid::at(0, 2)), u"word");
+  EXPECT_EQ(wordAt(grid::at(0, 5)), u"word");
+  EXPECT_EQ(outcome(grid::at(0, 0)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 9)), Outcome::none);
+}
+
+TEST_F(AutomationTextTest, MakesDoWithUnitsThatAreWords) {
+  showText(u"one hello  two");
+  plan().units = Units::words;
+  EXPECT_EQ(wordAt(grid::at(0, 6)), u"hello");
+  EXPECT_EQ(wordAt(grid::at(0, 13)), u"two");
+}
+
+TEST_F(AutomationTextTest, FindsNoneInUnitsThatHoldMoreThanAWord) {
+  showText(u"one hello two");
+  plan().units = Units::all;
+  EXPECT_EQ(outcome(grid::at(0, 6)), Outcome::none);
+  showText(u" hello ");
+  EXPECT_EQ(wordAt(grid::at(0, 3)), u"hello");
+}
+
+TEST_F(AutomationTextTest, ReadsOfAMegabyteOnlyWhatLiesAround) {
+  std::u16string text;
+  while (text.size() < 1'000'000) text += u"many words in every line of it\n";
+  showText(text);
+  constexpr std::size_t kMost = 600;
+  EXPECT_EQ(wordAt(grid::at(30'000, 6)), u"words");
+  EXPECT_LE(log().unitsRead, kMost);
+
+  log().unitsRead = 0;
+  plan().units = Units::all;
+  EXPECT_EQ(outcome(grid::at(30'000, 6)), Outcome::none);
+  EXPECT_LE(log().unitsRead, kMost);
+
+  // One that hands out all of it whatever it is told.
+  plan().keepsToLength = false;
+  EXPECT_EQ(outcome(grid::at(30'000, 6)), Outcome::none);
+  showText(u"word" + std::u16string(1'000'000, u' '));
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  plan().text.resize(250);
+  EXPECT_EQ(wordAt(grid::at(0, 1)), u"word");
+}
+
+TEST_F(AutomationTextTest, FindsNoneInARunLongerThanWordsAre) {
+  showText(std::u16string(128, u'a') + u" " + std::u16string(129, u'b'));
+  EXPECT_EQ(wordAt(grid::at(0, 0)), std::u16string(128, u'a'));
+  EXPECT_EQ(wordAt(grid::at(0, 127)), std::u16string(128, u'a'));
+  for (const int column : {129, 193, 257}) {
+    EXPECT_EQ(outcome(grid::at(0, column)), Outcome::none) << column;
+  }
+}
+
+TEST_F(AutomationTextTest, FindsNoneInAnEmptyText) {
+  showText(u"");
+  EXPECT_EQ(outcome(grid::at(0, 0)), Outcome::none);
+  EXPECT_EQ(standIn_.times("GetText"), 0U);
+}
+
+}  // namespace
+}  // namespace wintest

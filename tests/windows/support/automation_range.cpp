@@ -1,0 +1,163 @@
+#include <algorithm>
+#include <limits>
+#include <memory>
+
+#include "tests/windows/support/automation_stand_in.h"
+
+namespace wintest {
+namespace {
+
+using nhw32::TextEnd;
+using nhw32::TextUnit;
+
+SAFEARRAY* arrayOf(const std::vector<double>& numbers) {
+  SAFEARRAY* array = SafeArrayCreateVector(VT_R8, 0, static_cast<ULONG>(numbers.size()));
+  for (LONG i = 0; i < static_cast<LONG>(numbers.size()); ++i) {
+    double number = numbers[static_cast<std::size_t>(i)];
+    SafeArrayPutElement(array, &i, &number);
+  }
+  return array;
+}
+
+SAFEARRAY* arrayWithTwoDimensions() {
+  SAFEARRAYBOUND bounds[] = {{4, 0}, {1, 0}};
+  return SafeArrayCreate(VT_R8, 2, bounds);
+}
+
+SAFEARRAY* arrayFor(Rectangles kind, std::vector<double> numbers) {
+  switch (kind) {
+    case Rectangles::right:
+      return arrayOf(numbers);
+    case Rectangles::nothing:
+      return nullptr;
+    case Rectangles::none:
+      return arrayOf({});
+    case Rectangles::odd:
+      numbers.push_back(1);
+      return arrayOf(numbers);
+    case Rectangles::integers:
+      return SafeArrayCreateVector(VT_I4, 0, 4);
+    case Rectangles::twoDimensions:
+      return arrayWithTwoDimensions();
+    case Rectangles::infinite:
+      return arrayOf({-std::numeric_limits<double>::infinity(), 0,
+                      std::numeric_limits<double>::infinity(), 4000});
+  }
+  return nullptr;
+}
+
+class Range : public Counted<nhw32::AutomationTextRange> {
+ public:
+  Range(AutomationStandIn& standIn, std::size_t begin, std::size_t end)
+      : Counted(standIn), begin_(begin), end_(end) {}
+
+  HRESULT STDMETHODCALLTYPE Clone(nhw32::AutomationTextRange** copy) override {
+    return in_.call("Clone", [&] { return makeStandInRange(in_, begin_, end_, copy); });
+  }
+
+  HRESULT STDMETHODCALLTYPE ExpandToEnclosingUnit(TextUnit /*unit*/) override {
+    return in_.call("ExpandToEnclosingUnit", [&] {
+      while (begin_ > 0 && !isEdge(begin_)) --begin_;
+      end_ = next(begin_);
+      return S_OK;
+    });
+  }
+
+  HRESULT STDMETHODCALLTYPE GetBoundingRectangles(SAFEARRAY** rectangles) override {
+    return in_.call("GetBoundingRectangles", [&] {
+      *rectangles = arrayFor(in_.plan.rectangles, grid::rectangles(text(), begin_, end_));
+      return S_OK;
+    });
+  }
+
+  HRESULT STDMETHODCALLTYPE GetText(int maxLength, BSTR* result) override {
+    return in_.call("GetText", [&] {
+      std::size_t length = end_ - begin_;
+      if (in_.plan.keepsToLength) length = std::min(length, static_cast<std::size_t>(maxLength));
+      in_.log.unitsRead += length;
+      *result = SysAllocStringLen(reinterpret_cast<const OLECHAR*>(text().data()) + begin_,
+                                  static_cast<UINT>(length));
+      return S_OK;
+    });
+  }
+
+  HRESULT STDMETHODCALLTYPE Move(TextUnit /*unit*/, int count, int* moved) override {
+    return in_.call("Move", [&] {
+      *moved = step(begin_, count);
+      end_ = next(begin_);
+      return S_OK;
+    });
+  }
+
+  HRESULT STDMETHODCALLTYPE MoveEndpointByUnit(TextEnd end, TextUnit /*unit*/, int count,
+                                               int* moved) override {
+    return in_.call("MoveEndpointByUnit", [&] {
+      *moved = step(at(end), count);
+      keepOrder(end);
+      return S_OK;
+    });
+  }
+
+  HRESULT STDMETHODCALLTYPE MoveEndpointByRange(TextEnd end, nhw32::AutomationTextRange* other,
+                                                TextEnd otherEnd) override {
+    return in_.call("MoveEndpointByRange", [&] {
+      at(end) = dynamic_cast<Range&>(*other).at(otherEnd);
+      keepOrder(end);
+      return S_OK;
+    });
+  }
+
+ private:
+  [[nodiscard]] const std::u16string& text() const { return in_.plan.text; }
+
+  std::size_t& at(TextEnd end) { return end == TextEnd::start ? begin_ : end_; }
+
+  void keepOrder(TextEnd moved) {
+    if (begin_ > end_) (moved == TextEnd::start ? end_ : begin_) = at(moved);
+  }
+
+  /// Whether a unit of the text begins at `index`.
+  [[nodiscard]] bool isEdge(std::size_t index) const {
+    if (index == 0 || index >= text().size()) return true;
+    switch (in_.plan.units) {
+      case Units::characters:
+        return text()[index] < 0xDC00 || text()[index] > 0xDFFF;
+      case Units::words:
+        return text()[index - 1] == u' ' && text()[index] != u' ';
+      case Units::all:
+        break;
+    }
+    return false;
+  }
+
+  [[nodiscard]] std::size_t next(std::size_t index) const {
+    if (index >= text().size()) return text().size();
+    ++index;
+    while (!isEdge(index)) ++index;
+    return index;
+  }
+
+  /// Moves `index` by some units and says by how many.
+  int step(std::size_t& index, int count) const {
+    int moved = 0;
+    for (; moved < count && index < text().size(); ++moved) index = next(index);
+    for (; moved > count && index > 0; --moved) {
+      --index;
+      while (!isEdge(index)) --index;
+    }
+    return moved;
+  }
+
+  std::size_t begin_;
+  std::size_t end_;
+};
+
+}  // namespace
+
+HRESULT makeStandInRange(AutomationStandIn& standIn, std::size_t begin, std::size_t end,
+                         nhw32::AutomationTextRange** range) {
+  *range = std::make_unique<Range>(standIn, begin, end).release();
+  return S_OK;
+}
+
+}  // namespace wintest

@@ -1,0 +1,131 @@
+#include "tests/windows/support/automation_stand_in.h"
+
+#include <algorithm>
+#include <memory>
+#include <stdexcept>
+
+namespace wintest {
+namespace {
+
+class Pattern : public Counted<nhw32::AutomationTextPattern> {
+ public:
+  using Counted::Counted;
+
+  HRESULT STDMETHODCALLTYPE RangeFromPoint(POINT point,
+                                           nhw32::AutomationTextRange** range) override {
+    return in_.call("RangeFromPoint", [&] {
+      const std::size_t index = grid::nearest(in_.plan.text, point);
+      return makeStandInRange(in_, index, index, range);
+    });
+  }
+};
+
+class Element : public Counted<nhw32::AutomationElement> {
+ public:
+  Element(AutomationStandIn& standIn, std::size_t index) : Counted(standIn), index_(index) {}
+
+  [[nodiscard]] std::size_t index() const { return index_; }
+
+  HRESULT STDMETHODCALLTYPE GetCurrentPropertyValue(int property, VARIANT* value) override {
+    return in_.call("GetCurrentPropertyValue", [&] {
+      const ElementPlan& plan = in_.plan.elements.at(index_);
+      if (property == nhw32::kPasswordProperty) {
+        value->vt = plan.passwordType;
+        value->boolVal = plan.password ? VARIANT_TRUE : VARIANT_FALSE;
+      } else if (property == nhw32::kProcessIdProperty) {
+        value->vt = VT_I4;
+        value->lVal = static_cast<LONG>(plan.process);
+      } else if (property == nhw32::kNativeWindowHandleProperty) {
+        value->vt = VT_I4;
+        value->lVal = static_cast<LONG>(reinterpret_cast<LONG_PTR>(plan.window));
+      } else {
+        return E_INVALIDARG;
+      }
+      return S_OK;
+    });
+  }
+
+  HRESULT STDMETHODCALLTYPE GetCurrentPatternAs(int pattern, REFIID iid, void** result) override {
+    return in_.call("GetCurrentPatternAs", [&] {
+      if (pattern != nhw32::kTextPattern || !IsEqualIID(iid, nhw32::kAutomationTextPatternId)) {
+        return E_INVALIDARG;
+      }
+      *result =
+          in_.plan.elements.at(index_).text ? std::make_unique<Pattern>(in_).release() : nullptr;
+      return S_OK;
+    });
+  }
+
+ private:
+  std::size_t index_;
+};
+
+HRESULT giveElement(AutomationStandIn& standIn, std::size_t index,
+                    nhw32::AutomationElement** element) {
+  *element = index < standIn.plan.elements.size()
+                 ? std::make_unique<Element>(standIn, index).release()
+                 : nullptr;
+  return S_OK;
+}
+
+class Walker : public Counted<nhw32::AutomationTreeWalker> {
+ public:
+  using Counted::Counted;
+
+  HRESULT STDMETHODCALLTYPE GetParentElement(nhw32::AutomationElement* element,
+                                             nhw32::AutomationElement** parent) override {
+    return in_.call("GetParentElement", [&] {
+      return giveElement(in_, dynamic_cast<Element&>(*element).index() + 1, parent);
+    });
+  }
+};
+
+class Client : public Counted<nhw32::AutomationClient2> {
+ public:
+  using Counted::Counted;
+
+  HRESULT STDMETHODCALLTYPE ElementFromHandle(HWND /*window*/,
+                                              nhw32::AutomationElement** /*element*/) override {
+    return E_NOTIMPL;
+  }
+  HRESULT STDMETHODCALLTYPE ElementFromPoint(POINT /*point*/,
+                                             nhw32::AutomationElement** element) override {
+    return in_.call("ElementFromPoint", [&] { return giveElement(in_, 0, element); });
+  }
+  HRESULT STDMETHODCALLTYPE get_ControlViewWalker(nhw32::AutomationTreeWalker** walker) override {
+    return in_.call("get_ControlViewWalker", [&] {
+      *walker = std::make_unique<Walker>(in_).release();
+      return S_OK;
+    });
+  }
+  HRESULT STDMETHODCALLTYPE put_AutoSetFocus(BOOL takesFocus) override {
+    in_.log.takesFocus = takesFocus != FALSE;
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE put_ConnectionTimeout(DWORD timeout) override {
+    in_.log.connectionLimit = timeout;
+    return in_.plan.limits;
+  }
+  HRESULT STDMETHODCALLTYPE put_TransactionTimeout(DWORD timeout) override {
+    in_.log.transactionLimit = timeout;
+    return in_.plan.limits;
+  }
+};
+
+}  // namespace
+
+std::size_t AutomationStandIn::times(const std::string& name) const {
+  return static_cast<std::size_t>(std::count(log.calls.begin(), log.calls.end(), name));
+}
+
+HRESULT AutomationStandIn::fail() const {
+  if (plan.trouble->throws) throw std::runtime_error("the stand-in throws");
+  return plan.trouble->result;
+}
+
+HRESULT makeStandIn(AutomationStandIn& standIn, nhw32::AutomationClient2** client) {
+  *client = std::make_unique<Client>(standIn).release();
+  return S_OK;
+}
+
+}  // namespace wintest

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "capture/nhw32/automation_provider.h"
+#include "tests/windows/support/automation_stand_in.h"
+
+namespace wintest {
+
+struct WindowCloser {
+  using pointer = HWND;
+  void operator()(HWND window) const { DestroyWindow(window); }
+};
+using TestWindow = std::unique_ptr<HWND, WindowCloser>;
+
+/// A visible window that does not take the foreground.
+inline TestWindow makeWindow(HWND parent = nullptr) {
+  TestWindow window(CreateWindowExW(parent ? 0 : WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, L"STATIC",
+                                    L"", parent ? WS_CHILD : WS_POPUP, 0, 0, 9, 9, parent, nullptr,
+                                    nullptr, nullptr));
+  ShowWindow(window.get(), SW_SHOWNOACTIVATE);
+  return window;
+}
+
+/// Asks the stand-in about a window of the test's own. Whatever was asked, nothing of the stand-in
+/// is left when the test ends.
+class AutomationTest : public ::testing::Test {
+ protected:
+  void SetUp() override { ASSERT_NE(window_.get(), nullptr); }
+
+  void TearDown() override {
+    provider_.reset();
+    EXPECT_EQ(standIn_.log.live, 0) << "references that were never given back";
+  }
+
+  /// A text in the element under the pointer.
+  void showText(std::u16string text) {
+    plan().elements.front().text = true;
+    plan().text = std::move(text);
+  }
+
+  nhw32::Answer ask(nhw32::ScreenPoint point) {
+    return provider_->wordAt({reinterpret_cast<nhw32::WindowId>(window_.get()), point});
+  }
+
+  nhw32::Outcome outcome(nhw32::ScreenPoint point) { return ask(point).outcome; }
+
+  /// The word there, empty where there is none.
+  std::u16string wordAt(nhw32::ScreenPoint point) {
+    const auto answer = ask(point);
+    return answer.outcome == nhw32::Outcome::word ? answer.word.text : std::u16string();
+  }
+
+  AutomationPlan& plan() { return standIn_.plan; }
+  AutomationLog& log() { return standIn_.log; }
+  [[nodiscard]] bool nothingRead() const {
+    return standIn_.log.unitsRead == 0 && standIn_.times("GetText") == 0 &&
+           standIn_.times("RangeFromPoint") == 0;
+  }
+
+  /// The system of the stand-in.
+  nhw32::AutomationSystem system() {
+    return {[this](nhw32::AutomationClient2** client) { return makeStandIn(standIn_, client); },
+            [this] { return standIn_.log.now; }};
+  }
+
+  TestWindow window_ = makeWindow();
+  AutomationStandIn standIn_;
+  std::unique_ptr<nhw32::TextProvider> provider_ = nhw32::makeAutomationProvider(system());
+};
+
+}  // namespace wintest
