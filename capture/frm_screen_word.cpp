@@ -1,7 +1,12 @@
 #include "capture/frm_screen_word.h"
 
 #include "app/state.h"
+#include "capture/frm_screen_word_meaning.h"
+#include "capture/nhw32/nhw32.h"
+#include "capture/probe_rules.h"
+#include "capture/screen_word.h"
 #include "forms/geometry.h"
+#include "forms/registry.h"
 
 namespace {
 
@@ -17,13 +22,60 @@ forms::FormDesign design() {
   return design;
 }
 
+LONG_PTR setProcedure(HWND window, WNDPROC procedure) {
+  return SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+}
+
 }  // namespace
 
 frmScreenWord::frmScreenWord() : Form(design()) {
+  timScreenWord1.onTimer = [this] { timScreenWord1_Timer(); };
+  Timer1.onTimer = [this] { Timer1_Timer(); };
   // The host is shown for a moment at start-up: left of and above all monitors.
   const int left = forms::toTwips(GetSystemMetrics(SM_XVIRTUALSCREEN), dpi());
   const int top = forms::toTwips(GetSystemMetrics(SM_YVIRTUALSCREEN), dpi());
   setPosition(left - width(), top - height());
 }
 
-void frmScreenWord::Form_Load() { Adodc1.setConnectionString(user::ConnectionString); }
+void frmScreenWord::Form_Load() {
+  Adodc1.setConnectionString(user::ConnectionString);
+  ScreenWord::hScreenWordWnd = handle();
+  ScreenWord::MsgHasString = RegisterWindowMessageA(nhw32::kMessageName);
+  ScreenWord::OldWndProc =
+      reinterpret_cast<WNDPROC>(setProcedure(handle(), ScreenWord::WindowProc));
+  nhw32::SetNHW32();
+}
+
+void frmScreenWord::Form_Unload() {
+  timScreenWord1.setEnabled(false);
+  nhw32::BL_SetFlag32(nhw32::kDisarm, nullptr, 0, 0);
+  setProcedure(handle(), ScreenWord::OldWndProc);
+  nhw32::ResetNHW32();
+}
+
+void frmScreenWord::timScreenWord1_Timer() {
+  try {
+    catchWord();
+  } catch (const std::exception&) {
+    // A probe that fails ends silently; the next one comes in a moment.
+  }
+  nhw32::SetNHW32();
+  ScreenWord::strScreenWord.clear();
+}
+
+void frmScreenWord::catchWord() {
+  POINT pointer{};
+  GetCursorPos(&pointer);
+  ScreenWord::CatchWordAt(pointer);
+  timScreenWord2.setEnabled(false);
+}
+
+void frmScreenWord::Timer1_Timer() {
+  if (!capture::opensPopup(ScreenWord::strScreenWord)) return;
+  std::u16string word = ScreenWord::GetFirstWord(ScreenWord::strScreenWord);
+  auto& popup = forms::single<frmScreenWordMeaning>();
+  popup.showMeaning(word, popup.Adodc1);
+  ScreenWord::strScreenWord.clear();
+  // A popup that the pointer left while it was opening has closed already, and capture goes on.
+  if (forms::isLoaded<frmScreenWordMeaning>()) ScreenWord::StopCapture();
+}

@@ -4,7 +4,8 @@
 #include "forms/form.h"
 #include "forms/timer.h"
 
-/// The hidden host of word capture: it owns the timers of the capture cycle and is never seen.
+/// The hidden host of word capture: its timers probe the place under the pointer and hand the words
+/// that are found to the popup. It is never seen.
 class frmScreenWord : public forms::Form {
  public:
   frmScreenWord();
@@ -17,4 +18,8 @@ class frmScreenWord : public forms::Form {
 
  private:
   void Form_Load() override;
+  void Form_Unload() override;
+  void timScreenWord1_Timer();
+  void Timer1_Timer();
+  void catchWord();
 };

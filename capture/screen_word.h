@@ -1,12 +1,34 @@
 #pragma once
 
-/// Screen word capture: the switches that every other window of the program calls.
+#include <string>
+
+#include "forms/win32.h"
+
+/// Screen word capture: what drives the screen-text service, and the switches that every other
+/// window of the program calls.
 namespace ScreenWord {
+
+/// The last word that the service reported, trimmed; "" when none is pending.
+inline std::u16string strScreenWord;
+/// The number of the message "BL_HASSTRING", by which the service reports a word.
+inline UINT MsgHasString = 0;
+/// The window that the service notifies: frmScreenWord.
+inline HWND hScreenWordWnd = nullptr;
+/// The procedure of that window before it was subclassed.
+inline WNDPROC OldWndProc = nullptr;
+
+/// The subclass procedure of frmScreenWord: takes reported words, passes on everything else.
+LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+/// Probes the window under `point` (screen pixels): arms the service there where the window is one
+/// of text. Throws std::overflow_error for a point beyond 16 bits.
+void CatchWordAt(const POINT& point);
 
 /// Starts the three timers of frmScreenWord, loading it where it is not loaded. Idempotent.
 void StartCapture();
 
-/// Stops the three timers of frmScreenWord, loading it where it is not loaded. Idempotent.
+/// Stops the three timers of frmScreenWord, loading it where it is not loaded, and forgets the word
+/// that was asked for, so that it does not turn up when capture runs again. Idempotent.
 void StopCapture();
 
 }  // namespace ScreenWord

@@ -1,0 +1,143 @@
+#include "capture/nhw32/nhw32.h"
+#include "forms/registry.h"
+#include "tests/windows/support/capture_test.h"
+
+namespace wintest {
+namespace {
+
+class FrmScreenWord : public CaptureTest {
+ protected:
+  /// Has capture running with `word` pending.
+  static void report(const std::u16string& word) {
+    ScreenWord::StartCapture();
+    ScreenWord::strScreenWord = word;
+  }
+
+  static std::u16string headword() {
+    const std::u16string text = popup().txtOut.text();
+    return text.substr(0, text.find(u'\r'));
+  }
+};
+
+TEST_F(FrmScreenWord, LoadingStartsTheCycle) {
+  host().unload();
+  forms::doEvents();
+  auto& loaded = host();
+  EXPECT_EQ(loaded.Timer1.interval(), 5);
+  EXPECT_EQ(loaded.timScreenWord1.interval(), 100);
+  EXPECT_EQ(loaded.timScreenWord2.interval(), 60000);
+  EXPECT_TRUE(captureRuns());
+  EXPECT_EQ(ScreenWord::hScreenWordWnd, loaded.handle());
+  EXPECT_EQ(ScreenWord::MsgHasString, RegisterWindowMessageW(L"BL_HASSTRING"));
+  EXPECT_EQ(GetWindowLongPtrA(loaded.handle(), GWLP_WNDPROC),
+            reinterpret_cast<LONG_PTR>(&ScreenWord::WindowProc));
+}
+
+TEST_F(FrmScreenWord, IsNeverSeenNorActive) {
+  EXPECT_FALSE(IsWindowVisible(host().handle()));
+  EXPECT_TRUE(refusesActivation(host().handle()));
+  EXPECT_TRUE(isToolWindow(host().handle()));
+  EXPECT_EQ(host().width(), 2940);
+  EXPECT_EQ(host().height(), 1695);
+}
+
+TEST_F(FrmScreenWord, UnloadingPutsItsOwnProcedureBack) {
+  HWND window = host().handle();
+  const auto old = reinterpret_cast<LONG_PTR>(ScreenWord::OldWndProc);
+  LONG_PTR procedure = 0;
+  // Seen at the last moment at which the window is there.
+  struct Seen {
+    static LRESULT CALLBACK look(int code, WPARAM wParam, LPARAM lParam) {
+      const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+      if (code == HC_ACTION && message.message == WM_DESTROY && message.hwnd == watched()) {
+        found() = GetWindowLongPtrA(message.hwnd, GWLP_WNDPROC);
+      }
+      return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+    static HWND& watched() {
+      static HWND window;
+      return window;
+    }
+    static LONG_PTR& found() {
+      static LONG_PTR procedure;
+      return procedure;
+    }
+  };
+  Seen::watched() = window;
+  HHOOK hook = SetWindowsHookExW(WH_CALLWNDPROC, Seen::look, nullptr, GetCurrentThreadId());
+  host().unload();
+  UnhookWindowsHookEx(hook);
+  procedure = Seen::found();
+  EXPECT_EQ(procedure, old);
+  EXPECT_FALSE(IsWindow(window));
+}
+
+TEST_F(FrmScreenWord, HandsTheFirstWordToThePopup) {
+  report(u"data bank");
+  ASSERT_TRUE(eventually([] { return popupIsUp(); }));
+  EXPECT_EQ(headword(), u"data");
+  EXPECT_EQ(ScreenWord::strScreenWord, u"");
+}
+
+TEST_F(FrmScreenWord, RestsWhileThePopupIsUp) {
+  report(u"data");
+  ASSERT_TRUE(eventually([] { return popupIsUp(); }));
+  EXPECT_TRUE(allAlong([] { return !captureRuns() && popupIsUp(); }, 150));
+  EXPECT_FALSE(host().timScreenWord2.enabled());
+}
+
+TEST_F(FrmScreenWord, TheNextWordDoesNotReplaceThePopup) {
+  report(u"data");
+  ASSERT_TRUE(eventually([] { return popupIsUp(); }));
+  ScreenWord::strScreenWord = u"bit";
+  passTime(100);
+  EXPECT_EQ(headword(), u"data");
+}
+
+TEST_F(FrmScreenWord, NeitherOneLetterNorChineseOpensThePopup) {
+  for (const char16_t* word : {u"a", u"词典", u"data词"}) {
+    report(word);
+    EXPECT_TRUE(allAlong([] { return !forms::isLoaded<frmScreenWordMeaning>(); }, 60));
+    // The next probe forgets it.
+    EXPECT_TRUE(eventually([] { return ScreenWord::strScreenWord.empty(); }));
+    EXPECT_TRUE(captureRuns());
+  }
+}
+
+TEST_F(FrmScreenWord, EveryProbeStopsTheThirdTimer) {
+  ScreenWord::StartCapture();
+  EXPECT_TRUE(host().timScreenWord2.enabled());
+  EXPECT_TRUE(eventually([] { return !host().timScreenWord2.enabled(); }));
+  EXPECT_TRUE(captureRuns());
+}
+
+TEST_F(FrmScreenWord, APointerThatRestsOnAWordReadsIt) {
+  const PlainWindow edit(L"Edit", {200, 300, 900, 400}, L"some data here");
+  input::moveTo(wordPoint(edit.handle(), 6));
+  ScreenWord::StartCapture();
+  ASSERT_TRUE(eventually([] { return popupIsUp(); }));
+  EXPECT_EQ(popup().txtOut.text(), u"data\r\n数据");
+}
+
+TEST_F(FrmScreenWord, BlanksAroundAReportedWordDoNotCount) {
+  const PlainWindow edit(L"Edit", {200, 300, 900, 400}, L"    data    ");
+  input::moveTo(wordPoint(edit.handle(), 5));
+  ScreenWord::StartCapture();
+  ASSERT_TRUE(eventually([] { return popupIsUp(); }));
+  EXPECT_EQ(headword(), u"data");
+}
+
+TEST_F(FrmScreenWord, AFailingLookupStopsCaptureUntilThePointerMoves) {
+  const OtherDictionary none("");
+  report(u"data");
+  ASSERT_TRUE(eventually([] { return forms::isLoaded<frmScreenWordMeaning>(); }));
+  EXPECT_TRUE(eventually([] { return !captureRuns(); }));
+  EXPECT_FALSE(popupIsUp());
+  EXPECT_EQ(boxes.count(), 0U);
+  input::moveTo({kNowhere.x - 10, kNowhere.y});
+  EXPECT_TRUE(eventually([] { return !forms::isLoaded<frmScreenWordMeaning>(); }));
+  EXPECT_TRUE(captureRuns());
+}
+
+}  // namespace
+}  // namespace wintest

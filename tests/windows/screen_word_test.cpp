@@ -1,0 +1,177 @@
+#include <algorithm>
+
+#include "capture/nhw32/nhw32.h"
+#include "forms/registry.h"
+#include "tests/windows/support/capture_test.h"
+
+namespace wintest {
+namespace {
+
+constexpr RECT kPlace{200, 300, 900, 400};
+
+/// What the procedure below ScreenWord::WindowProc was given.
+MSG passedOn{};
+
+LRESULT CALLBACK remember(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  passedOn = {window, message, wParam, lParam, 0, {}};
+  return 77;
+}
+
+class ScreenWordTest : public CaptureTest {
+ protected:
+  ScreenWordTest() { passedOn = {}; }
+
+  /// Whether a probe at `point` moved the strip.
+  static bool probed(POINT point) {
+    const StripWatch watch;
+    ScreenWord::CatchWordAt(point);
+    return !StripWatch::places().empty();
+  }
+};
+
+TEST_F(ScreenWordTest, AnyOtherMessageGoesToTheOldProcedureAndItsResultComesBack) {
+  WNDPROC before = std::exchange(ScreenWord::OldWndProc, remember);
+  const LRESULT result = ScreenWord::WindowProc(host().handle(), WM_APP + 3, 12, 34);
+  ScreenWord::OldWndProc = before;
+  EXPECT_EQ(result, 77);
+  EXPECT_EQ(passedOn.hwnd, host().handle());
+  EXPECT_EQ(passedOn.message, WM_APP + 3U);
+  EXPECT_EQ(passedOn.wParam, 12U);
+  EXPECT_EQ(passedOn.lParam, 34);
+}
+
+TEST_F(ScreenWordTest, TheReportOfAWordIsNotPassedOn) {
+  ScreenWord::strScreenWord = u"old";
+  WNDPROC before = std::exchange(ScreenWord::OldWndProc, remember);
+  const LRESULT result = ScreenWord::WindowProc(host().handle(), ScreenWord::MsgHasString, 1, 2);
+  ScreenWord::OldWndProc = before;
+  EXPECT_EQ(result, 0);
+  EXPECT_EQ(passedOn.message, 0U);
+  // Nothing was found, so nothing is pending.
+  EXPECT_EQ(ScreenWord::strScreenWord, u"");
+}
+
+TEST_F(ScreenWordTest, AProbeFindsTheWordUnderThePoint) {
+  const PlainWindow edit(L"Edit", kPlace, L"some data here");
+  ScreenWord::CatchWordAt(wordPoint(edit.handle(), 6));
+  EXPECT_TRUE(eventually([] { return ScreenWord::strScreenWord == u"data"; }));
+}
+
+TEST_F(ScreenWordTest, AProbeElsewhereForgetsTheOneBefore) {
+  const PlainWindow edit(L"Edit", kPlace, L"some data here");
+  ScreenWord::CatchWordAt(wordPoint(edit.handle(), 6));
+  Sleep(100);  // the answer is on its way, and must not arrive
+  ScreenWord::CatchWordAt({890, 390});
+  EXPECT_TRUE(allAlong([] { return ScreenWord::strScreenWord.empty(); }, 150));
+}
+
+TEST_F(ScreenWordTest, AWindowThatIsNotProbedLeavesTheLastProbeAsItIs) {
+  const PlainWindow edit(L"Edit", kPlace, L"some data here");
+  const PlainWindow label(L"Static", {200, 500, 900, 600}, L"more");
+  ScreenWord::CatchWordAt(wordPoint(edit.handle(), 6));
+  ScreenWord::CatchWordAt({250, 550});
+  EXPECT_TRUE(eventually([] { return ScreenWord::strScreenWord == u"data"; }));
+}
+
+TEST_F(ScreenWordTest, NeitherAButtonNorALabelIsProbed) {
+  for (const wchar_t* name : {L"Button", L"Static"}) {
+    const PlainWindow window(name, kPlace, L"some data here");
+    EXPECT_FALSE(probed({250, 350})) << (name[0] == L'B' ? "Button" : "Static");
+    EXPECT_TRUE(allAlong([] { return ScreenWord::strScreenWord.empty(); }, 100));
+  }
+}
+
+TEST_F(ScreenWordTest, AWindowWhoseClassMerelyContainsEditIsProbed) {
+  const PlainWindow window(plainClass(L"TMyEditor"), kPlace);
+  EXPECT_TRUE(probed({250, 350}));
+}
+
+TEST_F(ScreenWordTest, TheStripCoversTheRowsAboveThePointAndGoesOffTheDesktop) {
+  const PlainWindow window(plainClass(L"TMyEditor"), kPlace);
+  const StripWatch watch;
+  ScreenWord::CatchWordAt({300, 350});
+  const auto& places = StripWatch::places();
+  ASSERT_GE(places.size(), 2U);
+  const auto shown = std::find_if(places.begin(), places.end(), [](const auto& place) {
+    return place.shown && place.rect.left == 196 && place.rect.top == 345;
+  });
+  ASSERT_NE(shown, places.end());
+  EXPECT_EQ(shown->rect.right - shown->rect.left, 692);
+  EXPECT_EQ(shown->rect.bottom - shown->rect.top, 5);
+  EXPECT_TRUE(shown->topmost);
+  EXPECT_FALSE(shown->tookFocus);
+  EXPECT_LE(places.back().rect.bottom, 0);
+  EXPECT_EQ(places.back().rect.left, -67);
+  EXPECT_EQ(places.back().rect.top, -67);
+}
+
+TEST_F(ScreenWordTest, TheStripBegins200PixelsLeftOfAPointFarInside) {
+  const PlainWindow window(plainClass(L"TMyEditor"), kPlace);
+  const StripWatch watch;
+  ScreenWord::CatchWordAt({700, 350});
+  const auto& places = StripWatch::places();
+  EXPECT_TRUE(std::any_of(places.begin(), places.end(), [](const auto& place) {
+    return place.shown && place.rect.left == 500 && place.rect.right == 1192;
+  }));
+}
+
+TEST_F(ScreenWordTest, TheStripIsPureBlueAndNeverActive) {
+  auto& strip = forms::single<frmScreen>();
+  EXPECT_EQ(rectOf(strip.handle()).left, -667);
+  EXPECT_EQ(rectOf(strip.handle()).top, -667);
+  EXPECT_TRUE(refusesActivation(strip.handle()));
+  EXPECT_TRUE(isToolWindow(strip.handle()));
+  strip.cover({300, 400, 50, 5});
+  forms::doEvents();
+  HDC context = GetDC(strip.handle());
+  EXPECT_EQ(GetPixel(context, 20, 2), RGB(0, 0, 255));
+  ReleaseDC(strip.handle(), context);
+}
+
+TEST_F(ScreenWordTest, AMonitorAtTheStripsRestingPlaceHidesIt) {
+  auto& strip = forms::single<frmScreen>();
+  strip.cover({300, 400, 50, 5});
+  ASSERT_TRUE(IsWindowVisible(strip.handle()));
+  strip.uncover();
+  EXPECT_TRUE(IsWindowVisible(strip.handle()));
+  // So wide and high that it reaches onto the monitor from there.
+  strip.cover({300, 400, 500, 200});
+  strip.uncover();
+  EXPECT_FALSE(IsWindowVisible(strip.handle()));
+  strip.cover({300, 400, 50, 5});
+  EXPECT_TRUE(IsWindowVisible(strip.handle()));
+}
+
+TEST_F(ScreenWordTest, SwitchingTwiceIsAsGoodAsOnce) {
+  ScreenWord::StartCapture();
+  ScreenWord::StartCapture();
+  EXPECT_TRUE(host().Timer1.enabled());
+  EXPECT_TRUE(host().timScreenWord1.enabled());
+  EXPECT_TRUE(host().timScreenWord2.enabled());
+  ScreenWord::StopCapture();
+  ScreenWord::StopCapture();
+  EXPECT_FALSE(host().Timer1.enabled());
+  EXPECT_FALSE(host().timScreenWord1.enabled());
+  EXPECT_FALSE(host().timScreenWord2.enabled());
+}
+
+TEST_F(ScreenWordTest, TheSwitchesLoadTheHost) {
+  host().unload();
+  ASSERT_FALSE(forms::isLoaded<frmScreenWord>());
+  ScreenWord::StopCapture();
+  EXPECT_TRUE(forms::isLoaded<frmScreenWord>());
+  host().unload();
+  ScreenWord::StartCapture();
+  EXPECT_TRUE(forms::isLoaded<frmScreenWord>());
+}
+
+TEST_F(ScreenWordTest, AWordThatComesWhileCaptureRestsDoesNotTurnUpLater) {
+  ScreenWord::StartCapture();
+  ScreenWord::strScreenWord = u"data";
+  ScreenWord::StopCapture();
+  ScreenWord::StartCapture();
+  EXPECT_TRUE(allAlong([] { return !popupIsUp(); }, 100));
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "app/state.h"
+#include "capture/frm_screen.h"
+#include "capture/frm_screen_word.h"
+#include "capture/frm_screen_word_meaning.h"
+#include "capture/screen_word.h"
+#include "tests/windows/support/dictionary.h"
+#include "tests/windows/support/plain_window.h"
+#include "tests/windows/support/strip_watch.h"
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+
+/// The capture cycle over the made-up dictionary, resting to begin with, and the pointer where no
+/// test has a window.
+class CaptureTest : public WindowTest {
+ protected:
+  CaptureTest() {
+    useDictionary();
+    input::moveTo(kNowhere);
+    ScreenWord::StopCapture();
+  }
+
+  static frmScreenWord& host() { return forms::single<frmScreenWord>(); }
+  static frmScreenWordMeaning& popup() { return forms::single<frmScreenWordMeaning>(); }
+  static bool popupIsUp() {
+    return forms::isLoaded<frmScreenWordMeaning>() && IsWindowVisible(popup().handle()) != FALSE;
+  }
+
+  static bool captureRuns() {
+    EXPECT_EQ(host().Timer1.enabled(), host().timScreenWord1.enabled());
+    return host().Timer1.enabled();
+  }
+
+  /// Where the word at `index` of an edit control's text stands on the screen.
+  static POINT wordPoint(HWND edit, int index) {
+    const auto place = SendMessageW(edit, EM_POSFROMCHAR, static_cast<WPARAM>(index), 0);
+    POINT point{static_cast<SHORT>(LOWORD(place)) + 4, static_cast<SHORT>(HIWORD(place)) + 6};
+    ClientToScreen(edit, &point);
+    return point;
+  }
+};
+
+}  // namespace wintest
