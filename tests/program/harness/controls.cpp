@@ -109,6 +109,13 @@ std::vector<COLORREF> richTextColours(HWND pane) {
   return colours;
 }
 
+POINT editPosition(HWND edit, LONG character) {
+  const LRESULT place = send(edit, EM_POSFROMCHAR, static_cast<WPARAM>(character));
+  POINT point{static_cast<SHORT>(LOWORD(place)), static_cast<SHORT>(HIWORD(place))};
+  ClientToScreen(edit, &point);
+  return point;
+}
+
 POINT richTextPosition(HWND pane, LONG character) {
   const RemoteMemory memory(pane, sizeof(POINTL));
   send(pane, EM_POSFROMCHAR, reinterpret_cast<WPARAM>(memory.at()), character);

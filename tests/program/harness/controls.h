@@ -33,6 +33,9 @@ void selectRichText(HWND pane, Selection selection);
 /// The colours of a rich text box's characters, one for each that the control counts.
 std::vector<COLORREF> richTextColours(HWND pane);
 
+/// Where a character of a text box stands, in screen pixels: its top left corner.
+POINT editPosition(HWND edit, LONG character);
+
 /// Where a character of a rich text box stands, in screen pixels: the left end of its upper edge.
 POINT richTextPosition(HWND pane, LONG character);
 

@@ -127,6 +127,15 @@ POINT centreOf(const RECT& rect) {
 
 SIZE sizeOf(const RECT& rect) { return {rect.right - rect.left, rect.bottom - rect.top}; }
 
+void placeWindow(HWND window, const RECT& rect) {
+  SetWindowPos(window, nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  waitFor("a window to be moved", [&] {
+    const RECT now = rectOf(window);
+    return EqualRect(&now, &rect) != FALSE;
+  });
+}
+
 bool isTopmost(HWND window) {
   return (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
 }

@@ -48,6 +48,9 @@ SIZE sizeOf(const RECT& rect);
 
 bool isTopmost(HWND window);
 
+/// Moves and resizes a window, outer frame included, and waits until it is there.
+void placeWindow(HWND window, const RECT& rect);
+
 /// The control that has the keyboard in the thread of `window`.
 HWND focusIn(HWND window);
 

@@ -19,13 +19,10 @@ void Notepad::clickIntoText() const {
           [&] { return GetForegroundWindow() == window_ && focusIn(window_) == edit_; });
 }
 
-void Notepad::place(const RECT& rect) const {
-  SetWindowPos(window_, nullptr, rect.left, rect.top, rect.right - rect.left,
-               rect.bottom - rect.top, SWP_NOZORDER | SWP_NOACTIVATE);
-  waitFor("Notepad to be moved", [&] {
-    const RECT now = rectOf(window_);
-    return EqualRect(&now, &rect) != FALSE;
-  });
+void Notepad::setText(const std::wstring& text) const {
+  send(edit_, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
 }
+
+void Notepad::place(const RECT& rect) const { placeWindow(window_, rect); }
 
 }  // namespace harness

@@ -14,7 +14,9 @@ class Notepad {
   Notepad();
 
   [[nodiscard]] HWND window() const { return window_; }
+  [[nodiscard]] HWND edit() const { return edit_; }
   [[nodiscard]] std::wstring text() const { return textOf(edit_); }
+  void setText(const std::wstring& text) const;
 
   /// Clicks into its text and waits until it has the keyboard.
   void clickIntoText() const;

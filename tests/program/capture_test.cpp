@@ -1,0 +1,302 @@
+// Words under the pointer in other programs.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <random>
+
+#include "tests/program/harness/controls.h"
+#include "tests/program/harness/input.h"
+#include "tests/program/harness/lexilo.h"
+#include "tests/program/harness/meaning_popup.h"
+#include "tests/program/harness/notepad.h"
+#include "tests/program/harness/screen.h"
+#include "tests/program/harness/text.h"
+#include "tests/program/harness/text_window.h"
+#include "tests/program/harness/word_pad.h"
+#include "tests/program/harness/word_page.h"
+
+namespace harness {
+namespace {
+
+constexpr RECT kPage{40, 120, 840, 720};
+
+class Capture : public ::testing::Test {
+ protected:
+  Capture() {
+    input::moveTo(kAwayFromTexts);
+    lexilo.waitUntilSeen();
+  }
+
+  /// Rests the pointer on a character of Notepad's text.
+  static void restOn(const Notepad& notepad, LONG character) {
+    const POINT place = editPosition(notepad.edit(), character);
+    input::moveTo({place.x + 3, place.y + 6});
+  }
+
+  const Lexilo lexilo{AppFolder::withFullDictionary()};
+  const MeaningPopup popup{lexilo.process()};
+};
+
+TEST_F(Capture, AWordInNotepadIsRead) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  notepad.setText(L"The database holds many words.");
+  restOn(notepad, 8);
+  const std::wstring text = popup.waitFor(L"database");
+  EXPECT_NE(text.find(L"数据库"), text.npos) << utf8(text);
+  POINT pointer{};
+  GetCursorPos(&pointer);
+  const RECT rect = rectOf(popup.window());
+  EXPECT_EQ(rect.left, pointer.x + 10);
+  EXPECT_EQ(rect.top, pointer.y + 10);
+  saveScreenshot("build/shots/popup.png");
+}
+
+TEST_F(Capture, AWordInWordPadIsRead) {
+  const WordPad wordPad;
+  wordPad.place(kPage);
+  wordPad.setText(L"The enzyme is a catalyst.");
+  const POINT place = richTextPosition(wordPad.edit(), 17);
+  input::moveTo({place.x + 3, place.y + 6});
+  const std::wstring text = popup.waitFor(L"catalyst");
+  EXPECT_NE(text.find(L"催化剂"), text.npos) << utf8(text);
+  saveScreenshot("build/shots/popup-wordpad.png");
+}
+
+TEST_F(Capture, AWordFoundWithoutItsLastLetterKeepsItsHeadline) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  notepad.setText(L"Two isotopess and more");
+  restOn(notepad, 6);
+  const std::wstring text = popup.waitFor(L"isotopess");
+  EXPECT_EQ(text.find(L"没找到"), text.npos) << utf8(text);
+}
+
+TEST_F(Capture, AWordThatIsNowhereIsNotFound) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  notepad.setText(L"A zzqxwvk here");
+  restOn(notepad, 4);
+  EXPECT_EQ(popup.waitFor(L"zzqxwvk"), L"zzqxwvk\r\n<没找到>");
+  saveScreenshot("build/shots/popup-not-found.png");
+}
+
+TEST_F(Capture, OneLetterAndChineseOpenNothing) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  notepad.setText(L"A 数据库 database");
+  restOn(notepad, 0);
+  EXPECT_TRUE(popup.staysAway(400));
+  restOn(notepad, 3);
+  EXPECT_TRUE(popup.staysAway(400));
+  restOn(notepad, 7);
+  (void)popup.waitFor(L"database");
+}
+
+TEST_F(Capture, EnglishAmongChineseIsReadAlone) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  notepad.setText(L"这个database很大，另一个kernel。");
+  restOn(notepad, 4);
+  (void)popup.waitFor(L"database");
+  restOn(notepad, 18);
+  (void)popup.waitFor(L"kernel");
+}
+
+TEST_F(Capture, MovingOnClosesThePopupAndReadsTheNextWord) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  notepad.setText(L"database kernel");
+  restOn(notepad, 2);
+  (void)popup.waitFor(L"database");
+  POINT pointer{};
+  GetCursorPos(&pointer);
+  input::moveTo({pointer.x + 5, pointer.y});
+  EXPECT_TRUE(neverWithin(300, [&] { return !popup.isUp(); }));
+  input::moveTo({pointer.x, pointer.y + 400});
+  popup.waitUntilClosed();
+  restOn(notepad, 11);
+  (void)popup.waitFor(L"kernel");
+}
+
+TEST_F(Capture, BlanksMarginsAndPlacesBelowTheTextOpenNothing) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  notepad.setText(L"database          kernel\r\n\r\nnetwork");
+  restOn(notepad, 13);
+  EXPECT_TRUE(popup.staysAway(350));
+  const POINT end = editPosition(notepad.edit(), 23);
+  input::moveTo({end.x + 60, end.y + 6});
+  EXPECT_TRUE(popup.staysAway(350));
+  const POINT last = editPosition(notepad.edit(), 28);
+  input::moveTo({last.x + 3, last.y + 80});
+  EXPECT_TRUE(popup.staysAway(350));
+  input::moveTo({last.x + 3, last.y - 10});
+  EXPECT_TRUE(popup.staysAway(350));
+  restOn(notepad, 30);
+  (void)popup.waitFor(L"network");
+}
+
+TEST_F(Capture, NeitherLabelsNorButtonsNorListsAreRead) {
+  for (const wchar_t* kind :
+       {L"Static", L"Button", L"ListBox", L"SysListView32", L"SysTreeView32", L"ComboLBox"}) {
+    const TextWindow window(kind, 0, {300, 300, 500, 330}, L"database");
+    input::moveTo({310, 310});
+    EXPECT_TRUE(popup.staysAway(350)) << utf8(kind);
+    input::moveTo(kAwayFromTexts);
+  }
+}
+
+TEST_F(Capture, APasswordIsNeverRead) {
+  const TextWindow hidden(L"Edit", ES_PASSWORD, {300, 300, 500, 330}, L"database");
+  input::moveTo({305, 308});
+  EXPECT_TRUE(popup.staysAway(500));
+  const TextWindow open(L"Edit", 0, {300, 400, 500, 430}, L"database");
+  input::moveTo({310, 408});
+  (void)popup.waitFor(L"database");
+}
+
+TEST_F(Capture, AMenuIsNotRead) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  input::click({kPage.left + 20, kPage.top + 35});
+  HWND menu = waitForWindow({.className = L"#32768", .title = {}});
+  const RECT rect = rectOf(menu);
+  input::moveTo({rect.left + 30, rect.top + 12});
+  EXPECT_TRUE(popup.staysAway(400));
+  input::key(VK_ESCAPE);
+  input::key(VK_ESCAPE);
+}
+
+TEST_F(Capture, ThePlaceNearTheRightEdgeMovesThePopupInwards) {
+  const int screen = GetSystemMetrics(SM_CXSCREEN);
+  const TextWindow window(L"Edit", 0, {screen - 90, 300, screen, 330}, L"database");
+  input::moveTo({screen - 60, 308});
+  (void)popup.waitFor(L"database");
+  EXPECT_NEAR(rectOf(popup.window()).right, screen - 30, 1);
+  saveScreenshot("build/shots/popup-right-edge.png");
+}
+
+TEST_F(Capture, ThePlaceNearTheBottomIsNotMoved) {
+  const int screen = GetSystemMetrics(SM_CYSCREEN);
+  const TextWindow window(L"Edit", 0, {300, screen - 40, 500, screen - 10}, L"database");
+  input::moveTo({310, screen - 30});
+  (void)popup.waitFor(L"database");
+  EXPECT_EQ(rectOf(popup.window()).top, screen - 20);
+}
+
+TEST_F(Capture, TypingGoesOnWhileThePopupOpensAndCloses) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  notepad.setText(L"database kernel network\r\n");
+  notepad.clickIntoText();
+  input::key(VK_END, {VK_CONTROL});
+  std::wstring typed = notepad.text();
+  int popups = 0;
+  for (int i = 0; i < 150; ++i) {
+    restOn(notepad, std::array{2, 11, 18}.at(static_cast<std::size_t>(i / 25 % 3)));
+    const auto letter = static_cast<wchar_t>(L'a' + (i % 26));
+    input::type({&letter, 1});
+    typed += letter;
+    if (popup.isUp()) ++popups;
+    ASSERT_EQ(GetForegroundWindow(), notepad.window());
+    ASSERT_EQ(focusIn(notepad.window()), notepad.edit());
+    Sleep(15);
+  }
+  EXPECT_GT(popups, 10);
+  waitFor("all letters", [&] { return notepad.text() == typed; });
+}
+
+TEST_F(Capture, ASelectionStaysAsItIs) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  notepad.setText(L"database kernel network");
+  notepad.clickIntoText();
+  send(notepad.edit(), EM_SETSEL, 9, 15);
+  for (const LONG character : {2L, 11L, 18L}) {
+    restOn(notepad, character);
+    waitFor("a popup", [&] { return popup.isUp(); });
+    EXPECT_EQ(selectionOf(notepad.edit()), (Selection{9, 15}));
+    input::moveTo(kAwayFromTexts);
+    popup.waitUntilClosed();
+  }
+}
+
+/// Rests the pointer on 200 words of a page and counts those whose popup names them.
+int wordsRead(const MeaningPopup& popup, const WordPage& page, const RECT& visible,
+              const std::function<POINT(LONG)>& position, const std::function<LONG(int)>& count) {
+  std::minstd_rand random(7);
+  int read = 0;
+  for (int tried = 0; tried < 200;) {
+    const auto& [start, word] = page.words()[random() % page.words().size()];
+    const int inside = static_cast<int>(random() % word.size());
+    if (word[static_cast<std::size_t>(inside)] == L'-') continue;
+    const POINT place = position(count(start + inside));
+    const POINT point{place.x + 3, place.y + 6};
+    if (!PtInRect(&visible, point) || WindowFromPoint(point) == nullptr) continue;
+    ++tried;
+    input::moveTo(point);
+    try {
+      (void)popup.waitFor(word);
+      ++read;
+    } catch (const Failure& failure) {
+      ADD_FAILURE() << failure.what() << " at character " << start + inside
+                    << ", shown: " << utf8(popup.text());
+    }
+    // Away, or the next word could be read from a popup that is still up.
+    input::moveTo(kAwayFromTexts);
+    popup.waitUntilClosed();
+  }
+  return read;
+}
+
+TEST_F(Capture, TwoHundredWordsOfAPageInNotepad) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  const WordPage page(1, 60, 70);
+  notepad.setText(page.text());
+  RECT visible = clientRectOf(notepad.edit());
+  InflateRect(&visible, -10, -20);
+  EXPECT_EQ(wordsRead(
+                popup, page, visible, [&](LONG at) { return editPosition(notepad.edit(), at); },
+                [](int at) { return static_cast<LONG>(at); }),
+            200);
+}
+
+TEST_F(Capture, TwoHundredWordsOfAPageInWordPad) {
+  const WordPad wordPad;
+  wordPad.place(kPage);
+  const WordPage page(2, 60, 70);
+  wordPad.setText(page.text());
+  RECT visible = clientRectOf(wordPad.edit());
+  InflateRect(&visible, -10, -20);
+  // The control counts a line's end once.
+  const auto count = [&](int at) {
+    const auto end = page.text().begin() + at;
+    return static_cast<LONG>(at - std::count(page.text().begin(), end, L'\r'));
+  };
+  EXPECT_EQ(wordsRead(
+                popup, page, visible, [&](LONG at) { return richTextPosition(wordPad.edit(), at); },
+                count),
+            200);
+}
+
+TEST_F(Capture, AWordDeepInALongTextIsRead) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  const WordPage page(3, 5000, 75);
+  ASSERT_GT(page.text().size(), 380'000U);
+  notepad.setText(page.text());
+  for (const std::size_t number : {page.words().size() / 2, page.words().size() - 30}) {
+    const auto& [start, word] = page.words()[number];
+    send(notepad.edit(), EM_SETSEL, static_cast<WPARAM>(start), start);
+    send(notepad.edit(), EM_SCROLLCARET);
+    restOn(notepad, start);
+    (void)popup.waitFor(word);
+    input::moveTo(kAwayFromTexts);
+    popup.waitUntilClosed();
+  }
+}
+
+}  // namespace
+}  // namespace harness

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "tests/program/harness/find.h"
+#include "tests/program/harness/process.h"
+
+namespace harness {
+
+/// The system's WordPad, whose text is a rich text box.
+class WordPad {
+ public:
+  /// Starts it and waits until a user has seen it.
+  WordPad();
+
+  [[nodiscard]] HWND window() const { return window_; }
+  [[nodiscard]] HWND edit() const { return edit_; }
+
+  void setText(const std::wstring& text) const;
+  void place(const RECT& rect) const;
+
+ private:
+  Process process_;
+  HWND window_;
+  HWND edit_;
+};
+
+}  // namespace harness
