@@ -6,6 +6,8 @@ wine_base=$LEXILO_ROOT/build/wine/base
 # use_prefix PREFIX: what is started from here on runs in it, on a Chinese Windows, without Wine's
 # add-ons and without its messages.
 use_prefix() {
+  # Without a path there is no prefix, and whoever failed to make it has said why.
+  [[ -n $1 ]] || exit 1
   export WINEPREFIX=$1 WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
   export LC_ALL=zh_CN.UTF-8
 }
@@ -31,16 +33,23 @@ ensure_wine_base() {
     make_prefix "$wine_base"
 }
 
+# Puts a copy in the place of each file it is given, where the other hard links do not show it.
+# shellcheck disable=SC2016
+own_files='for file; do cp -p "$file" "$file.own" && mv "$file.own" "$file" || exit; done'
+
 # copy_prefix NAME: copies the base prefix to build/wine/NAME, unless it is there, and prints its
 # path. Wine's own program files are shared through hard links, all that is written to is copied.
 copy_prefix() {
   local copy=$LEXILO_ROOT/build/wine/$1
   if [[ ! -f $copy/made-by ]] || ! cmp -s "$wine_base/made-by" "$copy/made-by"; then
-    rm -rf "$copy"
-    cp -al "$wine_base" "$copy.new"
+    # What an interrupted copy left would otherwise be copied into. Inside $(…) a failed command
+    # ends nothing by itself.
+    rm -rf "$copy" "$copy.new" || fail "the old Wine prefix $copy could not be removed."
+    cp -al "$wine_base" "$copy.new" || fail "the Wine prefix $wine_base could not be copied."
     find "$copy.new" -type f -not -name '*.dll' -not -name '*.exe' -not -name '*.drv' \
-      -not -name '*.sys' -exec cp -p {} {}.own ';' -exec mv {}.own {} ';'
-    mv "$copy.new" "$copy"
+      -not -name '*.sys' -exec bash -c "$own_files" own_files {} + ||
+      fail "the files of the Wine prefix $copy.new could not be copied."
+    mv "$copy.new" "$copy" || fail "the Wine prefix $copy could not be put in its place."
   fi
   printf '%s' "$copy"
 }
@@ -63,7 +72,8 @@ stop_wine() {
 
 # fresh_prefix NAME: the same, but without anything that an earlier run left there.
 fresh_prefix() {
-  rm -rf "$LEXILO_ROOT/build/wine/$1"
+  rm -rf "$LEXILO_ROOT/build/wine/$1" ||
+    fail "the old Wine prefix $LEXILO_ROOT/build/wine/$1 could not be removed."
   copy_prefix "$1"
 }
 
