@@ -40,7 +40,8 @@ std::string_view describe(Rule rule) {
     case Rule::kSearchable:
       return "no headword holds a wildcard (% _) or a character beyond U+FFFF";
     case Rule::kCharacters:
-      return "no text holds control, private-use, box-drawing or unassigned characters";
+      return "no text holds controls, invisible or uncomposed marks, box drawing, private-use or "
+             "compatibility characters, characters beyond U+FFFF, specials or noncharacters";
     case Rule::kMarkup:
       return "no text holds tags or entity codes";
     case Rule::kIndexOrder:
