@@ -5,6 +5,9 @@
 #include <optional>
 #include <utility>
 
+#include "text/ascii.h"
+#include "text/trim.h"
+
 namespace data {
 namespace {
 
@@ -19,16 +22,6 @@ constexpr std::array kKeys{
     Key{u"persist security info", &ConnectionString::persistSecurityInfo},
 };
 
-char16_t lowerAscii(char16_t unit) {
-  return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
-}
-
-std::u16string_view trim(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  if (first == std::u16string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
-}
-
 /// One "key=" and what follows it up to the next one.
 struct Entry {
   const Key* key = nullptr;
@@ -40,10 +33,10 @@ struct Entry {
 std::optional<Entry> entryAt(std::u16string_view text, std::size_t start) {
   const std::size_t equals = text.find(u'=', start);
   if (equals == std::u16string_view::npos) return std::nullopt;
-  const std::u16string_view name = trim(text.substr(start, equals - start));
+  const std::u16string_view name = user::trimBlanks(text.substr(start, equals - start));
   const auto* key = std::find_if(kKeys.begin(), kKeys.end(), [&](const Key& known) {
     return std::equal(name.begin(), name.end(), known.name.begin(), known.name.end(),
-                      [](char16_t a, char16_t b) { return lowerAscii(a) == b; });
+                      [](char16_t a, char16_t b) { return text::lowerAscii(a) == b; });
   });
   if (key == kKeys.end()) return std::nullopt;
   return Entry{key, start, equals + 1};
@@ -57,7 +50,8 @@ ConnectionString parseConnectionString(std::u16string_view text) {
   std::optional<Entry> open;
   const auto finish = [&](std::size_t end) {
     if (open)
-      result.*(open->key->value) = trim(text.substr(open->valueStart, end - open->valueStart));
+      result.*(open->key->value) =
+          user::trimBlanks(text.substr(open->valueStart, end - open->valueStart));
   };
   for (std::size_t start = 0;;) {
     const std::optional<Entry> next = entryAt(text, start);

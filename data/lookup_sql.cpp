@@ -2,18 +2,17 @@
 
 #include <initializer_list>
 
+#include "text/decimal.h"
+
 namespace data {
 namespace {
+
+using text::decimal;
 
 std::u16string joined(std::initializer_list<std::u16string_view> parts) {
   std::u16string whole;
   for (const std::u16string_view part : parts) whole.append(part);
   return whole;
-}
-
-std::u16string decimal(std::int32_t number) {
-  const std::string digits = std::to_string(number);
-  return {digits.begin(), digits.end()};
 }
 
 }  // namespace

@@ -2,17 +2,17 @@
 
 #include <algorithm>
 
+#include "text/ascii.h"
+
 namespace data {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\n\f\r";
 
-char lowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
-
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 bool isWordCharacter(char c) {
-  const char lower = lowerAscii(c);
+  const char lower = text::lowerAscii(c);
   return (lower >= 'a' && lower <= 'z') || isDigit(c) || c == '_' || c == '$' ||
          static_cast<unsigned char>(c) >= 0x80;
 }
@@ -80,7 +80,7 @@ std::vector<Token> tokenize(std::string_view sql) {
 
 bool sameName(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return lowerAscii(x) == lowerAscii(y); });
+                    [](char x, char y) { return text::lowerAscii(x) == text::lowerAscii(y); });
 }
 
 std::string_view bareName(const Token& token) {

@@ -4,18 +4,13 @@
 
 #include "dictionary/brackets.h"
 #include "dictionary/part_of_speech.h"
+#include "text/trim.h"
 
 namespace dictionary {
 namespace {
 
 /// Subjects whose lines use one-character brackets for something else.
 constexpr SubjectSet kNoShortTagsAfter = setOf(Subject::kMedicine) | setOf(Subject::kComputing);
-
-std::u16string_view trimBlanks(std::u16string_view text) {
-  while (text.starts_with(u' ')) text.remove_prefix(1);
-  while (text.ends_with(u' ')) text.remove_suffix(1);
-  return text;
-}
 
 /// Length of what may stand between a note or numeral and a part-of-speech mark: "& ", "Ⅰ ", and
 /// the full stop of "n<古>.".
@@ -52,7 +47,8 @@ LineHead readHead(std::u16string_view text, bool shortTags) {
     const std::size_t close = closingPosition(text, position);
     if (close == std::u16string_view::npos) return head;
 
-    const std::u16string_view tag = trimBlanks(text.substr(position + 1, close - position - 1));
+    const std::u16string_view tag =
+        user::trimBlanks(text.substr(position + 1, close - position - 1));
     const bool mayBeTag = kind == Bracket::kSquare && (shortTags || tag.size() > 1) &&
                           (tag.size() > 1 || (head.subjects & kNoShortTagsAfter) == 0);
     const SubjectSet subjects = mayBeTag ? subjectsOfTag(tag) : 0;

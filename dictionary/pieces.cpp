@@ -6,6 +6,7 @@
 
 #include "dictionary/brackets.h"
 #include "dictionary/characters.h"
+#include "text/trim.h"
 
 namespace dictionary {
 namespace {
@@ -55,12 +56,6 @@ std::size_t closedGroupEnd(std::u16string_view text, std::size_t open) {
   return close == std::u16string_view::npos ? close : close + 1;
 }
 
-std::u16string_view trimBlanks(std::u16string_view text) {
-  while (text.starts_with(u' ')) text.remove_prefix(1);
-  while (text.ends_with(u' ')) text.remove_suffix(1);
-  return text;
-}
-
 /// Whether `note` is a foreign word and what form of it the headword is, and nothing else.
 bool isInflection(std::u16string_view note) {
   const bool named = std::ranges::any_of(kInflections, [&](std::u16string_view inflection) {
@@ -80,7 +75,7 @@ std::vector<RawPiece> splitPieces(std::u16string_view text) {
   std::size_t begin = 0;
   char16_t before = 0;
   const auto finish = [&](std::size_t end) {
-    const std::u16string_view piece = trimBlanks(text.substr(begin, end - begin));
+    const std::u16string_view piece = user::trimBlanks(text.substr(begin, end - begin));
     if (!piece.empty()) pieces.push_back({piece, before});
   };
   for (std::size_t i = 0; i < text.size();) {

@@ -4,6 +4,7 @@
 #include "lookup/layout.h"
 #include "settings/settings_file.h"
 #include "settings/settings_rules.h"
+#include "text/decimal.h"
 #include "text/utf.h"
 
 namespace {
@@ -12,11 +13,6 @@ const std::u16string kSection(user::kSettingsSection);
 const std::u16string kWindowWidth = u"WindowWidth";
 const std::u16string kWindowHeight = u"WindowHeight";
 const std::u16string kTreeWidth = u"TreeWidth";
-
-std::u16string decimal(int number) {
-  const std::string digits = std::to_string(number);
-  return {digits.begin(), digits.end()};
-}
 
 std::runtime_error unusable(const std::u16string& key, const std::u16string& value,
                             const std::u16string& file) {
@@ -32,7 +28,7 @@ void frmSub::readSizes() {
   const int windowHeight = readSize(kWindowHeight, 3200);
   const int treeWidth = readSize(kTreeWidth, 2000);
   if (!lookup::leavesRoomForPane({windowWidth, windowHeight}, treeWidth)) {
-    throw unusable(kTreeWidth, decimal(treeWidth), settingsPath_);
+    throw unusable(kTreeWidth, text::decimal(treeWidth), settingsPath_);
   }
   setSize(width(), windowHeight);
   setSize(windowWidth, height());
@@ -50,7 +46,8 @@ int frmSub::readSize(const std::u16string& key, int fallback) const {
 void frmSub::writeSizes() const {
   // Loading that failed before the sizes were read must not replace those that are stored.
   if (settingsPath_.empty()) return;
-  user::WriteINIProfileString(kSection, kWindowWidth, decimal(width()), settingsPath_);
-  user::WriteINIProfileString(kSection, kWindowHeight, decimal(height()), settingsPath_);
-  user::WriteINIProfileString(kSection, kTreeWidth, decimal(TreeView1.width()), settingsPath_);
+  user::WriteINIProfileString(kSection, kWindowWidth, text::decimal(width()), settingsPath_);
+  user::WriteINIProfileString(kSection, kWindowHeight, text::decimal(height()), settingsPath_);
+  user::WriteINIProfileString(kSection, kTreeWidth, text::decimal(TreeView1.width()),
+                              settingsPath_);
 }

@@ -16,6 +16,7 @@
 #include "bench/native/timings.h"
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
+#include "text/decimal.h"
 #include "text/query_text.h"
 #include "text/utf.h"
 
@@ -32,8 +33,6 @@ std::u16string connectionStringFor(const char* file) {
   return u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + text::toUtf16(file) +
          u";Persist Security Info=False";
 }
-
-std::u16string decimal(std::size_t number) { return text::toUtf16(std::to_string(number)); }
 
 data::RecordSet& run(data::DataControl& control, std::u16string_view sql) {
   control.setRecordSource(sql);
@@ -70,7 +69,8 @@ Words spreadWords(data::DataControl& control, const std::u16string& table,
   const std::u16string one = every + u" where " + number + u"=";
   Words words;
   for (std::size_t i = 0; i < count; ++i) {
-    data::RecordSet& found = run(control, one + decimal(1 + (i * (rows - 1) / count)));
+    const auto row = static_cast<std::int64_t>(1 + (i * (rows - 1) / count));
+    data::RecordSet& found = run(control, one + text::decimal(row));
     if (!found.empty()) words.push_back(found.field(u"word").text);
   }
   return words;
