@@ -3,21 +3,14 @@
 #include <limits>
 #include <stdexcept>
 
+#include "data/bound_limits.h"
 #include "text/order.h"
 #include "text/query_text.h"
 
 namespace data {
 namespace {
 
-/// Every so many rows of [edict] and [cdict] one stands in the index tables.
-constexpr std::int64_t kBlock = 100;
-/// The lower bound lies so far below the block's last row, so that the block before is searched
-/// too.
-constexpr std::int64_t kReachBack = 200;
-/// The upper bound for Chinese input behind the last index word: the rows that [cdict] may have.
-constexpr std::int32_t kLastRow = 1'060'000;
-/// The widest window that is searched, and the width above which a list would have to be narrowed.
-constexpr std::int32_t kWindow = 500;
+/// The width above which a list would have to be narrowed.
 constexpr std::int32_t kListWindow = 1000;
 
 std::u16string withWildcards(std::u16string_view word, std::u16string_view replacement) {
@@ -34,7 +27,7 @@ std::int32_t rowNumber(std::int64_t number) {
 
 /// The row that stands `offset` rows from the last one of a block.
 std::int32_t rowFromBlock(std::int64_t block, std::int64_t offset) {
-  return rowNumber((rowNumber(block) * kBlock) + offset);
+  return rowNumber((std::int64_t{rowNumber(block)} * kBlockRows) + offset);
 }
 
 /// Runs `sql` and gives its rows, which the control holds.
@@ -55,7 +48,7 @@ void HeadwordLookup::getBound(std::u16string_view word, DataControl& control) {
   } else {
     getChineseBound(word, control);
   }
-  clampWidth(kWindow);
+  clampWidth(kWindowRows);
 }
 
 void HeadwordLookup::getEnglishBound(std::u16string_view word) {
@@ -93,7 +86,7 @@ void HeadwordLookup::getChineseBound(std::u16string_view word, DataControl& cont
 
 void HeadwordLookup::clampWidth(std::int32_t widest) {
   const std::int64_t width = std::int64_t{bounds_.upper} - bounds_.lower;
-  if (width > widest) bounds_.upper = rowNumber(std::int64_t{bounds_.lower} + kWindow);
+  if (width > widest) bounds_.upper = rowNumber(std::int64_t{bounds_.lower} + kWindowRows);
 }
 
 std::u16string HeadwordLookup::makeStrSql(std::u16string_view EorC, std::u16string_view word,

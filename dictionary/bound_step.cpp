@@ -2,15 +2,12 @@
 
 #include <algorithm>
 
-#include "dictionary/lookup_limits.h"
+#include "data/bound_limits.h"
 #include "text/order.h"
 #include "text/query_text.h"
 
 namespace dictionary {
 namespace {
-
-constexpr std::int64_t kWidest = 500;
-constexpr std::int64_t kLead = 200;
 
 std::u16string withoutWildcards(std::u16string_view word, std::u16string_view replacement) {
   return user::replaceStr(user::replaceStr(word, u"%", replacement), u"_", replacement);
@@ -22,12 +19,12 @@ std::u16string escaped(std::u16string_view word) {
 }
 
 RowWindow clamped(RowWindow window) {
-  window.upper = std::min(window.upper, window.lower + kWidest);
+  window.upper = std::min(window.upper, window.lower + data::kWindowRows);
   return window;
 }
 
 std::int64_t blockEnd(std::ptrdiff_t block) {
-  return static_cast<std::int64_t>(block) * static_cast<std::int64_t>(LookupLimits().blockRows);
+  return static_cast<std::int64_t>(block) * data::kBlockRows;
 }
 
 }  // namespace
@@ -44,7 +41,7 @@ std::optional<RowWindow> EnglishBoundStep::window(std::u16string_view word) cons
   const auto found = std::ranges::lower_bound(greatest_, low);
   if (found == greatest_.end()) return std::nullopt;
   const std::int64_t upper = blockEnd(found - greatest_.begin() + 1);
-  return clamped({upper - kLead, upper});
+  return clamped({upper - data::kReachBack, upper});
 }
 
 ChineseBoundStep::ChineseBoundStep(const std::vector<std::u16string>& index)
@@ -70,9 +67,9 @@ RowWindow ChineseBoundStep::window(std::u16string_view word) const {
       greatest_, [&](const std::u16string& greatest) { return text::compare(greatest, high) < 0; });
 
   RowWindow window;
-  window.lower = before > 0 ? blockEnd(before) - kLead : 0;
-  window.upper = first == greatest_.end() ? static_cast<std::int64_t>(LookupLimits().maxRows)
-                                          : blockEnd(first - greatest_.begin() + 1);
+  window.lower = before > 0 ? blockEnd(before) - data::kReachBack : 0;
+  window.upper =
+      first == greatest_.end() ? data::kLastRow : blockEnd(first - greatest_.begin() + 1);
   return clamped(window);
 }
 
