@@ -15,7 +15,7 @@ using namespace std::string_view_literals;
 constexpr std::size_t kMaxWord = 20;
 
 /// They translate nothing by themselves.
-constexpr std::array kLabels = {u"的"sv, u"亦作"sv, u"又作"sv, u"略作"sv};
+constexpr std::array kLabels = {u"人名"sv, u"的"sv, u"亦作"sv, u"又作"sv, u"略作"sv};
 
 bool isAllowed(char16_t unit) {
   constexpr std::u16string_view kMarks = u" -./+&,·…′″°×±～“”《》℃()[]";

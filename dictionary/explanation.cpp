@@ -12,8 +12,8 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::array kLeadIns = {u"表示"sv, u"意为"sv, u"尤指"sv,        u"指"sv,
-                                 u"即"sv,   u"全名"sv, u"DOS内部命令"sv, u"DOS外部命令"sv};
+constexpr std::array kLeadIns = {u"表示"sv, u"意为"sv, u"尤指"sv,        u"指"sv,         u"即"sv,
+                                 u"全名"sv, u"人名"sv, u"DOS内部命令"sv, u"DOS外部命令"sv};
 
 bool isColon(char16_t unit) { return unit == u':' || unit == u'：' || unit == u'∶'; }
 

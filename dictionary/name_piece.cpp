@@ -23,6 +23,14 @@ constexpr std::array kExplanations = {
 
 constexpr std::array kPersonNotes = {u"人名"sv,   u"姓氏"sv, u"姓"sv,   u"男子名"sv,
                                      u"女子名"sv, u"男名"sv, u"女名"sv, u"教名"sv};
+/// What announces names, and of what kind.
+struct Announcement {
+  std::u16string_view word;
+  Subject subject;
+};
+constexpr std::array kAnnouncements = {Announcement{u"人名", Subject::kPerson},
+                                       Announcement{u"姓氏", Subject::kPerson},
+                                       Announcement{u"地名", Subject::kPlace}};
 constexpr std::size_t kMaxPlaceNote = 12;
 
 bool endsLikePerson(std::u16string_view note) {
@@ -59,8 +67,11 @@ SubjectSet namedByNote(std::u16string_view piece) {
   return subjects;
 }
 
-bool announcesNames(std::u16string_view piece) {
-  return piece.size() > 2 && withoutNotes(piece) == u"人名";
+SubjectSet announcedNames(std::u16string_view piece, bool bareCounts) {
+  const std::u16string word = withoutNotes(piece);
+  const auto* const found = std::ranges::find(kAnnouncements, word, &Announcement::word);
+  if (found == kAnnouncements.end() || !piece.ends_with(word)) return 0;
+  return bareCounts || piece.size() > word.size() ? setOf(found->subject) : 0;
 }
 
 }  // namespace dictionary

@@ -14,7 +14,8 @@ std::u16string_view leadingName(std::u16string_view piece);
 /// place.
 SubjectSet namedByNote(std::u16string_view piece);
 
-/// Whether the piece only says that names follow: "(Luang)人名".
-bool announcesNames(std::u16string_view piece);
+/// Subjects of the names that the piece only announces, 0 if it does not: "(Luang)人名", and 人名,
+/// 姓氏 or 地名 without a note where `bareCounts`. Elsewhere these words translate "place name".
+SubjectSet announcedNames(std::u16string_view piece, bool bareCounts);
 
 }  // namespace dictionary

@@ -56,7 +56,8 @@ class LineParser {
   std::vector<Piece> pieces();
 
  private:
-  void addPiece(const RawPiece& raw);
+  /// `next` is what parts the piece from the one behind it, 0 for the last.
+  void addPiece(const RawPiece& raw, char16_t next);
   [[nodiscard]] Equivalent equivalentOf(std::u16string_view text, SubjectSet subjects,
                                         bool introduced);
 
@@ -79,13 +80,14 @@ Equivalent LineParser::equivalentOf(std::u16string_view text, SubjectSet subject
   return makeEquivalent(leadingName(explained.word), false);
 }
 
-void LineParser::addPiece(const RawPiece& raw) {
+void LineParser::addPiece(const RawPiece& raw, char16_t next) {
   const bool first = raw.separator == 0;
   const LineHead head = first ? head_ : readHead(raw.text, (head_.subjects & kLongTagsOnly) == 0);
   const std::u16string_view text = first ? raw.text : raw.text.substr(head.length);
   const std::u16string noted = head.notes + std::u16string(text);
-  if (announcesNames(noted)) {
-    current_ |= setOf(Subject::kPerson);
+  const bool wholeLine = first && next == 0 && head_.length == 0;
+  if (const SubjectSet names = announcedNames(noted, wholeLine || next == u'；'); names != 0) {
+    current_ |= names;
     return;
   }
   if (raw.separator == u'；') explaining_ = false;
@@ -103,7 +105,10 @@ void LineParser::addPiece(const RawPiece& raw) {
 }
 
 std::vector<Piece> LineParser::pieces() {
-  for (const RawPiece& raw : splitPieces(line_.substr(head_.length))) addPiece(raw);
+  const std::vector<RawPiece> raws = splitPieces(line_.substr(head_.length));
+  for (std::size_t i = 0; i < raws.size(); ++i) {
+    addPiece(raws[i], i + 1 < raws.size() ? raws[i + 1].separator : u'\0');
+  }
   return std::move(pieces_);
 }
 

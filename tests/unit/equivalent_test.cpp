@@ -106,6 +106,8 @@ TEST(Equivalent, HoldsNoCharacterThatStandsForALostOne) {
 TEST(Equivalent, IsNoLabel) {
   EXPECT_EQ(faultOf(u"…的"), PieceFault::kLabel);
   EXPECT_EQ(faultOf(u"见 jilin"), PieceFault::kLabel);
+  EXPECT_EQ(faultOf(u"人名"), PieceFault::kLabel);
+  EXPECT_EQ(faultOf(u"地名"), PieceFault::kNone);
   EXPECT_EQ(faultOf(u"等等"), PieceFault::kNone);
   EXPECT_EQ(faultOf(u"看见"), PieceFault::kNone);
 }
@@ -115,6 +117,7 @@ TEST(Explanation, IsCutOffBehindTheColon) {
   EXPECT_EQ(explained.word, u"拜药");
   EXPECT_TRUE(explained.explains);
   EXPECT_EQ(dictionary::splitExplanation(u"表示：跑").word, u"跑");
+  EXPECT_EQ(dictionary::splitExplanation(u"人名：莎拉").word, u"莎拉");
   EXPECT_EQ(dictionary::splitExplanation(u"道路：motordrome").word, u"道路");
   EXPECT_FALSE(dictionary::splitExplanation(u"道路：motordrome").explains);
   EXPECT_EQ(dictionary::splitExplanation(u"用3:1混合").word, u"用3:1混合");
@@ -134,8 +137,18 @@ TEST(NamePiece, IsKnownByItsNote) {
   EXPECT_EQ(dictionary::namedByNote(u"阿波普卡（美国地名）"), setOf(Subject::kPlace));
   EXPECT_EQ(dictionary::namedByNote(u"（用于地名）古的"), 0U);
   EXPECT_EQ(dictionary::namedByNote(u"苹果(水果)"), 0U);
-  EXPECT_TRUE(dictionary::announcesNames(u"(Luang)人名"));
-  EXPECT_FALSE(dictionary::announcesNames(u"人名"));
+}
+
+TEST(NamePiece, MayAnnounceNames) {
+  EXPECT_EQ(dictionary::announcedNames(u"(Luang)人名", false), setOf(Subject::kPerson));
+  EXPECT_EQ(dictionary::announcedNames(u"[某游戏]地名", false), setOf(Subject::kPlace));
+  EXPECT_EQ(dictionary::announcedNames(u"人名", true), setOf(Subject::kPerson));
+  EXPECT_EQ(dictionary::announcedNames(u"姓氏", true), setOf(Subject::kPerson));
+  EXPECT_EQ(dictionary::announcedNames(u"地名", true), setOf(Subject::kPlace));
+  EXPECT_EQ(dictionary::announcedNames(u"地名", false), 0U);
+  EXPECT_EQ(dictionary::announcedNames(u"地名(注)", false), 0U);
+  EXPECT_EQ(dictionary::announcedNames(u"地名学", true), 0U);
+  EXPECT_EQ(dictionary::announcedNames(u"", true), 0U);
 }
 
 }  // namespace

@@ -98,6 +98,29 @@ TEST(TranslationLine, NamesMayBeAnnounced) {
   EXPECT_EQ(text(line, Subject::kPerson), u"(阿拉伯)巴提；(法、罗)巴蒂");
 }
 
+TEST(TranslationLine, NamesMayBeAnnouncedByABareWord) {
+  const std::u16string line = u"人名；(西)布里希达；(意)布里吉达";
+  EXPECT_EQ(words(line), (Texts{u"布里希达", u"布里吉达"}));
+  EXPECT_EQ(text(line, Subject::kPerson), u"(西)布里希达；(意)布里吉达");
+  EXPECT_EQ(words(u"塔索; 人名；(西、葡、意)塔索"), (Texts{u"塔索", u"塔索"}));
+  EXPECT_EQ(text(u"塔索; 人名；(西、葡、意)塔索", Subject::kPerson), u"(西、葡、意)塔索");
+  EXPECT_EQ(text(u"地名；(英)甲地", Subject::kPlace), u"(英)甲地");
+  EXPECT_EQ(words(u"姓氏；(英)甲氏"), (Texts{u"甲氏"}));
+}
+
+TEST(TranslationLine, ABareWordForNamesTranslatesNothingByItself) {
+  EXPECT_EQ(words(u"人名"), Texts());
+  EXPECT_EQ(words(u"n. 人名"), Texts());
+  EXPECT_EQ(words(u"姓氏"), Texts());
+}
+
+TEST(TranslationLine, WordsForNamesMayBeTheTranslation) {
+  EXPECT_EQ(words(u"n. 地名, 以地名命名者"), (Texts{u"地名", u"以地名命名者"}));
+  EXPECT_EQ(words(u"n. 地名"), (Texts{u"地名"}));
+  EXPECT_EQ(words(u"n. 姓氏, 姓"), (Texts{u"姓氏", u"姓"}));
+  EXPECT_EQ(text(u"n. 地名, 以地名命名者", Subject::kPlace), u"");
+}
+
 TEST(TranslationLine, WebLinesAreTheirOwnDictionary) {
   EXPECT_EQ(text(u"[网络] 胡德；兜帽", Subject::kWeb), u"胡德；兜帽");
 }
