@@ -67,11 +67,12 @@ SubjectSet namedByNote(std::u16string_view piece) {
   return subjects;
 }
 
-SubjectSet announcedNames(std::u16string_view piece, bool bareCounts) {
+SubjectSet announcedNames(std::u16string_view piece, bool standsInFront) {
   const std::u16string word = withoutNotes(piece);
   const auto* const found = std::ranges::find(kAnnouncements, word, &Announcement::word);
   if (found == kAnnouncements.end() || !piece.ends_with(word)) return 0;
-  return bareCounts || piece.size() > word.size() ? setOf(found->subject) : 0;
+  const bool noted = word == u"人名" && piece.size() > word.size();
+  return standsInFront || noted ? setOf(found->subject) : 0;
 }
 
 }  // namespace dictionary

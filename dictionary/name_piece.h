@@ -14,8 +14,9 @@ std::u16string_view leadingName(std::u16string_view piece);
 /// place.
 SubjectSet namedByNote(std::u16string_view piece);
 
-/// Subjects of the names that the piece only announces, 0 if it does not: "(Luang)人名", and 人名,
-/// 姓氏 or 地名 without a note where `bareCounts`. Elsewhere these words translate "place name".
-SubjectSet announcedNames(std::u16string_view piece, bool bareCounts);
+/// Subjects of the names that the piece only announces, 0 if it does not: "(Luang)人名" always, and
+/// 人名, 姓氏 or 地名 where its place in the line says so (`standsInFront`). Elsewhere these words
+/// are what they say: the translation of "place name".
+SubjectSet announcedNames(std::u16string_view piece, bool standsInFront);
 
 }  // namespace dictionary

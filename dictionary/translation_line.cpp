@@ -85,7 +85,7 @@ void LineParser::addPiece(const RawPiece& raw, char16_t next) {
   const LineHead head = first ? head_ : readHead(raw.text, (head_.subjects & kLongTagsOnly) == 0);
   const std::u16string_view text = first ? raw.text : raw.text.substr(head.length);
   const std::u16string noted = head.notes + std::u16string(text);
-  const bool wholeLine = first && next == 0 && head_.length == 0;
+  const bool wholeLine = first && next == u'\0' && head_.length == 0;
   if (const SubjectSet names = announcedNames(noted, wholeLine || next == u'；'); names != 0) {
     current_ |= names;
     return;

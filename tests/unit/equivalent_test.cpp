@@ -141,7 +141,7 @@ TEST(NamePiece, IsKnownByItsNote) {
 
 TEST(NamePiece, MayAnnounceNames) {
   EXPECT_EQ(dictionary::announcedNames(u"(Luang)人名", false), setOf(Subject::kPerson));
-  EXPECT_EQ(dictionary::announcedNames(u"[某游戏]地名", false), setOf(Subject::kPlace));
+  EXPECT_EQ(dictionary::announcedNames(u"(place-name 的复数)地名", false), 0U);
   EXPECT_EQ(dictionary::announcedNames(u"人名", true), setOf(Subject::kPerson));
   EXPECT_EQ(dictionary::announcedNames(u"姓氏", true), setOf(Subject::kPerson));
   EXPECT_EQ(dictionary::announcedNames(u"地名", true), setOf(Subject::kPlace));

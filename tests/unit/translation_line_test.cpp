@@ -117,6 +117,8 @@ TEST(TranslationLine, ABareWordForNamesTranslatesNothingByItself) {
 TEST(TranslationLine, WordsForNamesMayBeTheTranslation) {
   EXPECT_EQ(words(u"n. 地名, 以地名命名者"), (Texts{u"地名", u"以地名命名者"}));
   EXPECT_EQ(words(u"n. 地名"), (Texts{u"地名"}));
+  EXPECT_EQ(words(u"(place-name 的复数) n. 地名"), (Texts{u"地名"}));
+  EXPECT_EQ(words(u"[法] 姓氏"), (Texts{u"姓氏"}));
   EXPECT_EQ(words(u"n. 姓氏, 姓"), (Texts{u"姓氏", u"姓"}));
   EXPECT_EQ(text(u"n. 地名, 以地名命名者", Subject::kPlace), u"");
 }
