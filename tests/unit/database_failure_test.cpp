@@ -229,23 +229,6 @@ TEST(DatabaseFailure, InterruptedUpdateIsRolledBackUnderAnOpenDatabase) {
   EXPECT_FALSE(std::filesystem::exists(journal));
 }
 
-TEST(DatabaseFailure, FilesThatMayNotBeWrittenAreRead) {
-  const TempFolder folder;
-  const auto file = folder.file(u"kk.dat");
-  makeTable(file);
-  const auto written = std::filesystem::last_write_time(file);
-  using std::filesystem::perm_options;
-  using std::filesystem::perms;
-  const perms writing = perms::owner_write | perms::group_write | perms::others_write;
-  std::filesystem::permissions(file, writing, perm_options::remove);
-  std::filesystem::permissions(folder.path(), writing, perm_options::remove);
-  EXPECT_EQ(failureOf(file), SQLITE_OK);
-  EXPECT_EQ(std::filesystem::last_write_time(file), written);
-  EXPECT_EQ(support::entryCount(folder.path()), 1);
-  std::filesystem::permissions(folder.path(), writing, perm_options::add);
-  std::filesystem::permissions(file, writing, perm_options::add);
-}
-
 TEST(DatabaseFailure, ReadingOpensTheFileForReadingOnly) {
   const TempFolder folder;
   const auto file = folder.file(u"kk.dat");

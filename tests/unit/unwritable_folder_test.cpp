@@ -1,0 +1,60 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "dictionary/word_lookup.h"
+#include "tests/unit/support/sample_dictionary.h"
+#include "tests/unit/support/unprivileged.h"
+
+namespace {
+
+using std::filesystem::perms;
+
+constexpr perms kReading = perms::owner_read | perms::group_read | perms::others_read;
+constexpr perms kEntering = perms::owner_exec | perms::group_exec | perms::others_exec;
+
+/// A dictionary that may not be written, in a folder that may not be either.
+class UnwritableFolder : public testing::Test {
+ protected:
+  UnwritableFolder() {
+    support::SampleDictionary().writeTo(file_);
+    std::filesystem::permissions(file_, kReading);
+    std::filesystem::permissions(folder_.path(), kReading | kEntering);
+  }
+  ~UnwritableFolder() override {
+    std::filesystem::permissions(folder_.path(), perms::owner_write, kAdd);
+    std::filesystem::permissions(file_, perms::owner_write, kAdd);
+  }
+
+  [[nodiscard]] bool canWrite() const {
+    return std::ofstream(file_, std::ios::app).is_open() ||
+           std::ofstream(folder_.file(u"probe")).is_open();
+  }
+
+  static constexpr auto kAdd = std::filesystem::perm_options::add;
+  support::TempFolder folder_;
+  std::filesystem::path file_ = folder_.file(u"kk.dat");
+};
+
+TEST_F(UnwritableFolder, IsEnoughForEveryLookup) {
+  const std::string before = support::readFile(file_);
+  const bool passed = support::passesUnprivileged([this] {
+#ifndef _WIN32
+    // Windows' own attributes keep nobody from making a file in a folder.
+    EXPECT_FALSE(canWrite());
+#endif
+    const dictionary::LookupResult english = dictionary::lookUp(file_, u"data");
+    ASSERT_FALSE(english.headwords.empty());
+    EXPECT_EQ(english.headwords.front(), u"data");
+    EXPECT_EQ(english.meaning, u" data\r\n 数据");
+    const dictionary::LookupResult chinese = dictionary::lookUp(file_, u"数据");
+    ASSERT_FALSE(chinese.headwords.empty());
+    EXPECT_EQ(chinese.headwords.front(), u"数据");
+    EXPECT_EQ(chinese.meaning, u" 数据\r\n data；\r\n datum");
+  });
+  EXPECT_TRUE(passed);
+  EXPECT_EQ(support::entryCount(folder_.path()), 1);
+  EXPECT_EQ(support::readFile(file_), before);
+}
+
+}  // namespace
