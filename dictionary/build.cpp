@@ -1,6 +1,7 @@
 #include "dictionary/build.h"
 
 #include <fstream>
+#include <map>
 #include <string>
 #include <utility>
 
@@ -9,8 +10,10 @@
 #include "dictionary/database_writer.h"
 #include "dictionary/failure.h"
 #include "dictionary/install.h"
+#include "dictionary/line_ranges.h"
 #include "dictionary/pair_collector.h"
 #include "dictionary/paths.h"
+#include "dictionary/peak_memory.h"
 #include "dictionary/progress.h"
 #include "dictionary/source_reader.h"
 #include "dictionary/subject_collector.h"
@@ -18,7 +21,11 @@
 namespace dictionary {
 namespace {
 
-constexpr std::size_t kMaxBadLinesTold = 20;
+/// Bad lines that are told when they are met; those behind them are told together.
+constexpr std::size_t kToldAtOnce = 20;
+/// How often reading tells how far it is, in entries.
+constexpr std::size_t kEntriesBetweenNews = 200'000;
+constexpr std::size_t kMebibyte = std::size_t{1} << 20U;
 
 /// One build's stages and what they hand on.
 class Builder {
@@ -31,9 +38,11 @@ class Builder {
     installDatabase(content_, target, log_, progress_);
   }
   void printReport() const { report_.print(log_); }
+  void tellCost();
 
  private:
   void tellBadLine(const SourceReader& reader);
+  void tellFurtherBadLines();
   void addEntry(const SourceEntry& source);
 
   std::ostream& log_;
@@ -43,13 +52,23 @@ class Builder {
   SubjectCollector subjects_;
   DatabaseContent content_;
   std::size_t badLines_ = 0;
+  std::map<LineFault, LineRanges> furtherBadLines_;
 };
 
 void Builder::tellBadLine(const SourceReader& reader) {
   report_.addBadLine(reader.fault());
-  if (++badLines_ > kMaxBadLinesTold) return;
+  if (++badLines_ > kToldAtOnce) {
+    furtherBadLines_[reader.fault()].add(reader.lineNumber());
+    return;
+  }
   log_ << "line " << reader.lineNumber() << " skipped: " << describe(reader.fault()) << '\n';
-  if (badLines_ == kMaxBadLinesTold) log_ << "further bad lines are counted only\n";
+  if (badLines_ == kToldAtOnce) log_ << "further bad lines are named when all is read\n";
+}
+
+void Builder::tellFurtherBadLines() {
+  for (const auto& [fault, lines] : furtherBadLines_) {
+    log_ << lines.text() << " skipped: " << describe(fault) << '\n';
+  }
 }
 
 void Builder::addEntry(const SourceEntry& source) {
@@ -73,8 +92,9 @@ void Builder::readSource(std::istream& stream) {
       continue;
     }
     addEntry(reader.entry());
-    ++entries;
+    if (++entries % kEntriesBetweenNews == 0) progress_.tell(grouped(entries) + " entries so far");
   }
+  tellFurtherBadLines();
   progress_.tell(grouped(entries) + " entries read");
 }
 
@@ -86,6 +106,12 @@ void Builder::arrangeContent() {
   content_.general = arrange(content_.vocabulary, chosen);
   report_.addContent(content_, chosen);
   progress_.tell(grouped(content_.general.edict.size()) + " pairs chosen");
+}
+
+void Builder::tellCost() {
+  const std::size_t memory = peakMemory();
+  progress_.tell(
+      memory == 0 ? "done" : "done with at most " + grouped(memory / kMebibyte) + " MiB of memory");
 }
 
 }  // namespace
@@ -100,6 +126,7 @@ void buildDatabase(const std::filesystem::path& source, const std::filesystem::p
   builder.arrangeContent();
   builder.install(target);
   builder.printReport();
+  builder.tellCost();
 }
 
 }  // namespace dictionary

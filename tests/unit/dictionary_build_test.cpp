@@ -128,6 +128,33 @@ TEST(BuildDatabase, ReportsBadLinesByTheirNumbersAndReadsOn) {
   EXPECT_FALSE(rows.recordset().empty());
 }
 
+TEST(BuildDatabase, ReportsEveryBadLineByItsNumber) {
+  const TempFolder folder;
+  std::string source = support::readFile(support::smallSource());
+  const auto good = std::count(source.begin(), source.end(), '\n');
+  for (int i = 0; i < 30; ++i) source += "bad,\"line\n";
+  source += "zyzzyva,,,象鼻虫,,5,1,gre,1,1,,,\n";
+  source += "worse\xFF,,,,,,,,,,,,\n";
+  source += "bad,\"line\n";
+  support::writeFile(folder.file(u"source.csv"), source);
+  const std::string log = build(folder.file(u"source.csv"), folder.file(u"kk.dat"));
+  EXPECT_NE(log.find("line " + std::to_string(good + 20) + " skipped: a quoted field"),
+            std::string::npos);
+  EXPECT_NE(log.find("lines " + std::to_string(good + 21) + '-' + std::to_string(good + 30) + ", " +
+                     std::to_string(good + 33) + " skipped: a quoted field"),
+            std::string::npos);
+  EXPECT_NE(log.find("line " + std::to_string(good + 32) + " skipped: it is not UTF-8"),
+            std::string::npos);
+}
+
+TEST(BuildDatabase, ReportsWhatItTook) {
+  const TempFolder folder;
+  const std::string log = build(support::smallSource(), folder.file(u"kk.dat"));
+  const std::size_t line = log.rfind("\n[") + 1;
+  EXPECT_NE(log.find(" s] done with at most ", line), std::string::npos);
+  EXPECT_TRUE(log.ends_with(" MiB of memory\n"));
+}
+
 TEST(BuildDatabase, ReportsWhatItDid) {
   const TempFolder folder;
   const std::string log = build(support::smallSource(), folder.file(u"kk.dat"));
