@@ -8,7 +8,7 @@ class frmMenu : public forms::Form {
  public:
   frmMenu();
 
-  forms::PopupMenu mnu_file;
+  forms::PopupMenu mnu_file{u"file"};
 
   /// Drops the menu down at a screen point and runs the chosen item. While the menu is open this
   /// form counts as having the focus.

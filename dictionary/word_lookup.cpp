@@ -5,18 +5,14 @@
 #include "data/headword_lookup.h"
 #include "data/index_words.h"
 #include "data/meaning_text.h"
+#include "dictionary/failure.h"
 #include "dictionary/paths.h"
 #include "text/query_text.h"
+#include "text/typed_text.h"
 #include "text/utf.h"
 
 namespace dictionary {
 namespace {
-
-std::u16string trimmed(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  if (first == std::u16string_view::npos) return {};
-  return std::u16string(text.substr(first, text.find_last_not_of(u' ') - first + 1));
-}
 
 std::vector<std::u16string> readHeadwords(data::RecordSet& rows) {
   std::vector<std::u16string> words;
@@ -32,16 +28,14 @@ void run(data::DataControl& control, const std::u16string& sql) {
   control.refresh();
 }
 
-LookupResult lookUpIn(const std::filesystem::path& database, std::u16string_view word) {
+LookupResult lookUpIn(const std::filesystem::path& database, const user::TypedText& typed) {
   data::DataControl control;
   control.setConnectionString(u"Data Source=" + text::toUtf16(utf8Path(database)));
   const data::IndexWords index = data::readIndexWords(control);
   data::HeadwordLookup lookup(index, data::LookupRules());
 
   LookupResult result;
-  std::u16string typed = trimmed(word);
-  user::escapeQuote(typed);
-  run(control, lookup.makeStrSql(user::getEorC(typed), typed, control));
+  run(control, lookup.makeStrSql(typed.language, typed.word, control));
   result.headwords = readHeadwords(control.recordset());
   if (result.headwords.empty()) return result;
 
@@ -59,8 +53,13 @@ LookupResult lookUpIn(const std::filesystem::path& database, std::u16string_view
 
 LookupResult lookUp(const std::filesystem::path& database, std::u16string_view word) {
   requireFile(database);
+  const user::TypedText typed = user::readTyped(word);
+  if (typed.kind == user::Typed::kNothing) throw Failure("there is nothing to look up");
+  if (typed.kind == user::Typed::kRefused) {
+    throw Failure("an English word to look up may not begin with a wildcard (* _ ? %)");
+  }
   try {
-    return lookUpIn(database, word);
+    return lookUpIn(database, typed);
   } catch (const data::Error& error) {
     throwUnreadable(database, error);
   }

@@ -14,7 +14,7 @@ struct LookupResult {
 };
 
 /// Looks a word up as the quick lookup window does, with the same queries. Throws Failure if the
-/// database is not there or cannot be read.
+/// window would look nothing up, or the database is not there or cannot be read.
 LookupResult lookUp(const std::filesystem::path& database, std::u16string_view word);
 
 }  // namespace dictionary

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/form.h"
@@ -20,6 +21,11 @@ class PopupMenu {
     bool checked = false;
   };
 
+  explicit PopupMenu(std::u16string caption = {}) : caption_(std::move(caption)) {}
+
+  /// The menu's own name, which a menu bar would show; dropped down by itself it shows none.
+  [[nodiscard]] const std::u16string& caption() const { return caption_; }
+
   /// Adds an item at the end and returns its place, from 0.
   std::size_t add(const std::u16string& caption, std::function<void()> onClick = {});
   Item& item(std::size_t place) { return items_.at(place); }
@@ -34,6 +40,7 @@ class PopupMenu {
                                    const Widget* opener = nullptr) const;
 
  private:
+  std::u16string caption_;
   std::vector<Item> items_;
 };
 

@@ -6,7 +6,7 @@
 #include "forms/geometry.h"
 #include "lookup/layout.h"
 #include "text/query_text.h"
-#include "text/trim.h"
+#include "text/typed_text.h"
 
 namespace {
 
@@ -29,9 +29,6 @@ constexpr int kSplitterMargin = 45;
 
 /// Sets the wrapped part of a meaning off from the next one.
 constexpr int kHangingIndent = 180;
-
-/// What English input may not start with.
-constexpr std::u16string_view kWildcards = u"*_?%";
 
 }  // namespace
 
@@ -111,20 +108,19 @@ void frmSub::Form_Unload() {
 }
 
 void frmSub::txtInput_Change() try {
-  std::u16string word(user::trimBlanks(txtInput.text()));
-  if (word.empty()) return;
-  user::escapeQuote(word);
-  if (user::getEorC(word) == user::kChinese) {
-    Query(makeStrSql(user::kChinese, word), Adodc1, TreeView1);
-    return;
+  const user::TypedText typed = user::readTyped(txtInput.text());
+  switch (typed.kind) {
+    case user::Typed::kNothing:
+      break;
+    case user::Typed::kRefused:
+      txtInput.setText({});
+      beep();
+      txtOut.setText({});
+      break;
+    case user::Typed::kWord:
+      Query(makeStrSql(typed.language, typed.word), Adodc1, TreeView1);
+      break;
   }
-  if (kWildcards.find(word.front()) != std::u16string_view::npos) {
-    txtInput.setText({});
-    MessageBeep(MB_OK);
-    txtOut.setText({});
-    return;
-  }
-  Query(makeStrSql(user::kEnglish, word), Adodc1, TreeView1);
 } catch (const std::exception&) {
   // Typing is never interrupted: the list keeps what it shows.
 }
@@ -162,7 +158,8 @@ void frmSub::txtOut_MouseUp(forms::Place place) {
 }
 
 void frmSub::mnuSearch_Click() {
-  txtInput.setText(txtOut.selText());
+  // The box holds one line; a selection across lines counts by the first of them.
+  txtInput.setText(std::u16string(user::firstLine(txtOut.selText())));
   txtOut.select(txtOut.selStart(), 0);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "data/data_control.h"
@@ -26,7 +27,10 @@ class frmSub : public forms::Form {
   forms::Image Image1{*this, forms::Image::Look::line, {2030, 600, 20, 2200}};
   forms::RichTextBox txtOut{*this, {2050, 600, 1300, 2200}};
   data::DataControl Adodc1;
-  forms::PopupMenu mnuOper;
+  forms::PopupMenu mnuOper{u"菜单操作"};
+
+  /// The sound of refused input: the system's beep.
+  std::function<void()> beep = [] { MessageBeep(MB_OK); };
 
   /// The list query for `word`, which is trimmed and has its quotes doubled.
   std::u16string makeStrSql(std::u16string_view EorC, std::u16string_view word);

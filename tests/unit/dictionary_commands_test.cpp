@@ -100,6 +100,23 @@ TEST(Commands, LookupFindsNothingBehindTheLastWord) {
   EXPECT_EQ(outcome.out, "");
 }
 
+TEST(Commands, LookupSaysWhatTheWindowWouldNotLookUp) {
+  for (const std::string word : {"%abc", "*", "  ?x", "_data"}) {
+    const Outcome outcome = run({"lookup", small(), word});
+    EXPECT_EQ(outcome.code, dictionary::kFailed) << word;
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.err,
+              "kkbuild: an English word to look up may not begin with a wildcard (* _ ? %)\n");
+  }
+  for (const std::string word : {"", "   "}) {
+    const Outcome outcome = run({"lookup", small(), word});
+    EXPECT_EQ(outcome.code, dictionary::kFailed);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.err, "kkbuild: there is nothing to look up\n");
+  }
+  EXPECT_EQ(run({"lookup", small(), "?数"}).err.find("wildcard"), std::string::npos);
+}
+
 TEST(LookUp, DoublesTheApostropheAsTheWindowDoes) {
   const dictionary::LookupResult result = dictionary::lookUp(support::smallDatabase(), u"it's");
   ASSERT_FALSE(result.headwords.empty());

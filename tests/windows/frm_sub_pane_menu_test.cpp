@@ -55,6 +55,47 @@ TEST_F(FrmSubPaneMenu, SearchLooksTheSelectionUp) {
   EXPECT_EQ(form.txtOut.selLength(), 0U);
 }
 
+TEST_F(FrmSubPaneMenu, SearchLeavesOutTheLineEndOfTheSelection) {
+  frmSub& form = open();
+  form.txtInput.setText(u"data");
+  form.txtOut.select(0, 7);
+  ASSERT_EQ(form.txtOut.selText(), u" data\r\n");
+  rightClick({VK_DOWN, VK_RETURN});
+  ASSERT_TRUE(eventually([&] { return form.txtInput.text() == u" data"; }));
+  EXPECT_EQ(list()[0], u"data");
+}
+
+TEST_F(FrmSubPaneMenu, SearchTakesTheFirstWordOfASelectionAcrossLines) {
+  frmSub& form = open();
+  form.txtInput.setText(u"数据");
+  ASSERT_EQ(form.txtOut.text(), u" 数据\r\n data；\r\n datum");
+  // From the end of the headword's line, so that the first line selected is empty.
+  form.txtOut.select(3, 10);
+  ASSERT_EQ(form.txtOut.selText(), u"\r\n data；\r\n");
+  rightClick({VK_DOWN, VK_RETURN});
+  ASSERT_TRUE(eventually([&] { return form.txtInput.text() == u" data；"; }));
+  form.txtInput.setText(u"数据");
+  form.txtOut.select(1, 13);
+  rightClick({VK_DOWN, VK_RETURN});
+  ASSERT_TRUE(eventually([&] { return form.txtOut.selLength() == 0; }));
+  EXPECT_EQ(form.txtInput.text(), u"数据");
+  EXPECT_EQ(list()[0], u"数据");
+}
+
+TEST_F(FrmSubPaneMenu, SearchForALineEndAloneChangesNothingButTheBox) {
+  frmSub& form = open();
+  form.txtInput.setText(u"data");
+  const auto before = list();
+  form.txtOut.select(5, 2);
+  ASSERT_EQ(form.txtOut.selText(), u"\r\n");
+  rightClick({VK_DOWN, VK_RETURN});
+  ASSERT_TRUE(eventually([&] { return form.txtInput.text().empty(); }));
+  EXPECT_EQ(list(), before);
+  EXPECT_EQ(form.txtOut.text(), u" data\r\n 数据");
+}
+
+TEST_F(FrmSubPaneMenu, HasItsCaption) { EXPECT_EQ(open().mnuOper.caption(), u"菜单操作"); }
+
 TEST_F(FrmSubPaneMenu, CopyPutsTheSelectionOnTheClipboardAsText) {
   frmSub& form = open();
   form.txtInput.setText(u"data");

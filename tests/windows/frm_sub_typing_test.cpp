@@ -71,6 +71,9 @@ TEST_F(FrmSubTyping, AnApostropheIsLookedUp) {
 
 TEST_F(FrmSubTyping, AWildcardInFrontIsRefused) {
   frmSub& form = open();
+  int beeps = 0;
+  form.beep = [&beeps] { ++beeps; };
+  int refusals = 0;
   for (const char16_t* refused : {u"?abc", u"*", u"_data", u"%a", u"  ?x"}) {
     form.txtInput.setText(u"data");
     const auto before = list();
@@ -78,7 +81,18 @@ TEST_F(FrmSubTyping, AWildcardInFrontIsRefused) {
     EXPECT_EQ(form.txtInput.text(), u"");
     EXPECT_EQ(form.txtOut.text(), u"");
     EXPECT_EQ(list(), before);
+    EXPECT_EQ(beeps, ++refusals);
   }
+}
+
+TEST_F(FrmSubTyping, OnlyRefusedInputBeeps) {
+  frmSub& form = open();
+  int beeps = 0;
+  form.beep = [&beeps] { ++beeps; };
+  for (const char16_t* text : {u"data", u"a?bc", u"?数", u"", u"   ", u"zzzz", u"数据"}) {
+    form.txtInput.setText(text);
+  }
+  EXPECT_EQ(beeps, 0);
 }
 
 TEST_F(FrmSubTyping, ARefusedKeyLeavesTheBoxReadyForTheNext) {
