@@ -30,6 +30,14 @@ DWORD exStyleOf(const FormDesign& design) {
   return style;
 }
 
+/// Whether this thread shows a menu, its own or a control's.
+bool isMenuOpen() {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  GetGUIThreadInfo(GetCurrentThreadId(), &info);
+  return (info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0;
+}
+
 OwnedIcon loadIcon(int resource, int systemMetric, int dpi) {
   const int size = GetSystemMetricsForDpi(systemMetric, static_cast<UINT>(dpi));
   return OwnedIcon(static_cast<HICON>(LoadImageW(
@@ -175,8 +183,8 @@ void Form::setMousePointer(const wchar_t* systemCursor) {
 }
 
 void Form::bringToTop() {
-  // Not above a message box that may belong to another window.
-  if (isFocusHeld()) return;
+  // Not above a message box that may belong to another window, nor above an open menu.
+  if (isFocusHeld() || isMenuOpen()) return;
   SetWindowPos(handle_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 }
 

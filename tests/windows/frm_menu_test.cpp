@@ -35,6 +35,11 @@ TEST_F(FrmMenu, ShowsItsItemsInOrder) {
                                           {u"退出"}}));
 }
 
+TEST_F(FrmMenu, HasItsCaption) {
+  start();
+  EXPECT_EQ(menu().mnu_file.caption(), u"file");
+}
+
 TEST_F(FrmMenu, IsNeverShownItself) {
   start();
   bool shown = true;
@@ -44,6 +49,28 @@ TEST_F(FrmMenu, IsNeverShownItself) {
   });
   EXPECT_FALSE(shown);
   EXPECT_FALSE(IsWindowVisible(menu().handle()));
+}
+
+TEST_F(FrmMenu, StaysAboveAWindowThatIsPainted) {
+  start();
+  frmSub& other = forms::single<frmSub>();
+  other.show();
+  awaitActive(other);
+  const RECT toolbar = rectOf(top().handle());
+  SetWindowPos(other.handle(), nullptr, toolbar.left, toolbar.bottom, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  forms::doEvents();
+  bool above = false;
+  withMenu([&](HWND window) {
+    // Where Windows puts a menu when it opens; not every system keeps account of it.
+    SetWindowPos(window, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    RedrawWindow(other.handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    above = isAbove(window, other.handle());
+    input::key(VK_ESCAPE);
+  });
+  EXPECT_TRUE(above);
+  other.bringToTop();
+  EXPECT_TRUE(isAbove(other.handle(), top().handle()));
 }
 
 TEST_F(FrmMenu, CaptureRestsWhileItIsOpenAndRunsAfterwards) {
