@@ -159,8 +159,8 @@ void frmTop::Timer1_Timer() {
   IsDragArmed = IsDragging;
   if (!IdxPending) return;
   IdxPending = false;
-  Timer1.setEnabled(false);
   GetIdx();
+  Timer1.setEnabled(false);
 }
 
 void frmTop::GetIdx() {
