@@ -4,12 +4,27 @@
 #include <windows.h>
 
 #include <array>
+#include <memory>
 
 #include "settings/settings_rules.h"
 #include "settings/win32_profile.h"
 
 namespace user {
 namespace {
+
+struct CloseFile {
+  using pointer = HANDLE;
+  void operator()(HANDLE handle) const {
+    if (handle != INVALID_HANDLE_VALUE) CloseHandle(handle);
+  }
+};
+using FileHandle = std::unique_ptr<void, CloseFile>;
+
+/// Memory that the shell allocated.
+struct FreeTaskMemory {
+  void operator()(wchar_t* memory) const { CoTaskMemFree(memory); }
+};
+using TaskMemory = std::unique_ptr<wchar_t, FreeTaskMemory>;
 
 std::string toAnsi(const std::u16string& text) {
   const auto* units = reinterpret_cast<const wchar_t*>(text.c_str());
@@ -34,10 +49,12 @@ const wchar_t* wide(const std::u16string& text) {
 /// Whether this user can write `file`, which may not exist yet; one made for the test goes again.
 bool canWrite(const std::u16string& file) {
   const bool existed = GetFileAttributesW(wide(file)) != INVALID_FILE_ATTRIBUTES;
-  HANDLE handle = CreateFileW(wide(file), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                              nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (handle == INVALID_HANDLE_VALUE) return false;
-  CloseHandle(handle);
+  {
+    const FileHandle handle(CreateFileW(wide(file), GENERIC_WRITE,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (handle.get() == INVALID_HANDLE_VALUE) return false;
+  }
   if (!existed) DeleteFileW(wide(file));
   return true;
 }
@@ -53,13 +70,14 @@ std::u16string ansiName(const std::u16string& path) {
 }
 
 std::u16string localSettingsFile() {
-  wchar_t* known = nullptr;
+  wchar_t* found = nullptr;
+  const bool known = SUCCEEDED(SHGetKnownFolderPath(FOLDERID_LocalAppData, 0, nullptr, &found));
+  const TaskMemory owner(found);
   std::u16string folder;
-  if (SUCCEEDED(SHGetKnownFolderPath(FOLDERID_LocalAppData, 0, nullptr, &known))) {
-    const std::wstring_view path(known);
+  if (known) {
+    const std::wstring_view path(found);
     folder.assign(path.begin(), path.end());
   }
-  CoTaskMemFree(known);
   folder += u"\\Lexilo";
   CreateDirectoryW(wide(folder), nullptr);
   return ansiName(folder) + u"\\system.ini";

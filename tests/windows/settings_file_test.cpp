@@ -9,6 +9,36 @@ namespace {
 
 constexpr char16_t kSection[] = u"SystemSetting";
 
+/// While it lives, the user's local application data lie in another folder.
+class LocalDataFolder {
+ public:
+  explicit LocalDataFolder(const std::filesystem::path& folder) {
+    DWORD size = sizeof former_;
+    EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, kKey, kValue, RRF_RT_ANY | RRF_NOEXPAND, &type_,
+                           former_, &size),
+              ERROR_SUCCESS);
+    size_ = size;
+    const std::wstring path = folder.wstring();
+    set(REG_SZ, path.c_str(), static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t)));
+  }
+  ~LocalDataFolder() { set(type_, former_, size_); }
+  LocalDataFolder(const LocalDataFolder&) = delete;
+  LocalDataFolder& operator=(const LocalDataFolder&) = delete;
+
+ private:
+  static constexpr wchar_t kKey[] =
+      L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
+  static constexpr wchar_t kValue[] = L"Local AppData";
+
+  static void set(DWORD type, const wchar_t* text, DWORD size) {
+    EXPECT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kValue, type, text, size), ERROR_SUCCESS);
+  }
+
+  DWORD type_ = REG_SZ;
+  wchar_t former_[MAX_PATH] = L"";
+  DWORD size_ = 0;
+};
+
 class SettingsFile : public ::testing::Test {
  protected:
   /// A path that the ANSI code page can name.
@@ -109,6 +139,21 @@ TEST_F(SettingsFile, ElseAmongTheUsersOwnData) {
   user::WriteINIProfileString(kSection, u"A", u"own", path);
   EXPECT_EQ(user::getINIProfileString(kSection, u"A", u"", path), u"own");
   DeleteFileW(forms::wide(path));
+}
+
+TEST_F(SettingsFile, ThatTheCodePageCannotNameIsReachedByItsShortName) {
+  const UnwritableSettings held;
+  const support::TempFolder folder;
+  // Neither stands in GBK.
+  const std::filesystem::path own = folder.file(u"Zażółć ไทย");
+  std::filesystem::create_directory(own);
+  const LocalDataFolder moved(own);
+  const std::u16string path = user::settingsFile();
+  EXPECT_TRUE(path.ends_with(u"\\system.ini"));
+  EXPECT_EQ(path.find(u"ไทย"), path.npos);
+  user::WriteINIProfileString(kSection, u"A", u"own", path);
+  EXPECT_EQ(user::getINIProfileString(kSection, u"A", u"", path), u"own");
+  EXPECT_NE(support::readFile(own / u"Lexilo" / u"system.ini").find("A=own"), std::string::npos);
 }
 
 TEST_F(SettingsFile, LookingForItLeavesNoFileBehind) {
