@@ -6,6 +6,23 @@ namespace {
 constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kBlue = RGB(0, 0, 255);
 
+/// While it lives, the index has as many blocks as no dictionary has; `last` is the last one's
+/// word.
+class EndlessIndex {
+ public:
+  explicit EndlessIndex(std::u16string last) : former_(std::move(user::IdxWords)) {
+    constexpr std::size_t kBlocks = 21'474'837;  // the last row of the last is beyond 2^31
+    user::IdxWords.assign(kBlocks, {});
+    user::IdxWords.push_back(std::move(last));
+  }
+  ~EndlessIndex() { user::IdxWords = std::move(former_); }
+  EndlessIndex(const EndlessIndex&) = delete;
+  EndlessIndex& operator=(const EndlessIndex&) = delete;
+
+ private:
+  data::IndexWords former_;
+};
+
 class FrmSubMeaning : public FrmSubTest {
  protected:
   static std::u16string show(std::u16string word) { return sub().showMeaning(word, sub().Adodc1); }
@@ -88,6 +105,24 @@ TEST_F(FrmSubMeaning, AFailedQueryIsTold) {
   EXPECT_EQ(seen[0].icon, Icon::error);
   EXPECT_EQ(seen[0].title, u"");
   EXPECT_EQ(form.txtOut.text(), before);
+}
+
+TEST_F(FrmSubMeaning, AFailedSearchForTheBoundsIsTold) {
+  frmSub& form = open();
+  const std::u16string pane = form.txtOut.text();
+  {
+    // A word so far down the index that its row number does not fit into 32 bits.
+    const EndlessIndex index(u"zzzz");
+    EXPECT_EQ(form.findword(u"E", u"zzz"), u"");
+  }
+  const auto seen = boxes.take();
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_EQ(seen[0].text, u"查词出错！");
+  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].title, u"");
+  EXPECT_EQ(form.txtOut.text(), pane);
+  show(u"data");
+  EXPECT_EQ(form.txtOut.text(), u" data\r\n 数据");
 }
 
 TEST_F(FrmSubMeaning, NeitherEnglishNorChineseYieldsNoQuery) {
