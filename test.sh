@@ -2,7 +2,7 @@
 # Runs every test of Lexilo, setting up first what is missing.
 #
 #   ./test.sh              all of them
-#   ./test.sh unit format  only some layers: format unit wine-unit windows program dpi144 fuzz
+#   ./test.sh unit format  only some layers: format unit threads wine-unit windows program dpi144 fuzz
 #
 # The last line says how many passed and failed; the exit status is 0 when none failed.
 set -euo pipefail
@@ -13,7 +13,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/scripts/setup.sh"
 source "$LEXILO_ROOT/scripts/lib/tests.sh"
 cd "$LEXILO_ROOT"
 
-all_layers=(format unit fuzz wine-unit windows program dpi144)
+all_layers=(format unit threads fuzz wine-unit windows program dpi144)
 layers=("${@:-${all_layers[@]}}")
 for layer in "${layers[@]}"; do
   [[ " ${all_layers[*]} " == *" $layer "* ]] ||
@@ -44,6 +44,11 @@ fi
 if wanted unit; then
   build native unit_tests
   run_gtest unit 180 build/native/bin/unit_tests
+fi
+
+if wanted threads; then
+  build tsan thread_tests
+  run_gtest threads 60 build/tsan/bin/thread_tests
 fi
 
 if wanted fuzz; then

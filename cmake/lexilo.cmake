@@ -25,6 +25,11 @@ if(LEXILO_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(LEXILO_SANITIZE_THREADS)
+  add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=thread)
+endif()
+
 if(LEXILO_FUZZ)
   # Coverage guides the fuzzer through our own code only; SQLite, which is C, is watched for errors.
   add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fsanitize=fuzzer-no-link>
