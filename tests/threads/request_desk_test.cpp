@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <deque>
 #include <memory>
 #include <random>
@@ -131,9 +132,11 @@ TEST(RequestDeskThreads, NoOlderAnswerSurvivesInTenThousandInterleavings) {
 TEST(RequestDeskThreads, WhoArmsTheSameAgainAndAgainIsHeardBySlowWorkers) {
   Queue queue;
   RequestDesk desk([&](WindowId) { return queue.post(); });
+  std::atomic<int> asked = 0;
   std::thread worker([&] {
     while (const auto question = desk.take()) {
-      std::this_thread::sleep_for(std::chrono::milliseconds(5));
+      ++asked;
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));
       desk.deliver({.outcome = Outcome::word, .word = {.text = wordFor(*question), .box = {}}});
     }
   });
@@ -144,6 +147,7 @@ TEST(RequestDeskThreads, WhoArmsTheSameAgainAndAgainIsHeardBySlowWorkers) {
     host.handle();
   }
   EXPECT_EQ(host.heard(), 1);
+  EXPECT_EQ(asked, 1);
   desk.close();
   worker.join();
 }
