@@ -1,0 +1,227 @@
+#include <gtest/gtest.h>
+
+#include <atomic>
+
+#include "tests/program/harness/find.h"
+#include "tests/windows/support/text_places.h"
+#include "tests/windows/support/text_target.h"
+#include "tests/windows/support/word_page.h"
+
+namespace wintest {
+namespace {
+
+using nhw32::Outcome;
+
+/// Edit controls as the service asks them.
+class Nhw32Edit : public ::testing::Test {
+ protected:
+  std::u16string wordAbout(const TextTarget& target, std::size_t position) {
+    return wordAt(target, questionAbout(target.control(), position));
+  }
+
+  std::u16string wordAtPoint(const TextTarget& target, POINT point) {
+    return wordAt(target, questionAt(target.control(), point));
+  }
+
+  /// "" where there is none.
+  std::u16string wordAt(const TextTarget& /*target*/, const nhw32::Question& question) {
+    const nhw32::Answer answer = answerTo(question);
+    EXPECT_NE(answer.outcome, Outcome::outOfTime);
+    return answer.outcome == Outcome::word ? answer.word.text : u"";
+  }
+
+  /// Compares the words at `count` random places in sight with those of the page.
+  void compare(const TextTarget& target, const WordPage& page, std::size_t count) {
+    const auto places = placesInSight(target.control(), count);
+    EXPECT_EQ(places.size(), count);
+    for (const auto& [position, point] : places) {
+      ASSERT_EQ(wordAtPoint(target, point), page.words[position]) << "at character " << position;
+    }
+  }
+};
+
+TEST_F(Nhw32Edit, TellsTheWordUnderThePoint) {
+  const WordPage page = makePage({});
+  const TextTarget target({}, page.text);
+  compare(target, page, 200);
+}
+
+TEST_F(Nhw32Edit, AlsoWhereLinesAreNotWrappedAndScrolledBothWays) {
+  const WordPage page = makePage({.length = 6000, .lineLength = 200});
+  const TextTarget target({.style = ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL}, page.text);
+  SendMessageW(target.control(), EM_LINESCROLL, 40, 7);
+  compare(target, page, 200);
+}
+
+TEST_F(Nhw32Edit, AlsoInWrappedLinesScrolledFarDown) {
+  const WordPage page = makePage({.length = 8000, .lineLength = 0});
+  const TextTarget target({}, page.text);
+  SendMessageW(target.control(), EM_LINESCROLL, 0, 60);
+  compare(target, page, 200);
+}
+
+TEST_F(Nhw32Edit, AlsoInASingleLineThatIsScrolled) {
+  const WordPage page = makePage({.length = 300, .lineLength = 0});
+  const TextTarget target({.style = ES_AUTOHSCROLL, .size = {420, 22}}, page.text);
+  SendMessageW(target.control(), EM_SETSEL, 200, 200);
+  SendMessageW(target.control(), EM_SCROLLCARET, 0, 0);
+  compare(target, page, 50);
+}
+
+TEST_F(Nhw32Edit, AlsoBehind64KCharacters) {
+  const WordPage page = makePage({.length = 400'000});
+  const TextTarget target({}, page.text);
+  for (const int line : {1'000, 1'100, 2'500, 5'500}) {
+    SendMessageW(target.control(), EM_LINESCROLL, 0,
+                 line - SendMessageW(target.control(), EM_GETFIRSTVISIBLELINE, 0, 0));
+    compare(target, page, 50);
+  }
+}
+
+TEST_F(Nhw32Edit, AlsoBehind64KLines) {
+  const WordPage page = makePage({.length = 400'000, .lineLength = 1});
+  const TextTarget target({}, page.text);
+  const auto lines = SendMessageW(target.control(), EM_GETLINECOUNT, 0, 0);
+  SCOPED_TRACE(lines);
+  SendMessageW(target.control(), EM_LINESCROLL, 0, lines - 30);
+  compare(target, page, 50);
+}
+
+TEST_F(Nhw32Edit, ASelectionStaysAndDoesNotMatter) {
+  const TextTarget target({}, u"some selected words");
+  SendMessageW(target.control(), EM_SETSEL, 5, 13);
+  EXPECT_EQ(wordAbout(target, 7), u"selected");
+  EXPECT_EQ(wordAbout(target, 15), u"words");
+  EXPECT_EQ(SendMessageW(target.control(), EM_GETSEL, 0, 0), MAKELONG(5, 13));
+}
+
+TEST_F(Nhw32Edit, TellsThePlaceOfTheWord) {
+  const TextTarget target({}, u"one well-known word\r\nnext");
+  const nhw32::Answer answer = answerTo(questionAbout(target.control(), 8));
+  ASSERT_EQ(answer.word.text, u"well-known");
+  const POINT begin = *characterCorner(target.control(), 4);
+  const POINT end = *characterCorner(target.control(), 14);
+  const POINT below = *characterCorner(target.control(), 21);
+  EXPECT_EQ(answer.word.box,
+            (nhw32::ScreenBox{static_cast<int>(begin.x), static_cast<int>(begin.y),
+                              static_cast<int>(end.x), static_cast<int>(below.y)}));
+}
+
+TEST_F(Nhw32Edit, NothingBeyondALinesEndBelowTheTextAndInTheMargins) {
+  const TextTarget target({}, u"short\r\nlines");
+  const RECT client = harness::clientRectOf(target.control());
+  const POINT first = *characterCorner(target.control(), 2);
+  const POINT last = *characterCorner(target.control(), 9);
+  const LONG height = last.y - first.y;
+  EXPECT_EQ(wordAtPoint(target, {first.x + 1, first.y + 1}), u"short");
+  EXPECT_EQ(wordAtPoint(target, {first.x + 100, first.y + 1}), u"");
+  EXPECT_EQ(wordAtPoint(target, {last.x + 1, last.y + 1}), u"lines");
+  EXPECT_EQ(wordAtPoint(target, {last.x + 100, last.y + 1}), u"");
+  EXPECT_EQ(wordAtPoint(target, {last.x + 1, last.y + height - 1}), u"lines");
+  EXPECT_EQ(wordAtPoint(target, {last.x + 1, last.y + height}), u"");
+  EXPECT_EQ(wordAtPoint(target, {client.right - 1, client.bottom - 1}), u"");
+  EXPECT_EQ(wordAtPoint(target, {client.left - 5, first.y + 1}), u"");
+}
+
+TEST_F(Nhw32Edit, NothingFarBelowALoneLine) {
+  const TextTarget target({}, u"lonely");
+  const POINT corner = *characterCorner(target.control(), 2);
+  EXPECT_EQ(wordAtPoint(target, {corner.x + 1, corner.y + 5}), u"lonely");
+  EXPECT_EQ(wordAtPoint(target, {corner.x + 1, corner.y + 25}), u"");
+}
+
+TEST_F(Nhw32Edit, TheLastCharacterOfTheTextBelongsToItsWord) {
+  const TextTarget target({}, u"only words");
+  const POINT corner = *characterCorner(target.control(), 9);
+  EXPECT_EQ(wordAtPoint(target, {corner.x + 2, corner.y + 5}), u"words");
+  EXPECT_EQ(wordAtPoint(target, {corner.x + 40, corner.y + 5}), u"");
+}
+
+TEST_F(Nhw32Edit, NothingInAnEmptyOne) {
+  const TextTarget target({}, u"");
+  EXPECT_EQ(wordAtPoint(target, harness::centreOf(harness::clientRectOf(target.control()))), u"");
+}
+
+TEST_F(Nhw32Edit, APasswordIsNotEvenRead) {
+  for (const bool byStyle : {true, false}) {
+    std::atomic<int> reads = 0;
+    const TextTarget target({.style = byStyle ? DWORD{ES_PASSWORD} : DWORD{ES_AUTOHSCROLL},
+                             .size = {420, 22},
+                             .hook =
+                                 [&](HWND, UINT message, WPARAM, LPARAM) {
+                                   reads += message == WM_GETTEXT ? 1 : 0;
+                                   return std::optional<LRESULT>();
+                                 }},
+                            u"secret");
+    if (!byStyle) {
+      EXPECT_EQ(wordAbout(target, 2), u"secret");
+      EXPECT_EQ(reads.exchange(0), 1);
+      SendMessageW(target.control(), EM_SETPASSWORDCHAR, L'*', 0);
+    }
+    const POINT corner = *characterCorner(target.control(), 2);
+    EXPECT_EQ(wordAtPoint(target, {corner.x + 2, corner.y + 5}), u"");
+    EXPECT_EQ(reads, 0);
+  }
+}
+
+TEST_F(Nhw32Edit, NothingWhereTheWindowIsHiddenOrGone) {
+  nhw32::Question question;
+  {
+    const TextTarget target({}, u"hidden");
+    question = questionAbout(target.control(), 2);
+    EXPECT_EQ(wordAt(target, question), u"hidden");
+    ShowWindow(target.window(), SW_HIDE);
+    EXPECT_EQ(wordAt(target, question), u"");
+  }
+  EXPECT_EQ(answerTo(question).outcome, Outcome::none);
+}
+
+/// What befalls a control right after its text was read.
+void shrink(HWND control) { SetWindowTextW(control, L"x"); }
+void hide(HWND control) { ShowWindow(control, SW_HIDE); }
+void destroy(HWND control) { DestroyWindow(GetParent(control)); }
+
+TEST_F(Nhw32Edit, NothingWhereItShrinksHidesOrGoesInMidQuestion) {
+  for (auto* const befall : {shrink, hide, destroy}) {
+    bool armed = false;
+    const TextTarget target(
+        {.hook =
+             [&](HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
+               if (message != WM_GETTEXT || !std::exchange(armed, false))
+                 return std::optional<LRESULT>();
+               const LRESULT length = DefWindowProcW(control, WM_NULL, 0, 0);
+               const std::u16string text = u"words of the past";
+               std::copy_n(text.c_str(), std::min<std::size_t>(text.size() + 1, wParam),
+                           reinterpret_cast<char16_t*>(lParam));
+               befall(control);
+               return std::optional<LRESULT>(length + static_cast<LRESULT>(text.size()));
+             }},
+        u"words of the past");
+    const nhw32::Question question = questionAbout(target.control(), 14);
+    EXPECT_EQ(wordAt(target, question), u"past");
+    armed = true;
+    EXPECT_EQ(wordAt(target, question), u"");
+  }
+}
+
+TEST_F(Nhw32Edit, AWindowThatOnlySoundsLikeOneIsNotAskedForItsText) {
+  WNDCLASSW windowClass{};
+  windowClass.lpfnWndProc = DefWindowProcW;
+  windowClass.hInstance = GetModuleHandleW(nullptr);
+  windowClass.lpszClassName = L"TMyEditor";
+  RegisterClassW(&windowClass);
+  std::atomic<int> reads = 0;
+  const TextTarget target({.className = L"TMyEditor",
+                           .style = 0,
+                           .hook =
+                               [&](HWND, UINT message, WPARAM, LPARAM) {
+                                 reads += message == WM_GETTEXT ? 1 : 0;
+                                 return std::optional<LRESULT>();
+                               }},
+                          u"caption");
+  EXPECT_EQ(wordAtPoint(target, harness::centreOf(harness::clientRectOf(target.control()))), u"");
+  EXPECT_EQ(reads, 0);
+}
+
+}  // namespace
+}  // namespace wintest

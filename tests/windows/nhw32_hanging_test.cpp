@@ -1,0 +1,164 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+
+#include "capture/nhw32/nhw32.h"
+#include "capture/nhw32/router.h"
+#include "capture/nhw32/service.h"
+#include "tests/program/harness/find.h"
+#include "tests/windows/support/hold_ups.h"
+#include "tests/windows/support/pump.h"
+#include "tests/windows/support/text_target.h"
+#include "tests/windows/support/word_host.h"
+
+namespace wintest {
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+/// How long a question may take in messages; the system may take the processor away for a while.
+constexpr milliseconds kQuestionTime{200 + 150};
+
+/// A control whose thread can be made to hang in its messages.
+class Hanging {
+ public:
+  explicit Hanging(std::wstring className = L"EDIT")
+      : target_({.className = std::move(className),
+                 .hook =
+                     [this](HWND, UINT, WPARAM, LPARAM) {
+                       while (hangs_) Sleep(1);
+                       return std::optional<LRESULT>();
+                     }},
+                u"stubborn words") {
+    place_ = harness::centreOf(*characterCell(target_.control(), 3));
+  }
+  ~Hanging() { hangs_ = false; }
+  Hanging(const Hanging&) = delete;
+  Hanging& operator=(const Hanging&) = delete;
+
+  void hang(bool hangs) { hangs_ = hangs; }
+  [[nodiscard]] POINT place() const { return place_; }
+  [[nodiscard]] nhw32::Question question() const { return questionAt(target_.control(), place_); }
+
+ private:
+  std::atomic<bool> hangs_ = false;
+  TextTarget target_;
+  POINT place_{};
+};
+
+class Nhw32Hanging : public ::testing::Test {
+ protected:
+  ~Nhw32Hanging() override {
+    nhw32::ResetNHW32();
+    EXPECT_TRUE(eventually([] { return nhw32::service().workers() == 0; }));
+  }
+
+  WordHost host_;
+};
+
+TEST_F(Nhw32Hanging, AQuestionEndsInTimeAndTheWindowIsLeftAloneForAWhile) {
+  for (const wchar_t* className : {L"EDIT", L"RichEdit20W"}) {
+    Hanging target(className);
+    const auto router = nhw32::makeRouter();
+    ASSERT_EQ(answerTo(target.question()).word.text, u"stubborn");
+    target.hang(true);
+    for (int i = 0; i < 3; ++i) {
+      const auto begin = steady_clock::now();
+      EXPECT_EQ(router->wordAt(target.question()).outcome, nhw32::Outcome::outOfTime);
+      EXPECT_LE(steady_clock::now() - begin, kQuestionTime);
+    }
+    EXPECT_EQ(router->wordAt(target.question()).outcome, nhw32::Outcome::none);
+    target.hang(false);
+    EXPECT_EQ(router->wordAt(target.question()).outcome, nhw32::Outcome::none);
+    EXPECT_EQ(answerTo(target.question()).word.text, u"stubborn");
+  }
+}
+
+TEST_F(Nhw32Hanging, ProbingNeverWaits) {
+  Hanging target;
+  nhw32::SetNHW32();
+  ASSERT_EQ(host_.wordAt(target.place()), "stubborn");
+  target.hang(true);
+  HoldUps probing;
+  for (int probe = 0; probe < 40; ++probe) {
+    probing.measure([&] {
+      host_.probe(target.place());
+      nhw32::SetNHW32();
+    });
+    passTime(10);
+  }
+  EXPECT_FALSE(probing.wait());
+  EXPECT_EQ(host_.words().size(), 1U);
+}
+
+TEST_F(Nhw32Hanging, StartingAndStoppingTwoHundredTimesLeavesNoThreads) {
+  Hanging target;
+  for (const bool hangs : {false, true}) {
+    target.hang(hangs);
+    HoldUps restarting;
+    int most = 0;
+    for (int round = 0; round < 200; ++round) {
+      restarting.measure([&] {
+        nhw32::SetNHW32();
+        host_.probe(target.place());
+        nhw32::ResetNHW32();
+      });
+      most = std::max(most, nhw32::service().workers());
+      if (round % 20 == 0) passTime(20);
+    }
+    EXPECT_FALSE(restarting.wait());
+    EXPECT_LE(most, 2) << "a worker that hangs in a question is kept, not replaced";
+    EXPECT_TRUE(eventually([] { return nhw32::service().workers() == 0; }));
+  }
+}
+
+/// Takes its time, fails, or answers at once.
+class Stubborn : public nhw32::TextProvider {
+ public:
+  nhw32::Answer wordAt(const nhw32::Question& question) override {
+    ++asked;
+    if (question.point.x < 100) throw std::runtime_error("fails");
+    Sleep(question.point.x < 200 ? 250 : 0);
+    return {.outcome = nhw32::Outcome::word,
+            .word = {.text = question.point.x < 200 ? u"slow" : u"quick", .box = {}}};
+  }
+  static inline std::atomic<int> asked = 0;
+};
+
+TEST_F(Nhw32Hanging, AWaySlowerThanTheProbesIsHeardAndAFailingOneDoesNoHarm) {
+  Stubborn::asked = 0;
+  nhw32::Service service([] { return std::make_unique<Stubborn>(); });
+  service.start();
+  const auto probe = [&](POINT point) {
+    service.disarm();
+    service.arm(host_.window(), point);
+  };
+  probe({50, 500});
+  ASSERT_TRUE(eventually([] { return Stubborn::asked == 1; }));
+  const UINT message = RegisterWindowMessageA(nhw32::kMessageName);
+  const auto announced = [&] {
+    MSG queued;
+    return PeekMessageW(&queued, host_.window(), message, message, PM_NOREMOVE) != FALSE;
+  };
+  int probes = 0;
+  for (; probes < 10 && !announced(); ++probes) {
+    probe({150, 500});
+    Sleep(100);
+  }
+  EXPECT_TRUE(announced());
+  EXPECT_GE(probes, 3);
+  EXPECT_EQ(Stubborn::asked, 2);
+  EXPECT_EQ(service.word()->text, u"slow");
+  probe({150, 500});
+  probe({250, 500});
+  ASSERT_TRUE(eventually([&] { return service.word().has_value(); }));
+  EXPECT_EQ(service.word()->text, u"quick");
+  service.stop();
+  EXPECT_TRUE(eventually([&] { return service.workers() == 0; }));
+}
+
+}  // namespace
+}  // namespace wintest

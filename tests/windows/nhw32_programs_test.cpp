@@ -1,0 +1,141 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+
+#include "capture/nhw32/nhw32.h"
+#include "capture/nhw32/service.h"
+#include "tests/program/harness/find.h"
+#include "tests/program/harness/stopped.h"
+#include "tests/windows/support/hold_ups.h"
+#include "tests/windows/support/pump.h"
+#include "tests/windows/support/text_places.h"
+#include "tests/windows/support/text_program.h"
+#include "tests/windows/support/text_target.h"
+#include "tests/windows/support/word_host.h"
+#include "tests/windows/support/word_page.h"
+
+namespace wintest {
+namespace {
+
+using std::chrono::microseconds;
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+template <class Action>
+microseconds timeOf(Action action) {
+  const auto begin = steady_clock::now();
+  action();
+  return std::chrono::duration_cast<microseconds>(steady_clock::now() - begin);
+}
+
+std::string ansi(const std::u16string& text) {
+  std::string bytes(512, '\0');
+  bytes.resize(static_cast<std::size_t>(
+      WideCharToMultiByte(CP_ACP, 0, reinterpret_cast<const wchar_t*>(text.data()),
+                          static_cast<int>(text.size()), bytes.data(), 512, nullptr, nullptr)));
+  return bytes;
+}
+
+/// Words of other programs.
+class Nhw32Programs : public ::testing::TestWithParam<TextProgram::Kind> {
+ protected:
+  static PageDesign design(std::size_t length) {
+    return {.length = length,
+            .lineEnd = GetParam() == TextProgram::Kind::notepad ? u"\r\n" : u"\r"};
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(OfTheSystem, Nhw32Programs,
+                         ::testing::Values(TextProgram::Kind::notepad, TextProgram::Kind::wordPad),
+                         [](const auto& kind) {
+                           return kind.param == TextProgram::Kind::notepad ? "Notepad" : "WordPad";
+                         });
+
+TEST_P(Nhw32Programs, TheServiceTellsTheWordAtTwoHundredPlaces) {
+  const WordPage page = makePage(design(4000));
+  const TextProgram program(GetParam(), page.text);
+  nhw32::SetNHW32();
+  WordHost host;
+  int compared = 0;
+  for (const TextPlace& place : placesInSight(program.control(), 200)) {
+    // What is no word is asked for directly: nothing would tell when to stop waiting for it.
+    const std::u16string& word = page.words[place.position];
+    if (word.empty()) {
+      EXPECT_EQ(answerTo(questionAt(program.control(), place.point)).outcome, nhw32::Outcome::none);
+    } else {
+      ASSERT_EQ(host.wordAt(place.point), ansi(word)) << "at character " << place.position;
+    }
+    ++compared;
+  }
+  EXPECT_EQ(compared, 200);
+  nhw32::ResetNHW32();
+}
+
+TEST_P(Nhw32Programs, TellsTheWordsOfALongTextQuickly) {
+  const WordPage page = makePage(design(400'000));
+  const TextProgram program(GetParam(), page.text);
+  for (const int line : {0, 3'000, 6'000}) {
+    harness::send(program.control(), EM_LINESCROLL, 0, line);
+    std::vector<microseconds> times;
+    for (const TextPlace& place : placesInSight(program.control(), 40)) {
+      nhw32::Answer answer;
+      times.push_back(
+          timeOf([&] { answer = answerTo(questionAt(program.control(), place.point)); }));
+      ASSERT_EQ(answer.word.text, page.words[place.position]) << "at character " << place.position;
+    }
+    ASSERT_EQ(times.size(), 40U);
+    std::ranges::sort(times);
+    EXPECT_LE(times[20], milliseconds(50));
+    RecordProperty("median_microseconds_at_line_" + std::to_string(line),
+                   static_cast<int>(times[20].count()));
+  }
+}
+
+TEST_P(Nhw32Programs, AStoppedProgramHoldsNobodyUpAndLivesOn) {
+  const TextProgram program(GetParam(), u"patient words");
+  const nhw32::Question question = questionAbout(program.control(), 3);
+  const POINT point{question.point.x, question.point.y};
+  ASSERT_EQ(answerTo(question).word.text, u"patient");
+  WordHost host;
+  nhw32::SetNHW32();
+  {
+    const harness::Stopped stopped(program.mark());
+    HoldUps probing;
+    for (int probe = 0; probe < 10; ++probe) {
+      probing.measure([&] { host.probe(point); });
+      passTime(60);
+    }
+    EXPECT_FALSE(probing.wait());
+    RecordProperty("longest_probe_microseconds", static_cast<int>(probing.longest().count()));
+    EXPECT_TRUE(host.words().empty());
+    HoldUps restarting;
+    for (int round = 0; round < 200; ++round) {
+      restarting.measure([&] {
+        nhw32::ResetNHW32();
+        nhw32::SetNHW32();
+        host.probe(point);
+      });
+    }
+    EXPECT_FALSE(restarting.wait());
+    EXPECT_LE(nhw32::service().workers(), 2);
+    nhw32::ResetNHW32();
+    EXPECT_TRUE(eventually([] { return nhw32::service().workers() == 0; }));
+  }
+  // It has all our late messages before it and answers them now.
+  harness::waitFor("the program to answer again",
+                   [&] { return answerTo(question).word.text == u"patient"; });
+  EXPECT_TRUE(program.process().running());
+  EXPECT_EQ(harness::textOf(program.control()), L"patient words");
+}
+
+TEST_P(Nhw32Programs, AProgramThatDiesGivesNoWord) {
+  const TextProgram program(GetParam(), u"mortal words");
+  const nhw32::Question question = questionAbout(program.control(), 3);
+  ASSERT_EQ(answerTo(question).word.text, u"mortal");
+  program.process().kill();
+  EXPECT_EQ(answerTo(question).outcome, nhw32::Outcome::none);
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,131 @@
+#include <gtest/gtest.h>
+#include <richedit.h>
+
+#include <atomic>
+
+#include "tests/program/harness/find.h"
+#include "tests/windows/support/text_places.h"
+#include "tests/windows/support/text_target.h"
+#include "tests/windows/support/word_page.h"
+
+namespace wintest {
+namespace {
+
+using nhw32::Outcome;
+
+TextTarget::Design richDesign(DWORD style = ES_MULTILINE | ES_AUTOVSCROLL) {
+  return {.className = L"RichEdit20W", .style = style};
+}
+
+/// Rich edit controls as the service asks them; one position a line end.
+class Nhw32RichEdit : public ::testing::Test {
+ protected:
+  std::u16string wordAt(const nhw32::Question& question) {
+    const nhw32::Answer answer = answerTo(question);
+    EXPECT_NE(answer.outcome, Outcome::outOfTime);
+    return answer.outcome == Outcome::word ? answer.word.text : u"";
+  }
+
+  std::u16string wordAtPoint(const TextTarget& target, POINT point) {
+    return wordAt(questionAt(target.control(), point));
+  }
+};
+
+TEST_F(Nhw32RichEdit, TellsTheWordUnderThePoint) {
+  const WordPage page = makePage({.length = 3000, .lineEnd = u"\r"});
+  const TextTarget target(richDesign(), page.text);
+  for (const int scrolled : {0, 25}) {
+    SendMessageW(target.control(), EM_LINESCROLL, 0, scrolled);
+    const auto places = placesInSight(target.control(), 100);
+    EXPECT_EQ(places.size(), 100U);
+    for (const auto& [position, point] : places) {
+      ASSERT_EQ(wordAtPoint(target, point), page.words[position]) << "at character " << position;
+    }
+  }
+}
+
+TEST_F(Nhw32RichEdit, ASelectionStaysAndDoesNotMatter) {
+  const TextTarget target(richDesign(), u"some selected words");
+  SendMessageW(target.control(), EM_SETSEL, 5, 13);
+  EXPECT_EQ(wordAt(questionAbout(target.control(), 7)), u"selected");
+  EXPECT_EQ(SendMessageW(target.control(), EM_GETSEL, 0, 0), MAKELONG(5, 13));
+}
+
+TEST_F(Nhw32RichEdit, NothingBeyondALinesEndAndBelowTheText) {
+  const TextTarget target(richDesign(), u"short\rlines");
+  const RECT client = harness::clientRectOf(target.control());
+  const POINT first = *characterCorner(target.control(), 2);
+  const POINT last = *characterCorner(target.control(), 8);
+  EXPECT_EQ(wordAtPoint(target, {first.x + 1, first.y + 1}), u"short");
+  EXPECT_EQ(wordAtPoint(target, {first.x + 100, first.y + 1}), u"");
+  EXPECT_EQ(wordAtPoint(target, {last.x + 1, last.y + 1}), u"lines");
+  EXPECT_EQ(wordAtPoint(target, {last.x + 100, last.y + 1}), u"");
+  EXPECT_EQ(wordAtPoint(target, {last.x + 1, last.y + 40}), u"");
+  EXPECT_EQ(wordAtPoint(target, {client.right - 1, client.bottom - 1}), u"");
+}
+
+TEST_F(Nhw32RichEdit, NothingInAnEmptyOne) {
+  const TextTarget target(richDesign(), u"");
+  EXPECT_EQ(wordAtPoint(target, harness::centreOf(harness::clientRectOf(target.control()))), u"");
+}
+
+TEST_F(Nhw32RichEdit, TheLastCharacterOfTheTextBelongsToItsWord) {
+  const TextTarget target(richDesign(), u"only words");
+  const POINT corner = *characterCorner(target.control(), 9);
+  EXPECT_EQ(wordAtPoint(target, {corner.x + 2, corner.y + 5}), u"words");
+}
+
+TEST_F(Nhw32RichEdit, LettersOfManySizes) {
+  const TextTarget target(richDesign(), u"small LARGE small\rnext");
+  CHARFORMATW format{};
+  format.cbSize = sizeof format;
+  format.dwMask = CFM_SIZE;
+  format.yHeight = 600;
+  SendMessageW(target.control(), EM_SETSEL, 6, 11);
+  SendMessageW(target.control(), EM_SETCHARFORMAT, SCF_SELECTION,
+               reinterpret_cast<LPARAM>(&format));
+  EXPECT_EQ(wordAt(questionAbout(target.control(), 2)), u"small");
+  EXPECT_EQ(wordAt(questionAbout(target.control(), 8)), u"LARGE");
+  EXPECT_EQ(wordAt(questionAbout(target.control(), 14)), u"small");
+  EXPECT_EQ(wordAt(questionAbout(target.control(), 19)), u"next");
+}
+
+TEST_F(Nhw32RichEdit, APasswordIsNotEvenRead) {
+  std::atomic<int> reads = 0;
+  TextTarget::Design design = richDesign(ES_PASSWORD);
+  design.hook = [&](HWND, UINT message, WPARAM, LPARAM) {
+    reads += message == EM_GETTEXTRANGE || message == WM_GETTEXT ? 1 : 0;
+    return std::optional<LRESULT>();
+  };
+  const TextTarget target(design, u"secret");
+  const POINT corner = *characterCorner(target.control(), 2);
+  EXPECT_EQ(wordAtPoint(target, {corner.x + 2, corner.y + 5}), u"");
+  EXPECT_EQ(reads, 0);
+}
+
+TEST_F(Nhw32RichEdit, NothingWhereItShrinksOrGoesInMidQuestion) {
+  for (const bool goes : {false, true}) {
+    bool armed = false;
+    TextTarget::Design design = richDesign();
+    design.hook = [&](HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
+      if (message != EM_GETTEXTRANGE || !std::exchange(armed, false))
+        return std::optional<LRESULT>();
+      const LRESULT length = SendMessageW(control, message, wParam, lParam);
+      if (goes) {
+        DestroyWindow(GetParent(control));
+      } else {
+        SetWindowTextW(control, L"");
+      }
+      return std::optional(length);
+    };
+    const TextTarget target(design, u"words of the past");
+    const nhw32::Question question = questionAbout(target.control(), 14);
+    EXPECT_EQ(wordAt(question), u"past");
+    armed = true;
+    EXPECT_EQ(wordAt(question), u"");
+    EXPECT_FALSE(armed);
+  }
+}
+
+}  // namespace
+}  // namespace wintest

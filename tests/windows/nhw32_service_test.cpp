@@ -1,0 +1,148 @@
+#include "capture/nhw32/service.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "capture/nhw32/nhw32.h"
+#include "tests/program/harness/find.h"
+#include "tests/windows/support/pump.h"
+#include "tests/windows/support/text_target.h"
+#include "tests/windows/support/word_host.h"
+
+namespace wintest {
+namespace {
+
+POINT pointOf(HWND control, std::size_t position) {
+  return harness::centreOf(*characterCell(control, position));
+}
+
+/// What BL_GetText32 hands over now.
+std::string textNow() {
+  std::array<char, 101> buffer{};
+  nhw32::BL_GetText32(buffer.data(), 100, nullptr);
+  return buffer.data();
+}
+
+/// The four operations, as the program uses them.
+class Nhw32Service : public ::testing::Test {
+ protected:
+  Nhw32Service() { nhw32::SetNHW32(); }
+  ~Nhw32Service() override {
+    nhw32::ResetNHW32();
+    EXPECT_TRUE(eventually([] { return nhw32::service().workers() == 0; }));
+  }
+
+  /// Handles no messages meanwhile, so that the announcement stays in the queue.
+  void armUntilAWordWaits(POINT point) {
+    harness::waitFor("a word", [&] {
+      host_.probe(point);
+      const ULONGLONG begin = GetTickCount64();
+      while (textNow().empty() && GetTickCount64() - begin < 100) Sleep(1);
+      return !textNow().empty();
+    });
+  }
+
+  WordHost host_;
+};
+
+TEST_F(Nhw32Service, HandsTheWordUnderTheArmedPointToTheHost) {
+  const TextTarget target({}, u"It was a well-known word.\r\nSecond");
+  EXPECT_EQ(host_.wordAt(pointOf(target.control(), 12)), "well-known");
+  const RECT rect = host_.rect();
+  EXPECT_TRUE(PtInRect(&rect, pointOf(target.control(), 9)));
+  EXPECT_TRUE(PtInRect(&rect, pointOf(target.control(), 18)));
+  EXPECT_FALSE(PtInRect(&rect, pointOf(target.control(), 7)));
+  EXPECT_EQ(host_.words().size(), 1U);
+}
+
+TEST_F(Nhw32Service, HandsTextsOverInTheAnsiCodePage) {
+  const TextTarget target({}, u"字典 don\u2019t caf\u00E9 \r\nx");
+  EXPECT_EQ(host_.wordAt(pointOf(target.control(), 1)), "\xD7\xD6\xB5\xE4");
+  EXPECT_EQ(host_.wordAt(pointOf(target.control(), 4)), "don't");
+  EXPECT_EQ(host_.wordAt(pointOf(target.control(), 10)), "caf\xA8\xA6");
+}
+
+TEST_F(Nhw32Service, CutsAtAWholeCharacter) {
+  const TextTarget target({.size = {900, 100}}, u"aa" + std::u16string(100, u'b') + u" \r\n" +
+                                                    std::u16string(60, u'典') + u" \r\nx");
+  EXPECT_EQ(host_.wordAt(pointOf(target.control(), 3)), "aa" + std::string(98, 'b'));
+  std::string fifty;
+  for (int i = 0; i < 50; ++i) fifty += "\xB5\xE4";
+  EXPECT_EQ(host_.wordAt(pointOf(target.control(), 110)), fifty);
+  std::array<char, 101> buffer{};
+  armUntilAWordWaits(pointOf(target.control(), 110));
+  nhw32::BL_GetText32(buffer.data(), 7, nullptr);
+  EXPECT_STREQ(buffer.data(), "\xB5\xE4\xB5\xE4\xB5\xE4");
+  buffer.fill('#');
+  nhw32::BL_GetText32(buffer.data(), 0, nullptr);
+  EXPECT_EQ(std::string(buffer.data(), 2), std::string("\0#", 2));
+  nhw32::BL_GetText32(nullptr, 100, nullptr);
+}
+
+TEST_F(Nhw32Service, WithoutAWordTheTextIsEmpty) {
+  RECT rect{1, 2, 3, 4};
+  std::array<char, 101> buffer{};
+  buffer.fill('#');
+  nhw32::BL_GetText32(buffer.data(), 100, &rect);
+  EXPECT_STREQ(buffer.data(), "");
+  EXPECT_EQ(rect.right, 0);
+}
+
+TEST_F(Nhw32Service, DisarmingTakesBackAMessageThatWasPostedAlready) {
+  const TextTarget target({}, u"first second");
+  armUntilAWordWaits(pointOf(target.control(), 2));
+  nhw32::BL_SetFlag32(nhw32::kDisarm, nullptr, 0, 0);
+  EXPECT_EQ(textNow(), "");
+  EXPECT_EQ(host_.nextWord(100), "(none)");
+}
+
+TEST_F(Nhw32Service, ArmingElsewhereTakesItBackAsWell) {
+  const TextTarget target({}, u"first second");
+  const POINT second = pointOf(target.control(), 8);
+  armUntilAWordWaits(pointOf(target.control(), 2));
+  std::string word = "(none)";
+  for (int tries = 0; tries < 20 && word == "(none)"; ++tries) {
+    nhw32::BL_SetFlag32(nhw32::kArm, host_.window(), static_cast<std::int16_t>(second.x),
+                        static_cast<std::int16_t>(second.y));
+    word = host_.nextWord(200);
+  }
+  EXPECT_EQ(word, "second");
+  EXPECT_EQ(host_.words().size(), 1U);
+}
+
+TEST_F(Nhw32Service, StoppingTakesItBackAndArmingIsInVainThen) {
+  const TextTarget target({}, u"first second");
+  armUntilAWordWaits(pointOf(target.control(), 2));
+  nhw32::ResetNHW32();
+  nhw32::ResetNHW32();
+  EXPECT_EQ(textNow(), "");
+  host_.probe(pointOf(target.control(), 2));
+  EXPECT_EQ(host_.nextWord(100), "(none)");
+  nhw32::SetNHW32();
+  nhw32::SetNHW32();
+  EXPECT_EQ(host_.wordAt(pointOf(target.control(), 8)), "second");
+  EXPECT_EQ(nhw32::service().workers(), 1);
+}
+
+TEST_F(Nhw32Service, OtherFlagsDoNothing) {
+  const TextTarget target({}, u"first second");
+  const POINT point = pointOf(target.control(), 2);
+  armUntilAWordWaits(point);
+  for (const std::uint32_t flag : {0U, 1001U, 1003U}) nhw32::BL_SetFlag32(flag, nullptr, 0, 0);
+  EXPECT_EQ(textNow(), "first");
+  EXPECT_EQ(host_.nextWord(), "first");
+}
+
+TEST_F(Nhw32Service, ManyWordsInARowNeedOneThread) {
+  const TextTarget target({}, u"first second");
+  for (int round = 0; round < 200; ++round) {
+    ASSERT_EQ(host_.wordAt(pointOf(target.control(), round % 2 == 0 ? 2 : 8)),
+              round % 2 == 0 ? "first" : "second");
+    nhw32::SetNHW32();
+  }
+  EXPECT_EQ(nhw32::service().workers(), 1);
+}
+
+}  // namespace
+}  // namespace wintest

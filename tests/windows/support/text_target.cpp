@@ -1,0 +1,126 @@
+#include "tests/windows/support/text_target.h"
+
+#include <commctrl.h>
+
+#include <cstdint>
+
+#include "capture/nhw32/router.h"
+#include "tests/program/harness/controls.h"
+#include "tests/program/harness/find.h"
+#include "tests/windows/support/pump.h"
+
+namespace wintest {
+namespace {
+
+constexpr wchar_t kClassName[] = L"TextTarget";
+constexpr POINT kPlace{300, 200};
+
+LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message != WM_DESTROY) return DefWindowProcW(window, message, wParam, lParam);
+  PostQuitMessage(0);
+  return 0;
+}
+
+LRESULT CALLBACK hookProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
+                          DWORD_PTR hook) {
+  const auto& function = *reinterpret_cast<const TextTarget::Hook*>(hook);
+  if (const auto answer = function(window, message, wParam, lParam)) return *answer;
+  return DefSubclassProc(window, message, wParam, lParam);
+}
+
+bool isRich(HWND control) { return harness::classOf(control).starts_with(L"RichEdit"); }
+
+}  // namespace
+
+TextTarget::TextTarget(Design design, const std::u16string& text) : design_(std::move(design)) {
+  LoadLibraryW(L"riched20.dll");
+  HANDLE ready = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  thread_ = std::thread([this, ready] { run(ready); });
+  WaitForSingleObject(ready, kPatience);
+  CloseHandle(ready);
+  setText(text);
+}
+
+TextTarget::~TextTarget() {
+  PostMessageW(window_, WM_CLOSE, 0, 0);
+  // Its thread may wait for an answer from ours while it goes.
+  eventually([this] { return IsWindow(window_) == FALSE; });
+  thread_.join();
+}
+
+void TextTarget::run(HANDLE ready) {
+  WNDCLASSW windowClass{};
+  windowClass.lpfnWndProc = windowProc;
+  windowClass.hInstance = GetModuleHandleW(nullptr);
+  windowClass.lpszClassName = kClassName;
+  windowClass.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
+  RegisterClassW(&windowClass);
+  window_ = CreateWindowExW(WS_EX_TOPMOST | WS_EX_NOACTIVATE, kClassName, L"Text", WS_POPUP,
+                            kPlace.x, kPlace.y, design_.size.cx, design_.size.cy, nullptr, nullptr,
+                            windowClass.hInstance, nullptr);
+  control_ = CreateWindowExW(0, design_.className.c_str(), L"",
+                             WS_CHILD | WS_VISIBLE | design_.style, 0, 0, design_.size.cx,
+                             design_.size.cy, window_, nullptr, windowClass.hInstance, nullptr);
+  SendMessageW(control_, EM_LIMITTEXT, 4'000'000, 0);
+  if (design_.hook)
+    SetWindowSubclass(control_, hookProc, 1, reinterpret_cast<DWORD_PTR>(&design_.hook));
+  ShowWindow(window_, SW_SHOWNOACTIVATE);
+  UpdateWindow(window_);
+  SetEvent(ready);
+  MSG message;
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+void TextTarget::setText(const std::u16string& text) const {
+  SendMessageW(control_, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+std::optional<POINT> characterCorner(HWND control, std::size_t position) {
+  if (isRich(control)) return harness::richTextPosition(control, static_cast<LONG>(position));
+  const LRESULT packed = harness::send(control, EM_POSFROMCHAR, position);
+  if (static_cast<std::int32_t>(packed) == -1) return std::nullopt;
+  POINT corner{static_cast<std::int16_t>(LOWORD(packed)),
+               static_cast<std::int16_t>(HIWORD(packed))};
+  ClientToScreen(control, &corner);
+  return corner;
+}
+
+std::optional<RECT> characterCell(HWND control, std::size_t position) {
+  constexpr LONG kLowestLine = 11;
+  const auto corner = characterCorner(control, position);
+  const auto next = characterCorner(control, position + 1);
+  if (!corner || !next || next->y != corner->y || next->x <= corner->x) return std::nullopt;
+  const RECT cell{corner->x, corner->y, next->x, corner->y + kLowestLine};
+  const RECT client = harness::clientRectOf(control);
+  if (cell.left < client.left || cell.top < client.top || cell.right > client.right ||
+      cell.bottom > client.bottom) {
+    return std::nullopt;
+  }
+  return cell;
+}
+
+nhw32::Answer answerTo(const nhw32::Question& question) {
+  nhw32::Answer answer;
+  for (int tries = 0; tries < 20; ++tries) {
+    // A new one, whose patience is not at its end.
+    answer = nhw32::makeRouter()->wordAt(question);
+    if (answer.outcome != nhw32::Outcome::outOfTime) break;
+  }
+  return answer;
+}
+
+nhw32::Question questionAt(HWND control, POINT point) {
+  return {reinterpret_cast<nhw32::WindowId>(control),
+          {static_cast<int>(point.x), static_cast<int>(point.y)}};
+}
+
+nhw32::Question questionAbout(HWND control, std::size_t position) {
+  const auto cell = characterCell(control, position);
+  if (!cell) throw harness::Failure("character " + std::to_string(position) + " is not in sight");
+  return questionAt(control, harness::centreOf(*cell));
+}
+
+}  // namespace wintest

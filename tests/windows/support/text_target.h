@@ -1,0 +1,62 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <thread>
+
+#include "capture/nhw32/text_provider.h"
+
+namespace wintest {
+
+/// A text control in a window of its own thread, as in another program, whose thread ours may hold
+/// up or trouble.
+class TextTarget {
+ public:
+  /// What a control's thread does with a message before the control does; none: nothing.
+  using Hook = std::function<std::optional<LRESULT>(HWND, UINT, WPARAM, LPARAM)>;
+
+  struct Design {
+    std::wstring className = L"EDIT";
+    DWORD style = ES_MULTILINE | ES_AUTOVSCROLL;
+    SIZE size{420, 220};
+    Hook hook = {};
+  };
+
+  explicit TextTarget(Design design, const std::u16string& text = u"");
+  ~TextTarget();
+  TextTarget(const TextTarget&) = delete;
+  TextTarget& operator=(const TextTarget&) = delete;
+
+  [[nodiscard]] HWND window() const { return window_; }
+  [[nodiscard]] HWND control() const { return control_; }
+  void setText(const std::u16string& text) const;
+
+ private:
+  void run(HANDLE ready);
+
+  Design design_;
+  HWND window_ = nullptr;
+  HWND control_ = nullptr;
+  std::thread thread_;
+};
+
+/// The upper left corner of a character of an edit or rich edit control of any program, in screen
+/// pixels; none behind the text.
+std::optional<POINT> characterCorner(HWND control, std::size_t position);
+
+/// A character's cell in screen pixels where it is wholly in sight and not the last of its line.
+std::optional<RECT> characterCell(HWND control, std::size_t position);
+
+/// What the service finds. Where a busy machine lets the time run out it is asked again, as the
+/// program does ten times a second.
+nhw32::Answer answerTo(const nhw32::Question& question);
+
+/// A question about a point of a control.
+nhw32::Question questionAt(HWND control, POINT point);
+/// ... about the middle of a character in sight.
+nhw32::Question questionAbout(HWND control, std::size_t position);
+
+}  // namespace wintest
