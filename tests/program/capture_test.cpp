@@ -212,11 +212,14 @@ TEST_F(Capture, ASelectionStaysAsItIs) {
   notepad.place(kPage);
   notepad.setText(L"database kernel network");
   notepad.clickIntoText();
-  send(notepad.edit(), EM_SETSEL, 9, 15);
+  input::key(VK_HOME);
+  for (int i = 0; i < 8; ++i) input::key(VK_RIGHT, {VK_SHIFT});
+  const Selection selected{0, 8};
+  waitFor("the word to be selected", [&] { return selectionOf(notepad.edit()) == selected; });
   for (const LONG character : {2L, 11L, 18L}) {
     restOn(notepad, character);
     waitFor("a popup", [&] { return popup.isUp(); });
-    EXPECT_EQ(selectionOf(notepad.edit()), (Selection{9, 15}));
+    EXPECT_EQ(selectionOf(notepad.edit()), selected);
     input::moveTo(kAwayFromTexts);
     popup.waitUntilClosed();
   }
