@@ -78,7 +78,8 @@ if wanted program dpi144; then
   rm -rf build/shots build/program
 fi
 if wanted program; then
-  run_gtest program 240 wine build/windows/bin/program_tests.exe '--gtest_filter=-*Dpi144*'
+  build_licence_page
+  run_gtest program 420 wine build/windows/bin/program_tests.exe '--gtest_filter=-*Dpi144*'
 fi
 if wanted dpi144; then
   stop_wine

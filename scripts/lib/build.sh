@@ -49,6 +49,14 @@ ensure_small_database() {
   ensure_database "$LEXILO_ROOT/tests/data/small.csv" "$small_database"
 }
 
+# build_licence_page: the installer with a licence page that the program tests look at.
+build_licence_page() {
+  local source=$LEXILO_ROOT/tests/program/data/licence_page out=$LEXILO_ROOT/build/licence-page.exe
+  [[ $out -nt $source.nsi && $out -nt $source.txt ]] && return
+  step "Building an installer to be read" licence-page.log "See whether makensis is installed." \
+    makensis -V2 -NOCD -INPUTCHARSET UTF8 "-DOUT=$out" "-DTEXT=$source.txt" "$source.nsi"
+}
+
 # assemble_app: brings build/app up to date.
 assemble_app() {
   mkdir -p "$app_dir"

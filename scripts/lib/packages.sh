@@ -5,7 +5,7 @@
 program_packages=(g++ g++-mingw-w64-x86-64-posix cmake ninja-build googletest wine wine64 xvfb
   x11-utils xdotool openbox imagemagick locales fonts-wqy-microhei ca-certificates)
 # What the tests take beyond that.
-test_packages=(clang libclang-rt-14-dev clang-format)
+test_packages=(clang libclang-rt-14-dev clang-format nsis)
 
 # Runs a command as root.
 as_root() {

@@ -1,15 +1,20 @@
 // Words under the pointer in other programs.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
+#include <fstream>
 #include <functional>
 #include <random>
 
+#include "tests/program/harness/clipboard.h"
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/lexilo.h"
 #include "tests/program/harness/meaning_popup.h"
 #include "tests/program/harness/notepad.h"
 #include "tests/program/harness/screen.h"
+#include "tests/program/harness/stopped.h"
 #include "tests/program/harness/text.h"
 #include "tests/program/harness/text_window.h"
 #include "tests/program/harness/word_pad.h"
@@ -137,6 +142,37 @@ TEST_F(Capture, BlanksMarginsAndPlacesBelowTheTextOpenNothing) {
   (void)popup.waitFor(L"network");
 }
 
+TEST_F(Capture, AnInstallersLicenceIsRead) {
+  const Process installer(L"build\\licence-page.exe");
+  HWND page = waitForWindow({.process = installer.id(), .className = L"#32770", .title = {}});
+  HWND text = waitFor("the licence", [&]() -> HWND {
+    for (HWND child : childrenOf(page)) {
+      if (classOf(child) == L"RichEdit20W" || classOf(child) == L"RichEdit20A") return child;
+    }
+    return nullptr;
+  });
+  waitFor("its words", [&] { return textOf(text).find(L"catalyst") != std::wstring::npos; });
+  for (const auto& [at, word] : {std::pair{6, L"catalyst"}, std::pair{21, L"membrane"}}) {
+    const POINT place = richTextPosition(text, at);
+    input::moveTo({place.x + 3, place.y + 6});
+    (void)popup.waitFor(word);
+    input::moveTo(kAwayFromTexts);
+    popup.waitUntilClosed();
+  }
+}
+
+TEST_F(Capture, ATextBoxOfItsOwnIsRead) {
+  const QuickLookup window = lexilo.openQuickLookupAtA();
+  window.lookUp(L"kernel");
+  // While one types in it capture rests.
+  const POINT word = editPosition(window.input(), 2);
+  input::moveTo({word.x + 2, word.y + 6});
+  EXPECT_TRUE(popup.staysAway(400));
+  window.clickWord(0);
+  input::moveTo({word.x + 2, word.y + 6});
+  (void)popup.waitFor(L"kernel");
+}
+
 TEST_F(Capture, NeitherLabelsNorButtonsNorListsAreRead) {
   for (const wchar_t* kind :
        {L"Static", L"Button", L"ListBox", L"SysListView32", L"SysTreeView32", L"ComboLBox"}) {
@@ -223,6 +259,116 @@ TEST_F(Capture, ASelectionStaysAsItIs) {
     input::moveTo(kAwayFromTexts);
     popup.waitUntilClosed();
   }
+}
+
+TEST_F(Capture, TheClipboardStaysAsItIs) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  notepad.setText(L"database kernel network");
+  setClipboardText(L"kept");
+  const DWORD before = GetClipboardSequenceNumber();
+  for (const LONG character : {2L, 11L, 18L}) {
+    restOn(notepad, character);
+    waitFor("a popup", [&] { return popup.isUp(); });
+    input::moveTo(kAwayFromTexts);
+    popup.waitUntilClosed();
+  }
+  EXPECT_EQ(GetClipboardSequenceNumber(), before);
+  EXPECT_EQ(clipboardText(), L"kept");
+}
+
+TEST_F(Capture, SwitchedOffItReadsNothingUntilSwitchedOnAgain) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  notepad.setText(L"database kernel network");
+  const auto toggle = [&](bool byMenu) {
+    if (byMenu) {
+      lexilo.choose(MenuItem::capture);
+    } else {
+      lexilo.click(ToolbarButton::capture);
+    }
+  };
+  for (const bool byMenu : {false, true}) {
+    // The toolbar keeps the focus: without it capture would run again.
+    toggle(byMenu);
+    restOn(notepad, 2);
+    EXPECT_TRUE(popup.staysAway(500));
+    toggle(byMenu);
+    restOn(notepad, 11);
+    (void)popup.waitFor(L"kernel");
+    input::moveTo(kAwayFromTexts);
+    popup.waitUntilClosed();
+  }
+}
+
+/// How long the toolbar takes to answer, in ms: the median and the longest of two seconds' tries.
+std::pair<double, double> answerTimes(HWND toolbar) {
+  std::vector<double> times;
+  const ULONGLONG end = GetTickCount64() + 2'000;
+  LARGE_INTEGER frequency{};
+  QueryPerformanceFrequency(&frequency);
+  while (GetTickCount64() < end) {
+    LARGE_INTEGER start{};
+    LARGE_INTEGER stop{};
+    QueryPerformanceCounter(&start);
+    send(toolbar, WM_NULL);
+    QueryPerformanceCounter(&stop);
+    times.push_back(static_cast<double>(stop.QuadPart - start.QuadPart) * 1000.0 /
+                    static_cast<double>(frequency.QuadPart));
+    Sleep(5);
+  }
+  std::ranges::sort(times);
+  return {times.at(times.size() / 2), times.back()};
+}
+
+TEST_F(Capture, AWindowThatDoesNotAnswerHoldsNothingUp) {
+  const TextWindow window(L"Edit", 0, {300, 300, 500, 330}, L"database");
+  const TextWindow other(L"Edit", 0, {300, 400, 500, 430}, L"kernel");
+  {
+    const TextWindow::Busy busy(window);
+    input::moveTo({310, 308});
+    const auto [median, longest] = answerTimes(lexilo.toolbar());
+    EXPECT_LT(median, 50);
+    EXPECT_LT(longest, 1000);
+    EXPECT_FALSE(popup.isUp());
+    input::moveTo({310, 408});
+    (void)popup.waitFor(L"kernel");
+    input::moveTo(kAwayFromTexts);
+  }
+  popup.waitUntilClosed();
+}
+
+TEST_F(Capture, AStoppedProgramHoldsNothingUp) {
+  std::ofstream("build/program-to-be-stopped.txt") << "database kernel network";
+  const Notepad notepad(L"build\\program-to-be-stopped.txt");
+  notepad.place(kPage);
+  const POINT place = editPosition(notepad.edit(), 2);
+  {
+    const Stopped stopped("program-to-be-stopped");
+    input::moveTo({place.x + 3, place.y + 6});
+    const auto [median, longest] = answerTimes(lexilo.toolbar());
+    EXPECT_LT(median, 50);
+    EXPECT_LT(longest, 1000);
+    EXPECT_FALSE(popup.isUp());
+    lexilo.click(ToolbarButton::quickLookup);
+    const QuickLookup window(lexilo.process());
+    window.close();
+  }
+  // A window that was let alone for a while is asked again.
+  const auto moment = std::chrono::steady_clock::now();
+  input::moveTo(kAwayFromTexts);
+  waitFor(
+      "the program to be read again",
+      [&] {
+        input::moveTo(kAwayFromTexts);
+        restOn(notepad, 2);
+        return !popup.staysAway(400);
+      },
+      60'000);
+  RecordProperty("ms until read again",
+                 std::to_string(std::chrono::duration_cast<std::chrono::milliseconds>(
+                                    std::chrono::steady_clock::now() - moment)
+                                    .count()));
 }
 
 /// Rests the pointer on 200 words of a page and counts those whose popup names them.

@@ -5,6 +5,8 @@
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/lexilo.h"
+#include "tests/program/harness/meaning_popup.h"
+#include "tests/program/harness/notepad.h"
 #include "tests/program/harness/popup_menu.h"
 #include "tests/program/harness/screen.h"
 #include "tests/program/harness/settings.h"
@@ -94,6 +96,31 @@ TEST_F(Dpi144, WordsAreLookedUpByMouseAndKeys) {
   window.waitForHeadword(words.at(2));
   input::key(VK_DOWN);
   window.waitForHeadword(words.at(3));
+}
+
+TEST_F(Dpi144, ThePopupIsLargerAsWell) {
+  input::moveTo(kAwayFromTexts);
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  const Notepad notepad;
+  notepad.place({40, 120, 840, 720});
+  notepad.setText(L"The database holds a catalyst.");
+  const MeaningPopup popup(lexilo.process());
+  const POINT place = editPosition(notepad.edit(), 8);
+  input::moveTo({place.x + 4, place.y + 8});
+  (void)popup.waitFor(L"database");
+  POINT pointer{};
+  GetCursorPos(&pointer);
+  const RECT rect = rectOf(popup.window());
+  EXPECT_EQ(rect.left, pointer.x + 10);
+  EXPECT_EQ(rect.top, pointer.y + 10);
+  EXPECT_EQ(rect.right - rect.left, forms::toPixels(2500, kDpi));
+  EXPECT_EQ(rect.bottom - rect.top, forms::toPixels(900, kDpi));
+  saveScreenshot("build/shots/popup-144dpi.png");
+  input::moveTo({pointer.x + 5, pointer.y});
+  EXPECT_TRUE(neverWithin(200, [&] { return !popup.isUp(); }));
+  input::moveTo({pointer.x + 6, pointer.y});
+  popup.waitUntilClosed();
 }
 
 }  // namespace

@@ -4,8 +4,8 @@
 
 namespace harness {
 
-Notepad::Notepad()
-    : process_(L"C:\\windows\\system32\\notepad.exe"),
+Notepad::Notepad(const std::wstring& file)
+    : process_(L"C:\\windows\\system32\\notepad.exe", file),
       window_(waitForWindow({.process = process_.id(), .className = L"Notepad", .title = {}})),
       edit_(waitForChild(window_, L"Edit")) {
   waitFor("Notepad to come to the front", [&] { return GetForegroundWindow() == window_; });

@@ -10,8 +10,9 @@ namespace harness {
 /// The system's Notepad, as another program that users work in.
 class Notepad {
  public:
-  /// Starts it and waits until one can type into it and a user has seen it.
-  Notepad();
+  /// Starts it, with a file's text where `file` is not empty, and waits until one can type into it
+  /// and a user has seen it.
+  explicit Notepad(const std::wstring& file = L"");
 
   [[nodiscard]] HWND window() const { return window_; }
   [[nodiscard]] HWND edit() const { return edit_; }
