@@ -5,6 +5,7 @@
 #include "capture/frm_screen_word.h"
 #include "capture/frm_screen_word_meaning.h"
 #include "capture/screen_word.h"
+#include "tests/windows/support/capture_state.h"
 #include "tests/windows/support/dictionary.h"
 #include "tests/windows/support/plain_window.h"
 #include "tests/windows/support/strip_watch.h"
@@ -28,10 +29,7 @@ class CaptureTest : public WindowTest {
     return forms::isLoaded<frmScreenWordMeaning>() && IsWindowVisible(popup().handle()) != FALSE;
   }
 
-  static bool captureRuns() {
-    EXPECT_EQ(host().Timer1.enabled(), host().timScreenWord1.enabled());
-    return host().Timer1.enabled();
-  }
+  static bool captureRuns() { return captureTimersRun(); }
 
   /// Where the word at `index` of an edit control's text stands on the screen.
   static POINT wordPoint(HWND edit, int index) {

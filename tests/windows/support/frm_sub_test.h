@@ -7,6 +7,7 @@
 #include "lookup/frm_sub.h"
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/settings.h"
+#include "tests/windows/support/capture_state.h"
 #include "tests/windows/support/dictionary.h"
 #include "tests/windows/support/window_test.h"
 
@@ -69,12 +70,7 @@ class FrmSubTest : public WindowTest {
     return text;
   }
 
-  static bool captureRuns() {
-    const auto& host = forms::single<frmScreenWord>();
-    EXPECT_EQ(host.Timer1.enabled(), host.timScreenWord1.enabled());
-    EXPECT_EQ(host.Timer1.enabled(), host.timScreenWord2.enabled());
-    return host.Timer1.enabled();
-  }
+  static bool captureRuns() { return captureTimersRun(); }
 
   /// The middle of a list entry, counted from 1, on the screen.
   static POINT nodePoint(int number) {

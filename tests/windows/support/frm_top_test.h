@@ -4,6 +4,7 @@
 #include "app/frm_top.h"
 #include "app/state.h"
 #include "capture/frm_screen_word.h"
+#include "tests/windows/support/capture_state.h"
 #include "tests/windows/support/dictionary.h"
 #include "tests/windows/support/open_menu.h"
 #include "tests/windows/support/window_test.h"
@@ -32,11 +33,7 @@ class FrmTopTest : public WindowTest {
     return form;
   }
 
-  static bool captureRuns() {
-    EXPECT_EQ(host().Timer1.enabled(), host().timScreenWord1.enabled());
-    EXPECT_EQ(host().Timer1.enabled(), host().timScreenWord2.enabled());
-    return host().Timer1.enabled();
-  }
+  static bool captureRuns() { return captureTimersRun(); }
 
   /// Whether the menu's item 鼠标取词 has its check mark.
   static bool menuChecked() {
