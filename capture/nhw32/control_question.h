@@ -13,6 +13,15 @@ Answer answerOfControl(const Question& question,
                        const std::function<std::optional<PlacedWord>(
                            const TargetWindow& target, ScreenPoint clientPoint)>& read);
 
+/// The same for a control whose text `Text` reads, made from the TargetWindow.
+template <class Text>
+Answer answerOfControlAs(const Question& question) {
+  return answerOfControl(question, [](const TargetWindow& target, ScreenPoint clientPoint) {
+    Text text(target);
+    return wordUnder(text, clientPoint);
+  });
+}
+
 /// The height of the caret where it stands in this window: that of a line of a text control.
 std::optional<int> caretHeight(HWND window);
 

@@ -37,9 +37,11 @@ class EditText : public ControlText {
       const auto length =
           number(target_.ask(WM_GETTEXT, capacity, reinterpret_cast<LPARAM>(buffer.get())));
       return {{buffer.get(), buffer.get() + std::min(length, capacity - 1)}, 0};
-    } catch (const NoAnswer&) {
-      // A control of our own program may yet write into the memory that it was given.
-      static_cast<void>(buffer.release());
+    } catch (const NoAnswer& silence) {
+      // A late control of our own program may yet write into the memory that it was given.
+      if (silence.outcome() == Outcome::outOfTime && target_.isOurs()) {
+        static_cast<void>(buffer.release());
+      }
       throw;
     }
   }
@@ -73,10 +75,7 @@ class EditText : public ControlText {
 }  // namespace
 
 Answer EditProvider::wordAt(const Question& question) {
-  return answerOfControl(question, [](const TargetWindow& target, ScreenPoint point) {
-    EditText text(target);
-    return wordUnder(text, point);
-  });
+  return answerOfControlAs<EditText>(question);
 }
 
 }  // namespace nhw32

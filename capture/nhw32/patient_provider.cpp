@@ -4,7 +4,7 @@ namespace nhw32 {
 
 Answer PatientProvider::wordAt(const Question& question) {
   if (!patience_.mayAsk(question.window, clock_())) return {};
-  const Answer answer = provider_->wordAt(question);
+  Answer answer = provider_->wordAt(question);
   patience_.note(question.window, answer.outcome, clock_());
   return answer;
 }

@@ -121,10 +121,7 @@ class RichEditText : public ControlText {
 }  // namespace
 
 Answer RichEditProvider::wordAt(const Question& question) {
-  return answerOfControl(question, [](const TargetWindow& target, ScreenPoint point) {
-    RichEditText text(target);
-    return wordUnder(text, point);
-  });
+  return answerOfControlAs<RichEditText>(question);
 }
 
 }  // namespace nhw32

@@ -23,6 +23,12 @@ DWORD TargetWindow::style() const {
   return static_cast<DWORD>(GetWindowLongPtrW(window_, GWL_STYLE));
 }
 
+bool TargetWindow::isOurs() const {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window_, &process);
+  return process == GetCurrentProcessId();
+}
+
 LRESULT TargetWindow::ask(UINT message, WPARAM wParam, LPARAM lParam) const {
   const auto left =
       std::chrono::ceil<std::chrono::milliseconds>(deadline_ - std::chrono::steady_clock::now());

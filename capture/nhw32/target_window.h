@@ -33,6 +33,8 @@ class TargetWindow {
   [[nodiscard]] HWND handle() const { return window_; }
   [[nodiscard]] bool visible() const { return IsWindowVisible(window_) != FALSE; }
   [[nodiscard]] DWORD style() const;
+  /// Whether it belongs to our own program.
+  [[nodiscard]] bool isOurs() const;
 
   /// Sends a message and returns the answer. Throws NoAnswer where there is none in time.
   [[nodiscard]] LRESULT ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
