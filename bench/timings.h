@@ -1,6 +1,8 @@
 #pragma once
 
 #include <chrono>
+#include <initializer_list>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -10,7 +12,9 @@ namespace bench {
 /// How long repeated runs of one piece of work took.
 class Timings {
  public:
-  explicit Timings(std::string name) : name_(std::move(name)) {}
+  /// `aim` is what the median is to stay below, in ms.
+  explicit Timings(std::string name, std::optional<double> aim = {})
+      : name_(std::move(name)), aim_(aim) {}
 
   /// Runs `work` once and keeps its time.
   template <typename Work>
@@ -19,7 +23,14 @@ class Timings {
     return work();
   }
 
-  /// Writes one line of a table: name, number of runs, median, 99th percentile and longest in ms.
+  [[nodiscard]] const std::string& name() const { return name_; }
+  /// The median in ms; 0 without runs.
+  [[nodiscard]] double median() const { return at(0.5); }
+  /// Whether there is an aim that the median does not keep to.
+  [[nodiscard]] bool missed() const { return aim_ && median() > *aim_; }
+
+  /// Writes one line of a table: name, number of runs, median, 99th percentile and longest in ms,
+  /// and the aim.
   void print() const;
   static void printHeading(const char* title);
 
@@ -40,8 +51,15 @@ class Timings {
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
   };
 
+  [[nodiscard]] double at(double share) const;
+
   std::string name_;
+  std::optional<double> aim_;
   std::vector<double> milliseconds_;
 };
+
+/// Writes the lines of a piece of work and of its parts; where the work misses its aim, also which
+/// part takes most.
+void printWithParts(const Timings& whole, std::initializer_list<const Timings*> parts);
 
 }  // namespace bench

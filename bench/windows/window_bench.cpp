@@ -1,10 +1,10 @@
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "app/state.h"
+#include "bench/timings.h"
 #include "data/data_control.h"
 #include "forms/dispatcher.h"
 #include "forms/registry.h"
@@ -13,6 +13,8 @@
 /// What a keystroke costs in the quick lookup window, until its list and pane are painted; beside
 /// it the same letter in a bare text box, which is what the system's own echo takes.
 namespace {
+
+using bench::Timings;
 
 /// A window with nothing but a text box.
 class EchoForm : public forms::Form {
@@ -30,33 +32,63 @@ class EchoForm : public forms::Form {
   }
 };
 
-double milliseconds() {
-  LARGE_INTEGER now;
-  LARGE_INTEGER frequency;
-  QueryPerformanceCounter(&now);
-  QueryPerformanceFrequency(&frequency);
-  return 1000.0 * static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
+/// What a keystroke may take until list and pane are painted, at the median, in ms.
+constexpr double kPaintedAim = 10;
 
-/// Types one letter into `box` and paints what it changed in `windows`.
-double typeLetter(const forms::TextBox& box, char16_t letter, const std::vector<HWND>& windows) {
-  const double start = milliseconds();
-  SendMessageW(box.handle(), WM_CHAR, letter, 0);
-  for (HWND window : windows) UpdateWindow(window);
+/// The steps of one keystroke, each with its times.
+struct Keystroke {
+  explicit Keystroke(const std::string& what)
+      : whole(what + ", list and pane painted", kPaintedAim) {}
+
+  void print() const { bench::printWithParts(whole, {&lookup, &box, &list, &pane}); }
+
+  Timings whole;
+  Timings lookup{"  looking it up and filling list and pane"};
+  Timings box{"  painting the input box"};
+  Timings list{"  painting the list"};
+  Timings pane{"  painting the pane"};
+};
+
+void paint(const forms::Widget& widget) {
+  UpdateWindow(widget.handle());
   GdiFlush();
-  return milliseconds() - start;
 }
 
-std::vector<double> typeWords(forms::TextBox& box, const std::vector<std::u16string>& words,
-                              const std::vector<HWND>& windows) {
-  std::vector<double> times;
+void sendLetter(const forms::TextBox& box, char16_t letter) {
+  SendMessageW(box.handle(), WM_CHAR, letter, 0);
+}
+
+/// Types one letter into the quick lookup window and paints what it changed.
+void typeLetter(const frmSub& form, char16_t letter, Keystroke& times) {
+  times.whole.time([&] {
+    times.lookup.time([&] { sendLetter(form.txtInput, letter); });
+    times.box.time([&] { paint(form.txtInput); });
+    times.list.time([&] { paint(form.TreeView1); });
+    times.pane.time([&] { paint(form.txtOut); });
+  });
+}
+
+/// Empties `box` for each word and hands its letters to `type`.
+template <typename Type>
+void typeWords(forms::TextBox& box, const std::vector<std::u16string>& words, Type type) {
   for (const std::u16string& word : words) {
     box.setText({});
     forms::doEvents();
-    for (const char16_t letter : word) times.push_back(typeLetter(box, letter, windows));
+    for (const char16_t letter : word) type(letter);
   }
-  std::sort(times.begin(), times.end());
-  return times;
+}
+
+void typeEcho(EchoForm& echo, const std::vector<std::u16string>& words, Timings& times) {
+  typeWords(echo.box, words, [&](char16_t letter) {
+    times.time([&] {
+      sendLetter(echo.box, letter);
+      paint(echo.box);
+    });
+  });
+}
+
+void typeLookup(frmSub& form, const std::vector<std::u16string>& words, Keystroke& times) {
+  typeWords(form.txtInput, words, [&](char16_t letter) { typeLetter(form, letter, times); });
 }
 
 /// `count` headwords spread evenly over `table`.
@@ -76,12 +108,6 @@ std::vector<std::u16string> sampleWords(const char16_t* table, int count) {
   return words;
 }
 
-void printRow(const char* what, const std::vector<double>& sorted) {
-  if (sorted.empty()) return;
-  std::printf("%-44s %8zu %10.2f %10.2f\n", what, sorted.size(), sorted[sorted.size() / 2],
-              sorted[sorted.size() * 99 / 100]);
-}
-
 int run(const std::u16string& database) {
   user::ConnectionString =
       u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + database + u";Persist Security Info=False";
@@ -91,26 +117,28 @@ int run(const std::u16string& database) {
   const auto english = sampleWords(u"edictidx", 200);
   const auto chinese = sampleWords(u"cdictidx", 300);
 
+  Timings echoEnglish("English letter, a bare text box");
+  Timings echoChinese("Chinese character, a bare text box");
   auto& echo = forms::single<EchoForm>();
   echo.show();
   forms::doEvents();
-  const auto echoEnglish = typeWords(echo.box, english, {echo.box.handle()});
-  const auto echoChinese = typeWords(echo.box, chinese, {echo.box.handle()});
+  typeEcho(echo, english, echoEnglish);
+  typeEcho(echo, chinese, echoChinese);
   echo.hide();
 
+  Keystroke lookupEnglish("English letter");
+  Keystroke lookupChinese("Chinese character");
   auto& form = forms::single<frmSub>();
   form.show();
   forms::doEvents();
-  const std::vector<HWND> painted{form.txtInput.handle(), form.TreeView1.handle(),
-                                  form.txtOut.handle()};
-  const auto lookupEnglish = typeWords(form.txtInput, english, painted);
-  const auto lookupChinese = typeWords(form.txtInput, chinese, painted);
+  typeLookup(form, english, lookupEnglish);
+  typeLookup(form, chinese, lookupChinese);
 
-  std::printf("%-44s %8s %10s %10s\n", "keystroke to painted, ms", "strokes", "median", "99 %");
-  printRow("English letter, list and pane painted", lookupEnglish);
-  printRow("the same letter, a bare text box", echoEnglish);
-  printRow("Chinese character, list and pane painted", lookupChinese);
-  printRow("the same character, a bare text box", echoChinese);
+  Timings::printHeading("Keystroke to painted, ms");
+  lookupEnglish.print();
+  echoEnglish.print();
+  lookupChinese.print();
+  echoChinese.print();
   return 0;
 }
 
