@@ -27,13 +27,13 @@ struct AutomationInterface : IUnknown {
 template <class Base, int first, int last>
 struct Skip : Skip<Base, first, last - 1> {
   using Skip<Base, first, last - 1>::skipped;
-  virtual HRESULT STDMETHODCALLTYPE skipped(Slot<last>) { return E_NOTIMPL; }
+  virtual HRESULT STDMETHODCALLTYPE skipped(Slot<last> /*slot*/) { return E_NOTIMPL; }
 };
 
 template <class Base, int slot>
 struct Skip<Base, slot, slot> : Base {
   using Base::skipped;
-  virtual HRESULT STDMETHODCALLTYPE skipped(Slot<slot>) { return E_NOTIMPL; }
+  virtual HRESULT STDMETHODCALLTYPE skipped(Slot<slot> /*slot*/) { return E_NOTIMPL; }
 };
 
 enum class TextUnit : int { character = 0 };

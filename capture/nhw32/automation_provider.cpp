@@ -59,7 +59,7 @@ class AutomationProvider : public TextProvider {
   }
 
   Answer ask(const Question& question) {
-    const auto window = reinterpret_cast<HWND>(question.window);
+    auto* const window = reinterpret_cast<HWND>(question.window);
     if (!IsWindowVisible(window)) return {};
     AutomationCalls calls(system_.now);
     const auto pattern = textPatternAt(*client_.get(), question, calls);

@@ -80,11 +80,11 @@ class Reader {
   /// The text between the cell's start and a place before it, or its end and one behind it.
   std::optional<std::u16string> textBeside(TextEnd side) {
     const bool before = side == TextEnd::start;
-    const TextEnd other = before ? TextEnd::end : TextEnd::start;
+    const TextEnd held = before ? TextEnd::end : TextEnd::start;
     const auto range = copyOfCell();
     int moved = 0;
     if (!range ||
-        !calls_.make([&] { return range->MoveEndpointByRange(other, cell_.get(), side); }) ||
+        !calls_.make([&] { return range->MoveEndpointByRange(held, cell_.get(), side); }) ||
         !calls_.make([&] {
           return range->MoveEndpointByUnit(side, TextUnit::character, before ? -kReach : kReach,
                                            &moved);
