@@ -1,4 +1,7 @@
 #include <gtest/gtest.h>
+#include <windows.h>
+
+#include <richedit.h>
 
 #include <algorithm>
 #include <atomic>
@@ -25,11 +28,14 @@ constexpr milliseconds kQuestionTime{200 + 150};
 /// A control whose thread can be made to hang in its messages.
 class Hanging {
  public:
-  explicit Hanging(std::wstring className = L"EDIT")
+  /// In all messages or only in `message`.
+  explicit Hanging(std::wstring className = L"EDIT", UINT message = WM_NULL)
       : target_({.className = std::move(className),
                  .hook =
-                     [this](HWND, UINT, WPARAM, LPARAM) {
-                       while (hangs_) Sleep(1);
+                     [this, message](HWND, UINT sent, WPARAM, LPARAM structure) {
+                       const bool late = hangs_ && message == sent;
+                       while (hangs_ && (message == WM_NULL || message == sent)) Sleep(1);
+                       if (late && !committed(structure)) ++lost_;
                        return std::optional<LRESULT>();
                      }},
                 u"stubborn words") {
@@ -40,11 +46,20 @@ class Hanging {
   Hanging& operator=(const Hanging&) = delete;
 
   void hang(bool hangs) { hangs_ = hangs; }
+  /// How often the memory that `message` was given was gone when its time came.
+  [[nodiscard]] int lost() const { return lost_; }
   [[nodiscard]] POINT place() const { return place_; }
   [[nodiscard]] nhw32::Question question() const { return questionAt(target_.control(), place_); }
 
  private:
+  static bool committed(LPARAM address) {
+    MEMORY_BASIC_INFORMATION memory{};
+    VirtualQuery(reinterpret_cast<const void*>(address), &memory, sizeof memory);
+    return memory.State == MEM_COMMIT;
+  }
+
   std::atomic<bool> hangs_ = false;
+  std::atomic<int> lost_ = 0;
   TextTarget target_;
   POINT place_{};
 };
@@ -74,6 +89,21 @@ TEST_F(Nhw32Hanging, AQuestionEndsInTimeAndTheWindowIsLeftAloneForAWhile) {
     target.hang(false);
     EXPECT_EQ(router->wordAt(target.question()).outcome, nhw32::Outcome::none);
     EXPECT_EQ(answerTo(target.question()).word.text, u"stubborn");
+  }
+}
+
+TEST_F(Nhw32Hanging, AControlThatTakesItsTimeMayStillUseTheMemoryItWasGiven) {
+  for (const auto& [className, message] :
+       {std::pair(L"EDIT", UINT{WM_GETTEXT}), std::pair(L"RichEdit20W", UINT{EM_CHARFROMPOS}),
+        std::pair(L"RichEdit20W", UINT{EM_GETTEXTRANGE})}) {
+    Hanging target(className, message);
+    for (int round = 0; round < 3; ++round) {
+      target.hang(true);
+      EXPECT_EQ(nhw32::makeRouter()->wordAt(target.question()).outcome, nhw32::Outcome::outOfTime);
+      target.hang(false);
+      EXPECT_EQ(answerTo(target.question()).word.text, u"stubborn");
+    }
+    EXPECT_EQ(target.lost(), 0);
   }
 }
 
