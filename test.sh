@@ -70,7 +70,7 @@ if wanted wine-unit windows program dpi144; then
 fi
 
 wanted wine-unit && run_gtest wine-unit 180 wine build/windows/bin/unit_tests.exe
-wanted windows && run_gtest windows 120 wine build/windows/bin/windows/window_tests.exe
+wanted windows && run_gtest windows 300 wine build/windows/bin/windows/window_tests.exe
 
 if wanted program dpi144; then
   ensure_full_database
