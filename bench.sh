@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Measures how fast Lexilo looks words up on the full dictionary, and prints a table.
+# Measures how fast Lexilo is on the full dictionary, and prints tables.
 #
-#   ./bench.sh          both halves
+#   ./bench.sh          all parts
 #   ./bench.sh native   only the lookups, natively, without windows
 #   ./bench.sh painted  only from keystroke to painted list and pane, under Wine
+#   ./bench.sh capture  only from resting the pointer on a word to the popup, under Wine
 #
 # Other work on the machine shows in the figures.
 set -euo pipefail
@@ -12,13 +13,20 @@ set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/scripts/setup.sh"
 cd "$LEXILO_ROOT"
 
-halves=("${@:-native painted}")
-[[ "${halves[*]}" =~ ^(native|painted|native painted)$ ]] ||
-  fail "'${halves[*]}' is neither 'native' nor 'painted'."
+all_parts=(native painted capture)
+parts=("${@:-${all_parts[@]}}")
+for part in "${parts[@]}"; do
+  [[ " ${all_parts[*]} " == *" $part "* ]] ||
+    fail "there is no part '$part'; the parts are: ${all_parts[*]}."
+done
 
-# measured HALF: whether it is wanted.
+# measured PART...: whether one of these is wanted.
 measured() {
-  [[ " ${halves[*]} " == *" $1 "* ]]
+  local part
+  for part in "$@"; do
+    [[ " ${parts[*]} " == *" $part "* ]] && return
+  done
+  return 1
 }
 
 trap 'stop_wine; stop_display' EXIT
@@ -33,11 +41,17 @@ if measured native; then
   build/tools/bin/lookup_bench build/kk.dat
 fi
 
-if measured painted; then
-  build windows window_bench
+if measured painted capture; then
+  build windows window_bench capture_bench lexilo
+  assemble_app
   start_display
   start_wine "$(fresh_prefix bench)"
   say "Under Wine on a virtual display:"
-  # The pipe keeps Wine from taking the terminal for a console of its own.
+fi
+# The pipe keeps Wine from taking the terminal for a console of its own.
+if measured painted; then
   wine build/windows/bin/window_bench.exe build/kk.dat 2>&1 </dev/null | cat
+fi
+if measured capture; then
+  wine build/windows/bin/capture_bench.exe 2>&1 </dev/null | cat
 fi
