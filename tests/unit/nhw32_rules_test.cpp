@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <array>
+#include <algorithm>
 #include <map>
 
 #include "capture/nhw32/ansi_word.h"
@@ -28,8 +28,9 @@ TEST(EditIndex, IsTheFirstFromTheBaseThatEndsInTheBits) {
 }
 
 std::vector<int> numbers(const std::vector<std::byte>& bytes) {
-  std::vector<int> numbers;
-  for (const std::byte byte : bytes) numbers.push_back(std::to_integer<int>(byte));
+  std::vector<int> numbers(bytes.size());
+  std::ranges::transform(bytes, numbers.begin(),
+                         [](std::byte byte) { return std::to_integer<int>(byte); });
   return numbers;
 }
 

@@ -23,7 +23,7 @@ std::filesystem::path pathOf(const std::string& mark) {
 
 /// An empty file for the program to open, named after the mark.
 std::wstring fileFor(const std::string& mark) {
-  std::ofstream{pathOf(mark)};
+  std::ofstream(pathOf(mark)).flush();
   return pathOf(mark).wstring();
 }
 
