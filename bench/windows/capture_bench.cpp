@@ -61,9 +61,9 @@ void measure() {
   }
   std::ranges::sort(times);
   const double median = times[times.size() / 2];
-  std::printf("pointer at rest to popup, ms:  median %.0f  90 %% %.0f  longest %.0f  (aim %.0f: %s)\n",
-              median, times[times.size() * 9 / 10], times.back(), kAim,
-              median <= kAim ? "met" : "missed");
+  std::printf(
+      "pointer at rest to popup, ms:  median %.0f  90 %% %.0f  longest %.0f  (aim %.0f: %s)\n",
+      median, times[times.size() * 9 / 10], times.back(), kAim, median <= kAim ? "met" : "missed");
 }
 
 }  // namespace

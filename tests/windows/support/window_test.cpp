@@ -40,6 +40,8 @@ void unloadAll() {
     found.front()->unload();
   }
   forms::doEvents();
+  // Their objects too: one that is kept keeps its database open.
+  forms::Registry::instance().purge();
 }
 
 WindowTest::WindowTest()
