@@ -10,7 +10,7 @@ Monitor describe(HMONITOR monitor) {
   UINT dpiX = 96;
   UINT dpiY = 96;
   GetDpiForMonitor(monitor, MDT_EFFECTIVE_DPI, &dpiX, &dpiY);
-  return {info.rcMonitor, static_cast<int>(dpiX)};
+  return {info.rcMonitor, info.rcWork, static_cast<int>(dpiX)};
 }
 
 }  // namespace

@@ -7,6 +7,7 @@ namespace forms {
 /// A monitor's place and resolution.
 struct Monitor {
   RECT bounds{};  ///< screen pixels
+  RECT work{};    ///< what the taskbar leaves of them
   int dpi = 96;
 };
 

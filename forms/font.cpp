@@ -21,6 +21,7 @@ LOGFONTW namedFont(const Font& font, int dpi) {
   description.lfHeight = -static_cast<LONG>(std::lround(font.points * dpi / kPointsPerInch));
   description.lfWeight = FW_NORMAL;
   description.lfCharSet = DEFAULT_CHARSET;
+  if (font.fixedPitch) description.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
   const auto length = std::min(font.face.size(), std::size_t{LF_FACESIZE - 1});
   std::copy_n(font.face.begin(), length, description.lfFaceName);
   return description;

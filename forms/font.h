@@ -11,6 +11,7 @@ namespace forms {
 struct Font {
   std::u16string face;
   double points = 9;
+  bool fixedPitch = false;  ///< where the face is missing, one of fixed pitch takes its place
 };
 
 /// The system's font of `font` for `dpi`. Throws std::runtime_error.

@@ -168,6 +168,20 @@ void Form::setPosition(int left, int top) {
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void Form::centre(const Form* other) {
+  const RECT work = monitorOf(other == nullptr ? handle_ : other->handle_).work;
+  RECT over = work;
+  if (other != nullptr) GetWindowRect(other->handle_, &over);
+  RECT own{};
+  GetWindowRect(handle_, &own);
+  const LONG width = std::min(own.right - own.left, work.right - work.left);
+  const LONG height = std::min(own.bottom - own.top, work.bottom - work.top);
+  const LONG left = std::clamp((over.left + over.right - width) / 2, work.left, work.right - width);
+  const LONG top =
+      std::clamp((over.top + over.bottom - height) / 2, work.top, work.bottom - height);
+  SetWindowPos(handle_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void Form::setMousePointer(const wchar_t* systemCursor) {
   HCURSOR pointer = systemCursor == nullptr ? nullptr : LoadCursorW(nullptr, systemCursor);
   if (std::exchange(mousePointer_, pointer) == pointer) return;

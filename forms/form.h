@@ -21,6 +21,8 @@ struct FormDesign {
   Frame frame = Frame::sizable;
   int width = 0;
   int height = 0;
+  int leastWidth = 0;  ///< the user cannot make a sizable form smaller
+  int leastHeight = 0;
   bool topmost = false;      ///< raising it never takes the focus
   bool neverActive = false;  ///< no focus, no taskbar button, no place in Alt+Tab
   bool taskbarButton = true;
@@ -61,6 +63,9 @@ class Form {
   [[nodiscard]] int left() const;
   [[nodiscard]] int top() const;
   void setPosition(int left, int top);
+  /// Puts the form into the middle of `other`, or of its monitor, so that all of it lies on the
+  /// monitor's work area; one that is too large for that is made smaller.
+  void centre(const Form* other = nullptr);
   [[nodiscard]] bool isMinimised() const { return IsIconic(handle_) != FALSE; }
 
   /// The pointer's shape over the whole form; nullptr is each widget's own.
@@ -89,6 +94,9 @@ class Form {
   void raisePaint() noexcept;
 
   Event<Place> onMouseMove;
+  /// Enter and Esc, where the widget with the focus has no use for them itself.
+  Event<> onEnter;
+  Event<> onEscape;
 
  protected:
   virtual void Form_Load() {}
@@ -110,6 +118,7 @@ class Form {
   void paint();
   void giveFocusBack();
   void rescale(int dpi, const RECT& suggested);
+  void command(WORD code, HWND control, WORD id);
   bool passToGrabber(UINT message, WPARAM wParam, LPARAM lParam);
   void limitTracking(MINMAXINFO& limits) const;
   void adjustPlacement(WINDOWPOS& position) const;

@@ -91,10 +91,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       onMouseMove.raise({toTwips(GET_X_LPARAM(lParam), dpi_), toTwips(GET_Y_LPARAM(lParam), dpi_)});
       return 0;
     case WM_COMMAND:
-      if (Widget* widget = Widget::of(reinterpret_cast<HWND>(lParam))) {
-        settleFocus();
-        widget->command(HIWORD(wParam));
-      }
+      command(HIWORD(wParam), reinterpret_cast<HWND>(lParam), LOWORD(wParam));
       return 0;
     case WM_NOTIFY: {
       const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
@@ -114,6 +111,17 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
   }
   return DefWindowProcW(handle_, message, wParam, lParam);
+}
+
+void Form::command(WORD code, HWND control, WORD id) {
+  settleFocus();
+  if (Widget* widget = Widget::of(control)) {
+    widget->command(code);
+    return;
+  }
+  // What the keyboard handling of dialogs makes of these two keys.
+  if (id == IDOK) onEnter.raise();
+  if (id == IDCANCEL) onEscape.raise();
 }
 
 bool Form::passToGrabber(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -183,6 +191,9 @@ void Form::limitTracking(MINMAXINFO& limits) const {
   limits.ptMaxTrackSize = {largest.cx, largest.cy};
   limits.ptMaxSize = {std::min(limits.ptMaxSize.x, largest.cx),
                       std::min(limits.ptMaxSize.y, largest.cy)};
+  if (design_.leastWidth == 0) return;
+  const SIZE least = outerPixels(design_.leastWidth, design_.leastHeight);
+  limits.ptMinTrackSize = {least.cx, least.cy};
 }
 
 void Form::rescale(int dpi, const RECT& suggested) {

@@ -17,6 +17,14 @@ int& runningHandlers() {
   return count;
 }
 
+/// A description may quote all that was typed; a message box has to fit the screen.
+std::u16string shortened(std::u16string text) {
+  constexpr std::size_t kLongest = 300;
+  if (text.size() <= kLongest) return text;
+  text.resize(kLongest);
+  return text + u"…";
+}
+
 }  // namespace
 
 HandlerRunning::HandlerRunning() { ++runningHandlers(); }
@@ -39,7 +47,7 @@ void reportUncaught(const std::exception_ptr& error) noexcept {
   if (boxIsUp()) return;
   boxIsUp() = true;
   try {
-    showMessage(describe(error), MessageIcon::critical);
+    showMessage(shortened(describe(error)), MessageIcon::critical);
   } catch (...) {
     // Not even memory for the text: the program goes on, which is all that is asked here.
     MessageBeep(MB_ICONERROR);

@@ -37,12 +37,14 @@ class Owned {
 
 inline void closeFont(HFONT font) { DeleteObject(font); }
 inline void closeIcon(HICON icon) { DestroyIcon(icon); }
+inline void closeImageList(HIMAGELIST list) { ImageList_Destroy(list); }
 inline void closeMenu(HMENU menu) { DestroyMenu(menu); }
 inline void freeMemory(HGLOBAL memory) { GlobalFree(memory); }
 inline void closeKernelObject(HANDLE object) { CloseHandle(object); }
 
 using OwnedFont = Owned<HFONT, closeFont>;
 using OwnedIcon = Owned<HICON, closeIcon>;
+using OwnedImageList = Owned<HIMAGELIST, closeImageList>;
 using OwnedMenu = Owned<HMENU, closeMenu>;
 using OwnedMemory = Owned<HGLOBAL, freeMemory>;
 using OwnedKernelObject = Owned<HANDLE, closeKernelObject>;

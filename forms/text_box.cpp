@@ -3,9 +3,16 @@
 #include "forms/window_text.h"
 
 namespace forms {
+namespace {
 
-TextBox::TextBox(Form& form, const WidgetBox& box)
-    : Widget(form, {L"EDIT", ES_AUTOHSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE}, box) {}
+DWORD styleOf(TextBox::Look look) {
+  return look == TextBox::Look::line ? ES_AUTOHSCROLL : ES_MULTILINE | ES_READONLY;
+}
+
+}  // namespace
+
+TextBox::TextBox(Form& form, const WidgetBox& box, Look look)
+    : Widget(form, {L"EDIT", styleOf(look) | WS_TABSTOP, WS_EX_CLIENTEDGE}, box), look_(look) {}
 
 std::u16string TextBox::text() const { return windowText(handle()); }
 
@@ -22,7 +29,11 @@ LRESULT TextBox::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     send(EM_SETSEL, 0, -1);
     return 0;
   }
-  return Widget::handleMessage(message, wParam, lParam);
+  const LRESULT result = Widget::handleMessage(message, wParam, lParam);
+  // A box of several lines would keep Tab, Enter and Esc for itself.
+  constexpr LRESULT kKeysOfTyping = DLGC_WANTALLKEYS | DLGC_WANTTAB;
+  const bool note = message == WM_GETDLGCODE && look_ == Look::note;
+  return note ? result & ~kKeysOfTyping : result;
 }
 
 }  // namespace forms

@@ -4,10 +4,15 @@
 
 namespace forms {
 
-/// A single line of text to type into.
+/// A single line of text to type into, or a note of several lines to read.
 class TextBox : public Widget {
  public:
-  TextBox(Form& form, const WidgetBox& box);
+  enum class Look {
+    line,
+    note,  ///< wraps its text and cannot be typed into
+  };
+
+  TextBox(Form& form, const WidgetBox& box, Look look = Look::line);
 
   [[nodiscard]] std::u16string text() const;
   /// Raises onChange like typing does.
@@ -19,6 +24,9 @@ class TextBox : public Widget {
 
  protected:
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  Look look_;
 };
 
 }  // namespace forms

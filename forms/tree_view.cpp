@@ -2,35 +2,62 @@
 
 #include <algorithm>
 
-namespace forms {
+#include "forms/form.h"
+#include "forms/geometry.h"
 
-TreeView::TreeView(Form& form, const WidgetBox& box)
-    : Widget(
-          form,
-          {WC_TREEVIEWW,
-           TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_FULLROWSELECT | TVS_NOHSCROLL | WS_TABSTOP,
-           WS_EX_CLIENTEDGE},
-          box) {
-  onKeyDown[VK_RETURN] = [this] {
-    if (const std::size_t node = selected(); node != 0) onNodeClick.raise(node);
-  };
+namespace forms {
+namespace {
+
+constexpr int kPictureTwips = 240;  // 16 pixels at 96 dpi
+
+}  // namespace
+
+TreeView::TreeView(Form& form, const WidgetBox& box) : TreeView(form, box, TVS_NOHSCROLL) {}
+
+TreeView::TreeView(Form& form, const WidgetBox& box, DWORD scrolling)
+    : Widget(form,
+             {WC_TREEVIEWW,
+              TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_FULLROWSELECT | WS_TABSTOP | scrolling,
+              WS_EX_CLIENTEDGE},
+             box) {
+  onKeyDown[VK_RETURN] = [this] { raiseChoice(); };
 }
 
 void TreeView::add(const std::u16string& text) {
+  nodes_.push_back({nullptr, text});
+  nodes_.back().item = insert(nodes_.size(), TVI_LAST);
+}
+
+HTREEITEM TreeView::insert(std::size_t number, HTREEITEM after) {
   TVINSERTSTRUCTW insert{};
   insert.hParent = TVI_ROOT;
-  insert.hInsertAfter = TVI_LAST;
+  insert.hInsertAfter = after;
   insert.item.mask = TVIF_TEXT;
   insert.item.pszText = LPSTR_TEXTCALLBACKW;
-  nodes_.push_back({nullptr, text});
-  nodes_.back().item =
-      reinterpret_cast<HTREEITEM>(send(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
+  inserting_ = number;
+  const LRESULT item = send(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert));
+  inserting_ = 0;
+  return reinterpret_cast<HTREEITEM>(item);
+}
+
+void TreeView::measureAgain(std::size_t number) {
+  const HTREEITEM old = nodes_.at(number - 1).item;
+  const bool wasSelected = selected() == number;
+  const HTREEITEM item = insert(number, number == 1 ? TVI_FIRST : nodes_[number - 2].item);
+  nodes_[number - 1].item = item;
+  if (wasSelected) send(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
+  send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(old));
 }
 
 void TreeView::remove(std::size_t number) {
   const HTREEITEM item = nodes_.at(number - 1).item;
   nodes_.erase(nodes_.begin() + static_cast<std::ptrdiff_t>(number) - 1);
   send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(item));
+}
+
+void TreeView::clear() {
+  nodes_.clear();
+  send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
 }
 
 void TreeView::setText(std::size_t number, const std::u16string& text) {
@@ -51,6 +78,39 @@ std::size_t TreeView::selected() const {
   return numberOf(reinterpret_cast<HTREEITEM>(send(TVM_GETNEXTITEM, TVGN_CARET)));
 }
 
+void TreeView::deselect() {
+  send(TVM_SELECTITEM, TVGN_CARET, 0);
+  send(WM_VSCROLL, SB_TOP);
+  send(WM_HSCROLL, SB_LEFT);
+}
+
+void TreeView::setPicture(const Picture& picture) {
+  picture_ = picture;
+  showPicture();
+}
+
+void TreeView::showPicture() {
+  const int size = toPixels(kPictureTwips, form().dpi());
+  OwnedImageList made(ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, 1, 0));
+  if (HICON icon = picture_.icon(size)) ImageList_AddIcon(made.get(), icon);
+  send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(made.get()));
+  pictures_ = std::move(made);
+}
+
+void TreeView::rescale() {
+  Widget::rescale();
+  if (picture_ != Picture{}) showPicture();
+}
+
+void TreeView::chooseOnlyExpressly() {
+  highlightChooses_ = false;
+  onKeyDown[VK_SPACE] = [this] { raiseChoice(); };
+}
+
+void TreeView::raiseChoice() {
+  if (const std::size_t node = selected(); node != 0) onNodeClick.raise(node);
+}
+
 void TreeView::refresh() { RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE); }
 
 std::size_t TreeView::numberOf(HTREEITEM item) const {
@@ -60,40 +120,66 @@ std::size_t TreeView::numberOf(HTREEITEM item) const {
   return found == nodes_.end() ? 0 : static_cast<std::size_t>(found - nodes_.begin()) + 1;
 }
 
+LRESULT TreeView::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  constexpr WPARAM kCtrlC = 3;
+  if (message == WM_CHAR && wParam == kCtrlC && onCopy) {
+    if (const std::size_t node = selected(); node != 0) onCopy.raise(node);
+    return 0;
+  }
+  return Widget::handleMessage(message, wParam, lParam);
+}
+
 LRESULT TreeView::notify(const NMHDR& header) {
   switch (header.code) {
     case TVN_GETDISPINFOW:
       giveText(const_cast<NMTVDISPINFOW&>(reinterpret_cast<const NMTVDISPINFOW&>(header)));
       break;
     case NM_CLICK:
-      clicked();
-      break;
+      return clicked() ? TRUE : FALSE;
     case TVN_SELCHANGEDW: {
       const auto& change = reinterpret_cast<const NMTREEVIEWW&>(header);
-      if (change.action == TVC_BYKEYBOARD) {
+      if (change.action == TVC_BYKEYBOARD && highlightChooses_) {
         if (const auto node = numberOf(change.itemNew.hItem); node != 0) onNodeClick.raise(node);
       }
       break;
     }
+    case static_cast<UINT>(NM_CUSTOMDRAW):
+      return highlight(
+          const_cast<NMTVCUSTOMDRAW&>(reinterpret_cast<const NMTVCUSTOMDRAW&>(header)));
     default:
       break;
   }
   return 0;
 }
 
-void TreeView::giveText(NMTVDISPINFOW& info) const {
-  if ((info.item.mask & TVIF_TEXT) == 0 || info.item.cchTextMax <= 0) return;
-  // The control may ask while a node is being added, before its handle is known: the newest then.
-  std::size_t number = numberOf(info.item.hItem);
-  if (number == 0) number = nodes_.size();
-  if (number == 0) return;
-  const std::u16string& text = nodes_[number - 1].text;
-  const auto length = std::min(text.size(), static_cast<std::size_t>(info.item.cchTextMax) - 1);
-  std::copy_n(text.begin(), length, info.item.pszText);
-  info.item.pszText[length] = L'\0';
+LRESULT TreeView::highlight(NMTVCUSTOMDRAW& drawing) const {
+  if (!keepsHighlight_) return CDRF_DODEFAULT;
+  if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  const bool selected = (drawing.nmcd.uItemState & CDIS_SELECTED) != 0;
+  if (drawing.nmcd.dwDrawStage == CDDS_ITEMPREPAINT && selected) {
+    drawing.clrText = GetSysColor(COLOR_HIGHLIGHTTEXT);
+    drawing.clrTextBk = GetSysColor(COLOR_HIGHLIGHT);
+  }
+  return CDRF_DODEFAULT;
 }
 
-void TreeView::clicked() {
+void TreeView::giveText(NMTVDISPINFOW& info) const {
+  if ((info.item.mask & TVIF_TEXT) == 0 || info.item.cchTextMax <= 0) return;
+  const std::size_t known = numberOf(info.item.hItem);
+  const std::size_t number = known == 0 ? inserting_ : known;
+  if (number == 0) return;
+  const std::u16string& text = nodes_[number - 1].text;
+  if (text.size() < static_cast<std::size_t>(info.item.cchTextMax)) {
+    std::copy_n(text.c_str(), text.size() + 1, info.item.pszText);
+  } else {
+    // Longer than the control's own buffer: it takes ours.
+    info.item.pszText = const_cast<wchar_t*>(wide(text));
+  }
+}
+
+// Whether a node was chosen: the control is not to select it again then, whatever the choice led
+// to.
+bool TreeView::clicked() {
   const DWORD position = GetMessagePos();
   TVHITTESTINFO hit{};
   hit.pt = {static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))};
@@ -101,10 +187,11 @@ void TreeView::clicked() {
   send(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
   constexpr UINT kOnRow = TVHT_ONITEM | TVHT_ONITEMRIGHT | TVHT_ONITEMINDENT;
   const std::size_t number = numberOf(hit.hItem);
-  if (number == 0 || (hit.flags & kOnRow) == 0) return;
+  if (number == 0 || (hit.flags & kOnRow) == 0) return false;
   // The notification may come before the control selects the node itself.
   send(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(hit.hItem));
   if (selected() == number) onNodeClick.raise(number);
+  return true;
 }
 
 TreeView::RepaintHeld::RepaintHeld(const TreeView& tree) : window_(tree.handle()) {

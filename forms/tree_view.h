@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "forms/handles.h"
+#include "forms/picture.h"
 #include "forms/widget.h"
 
 namespace forms {
@@ -15,13 +17,25 @@ class TreeView : public Widget {
   [[nodiscard]] std::size_t count() const { return nodes_.size(); }
   void add(const std::u16string& text);
   void remove(std::size_t number);
-  void setText(std::size_t number, const std::u16string& text);
+  void clear();
+  virtual void setText(std::size_t number, const std::u16string& text);
   [[nodiscard]] const std::u16string& text(std::size_t number) const;
 
   /// Selects a node from code, which is no choice of the user's, and brings it into view.
   void select(std::size_t number);
   /// Number of the selected node; 0 for none.
   [[nodiscard]] std::size_t selected() const;
+  /// Selects no node and goes back to the beginning.
+  void deselect();
+
+  /// Puts `picture` before every node.
+  void setPicture(const Picture& picture);
+
+  /// From now on the selected node is highlighted even while the focus is elsewhere.
+  void keepHighlight() { keepsHighlight_ = true; }
+
+  /// From now on moving the highlight with the keys chooses nothing: a click, Enter and Space do.
+  void chooseOnlyExpressly();
 
   /// Shows at once what changed.
   void refresh();
@@ -29,8 +43,11 @@ class TreeView : public Widget {
   /// The user chose a node: a click on it (the selected one included), the highlight moved to it
   /// with the keys, or Enter on it.
   Event<std::size_t> onNodeClick;
+  /// Ctrl+C on the selected node.
+  Event<std::size_t> onCopy;
 
   LRESULT notify(const NMHDR& header) override;
+  void rescale() override;
 
   /// While one lives, the control does not repaint; then once.
   class RepaintHeld {
@@ -44,16 +61,33 @@ class TreeView : public Widget {
     HWND window_;
   };
 
+ protected:
+  /// `scrolling` is the style that says in which directions the view scrolls.
+  TreeView(Form& form, const WidgetBox& box, DWORD scrolling);
+
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  [[nodiscard]] std::size_t numberOf(HTREEITEM item) const;
+  /// Has the control measure a node's text anew, which it does once for each of its items.
+  void measureAgain(std::size_t number);
+
  private:
   struct Node {
     HTREEITEM item = nullptr;
     std::u16string text;
   };
-  [[nodiscard]] std::size_t numberOf(HTREEITEM item) const;
+  HTREEITEM insert(std::size_t number, HTREEITEM after);
   void giveText(NMTVDISPINFOW& info) const;
-  void clicked();
+  LRESULT highlight(NMTVCUSTOMDRAW& drawing) const;
+  bool clicked();
+  void raiseChoice();
+  void showPicture();
 
   std::vector<Node> nodes_;
+  std::size_t inserting_ = 0;  // the control asks for its text before its handle is known
+  bool highlightChooses_ = true;
+  bool keepsHighlight_ = false;
+  Picture picture_;
+  OwnedImageList pictures_;
 };
 
 }  // namespace forms

@@ -92,7 +92,10 @@ LRESULT Widget::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_CHAR:
       // The character that follows a key taken above; the control would beep at it.
-      if ((wParam == VK_RETURN || wParam == VK_ESCAPE) && takesKey(WM_KEYDOWN, wParam)) return 0;
+      if ((wParam == VK_RETURN || wParam == VK_ESCAPE || wParam == VK_SPACE) &&
+          takesKey(WM_KEYDOWN, wParam)) {
+        return 0;
+      }
       break;
     default:
       raiseMouseEvents(message, lParam);

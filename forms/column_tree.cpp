@@ -1,0 +1,149 @@
+#include "forms/column_tree.h"
+
+#include <cstring>
+#include <vector>
+
+#include "forms/form.h"
+
+namespace forms {
+namespace {
+
+/// Fixed pitch, with Han characters that are twice as wide as Latin ones; part of every Windows.
+constexpr std::u16string_view kFace = u"NSimSun";
+constexpr int kPointsPerInch = 72;
+constexpr int kTenthsOfPoints = 105;
+
+/// Of a character that takes two columns the first unit to do so.
+constexpr char16_t kFirstWide = 256;
+
+/// Largest even size in pixels that is no larger than the wanted one: half of it is a column.
+int evenFontSize(int dpi) { return kTenthsOfPoints * dpi / (10 * kPointsPerInch) / 2 * 2; }
+
+Font fontOf(int pixels, int dpi) {
+  return {std::u16string(kFace), static_cast<double>(pixels) * kPointsPerInch / dpi, true};
+}
+
+/// A window's device context with a font selected into it.
+class Measuring {
+ public:
+  Measuring(HWND window, HFONT font)
+      : window_(window), dc_(GetDC(window)), before_(SelectObject(dc_, font)) {}
+  ~Measuring() {
+    SelectObject(dc_, before_);
+    ReleaseDC(window_, dc_);
+  }
+  Measuring(const Measuring&) = delete;
+  Measuring& operator=(const Measuring&) = delete;
+
+  [[nodiscard]] int widestLetter() const {
+    SIZE size{};
+    GetTextExtentPoint32W(dc_, L"W", 1, &size);
+    return size.cx;
+  }
+  [[nodiscard]] int height() const {
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(dc_, &metrics);
+    return metrics.tmHeight;
+  }
+
+ private:
+  HWND window_;
+  HDC dc_;
+  HGDIOBJ before_;
+};
+
+struct RowColors {
+  int text;
+  int background;
+};
+
+RowColors colorsOf(bool selected, bool focused) {
+  if (!selected) return {COLOR_WINDOWTEXT, COLOR_WINDOW};
+  return focused ? RowColors{COLOR_HIGHLIGHTTEXT, COLOR_HIGHLIGHT}
+                 : RowColors{COLOR_BTNTEXT, COLOR_BTNFACE};
+}
+
+}  // namespace
+
+ColumnTree::ColumnTree(Form& form, const WidgetBox& box) : TreeView(form, box, TVS_NOTOOLTIPS) {
+  onKeyDown[VK_LEFT] = [this] { send(WM_HSCROLL, SB_LINELEFT); };
+  onKeyDown[VK_RIGHT] = [this] { send(WM_HSCROLL, SB_LINERIGHT); };
+  makeFonts();
+}
+
+void ColumnTree::setText(std::size_t number, const std::u16string& text) {
+  TreeView::setText(number, text);
+  measureAgain(number);
+}
+
+void ColumnTree::rescale() {
+  TreeView::rescale();
+  makeFonts();
+}
+
+// The control measures its texts, and with them how far it scrolls, in a font whose Han characters
+// are two columns wide. Where that font's Latin letters are wider than one column, texts are drawn
+// in the largest smaller size whose letters fit.
+void ColumnTree::makeFonts() {
+  const int dpi = form().dpi();
+  const int size = evenFontSize(dpi);
+  columnWidth_ = size / 2;
+  setFont(fontOf(size, dpi));
+  for (int pixels = size; pixels > columnWidth_; --pixels) {
+    drawingFont_ = makeFont(fontOf(pixels, dpi), dpi);
+    const Measuring measuring(handle(), drawingFont_.get());
+    textHeight_ = measuring.height();
+    if (measuring.widestLetter() <= columnWidth_) return;
+  }
+}
+
+LRESULT ColumnTree::notify(const NMHDR& header) {
+  if (header.code != static_cast<UINT>(NM_CUSTOMDRAW)) return TreeView::notify(header);
+  const auto& drawing = reinterpret_cast<const NMTVCUSTOMDRAW&>(header).nmcd;
+  if (drawing.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (drawing.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
+  draw(drawing);
+  return CDRF_SKIPDEFAULT;
+}
+
+void ColumnTree::draw(const NMCUSTOMDRAW& drawing) const {
+  const auto item = reinterpret_cast<HTREEITEM>(drawing.dwItemSpec);
+  const std::size_t number = numberOf(item);
+  RECT place{};
+  // The question carries the item where the answer is to stand.
+  std::memcpy(&place, &item, sizeof item);
+  if (number == 0 || send(TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place)) == 0) return;
+  RECT row{};
+  GetClientRect(handle(), &row);
+  row.top = place.top;
+  row.bottom = place.bottom;
+  const bool selected = (drawing.uItemState & CDIS_SELECTED) != 0;
+  const RowColors colors = colorsOf(selected, GetFocus() == handle());
+  SetTextColor(drawing.hdc, GetSysColor(colors.text));
+  SetBkColor(drawing.hdc, GetSysColor(colors.background));
+  drawText(drawing.hdc, row, place.left, text(number));
+}
+
+void ColumnTree::drawText(HDC dc, const RECT& row, int left, std::u16string_view text) const {
+  const auto widthOf = [this](char16_t unit) {
+    return unit < kFirstWide ? columnWidth_ : 2 * columnWidth_;
+  };
+  while (!text.empty() && left + widthOf(text.front()) <= 0) {
+    left += widthOf(text.front());
+    text.remove_prefix(1);
+  }
+  std::vector<INT> widths;
+  int right = left;
+  for (std::size_t i = 0; i < text.size() && right < row.right; ++i) {
+    widths.push_back(widthOf(text[i]));
+    right += widths.back();
+  }
+  const HGDIOBJ before = SelectObject(dc, drawingFont_.get());
+  const int top = row.top + ((row.bottom - row.top - textHeight_) / 2);
+  ExtTextOutW(dc, left, top, ETO_OPAQUE | ETO_CLIPPED, &row,
+              reinterpret_cast<const wchar_t*>(text.data()), static_cast<UINT>(widths.size()),
+              widths.data());
+  SelectObject(dc, before);
+}
+
+}  // namespace forms

@@ -1,0 +1,111 @@
+#include "forms/column_tree.h"
+
+#include "tests/program/harness/controls.h"
+#include "tests/program/harness/screen.h"
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+class ColumnForm : public FormA {
+ public:
+  forms::ColumnTree tree{*this, {150, 1000, 7000, 2500}};
+};
+
+class ColumnTreeTest : public WindowTest {
+ protected:
+  ColumnTreeTest() {
+    plan<'A'>().design.width = 7600;
+    plan<'A'>().design.height = 4500;
+    opened<ColumnForm>();
+    tree().setFocus();
+  }
+  static forms::ColumnTree& tree() { return forms::single<ColumnForm>().tree; }
+
+  /// How many columns a row's text takes on the screen, up to its last dark pixel.
+  static int columnsShown(int number) {
+    RECT row = harness::treeNodeRect(tree().handle(), number - 1).value_or(RECT{});
+    const int left = row.left;
+    row.right = rectOf(tree().handle()).right - 4;
+    const auto pixels = harness::screenPixels(row);
+    const int width = row.right - row.left;
+    int last = 0;
+    for (std::size_t i = 0; i < pixels.size(); ++i) {
+      if (GetGValue(pixels[i]) < 100) last = std::max(last, static_cast<int>(i) % width);
+    }
+    EXPECT_EQ(left, row.left);
+    return 1 + (last / tree().columnWidth());
+  }
+  static SCROLLINFO scrolling(int bar) {
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_ALL;
+    GetScrollInfo(tree().handle(), bar, &info);
+    return info;
+  }
+};
+
+TEST_F(ColumnTreeTest, AHanCharacterTakesExactlyTwoColumns) {
+  tree().add(u"M");
+  tree().add(std::u16string(20, u'i') + u"M");
+  tree().add(std::u16string(20, u' ') + u"M");
+  tree().add(std::u16string(20, u'W') + u"M");
+  tree().add(std::u16string(10, u'汉') + u"M");
+  tree().add(std::u16string(10, u'，') + u"M");
+  tree().add(u"汉ii字MM，..汉字汉字汉M");
+  tree().deselect();
+  ASSERT_TRUE(eventually([] { return columnsShown(1) == 1; }));
+  for (const int row : {2, 3, 4, 5, 6}) EXPECT_EQ(columnsShown(row), 21) << row;
+  EXPECT_EQ(columnsShown(7), 23);
+}
+
+TEST_F(ColumnTreeTest, ALineThatIsWiderThanTheViewScrollsToItsEnd) {
+  tree().add(std::u16string(150, u'汉'));
+  tree().refresh();
+  forms::doEvents();
+  const SCROLLINFO info = scrolling(SB_HORZ);
+  EXPECT_GE(info.nMax, 150 * 2 * tree().columnWidth());
+  EXPECT_EQ(info.nPos, 0);
+  input::key(VK_RIGHT);
+  EXPECT_TRUE(eventually([] { return scrolling(SB_HORZ).nPos > 0; }));
+  input::key(VK_LEFT);
+  EXPECT_TRUE(eventually([] { return scrolling(SB_HORZ).nPos == 0; }));
+}
+
+TEST_F(ColumnTreeTest, ANewTextScrollsAsFarAsItIsLong) {
+  tree().add(u"short");
+  forms::doEvents();
+  tree().setText(1, std::u16string(300, u'm'));
+  EXPECT_EQ(tree().count(), 1U);
+  forms::doEvents();
+  EXPECT_GE(scrolling(SB_HORZ).nMax, 300 * tree().columnWidth());
+  tree().setText(1, u"short");
+  forms::doEvents();
+  EXPECT_LT(scrolling(SB_HORZ).nMax, 300 * tree().columnWidth());
+}
+
+TEST_F(ColumnTreeTest, ANewTextKeepsTheSelection) {
+  for (const char16_t* text : {u"a", u"b", u"c"}) tree().add(text);
+  tree().select(2);
+  tree().setText(2, u"new");
+  tree().setText(1, u"first");
+  EXPECT_EQ(tree().selected(), 2U);
+  EXPECT_EQ(harness::treeTexts(tree().handle()),
+            (std::vector<std::wstring>{L"first", L"new", L"c"}));
+}
+
+TEST_F(ColumnTreeTest, DeselectingGoesBackToTheBeginning) {
+  for (int i = 0; i < 100; ++i) tree().add(std::u16string(200, u'x'));
+  tree().select(100);
+  SendMessageW(tree().handle(), WM_HSCROLL, SB_PAGERIGHT, 0);
+  forms::doEvents();
+  ASSERT_GT(scrolling(SB_VERT).nPos, 0);
+  ASSERT_GT(scrolling(SB_HORZ).nPos, 0);
+  tree().deselect();
+  EXPECT_EQ(tree().selected(), 0U);
+  EXPECT_EQ(scrolling(SB_VERT).nPos, 0);
+  EXPECT_EQ(scrolling(SB_HORZ).nPos, 0);
+}
+
+}  // namespace
+}  // namespace wintest
