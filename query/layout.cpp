@@ -1,0 +1,55 @@
+#include "query/layout.h"
+
+#include <algorithm>
+
+#include "forms/geometry.h"
+
+namespace query {
+namespace {
+
+constexpr int kMargin = 120;
+constexpr int kRowHeight = 360;
+constexpr int kLabelHeight = 270;
+/// Centres a label's text beside a box or button.
+constexpr int kLabelDrop = 60;
+constexpr int kInputLabelWidth = 600;
+constexpr int kButtonWidth = 960;
+constexpr int kDictionariesWidth = 2400;
+constexpr int kHintHeight = 660;
+
+}  // namespace
+
+Layout layOut(int width, int height) {
+  const int right = std::max(width, kLeastWidth) - forms::kFrameWidth - kMargin;
+  const int bottom = std::max(height, kLeastHeight) - forms::kFrameHeight - kMargin;
+  const auto button = [&](int fromRight) {
+    const int left = right - (fromRight * (kButtonWidth + kMargin)) - kButtonWidth;
+    return Box{left, kMargin, kButtonWidth, kRowHeight};
+  };
+  const auto reaching = [&](int left, int top, int boxWidth) {
+    return Box{left, top, boxWidth, bottom - top};
+  };
+
+  Layout layout;
+  layout.special = button(0);
+  layout.advanced = button(1);
+  layout.ok = button(2);
+  layout.inputLabel = {kMargin, kMargin + kLabelDrop, kInputLabelWidth, kLabelHeight};
+  const int inputLeft = kMargin + kInputLabelWidth;
+  layout.input = {inputLeft, kMargin, layout.ok.left - kMargin - inputLeft, kRowHeight};
+  const int second = kMargin + kRowHeight + kMargin;
+  layout.dictionariesLabel = {kMargin, second, kDictionariesWidth, kLabelHeight};
+  layout.dictionaries = reaching(kMargin, second + kLabelHeight, kDictionariesWidth);
+  const int resultsLeft = kMargin + kDictionariesWidth + kMargin;
+  layout.results = reaching(resultsLeft, second, right - resultsLeft);
+  return layout;
+}
+
+SettingsLayout layOutSettings(int width, int height) {
+  const int right = std::max(width, kSettingsLeastWidth) - forms::kFrameWidth - kMargin;
+  const int bottom = std::max(height, kSettingsLeastHeight) - forms::kFrameHeight - kMargin;
+  const Box hint{kMargin, bottom - kHintHeight, right - kMargin, kHintHeight};
+  return {{kMargin, kMargin, hint.width, hint.top - kMargin - kMargin}, hint};
+}
+
+}  // namespace query

@@ -1,0 +1,51 @@
+#pragma once
+
+/// Where the widgets of the windows that can be resized go. All lengths in twips; W and H are the
+/// window's Width and Height as the forms count them.
+namespace query {
+
+struct Box {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  bool operator==(const Box&) const = default;
+};
+
+/// Size that the multi-dictionary window opens with: room for some twenty result lines.
+inline constexpr int kOpeningWidth = 10500;
+inline constexpr int kOpeningHeight = 7200;
+
+/// The smallest size in which every widget can be used.
+inline constexpr int kLeastWidth = 6600;
+inline constexpr int kLeastHeight = 3600;
+
+/// Places of its widgets. The input box, the results and the height of both trees follow the
+/// window; below the smallest size nothing shrinks any more.
+struct Layout {
+  Box inputLabel;
+  Box input;
+  Box ok;
+  Box advanced;
+  Box special;
+  Box dictionariesLabel;
+  Box dictionaries;
+  Box results;
+};
+Layout layOut(int width, int height);
+
+/// Sizes of the settings window: it opens with room for all dictionaries.
+inline constexpr int kSettingsWidth = 4620;
+inline constexpr int kSettingsHeight = 7800;
+inline constexpr int kSettingsLeastWidth = 3000;
+inline constexpr int kSettingsLeastHeight = 3000;
+
+/// Places of its widgets: the list, and the hint below it.
+struct SettingsLayout {
+  Box dictionaries;
+  Box hint;
+  bool operator==(const SettingsLayout&) const = default;
+};
+SettingsLayout layOutSettings(int width, int height);
+
+}  // namespace query

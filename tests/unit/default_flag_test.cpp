@@ -1,0 +1,186 @@
+#include "query/default_flag.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "data/cursor.h"
+#include "data/database.h"
+#include "tests/unit/support/file_layer.h"
+#include "tests/unit/support/small_dictionary.h"
+#include "tests/unit/support/window_queries.h"
+
+namespace {
+
+using support::clickDictionary;
+using support::storedDefaults;
+using Rows = std::vector<std::size_t>;
+
+class DefaultFlag : public testing::Test {
+ protected:
+  /// Four dictionaries; in the order of their names 化学, 计算机, 数学, 医学.
+  DefaultFlag() {
+    support::makeDatabase(
+        file_,
+        "create table [Index] (id integer primary key, TableName text collate lexilo,"
+        " Cname text collate lexilo, Isshow integer, [default] integer);"
+        "insert into [Index] values (1,'med','医学',1,1),(2,'chem','化学',1,0),"
+        "(3,'math','数学',0,0),(4,'comp','计算机',1,0)");
+  }
+  void store(const std::string& sql) { support::Writer(file_).run(sql); }
+
+  support::TempFolder folder_;
+  std::filesystem::path file_ = folder_.file(u"kk.dat");
+};
+
+TEST_F(DefaultFlag, MovesToTheChosenRow) {
+  ASSERT_EQ(storedDefaults(file_), (Rows{4}));
+  for (const std::size_t row : {1U, 3U, 2U, 4U}) {
+    clickDictionary(file_, row);
+    EXPECT_EQ(storedDefaults(file_), (Rows{row}));
+  }
+}
+
+// The engine leaves a file alone whose content stays the same, but asks for the right to write.
+TEST_F(DefaultFlag, IsWrittenAgainToTheRowThatHasIt) {
+  data::DataControl control = support::opened(file_, query::kAllDictionaries);
+  support::Writer other(file_);
+  other.run("begin immediate");
+  EXPECT_THROW(query::chooseDefault(control.recordset(), 4), data::Error);
+  other.run("commit");
+  query::chooseDefault(control.recordset(), 4);
+  EXPECT_EQ(storedDefaults(file_), (Rows{4}));
+}
+
+TEST_F(DefaultFlag, LeavesNothingElseChanged) {
+  clickDictionary(file_, 4);
+  const std::string before = support::readFile(file_).substr(100);
+  clickDictionary(file_, 4);
+  EXPECT_EQ(support::readFile(file_).substr(100), before);
+  EXPECT_EQ(support::entryCount(folder_.path()), 1);
+}
+
+TEST_F(DefaultFlag, SeveralAreReducedToTheChosenOne) {
+  store("update [Index] set [default]=1");
+  data::DataControl control = support::opened(file_, query::kAllDictionaries);
+  EXPECT_EQ(query::lastDefault(control.recordset()), 4U);
+  clickDictionary(file_, 2);
+  EXPECT_EQ(storedDefaults(file_), (Rows{2}));
+}
+
+TEST_F(DefaultFlag, ValuesThatAreNoFlagStay) {
+  store("update [Index] set [default]=5 where id=3");
+  clickDictionary(file_, 1);
+  EXPECT_EQ(support::Writer(file_).number("select [default] from [Index] where id=3"), 5);
+  EXPECT_EQ(storedDefaults(file_), (Rows{1}));
+}
+
+TEST_F(DefaultFlag, NoneIsFlagged) {
+  store("update [Index] set [default]=0");
+  data::DataControl control = support::opened(file_, query::kAllDictionaries);
+  EXPECT_EQ(query::lastDefault(control.recordset()), 0U);
+}
+
+TEST_F(DefaultFlag, ARowNumberThatDoesNotExistLeavesNoDefault) {
+  clickDictionary(file_, 9);
+  EXPECT_EQ(storedDefaults(file_), Rows{});
+}
+
+TEST_F(DefaultFlag, ALockedFileFailsWithNothingChanged) {
+  const auto database = std::make_shared<data::Database>(
+      support::utf8Path(file_),
+      data::Patience{std::chrono::milliseconds(5000), std::chrono::milliseconds(50)});
+  data::RecordSet rows(
+      std::make_unique<data::Cursor>(database, text::toUtf8(query::kAllDictionaries)));
+  support::Writer other(file_);
+  other.run("begin immediate");
+  try {
+    query::chooseDefault(rows, 1);
+    ADD_FAILURE() << "no error";
+  } catch (const data::Error& error) {
+    EXPECT_STREQ(error.what(), "database is locked");
+  }
+  EXPECT_EQ(query::lastDefault(rows), 4U);
+  other.run("commit");
+  EXPECT_EQ(storedDefaults(file_), (Rows{4}));
+}
+
+TEST_F(DefaultFlag, AFullDiskFailsWithNothingChanged) {
+  data::DataControl control = support::opened(file_, query::kAllDictionaries);
+  const std::string before = support::readFile(file_);
+  {
+    const support::FileLayer full([] { return SQLITE_FULL; });
+    try {
+      query::chooseDefault(control.recordset(), 1);
+      ADD_FAILURE() << "no error";
+    } catch (const data::Error& error) {
+      EXPECT_STREQ(error.what(), "database or disk is full");
+    }
+  }
+  EXPECT_EQ(query::lastDefault(control.recordset()), 4U);
+  EXPECT_EQ(support::readFile(file_), before);
+  query::chooseDefault(control.recordset(), 1);
+  EXPECT_EQ(storedDefaults(file_), (Rows{1}));
+}
+
+// The disk may fill up, or fail, between any two changes of a file.
+TEST_F(DefaultFlag, ADiskThatFailsAtAnyMomentCostsNothingButTheFlag) {
+  for (int failing = 1;; ++failing) {
+    clickDictionary(file_, 4);
+    int changes = 0;
+    bool failed = false;
+    {
+      const support::FileLayer layer([&] {
+        failed = ++changes == failing;
+        return failed || changes > failing ? SQLITE_FULL : SQLITE_OK;
+      });
+      try {
+        clickDictionary(file_, 1);
+      } catch (const data::Error&) {
+        failed = true;
+      }
+    }
+    const Rows flagged = storedDefaults(file_);
+    EXPECT_TRUE(flagged == Rows{4} || flagged == (Rows{1, 4}) || flagged == Rows{1}) << failing;
+    if (changes < failing) break;
+    clickDictionary(file_, 2);
+    EXPECT_EQ(storedDefaults(file_), (Rows{2}));
+    ASSERT_LT(failing, 200);
+  }
+}
+
+// What another program that copies the folder may catch: both files between any two changes.
+TEST_F(DefaultFlag, AFileCopiedWithItsJournalIsReadAndRepaired) {
+  const auto whole = folder_.file(u"whole.dat");
+  std::filesystem::copy_file(support::smallDatabase(), whole);
+  const auto journal = [](std::filesystem::path file) { return file.concat("-journal"); };
+  const auto copy = folder_.file(u"copy.dat");
+  int withJournal = 0;
+  for (int moment = 1;; ++moment) {
+    clickDictionary(whole, 4);
+    int changes = 0;
+    {
+      const support::FileLayer layer([&] {
+        if (++changes == moment) {
+          support::writeFile(copy, support::readFile(whole));
+          support::writeFile(journal(copy), support::readFile(journal(whole)));
+        }
+        return SQLITE_OK;
+      });
+      clickDictionary(whole, 7);
+    }
+    if (changes < moment) break;
+    if (std::filesystem::file_size(journal(copy)) > 0) ++withJournal;
+    support::expectEveryWindowReads(copy);
+    // The former default comes first in the list and is reset first.
+    const Rows flagged = storedDefaults(copy);
+    EXPECT_TRUE(flagged == Rows{4} || flagged == Rows{} || flagged == Rows{7}) << moment;
+    clickDictionary(copy, 2);
+    EXPECT_EQ(storedDefaults(copy), (Rows{2}));
+    EXPECT_FALSE(std::filesystem::exists(journal(copy)));
+    ASSERT_LT(moment, 200);
+  }
+  EXPECT_GT(withJournal, 5);
+}
+
+}  // namespace
