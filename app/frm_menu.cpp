@@ -1,10 +1,14 @@
 #include "app/frm_menu.h"
 
+#include "app/frm_about.h"
 #include "app/frm_top.h"
 #include "app/process.h"
+#include "app/state.h"
 #include "capture/screen_word.h"
 #include "forms/registry.h"
 #include "lookup/frm_sub.h"
+#include "query/frm_dict_setting.h"
+#include "query/frm_main.h"
 
 namespace {
 
@@ -19,14 +23,14 @@ forms::FormDesign design() {
 }  // namespace
 
 frmMenu::frmMenu() : Form(design()) {
-  mnu_file.add(u"多功能查询");
+  mnu_file.add(u"多功能查询", [this] { mnu_dgn_Click(); });
   mnu_file.add(u"快速查询", [this] { mnu_kscx_Click(); });
   mnuMouse_ = mnu_file.add(u"鼠标取词", [this] { mnuMouse_Click(); });
   mnu_file.add(u"-");
-  mnu_file.add(u"字典设置");
+  mnu_file.add(u"字典设置", [this] { mnu_zdsz_Click(); });
   mnu_file.add(u"-");
   mnu_file.add(u"帮助", [this] { mnu_help_Click(); });
-  mnu_file.add(u"关于");
+  mnu_file.add(u"关于", [this] { mnu_about_Click(); });
   mnu_file.add(u"访问我们的网站", [this] { mnu_fwwz_Click(); });
   mnu_file.add(u"-");
   mnu_file.add(u"退出", [this] { mnu_exit_Click(); });
@@ -46,11 +50,20 @@ void frmMenu::Form_GotFocus() { ScreenWord::StopCapture(); }
 
 void frmMenu::Form_LostFocus() { ScreenWord::StartCapture(); }
 
+void frmMenu::mnu_dgn_Click() {
+  forms::single<frmMain>().show();
+  user::MainOpen = true;
+}
+
 void frmMenu::mnu_kscx_Click() { forms::single<frmSub>().show(); }
 
 void frmMenu::mnuMouse_Click() { forms::single<frmTop>().cmdMouse_Click(); }
 
+void frmMenu::mnu_zdsz_Click() { forms::single<frmdictSetting>().show(); }
+
 void frmMenu::mnu_help_Click() { app::showHelp(); }
+
+void frmMenu::mnu_about_Click() { forms::single<frmAbout>().show(); }
 
 void frmMenu::mnu_fwwz_Click() { app::openInBrowser(app::kHomePage); }
 

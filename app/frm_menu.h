@@ -20,9 +20,12 @@ class frmMenu : public forms::Form {
  private:
   void Form_GotFocus();
   void Form_LostFocus() override;
+  void mnu_dgn_Click();
   void mnu_kscx_Click();
   void mnuMouse_Click();
+  void mnu_zdsz_Click();
   void mnu_help_Click();
+  void mnu_about_Click();
   void mnu_fwwz_Click();
   void mnu_exit_Click();
 

@@ -10,6 +10,8 @@
 #include "forms/message_box.h"
 #include "forms/registry.h"
 #include "lookup/frm_sub.h"
+#include "query/frm_dict_setting.h"
+#include "query/frm_main.h"
 #include "settings/settings_file.h"
 
 namespace {
@@ -38,6 +40,8 @@ frmTop::frmTop() : Form(design()) {
   cmdSub.setToolTip(u"多功能查询");
   cmdDictSetting.setToolTip(u"查询设置");
   cmdMain.onClick = [this] { cmdMain_Click(); };
+  cmdSub.onClick = [this] { cmdSub_Click(); };
+  cmdDictSetting.onClick = [this] { cmdDictSetting_Click(); };
   cmdMouse.onClick = [this] { cmdMouse_Click(); };
   cmdHelp.onClick = [this] { cmdHelp_Click(); };
   Command1.onClick = [this] { Command1_Click(); };
@@ -104,6 +108,10 @@ void frmTop::Form_LostFocus() {
 }
 
 void frmTop::cmdMain_Click() { forms::single<frmSub>().show(); }
+
+void frmTop::cmdSub_Click() { forms::single<frmMain>().show(); }
+
+void frmTop::cmdDictSetting_Click() { forms::single<frmdictSetting>().show(); }
 
 void frmTop::cmdHelp_Click() { app::showHelp(); }
 

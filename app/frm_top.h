@@ -39,6 +39,8 @@ class frmTop : public forms::Form {
   void Form_Resize() override;
   void Form_LostFocus() override;
   void cmdMain_Click();
+  void cmdSub_Click();
+  void cmdDictSetting_Click();
   void cmdHelp_Click();
   void Command1_Click();
   void Image1_MouseMove();

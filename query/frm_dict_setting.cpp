@@ -1,0 +1,79 @@
+#include "query/frm_dict_setting.h"
+
+#include "app/resources/resource_ids.h"
+#include "app/state.h"
+#include "capture/screen_word.h"
+#include "forms/registry.h"
+#include "query/default_flag.h"
+#include "query/frm_main.h"
+#include "query/layout.h"
+#include "query/query_sql.h"
+
+namespace {
+
+forms::FormDesign design() {
+  forms::FormDesign design;
+  design.name = u"frmdictSetting";
+  design.caption = u"字典设置";
+  design.width = query::kSettingsWidth;
+  design.height = query::kSettingsHeight;
+  design.leastWidth = query::kSettingsLeastWidth;
+  design.leastHeight = query::kSettingsLeastHeight;
+  design.iconResource = forms::kProgramIcon;
+  return design;
+}
+
+}  // namespace
+
+frmdictSetting::frmdictSetting() : Form(design()) {
+  TreeView2.setPicture(forms::Picture(IDI_DICTIONARY));
+  TreeView2.keepHighlight();
+  // Looking through the list must not write.
+  TreeView2.chooseOnlyExpressly();
+  TreeView2.onNodeClick = [this](std::size_t node) { TreeView2_NodeClick(node); };
+  onEscape = [this] { unload(); };
+}
+
+void frmdictSetting::Form_Load() {
+  centre();
+  Adodc1.setConnectionString(user::ConnectionString);
+  loadRecords(Adodc1, query::kAllDictionaries);
+  const forms::TreeView::RepaintHeld held(TreeView2);
+  TreeView2.clear();
+  data::RecordSet& rows = Adodc1.recordset();
+  const std::size_t count = rows.recordCount();
+  for (std::size_t i = 1; i <= count; ++i) {
+    TreeView2.add(rows.field(u"cname").text);
+    if (rows.field(u"default").integer == 1) TreeView2.select(i);
+    rows.moveNext();
+  }
+  Text3.setText(u"   选择默认查词词典，在多功能查询窗体启动时将直接选择该词典。");
+}
+
+void frmdictSetting::Form_Resize() {
+  const auto [dictionaries, hint] = query::layOutSettings(width(), height());
+  TreeView2.move({dictionaries.left, dictionaries.top, dictionaries.width, dictionaries.height});
+  Text3.move({hint.left, hint.top, hint.width, hint.height});
+}
+
+void frmdictSetting::Form_Activate() { ScreenWord::StopCapture(); }
+
+void frmdictSetting::Form_Unload() {
+  ScreenWord::StartCapture();
+  if (user::MainOpen) forms::single<frmMain>().iniTree();
+}
+
+void frmdictSetting::TreeView2_NodeClick(std::size_t node) try {
+  query::chooseDefault(Adodc1.recordset(), node);
+} catch (...) {
+  // The list goes on showing what is stored.
+  if (const std::size_t stored = query::lastDefault(Adodc1.recordset()); stored != 0) {
+    TreeView2.select(stored);
+  }
+  throw;
+}
+
+void frmdictSetting::loadRecords(data::DataControl& recordSource, std::u16string_view sql) {
+  recordSource.setRecordSource(sql);
+  recordSource.refresh();
+}

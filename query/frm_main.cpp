@@ -1,0 +1,158 @@
+#include "query/frm_main.h"
+
+#include "app/resources/resource_ids.h"
+#include "app/state.h"
+#include "capture/screen_word.h"
+#include "forms/clipboard.h"
+#include "forms/geometry.h"
+#include "forms/message_box.h"
+#include "forms/registry.h"
+#include "query/frm_spc.h"
+#include "query/layout.h"
+#include "query/query_sql.h"
+
+namespace {
+
+constexpr std::int16_t kMostEasy = 100;
+constexpr std::int16_t kMostComplex = 200;
+
+forms::FormDesign design() {
+  forms::FormDesign design;
+  design.name = u"frmMain";
+  design.caption = u" 多功能查询 V1.3";
+  design.width = query::kOpeningWidth;
+  design.height = query::kOpeningHeight;
+  design.leastWidth = query::kLeastWidth;
+  design.leastHeight = query::kLeastHeight;
+  design.iconResource = forms::kProgramIcon;
+  return design;
+}
+
+void place(forms::Widget& widget, const query::Box& box) {
+  widget.move({box.left, box.top, box.width, box.height});
+}
+
+void tellToChooseDictionary() {
+  forms::showMessage(u"请选择字典！", forms::MessageIcon::exclamation);
+}
+
+void tellUnexpectedError() {
+  forms::showMessage(u"出现异常错误，请重新启动程序或安装程序！", forms::MessageIcon::critical);
+}
+
+}  // namespace
+
+frmMain::frmMain() : Form(design()) {
+  txtInput.setFont({u"宋体", 10.5});
+  cmdOK.setToolTip(u"普通查询");
+  Command1.setToolTip(u"高级搜索");
+  TreeView1.setPicture(forms::Picture(IDI_DICTIONARY));
+  TreeView1.keepHighlight();
+  txtInput.onGotFocus = [this] { txtInput_GotFocus(); };
+  txtInput.onLostFocus = [this] { txtInput_LostFocus(); };
+  TreeView1.onNodeClick = [this](std::size_t node) { TreeView1_NodeClick(node); };
+  TreeView2.onCopy = [this](std::size_t node) { TreeView2_Copy(node); };
+  cmdOK.onClick = [this] { cmdOK_Click(); };
+  Command1.onClick = [this] { Command1_Click(); };
+  cmdSpc.onClick = [this] { cmdSpc_Click(); };
+  // In the trees too, Enter searches: the highlight has chosen the dictionary already.
+  TreeView1.onKeyDown.erase(VK_RETURN);
+  TreeView2.onKeyDown.erase(VK_RETURN);
+  onEnter = [this] { cmdOK_Click(); };
+  onEscape = [this] { txtInput.setFocus(); };
+}
+
+void frmMain::Form_Load() try {
+  centre();
+  user::MainOpen = true;
+  Adodc1.setConnectionString(user::ConnectionString);
+  iniTree();
+} catch (const std::exception&) {
+  tellUnexpectedError();
+}
+
+void frmMain::Form_Resize() {
+  const query::Layout layout = query::layOut(width(), height());
+  place(Label2, layout.inputLabel);
+  place(txtInput, layout.input);
+  place(cmdOK, layout.ok);
+  place(Command1, layout.advanced);
+  place(cmdSpc, layout.special);
+  place(Label5, layout.dictionariesLabel);
+  place(TreeView1, layout.dictionaries);
+  place(TreeView2, layout.results);
+}
+
+void frmMain::Form_Unload() {
+  user::MainOpen = false;
+  // The box loses the focus with its window.
+  if (GetFocus() == txtInput.handle()) txtInput_LostFocus();
+}
+
+void frmMain::txtInput_GotFocus() { ScreenWord::StopCapture(); }
+
+void frmMain::txtInput_LostFocus() { ScreenWord::StartCapture(); }
+
+void frmMain::TreeView1_NodeClick(std::size_t node) {
+  if (TreeView1.selected() != node) return;
+  curIndex = forms::toInt16(static_cast<std::int64_t>(node));
+  curTable = tableNames.at(node - 1);
+}
+
+void frmMain::TreeView2_Copy(std::size_t node) {
+  forms::setClipboardText(handle(), TreeView2.text(node));
+}
+
+void frmMain::cmdOK_Click() try { search(query::kEasy, kMostEasy); } catch (const std::exception&) {
+  tellUnexpectedError();
+}
+
+void frmMain::Command1_Click() try {
+  search(query::kComplex, kMostComplex);
+} catch (const std::exception&) {
+  tellUnexpectedError();
+}
+
+void frmMain::cmdSpc_Click() { forms::single<frmSpc>().show(this); }
+
+void frmMain::search(std::u16string_view mode, std::int16_t maxRows) {
+  std::u16string text = txtInput.text();
+  if (text.empty()) {
+    forms::showMessage(u"查询条件不为空！", forms::MessageIcon::exclamation);
+    return;
+  }
+  if (curTable.empty()) {
+    tellToChooseDictionary();
+    return;
+  }
+  runQuery(Adodc1, makeQuerySql(text, mode));
+  MakeTree(Adodc1, TreeView2, maxRows);
+}
+
+void frmMain::iniTree() {
+  Adodc1.setRecordSource(query::kShownDictionaries);
+  Adodc1.refresh();
+  TreeView1.clear();
+  data::RecordSet& rows = Adodc1.recordset();
+  if (rows.empty()) {
+    tellToChooseDictionary();
+    return;
+  }
+  const forms::TreeView::RepaintHeld held(TreeView1);
+  tableNames.assign(rows.recordCount(), {});
+  curTable.clear();
+  rows.moveFirst();
+  for (std::size_t i = 1; i <= tableNames.size(); ++i) {
+    TreeView1.add(rows.field(2).text);
+    tableNames[i - 1] = rows.field(1).text;
+    if (rows.field(4).integer == 1) {
+      TreeView1.select(i);
+      curTable = tableNames[i - 1];
+    }
+    rows.moveNext();
+  }
+  if (curTable.empty()) {
+    curTable = tableNames.front();
+    TreeView1.select(1);
+  }
+}

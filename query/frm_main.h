@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "data/data_control.h"
+#include "forms/button.h"
+#include "forms/column_tree.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/text_box.h"
+#include "forms/tree_view.h"
+
+/// 多功能查询, the multi-dictionary query window: searches one of the shown subject dictionaries at
+/// a time and lists what it finds.
+class frmMain : public forms::Form {
+ public:
+  frmMain();
+
+  forms::Label Label2{*this, u"输入：", {}};
+  forms::TextBox txtInput{*this, {}};
+  forms::Button cmdOK{*this, u"确定", {}};
+  forms::Button Command1{*this, u"高级", {}};
+  forms::Button cmdSpc{*this, u"特殊", {}};
+  forms::Label Label5{*this, u"请选择字典：", {}};
+  forms::TreeView TreeView1{*this, {}};
+  forms::ColumnTree TreeView2{*this, {}};
+  data::DataControl Adodc1;
+
+  /// Fills the tree of dictionaries anew and selects the default one.
+  void iniTree();
+  /// Writes the rows of `recordSource`, at most `maxRows`, as lines into `tree`. Ends silently on
+  /// an error.
+  void MakeTree(data::DataControl& recordSource, forms::TreeView& tree, std::int16_t maxRows);
+  /// Lists the entries whose English side contains `englishText` and whose Chinese side contains
+  /// `chineseText`.
+  void SpcSearch(std::u16string& englishText, std::u16string& chineseText);
+
+  /// Table of the selected dictionary; "" for none.
+  [[nodiscard]] const std::u16string& selectedTable() const { return curTable; }
+
+ private:
+  void Form_Load() override;
+  void Form_Resize() override;
+  void Form_Unload() override;
+  void txtInput_GotFocus();
+  void txtInput_LostFocus();
+  void TreeView1_NodeClick(std::size_t node);
+  void TreeView2_Copy(std::size_t node);
+  void cmdOK_Click();
+  void Command1_Click();
+  void cmdSpc_Click();
+
+  std::u16string makeQuerySql(std::u16string& text, std::u16string_view mode);
+  static void runQuery(data::DataControl& recordSource, std::u16string_view sql);
+  void search(std::u16string_view mode, std::int16_t maxRows);
+
+  std::vector<std::u16string> tableNames;
+  std::u16string curTable;
+  std::u16string_view curField;
+  std::int16_t curIndex = 0;
+};

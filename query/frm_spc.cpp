@@ -1,0 +1,50 @@
+#include "query/frm_spc.h"
+
+#include "capture/screen_word.h"
+#include "forms/message_box.h"
+#include "forms/registry.h"
+#include "query/frm_main.h"
+#include "text/trim.h"
+
+namespace {
+
+forms::FormDesign design() {
+  forms::FormDesign design;
+  design.name = u"frmSpc";
+  design.caption = u"特殊查询";
+  design.frame = forms::Frame::fixed;
+  design.width = 4140;
+  design.height = 2175;
+  design.iconResource = forms::kProgramIcon;
+  return design;
+}
+
+}  // namespace
+
+frmSpc::frmSpc() : Form(design()) {
+  txtE.setFont({u"宋体", 10.5});
+  txtC.setFont({u"宋体", 10.5});
+  cmdOK.onClick = [this] { cmdOK_Click(); };
+  cmdCancel.onClick = [this] { cmdCancel_Click(); };
+  onEnter = [this] { cmdOK_Click(); };
+  onEscape = [this] { cmdCancel_Click(); };
+}
+
+void frmSpc::Form_Load() { centre(&forms::single<frmMain>()); }
+
+void frmSpc::Form_Activate() { ScreenWord::StopCapture(); }
+
+void frmSpc::Form_Unload() { ScreenWord::StartCapture(); }
+
+void frmSpc::cmdOK_Click() {
+  std::u16string e(user::trimBlanks(txtE.text()));
+  std::u16string c(user::trimBlanks(txtC.text()));
+  if (e.empty() || c.empty()) {
+    forms::showMessage(u"请在英文和中文的文本框里输入内容！", forms::MessageIcon::exclamation);
+    return;
+  }
+  forms::single<frmMain>().SpcSearch(e, c);
+  unload();
+}
+
+void frmSpc::cmdCancel_Click() { unload(); }

@@ -1,0 +1,256 @@
+#include "query/frm_dict_setting.h"
+
+#include "tests/unit/support/file_layer.h"
+#include "tests/windows/support/query_test.h"
+
+namespace wintest {
+namespace {
+
+class FrmDictSetting : public QueryTest {
+ protected:
+  static frmdictSetting& settings() { return forms::single<frmdictSetting>(); }
+
+  frmdictSetting& openSettings() {
+    auto& window = opened<frmdictSetting>();
+    EXPECT_TRUE(eventually([&] { return GetFocus() == window.TreeView2.handle(); }));
+    return window;
+  }
+  static void choose(int node) { input::click(nodePoint(settings().TreeView2, node)); }
+
+  /// Which rows of [Index] are flagged, as a number: 1 for id 1, 10 for id 2 ...
+  static std::int64_t flags() {
+    return stored(
+        "select sum(case id when 1 then 1 when 2 then 10 when 3 then 100 else 1000 end)"
+        " from [Index] where [default]=1");
+  }
+  static bool flagsBecome(std::int64_t expected) {
+    return eventually([=] { return flags() == expected; });
+  }
+
+  /// Expects the failure of a click on node 1 with the engine's own words, and nothing changed.
+  void expectFailure(std::u16string_view words) {
+    choose(1);
+    ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
+    const auto seen = boxes.take();
+    EXPECT_EQ(seen[0].text, words);
+    EXPECT_EQ(seen[0].icon, Icon::error);
+    EXPECT_EQ(settings().TreeView2.selected(), 3U);
+    EXPECT_EQ(textsOf(settings().TreeView2).size(), 4U);
+  }
+};
+
+TEST_F(FrmDictSetting, ListsAllDictionariesTheHiddenOnesToo) {
+  frmdictSetting& window = openSettings();
+  EXPECT_EQ(textsOf(window.TreeView2), (Texts{u"化学", u"计算机", u"医学", u"隐藏"}));
+  EXPECT_EQ(window.TreeView2.selected(), 3U);
+  EXPECT_EQ(window.Adodc1.recordSource(), u"select * from [index] order by Cname");
+}
+
+TEST_F(FrmDictSetting, ShowsItsCaptionAndItsHint) {
+  frmdictSetting& window = openSettings();
+  wchar_t caption[64] = L"";
+  GetWindowTextW(window.handle(), caption, 64);
+  EXPECT_STREQ(caption, L"字典设置");
+  EXPECT_EQ(window.Text3.text(), u"   选择默认查词词典，在多功能查询窗体启动时将直接选择该词典。");
+  window.Text3.setFocus();
+  input::type(L"x");
+  passTime(40);
+  EXPECT_EQ(window.Text3.text().front(), u' ');
+}
+
+TEST_F(FrmDictSetting, AClickMovesTheDefault) {
+  openSettings();
+  choose(1);
+  EXPECT_TRUE(flagsBecome(10));
+  choose(4);
+  EXPECT_TRUE(flagsBecome(1000));
+  EXPECT_EQ(settings().TreeView2.selected(), 4U);
+}
+
+// The engine leaves a file alone whose content stays the same, but asks for the right to write.
+TEST_F(FrmDictSetting, AClickOnTheDefaultWritesAgain) {
+  openSettings();
+  {
+    support::Writer other(besideProgram());
+    other.run("begin immediate");
+    choose(3);
+    expectBox(u"database is locked", Icon::error);
+    other.run("rollback");
+  }
+  const POINT point = nodePoint(settings().TreeView2, 3);
+  input::click({point.x + 12, point.y});
+  passTime(60);
+  EXPECT_EQ(flags(), 1);
+}
+
+TEST_F(FrmDictSetting, MovingTheHighlightWritesNothing) {
+  openSettings();
+  int changes = 0;
+  {
+    const support::FileLayer layer([&] {
+      ++changes;
+      return SQLITE_OK;
+    });
+    for (const WORD key : std::initializer_list<WORD>{VK_UP, VK_HOME, VK_DOWN, VK_END})
+      input::key(key);
+    ASSERT_TRUE(eventually([] { return settings().TreeView2.selected() == 4; }));
+    input::rightClick(nodePoint(settings().TreeView2, 1));
+    passTime(60);
+    input::key(VK_ESCAPE);
+    ASSERT_TRUE(eventually([] { return !forms::isLoaded<frmdictSetting>(); }));
+  }
+  EXPECT_EQ(changes, 0);
+  EXPECT_EQ(flags(), 1);
+}
+
+TEST_F(FrmDictSetting, SpaceAndEnterWrite) {
+  openSettings();
+  input::key(VK_HOME);
+  ASSERT_TRUE(eventually([] { return settings().TreeView2.selected() == 1; }));
+  input::key(VK_SPACE);
+  EXPECT_TRUE(flagsBecome(10));
+  input::key(VK_DOWN);
+  ASSERT_TRUE(eventually([] { return settings().TreeView2.selected() == 2; }));
+  input::key(VK_RETURN);
+  EXPECT_TRUE(flagsBecome(100));
+}
+
+TEST_F(FrmDictSetting, SeveralDefaultsAreReducedByTheFirstClick) {
+  store("update [Index] set [default]=1 where id in (2,4)");
+  openSettings();
+  EXPECT_EQ(settings().TreeView2.selected(), 4U);
+  choose(2);
+  EXPECT_TRUE(flagsBecome(100));
+}
+
+TEST_F(FrmDictSetting, ClosingItFillsTheQueryWindowAnew) {
+  open();
+  openSettings();
+  choose(2);
+  ASSERT_TRUE(flagsBecome(100));
+  EXPECT_EQ(form().selectedTable(), u"med");
+  settings().unload();
+  EXPECT_EQ(form().selectedTable(), u"comp");
+  EXPECT_EQ(form().TreeView1.selected(), 2U);
+}
+
+TEST_F(FrmDictSetting, AHiddenDefaultMakesTheQueryWindowTakeTheFirst) {
+  open();
+  openSettings();
+  choose(4);
+  ASSERT_TRUE(flagsBecome(1000));
+  settings().unload();
+  EXPECT_EQ(form().selectedTable(), u"chem");
+}
+
+TEST_F(FrmDictSetting, ClosingItOpensNoQueryWindow) {
+  openSettings();
+  settings().unload();
+  EXPECT_FALSE(forms::isLoaded<frmMain>());
+  EXPECT_FALSE(user::MainOpen);
+}
+
+TEST_F(FrmDictSetting, AFailingQueryWindowIsAnUncaughtError) {
+  open();
+  openSettings();
+  store("drop table [Index]");
+  settings().unload();
+  expectBox(u"no such table: Index", Icon::error);
+  EXPECT_FALSE(forms::isLoaded<frmdictSetting>());
+  EXPECT_EQ(form().TreeView1.count(), 3U);
+}
+
+TEST_F(FrmDictSetting, WithoutACatalogueTheEnginesWordsAreShown) {
+  store("drop table [Index]");
+  forms::single<frmdictSetting>();
+  expectBox(u"no such table: index", Icon::error);
+  opened<frmdictSetting>();
+  EXPECT_EQ(settings().TreeView2.count(), 0U);
+}
+
+TEST_F(FrmDictSetting, AFileThatMayNotBeWrittenIsTold) {
+  openSettings();
+  // Permissions do not bind every user; a handle that lets nobody else write does.
+  HANDLE file = CreateFileW(besideProgram().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  ASSERT_NE(file, INVALID_HANDLE_VALUE);
+  expectFailure(u"attempt to write a readonly database");
+  CloseHandle(file);
+  EXPECT_EQ(flags(), 1);
+  choose(2);
+  EXPECT_TRUE(flagsBecome(100));
+}
+
+TEST_F(FrmDictSetting, AFileThatOthersHoldIsToldWithinSeconds) {
+  openSettings();
+  {
+    support::Writer other(besideProgram());
+    other.run("begin immediate");
+    const ULONGLONG start = GetTickCount64();
+    expectFailure(u"database is locked");
+    EXPECT_LT(GetTickCount64() - start, 3'000U);
+    other.run("rollback");
+  }
+  EXPECT_EQ(flags(), 1);
+}
+
+TEST_F(FrmDictSetting, AFullDiskIsTold) {
+  openSettings();
+  {
+    const support::FileLayer full([] { return SQLITE_FULL; });
+    expectFailure(u"database or disk is full");
+  }
+  EXPECT_EQ(flags(), 1);
+  choose(2);
+  EXPECT_TRUE(flagsBecome(100));
+}
+
+TEST_F(FrmDictSetting, AfterADiskThatFilledUpBetweenBothRowsTheNextClickRepairs) {
+  int changes = 0;
+  openSettings();
+  {
+    const support::FileLayer counting([&] {
+      ++changes;
+      return SQLITE_OK;
+    });
+    choose(1);
+    ASSERT_TRUE(flagsBecome(10));
+  }
+  settings().unload();
+  store("update [Index] set [default]=(id=1)");
+  openSettings();
+  {
+    // Each of the two rows takes half of them.
+    const support::FileLayer full(
+        [left = changes / 2]() mutable { return left-- > 0 ? SQLITE_OK : SQLITE_FULL; });
+    choose(1);
+    expectBox(u"database or disk is full", Icon::error);
+  }
+  EXPECT_EQ(flags(), 11);
+  EXPECT_EQ(settings().TreeView2.selected(), 3U);
+  choose(2);
+  EXPECT_TRUE(flagsBecome(100));
+}
+
+TEST_F(FrmDictSetting, CaptureRestsFromItsActivationToItsEnd) {
+  ScreenWord::StartCapture();
+  openSettings();
+  EXPECT_TRUE(rests());
+  ScreenWord::StartCapture();
+  open();
+  openSettings();
+  EXPECT_TRUE(rests());
+  settings().unload();
+  EXPECT_TRUE(captureRuns());
+}
+
+TEST_F(FrmDictSetting, TabReachesTheHintAndLeavesIt) {
+  frmdictSetting& window = openSettings();
+  input::key(VK_TAB);
+  ASSERT_TRUE(eventually([&] { return GetFocus() == window.Text3.handle(); }));
+  input::key(VK_TAB);
+  EXPECT_TRUE(eventually([&] { return GetFocus() == window.TreeView2.handle(); }));
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,78 @@
+#include "forms/dpi.h"
+#include "query/layout.h"
+#include "tests/windows/support/query_test.h"
+
+namespace wintest {
+namespace {
+
+class FrmMainLayout : public QueryTest {
+ protected:
+  static void expectAt(const forms::Widget& widget, const query::Box& box) {
+    EXPECT_EQ(widget.left(), box.left);
+    EXPECT_EQ(widget.top(), box.top);
+    EXPECT_EQ(widget.width(), box.width);
+    EXPECT_EQ(widget.height(), box.height);
+  }
+  static void expectLaidOut() {
+    const frmMain& window = form();
+    const query::Layout layout = query::layOut(window.width(), window.height());
+    expectAt(window.txtInput, layout.input);
+    expectAt(window.cmdOK, layout.ok);
+    expectAt(window.Command1, layout.advanced);
+    expectAt(window.cmdSpc, layout.special);
+    expectAt(window.TreeView1, layout.dictionaries);
+    expectAt(window.TreeView2, layout.results);
+  }
+  static RECT workArea() { return forms::monitorOf(form().handle()).work; }
+};
+
+TEST_F(FrmMainLayout, OpensInItsSizeAndFollowsTheWindow) {
+  frmMain& window = open();
+  EXPECT_EQ(window.width(), query::kOpeningWidth);
+  EXPECT_EQ(window.height(), query::kOpeningHeight);
+  expectLaidOut();
+  window.setSize(12000, 9000);
+  expectLaidOut();
+  window.setSize(7000, 4000);
+  expectLaidOut();
+}
+
+TEST_F(FrmMainLayout, ShowsMoreThanTenLines) {
+  open();
+  form().TreeView1.select(2);
+  form().TreeView1.onNodeClick.raise(2);
+  easy(u"bit");
+  forms::doEvents();
+  EXPECT_GE(SendMessageW(form().TreeView2.handle(), TVM_GETVISIBLECOUNT, 0, 0), 10);
+}
+
+TEST_F(FrmMainLayout, OpensWhollyOnTheScreen) {
+  open();
+  const RECT rect = rectOf(form().handle());
+  const RECT work = workArea();
+  EXPECT_GE(rect.left, work.left);
+  EXPECT_GE(rect.top, work.top);
+  EXPECT_LE(rect.right, work.right);
+  EXPECT_LE(rect.bottom, work.bottom);
+}
+
+TEST_F(FrmMainLayout, AWindowThatIsTooLargeIsMadeToFit) {
+  open().setSize(30000, 30000);
+  form().centre();
+  const RECT rect = rectOf(form().handle());
+  const RECT work = workArea();
+  EXPECT_EQ(rect.right - rect.left, work.right - work.left);
+  EXPECT_EQ(rect.bottom - rect.top, work.bottom - work.top);
+  expectLaidOut();
+}
+
+TEST_F(FrmMainLayout, TheUserCannotMakeItUselesslySmall) {
+  open();
+  MINMAXINFO limits{};
+  SendMessageW(form().handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+  EXPECT_GE(limits.ptMinTrackSize.x, forms::toPixels(query::kLeastWidth, 96) - 10);
+  EXPECT_GE(limits.ptMinTrackSize.y, forms::toPixels(query::kLeastHeight, 96) - 10);
+}
+
+}  // namespace
+}  // namespace wintest

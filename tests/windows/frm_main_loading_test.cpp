@@ -1,0 +1,115 @@
+#include "tests/windows/support/query_test.h"
+
+namespace wintest {
+namespace {
+
+class FrmMainLoading : public QueryTest {};
+
+TEST_F(FrmMainLoading, ListsTheShownDictionariesWithPictures) {
+  frmMain& window = open();
+  EXPECT_EQ(textsOf(window.TreeView1), (Texts{u"化学", u"计算机", u"医学"}));
+  const auto pictures = reinterpret_cast<HIMAGELIST>(
+      SendMessageW(window.TreeView1.handle(), TVM_GETIMAGELIST, TVSIL_NORMAL, 0));
+  EXPECT_EQ(ImageList_GetImageCount(pictures), 1);
+}
+
+TEST_F(FrmMainLoading, SelectsTheDefaultDictionary) {
+  EXPECT_EQ(open().TreeView1.selected(), 3U);
+  EXPECT_EQ(form().selectedTable(), u"med");
+}
+
+TEST_F(FrmMainLoading, ShowsItsCaptionsAndHints) {
+  frmMain& window = open();
+  wchar_t caption[64] = L"";
+  GetWindowTextW(window.handle(), caption, 64);
+  EXPECT_STREQ(caption, L" 多功能查询 V1.3");
+  EXPECT_EQ(window.cmdOK.toolTip(), u"普通查询");
+  EXPECT_EQ(window.Command1.toolTip(), u"高级搜索");
+}
+
+TEST_F(FrmMainLoading, TellsThatItIsOpen) {
+  open();
+  EXPECT_TRUE(user::MainOpen);
+  form().unload();
+  EXPECT_FALSE(user::MainOpen);
+}
+
+TEST_F(FrmMainLoading, WithoutADefaultItSelectsTheFirst) {
+  store("update [Index] set [default]=0");
+  EXPECT_EQ(open().TreeView1.selected(), 1U);
+  EXPECT_EQ(form().selectedTable(), u"chem");
+}
+
+TEST_F(FrmMainLoading, AHiddenDefaultCountsAsNone) {
+  store("update [Index] set [default]=(id=4)");
+  EXPECT_EQ(open().TreeView1.selected(), 1U);
+}
+
+TEST_F(FrmMainLoading, OfSeveralDefaultsTheLastWins) {
+  store("update [Index] set [default]=1 where id in (2,3)");
+  EXPECT_EQ(open().TreeView1.selected(), 3U);
+  form().unload();
+  store("update [Index] set [default]=0 where id=1");
+  EXPECT_EQ(open().TreeView1.selected(), 2U);
+  EXPECT_EQ(form().selectedTable(), u"comp");
+}
+
+TEST_F(FrmMainLoading, WithNoDictionaryShownItSaysSoAndSearchesDoToo) {
+  store("update [Index] set Isshow=0");
+  forms::single<frmMain>();
+  expectBox(kChoose, Icon::warning);
+  open();
+  EXPECT_EQ(textsOf(form().TreeView1), Texts{});
+  easy(u"a");
+  expectBox(kChoose, Icon::warning);
+  complex(u"a");
+  expectBox(kChoose, Icon::warning);
+}
+
+TEST_F(FrmMainLoading, FilledAgainItFollowsTheDefault) {
+  open();
+  store("update [Index] set [default]=(id=3)");
+  form().iniTree();
+  EXPECT_EQ(form().selectedTable(), u"comp");
+  EXPECT_EQ(form().TreeView1.selected(), 2U);
+  EXPECT_EQ(form().TreeView1.count(), 3U);
+}
+
+TEST_F(FrmMainLoading, FilledAgainWithNoneShownItKeepsItsTable) {
+  open();
+  store("update [Index] set Isshow=0");
+  form().iniTree();
+  expectBox(kChoose, Icon::warning);
+  EXPECT_EQ(form().TreeView1.count(), 0U);
+  EXPECT_EQ(form().selectedTable(), u"med");
+  easy(u"liver");
+  EXPECT_EQ(lines(), (Texts{u"liver          肝"}));
+}
+
+TEST_F(FrmMainLoading, WithoutACatalogueItSaysSoAndStays) {
+  store("drop table [Index]");
+  forms::single<frmMain>();
+  expectBox(kUnexpected, Icon::error);
+  open();
+  EXPECT_TRUE(user::MainOpen);
+  easy(u"a");
+  expectBox(kChoose, Icon::warning);
+}
+
+TEST_F(FrmMainLoading, WithoutADatabaseItSaysSoAndStays) {
+  user::ConnectionString = u"Provider=x;Data Source=C:\\no such folder\\kk.dat;";
+  forms::single<frmMain>();
+  expectBox(kUnexpected, Icon::error);
+  open();
+}
+
+TEST_F(FrmMainLoading, ShowingItAgainBringsTheSameWindow) {
+  frmMain& window = open();
+  easy(u"liver");
+  window.show();
+  EXPECT_EQ(&forms::single<frmMain>(), &window);
+  EXPECT_EQ(lines().size(), 1U);
+}
+
+}  // namespace
+}  // namespace wintest

@@ -1,0 +1,86 @@
+// The commands that open the windows of the subject dictionaries, from the menu and the toolbar.
+#include "app/frm_about.h"
+#include "query/frm_dict_setting.h"
+#include "query/frm_main.h"
+#include "tests/windows/support/frm_top_test.h"
+#include "tests/windows/support/query_test.h"
+
+namespace wintest {
+namespace {
+
+// Numbers of the items without the separators, as the Down key counts them.
+constexpr int kMultiQuery = 1;
+constexpr int kDictSettings = 4;
+constexpr int kAbout = 6;
+
+class FrmMenuWindows : public FrmTopTest {
+ protected:
+  FrmMenuWindows()
+      : dictionary_(subjectSql() +
+                    ";create table edictidx (word text);"
+                    "insert into edictidx values ('a')") {}
+  ~FrmMenuWindows() override {
+    unloadAll();
+    forms::Registry::instance().purge();
+  }
+
+  template <class F>
+  static bool opens() {
+    return eventually([] {
+      return forms::isLoaded<F>() && GetForegroundWindow() == forms::single<F>().handle();
+    });
+  }
+
+ private:
+  OtherDictionary dictionary_;
+};
+
+TEST_F(FrmMenuWindows, TheFirstItemOpensTheQueryWindow) {
+  start();
+  chooseFromMenu(kMultiQuery);
+  ASSERT_TRUE(opens<frmMain>());
+  EXPECT_TRUE(user::MainOpen);
+  EXPECT_TRUE(eventually([] { return !captureRuns(); }));
+}
+
+TEST_F(FrmMenuWindows, TheFirstItemTellsThatItIsOpenEvenIfItWas) {
+  start();
+  opened<frmMain>();
+  user::MainOpen = false;
+  chooseFromMenu(kMultiQuery);
+  ASSERT_TRUE(opens<frmMain>());
+  EXPECT_TRUE(user::MainOpen);
+}
+
+TEST_F(FrmMenuWindows, TheFourthOpensTheSettings) {
+  start();
+  chooseFromMenu(kDictSettings);
+  ASSERT_TRUE(opens<frmdictSetting>());
+  EXPECT_FALSE(user::MainOpen);
+  EXPECT_TRUE(eventually([] { return !captureRuns(); }));
+  forms::single<frmdictSetting>().unload();
+  EXPECT_TRUE(captureRuns());
+}
+
+TEST_F(FrmMenuWindows, TheSixthOpensTheAboutBox) {
+  start();
+  chooseFromMenu(kAbout);
+  ASSERT_TRUE(opens<frmAbout>());
+  EXPECT_TRUE(eventually([] { return !captureRuns(); }));
+  forms::single<frmAbout>().unload();
+  EXPECT_TRUE(captureRuns());
+}
+
+TEST_F(FrmMenuWindows, TheToolbarOpensTheQueryWindowAndTheSettings) {
+  start();
+  click(top().cmdSub);
+  ASSERT_TRUE(opens<frmMain>());
+  EXPECT_TRUE(user::MainOpen);
+  click(top().cmdDictSetting);
+  ASSERT_TRUE(opens<frmdictSetting>());
+  click(top().cmdSub);
+  EXPECT_TRUE(opens<frmMain>());
+}
+
+}  // namespace
+}  // namespace wintest

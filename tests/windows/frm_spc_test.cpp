@@ -1,0 +1,189 @@
+#include "query/frm_spc.h"
+
+#include "tests/windows/support/query_test.h"
+
+namespace wintest {
+namespace {
+
+class FrmSpc : public QueryTest {
+ protected:
+  static constexpr const char16_t* kBothBoxes = u"请在英文和中文的文本框里输入内容！";
+
+  static frmSpc& dialog() { return forms::single<frmSpc>(); }
+
+  /// Opens both windows by the button and waits until the dialog has the focus.
+  void openBoth() {
+    open();
+    press(form().cmdSpc);
+    awaitActive(dialog());
+    ASSERT_TRUE(eventually([] { return GetFocus() == dialog().txtE.handle(); }));
+  }
+  static void fill(const std::u16string& english, const std::u16string& chinese) {
+    dialog().txtE.setText(english);
+    dialog().txtC.setText(chinese);
+  }
+  static bool closed() {
+    return eventually([] { return !forms::isLoaded<frmSpc>(); });
+  }
+  static std::u16string sql() { return form().Adodc1.recordSource(); }
+};
+
+TEST_F(FrmSpc, OpensAboveItsOwnerWhichStaysUsable) {
+  openBoth();
+  wchar_t caption[64] = L"";
+  GetWindowTextW(dialog().handle(), caption, 64);
+  EXPECT_STREQ(caption, L"特殊查询");
+  EXPECT_EQ(GetWindow(dialog().handle(), GW_OWNER), form().handle());
+  EXPECT_TRUE(IsWindowEnabled(form().handle()));
+  form().show();
+  awaitActive(form());
+  EXPECT_TRUE(isAbove(dialog().handle(), form().handle()));
+  easy(u"liver");
+  EXPECT_EQ(lines().size(), 1U);
+}
+
+TEST_F(FrmSpc, SearchesForBothTextsAndCloses) {
+  openBoth();
+  fill(u"  heart  ", u"心");
+  press(dialog().cmdOK);
+  EXPECT_TRUE(closed());
+  EXPECT_EQ(sql(),
+            u"select top 200 word,meaning from med where  word like '%heart%' and meaning like"
+            u" '%心%'");
+  EXPECT_EQ(lines().size(), 4U);
+  EXPECT_EQ(form().txtInput.text(), u"特殊查询 heart：心");
+}
+
+TEST_F(FrmSpc, EnterIsOkAndEscIsCancel) {
+  openBoth();
+  input::type(L"liver");
+  ASSERT_TRUE(eventually([] { return dialog().txtE.text() == u"liver"; }));
+  input::key(VK_TAB);
+  ASSERT_TRUE(eventually([] { return GetFocus() == dialog().txtC.handle(); }));
+  input::type(L"肝");
+  ASSERT_TRUE(eventually([] { return dialog().txtC.text() == u"肝"; }));
+  input::key(VK_RETURN);
+  ASSERT_TRUE(closed());
+  EXPECT_EQ(lines(), (Texts{u"liver          肝"}));
+  press(form().cmdSpc);
+  awaitActive(dialog());
+  input::key(VK_ESCAPE);
+  EXPECT_TRUE(closed());
+  EXPECT_EQ(lines().size(), 1U);
+}
+
+TEST_F(FrmSpc, TabGoesThroughItAndCancelCloses) {
+  openBoth();
+  for (const forms::Widget* next : std::initializer_list<const forms::Widget*>{
+           &dialog().txtC, &dialog().cmdOK, &dialog().cmdCancel, &dialog().txtE}) {
+    input::key(VK_TAB);
+    EXPECT_TRUE(eventually([&] { return GetFocus() == next->handle(); }));
+  }
+  press(dialog().cmdCancel);
+  EXPECT_TRUE(closed());
+}
+
+TEST_F(FrmSpc, AnEmptyBoxIsToldAndNothingIsSearched) {
+  openBoth();
+  const std::u16string before = sql();
+  for (const auto& [english, chinese] : std::vector<std::pair<std::u16string, std::u16string>>{
+           {u"heat", u""}, {u"", u"热"}, {u"   ", u"  "}, {u"", u""}}) {
+    fill(english, chinese);
+    press(dialog().cmdOK);
+    expectBox(kBothBoxes, Icon::warning);
+    EXPECT_TRUE(forms::isLoaded<frmSpc>());
+  }
+  EXPECT_EQ(sql(), before);
+  EXPECT_EQ(form().txtInput.text(), u"");
+}
+
+TEST_F(FrmSpc, NothingFoundIsToldAndRecordedAllTheSame) {
+  openBoth();
+  fill(u"zzz", u"热");
+  press(dialog().cmdOK);
+  expectBox(kNothing, Icon::information);
+  EXPECT_TRUE(closed());
+  EXPECT_EQ(form().txtInput.text(), u"特殊查询 zzz：热");
+}
+
+TEST_F(FrmSpc, StarsAndQuestionMarksAreNoWildcards) {
+  openBoth();
+  fill(u"h*t", u"心");
+  press(dialog().cmdOK);
+  expectBox(kNothing, Icon::information);
+  press(form().cmdSpc);
+  fill(u"h%t b_a", u"心");
+  press(dialog().cmdOK);
+  EXPECT_TRUE(closed());
+  EXPECT_EQ(lines(), (Texts{u"heart beat          心搏"}));
+}
+
+TEST_F(FrmSpc, AQuoteIsAnUncaughtErrorWithTheEnginesWords) {
+  openBoth();
+  easy(u"heart");
+  const Texts before = lines();
+  for (const auto& [english, chinese] : std::vector<std::pair<std::u16string, std::u16string>>{
+           {u"heart's", u"心"}, {u"heart", u"'"}, {u"' or", u"'"}}) {
+    fill(english, chinese);
+    press(dialog().cmdOK);
+    ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
+    const auto seen = boxes.take();
+    EXPECT_EQ(seen[0].icon, Icon::error);
+    EXPECT_EQ(seen[0].title, u"");
+    EXPECT_NE(seen[0].text, kUnexpected);
+    EXPECT_FALSE(seen[0].text.empty());
+    EXPECT_EQ(dialog().txtE.text(), english);
+  }
+  EXPECT_EQ(lines(), before);
+  EXPECT_EQ(form().txtInput.text(), u"heart");
+  // The program goes on.
+  fill(u"heart", u"心");
+  press(dialog().cmdOK);
+  EXPECT_TRUE(closed());
+}
+
+TEST_F(FrmSpc, AQuoteBeforeThousandsOfCharactersFitsTheBox) {
+  openBoth();
+  fill(u"'" + std::u16string(5000, u'x'), u"心");
+  press(dialog().cmdOK);
+  ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
+  EXPECT_LE(boxes.take()[0].text.size(), 301U);
+}
+
+TEST_F(FrmSpc, WithoutADictionaryTheSearchFails) {
+  store("update [Index] set Isshow=0");
+  forms::single<frmMain>();
+  expectBox(kChoose, Icon::warning);
+  openBoth();
+  fill(u"heart", u"心");
+  press(dialog().cmdOK);
+  ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
+  EXPECT_EQ(boxes.take()[0].icon, Icon::error);
+  EXPECT_TRUE(forms::isLoaded<frmSpc>());
+}
+
+TEST_F(FrmSpc, GoesWithItsOwner) {
+  openBoth();
+  form().unload();
+  EXPECT_FALSE(forms::isLoaded<frmSpc>());
+  EXPECT_FALSE(forms::isLoaded<frmMain>());
+  EXPECT_FALSE(user::MainOpen);
+  EXPECT_TRUE(captureRuns());
+}
+
+TEST_F(FrmSpc, CaptureRestsFromItsActivationToItsEnd) {
+  ScreenWord::StartCapture();
+  openBoth();
+  EXPECT_TRUE(rests());
+  ScreenWord::StartCapture();
+  form().show();
+  awaitActive(form());
+  dialog().show();
+  awaitActive(dialog());
+  EXPECT_TRUE(rests());
+  dialog().unload();
+  EXPECT_TRUE(captureRuns());
+}
+
+}  // namespace
+}  // namespace wintest
