@@ -81,7 +81,8 @@ std::size_t TreeView::selected() const {
 void TreeView::deselect() {
   send(TVM_SELECTITEM, TVGN_CARET, 0);
   send(WM_VSCROLL, SB_TOP);
-  send(WM_HSCROLL, SB_LEFT);
+  // Not every system's control knows SB_LEFT.
+  send(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 0));
 }
 
 void TreeView::setPicture(const Picture& picture) {

@@ -237,7 +237,8 @@ TEST_F(FrmDictSetting, CaptureRestsFromItsActivationToItsEnd) {
   openSettings();
   EXPECT_TRUE(rests());
   ScreenWord::StartCapture();
-  open();
+  open().TreeView1.setFocus();
+  ASSERT_TRUE(runs());
   openSettings();
   EXPECT_TRUE(rests());
   settings().unload();
