@@ -18,6 +18,7 @@ enum class MenuItem {
   multiFunction = 1,
   quickLookup = 2,
   capture = 3,
+  dictionarySettings = 4,
   help = 5,
   about = 6,
   homePage = 7,
