@@ -54,6 +54,7 @@ void frmScreenWord::Form_Unload() {
 }
 
 void frmScreenWord::timScreenWord1_Timer() {
+  if (handingOver_) return;
   try {
     catchWord();
   } catch (const std::exception&) {
@@ -71,11 +72,21 @@ void frmScreenWord::catchWord() {
 }
 
 void frmScreenWord::Timer1_Timer() {
-  if (!capture::opensPopup(ScreenWord::strScreenWord)) return;
-  std::u16string word = ScreenWord::GetFirstWord(ScreenWord::strScreenWord);
-  auto& popup = forms::single<frmScreenWordMeaning>();
-  popup.showMeaning(word, popup.Adodc1);
+  // The popup handles events while it opens, further ticks among them.
+  if (handingOver_ || !capture::opensPopup(ScreenWord::strScreenWord)) return;
+  handingOver_ = true;
+  try {
+    handOver(ScreenWord::GetFirstWord(ScreenWord::strScreenWord));
+  } catch (const std::exception&) {
+    // No popup then, and nothing to trouble the user with in the middle of other work.
+  }
   ScreenWord::strScreenWord.clear();
   // A popup that the pointer left while it was opening has closed already, and capture goes on.
   if (forms::isLoaded<frmScreenWordMeaning>()) ScreenWord::StopCapture();
+  handingOver_ = false;
+}
+
+void frmScreenWord::handOver(std::u16string word) {
+  auto& popup = forms::single<frmScreenWordMeaning>();
+  if (forms::isLoaded<frmScreenWordMeaning>()) popup.showMeaning(word, popup.Adodc1);
 }

@@ -22,4 +22,7 @@ class frmScreenWord : public forms::Form {
   void timScreenWord1_Timer();
   void Timer1_Timer();
   void catchWord();
+  static void handOver(std::u16string word);
+
+  bool handingOver_ = false;
 };

@@ -37,8 +37,10 @@ frmScreenWordMeaning::frmScreenWordMeaning() : Form(design()), lookup_(user::Idx
 
 void frmScreenWordMeaning::Form_Load() {
   GetCursorPos(&StartPos);
-  // To the pointer's monitor while it is hidden: its fonts and sizes are those of that one.
-  SetWindowPos(handle(), nullptr, StartPos.x, StartPos.y, 0, 0,
+  // Wholly onto the pointer's monitor while it is hidden: its fonts and sizes are those of the one
+  // on which most of it lies.
+  const RECT monitor = forms::monitorAt(StartPos).bounds;
+  SetWindowPos(handle(), nullptr, monitor.left, monitor.top, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   Timer1.setEnabled(true);
   forms::doEvents();

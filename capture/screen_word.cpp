@@ -35,7 +35,7 @@ void takeWord() {
   std::array<char, kMostText + 1> buffer{};
   RECT wordPlace{};
   nhw32::BL_GetText32(buffer.data(), kMostText, &wordPlace);
-  strScreenWord = user::trimBlanks(fromAnsi(capture::reportedText(buffer)));
+  strScreenWord = pendingWord(buffer);
 }
 
 /// Covers a window with the strip while it lives, however the probe ends.
@@ -67,6 +67,10 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     // Nothing is pending then; the next probe asks again.
   }
   return 0;
+}
+
+std::u16string pendingWord(std::span<const char> buffer) {
+  return std::u16string(user::trimBlanks(fromAnsi(capture::reportedText(buffer))));
 }
 
 void CatchWordAt(const POINT& point) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "forms/win32.h"
@@ -19,6 +20,10 @@ inline WNDPROC OldWndProc = nullptr;
 
 /// The subclass procedure of frmScreenWord: takes reported words, passes on everything else.
 LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+/// What becomes pending of a reported word: the text before the first NUL, in the ANSI code page,
+/// without blanks around it. Throws std::length_error where there is no NUL.
+std::u16string pendingWord(std::span<const char> buffer);
 
 /// Probes the window under `point` (screen pixels): arms the service there where the window is one
 /// of text. Throws std::overflow_error for a point beyond 16 bits.

@@ -21,9 +21,10 @@ std::string ansiWord(std::u16string_view word, std::size_t capacity,
   std::string bytes;
   while (!word.empty()) {
     const std::size_t units = isPair(word) ? 2 : 1;
-    const std::string character = toBytes(plain(word.substr(0, units)));
-    if (bytes.size() + character.size() > capacity) break;
-    bytes += character;
+    const auto character = toBytes(plain(word.substr(0, units)));
+    if (!character) return {};
+    if (bytes.size() + character->size() > capacity) break;
+    bytes += *character;
     word.remove_prefix(units);
   }
   return bytes;

@@ -9,13 +9,17 @@
 namespace nhw32 {
 namespace {
 
-/// Of one character; letters that the code page lacks become the nearest it has.
-std::string toAnsi(std::u16string_view character) {
+/// Of one character; accented letters that the code page lacks become the nearest it has.
+std::optional<std::string> toAnsi(std::u16string_view character) {
   std::string bytes(8, '\0');
+  // UTF-8, which has them all, takes no such question.
+  BOOL lacking = FALSE;
+  BOOL* const asked = GetACP() == CP_UTF8 ? nullptr : &lacking;
   const int length =
       WideCharToMultiByte(CP_ACP, 0, reinterpret_cast<const wchar_t*>(character.data()),
                           static_cast<int>(character.size()), bytes.data(),
-                          static_cast<int>(bytes.size()), nullptr, nullptr);
+                          static_cast<int>(bytes.size()), nullptr, asked);
+  if (length == 0 || lacking != FALSE) return std::nullopt;
   bytes.resize(static_cast<std::size_t>(length));
   return bytes;
 }

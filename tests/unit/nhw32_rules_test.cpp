@@ -79,11 +79,18 @@ TEST(ChooseWay, CaseMatters) {
   EXPECT_EQ(wayFor(u""), Way::automation);
 }
 
-/// A code page in which Chinese characters take two bytes and pairs four.
-std::string bytesOf(std::u16string_view character) {
+/// A code page in which the Chinese character that it has takes two bytes and pairs four.
+std::optional<std::string> bytesOf(std::u16string_view character) {
   if (character.size() == 2) return "PAIR";
-  if (character[0] < 0x80) return {static_cast<char>(character[0])};
-  return character == u"典" ? "DD" : "??";
+  if (character[0] < 0x80) return std::string{static_cast<char>(character[0])};
+  if (character == u"典") return "DD";
+  return std::nullopt;
+}
+
+TEST(AnsiWord, WithACharacterThatTheCodePageLacksIsNone) {
+  EXPECT_EQ(ansiWord(u"字", 100, bytesOf), "");
+  EXPECT_EQ(ansiWord(u"word\u0416", 100, bytesOf), "");
+  EXPECT_EQ(ansiWord(u"\xD840", 4, bytesOf), "");
 }
 
 TEST(AnsiWord, IsCutAtAWholeCharacter) {
@@ -96,7 +103,6 @@ TEST(AnsiWord, IsCutAtAWholeCharacter) {
   EXPECT_EQ(ansiWord(u"典a", 1, bytesOf), "");
   EXPECT_EQ(ansiWord(u"\U00020000b", 5, bytesOf), "PAIRb");
   EXPECT_EQ(ansiWord(u"\U00020000b", 3, bytesOf), "");
-  EXPECT_EQ(ansiWord(u"\xD840", 4, bytesOf), "??");
   EXPECT_EQ(ansiWord(u"", 100, bytesOf), "");
 }
 

@@ -145,7 +145,7 @@ TEST_F(FrmScreenWordMeaning, SeveralLinesOfMeaningsWidenAndHeightenIt) {
   EXPECT_EQ(popup().txtOut.box().width, 6000);
   // Its connection would keep the file from being put back.
   popup().unload();
-  forms::doEvents();
+  forms::Registry::instance().purge();
 }
 
 TEST_F(FrmScreenWordMeaning, AHeadwordTooLongForItsWidthLeavesItHidden) {
@@ -167,6 +167,15 @@ TEST_F(FrmScreenWordMeaning, AMissingDatabaseEndsSilently) {
   EXPECT_EQ(show(u"data"), u"");
   EXPECT_FALSE(popupIsUp());
   EXPECT_EQ(boxes.count(), 0U);
+}
+
+TEST_F(FrmScreenWordMeaning, WhileHiddenItLiesWhollyOnThePointersMonitor) {
+  const RECT screen = forms::monitorAt(kPointer).bounds;
+  input::moveTo({screen.right - 5, screen.bottom - 5});
+  const RECT rect = rectOf(popup().handle());
+  RECT common{};
+  EXPECT_TRUE(IntersectRect(&common, &rect, &screen));
+  EXPECT_TRUE(EqualRect(&common, &rect));
 }
 
 TEST_F(FrmScreenWordMeaning, NearTheRightEdgeItEnds30PixelsBeforeIt) {

@@ -1,6 +1,8 @@
 #include "capture/nhw32/nhw32.h"
+#include "forms/dispatcher.h"
 #include "forms/registry.h"
 #include "tests/windows/support/capture_test.h"
+#include "tests/windows/support/shown_watch.h"
 
 namespace wintest {
 namespace {
@@ -120,11 +122,41 @@ TEST_F(FrmScreenWord, APointerThatRestsOnAWordReadsIt) {
 }
 
 TEST_F(FrmScreenWord, BlanksAroundAReportedWordDoNotCount) {
-  const PlainWindow edit(L"Edit", {200, 300, 900, 400}, L"    data    ");
-  input::moveTo(wordPoint(edit.handle(), 5));
-  ScreenWord::StartCapture();
+  report(ScreenWord::pendingWord(std::string("  hello  \0rest", 14)));
   ASSERT_TRUE(eventually([] { return popupIsUp(); }));
-  EXPECT_EQ(headword(), u"data");
+  EXPECT_EQ(headword(), u"hello");
+}
+
+TEST_F(FrmScreenWord, AReportedWordIsTextOfTheCodePageUpToItsNul) {
+  EXPECT_EQ(ScreenWord::pendingWord(std::string(" ab cd \0ef", 10)), u"ab cd");
+  EXPECT_EQ(ScreenWord::pendingWord(std::string("\xB4\xCA\xB5\xE4\0", 5)), u"词典");
+  EXPECT_EQ(ScreenWord::pendingWord(std::string("\0", 1)), u"");
+  EXPECT_THROW(ScreenWord::pendingWord(std::string("word")), std::length_error);
+}
+
+TEST_F(FrmScreenWord, AWordIsHandedOverOnceAlthoughThePopupHandlesEventsWhileItOpens) {
+  ScreenWord::StartCapture();
+  ScreenWord::strScreenWord = u"data";
+  // Runs while the popup opens, and takes so long that ticks are due behind it.
+  forms::Dispatcher::instance().post([] { Sleep(40); });
+  const ShownWatch watch(L"Lexilo.frmScreenWordMeaning");
+  host().Timer1.onTimer.raise();
+  EXPECT_TRUE(popupIsUp());
+  EXPECT_EQ(ShownWatch::times(), 1);
+  EXPECT_FALSE(captureRuns());
+}
+
+TEST_F(FrmScreenWord, APopupThatThePointerLeavesWhileItOpensDoesNotStopCapture) {
+  ScreenWord::StartCapture();
+  ScreenWord::strScreenWord = u"data";
+  forms::Dispatcher::instance().post([] {
+    input::moveTo({kNowhere.x - 100, kNowhere.y});
+    Sleep(60);
+  });
+  host().Timer1.onTimer.raise();
+  EXPECT_FALSE(forms::isLoaded<frmScreenWordMeaning>());
+  EXPECT_TRUE(captureRuns());
+  EXPECT_EQ(ScreenWord::strScreenWord, u"");
 }
 
 TEST_F(FrmScreenWord, AFailingLookupStopsCaptureUntilThePointerMoves) {
