@@ -2,7 +2,7 @@
 # Runs every test of Lexilo, setting up first what is missing.
 #
 #   ./test.sh              all of them
-#   ./test.sh unit format  only some layers: format unit threads wine-unit windows program dpi144 fuzz
+#   ./test.sh unit format  only some layers: format help unit threads wine-unit windows program dpi144 fuzz
 #
 # The last line says how many passed and failed; the exit status is 0 when none failed.
 set -euo pipefail
@@ -13,7 +13,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/scripts/setup.sh"
 source "$LEXILO_ROOT/scripts/lib/tests.sh"
 cd "$LEXILO_ROOT"
 
-all_layers=(format unit threads fuzz wine-unit windows program dpi144)
+all_layers=(format help unit threads fuzz wine-unit windows program dpi144)
 layers=("${@:-${all_layers[@]}}")
 for layer in "${layers[@]}"; do
   [[ " ${all_layers[*]} " == *" $layer "* ]] ||
@@ -35,6 +35,7 @@ trap 'exit 130' INT TERM
 set_up_tests
 
 wanted format && run_test format 60 scripts/format.sh --check
+wanted help && run_test help 20 node scripts/check_help.mjs
 
 if wanted unit wine-unit program dpi144; then
   build tools kkbuild

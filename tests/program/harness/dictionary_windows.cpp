@@ -136,9 +136,13 @@ SpecialQuery::SpecialQuery(const Process& program, const MultiQuery& owner) {
   chinese_ = boxes.at(1);
 }
 
-void SpecialQuery::ask(const std::wstring& english, const std::wstring& chinese) const {
+void SpecialQuery::fill(const std::wstring& english, const std::wstring& chinese) const {
   if (!english.empty()) typeInto(english_, english);
   if (!chinese.empty()) typeInto(chinese_, chinese);
+}
+
+void SpecialQuery::ask(const std::wstring& english, const std::wstring& chinese) const {
+  fill(english, chinese);
   input::click(centreOf(rectOf(buttonOf(window_, L"确定"))));
 }
 

@@ -62,7 +62,9 @@ class SpecialQuery {
   SpecialQuery(const Process& program, const MultiQuery& owner);
 
   [[nodiscard]] HWND window() const { return window_; }
-  /// Fills both boxes, where a text is given, and clicks 确定.
+  /// Fills both boxes, where a text is given.
+  void fill(const std::wstring& english, const std::wstring& chinese) const;
+  /// The same, and clicks 确定.
   void ask(const std::wstring& english, const std::wstring& chinese) const;
   void cancel() const;
 

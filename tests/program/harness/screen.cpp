@@ -73,4 +73,14 @@ void saveScreenshot(const std::string& file) {
   runBelow("import -window root " + file);
 }
 
+void saveScreenshot(const std::string& file, const RECT& rect) {
+  std::filesystem::create_directories(std::filesystem::path(file).parent_path());
+  const std::string place = std::to_string(rect.right - rect.left) + "x" +
+                            std::to_string(rect.bottom - rect.top) + "+" +
+                            std::to_string(rect.left) + "+" + std::to_string(rect.top);
+  // Without the time of day, which would make a new file of the same picture.
+  runBelow("import -window root -crop " + place + " +repage +set date:create +set date:modify " +
+           "-define png:exclude-chunks=date,time " + file);
+}
+
 }  // namespace harness

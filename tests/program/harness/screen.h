@@ -18,4 +18,7 @@ std::vector<COLORREF> iconPixels(const wchar_t* icon, SIZE size);
 /// ".png". Folders are made as needed.
 void saveScreenshot(const std::string& file);
 
+/// The same of a part of it.
+void saveScreenshot(const std::string& file, const RECT& rect);
+
 }  // namespace harness
