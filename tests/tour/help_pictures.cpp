@@ -42,11 +42,7 @@ class Photographer {
 
  private:
   void takeMenu(const Lexilo& lexilo) const {
-    RECT both{};
-    const RECT bar = rectOf(lexilo.toolbar());
-    const RECT menu = rectOf(lexilo.dropMenu());
-    UnionRect(&both, &bar, &menu);
-    take(both, "menu");
+    take(rectOf(lexilo.dropMenu()), "menu");
     popup_menu::dismiss(lexilo.process());
   }
 
@@ -55,7 +51,7 @@ class Photographer {
     placeWindow(window.window(), {300, 200, 800, 560});
     window.lookUp(L"catalyst");
     input::moveTo(kAwayFromTexts);
-    take(rectOf(window.window()), "quick-lookup");
+    takeWindow(window.window(), "quick-lookup");
     window.close();
   }
 
@@ -64,18 +60,18 @@ class Photographer {
     placeWindow(window.window(), {200, 150, 960, 620});
     window.searchFor(L"hepat", L"确定", L"hepat");
     input::moveTo(kAwayFromTexts);
-    take(rectOf(window.window()), "multi-dictionary");
+    takeWindow(window.window(), "multi-dictionary");
     {
       const SpecialQuery dialog(lexilo.process(), window);
       dialog.fill(L"heat", L"热");
       input::moveTo(kAwayFromTexts);
-      take(rectOf(dialog.window()), "special");
+      takeWindow(dialog.window(), "special");
       dialog.cancel();
     }
     window.close();
     const DictionarySettings settings(lexilo);
     input::moveTo(kAwayFromTexts);
-    take(rectOf(settings.window()), "settings");
+    takeWindow(settings.window(), "settings");
     settings.close();
   }
 
@@ -89,9 +85,16 @@ class Photographer {
     input::moveTo({place.x + 3, place.y + 6});
     (void)popup.waitFor(L"catalyst");
     Sleep(kReactionTime);
-    take(rectOf(notepad.window()), "popup");
+    takeWindow(notepad.window(), "popup");
     input::moveTo(kAwayFromTexts);
     popup.waitUntilClosed();
+  }
+
+  /// The window manager's frame is thinner than the one that the program knows of.
+  void takeWindow(HWND window, const std::string& name) const {
+    RECT rect = rectOf(window);
+    InflateRect(&rect, -3, -3);
+    take(rect, name);
   }
 
   void take(const RECT& rect, const std::string& name) const {
