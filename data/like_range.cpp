@@ -8,10 +8,16 @@
 namespace data {
 namespace {
 
-bool isAsciiLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+/// Whether a number written as a text may begin with `c`.
+bool mayBeginNumber(char c) {
+  return (c >= '0' && c <= '9') || c == '+' || c == '-' || c == '.' || c == ' ';
+}
 
 /// Whether LIKE takes `c` for itself, and the next higher character is ASCII as well.
 bool isFixed(char c) { return c >= ' ' && c < '\x7F' && c != '%' && c != '_'; }
+
+/// What makes any text one that is no number, and puts it behind itself.
+constexpr char kNoNumber = 'z';
 
 std::string unquoted(std::string_view literal) {
   std::string text;
@@ -39,12 +45,15 @@ std::string condition(std::string_view column, std::string_view comparison, std:
 std::string likeRange(std::string_view column, std::string_view pattern) {
   std::string first = unquoted(pattern);
   first.erase(std::find_if_not(first.begin(), first.end(), isFixed), first.end());
-  if (first.empty() || !isAsciiLetter(first.front())) return {};
+  if (first.empty()) return {};
   // The next character behind the folded one weighs more, so that the text made with it comes
   // behind all that begin like `first`.
   std::string behind = first;
   const char16_t folded = text::foldCase(static_cast<unsigned char>(behind.back()));
   behind.back() = static_cast<char>(folded + 1);
+  // A column of numbers takes a text that looks like a number for one. Any other text comes behind
+  // all numbers: as an upper bound it keeps those that are LIKE the pattern, as a lower bound not.
+  if (mayBeginNumber(first.front())) return condition(column, "<", behind + kNoNumber);
   return condition(column, ">=", first) + condition(column, "<", behind);
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tests/fuzz/fuzz_input.h"
+#include "text/like_pattern.h"
 #include "text/order.h"
 #include "text/utf.h"
 
@@ -40,6 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::u16string textUnits = text::toUtf16(text);
   const bool found = text::likeUtf8(pattern, text);
   require(found == text::like(patternUnits, textUnits));
+  require(found == text::LikePattern(pattern).matches(text));
   constexpr std::size_t kQuick = 1 << 18;
   if (pattern.size() * text.size() <= kQuick) {
     require(found == likeByTable(patternUnits, textUnits));

@@ -84,6 +84,16 @@ TEST_F(DatabaseTest, MatchesLikeWithoutCase) {
   EXPECT_EQ(failureOf("select n from t where a like '" + std::string(50'000, '%') + "'"), "");
 }
 
+TEST_F(DatabaseTest, TakesThePatternOfEachRowWhereItIsNoConstant) {
+  Database database(support::utf8Path(file_));
+  EXPECT_EQ(database.read("select n from t where 'data' like a", kMany).count(), 1U);
+  EXPECT_EQ(database.read("select n from t where '数据' like a", kMany).count(), 1U);
+  EXPECT_EQ(database.read("select n from t where a like a", kMany).count(), 4U);
+  const data::Rows rows = database.read(
+      "select n from t where a like 'd%' or a like '%t' or '位' like a or n like '3'", kMany);
+  EXPECT_EQ(rows.count(), 4U);
+}
+
 TEST_F(DatabaseTest, NamesWhatIsWrongWithAStatement) {
   EXPECT_EQ(failureOf("select * from nowhere"), "no such table: nowhere");
   EXPECT_EQ(failureOf("select b from t"), "no such column: b");

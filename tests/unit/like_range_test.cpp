@@ -22,9 +22,19 @@ TEST(LikeRange, SpansTheTextsWithTheFixedBeginning) {
             " and w>='caf' collate lexilo and w<'cag' collate lexilo");
 }
 
-TEST(LikeRange, IsNotThereWithoutALetterToBeginWith) {
-  for (const char* pattern :
-       {"''", "'%'", "'_a'", "'1a%'", "' a%'", "'''a%'", "'热%'", "'\u00E9%'"}) {
+TEST(LikeRange, HasNoLowerBoundWhereANumberMayBegin) {
+  EXPECT_EQ(likeRange("w", "'5-h%'"), " and w<'5-iz' collate lexilo");
+  EXPECT_EQ(likeRange("w", "'9%'"), " and w<':z' collate lexilo");
+  EXPECT_EQ(likeRange("w", "'-a%'"), " and w<'-bz' collate lexilo");
+  EXPECT_EQ(likeRange("w", "'+%'"), " and w<',z' collate lexilo");
+  EXPECT_EQ(likeRange("w", "'.5%'"), " and w<'.6z' collate lexilo");
+  EXPECT_EQ(likeRange("w", "' a%'"), " and w<' bz' collate lexilo");
+  EXPECT_EQ(likeRange("w", "'(5%'"), " and w>='(5' collate lexilo and w<'(6' collate lexilo");
+  EXPECT_EQ(likeRange("w", "'''a%'"), " and w>='''a' collate lexilo and w<'''b' collate lexilo");
+}
+
+TEST(LikeRange, IsNotThereWithoutAFixedBeginning) {
+  for (const char* pattern : {"''", "'%'", "'_a'", "'%a%'", "'热%'", "'\u00E9%'"}) {
     EXPECT_EQ(likeRange("word", pattern), "") << pattern;
   }
 }
@@ -59,7 +69,8 @@ TEST(LikeRange, NeverChangesWhatASearchFinds) {
                         " primary key (word, id)) without rowid;"
                         "create table other (word text, id integer);"
                         "create index i on other (word);"
-                        "create table numbers (word integer, id integer)");
+                        "create table numbers (word integer, id integer);"
+                        "create index n on numbers (word)");
   support::Writer writer(file);
   writer.run("begin");
   for (int id = 0; id < 600; ++id) {
@@ -67,11 +78,15 @@ TEST(LikeRange, NeverChangesWhatASearchFinds) {
     for (const char* table : {"plain", "clustered", "other", "numbers"}) {
       writer.run("insert into " + std::string(table) + " values " + values);
     }
+    const std::string number = std::to_string(static_cast<int>(random() % 4000) - 1000);
+    writer.run("insert into numbers values (" + number + (id % 3 == 0 ? ".5," : ",") +
+               std::to_string(600 + id) + ")");
   }
   writer.run("commit");
   const auto database = std::make_shared<data::Database>(support::utf8Path(file));
-  for (int i = 0; i < 100; ++i) {
-    const std::string pattern = "'" + std::string(1, "aAbzZ"[i % 5]) + randomText(random) + "%'";
+  for (int i = 0; i < 300; ++i) {
+    const std::string pattern =
+        "'" + std::string(1, "aAbzZ{1-0 @~23."[i % 15]) + randomText(random) + "%'";
     ASSERT_NE(likeRange("word", pattern), "");
     for (const char* table : {"plain", "clustered", "other", "numbers"}) {
       EXPECT_EQ(found(database, table, "", pattern), found(database, table, "+", pattern))

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "tests/unit/random_text.h"
+#include "text/like_pattern.h"
 #include "text/order.h"
 #include "text/utf.h"
 
@@ -15,11 +16,14 @@ using text::likeUtf8;
 using text::toUtf16;
 using text::toUtf8;
 
-/// Whether both forms say so; they never differ.
+/// Whether all three forms say so; they never differ.
 testing::AssertionResult matches(std::u16string_view pattern, std::u16string_view text) {
   const bool result = like(pattern, text);
   if (likeUtf8(toUtf8(pattern), toUtf8(text)) != result) {
     return testing::AssertionFailure() << "like says " << result << ", likeUtf8 does not";
+  }
+  if (text::LikePattern(toUtf8(pattern)).matches(toUtf8(text)) != result) {
+    return testing::AssertionFailure() << "like says " << result << ", LikePattern does not";
   }
   return testing::AssertionResult(result);
 }

@@ -1,0 +1,171 @@
+#include "text/like_pattern.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <numeric>
+#include <utility>
+#include <vector>
+
+#include "text/order.h"
+#include "text/units.h"
+
+namespace text {
+namespace {
+
+/// The bit in which the two cases of an ASCII or Latin-1 letter differ, in its last byte of UTF-8
+/// too.
+constexpr char kCaseBit = 0x20;
+
+/// Bytes that a dictionary is full of, the most frequent first: the lead bytes of common Han
+/// characters, blanks, letters. Any other byte is rarer.
+constexpr std::string_view kFrequentBytes = "\xE5\xE6\xE7\xE8\xE4\xE9 eiaotnrslcdmphuygbfvkxwzqj";
+
+std::size_t rarity(char byte) { return std::min(kFrequentBytes.find(byte), kFrequentBytes.size()); }
+
+/// Probes are taken from so many bytes at the stretch's beginning: enough to be rare, and not so
+/// far from it that short texts would have no room for a step of eight places.
+constexpr std::size_t kProbedBytes = 8;
+
+/// How many places of a text are looked at in one step.
+constexpr std::size_t kPlaces = sizeof(std::uint64_t);
+
+constexpr std::uint64_t kLowBits = 0x0101010101010101;
+constexpr std::uint64_t kHighBits = kLowBits << 7;
+
+std::uint64_t eightTimes(char byte) { return kLowBits * static_cast<unsigned char>(byte); }
+
+std::uint64_t eightBytes(const char* place) {
+  std::uint64_t bytes = 0;
+  std::memcpy(&bytes, place, sizeof bytes);
+  return bytes;
+}
+
+/// Marks the high bit of the lowest byte that is zero, and perhaps of some above it; 0 without one.
+std::uint64_t zeroBytes(std::uint64_t bytes) { return (bytes - kLowBits) & ~bytes & kHighBits; }
+
+/// The lowest byte is the first in memory, here as on all machines that the program is for.
+static_assert(std::endian::native == std::endian::little);
+std::ptrdiff_t firstMarked(std::uint64_t marks) { return std::countr_zero(marks) / 8; }
+
+bool isFixed(char16_t unit) { return unit != u'%' && unit != u'_' && unit != kReplacement; }
+
+/// Whether `unit` is the lower case of a capital.
+bool hasCapital(char16_t unit) {
+  const auto capital = static_cast<char16_t>(unit - kCaseBit);
+  return foldCase(capital) == unit && capital != unit;
+}
+
+}  // namespace
+
+LikePattern::LikePattern(std::string_view pattern) : pattern_(pattern) {
+  const Utf8Units units(pattern_);
+  std::size_t start = 0;
+  std::size_t place = 0;
+  while (place < pattern_.size()) {
+    const Unit unit = units.at(place);
+    if (!isFixed(unit.value)) {
+      offer(start, place - start);
+      start = place + unit.length;
+    }
+    place += unit.length;
+  }
+  offer(start, place - start);
+  foldFixed();
+  chooseProbes();
+  const std::size_t runs = isAnchored_ ? 1 : 2;
+  isWhole_ = !fixed_.empty() && pattern_.size() == fixed_.size() + runs &&
+             (isAnchored_ || pattern_.front() == '%') && pattern_.back() == '%';
+}
+
+void LikePattern::offer(std::size_t start, std::size_t length) {
+  if (isAnchored_ || length <= fixed_.size()) return;
+  fixed_ = pattern_.substr(start, length);
+  isAnchored_ = start == 0;
+}
+
+void LikePattern::foldFixed() {
+  caseBits_.assign(fixed_.size(), '\0');
+  const Utf8Units units(fixed_);
+  for (std::size_t place = 0; place < fixed_.size();) {
+    const Unit unit = units.at(place);
+    place += unit.length;
+    if (!hasCapital(foldCase(unit.value))) continue;
+    char& last = fixed_[place - 1];
+    last = static_cast<char>(last | kCaseBit);
+    caseBits_[place - 1] = kCaseBit;
+  }
+}
+
+void LikePattern::chooseProbes() {
+  if (fixed_.empty()) return;
+  std::vector<std::size_t> offsets(std::min(fixed_.size(), kProbedBytes));
+  std::iota(offsets.begin(), offsets.end(), std::size_t{0});
+  std::ranges::stable_sort(offsets, std::ranges::greater(),
+                           [&](std::size_t i) { return rarity(fixed_[i]); });
+  rarest_ = probeOf(offsets.front());
+  // Of equally rare ones the last: far apart, two bytes of Han belong to two characters.
+  const auto others = offsets.begin() + (offsets.size() > 1 ? 1 : 0);
+  second_ = probeOf(*std::max_element(others, offsets.end(), [&](std::size_t a, std::size_t b) {
+    return std::pair(rarity(fixed_[a]), a) < std::pair(rarity(fixed_[b]), b);
+  }));
+}
+
+LikePattern::Probe LikePattern::probeOf(std::size_t offset) const {
+  return {offset, eightTimes(fixed_[offset]), eightTimes(caseBits_[offset])};
+}
+
+bool LikePattern::matches(std::string_view text) const {
+  if (text.size() < fixed_.size()) return false;
+  const bool found = isAnchored_ ? standsAt(text.data()) : fixed_.empty() || occursIn(text);
+  return found && (isWhole_ || likeUtf8(pattern_, text));
+}
+
+/// Whether the stretch stands anywhere in `text`, which is not shorter. Bytes may be compared as
+/// they are: a lead byte always begins a character, so that the bytes of whole characters are found
+/// as those characters only. Eight places are looked at in one step; the last step goes back over
+/// some of the one before.
+bool LikePattern::occursIn(std::string_view text) const {
+  const std::size_t reach = std::max(rarest_.offset, second_.offset) + kPlaces;
+  if (text.size() < reach) return occursInShort(text);
+  const char* const lastStart = text.data() + (text.size() - fixed_.size());
+  const char* const lastStep = text.data() + (text.size() - reach);
+  for (const char* step = text.data();; step = std::min(step + kPlaces, lastStep)) {
+    for (std::uint64_t marks = candidatesAmong8(step); marks != 0; marks &= marks - 1) {
+      const char* const place = step + firstMarked(marks);
+      if (place <= lastStart && standsAt(place)) return true;
+    }
+    if (step == lastStep) return false;
+  }
+}
+
+bool LikePattern::occursInShort(std::string_view text) const {
+  const std::size_t rarest = rarest_.offset;
+  const char* const end = text.data() + (text.size() - fixed_.size()) + 1;
+  for (const char* place = text.data(); place != end; ++place) {
+    const bool candidate = (place[rarest] | caseBits_[rarest]) == fixed_[rarest];
+    if (candidate && standsAt(place)) return true;
+  }
+  return false;
+}
+
+/// Marks those of the eight places from `place` on where the stretch may begin, by its two rarest
+/// bytes.
+std::uint64_t LikePattern::candidatesAmong8(const char* place) const {
+  const auto differences = [&](const Probe& probe) {
+    return (eightBytes(place + probe.offset) | probe.caseBits) ^ probe.wanted;
+  };
+  return zeroBytes(differences(rarest_) | differences(second_));
+}
+
+bool LikePattern::standsAt(const char* place) const {
+  const char* const fixed = fixed_.data();
+  const char* const caseBits = caseBits_.data();
+  for (std::size_t i = 0; i < fixed_.size(); ++i) {
+    if ((place[i] | caseBits[i]) != fixed[i]) return false;
+  }
+  return true;
+}
+
+}  // namespace text
