@@ -2,7 +2,7 @@
 # Measures how fast Lexilo is on the full dictionary, and prints tables.
 #
 #   ./bench.sh          all parts
-#   ./bench.sh native   only the lookups, natively, without windows
+#   ./bench.sh native   only lookups and searches, natively, without windows
 #   ./bench.sh painted  only from keystroke or click to what it has painted, under Wine
 #   ./bench.sh capture  only from resting the pointer on a word to the popup, under Wine
 #

@@ -4,6 +4,11 @@
 #include <cstdio>
 
 namespace bench {
+namespace {
+
+const char* verdict(double time, double aim) { return time > aim ? "MISSED" : "met"; }
+
+}  // namespace
 
 double Timings::at(double share) const {
   if (milliseconds_.empty()) return 0;
@@ -14,14 +19,15 @@ double Timings::at(double share) const {
 
 void Timings::printHeading(const char* title) {
   std::printf("\n%-44s %8s %9s %9s %9s  %s\n", title, "runs", "median", "99 %", "longest",
-              "aim (median)");
+              "aim (median, 99 %)");
 }
 
 void Timings::print() const {
   if (milliseconds_.empty()) return;
   std::printf("%-44s %8zu %9.3f %9.3f %9.3f", name_.c_str(), milliseconds_.size(), median(),
-              at(0.99), at(1));
-  if (aim_) std::printf("  %.1f %s", *aim_, missed() ? "MISSED" : "met");
+              at(kTail), at(1));
+  if (aim_) std::printf("  %.2f %s", *aim_, verdict(median(), *aim_));
+  if (tailAim_) std::printf(", %.2f %s", *tailAim_, verdict(at(kTail), *tailAim_));
   std::printf("\n");
 }
 

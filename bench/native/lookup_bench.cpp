@@ -6,13 +6,13 @@
 // The word lists hold one word a line in UTF-8; without them 5,000 English and 2,000 Chinese
 // headwords, evenly spread, are taken from the dictionary itself.
 
-#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <fstream>
 #include <string>
 #include <vector>
 
+#include "bench/native/subject_searches.h"
 #include "bench/timings.h"
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
@@ -27,7 +27,6 @@ using Words = std::vector<std::u16string>;
 
 constexpr std::size_t kEnglishWords = 5000;
 constexpr std::size_t kChineseWords = 2000;
-constexpr std::size_t kSearches = 200;
 
 /// What a keystroke may take at the median, in ms.
 constexpr double kEnglishAim = 0.2;
@@ -143,42 +142,6 @@ void timeStart(const char* file) {
   start.print();
 }
 
-/// The four searches of the multi-dictionary window in the largest dictionary.
-void timeSearches(data::DataControl& control, const Words& english, const Words& chinese) {
-  struct Search {
-    const char* name;
-    const Words& words;
-    std::size_t length;
-    std::u16string_view head;
-    std::u16string_view tail;
-  };
-  const Search searches[] = {
-      {"English beginning", english, 4, u"select top 100 word,meaning from med where word like '",
-       u"%' order by word"},
-      {"English part", english, 5, u"select top 200 word,meaning from med where word like '%",
-       u"%' order by word"},
-      {"Chinese beginning", chinese, 2,
-       u"select top 100 word as meaning,meaning as word from med where meaning like '",
-       u"%' order by meaning"},
-      {"Chinese part", chinese, 2,
-       u"select top 200 word as meaning,meaning as word from med where meaning like '%",
-       u"%' order by meaning"},
-  };
-  for (const Search& search : searches) {
-    Timings times(search.name);
-    const std::size_t step = std::max<std::size_t>(1, search.words.size() / kSearches);
-    for (std::size_t i = 0; i < search.words.size(); i += step) {
-      std::u16string part = search.words[i].substr(0, search.length);
-      user::escapeQuote(part);
-      times.time([&] {
-        return takeWords(
-            run(control, std::u16string(search.head) + part + std::u16string(search.tail)));
-      });
-    }
-    times.print();
-  }
-}
-
 int runAll(const std::vector<const char*>& arguments) {
   const char* file = arguments.front();
   data::DataControl control;
@@ -204,7 +167,7 @@ int runAll(const std::vector<const char*>& arguments) {
   chineseTimes.print();
 
   Timings::printHeading("Search in the largest subject dictionary");
-  timeSearches(control, english, chinese);
+  bench::timeSearches(file);
   return 0;
 }
 
