@@ -77,6 +77,9 @@ LikePattern::LikePattern(std::string_view pattern) : pattern_(pattern) {
   const std::size_t runs = isAnchored_ ? 1 : 2;
   isWhole_ = !fixed_.empty() && pattern_.size() == fixed_.size() + runs &&
              (isAnchored_ || pattern_.front() == '%') && pattern_.back() == '%';
+  if (isAnchored_ && !isWhole_) {
+    rest_ = std::make_unique<LikePattern>(std::string_view(pattern_).substr(fixed_.size()));
+  }
 }
 
 void LikePattern::offer(std::size_t start, std::size_t length) {
@@ -119,7 +122,8 @@ LikePattern::Probe LikePattern::probeOf(std::size_t offset) const {
 bool LikePattern::matches(std::string_view text) const {
   if (text.size() < fixed_.size()) return false;
   const bool found = isAnchored_ ? standsAt(text.data()) : fixed_.empty() || occursIn(text);
-  return found && (isWhole_ || likeUtf8(pattern_, text));
+  if (!found || isWhole_) return found;
+  return rest_ ? rest_->matches(text.substr(fixed_.size())) : likeUtf8(pattern_, text);
 }
 
 /// Whether the stretch stands anywhere in `text`, which is not shorter. Bytes may be compared as

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -41,8 +42,9 @@ class LikePattern {
   std::string caseBits_;  ///< for each of them the bit in which its capital differs
   Probe rarest_;
   Probe second_;  ///< the rarest of the other bytes; the same one where there is no other
-  bool isAnchored_ = false;  ///< whether the stretch is the pattern's beginning
-  bool isWhole_ = false;     ///< whether the pattern is no more than "fixed%" or "%fixed%"
+  bool isAnchored_ = false;            ///< whether the stretch is the pattern's beginning
+  std::unique_ptr<LikePattern> rest_;  ///< what follows that beginning, but for a "%" alone
+  bool isWhole_ = false;  ///< whether the pattern is no more than "fixed%" or "%fixed%"
 };
 
 }  // namespace text
