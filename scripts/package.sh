@@ -20,9 +20,7 @@ mkdir -p "$folder/licences"
 
 x86_64-w64-mingw32-strip -o "$folder/lexilo.exe" build/windows/bin/lexilo.exe
 cp build/kk.dat LICENSE THIRD_PARTY.md "$folder"
-if [[ -f help/help.htm ]]; then
-  cp -r help "$folder/help"
-fi
+cp -r help "$folder/help"
 
 # The licences of what is built in, word for word as it came.
 doc=/usr/share/doc

@@ -65,8 +65,6 @@ assemble_app() {
     cp --remove-destination "$database" "$app_dir/kk.dat"
     cp "$database.stamp" "$app_dir/.kk.dat.stamp"
   fi
-  if [[ -f $LEXILO_ROOT/help/help.htm ]]; then
-    mkdir -p "$app_dir/help"
-    cp -r "$LEXILO_ROOT/help/." "$app_dir/help/"
-  fi
+  rm -rf "$app_dir/help"
+  cp -r "$LEXILO_ROOT/help" "$app_dir/help"
 }

@@ -1,6 +1,8 @@
 // Every command of the toolbar's menu, and ending the program.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "tests/program/harness/dictionary_windows.h"
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/message_box.h"
@@ -57,7 +59,9 @@ TEST_F(Commands, TheAboutBoxSaysWhatItIsAndCloses) {
   EXPECT_TRUE(lexilo.process().running());
 }
 
-TEST_F(Commands, TheMenusHelpStartsTheBrowser) {
+TEST_F(Commands, TheMenusHelpStartsTheBrowserWithThePageThatIsThere) {
+  const auto help = AppFolder::withFullDictionary().path() / "help" / "help.htm";
+  ASSERT_TRUE(std::filesystem::exists(help));
   lexilo.choose(MenuItem::help);
   HWND browser = waitForWindow({.className = L"IEFrame", .title = {}});
   PostMessageW(browser, WM_CLOSE, 0, 0);

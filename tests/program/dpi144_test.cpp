@@ -3,6 +3,7 @@
 
 #include "forms/geometry.h"
 #include "tests/program/harness/controls.h"
+#include "tests/program/harness/dictionary_windows.h"
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/lexilo.h"
 #include "tests/program/harness/meaning_popup.h"
@@ -10,6 +11,7 @@
 #include "tests/program/harness/popup_menu.h"
 #include "tests/program/harness/screen.h"
 #include "tests/program/harness/settings.h"
+#include "tests/program/harness/text.h"
 
 namespace harness {
 namespace {
@@ -121,6 +123,42 @@ TEST_F(Dpi144, ThePopupIsLargerAsWell) {
   EXPECT_TRUE(neverWithin(200, [&] { return !popup.isUp(); }));
   input::moveTo({pointer.x + 6, pointer.y});
   popup.waitUntilClosed();
+}
+
+/// Whether no child of a window reaches beyond its client area.
+void expectAllInside(HWND window) {
+  const RECT client = clientRectOf(window);
+  for (HWND child : childrenOf(window)) {
+    if (IsWindowVisible(child) == FALSE || GetParent(child) != window) continue;
+    const RECT rect = rectOf(child);
+    RECT common{};
+    IntersectRect(&common, &client, &rect);
+    EXPECT_TRUE(EqualRect(&common, &rect)) << utf8(classOf(child)) << " " << utf8(textOf(child));
+  }
+}
+
+TEST_F(Dpi144, TheDictionaryWindowsAndTheAboutBoxHoldAllTheirWidgets) {
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  const MultiQuery window(lexilo);
+  window.searchFor(L"hepat", L"确定", L"hepat");
+  saveScreenshot("build/shots/multi-query-144dpi.png");
+  expectAllInside(window.window());
+  {
+    const SpecialQuery dialog(lexilo.process(), window);
+    saveScreenshot("build/shots/special-query-144dpi.png");
+    expectAllInside(dialog.window());
+    dialog.cancel();
+  }
+  window.close();
+  const DictionarySettings settings(lexilo);
+  saveScreenshot("build/shots/dictionary-settings-144dpi.png");
+  expectAllInside(settings.window());
+  settings.close();
+  lexilo.choose(MenuItem::about);
+  HWND about = waitForForm(lexilo.process(), L"frmAbout");
+  saveScreenshot("build/shots/about-144dpi.png");
+  expectAllInside(about);
 }
 
 }  // namespace

@@ -2,10 +2,10 @@
 
 #include "app/process.h"
 #include "app/state.h"
-#include "capture/frm_screen_word.h"
 #include "capture/screen_word.h"
 #include "query/frm_main.h"
 #include "tests/program/harness/controls.h"
+#include "tests/windows/support/capture_state.h"
 #include "tests/windows/support/dictionary.h"
 #include "tests/windows/support/window_test.h"
 
@@ -91,12 +91,7 @@ class QueryTest : public WindowTest {
     return centreOf(harness::treeNodeRect(tree.handle(), number - 1).value_or(RECT{}));
   }
 
-  static bool captureRuns() {
-    const auto& host = forms::single<frmScreenWord>();
-    EXPECT_EQ(host.Timer1.enabled(), host.timScreenWord1.enabled());
-    EXPECT_EQ(host.Timer1.enabled(), host.timScreenWord2.enabled());
-    return host.Timer1.enabled();
-  }
+  static bool captureRuns() { return captureTimersRun(); }
   static bool runs() {
     return eventually([] { return captureRuns(); });
   }
