@@ -1,46 +1,15 @@
 // Words under the pointer in other programs.
-#include <gtest/gtest.h>
+#include <array>
 
-#include <algorithm>
-#include <chrono>
-#include <fstream>
-#include <functional>
-#include <random>
-
+#include "tests/program/capture_fixture.h"
 #include "tests/program/harness/clipboard.h"
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/lexilo.h"
-#include "tests/program/harness/meaning_popup.h"
-#include "tests/program/harness/notepad.h"
 #include "tests/program/harness/screen.h"
-#include "tests/program/harness/stopped.h"
 #include "tests/program/harness/text.h"
 #include "tests/program/harness/text_window.h"
 #include "tests/program/harness/word_pad.h"
-#include "tests/program/harness/word_page.h"
 
 namespace harness {
 namespace {
-
-constexpr RECT kPage{40, 120, 840, 720};
-
-class Capture : public ::testing::Test {
- protected:
-  Capture() {
-    input::moveTo(kAwayFromTexts);
-    lexilo.waitUntilSeen();
-  }
-
-  /// Rests the pointer on a character of Notepad's text.
-  static void restOn(const Notepad& notepad, LONG character) {
-    const POINT place = editPosition(notepad.edit(), character);
-    input::moveTo({place.x + 3, place.y + 6});
-  }
-
-  const Lexilo lexilo{AppFolder::withFullDictionary()};
-  const MeaningPopup popup{lexilo.process()};
-};
 
 TEST_F(Capture, AWordInNotepadIsRead) {
   const Notepad notepad;
@@ -86,18 +55,6 @@ TEST_F(Capture, AWordThatIsNowhereIsNotFound) {
   saveScreenshot("build/shots/popup-not-found.png");
 }
 
-TEST_F(Capture, OneLetterAndChineseOpenNothing) {
-  const Notepad notepad;
-  notepad.place(kPage);
-  notepad.setText(L"A 数据库 database");
-  restOn(notepad, 0);
-  EXPECT_TRUE(popup.staysAway(400));
-  restOn(notepad, 3);
-  EXPECT_TRUE(popup.staysAway(400));
-  restOn(notepad, 7);
-  (void)popup.waitFor(L"database");
-}
-
 TEST_F(Capture, EnglishAmongChineseIsReadAlone) {
   const Notepad notepad;
   notepad.place(kPage);
@@ -122,24 +79,6 @@ TEST_F(Capture, MovingOnClosesThePopupAndReadsTheNextWord) {
   popup.waitUntilClosed();
   restOn(notepad, 11);
   (void)popup.waitFor(L"kernel");
-}
-
-TEST_F(Capture, BlanksMarginsAndPlacesBelowTheTextOpenNothing) {
-  const Notepad notepad;
-  notepad.place(kPage);
-  notepad.setText(L"database          kernel\r\n\r\nnetwork");
-  restOn(notepad, 13);
-  EXPECT_TRUE(popup.staysAway(350));
-  const POINT end = editPosition(notepad.edit(), 23);
-  input::moveTo({end.x + 60, end.y + 6});
-  EXPECT_TRUE(popup.staysAway(350));
-  const POINT last = editPosition(notepad.edit(), 28);
-  input::moveTo({last.x + 3, last.y + 80});
-  EXPECT_TRUE(popup.staysAway(350));
-  input::moveTo({last.x + 3, last.y - 10});
-  EXPECT_TRUE(popup.staysAway(350));
-  restOn(notepad, 30);
-  (void)popup.waitFor(L"network");
 }
 
 TEST_F(Capture, AnInstallersLicenceIsRead) {
@@ -171,37 +110,6 @@ TEST_F(Capture, ATextBoxOfItsOwnIsRead) {
   window.clickWord(0);
   input::moveTo({word.x + 2, word.y + 6});
   (void)popup.waitFor(L"kernel");
-}
-
-TEST_F(Capture, NeitherLabelsNorButtonsNorListsAreRead) {
-  for (const wchar_t* kind :
-       {L"Static", L"Button", L"ListBox", L"SysListView32", L"SysTreeView32", L"ComboLBox"}) {
-    const TextWindow window(kind, 0, {300, 300, 500, 330}, L"database");
-    input::moveTo({310, 310});
-    EXPECT_TRUE(popup.staysAway(350)) << utf8(kind);
-    input::moveTo(kAwayFromTexts);
-  }
-}
-
-TEST_F(Capture, APasswordIsNeverRead) {
-  const TextWindow hidden(L"Edit", ES_PASSWORD, {300, 300, 500, 330}, L"database");
-  input::moveTo({305, 308});
-  EXPECT_TRUE(popup.staysAway(500));
-  const TextWindow open(L"Edit", 0, {300, 400, 500, 430}, L"database");
-  input::moveTo({310, 408});
-  (void)popup.waitFor(L"database");
-}
-
-TEST_F(Capture, AMenuIsNotRead) {
-  const Notepad notepad;
-  notepad.place(kPage);
-  input::click({kPage.left + 20, kPage.top + 35});
-  HWND menu = waitForWindow({.className = L"#32768", .title = {}});
-  const RECT rect = rectOf(menu);
-  input::moveTo({rect.left + 30, rect.top + 12});
-  EXPECT_TRUE(popup.staysAway(400));
-  input::key(VK_ESCAPE);
-  input::key(VK_ESCAPE);
 }
 
 TEST_F(Capture, ThePlaceNearTheRightEdgeMovesThePopupInwards) {
@@ -296,152 +204,6 @@ TEST_F(Capture, SwitchedOffItReadsNothingUntilSwitchedOnAgain) {
     toggle(byMenu);
     restOn(notepad, 11);
     (void)popup.waitFor(L"kernel");
-    input::moveTo(kAwayFromTexts);
-    popup.waitUntilClosed();
-  }
-}
-
-/// How long the toolbar takes to answer, in ms: the median and the longest of two seconds' tries.
-std::pair<double, double> answerTimes(HWND toolbar) {
-  std::vector<double> times;
-  const ULONGLONG end = GetTickCount64() + 2'000;
-  LARGE_INTEGER frequency{};
-  QueryPerformanceFrequency(&frequency);
-  while (GetTickCount64() < end) {
-    LARGE_INTEGER start{};
-    LARGE_INTEGER stop{};
-    QueryPerformanceCounter(&start);
-    send(toolbar, WM_NULL);
-    QueryPerformanceCounter(&stop);
-    times.push_back(static_cast<double>(stop.QuadPart - start.QuadPart) * 1000.0 /
-                    static_cast<double>(frequency.QuadPart));
-    Sleep(5);
-  }
-  std::ranges::sort(times);
-  return {times.at(times.size() / 2), times.back()};
-}
-
-TEST_F(Capture, AWindowThatDoesNotAnswerHoldsNothingUp) {
-  const TextWindow window(L"Edit", 0, {300, 300, 500, 330}, L"database");
-  const TextWindow other(L"Edit", 0, {300, 400, 500, 430}, L"kernel");
-  {
-    const TextWindow::Busy busy(window);
-    input::moveTo({310, 308});
-    const auto [median, longest] = answerTimes(lexilo.toolbar());
-    EXPECT_LT(median, 50);
-    EXPECT_LT(longest, 1000);
-    EXPECT_FALSE(popup.isUp());
-    input::moveTo({310, 408});
-    (void)popup.waitFor(L"kernel");
-    input::moveTo(kAwayFromTexts);
-  }
-  popup.waitUntilClosed();
-}
-
-TEST_F(Capture, AStoppedProgramHoldsNothingUp) {
-  std::ofstream("build/program-to-be-stopped.txt") << "database kernel network";
-  const Notepad notepad(L"build\\program-to-be-stopped.txt");
-  notepad.place(kPage);
-  const POINT place = editPosition(notepad.edit(), 2);
-  {
-    const Stopped stopped("program-to-be-stopped");
-    input::moveTo({place.x + 3, place.y + 6});
-    const auto [median, longest] = answerTimes(lexilo.toolbar());
-    EXPECT_LT(median, 50);
-    EXPECT_LT(longest, 1000);
-    EXPECT_FALSE(popup.isUp());
-    lexilo.click(ToolbarButton::quickLookup);
-    const QuickLookup window(lexilo.process());
-    window.close();
-  }
-  // A window that was let alone for a while is asked again.
-  const auto moment = std::chrono::steady_clock::now();
-  input::moveTo(kAwayFromTexts);
-  waitFor(
-      "the program to be read again",
-      [&] {
-        input::moveTo(kAwayFromTexts);
-        restOn(notepad, 2);
-        return !popup.staysAway(400);
-      },
-      60'000);
-  RecordProperty("ms until read again",
-                 std::to_string(std::chrono::duration_cast<std::chrono::milliseconds>(
-                                    std::chrono::steady_clock::now() - moment)
-                                    .count()));
-}
-
-/// Rests the pointer on 200 words of a page and counts those whose popup names them.
-int wordsRead(const MeaningPopup& popup, const WordPage& page, const RECT& visible,
-              const std::function<POINT(LONG)>& position, const std::function<LONG(int)>& count) {
-  std::minstd_rand random(7);
-  int read = 0;
-  for (int tried = 0; tried < 200;) {
-    const auto& [start, word] = page.words()[random() % page.words().size()];
-    const int inside = static_cast<int>(random() % word.size());
-    if (word[static_cast<std::size_t>(inside)] == L'-') continue;
-    const POINT place = position(count(start + inside));
-    const POINT point{place.x + 3, place.y + 6};
-    if (!PtInRect(&visible, point) || WindowFromPoint(point) == nullptr) continue;
-    ++tried;
-    input::moveTo(point);
-    try {
-      (void)popup.waitFor(word);
-      ++read;
-    } catch (const Failure& failure) {
-      ADD_FAILURE() << failure.what() << " at character " << start + inside
-                    << ", shown: " << utf8(popup.text());
-    }
-    // Away, or the next word could be read from a popup that is still up.
-    input::moveTo(kAwayFromTexts);
-    popup.waitUntilClosed();
-  }
-  return read;
-}
-
-TEST_F(Capture, TwoHundredWordsOfAPageInNotepad) {
-  const Notepad notepad;
-  notepad.place(kPage);
-  const WordPage page(1, 60, 70);
-  notepad.setText(page.text());
-  RECT visible = clientRectOf(notepad.edit());
-  InflateRect(&visible, -10, -20);
-  EXPECT_EQ(wordsRead(
-                popup, page, visible, [&](LONG at) { return editPosition(notepad.edit(), at); },
-                [](int at) { return static_cast<LONG>(at); }),
-            200);
-}
-
-TEST_F(Capture, TwoHundredWordsOfAPageInWordPad) {
-  const WordPad wordPad;
-  wordPad.place(kPage);
-  const WordPage page(2, 60, 70);
-  wordPad.setText(page.text());
-  RECT visible = clientRectOf(wordPad.edit());
-  InflateRect(&visible, -10, -20);
-  // The control counts a line's end once.
-  const auto count = [&](int at) {
-    const auto end = page.text().begin() + at;
-    return static_cast<LONG>(at - std::count(page.text().begin(), end, L'\r'));
-  };
-  EXPECT_EQ(wordsRead(
-                popup, page, visible, [&](LONG at) { return richTextPosition(wordPad.edit(), at); },
-                count),
-            200);
-}
-
-TEST_F(Capture, AWordDeepInALongTextIsRead) {
-  const Notepad notepad;
-  notepad.place(kPage);
-  const WordPage page(3, 5000, 75);
-  ASSERT_GT(page.text().size(), 380'000U);
-  notepad.setText(page.text());
-  for (const std::size_t number : {page.words().size() / 2, page.words().size() - 30}) {
-    const auto& [start, word] = page.words()[number];
-    send(notepad.edit(), EM_SETSEL, static_cast<WPARAM>(start), start);
-    send(notepad.edit(), EM_SCROLLCARET);
-    restOn(notepad, start);
-    (void)popup.waitFor(word);
     input::moveTo(kAwayFromTexts);
     popup.waitUntilClosed();
   }

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "tests/program/harness/controls.h"
+#include "tests/program/harness/input.h"
+#include "tests/program/harness/lexilo.h"
+#include "tests/program/harness/meaning_popup.h"
+#include "tests/program/harness/notepad.h"
+
+namespace harness {
+
+/// Where the programs whose words are read stand.
+inline constexpr RECT kPage{40, 120, 840, 720};
+
+/// Lexilo with capture on, and the pointer away from all texts.
+class Capture : public ::testing::Test {
+ protected:
+  Capture() {
+    input::moveTo(kAwayFromTexts);
+    lexilo.waitUntilSeen();
+  }
+
+  /// Rests the pointer on a character of Notepad's text.
+  static void restOn(const Notepad& notepad, LONG character) {
+    const POINT place = editPosition(notepad.edit(), character);
+    input::moveTo({place.x + 3, place.y + 6});
+  }
+
+  const Lexilo lexilo{AppFolder::withFullDictionary()};
+  const MeaningPopup popup{lexilo.process()};
+};
+
+}  // namespace harness
