@@ -34,6 +34,11 @@ void RequestDesk::withdraw() {
   word_ = {};
 }
 
+bool RequestDesk::armed() const {
+  const std::scoped_lock lock(mutex_);
+  return state_ == State::armed || state_ == State::announced;
+}
+
 std::optional<Word> RequestDesk::word() const {
   const std::scoped_lock lock(mutex_);
   const bool there = state_ == State::announced || state_ == State::fetched;

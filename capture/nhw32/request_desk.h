@@ -14,8 +14,8 @@ namespace nhw32 {
 /// work and at most one waits: the newest. An answer counts only while its question is the one that
 /// is armed; then it is announced to the host, once.
 ///
-/// arm, disarm, withdraw and word belong to the arming thread, take and deliver to the worker; none
-/// but take waits.
+/// arm, disarm, withdraw, armed and word belong to the arming thread, take and deliver to the
+/// worker; none but take waits.
 class RequestDesk {
  public:
   /// Tells a host that a word is there, without waiting for it; false where it cannot be told.
@@ -35,6 +35,9 @@ class RequestDesk {
 
   /// Drops the word whose announcement was taken back.
   void withdraw();
+
+  /// Whether a question stands: armed and not disarmed since, answered or not.
+  [[nodiscard]] bool armed() const;
 
   /// The announced word.
   [[nodiscard]] std::optional<Word> word() const;

@@ -98,6 +98,8 @@ void Service::disarm() {
   if (host && takeBack(windowOf(*host), RegisterWindowMessageA(kMessageName))) desk_->withdraw();
 }
 
+bool Service::armed() const { return started_ && desk_->armed(); }
+
 std::optional<Word> Service::word() const { return started_ ? desk_->word() : std::nullopt; }
 
 }  // namespace nhw32

@@ -26,6 +26,8 @@ class Service {
   void stop();
   void arm(HWND host, POINT point);
   void disarm();
+  /// Whether a question stands: armed and not disarmed since.
+  [[nodiscard]] bool armed() const;
   /// The announced word, if there is one.
   [[nodiscard]] std::optional<Word> word() const;
 

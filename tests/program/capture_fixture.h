@@ -27,6 +27,14 @@ class Capture : public ::testing::Test {
     input::moveTo({place.x + 3, place.y + 6});
   }
 
+  /// Whether Lexilo has probed any window since it was started. The first probe shows its strip,
+  /// which from then on stays shown beside the screen.
+  [[nodiscard]] bool hasProbed() const {
+    return findWindow(
+               {.process = lexilo.process().id(), .className = L"Lexilo.frmScreen", .title = {}}) !=
+           nullptr;
+  }
+
   const Lexilo lexilo{AppFolder::withFullDictionary()};
   const MeaningPopup popup{lexilo.process()};
 };

@@ -36,14 +36,19 @@ TEST_F(Capture, BlanksMarginsAndPlacesBelowTheTextOpenNothing) {
   (void)popup.waitFor(L"network");
 }
 
-TEST_F(Capture, NeitherLabelsNorButtonsNorListsAreRead) {
+TEST_F(Capture, NeitherLabelsNorButtonsNorListsAreProbed) {
   for (const wchar_t* kind :
        {L"Static", L"Button", L"ListBox", L"SysListView32", L"SysTreeView32", L"ComboLBox"}) {
     const TextWindow window(kind, 0, {300, 300, 500, 330}, L"database");
     input::moveTo({310, 310});
     EXPECT_TRUE(popup.staysAway(350)) << utf8(kind);
+    EXPECT_FALSE(hasProbed()) << utf8(kind);
     input::moveTo(kAwayFromTexts);
   }
+  const TextWindow text(L"Edit", 0, {300, 300, 500, 330}, L"database");
+  input::moveTo({310, 308});
+  (void)popup.waitFor(L"database");
+  EXPECT_TRUE(hasProbed());
 }
 
 TEST_F(Capture, APasswordIsNeverRead) {
@@ -55,7 +60,7 @@ TEST_F(Capture, APasswordIsNeverRead) {
   (void)popup.waitFor(L"database");
 }
 
-TEST_F(Capture, AMenuIsNotRead) {
+TEST_F(Capture, AMenuIsNotProbed) {
   const Notepad notepad;
   notepad.place(kPage);
   input::click({kPage.left + 20, kPage.top + 35});
@@ -63,8 +68,11 @@ TEST_F(Capture, AMenuIsNotRead) {
   const RECT rect = rectOf(menu);
   input::moveTo({rect.left + 30, rect.top + 12});
   EXPECT_TRUE(popup.staysAway(400));
+  EXPECT_FALSE(hasProbed());
   input::key(VK_ESCAPE);
   input::key(VK_ESCAPE);
+  // Below it lies the text.
+  waitFor("a probe", [&] { return hasProbed(); });
 }
 
 }  // namespace

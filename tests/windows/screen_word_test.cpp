@@ -1,8 +1,11 @@
 #include <algorithm>
+#include <stdexcept>
 
 #include "capture/nhw32/nhw32.h"
+#include "capture/nhw32/service.h"
 #include "forms/registry.h"
 #include "tests/windows/support/capture_test.h"
+#include "tests/windows/support/window_everywhere.h"
 
 namespace wintest {
 namespace {
@@ -21,11 +24,30 @@ class ScreenWordTest : public CaptureTest {
  protected:
   ScreenWordTest() { passedOn = {}; }
 
-  /// Whether a probe at `point` moved the strip.
-  static bool probed(POINT point) {
+  /// What a probe did.
+  struct Probe {
+    bool stripMoved = false;
+    bool armed = false;
+  };
+
+  /// Waits for the report of a word, which stays in the queue.
+  static bool aReportWaits() {
+    const ULONGLONG deadline = GetTickCount64() + kPatience;
+    while (GetTickCount64() < deadline) {
+      MSG report;
+      if (PeekMessageW(&report, host().handle(), ScreenWord::MsgHasString, ScreenWord::MsgHasString,
+                       PM_NOREMOVE) != FALSE) {
+        return true;
+      }
+      MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+    }
+    return false;
+  }
+
+  static Probe probe(POINT point) {
     const StripWatch watch;
     ScreenWord::CatchWordAt(point);
-    return !StripWatch::places().empty();
+    return {!StripWatch::places().empty(), nhw32::service().armed()};
   }
 };
 
@@ -60,7 +82,7 @@ TEST_F(ScreenWordTest, AProbeFindsTheWordUnderThePoint) {
 TEST_F(ScreenWordTest, AProbeElsewhereForgetsTheOneBefore) {
   const PlainWindow edit(L"Edit", kPlace, L"some data here");
   ScreenWord::CatchWordAt(wordPoint(edit.handle(), 6));
-  Sleep(100);  // the answer is on its way, and must not arrive
+  ASSERT_TRUE(aReportWaits()) << "a report that must not arrive";
   ScreenWord::CatchWordAt({890, 390});
   EXPECT_TRUE(allAlong([] { return ScreenWord::strScreenWord.empty(); }, 150));
 }
@@ -76,14 +98,17 @@ TEST_F(ScreenWordTest, AWindowThatIsNotProbedLeavesTheLastProbeAsItIs) {
 TEST_F(ScreenWordTest, NeitherAButtonNorALabelIsProbed) {
   for (const wchar_t* name : {L"Button", L"Static"}) {
     const PlainWindow window(name, kPlace, L"some data here");
-    EXPECT_FALSE(probed({250, 350})) << (name[0] == L'B' ? "Button" : "Static");
-    EXPECT_TRUE(allAlong([] { return ScreenWord::strScreenWord.empty(); }, 100));
+    const Probe seen = probe({250, 350});
+    EXPECT_FALSE(seen.stripMoved) << (name[0] == L'B' ? "Button" : "Static");
+    EXPECT_FALSE(seen.armed) << (name[0] == L'B' ? "Button" : "Static");
   }
 }
 
 TEST_F(ScreenWordTest, AWindowWhoseClassMerelyContainsEditIsProbed) {
   const PlainWindow window(plainClass(L"TMyEditor"), kPlace);
-  EXPECT_TRUE(probed({250, 350}));
+  const Probe seen = probe({250, 350});
+  EXPECT_TRUE(seen.stripMoved);
+  EXPECT_TRUE(seen.armed);
 }
 
 TEST_F(ScreenWordTest, TheStripCoversTheRowsAboveThePointAndGoesOffTheDesktop) {
@@ -113,6 +138,24 @@ TEST_F(ScreenWordTest, TheStripBegins200PixelsLeftOfAPointFarInside) {
   EXPECT_TRUE(std::any_of(places.begin(), places.end(), [](const auto& place) {
     return place.shown && place.rect.left == 500 && place.rect.right == 1192;
   }));
+}
+
+TEST_F(ScreenWordTest, APointBeyondSixteenBitsEndsTheProbeAndTheStripGoesBack) {
+  const PlainWindow window(plainClass(L"TMyEditor"), {32'700, 300, 32'900, 400});
+  const POINT last{32'767, 350};
+  const POINT beyond{32'768, 350};
+  const WindowEverywhere everywhere(window.handle());
+  const StripWatch watch;
+  ScreenWord::CatchWordAt(last);
+  EXPECT_TRUE(nhw32::service().armed());
+  EXPECT_THROW(ScreenWord::CatchWordAt(beyond), std::overflow_error);
+  EXPECT_FALSE(nhw32::service().armed()) << "what was armed before is disarmed";
+  const auto& places = StripWatch::places();
+  EXPECT_TRUE(std::any_of(places.begin(), places.end(), [](const auto& place) {
+    return place.shown && place.rect.left == 32'696 && place.rect.top == 345;
+  }));
+  EXPECT_EQ(places.back().rect.left, -67);
+  EXPECT_EQ(places.back().rect.top, -67);
 }
 
 TEST_F(ScreenWordTest, TheStripIsPureBlueAndNeverActive) {
