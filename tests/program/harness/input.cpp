@@ -60,6 +60,10 @@ void moveTo(POINT point) {
 
 void click(POINT point) { useMouse(place(point) + " sleep 0.02 mousedown 1 sleep 0.04 mouseup 1"); }
 
+void press(POINT point) { useMouse(place(point) + " mousedown 1"); }
+
+void release() { useMouse("mouseup 1"); }
+
 void doubleClick(POINT point) { useMouse(place(point) + " click --repeat 2 --delay 60 1"); }
 
 void rightClick(POINT point) {

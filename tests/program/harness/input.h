@@ -13,6 +13,11 @@ namespace harness::input {
 void moveTo(POINT point);
 
 void click(POINT point);
+
+/// Presses the left button at `point`; lets go of it wherever the pointer is.
+void press(POINT point);
+void release();
+
 void doubleClick(POINT point);
 void rightClick(POINT point);
 
