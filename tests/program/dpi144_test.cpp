@@ -118,6 +118,8 @@ TEST_F(Dpi144, ThePopupIsLargerAsWell) {
   EXPECT_EQ(rect.top, pointer.y + 10);
   EXPECT_EQ(rect.right - rect.left, forms::toPixels(2500, kDpi));
   EXPECT_EQ(rect.bottom - rect.top, forms::toPixels(900, kDpi));
+  const RECT box = rectOf(GetWindow(popup.window(), GW_CHILD));
+  EXPECT_TRUE(EqualRect(&box, &rect)) << "the text box fills the popup";
   saveScreenshot("build/shots/popup-144dpi.png");
   input::moveTo({pointer.x + 5, pointer.y});
   EXPECT_TRUE(neverWithin(200, [&] { return !popup.isUp(); }));
