@@ -28,6 +28,7 @@ void Timings::print() const {
               at(kTail), at(1));
   if (aim_) std::printf("  %.2f %s", *aim_, verdict(median(), *aim_));
   if (tailAim_) std::printf(", %.2f %s", *tailAim_, verdict(at(kTail), *tailAim_));
+  if (longestAim_) std::printf("  longest %.2f %s", *longestAim_, verdict(at(1), *longestAim_));
   std::printf("\n");
 }
 

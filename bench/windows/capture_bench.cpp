@@ -1,11 +1,17 @@
-// From the pointer's coming to rest on a word in Notepad to the popup with its meaning, as a user
-// waits for it. Prints milliseconds.
-// Lexilo is started from build/app.
+// Words under the pointer as a user waits for them: from the pointer's coming to rest on a word in
+// Notepad to the popup with its meaning, the part of it that is spent in the screen-text service,
+// how long the toolbar is kept from answering meanwhile, and what capture costs while nothing is
+// there to be read. Lexilo is started from build/app.
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <random>
-#include <vector>
+#include <stop_token>
+#include <thread>
 
+#include "bench/timings.h"
+#include "bench/windows/processor_time.h"
+#include "bench/windows/service_host.h"
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/lexilo.h"
@@ -15,55 +21,121 @@
 
 namespace {
 
+using bench::Timings;
 using harness::MeaningPopup;
 using harness::Notepad;
 
-constexpr int kRounds = 100;
-/// A sixth of a second.
-constexpr double kAim = 1000.0 / 6;
+constexpr int kWords = 300;
+constexpr DWORD kRest = 30'000;  // ms
 
-double milliseconds() {
-  LARGE_INTEGER frequency{};
-  LARGE_INTEGER now{};
-  QueryPerformanceFrequency(&frequency);
-  QueryPerformanceCounter(&now);
-  return static_cast<double>(now.QuadPart) * 1000.0 / static_cast<double>(frequency.QuadPart);
-}
+/// A page of words in Notepad, which ends well above the window's lower edge.
+class Page {
+ public:
+  Page() {
+    notepad_.place({40, 120, 840, 720});
+    notepad_.setText(page_.text());
+  }
 
-/// One word: the pointer jumps there, and the popup is waited for.
-double timeOfWord(const Notepad& notepad, const MeaningPopup& popup, int character) {
-  const POINT place = harness::editPosition(notepad.edit(), character);
-  SetCursorPos(place.x + 3, place.y + 6);
-  const double start = milliseconds();
-  harness::waitFor("the popup", [&] { return popup.isUp(); });
-  const double taken = milliseconds() - start;
+  /// A place in some word.
+  POINT anyWord() {
+    const auto& word = page_.words()[random_() % page_.words().size()];
+    const POINT place = harness::editPosition(notepad_.edit(), word.start);
+    return {place.x + 3, place.y + 6};
+  }
+
+  /// A place below the last line.
+  [[nodiscard]] POINT blank() const {
+    const RECT client = harness::clientRectOf(notepad_.edit());
+    return {(client.left + client.right) / 2, client.bottom - 20};
+  }
+
+  /// Lets any part of the time between two probes (100 ms) pass.
+  void waitAnyPartOfAProbe() { Sleep(random_() % 100); }
+
+ private:
+  const Notepad notepad_;
+  const harness::WordPage page_{4, 25, 60};
+  std::minstd_rand random_{5};
+};
+
+void moveAway(const MeaningPopup& popup) {
   harness::input::moveTo(harness::kAwayFromTexts);
   popup.waitUntilClosed();
-  return taken;
+}
+
+/// Asks a window on and on until it is told to stop.
+void askOnAndOn(const std::stop_token& stop, HWND window, Timings& answers) {
+  while (!stop.stop_requested()) {
+    answers.time([&] { harness::send(window, WM_NULL); });
+    Sleep(2);
+  }
+}
+
+void measureWords(Page& page, const harness::Lexilo& lexilo, Timings& popups, Timings& answers) {
+  const MeaningPopup popup(lexilo.process());
+  const std::jthread asking([&, toolbar = lexilo.toolbar()](const std::stop_token& stop) {
+    askOnAndOn(stop, toolbar, answers);
+  });
+  for (int i = 0; i < kWords; ++i) {
+    const POINT place = page.anyWord();
+    page.waitAnyPartOfAProbe();
+    SetCursorPos(place.x, place.y);
+    popups.time([&] { harness::waitFor("the popup", [&] { return popup.isUp(); }); });
+    moveAway(popup);
+  }
+}
+
+/// The service alone, without Lexilo: from arming it to its message.
+void measureService(Page& page, Timings& service) {
+  bench::ServiceHost host;
+  for (int i = 0; i < kWords; ++i) {
+    const POINT place = page.anyWord();
+    service.time([&] { host.waitForWordAt(place); });
+  }
+}
+
+void printLoad(const char* what, double share, double aim) {
+  std::printf("%-44s %8.2f %% of a core  %.1f %s\n", what, share, aim,
+              share > aim ? "MISSED" : "met");
+}
+
+double loadOver(const harness::Process& process) {
+  const double before = bench::processorTime(process.id());
+  Sleep(kRest);
+  return (bench::processorTime(process.id()) - before) * 100 / kRest;
+}
+
+void measureLoad(const Page& page, const harness::Lexilo& lexilo) {
+  std::printf("\nLexilo's processor time over %lu s, the pointer at rest\n", kRest / 1000);
+  const MeaningPopup popup(lexilo.process());
+  harness::input::moveTo(page.blank());
+  printLoad("  over a blank of Notepad", loadOver(lexilo.process()), 3);
+  moveAway(popup);
+  printLoad("  over the desktop", loadOver(lexilo.process()), 1);
+  lexilo.click(harness::ToolbarButton::capture);
+  harness::input::moveTo(page.blank());
+  printLoad("  over a blank of Notepad, capture off", loadOver(lexilo.process()), 0.5);
 }
 
 void measure() {
   harness::input::moveTo(harness::kAwayFromTexts);
+  Page page;
+  Timings popups("pointer at rest to popup");
+  popups.aimAt(160, 260);
+  Timings service("  of it in the service: armed to reported");
+  Timings answers("toolbar kept from answering meanwhile");
+  answers.aimAtLongest(50);
+  measureService(page, service);
   const harness::Lexilo lexilo(harness::AppFolder::withFullDictionary());
   lexilo.waitUntilSeen();
-  const Notepad notepad;
-  notepad.place({40, 120, 840, 720});
-  const harness::WordPage page(4, 25, 60);
-  notepad.setText(page.text());
-  const MeaningPopup popup(lexilo.process());
-  std::minstd_rand random(5);
-  std::vector<double> times;
-  while (times.size() < kRounds) {
-    const auto& word = page.words()[random() % page.words().size()];
-    // Probes come every 100 ms: start anywhere between two.
-    Sleep(random() % 100);
-    times.push_back(timeOfWord(notepad, popup, word.start));
-  }
-  std::ranges::sort(times);
-  const double median = times[times.size() / 2];
-  std::printf(
-      "pointer at rest to popup, ms:  median %.0f  90 %% %.0f  longest %.0f  (aim %.0f: %s)\n",
-      median, times[times.size() * 9 / 10], times.back(), kAim, median <= kAim ? "met" : "missed");
+  measureWords(page, lexilo, popups, answers);
+  Timings::printHeading("words under the pointer, ms");
+  popups.print();
+  service.print();
+  std::printf("  the service's share of the median: %.1f %%\n",
+              100 * service.median() / popups.median());
+  answers.print();
+  measureLoad(page, lexilo);
 }
 
 }  // namespace
