@@ -10,6 +10,7 @@ bool Patience::mayAsk(WindowId window, Time now) const {
 }
 
 void Patience::note(WindowId window, Outcome outcome, Time now) {
+  if (outcome == Outcome::refused) return;
   Record record{.window = window};
   if (const auto old = std::ranges::find(records_, window, &Record::window);
       old != records_.end()) {

@@ -10,7 +10,7 @@ namespace nhw32 {
 
 /// Remembers the windows that keep us waiting. One that ran out of time three times in a row is
 /// left alone for a while, and after each further time for twice as long; an answer in time makes
-/// up for everything.
+/// up for everything, a refusal for nothing.
 class Patience {
  public:
   using Time = std::chrono::steady_clock::time_point;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "capture/nhw32/silence.h"
+
 namespace nhw32 {
 namespace {
 
@@ -38,7 +40,7 @@ LRESULT TargetWindow::ask(UINT message, WPARAM wParam, LPARAM lParam) const {
   SetLastError(0);
   if (SendMessageTimeoutW(window_, message, wParam, lParam, SMTO_ABORTIFHUNG | SMTO_BLOCK, time,
                           &answer) == 0) {
-    throw NoAnswer(GetLastError() == ERROR_TIMEOUT ? Outcome::outOfTime : Outcome::none);
+    throw NoAnswer(outcomeOfSilence(GetLastError()));
   }
   return static_cast<LRESULT>(answer);
 }

@@ -42,6 +42,7 @@ struct Word {
 enum class Outcome {
   word,
   none,       ///< no word there, or the window does not say
+  refused,    ///< the window may not be asked, or is gone
   outOfTime,  ///< the window did not answer in time
 };
 

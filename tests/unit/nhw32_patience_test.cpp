@@ -51,6 +51,18 @@ TEST(Patience, AnAnswerInTimeMakesUpForEverything) {
   }
 }
 
+TEST(Patience, ARefusalIsNoAnswerAndNoFailure) {
+  Patience patience;
+  fail(patience, 1, 2, kStart);
+  patience.note(1, Outcome::refused, kStart);
+  EXPECT_TRUE(patience.mayAsk(1, kStart));
+  fail(patience, 1, 1, kStart);
+  patience.note(1, Outcome::refused, kStart);
+  EXPECT_FALSE(patience.mayAsk(1, kStart));
+  for (int i = 0; i < 5; ++i) patience.note(2, Outcome::refused, kStart);
+  EXPECT_TRUE(patience.mayAsk(2, kStart));
+}
+
 TEST(Patience, EveryFurtherFailureDoublesTheRestUpToFiveMinutes) {
   Patience patience;
   Patience::Time now = kStart;

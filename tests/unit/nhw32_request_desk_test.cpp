@@ -66,13 +66,27 @@ TEST_F(Desk, WithdrawingDoesNotDisturbWhatIsArmed) {
 }
 
 TEST_F(Desk, NoWordIsAnnouncedNowhere) {
-  for (const Outcome outcome : {Outcome::none, Outcome::outOfTime}) {
+  for (const Outcome outcome : {Outcome::none, Outcome::refused, Outcome::outOfTime}) {
     desk_.arm(kHere, kHost);
     desk_.take();
     desk_.deliver({.outcome = outcome, .word = {}});
   }
   EXPECT_TRUE(announced_.empty());
   EXPECT_EQ(desk_.disarm(), std::nullopt);
+}
+
+TEST_F(Desk, AQuestionStandsUntilItIsDisarmed) {
+  EXPECT_FALSE(desk_.armed());
+  desk_.arm(kHere, kHost);
+  EXPECT_TRUE(desk_.armed());
+  desk_.take();
+  desk_.deliver(wordAnswer(u"data"));
+  EXPECT_TRUE(desk_.armed());
+  desk_.disarm();
+  EXPECT_FALSE(desk_.armed());
+  desk_.arm(kThere, kHost);
+  desk_.disarm();
+  EXPECT_FALSE(desk_.armed());
 }
 
 TEST_F(Desk, AnAnswerAfterDisarmingIsDropped) {

@@ -4,6 +4,7 @@
 #include <chrono>
 
 #include "capture/nhw32/nhw32.h"
+#include "capture/nhw32/patience.h"
 #include "capture/nhw32/service.h"
 #include "tests/program/harness/find.h"
 #include "tests/program/harness/stopped.h"
@@ -102,7 +103,7 @@ TEST_P(Nhw32Programs, AStoppedProgramHoldsNobodyUpAndLivesOn) {
   {
     const harness::Stopped stopped(program.mark());
     HoldUps probing;
-    for (int probe = 0; probe < 10; ++probe) {
+    for (int probe = 0; probe < nhw32::Patience::kChances; ++probe) {
       probing.measure([&] { host.probe(point); });
       passTime(60);
     }
@@ -127,6 +128,24 @@ TEST_P(Nhw32Programs, AStoppedProgramHoldsNobodyUpAndLivesOn) {
                    [&] { return answerTo(question).word.text == u"patient"; });
   EXPECT_TRUE(program.process().running());
   EXPECT_EQ(harness::textOf(program.control()), L"patient words");
+}
+
+/// Takes from everyone the right to open a program, as one of higher integrity withholds it.
+void forbidOpening(HANDLE process) {
+  ACL nobody{};
+  SECURITY_DESCRIPTOR descriptor{};
+  ASSERT_TRUE(InitializeAcl(&nobody, sizeof nobody, ACL_REVISION));
+  ASSERT_TRUE(InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION));
+  ASSERT_TRUE(SetSecurityDescriptorDacl(&descriptor, TRUE, &nobody, FALSE));
+  ASSERT_TRUE(SetKernelObjectSecurity(process, DACL_SECURITY_INFORMATION, &descriptor));
+}
+
+TEST(Nhw32Refusal, AProgramThatMayNotBeOpenedGivesNoWordOfItsRichEditControl) {
+  const TextProgram program(TextProgram::Kind::wordPad, u"guarded words");
+  const nhw32::Question question = questionAbout(program.control(), 3);
+  ASSERT_EQ(answerTo(question).word.text, u"guarded");
+  forbidOpening(program.process().handle());
+  EXPECT_EQ(answerTo(question).outcome, nhw32::Outcome::refused);
 }
 
 TEST_P(Nhw32Programs, AProgramThatDiesGivesNoWord) {
