@@ -4,11 +4,16 @@
 #include <tlhelp32.h>
 #include <winternl.h>
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
 #include <span>
+#include <vector>
 
 #include "forms/registry.h"
+#include "tests/program/harness/controls.h"
 #include "tests/windows/support/capture_test.h"
+#include "tests/windows/support/text_program.h"
 
 namespace wintest {
 namespace {
@@ -18,6 +23,13 @@ struct Held {
   std::size_t memory = 0;  ///< bytes on its heaps
   int gdiObjects = 0;
   int threads = 0;
+  std::size_t handles = 0;
+};
+
+/// What our questions might leave in the program that is asked.
+struct HeldByOther {
+  std::size_t memory = 0;  ///< bytes committed
+  std::size_t handles = 0;
 };
 
 /// GDI objects of this process in the table that all processes share; its place in the process
@@ -75,14 +87,61 @@ std::size_t heapBytes() {
   return bytes;
 }
 
-Held held() { return {heapBytes(), gdiObjects(), threads()}; }
+/// Handles that a process has open.
+std::size_t handlesOf(DWORD process) {
+  struct Entry {
+    ULONG owner;
+    BYTE type;
+    BYTE flags;
+    USHORT handle;
+    void* object;
+    ULONG access;
+  };
+  constexpr std::size_t kEntries = 200'000;
+  constexpr auto kSystemHandles = static_cast<SYSTEM_INFORMATION_CLASS>(16);
+  std::vector<std::byte> buffer(sizeof(std::uint64_t) + kEntries * sizeof(Entry));
+  const NTSTATUS status = NtQuerySystemInformation(kSystemHandles, buffer.data(),
+                                                   static_cast<ULONG>(buffer.size()), nullptr);
+  EXPECT_GE(status, 0);
+  const auto count = *reinterpret_cast<const ULONG*>(buffer.data());
+  const auto* entries = reinterpret_cast<const Entry*>(buffer.data() + sizeof(std::uint64_t));
+  return static_cast<std::size_t>(std::count_if(
+      entries, entries + count, [&](const Entry& entry) { return entry.owner == process; }));
+}
+
+/// Bytes that a process has committed.
+std::size_t committedBy(HANDLE process) {
+  std::size_t bytes = 0;
+  MEMORY_BASIC_INFORMATION region{};
+  for (const std::byte* at = nullptr;
+       VirtualQueryEx(process, at, &region, sizeof region) != 0 && region.RegionSize != 0;
+       at = static_cast<const std::byte*>(region.BaseAddress) + region.RegionSize) {
+    if (region.State == MEM_COMMIT) bytes += region.RegionSize;
+  }
+  return bytes;
+}
+
+/// With the forms that have gone let go of, whose objects are kept until the next event.
+Held held() {
+  forms::Registry::instance().purge();
+  return {heapBytes(), gdiObjects(), threads(), handlesOf(GetCurrentProcessId())};
+}
+
+HeldByOther heldBy(const TextProgram& program) {
+  return {committedBy(program.process().handle()), handlesOf(program.process().id())};
+}
 
 class CaptureSoak : public CaptureTest {
  protected:
-  /// Captures the word at `index` of `edit` as the cycle does, but without its waits.
-  static void capture(HWND edit, int index) {
-    ScreenWord::CatchWordAt(wordPoint(edit, index));
-    ASSERT_TRUE(eventually([] { return !ScreenWord::strScreenWord.empty(); }));
+  /// Captures the word at `point` as the cycle does, but without waiting for its time.
+  static void capture(POINT point) {
+    constexpr DWORD kProbeTime = 100;
+    bool reported = false;
+    for (int probes = 0; probes < 50 && !reported; ++probes) {
+      ScreenWord::CatchWordAt(point);
+      reported = eventually([] { return !ScreenWord::strScreenWord.empty(); }, kProbeTime);
+    }
+    ASSERT_TRUE(reported);
     std::u16string word = std::exchange(ScreenWord::strScreenWord, {});
     auto& form = popup();
     ASSERT_NE(form.showMeaning(word, form.Adodc1), u"");
@@ -93,18 +152,34 @@ class CaptureSoak : public CaptureTest {
 };
 
 TEST_F(CaptureSoak, TwoThousandCapturesLeaveNothingBehind) {
-  const PlainWindow edit(L"Edit", {200, 300, 900, 400}, L"data bit datum it's");
-  const auto round = [&](int captures) {
-    for (int i = 0; i < captures && !HasFatalFailure(); ++i) capture(edit.handle(), i % 2 * 5);
+  const PlainWindow edit(L"Edit", {200, 720, 900, 800}, L"data bit datum it's");
+  const TextProgram program(TextProgram::Kind::wordPad, u"data bit datum it's");
+  const auto inRichEdit = [&](LONG index) {
+    const POINT corner = harness::richTextPosition(program.control(), index);
+    return POINT{corner.x + 4, corner.y + 6};
+  };
+  const std::array places{wordPoint(edit.handle(), 0), inRichEdit(0), wordPoint(edit.handle(), 5),
+                          inRichEdit(5)};
+  const auto round = [&](std::size_t captures) {
+    for (std::size_t i = 0; i < captures && !HasFatalFailure(); ++i) capture(places[i % 4]);
   };
   round(200);
   const Held before = held();
+  const HeldByOther otherBefore = heldBy(program);
   round(2000);
   const Held after = held();
-  // The last popup may still be on the heap, as one was before.
-  EXPECT_LE(after.memory, before.memory + 256 * 1024);
+  const HeldByOther otherAfter = heldBy(program);
+  constexpr std::size_t kSlack = 16 * 1024;  // bytes: eight for each capture
+  EXPECT_LE(after.memory, before.memory + kSlack);
   EXPECT_LE(after.gdiObjects, before.gdiObjects + 2);
+  EXPECT_LE(after.handles, before.handles + 4);
+  EXPECT_LE(otherAfter.memory, otherBefore.memory + kSlack);
+  EXPECT_LE(otherAfter.handles, otherBefore.handles + 4);
   EXPECT_GT(before.gdiObjects, 0);
+  EXPECT_GT(before.handles, 0U);
+  EXPECT_GT(otherBefore.handles, 0U);
+  RecordProperty("bytes kept", std::to_string(static_cast<std::int64_t>(after.memory) -
+                                              static_cast<std::int64_t>(before.memory)));
   // The system runs threads of its own for a moment.
   EXPECT_TRUE(eventually([&] { return threads() <= before.threads; }));
 }
