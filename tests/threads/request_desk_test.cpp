@@ -15,9 +15,13 @@ namespace {
 
 constexpr int kRounds = 10'000;
 
-/// What the answer to a question has to be.
-std::u16string wordFor(const Question& question) {
-  return u"word" + std::u16string(static_cast<std::size_t>(question.point.x), u'x');
+/// The answer to a question, the `number`th that was taken: the one in its text, the other as the
+/// left edge of its place.
+Answer answerTo(const Question& question, int number, Outcome outcome = Outcome::word) {
+  const std::string text = "word at " + std::to_string(question.point.x) + " in window " +
+                           std::to_string(question.window);
+  return {.outcome = outcome,
+          .word = {.text = {text.begin(), text.end()}, .box = {.left = number}}};
 }
 
 /// A host's message queue.
@@ -54,24 +58,29 @@ void dawdle(std::mt19937& random) {
   }
 }
 
-void work(RequestDesk& desk, unsigned seed) {
+/// A worker's life. Questions are counted as they are taken.
+void work(RequestDesk& desk, unsigned seed, std::atomic<int>& taken) {
   std::mt19937 random(seed);
   while (const auto question = desk.take()) {
+    const int number = ++taken;
     dawdle(random);
     const bool found = random() % 8 != 0;
-    desk.deliver({.outcome = found ? Outcome::word : Outcome::none,
-                  .word = {.text = wordFor(*question), .box = {}}});
+    desk.deliver(answerTo(*question, number, found ? Outcome::word : Outcome::none));
   }
 }
 
 /// The user-interface thread's side: what it does in the program's operations and loop.
 class Host {
  public:
-  explicit Host(RequestDesk& desk, Queue& queue) : desk_(desk), queue_(queue) {}
+  Host(RequestDesk& desk, Queue& queue, const std::atomic<int>& taken)
+      : desk_(desk), queue_(queue), taken_(taken) {}
 
   void arm(const Question& question) {
     disarm();
     armed_ = question;
+    // Only a question that is asked on and on may be answered by a worker who took it before.
+    if (question != asked_) tooOld_ = taken_;
+    asked_ = question;
     desk_.arm(question, 1);
   }
 
@@ -89,7 +98,9 @@ class Host {
     desk_.disarm();
     const auto word = desk_.word();
     ASSERT_TRUE(word) << "an announcement without a word";
-    EXPECT_EQ(word->text, wordFor(*armed_)) << "the word of another question";
+    EXPECT_EQ(word->text, answerTo(*armed_, 0).word.text) << "the word of another question";
+    EXPECT_GT(word->box.left, tooOld_) << "the answer to an older question of the same kind";
+    tooOld_ = word->box.left;
     armed_.reset();
     ++heard_;
     desk_.disarm();
@@ -101,7 +112,10 @@ class Host {
  private:
   RequestDesk& desk_;
   Queue& queue_;
+  const std::atomic<int>& taken_;
   std::optional<Question> armed_;
+  std::optional<Question> asked_;  ///< the last that was armed, even if it is disarmed
+  int tooOld_ = 0;                 ///< questions taken up to here must not be answered
   int heard_ = 0;
 };
 
@@ -113,8 +127,9 @@ TEST(RequestDeskThreads, NoOlderAnswerSurvivesInTenThousandInterleavings) {
   std::mt19937 random(1);
   Queue queue;
   RequestDesk desk([&](WindowId) { return queue.post(); });
-  std::thread worker([&] { work(desk, 2); });
-  Host host(desk, queue);
+  std::atomic<int> taken = 0;
+  std::thread worker([&] { work(desk, 2, taken); });
+  Host host(desk, queue, taken);
   for (int round = 0; round < kRounds; ++round) {
     if (random() % 8 == 0) {
       host.disarm();
@@ -132,22 +147,22 @@ TEST(RequestDeskThreads, NoOlderAnswerSurvivesInTenThousandInterleavings) {
 TEST(RequestDeskThreads, WhoArmsTheSameAgainAndAgainIsHeardBySlowWorkers) {
   Queue queue;
   RequestDesk desk([&](WindowId) { return queue.post(); });
-  std::atomic<int> asked = 0;
+  std::atomic<int> taken = 0;
   std::thread worker([&] {
     while (const auto question = desk.take()) {
-      ++asked;
+      const int number = ++taken;
       std::this_thread::sleep_for(std::chrono::milliseconds(50));
-      desk.deliver({.outcome = Outcome::word, .word = {.text = wordFor(*question), .box = {}}});
+      desk.deliver(answerTo(*question, number));
     }
   });
-  Host host(desk, queue);
+  Host host(desk, queue, taken);
   for (int round = 0; host.heard() == 0 && round < kRounds; ++round) {
     host.arm({.window = 1, .point = {2, 0}});
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
     host.handle();
   }
   EXPECT_EQ(host.heard(), 1);
-  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(taken, 1);
   desk.close();
   worker.join();
 }
@@ -156,17 +171,19 @@ TEST(RequestDeskThreads, WorkersComeAndGoInTenThousandRounds) {
   std::mt19937 random(3);
   Queue queue;
   std::deque<std::thread> workers;
+  std::atomic<int> taken = 0;
   std::shared_ptr<RequestDesk> desk;
   for (int round = 0; round < kRounds; ++round) {
     if (desk == nullptr || !desk->reopen()) {
       desk = std::make_shared<RequestDesk>([&](WindowId) { return queue.post(); });
-      workers.emplace_back([desk, round] { work(*desk, static_cast<unsigned>(round)); });
+      workers.emplace_back(
+          [desk, round, &taken] { work(*desk, static_cast<unsigned>(round), taken); });
     }
     while (workers.size() > 4) {
       workers.front().join();
       workers.pop_front();
     }
-    Host host(*desk, queue);
+    Host host(*desk, queue, taken);
     host.arm(anyQuestion(random));
     dawdle(random);
     host.handle();
