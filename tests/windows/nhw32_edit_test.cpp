@@ -204,6 +204,18 @@ TEST_F(Nhw32Edit, NothingWhereItShrinksHidesOrGoesInMidQuestion) {
   }
 }
 
+TEST_F(Nhw32Edit, AnEditControlUnderAnotherNameTellsItsWordsToo) {
+  for (const wchar_t* name : {L"ThunderRT6TextBox", L"ThunderRT5TextBox", L"ThunderTextBox"}) {
+    WNDCLASSW windowClass{};
+    ASSERT_TRUE(GetClassInfoW(nullptr, L"EDIT", &windowClass));
+    windowClass.hInstance = GetModuleHandleW(nullptr);
+    windowClass.lpszClassName = name;
+    ASSERT_NE(RegisterClassW(&windowClass), 0);
+    const TextTarget target({.className = name}, u"older words");
+    EXPECT_EQ(wordAbout(target, 8), u"words");
+  }
+}
+
 TEST_F(Nhw32Edit, AWindowThatOnlySoundsLikeOneIsNotAskedForItsText) {
   WNDCLASSW windowClass{};
   windowClass.lpfnWndProc = DefWindowProcW;
