@@ -3,21 +3,19 @@
 #include <windows.h>
 
 #include <string>
-#include <thread>
+
+#include "tests/program/harness/threaded_window.h"
 
 namespace harness {
 
-/// A window of the test's own, filled by one control: for Lexilo another program. It runs on a
-/// thread of its own, which can be kept from answering.
+/// A window of the test's own, filled by one control: for Lexilo another program. It can be kept
+/// from answering.
 class TextWindow {
  public:
   TextWindow(const wchar_t* className, DWORD style, const RECT& place, const std::wstring& text);
-  ~TextWindow();
-  TextWindow(const TextWindow&) = delete;
-  TextWindow& operator=(const TextWindow&) = delete;
 
-  [[nodiscard]] HWND window() const { return window_; }
-  [[nodiscard]] HWND control() const { return control_; }
+  [[nodiscard]] HWND window() const { return window_.window(); }
+  [[nodiscard]] HWND control() const { return window_.control(); }
 
   /// Where character `index` of an edit control stands on the screen.
   [[nodiscard]] POINT characterPoint(int index) const;
@@ -36,12 +34,7 @@ class TextWindow {
   };
 
  private:
-  void run(const std::wstring& className, DWORD style, RECT place, const std::wstring& text,
-           HANDLE ready);
-
-  HWND window_ = nullptr;
-  HWND control_ = nullptr;
-  std::thread thread_;
+  ThreadedWindow window_;
 };
 
 }  // namespace harness

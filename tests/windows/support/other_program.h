@@ -3,7 +3,8 @@
 #include <windows.h>
 
 #include <string>
-#include <thread>
+
+#include "tests/program/harness/threaded_window.h"
 
 namespace wintest {
 
@@ -16,24 +17,20 @@ class OtherProgram {
   OtherProgram(const OtherProgram&) = delete;
   OtherProgram& operator=(const OtherProgram&) = delete;
 
-  [[nodiscard]] HWND window() const { return window_; }
-  [[nodiscard]] HWND edit() const { return edit_; }
+  [[nodiscard]] HWND window() const { return window_.window(); }
+  [[nodiscard]] HWND edit() const { return window_.control(); }
   [[nodiscard]] std::u16string text() const;
 
   /// Takes the foreground and waits until it has it.
   void activate() const;
   /// Puts it above all other windows, topmost ones too.
   void raiseAboveAll() const {
-    SetWindowPos(window_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    SetWindowPos(window(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
-  [[nodiscard]] bool isForeground() const { return GetForegroundWindow() == window_; }
+  [[nodiscard]] bool isForeground() const { return GetForegroundWindow() == window(); }
 
  private:
-  void run(HANDLE ready);
-
-  HWND window_ = nullptr;
-  HWND edit_ = nullptr;
-  std::thread thread_;
+  harness::ThreadedWindow window_;
 };
 
 }  // namespace wintest

@@ -12,14 +12,7 @@
 namespace wintest {
 namespace {
 
-constexpr wchar_t kClassName[] = L"TextTarget";
 constexpr POINT kPlace{300, 200};
-
-LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message != WM_DESTROY) return DefWindowProcW(window, message, wParam, lParam);
-  PostQuitMessage(0);
-  return 0;
-}
 
 LRESULT CALLBACK hookProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
                           DWORD_PTR hook) {
@@ -32,50 +25,31 @@ bool isRich(HWND control) { return harness::classOf(control).starts_with(L"RichE
 
 }  // namespace
 
-TextTarget::TextTarget(Design design, const std::u16string& text) : design_(std::move(design)) {
-  LoadLibraryW(L"riched20.dll");
-  HANDLE ready = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-  thread_ = std::thread([this, ready] { run(ready); });
-  WaitForSingleObject(ready, kPatience);
-  CloseHandle(ready);
+TextTarget::TextTarget(Design design, const std::u16string& text)
+    : design_(std::move(design)),
+      window_(
+          {.controlClass = design_.className,
+           .controlStyle = design_.style,
+           .place = {kPlace.x, kPlace.y, kPlace.x + design_.size.cx, kPlace.y + design_.size.cy},
+           .prepare = [this](HWND control) { prepare(control); }}) {
   setText(text);
 }
 
 TextTarget::~TextTarget() {
-  PostMessageW(window_, WM_CLOSE, 0, 0);
+  window_.close();
   // Its thread may wait for an answer from ours while it goes.
-  eventually([this] { return IsWindow(window_) == FALSE; });
-  thread_.join();
+  eventually([this] { return IsWindow(window()) == FALSE; });
 }
 
-void TextTarget::run(HANDLE ready) {
-  WNDCLASSW windowClass{};
-  windowClass.lpfnWndProc = windowProc;
-  windowClass.hInstance = GetModuleHandleW(nullptr);
-  windowClass.lpszClassName = kClassName;
-  windowClass.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
-  RegisterClassW(&windowClass);
-  window_ = CreateWindowExW(WS_EX_TOPMOST | WS_EX_NOACTIVATE, kClassName, L"Text", WS_POPUP,
-                            kPlace.x, kPlace.y, design_.size.cx, design_.size.cy, nullptr, nullptr,
-                            windowClass.hInstance, nullptr);
-  control_ = CreateWindowExW(0, design_.className.c_str(), L"",
-                             WS_CHILD | WS_VISIBLE | design_.style, 0, 0, design_.size.cx,
-                             design_.size.cy, window_, nullptr, windowClass.hInstance, nullptr);
-  SendMessageW(control_, EM_LIMITTEXT, 4'000'000, 0);
-  if (design_.hook)
-    SetWindowSubclass(control_, hookProc, 1, reinterpret_cast<DWORD_PTR>(&design_.hook));
-  ShowWindow(window_, SW_SHOWNOACTIVATE);
-  UpdateWindow(window_);
-  SetEvent(ready);
-  MSG message;
-  while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
+void TextTarget::prepare(HWND control) const {
+  SendMessageW(control, EM_LIMITTEXT, 4'000'000, 0);
+  if (design_.hook) {
+    SetWindowSubclass(control, hookProc, 1, reinterpret_cast<DWORD_PTR>(&design_.hook));
   }
 }
 
 void TextTarget::setText(const std::u16string& text) const {
-  SendMessageW(control_, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+  SendMessageW(control(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
 std::optional<POINT> characterCorner(HWND control, std::size_t position) {

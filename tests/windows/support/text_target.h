@@ -5,9 +5,9 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <thread>
 
 #include "capture/nhw32/text_provider.h"
+#include "tests/program/harness/threaded_window.h"
 
 namespace wintest {
 
@@ -30,17 +30,15 @@ class TextTarget {
   TextTarget(const TextTarget&) = delete;
   TextTarget& operator=(const TextTarget&) = delete;
 
-  [[nodiscard]] HWND window() const { return window_; }
-  [[nodiscard]] HWND control() const { return control_; }
+  [[nodiscard]] HWND window() const { return window_.window(); }
+  [[nodiscard]] HWND control() const { return window_.control(); }
   void setText(const std::u16string& text) const;
 
  private:
-  void run(HANDLE ready);
+  void prepare(HWND control) const;
 
-  Design design_;
-  HWND window_ = nullptr;
-  HWND control_ = nullptr;
-  std::thread thread_;
+  const Design design_;
+  harness::ThreadedWindow window_;
 };
 
 /// The upper left corner of a character of an edit or rich edit control of any program, in screen
