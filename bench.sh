@@ -4,7 +4,7 @@
 #   ./bench.sh          all parts
 #   ./bench.sh native   only lookups and searches, natively, without windows
 #   ./bench.sh painted  only from keystroke or click to what it has painted, under Wine
-#   ./bench.sh capture  only from resting the pointer on a word to the popup, under Wine
+#   ./bench.sh capture  only words under the pointer: popup, service, toolbar, processor time
 #
 # Other work on the machine shows in the figures.
 set -euo pipefail
