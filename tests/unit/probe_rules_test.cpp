@@ -25,17 +25,19 @@ TEST(ProbedWindows, AreTheTextWindowsOfTheTable) {
 }
 
 TEST(ProbedWindows, MayHaveMoreInTheirNames) {
-  for (const char* name : {"TMyEditor", "Edit0", "RichEditD2DPT",
-                           "puttyterm", "xEXCEL7", "WineEditor"}) {
+  for (const char* name :
+       {"TMyEditor", "Edit0", "RichEditD2DPT", "puttyterm", "xEXCEL7", "WineEditor"}) {
     EXPECT_TRUE(isProbed(name)) << name;
   }
 }
 
 TEST(ProbedWindows, AreNoOthers) {
-  for (const char* name : {"Button",  "Static", "",       "SysTreeView32", "SysListView32",
-                           "ListBox", "#32768", "#32769", "Progman",       "Shell_TrayWnd",
-                           "EXCEL",   "EXCEL8", "Excel7", "RICHEDIT50W", "WindowsForms10.EDIT.app.0.141b42a_r6_ad1",   "EDIT",
-                           "edit",    "Edi",    "_WwF",   "TTY",           "AVL_"}) {
+  for (const char* name :
+       {"Button",  "Static", "",       "SysTreeView32", "SysListView32",
+        "ListBox", "#32768", "#32769", "Progman",       "Shell_TrayWnd",
+        "EXCEL",   "EXCEL8", "Excel7", "RICHEDIT50W",   "WindowsForms10.EDIT.app.0.141b42a_r6_ad1",
+        "EDIT",    "edit",   "Edi",    "_WwF",          "TTY",
+        "AVL_"}) {
     EXPECT_FALSE(isProbed(name)) << name;
   }
 }
