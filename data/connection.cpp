@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "data/error.h"
 #include "data/sql_tokens.h"
@@ -12,13 +13,14 @@ namespace data {
 namespace {
 
 /// Ceilings for one statement and one value: well above what the dictionary needs (its longest
-/// meaning has some 200 characters), well below what would hurt.
+/// meaning has some 200 characters, and the longest text that a box takes 98,301 bytes), well below
+/// what would hurt.
 struct Ceiling {
   int what;
   int limit;
 };
 constexpr Ceiling kCeilings[] = {
-    {SQLITE_LIMIT_LENGTH, 1'000'000},
+    {SQLITE_LIMIT_LENGTH, 100'000},
     {SQLITE_LIMIT_SQL_LENGTH, 500'000},
     {SQLITE_LIMIT_COLUMN, 100},
     {SQLITE_LIMIT_EXPR_DEPTH, 100},
@@ -56,7 +58,7 @@ void ConnectionCloser::operator()(sqlite3* connection) const { sqlite3_close_v2(
 void StatementCloser::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
 Connection openConnection(const std::string& file, Access access,
-                          std::chrono::milliseconds lockWait) {
+                          std::chrono::milliseconds lockWait, std::function<bool()> isOverdue) {
   // SQLite takes these two for databases in memory and in a nameless file.
   if (file.empty() || file == ":memory:") {
     throw Error(SQLITE_CANTOPEN, sqlite3_errstr(SQLITE_CANTOPEN));
@@ -68,7 +70,7 @@ Connection openConnection(const std::string& file, Access access,
   check(opened, result);
   check(opened, sqlite3_busy_timeout(opened, static_cast<int>(lockWait.count())));
   harden(opened);
-  registerTextFunctions(opened);
+  registerTextFunctions(opened, std::move(isOverdue));
   return connection;
 }
 

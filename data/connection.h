@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -22,10 +23,11 @@ enum class Access { kRead, kWrite };
 
 /// Opens an existing database file (path in UTF-8; never made anew, never taken for a URI) that may
 /// be damaged or ill-meant: nothing in it may run triggers, views or functions of doubt. The text
-/// functions are registered. An operation waits up to `lockWait` while others hold the file. Throws
-/// Error; a file that is no database is noticed by the first statement only.
+/// functions are registered, with `isOverdue` (see text_functions.h). An operation waits up to
+/// `lockWait` while others hold the file. Throws Error; a file that is no database is noticed by
+/// the first statement only.
 Connection openConnection(const std::string& file, Access access,
-                          std::chrono::milliseconds lockWait);
+                          std::chrono::milliseconds lockWait, std::function<bool()> isOverdue = {});
 
 /// Throws the connection's last failure as Error.
 [[noreturn]] void raise(sqlite3* connection);

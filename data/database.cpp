@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <optional>
 #include <utility>
 
 #include "data/error.h"
@@ -69,15 +70,17 @@ Rows readRows(sqlite3* connection, const std::string& sql, std::size_t limit) {
 Database::Database(std::string file, Patience patience)
     : file_(std::move(file)),
       patience_(patience),
-      connection_(openConnection(file_, Access::kRead, patience.lock)) {
+      connection_(
+          openConnection(file_, Access::kRead, patience.lock, [this] { return isOverdue(); })) {
+  sqlite3_hard_heap_limit64(kMostMemory);
   allowReadingOnly(connection_.get());
-  sqlite3_progress_handler(connection_.get(), kStepsBetweenLooks, &Database::isOverdue, this);
+  sqlite3_progress_handler(
+      connection_.get(), kStepsBetweenLooks,
+      [](void* database) { return static_cast<const Database*>(database)->isOverdue() ? 1 : 0; },
+      this);
 }
 
-int Database::isOverdue(void* database) {
-  return std::chrono::steady_clock::now() > static_cast<const Database*>(database)->deadline_ ? 1
-                                                                                              : 0;
-}
+bool Database::isOverdue() const { return std::chrono::steady_clock::now() > deadline_; }
 
 /// A program that was killed in the middle of an update leaves a journal behind that has to be
 /// rolled back before the file can be read, which a connection for reading cannot do.
@@ -90,15 +93,17 @@ auto Database::withRecovery(Operation operation) {
     if (error.code() != SQLITE_READONLY_ROLLBACK) throw;
   }
   rollBackJournal();
-  deadline_ = std::chrono::steady_clock::now() + patience_.query;
   return operation();
 }
 
 Rows Database::read(const std::string& sql, std::size_t limit, ScanOrder order) {
   return withRecovery([&] {
-    if (order == ScanOrder::kForward) return readRows(connection_.get(), sql, limit);
-    const BackwardScan backward(connection_.get());
-    return readRows(connection_.get(), sql, limit);
+    std::optional<BackwardScan> backward;
+    if (order == ScanOrder::kBackward) backward.emplace(connection_.get());
+    Rows rows = readRows(connection_.get(), sql, limit);
+    // What is overdue may have been sorted with texts taken for equal.
+    if (isOverdue()) throw Error(SQLITE_INTERRUPT, sqlite3_errstr(SQLITE_INTERRUPT));
+    return rows;
   });
 }
 

@@ -30,15 +30,21 @@ struct Rows {
 
 enum class ScanOrder { kForward, kBackward };
 
-/// How long an operation may take.
+/// How long an operation may take. With both used up and what it holds given back, it still ends
+/// before a user takes the window for frozen, which is after 5 s.
 struct Patience {
-  std::chrono::milliseconds query{5000};  ///< a query that runs longer ends with an error
+  std::chrono::milliseconds query{3500};  ///< a query that runs longer ends with an error
   std::chrono::milliseconds lock{1000};   ///< wait for other programs that hold the file
 };
 
+/// What the engine may take, in bytes: several times what pages in memory and sorted rows of the
+/// dictionary need.
+inline constexpr std::int64_t kMostMemory = std::int64_t{64} << 20U;
+
 /// A database file, open for reading only. Every operation runs its statement to the end of what is
 /// asked and closes it, so that nothing holds the file between operations. All operations throw
-/// Error with the engine's message.
+/// Error with the engine's message. From the first one on the engine takes at most kMostMemory in
+/// this process; a query that needs more fails.
 class Database {
  public:
   /// `file` is the path in UTF-8.
@@ -58,7 +64,7 @@ class Database {
   bool hasRowid(const std::string& table);
 
  private:
-  static int isOverdue(void* database);
+  [[nodiscard]] bool isOverdue() const;
 
   template <typename Operation>
   auto withRecovery(Operation operation);

@@ -2,10 +2,13 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 #include "data/connection.h"
+#include "text/effort.h"
 #include "text/like_pattern.h"
 #include "text/order.h"
 
@@ -21,7 +24,9 @@ std::string_view viewOf(sqlite3_value* value) {
   return text == nullptr ? std::string_view{} : viewOf(text, sqlite3_value_bytes(value));
 }
 
-int collate(void* /*context*/, int bytesA, const void* a, int bytesB, const void* b) {
+int collate(void* effort, int bytesA, const void* a, int bytesB, const void* b) {
+  const auto steps = static_cast<std::size_t>(std::min(bytesA, bytesB));
+  if (!static_cast<text::Effort*>(effort)->spend(steps)) return 0;
   return text::compareUtf8(viewOf(a, bytesA), viewOf(b, bytesB));
 }
 
@@ -43,20 +48,30 @@ const text::LikePattern* keepPattern(sqlite3_context* context, sqlite3_value* va
 /// "text LIKE pattern" reaches the function as like(pattern, text).
 void like(sqlite3_context* context, int /*count*/, sqlite3_value** values) {
   if (sqlite3_value_type(values[1]) == SQLITE_NULL) return;
+  const std::string_view text = viewOf(values[1]);
+  std::size_t read = text.size();
   const text::LikePattern* pattern = keptPattern(context);
   if (pattern == nullptr) {
     if (sqlite3_value_type(values[0]) == SQLITE_NULL) return;
-    if (sqlite3_value_bytes(values[0]) > kLongestPattern) {
+    const int bytes = sqlite3_value_bytes(values[0]);
+    if (bytes > kLongestPattern) {
       sqlite3_result_error(context, "LIKE pattern too complex", -1);
       return;
     }
+    read += static_cast<std::size_t>(bytes);
     pattern = keepPattern(context, values[0]);
   }
   if (pattern == nullptr) {
     sqlite3_result_error_nomem(context);
     return;
   }
-  sqlite3_result_int(context, pattern->matches(viewOf(values[1])) ? 1 : 0);
+  text::Effort& effort = *static_cast<text::Effort*>(sqlite3_user_data(context));
+  const bool matches = effort.spend(read) && pattern->matches(text, effort);
+  if (effort.isGivenUp()) {
+    sqlite3_result_error_code(context, SQLITE_INTERRUPT);
+    return;
+  }
+  sqlite3_result_int(context, matches ? 1 : 0);
 }
 
 void refuseEscape(sqlite3_context* context, int /*count*/, sqlite3_value** /*values*/) {
@@ -65,15 +80,18 @@ void refuseEscape(sqlite3_context* context, int /*count*/, sqlite3_value** /*val
 
 }  // namespace
 
-void registerTextFunctions(sqlite3* connection) {
+void registerTextFunctions(sqlite3* connection, std::function<bool()> isOverdue) {
   constexpr int kFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
-  const auto define = [&](int arguments, auto* function) {
-    check(connection, sqlite3_create_function_v2(connection, "like", arguments, kFlags, nullptr,
-                                                 function, nullptr, nullptr, nullptr));
+  // The connection owns it from here on, also where defining the function fails.
+  text::Effort* effort = std::make_unique<text::Effort>(std::move(isOverdue)).release();
+  const auto destroy = [](void* owned) {
+    const std::unique_ptr<text::Effort> owner(static_cast<text::Effort*>(owned));
   };
-  define(2, &like);
-  define(3, &refuseEscape);
-  check(connection, sqlite3_create_collation_v2(connection, kTextOrder, SQLITE_UTF8, nullptr,
+  check(connection, sqlite3_create_function_v2(connection, "like", 2, kFlags, effort, &like,
+                                               nullptr, nullptr, destroy));
+  check(connection, sqlite3_create_function_v2(connection, "like", 3, kFlags, nullptr,
+                                               &refuseEscape, nullptr, nullptr, nullptr));
+  check(connection, sqlite3_create_collation_v2(connection, kTextOrder, SQLITE_UTF8, effort,
                                                 &collate, nullptr));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 struct sqlite3;
 
 namespace data {
@@ -14,7 +16,9 @@ inline constexpr const char* kTextOrder = "lexilo";
 inline constexpr int kLongestPattern = 50000;
 
 /// Teaches a connection the collation and LIKE. Whoever builds, reads or updates the dictionary
-/// does this right after opening it. Throws Error.
-void registerTextFunctions(sqlite3* connection);
+/// does this right after opening it. `isOverdue` is asked now and then while they work: once it
+/// says yes, LIKE fails with SQLITE_INTERRUPT, and all texts compare as equal for the sake of a
+/// quick end of the statement, whose rows are worth nothing then. Throws Error.
+void registerTextFunctions(sqlite3* connection, std::function<bool()> isOverdue = {});
 
 }  // namespace data

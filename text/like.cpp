@@ -1,3 +1,4 @@
+#include "text/effort.h"
 #include "text/order.h"
 #include "text/units.h"
 
@@ -15,8 +16,10 @@ constexpr unsigned kCaseBit = 0x20;
 template <typename Units>
 class Matcher {
  public:
-  Matcher(Units pattern, Units text) : pattern_(pattern), text_(text) {}
+  Matcher(Units pattern, Units text, Effort& effort)
+      : pattern_(pattern), text_(text), effort_(effort) {}
 
+  /// Also false where the effort is given up.
   bool run() {
     while (inPattern_ < pattern_.size() || inText_ < text_.size()) {
       if (!step() && !lengthenRun()) {
@@ -60,6 +63,9 @@ class Matcher {
     if (!hasRun_ || runEnd_ == text_.size()) {
       return false;
     }
+    if (!effort_.spend(inPattern_ - follower_ + 1)) {
+      return false;
+    }
     runEnd_ += text_.at(runEnd_).length;
     return seekFollower();
   }
@@ -92,6 +98,7 @@ class Matcher {
 
   Units pattern_;
   Units text_;
+  Effort& effort_;  // spent where a run is lengthened: all else goes through each text once
   std::size_t inPattern_ = 0;
   std::size_t inText_ = 0;
   bool hasRun_ = false;       // whether a "%" has been passed; the rest is about the last one
@@ -102,11 +109,17 @@ class Matcher {
 }  // namespace
 
 bool like(std::u16string_view pattern, std::u16string_view text) {
-  return Matcher(Utf16Units(pattern), Utf16Units(text)).run();
+  Effort unlimited;
+  return Matcher(Utf16Units(pattern), Utf16Units(text), unlimited).run();
 }
 
 bool likeUtf8(std::string_view pattern, std::string_view text) {
-  return Matcher(Utf8Units(pattern), Utf8Units(text)).run();
+  Effort unlimited;
+  return likeUtf8(pattern, text, unlimited);
+}
+
+bool likeUtf8(std::string_view pattern, std::string_view text, Effort& effort) {
+  return Matcher(Utf8Units(pattern), Utf8Units(text), effort).run();
 }
 
 }  // namespace text

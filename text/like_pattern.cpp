@@ -119,18 +119,19 @@ LikePattern::Probe LikePattern::probeOf(std::size_t offset) const {
   return {offset, eightTimes(fixed_[offset]), eightTimes(caseBits_[offset])};
 }
 
-bool LikePattern::matches(std::string_view text) const {
+bool LikePattern::matches(std::string_view text, Effort& effort) const {
   if (text.size() < fixed_.size()) return false;
-  const bool found = isAnchored_ ? standsAt(text.data()) : fixed_.empty() || occursIn(text);
+  const bool found = isAnchored_ ? standsAt(text.data()) : fixed_.empty() || occursIn(text, effort);
   if (!found || isWhole_) return found;
-  return rest_ ? rest_->matches(text.substr(fixed_.size())) : likeUtf8(pattern_, text);
+  return rest_ ? rest_->matches(text.substr(fixed_.size()), effort)
+               : likeUtf8(pattern_, text, effort);
 }
 
 /// Whether the stretch stands anywhere in `text`, which is not shorter. Bytes may be compared as
 /// they are: a lead byte always begins a character, so that the bytes of whole characters are found
 /// as those characters only. Eight places are looked at in one step; the last step goes back over
 /// some of the one before.
-bool LikePattern::occursIn(std::string_view text) const {
+bool LikePattern::occursIn(std::string_view text, Effort& effort) const {
   const std::size_t reach = std::max(rarest_.offset, second_.offset) + kPlaces;
   if (text.size() < reach) return occursInShort(text);
   const char* const lastStart = text.data() + (text.size() - fixed_.size());
@@ -139,6 +140,7 @@ bool LikePattern::occursIn(std::string_view text) const {
     for (std::uint64_t marks = candidatesAmong8(step); marks != 0; marks &= marks - 1) {
       const char* const place = step + firstMarked(marks);
       if (place <= lastStart && standsAt(place)) return true;
+      if (!effort.spend(fixed_.size())) return false;
     }
     if (step == lastStep) return false;
   }

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "text/effort.h"
+
 namespace text {
 
 /// A LIKE pattern that is tried on many texts in UTF-8. It says what likeUtf8 says of each, sooner:
@@ -15,7 +17,13 @@ class LikePattern {
  public:
   explicit LikePattern(std::string_view pattern);
 
-  [[nodiscard]] bool matches(std::string_view text) const;
+  [[nodiscard]] bool matches(std::string_view text) const {
+    Effort unlimited;
+    return matches(text, unlimited);
+  }
+  /// The same, with the steps counted that go beyond one pass over the pattern and the text; false
+  /// where they are given up.
+  [[nodiscard]] bool matches(std::string_view text, Effort& effort) const;
 
  private:
   /// One byte of the fixed stretch, to be looked for at eight places of a text at once.
@@ -32,7 +40,7 @@ class LikePattern {
   void chooseProbes();
   [[nodiscard]] Probe probeOf(std::size_t offset) const;
 
-  [[nodiscard]] bool occursIn(std::string_view text) const;
+  [[nodiscard]] bool occursIn(std::string_view text, Effort& effort) const;
   [[nodiscard]] bool occursInShort(std::string_view text) const;
   [[nodiscard]] std::uint64_t candidatesAmong8(const char* place) const;
   [[nodiscard]] bool standsAt(const char* place) const;

@@ -8,6 +8,8 @@
 /// matter, Latin comes before Han, Han goes by pinyin. Database, lookups and builder all use it.
 namespace text {
 
+class Effort;
+
 /// Place of one UTF-16 code unit in the order. A-Z and U+00C0-U+00DE (not U+00D7) weigh as their
 /// lower case; Han weighs 0x10000 plus its pinyin rank; all else weighs its own code.
 std::uint32_t weight(char16_t unit);
@@ -27,6 +29,10 @@ bool like(std::u16string_view pattern, std::u16string_view text);
 /// here too.
 int compareUtf8(std::string_view a, std::string_view b);
 bool likeUtf8(std::string_view pattern, std::string_view text);
+
+/// The same, with the steps that go beyond one pass over both texts counted; false where they are
+/// given up.
+bool likeUtf8(std::string_view pattern, std::string_view text, Effort& effort);
 
 /// Lower case as the order folds it: ASCII and Latin-1 letters, everything else as it is.
 constexpr char16_t foldCase(char16_t unit) {

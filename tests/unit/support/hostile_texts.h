@@ -2,13 +2,48 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace support {
 
+/// What costly texts pad a dictionary's texts with.
+inline constexpr char16_t kPadding = u'\u00A4';
+
+inline std::u16string repeated(std::u16string_view part, std::size_t times) {
+  std::u16string whole;
+  for (std::size_t i = 0; i < times; ++i) whole += part;
+  return whole;
+}
+
+/// Those among the hostile texts that make single steps of the engine long, or its memory full.
+inline std::vector<std::u16string> costlyTexts() {
+  const std::u16string padding(30'000, kPadding);
+  return {
+      // A long pattern that nearly stands at every place of a long text.
+      u"zzz' or '" + repeated(u"a", 16'000) + u"'||word like '%" + repeated(u"a", 8'000) + u"b' --",
+      u"zzz' or '" + repeated(u"a", 16'000) + u"'||word like '%" + repeated(u"a_", 4'000) +
+          u"b' --",
+      // Long rows that have to be sorted, by short texts and by long ones.
+      u"' union all select word||'" + padding + u"',meaning from med order by 2 --",
+      u"' union all select '" + padding + u"'||word,meaning from med order by 1 --",
+      u"' union select word,meaning from med group by '" + padding.substr(0, 1'000) +
+          u"'||word collate nocase --",
+  };
+}
+
+/// Those that only the clock ends, however small the dictionary.
+inline std::vector<std::u16string> endlessTexts() {
+  return {
+      u"zzz' or exists (select 1 from med" + repeated(u",med", 60) + u") --",
+      u"zzz' or (select w||w||w||w||w||w from (select '" + repeated(u"a", 15'000) +
+          u"' w))||word like '%" + repeated(u"a", 12'000) + u"b' --",
+  };
+}
+
 /// What somebody might type into a box in order to change the database, to read what is none of
-/// the dictionaries, or to keep the program busy. Every second column of a search is a text.
-inline std::vector<std::u16string> hostileTexts() {
+/// the dictionaries, or to keep the program busy, but for the endless texts.
+inline std::vector<std::u16string> briefHostileTexts() {
   std::vector<std::u16string> texts{
       // Statements behind the query.
       u"'; delete from med; --",
@@ -105,11 +140,6 @@ inline std::vector<std::u16string> hostileTexts() {
       u"心' or 1=1 --",
       u"心' union select name,sql from sqlite_master --",
   };
-  const auto repeated = [](std::u16string_view part, std::size_t times) {
-    std::u16string whole;
-    for (std::size_t i = 0; i < times; ++i) whole += part;
-    return whole;
-  };
   texts.push_back(repeated(u"'", 1001));
   texts.push_back(repeated(u"%a", 15'000));
   texts.push_back(repeated(u"_", 30'000));
@@ -119,7 +149,6 @@ inline std::vector<std::u16string> hostileTexts() {
   texts.push_back(u"'" + repeated(u" or 1", 5'000) + u" --");
   texts.push_back(u"' or word in (1" + repeated(u",1", 10'000) + u") --");
   texts.push_back(u"'" + repeated(u" union select word,meaning from med", 500) + u" --");
-  texts.push_back(u"' or exists (select 1 from med" + repeated(u",med", 60) + u") --");
   texts.push_back(u"' or exists (select 1 from med a" + repeated(u" join med using (word)", 40) +
                   u") --");
   // Each name stands for twice the one before.
@@ -130,6 +159,14 @@ inline std::vector<std::u16string> hostileTexts() {
         u"," + std::u16string(2, c) + u" as (select 1 w from " + from + u" x," + from + u" y)";
   }
   texts.push_back(doubling + u" select 1 from xx) --");
+  for (const std::u16string& costly : costlyTexts()) texts.push_back(costly);
+  return texts;
+}
+
+/// All of them.
+inline std::vector<std::u16string> hostileTexts() {
+  std::vector<std::u16string> texts = briefHostileTexts();
+  for (const std::u16string& endless : endlessTexts()) texts.push_back(endless);
   return texts;
 }
 
