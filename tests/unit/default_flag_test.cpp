@@ -3,11 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <set>
 
 #include "data/cursor.h"
 #include "data/database.h"
 #include "tests/unit/support/file_layer.h"
 #include "tests/unit/support/small_dictionary.h"
+#include "tests/unit/support/sound_database.h"
 #include "tests/unit/support/window_queries.h"
 
 namespace {
@@ -150,37 +152,55 @@ TEST_F(DefaultFlag, ADiskThatFailsAtAnyMomentCostsNothingButTheFlag) {
 }
 
 // What another program that copies the folder may catch: both files between any two changes.
-TEST_F(DefaultFlag, AFileCopiedWithItsJournalIsReadAndRepaired) {
-  const auto whole = folder_.file(u"whole.dat");
-  std::filesystem::copy_file(support::smallDatabase(), whole);
-  const auto journal = [](std::filesystem::path file) { return file.concat("-journal"); };
-  const auto copy = folder_.file(u"copy.dat");
-  int withJournal = 0;
-  for (int moment = 1;; ++moment) {
-    clickDictionary(whole, 4);
-    int changes = 0;
-    {
-      const support::FileLayer layer([&] {
-        if (++changes == moment) {
-          support::writeFile(copy, support::readFile(whole));
-          support::writeFile(journal(copy), support::readFile(journal(whole)));
-        }
-        return SQLITE_OK;
-      });
-      clickDictionary(whole, 7);
-    }
-    if (changes < moment) break;
-    if (std::filesystem::file_size(journal(copy)) > 0) ++withJournal;
-    support::expectEveryWindowReads(copy);
-    // The former default comes first in the list and is reset first.
-    const Rows flagged = storedDefaults(copy);
-    EXPECT_TRUE(flagged == Rows{4} || flagged == Rows{} || flagged == Rows{7}) << moment;
-    clickDictionary(copy, 2);
-    EXPECT_EQ(storedDefaults(copy), (Rows{2}));
-    EXPECT_FALSE(std::filesystem::exists(journal(copy)));
-    ASSERT_LT(moment, 200);
+class DefaultFlagCopied : public DefaultFlag {
+ protected:
+  DefaultFlagCopied() { std::filesystem::copy_file(support::smallDatabase(), whole_); }
+
+  static std::filesystem::path journal(std::filesystem::path file) {
+    return file.concat("-journal");
   }
-  EXPECT_GT(withJournal, 5);
-}
+
+  /// Moves the default and copies the files before change number `moment`; false without one.
+  bool copyInMove(std::size_t from, std::size_t to, int moment) {
+    clickDictionary(whole_, from);
+    int changes = 0;
+    const support::FileLayer layer([&] {
+      if (++changes == moment) {
+        support::writeFile(copy_, support::readFile(whole_));
+        support::writeFile(journal(copy_), support::readFile(journal(whole_)));
+      }
+      return SQLITE_OK;
+    });
+    clickDictionary(whole_, to);
+    return changes >= moment;
+  }
+
+  /// Tries every moment before the last change is done; the defaults are seen in each of `states`
+  /// and in no other.
+  void tryMove(std::size_t from, std::size_t to, const std::vector<Rows>& states) {
+    std::set<Rows> seen;
+    int withJournal = 0;
+    for (int moment = 1; copyInMove(from, to, moment); ++moment) {
+      SCOPED_TRACE(moment);
+      if (std::filesystem::file_size(journal(copy_)) > 0) ++withJournal;
+      support::expectEveryWindowReads(copy_);
+      support::expectSoundButForTheDefault(copy_);
+      seen.insert(storedDefaults(copy_));
+      clickDictionary(copy_, 2);
+      EXPECT_EQ(storedDefaults(copy_), (Rows{2}));
+      EXPECT_FALSE(std::filesystem::exists(journal(copy_)));
+      ASSERT_LT(moment, 200);
+    }
+    EXPECT_EQ(seen, std::set<Rows>(states.begin(), states.end()));
+    EXPECT_GT(withJournal, 5);
+  }
+
+  std::filesystem::path whole_ = folder_.file(u"whole.dat");
+  std::filesystem::path copy_ = folder_.file(u"copy.dat");
+};
+
+TEST_F(DefaultFlagCopied, DownTheListTheFormerDefaultIsResetFirst) { tryMove(4, 7, {{4}, {}}); }
+
+TEST_F(DefaultFlagCopied, UpTheListTheNewDefaultIsSetFirst) { tryMove(7, 4, {{7}, {4, 7}}); }
 
 }  // namespace
