@@ -8,6 +8,7 @@
 #include "data/database.h"
 #include "data/error.h"
 #include "tests/unit/support/sample_database.h"
+#include "tests/unit/support/unprivileged.h"
 
 namespace {
 
@@ -183,22 +184,24 @@ TEST_F(RecordSetUpdateTest, FailsWhereNoJournalCanBeWritten) {
 }
 
 TEST_F(RecordSetUpdateTest, FailsForAReadOnlyFile) {
-  RecordSet set = rows(kSettingsQuery);
-  std::filesystem::permissions(file_, std::filesystem::perms::owner_read);
-  // Permissions do not bind an administrator everywhere; then the update has to succeed.
-  const bool bound = !std::ofstream(file_, std::ios::app).is_open();
-  if (bound) {
+  using std::filesystem::perms;
+  const std::string before = support::readFile(file_);
+  // Anybody may write into the folder: it is the file alone that forbids it.
+  std::filesystem::permissions(folder_.path(), perms::all);
+  std::filesystem::permissions(file_, perms::owner_read | perms::group_read | perms::others_read);
+  const bool passed = support::passesUnprivileged([this] {
+    RecordSet set = rows(kSettingsQuery);
     try {
       set.update(u"default", 1);
       ADD_FAILURE() << "no error";
     } catch (const Error& error) {
       EXPECT_EQ(error.code() & 0xFF, SQLITE_READONLY);
     }
-  } else {
-    set.update(u"default", 1);
-  }
-  EXPECT_EQ(set.field(u"default").integer, bound ? 0 : 1);
-  std::filesystem::permissions(file_, std::filesystem::perms::owner_all);
+    EXPECT_EQ(set.field(u"default").integer, 0);
+  });
+  std::filesystem::permissions(file_, perms::owner_all);
+  EXPECT_TRUE(passed);
+  EXPECT_EQ(support::readFile(file_), before);
 }
 
 TEST_F(RecordSetUpdateTest, FailsForAFileThatIsGone) {
