@@ -118,6 +118,20 @@ TEST_F(FrmSpc, StarsAndQuestionMarksAreNoWildcards) {
   EXPECT_EQ(lines(), (Texts{u"heart beat          心搏"}));
 }
 
+TEST_F(FrmSpc, LinesThatCannotBeWrittenAreNoReasonToStop) {
+  // The width of the lines overflows: the word is longer than 16 bits count.
+  store("insert into med values ('" + std::string(33'000, 'x') + "','m')");
+  openBoth();
+  easy(u"heart");
+  const Texts before = lines();
+  fill(u"xxx", u"m");
+  press(dialog().cmdOK);
+  EXPECT_TRUE(closed());
+  EXPECT_EQ(lines(), before);
+  EXPECT_EQ(form().txtInput.text(), u"特殊查询 xxx：m");
+  EXPECT_EQ(boxes.count(), 0U);
+}
+
 TEST_F(FrmSpc, AQuoteIsAnUncaughtErrorWithTheEnginesWords) {
   openBoth();
   easy(u"heart");

@@ -35,14 +35,14 @@ inline std::vector<std::u16string> costlyTexts() {
 /// Those that only the clock ends, however small the dictionary.
 inline std::vector<std::u16string> endlessTexts() {
   return {
-      u"zzz' or exists (select 1 from med" + repeated(u",med", 60) + u") --",
       u"zzz' or (select w||w||w||w||w||w from (select '" + repeated(u"a", 15'000) +
           u"' w))||word like '%" + repeated(u"a", 12'000) + u"b' --",
   };
 }
 
 /// What somebody might type into a box in order to change the database, to read what is none of
-/// the dictionaries, or to keep the program busy, but for the endless texts.
+/// the dictionaries, or to keep the program busy, but for the costly and the
+/// endless texts.
 inline std::vector<std::u16string> briefHostileTexts() {
   std::vector<std::u16string> texts{
       // Statements behind the query.
@@ -151,6 +151,7 @@ inline std::vector<std::u16string> briefHostileTexts() {
   texts.push_back(u"'" + repeated(u" union select word,meaning from med", 500) + u" --");
   texts.push_back(u"' or exists (select 1 from med a" + repeated(u" join med using (word)", 40) +
                   u") --");
+  texts.push_back(u"zzz' or exists (select 1 from med" + repeated(u",med", 60) + u") --");
   // Each name stands for twice the one before.
   std::u16string doubling = u"' or exists (with a0 as (select word w from med)";
   for (char16_t c = u'a'; c < u'y'; ++c) {
@@ -159,13 +160,13 @@ inline std::vector<std::u16string> briefHostileTexts() {
         u"," + std::u16string(2, c) + u" as (select 1 w from " + from + u" x," + from + u" y)";
   }
   texts.push_back(doubling + u" select 1 from xx) --");
-  for (const std::u16string& costly : costlyTexts()) texts.push_back(costly);
   return texts;
 }
 
 /// All of them.
 inline std::vector<std::u16string> hostileTexts() {
   std::vector<std::u16string> texts = briefHostileTexts();
+  for (const std::u16string& costly : costlyTexts()) texts.push_back(costly);
   for (const std::u16string& endless : endlessTexts()) texts.push_back(endless);
   return texts;
 }
