@@ -183,6 +183,8 @@ TEST_F(RecordSetUpdateTest, FailsWhereNoJournalCanBeWritten) {
   EXPECT_EQ(stored("select sum([default]) from [Index]"), 1);
 }
 
+#ifndef _WIN32
+// Under Wine root may write into a file that is read-only; here there is a user whom it binds.
 TEST_F(RecordSetUpdateTest, FailsForAReadOnlyFile) {
   using std::filesystem::perms;
   const std::string before = support::readFile(file_);
@@ -201,8 +203,9 @@ TEST_F(RecordSetUpdateTest, FailsForAReadOnlyFile) {
   });
   std::filesystem::permissions(file_, perms::owner_all);
   EXPECT_TRUE(passed);
-  EXPECT_EQ(support::readFile(file_), before);
+  EXPECT_TRUE(support::readFile(file_) == before);
 }
+#endif
 
 TEST_F(RecordSetUpdateTest, FailsForAFileThatIsGone) {
   RecordSet set = rows(kSettingsQuery);
