@@ -63,6 +63,20 @@ TEST_F(ColumnTreeTest, AHanCharacterTakesExactlyTwoColumns) {
   EXPECT_EQ(columnsShown(7), 23);
 }
 
+TEST_F(ColumnTreeTest, ColumnsStayStraightAtAnotherResolution) {
+  tree().add(u"M");
+  tree().add(std::u16string(20, u'W') + u"M");
+  tree().add(std::u16string(10, u'汉') + u"M");
+  const int before = tree().columnWidth();
+  const RECT suggested{40, 40, 1000, 700};
+  SendMessageW(forms::single<ColumnForm>().handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
+               reinterpret_cast<LPARAM>(&suggested));
+  tree().deselect();
+  EXPECT_GT(tree().columnWidth(), before);
+  ASSERT_TRUE(eventually([] { return columnsShown(1) == 1; }));
+  for (const int row : {2, 3}) EXPECT_EQ(columnsShown(row), 21) << row;
+}
+
 TEST_F(ColumnTreeTest, ALineThatIsWiderThanTheViewScrollsToItsEnd) {
   tree().add(std::u16string(150, u'汉'));
   tree().refresh();

@@ -66,7 +66,7 @@ TEST_F(FrmHostileTexts, InTheChineseBoxOfTheSpecialSearch) {
   expectIntact();
 }
 
-TEST_F(FrmHostileTexts, ASearchWithoutEndIsEnded) {
+TEST_F(FrmHostileTexts, ASearchWithoutEndEndsInOneBox) {
   typeEach({support::endlessTexts().front()},
            [](const std::u16string& text) { special(text, u"心"); });
   EXPECT_EQ(boxes.count(), 1U);

@@ -135,6 +135,29 @@ TEST_F(FrmMainSearching, LinesAreWrittenToAnyTreeUpToALimit) {
   EXPECT_EQ(lines().size(), 7U);
 }
 
+/// A tree whose third node takes no text.
+class BrittleTree : public forms::TreeView {
+ public:
+  using TreeView::TreeView;
+  void setText(std::size_t number, const std::u16string& text) override {
+    if (number == 3) throw std::runtime_error("no text here");
+    TreeView::setText(number, text);
+  }
+};
+
+TEST_F(FrmMainSearching, LinesWrittenUpToAnErrorStay) {
+  BrittleTree tree(form(), {0, 0, 3000, 3000});
+  for (int i = 0; i < 4; ++i) tree.add(u"old");
+  form().Adodc1.setRecordSource(u"select word,meaning from med order by word");
+  form().Adodc1.refresh();
+  form().MakeTree(form().Adodc1, tree, 100);
+  EXPECT_TRUE(tree.text(1).starts_with(u"heart "));
+  EXPECT_TRUE(tree.text(2).starts_with(u"heart beat"));
+  EXPECT_EQ(tree.text(3), u"old");
+  EXPECT_EQ(tree.text(4), u"old");
+  EXPECT_EQ(boxes.count(), 0U);
+}
+
 TEST_F(FrmMainSearching, AnErrorWhileLinesAreWrittenEndsSilently) {
   easy(u"heart");
   const Texts before = lines();
