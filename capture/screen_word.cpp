@@ -8,6 +8,7 @@
 #include "capture/probe_rules.h"
 #include "forms/geometry.h"
 #include "forms/registry.h"
+#include "settings/ansi.h"
 #include "text/trim.h"
 
 namespace ScreenWord {
@@ -21,14 +22,6 @@ constexpr std::size_t kClassNameRoom = 100;
 constexpr int kClassNameCount = 64;
 
 void disarm() { nhw32::BL_SetFlag32(nhw32::kDisarm, nullptr, 0, 0); }
-
-std::u16string fromAnsi(std::string_view text) {
-  const int length = static_cast<int>(text.size());
-  const int count = MultiByteToWideChar(CP_ACP, 0, text.data(), length, nullptr, 0);
-  std::wstring wide(static_cast<std::size_t>(count), L'\0');
-  MultiByteToWideChar(CP_ACP, 0, text.data(), length, wide.data(), count);
-  return forms::fromWide(wide);
-}
 
 void takeWord() {
   disarm();
@@ -70,7 +63,7 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
 }
 
 std::u16string pendingWord(std::span<const char> buffer) {
-  return std::u16string(user::trimBlanks(fromAnsi(capture::reportedText(buffer))));
+  return std::u16string(user::trimBlanks(user::fromAnsi(capture::reportedText(buffer))));
 }
 
 void CatchWordAt(const POINT& point) {

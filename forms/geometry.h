@@ -16,6 +16,15 @@ inline constexpr int kFrameHeight = 405;
 /// Largest size of a window, in twips.
 inline constexpr int kMaxSize = 32767;
 
+/// Place and size of a widget in its form's client area, in twips.
+struct WidgetBox {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  bool operator==(const WidgetBox&) const = default;
+};
+
 /// Nearest pixel at `dpi`, halves away from zero.
 int toPixels(int twips, int dpi);
 

@@ -5,20 +5,13 @@
 #include <unordered_map>
 
 #include "forms/font.h"
+#include "forms/geometry.h"
 #include "forms/guard.h"
 #include "forms/win32.h"
 
 namespace forms {
 
 class Form;
-
-/// Place and size of a widget in its form's client area, in twips.
-struct WidgetBox {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
-};
 
 /// A place in a widget or form, in twips from its top left corner.
 struct Place {

@@ -93,10 +93,8 @@ void frmSub::placeListAndPane() {
   const int listWidth = TreeView1.width();
   const lookup::Layout layout = lookup::layOut(lookup::snapSize({width(), height()}), listWidth);
   TreeView1.move({layout.listLeft, layout.listTop, listWidth, layout.listHeight});
-  const lookup::Box& line = layout.splitter;
-  Image1.move({line.left, line.top, line.width, line.height});
-  const lookup::Box& pane = layout.pane;
-  txtOut.move({pane.left, pane.top, pane.width, pane.height});
+  Image1.move(layout.splitter);
+  txtOut.move(layout.pane);
 }
 
 void frmSub::Form_Paint() { bringToTop(); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "forms/geometry.h"
+
 /// Where the widgets of the quick lookup window go. All lengths in twips; W and H are the window's
 /// Width and Height as the forms count them.
 namespace lookup {
@@ -10,13 +12,7 @@ struct Size {
   bool operator==(const Size&) const = default;
 };
 
-struct Box {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
-  bool operator==(const Box&) const = default;
-};
+using Box = forms::WidgetBox;
 
 /// The size that a window of `size` snaps to: below 3600 x 2900 it becomes 3500 x 2800, each
 /// direction by itself.

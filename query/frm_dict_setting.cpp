@@ -52,8 +52,8 @@ void frmdictSetting::Form_Load() {
 
 void frmdictSetting::Form_Resize() {
   const auto [dictionaries, hint] = query::layOutSettings(width(), height());
-  TreeView2.move({dictionaries.left, dictionaries.top, dictionaries.width, dictionaries.height});
-  Text3.move({hint.left, hint.top, hint.width, hint.height});
+  TreeView2.move(dictionaries);
+  Text3.move(hint);
 }
 
 void frmdictSetting::Form_Activate() { ScreenWord::StopCapture(); }

@@ -28,10 +28,6 @@ forms::FormDesign design() {
   return design;
 }
 
-void place(forms::Widget& widget, const query::Box& box) {
-  widget.move({box.left, box.top, box.width, box.height});
-}
-
 void tellToChooseDictionary() {
   forms::showMessage(u"请选择字典！", forms::MessageIcon::exclamation);
 }
@@ -73,14 +69,14 @@ void frmMain::Form_Load() try {
 
 void frmMain::Form_Resize() {
   const query::Layout layout = query::layOut(width(), height());
-  place(Label2, layout.inputLabel);
-  place(txtInput, layout.input);
-  place(cmdOK, layout.ok);
-  place(Command1, layout.advanced);
-  place(cmdSpc, layout.special);
-  place(Label5, layout.dictionariesLabel);
-  place(TreeView1, layout.dictionaries);
-  place(TreeView2, layout.results);
+  Label2.move(layout.inputLabel);
+  txtInput.move(layout.input);
+  cmdOK.move(layout.ok);
+  Command1.move(layout.advanced);
+  cmdSpc.move(layout.special);
+  Label5.move(layout.dictionariesLabel);
+  TreeView1.move(layout.dictionaries);
+  TreeView2.move(layout.results);
 }
 
 void frmMain::Form_Unload() {

@@ -1,16 +1,12 @@
 #pragma once
 
+#include "forms/geometry.h"
+
 /// Where the widgets of the windows that can be resized go. All lengths in twips; W and H are the
 /// window's Width and Height as the forms count them.
 namespace query {
 
-struct Box {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
-  bool operator==(const Box&) const = default;
-};
+using Box = forms::WidgetBox;
 
 /// Size that the multi-dictionary window opens with: room for some twenty result lines.
 inline constexpr int kOpeningWidth = 10500;

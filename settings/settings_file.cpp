@@ -6,6 +6,7 @@
 #include <array>
 #include <memory>
 
+#include "settings/ansi.h"
 #include "settings/settings_rules.h"
 #include "settings/win32_profile.h"
 
@@ -25,22 +26,6 @@ struct FreeTaskMemory {
   void operator()(wchar_t* memory) const { CoTaskMemFree(memory); }
 };
 using TaskMemory = std::unique_ptr<wchar_t, FreeTaskMemory>;
-
-std::string toAnsi(const std::u16string& text) {
-  const auto* units = reinterpret_cast<const wchar_t*>(text.c_str());
-  const int length = static_cast<int>(text.size());
-  const int size = WideCharToMultiByte(CP_ACP, 0, units, length, nullptr, 0, nullptr, nullptr);
-  std::string ansi(static_cast<std::size_t>(size), '\0');
-  WideCharToMultiByte(CP_ACP, 0, units, length, ansi.data(), size, nullptr, nullptr);
-  return ansi;
-}
-
-std::u16string fromAnsi(const char* text, int length) {
-  const int size = MultiByteToWideChar(CP_ACP, 0, text, length, nullptr, 0);
-  std::wstring units(static_cast<std::size_t>(size), L'\0');
-  MultiByteToWideChar(CP_ACP, 0, text, length, units.data(), size);
-  return {units.begin(), units.end()};
-}
 
 const wchar_t* wide(const std::u16string& text) {
   return reinterpret_cast<const wchar_t*>(text.c_str());
@@ -62,7 +47,7 @@ bool canWrite(const std::u16string& file) {
 /// `path` itself where the ANSI code page can name it, else its short form.
 std::u16string ansiName(const std::u16string& path) {
   const std::string ansi = toAnsi(path);
-  if (fromAnsi(ansi.data(), static_cast<int>(ansi.size())) == path) return path;
+  if (fromAnsi(ansi) == path) return path;
   std::array<wchar_t, MAX_PATH> shortPath{};
   const DWORD length = GetShortPathNameW(wide(path), shortPath.data(), MAX_PATH);
   if (length == 0 || length >= MAX_PATH) return path;
@@ -91,7 +76,7 @@ std::u16string getINIProfileString(const std::u16string& section, const std::u16
   const DWORD length = GetPrivateProfileStringA(
       toAnsi(section).c_str(), toAnsi(key).c_str(), toAnsi(fallback).c_str(), buffer.data(),
       static_cast<DWORD>(buffer.size()), toAnsi(file).c_str());
-  const std::u16string value = fromAnsi(buffer.data(), static_cast<int>(length));
+  const std::u16string value = fromAnsi({buffer.data(), length});
   return profileValue(static_cast<int>(length), value, fallback);
 }
 
@@ -104,8 +89,7 @@ void WriteINIProfileString(const std::u16string& section, const std::u16string& 
 std::u16string systemDirectory() {
   std::array<char, 255> buffer{};
   const UINT length = GetSystemDirectoryA(buffer.data(), static_cast<UINT>(buffer.size()));
-  return length < buffer.size() ? fromAnsi(buffer.data(), static_cast<int>(length))
-                                : std::u16string();
+  return length < buffer.size() ? fromAnsi({buffer.data(), length}) : std::u16string();
 }
 
 std::u16string settingsFile() {
