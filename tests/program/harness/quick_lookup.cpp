@@ -13,12 +13,14 @@ Sought windowOf(const Process& process) {
 
 }  // namespace
 
-QuickLookup::QuickLookup(const Process& process)
-    : window_(waitForWindow(windowOf(process))),
+QuickLookup::QuickLookup(HWND window)
+    : window_(window),
       input_(waitForChild(window_, L"Edit")),
       list_(waitForChild(window_, L"SysTreeView32")),
       pane_(waitForChild(window_, L"RICHEDIT50W")),
-      exitButton_(waitForChild(window_, L"Button")) {
+      exitButton_(waitForChild(window_, L"Button")) {}
+
+QuickLookup::QuickLookup(const Process& process) : QuickLookup(waitForWindow(windowOf(process))) {
   waitFor("the quick lookup window to come to the front",
           [&] { return GetForegroundWindow() == window_; });
   Sleep(kReactionTime);

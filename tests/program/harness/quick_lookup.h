@@ -14,6 +14,9 @@ class QuickLookup {
   /// Waits until the window is there and in front, and for as long as a user takes to see that.
   explicit QuickLookup(const Process& process);
 
+  /// This window, which is open but may lie behind others.
+  explicit QuickLookup(HWND window);
+
   /// The window of a running program if it is open now, else null.
   static HWND find(const Process& process);
 
