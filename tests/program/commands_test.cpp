@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "tests/program/harness/button.h"
 #include "tests/program/harness/dictionary_windows.h"
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/message_box.h"
@@ -53,7 +54,7 @@ TEST_F(Commands, TheAboutBoxSaysWhatItIsAndCloses) {
     EXPECT_NE(said.find(text), said.npos) << testing::PrintToString(text);
   }
   for (HWND button : childrenOf(box, L"Button")) {
-    if (IsWindowVisible(button) != FALSE) input::click(centreOf(rectOf(button)));
+    if (IsWindowVisible(button) != FALSE) clickButton(button);
   }
   waitUntilGone(box);
   EXPECT_TRUE(lexilo.process().running());

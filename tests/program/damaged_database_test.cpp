@@ -72,7 +72,8 @@ void useAndEnd(const AppFolder& folder) {
   const Lexilo lexilo(folder);
   lexilo.waitUntilSeen();
   insist(
-      "the window", lexilo, [&] { lexilo.click(ToolbarButton::quickLookup); },
+      "the window", lexilo,
+      [&] { input::click(centreOf(rectOf(lexilo.button(ToolbarButton::quickLookup)))); },
       [&] { return QuickLookup::find(lexilo.process()) != nullptr; });
   // Messages may lie before it and come up at any moment, so that it need not be in front.
   const QuickLookup window(QuickLookup::find(lexilo.process()));

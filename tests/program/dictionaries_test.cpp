@@ -357,6 +357,7 @@ TEST_F(OwnDictionaries, AMissingCatalogueIsToldByBothWindows) {
   const ShownMessage box = waitForMessageBox(lexilo.process());
   EXPECT_EQ(box.text, L"出现异常错误，请重新启动程序或安装程序！");
   box.answer();
+  waitForForm(lexilo.process(), L"frmMain");
   lexilo.click(ToolbarButton::dictionarySettings);
   const ShownMessage other = waitForMessageBox(lexilo.process());
   EXPECT_TRUE(other.criticalIcon);

@@ -30,32 +30,33 @@ POINT cornerOf(HWND window) {
   return {rect.left, rect.top};
 }
 
-TEST_F(Toolbar, TheFirstDragTakesItsCornerToThePointer) {
-  const POINT target{500, 400};
-  input::drag(centreOf(lexilo.grip()), target);
-  waitFor("the corner to be at the pointer", [&] {
-    const POINT corner = cornerOf(toolbar);
+void waitForCornerAt(HWND window, POINT target) {
+  waitFor("the toolbar to be where it was dragged", [&] {
+    const POINT corner = cornerOf(window);
     return corner.x == target.x && corner.y == target.y;
   });
 }
 
+TEST_F(Toolbar, TheFirstDragTakesItsCornerToThePointer) {
+  input::drag(centreOf(lexilo.grip()), {500, 400});
+  waitForCornerAt(toolbar, {500, 400});
+}
+
 TEST_F(Toolbar, EveryLaterDragKeepsThePointWhereItWasGripped) {
   input::drag(centreOf(lexilo.grip()), {500, 400});
+  waitForCornerAt(toolbar, {500, 400});
   for (const POINT target : {POINT{300, 600}, POINT{800, 200}}) {
-    waitFor("the toolbar to be dropped", [&] { return cornerOf(toolbar).x > 0; });
     const POINT grip = centreOf(lexilo.grip());
     const POINT before = cornerOf(toolbar);
     input::drag(grip, target);
-    waitFor("the toolbar to be where it was dragged", [&] {
-      const POINT corner = cornerOf(toolbar);
-      return corner.x == before.x + target.x - grip.x && corner.y == before.y + target.y - grip.y;
-    });
+    waitForCornerAt(toolbar, {before.x + target.x - grip.x, before.y + target.y - grip.y});
   }
 }
 
 TEST_F(Toolbar, KeepsItsSizeWhenDragged) {
   const SIZE before = sizeOf(rectOf(toolbar));
   input::drag(centreOf(lexilo.grip()), {500, 400});
+  waitForCornerAt(toolbar, {500, 400});
   const SIZE after = sizeOf(rectOf(toolbar));
   EXPECT_EQ(after.cx, before.cx);
   EXPECT_EQ(after.cy, before.cy);
@@ -102,7 +103,7 @@ void expectTwoPictures(const Lexilo& lexilo, const std::function<void()>& toggle
   // The pointer must not rest on the button: that changes its look as well.
   const auto look = [&] {
     input::moveTo({200, 800});
-    return screenPixels(lexilo.buttonRect(ToolbarButton::capture));
+    return screenPixels(rectOf(lexilo.button(ToolbarButton::capture)));
   };
   const auto settle = [&] {
     std::vector<COLORREF> last = look();

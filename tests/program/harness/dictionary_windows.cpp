@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "tests/program/harness/button.h"
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/text.h"
@@ -105,7 +106,7 @@ std::vector<std::wstring> MultiQuery::lines() const { return treeTexts(results_)
 void MultiQuery::choose(const std::wstring& name) const { clickNode(dictionaries_, name); }
 
 void MultiQuery::click(const std::wstring& caption) const {
-  input::click(centreOf(rectOf(buttonOf(window_, caption))));
+  clickButton(buttonOf(window_, caption));
 }
 
 void MultiQuery::search(const std::wstring& text, const std::wstring& caption) const {
@@ -143,11 +144,11 @@ void SpecialQuery::fill(const std::wstring& english, const std::wstring& chinese
 
 void SpecialQuery::ask(const std::wstring& english, const std::wstring& chinese) const {
   fill(english, chinese);
-  input::click(centreOf(rectOf(buttonOf(window_, L"确定"))));
+  clickButton(buttonOf(window_, L"确定"));
 }
 
 void SpecialQuery::cancel() const {
-  input::click(centreOf(rectOf(buttonOf(window_, L"取消"))));
+  clickButton(buttonOf(window_, L"取消"));
   waitUntilGone(window_);
 }
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <optional>
 
-#include "tests/program/harness/input.h"
+#include "tests/program/harness/button.h"
 #include "tests/program/harness/popup_menu.h"
 #include "tests/program/harness/screen.h"
 
@@ -18,7 +18,7 @@ HWND Lexilo::toolbar() const {
 
 HWND Lexilo::waitUntilPainted() const {
   HWND window = toolbar();
-  const RECT rect = buttonRect(ToolbarButton::quickLookup);
+  const RECT rect = rectOf(button(ToolbarButton::quickLookup));
   waitFor("the toolbar to be painted", [&] {
     const std::vector<COLORREF> pixels = screenPixels(rect);
     return std::ranges::adjacent_find(pixels, std::not_equal_to{}) != pixels.end();
@@ -41,11 +41,11 @@ std::vector<HWND> Lexilo::fromLeftToRight(const std::wstring& className) const {
   return widgets;
 }
 
-RECT Lexilo::buttonRect(ToolbarButton button) const {
-  return rectOf(fromLeftToRight(L"Button").at(static_cast<std::size_t>(button)));
+HWND Lexilo::button(ToolbarButton button) const {
+  return fromLeftToRight(L"Button").at(static_cast<std::size_t>(button));
 }
 
-void Lexilo::click(ToolbarButton button) const { input::click(centreOf(buttonRect(button))); }
+void Lexilo::click(ToolbarButton button) const { clickButton(this->button(button)); }
 
 QuickLookup Lexilo::openQuickLookup() const {
   click(ToolbarButton::quickLookup);

@@ -45,7 +45,7 @@ class Lexilo {
   /// The handle that the toolbar is dragged by, screen pixels.
   [[nodiscard]] RECT grip() const;
 
-  [[nodiscard]] RECT buttonRect(ToolbarButton button) const;
+  [[nodiscard]] HWND button(ToolbarButton button) const;
   void click(ToolbarButton button) const;
 
   /// Opens the quick lookup window by the toolbar's first button and waits for it.

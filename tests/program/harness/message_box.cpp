@@ -1,6 +1,7 @@
 #include "tests/program/harness/message_box.h"
 
 #include <algorithm>
+#include <array>
 
 #include "tests/program/harness/find.h"
 #include "tests/program/harness/input.h"
@@ -26,13 +27,16 @@ bool showsErrorIcon(HWND box) {
   const RECT rect = clientRectOf(icon);
   const SIZE size{GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON)};
   const RECT pictured{rect.left, rect.top, rect.left + size.cx, rect.top + size.cy};
-  const std::vector<COLORREF> expected = iconPixels(IDI_ERROR, size);
+  const std::vector<COLORREF> error = iconPixels(IDI_ERROR, size);
+  const std::array all{error, iconPixels(IDI_WARNING, size), iconPixels(IDI_INFORMATION, size),
+                       iconPixels(IDI_QUESTION, size)};
   // The box may be up before it is painted.
-  for (int tries = 0; tries < 100; ++tries) {
-    if (screenPixels(pictured) == expected) return true;
-    Sleep(10);
-  }
-  return false;
+  std::vector<COLORREF> seen;
+  const bool painted = !neverWithin(kPatience, [&] {
+    seen = screenPixels(pictured);
+    return std::ranges::find(all, seen) != all.end();
+  });
+  return painted && seen == error;
 }
 
 std::vector<HWND> buttonsOf(HWND box) {

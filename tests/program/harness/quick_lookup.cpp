@@ -1,5 +1,6 @@
 #include "tests/program/harness/quick_lookup.h"
 
+#include "tests/program/harness/button.h"
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/text.h"
@@ -75,7 +76,7 @@ void QuickLookup::clickWord(int index) const {
 }
 
 void QuickLookup::close() const {
-  input::click(centreOf(rectOf(exitButton_)));
+  clickButton(exitButton_);
   waitUntilGone(window_);
 }
 
