@@ -29,7 +29,7 @@ wanted() {
   return 1
 }
 
-trap 'stop_wine; stop_display' EXIT
+trap 'stop_aside; stop_wine; stop_display' EXIT
 trap 'exit 130' INT TERM
 
 set_up_tests
@@ -41,24 +41,20 @@ if wanted unit wine-unit program dpi144; then
   build tools kkbuild
   ensure_small_database
 fi
+wanted unit && build native unit_tests
+wanted threads && build tsan thread_tests
+wanted fuzz && build fuzz fuzz_targets
 
-if wanted unit; then
-  build native unit_tests
-  run_gtest unit 180 build/native/bin/unit_tests
-fi
-
-if wanted threads; then
-  build tsan thread_tests
-  run_gtest threads 60 build/tsan/bin/thread_tests
-fi
-
-if wanted fuzz; then
-  build fuzz fuzz_targets
+run_native_layers() {
+  local source name
+  wanted unit && run_gtest unit 300 build/native/bin/unit_tests
+  wanted threads && run_gtest threads 60 build/tsan/bin/thread_tests
+  wanted fuzz || return 0
   for source in tests/fuzz/*_fuzz.cpp; do
     name=$(basename "$source" .cpp)
     run_test "$name" 90 scripts/fuzz.sh 3 "$name"
   done
-fi
+}
 
 if wanted wine-unit windows program dpi144; then
   targets=()
@@ -66,28 +62,30 @@ if wanted wine-unit windows program dpi144; then
   wanted windows && targets+=(window_tests)
   wanted program dpi144 && targets+=(lexilo program_tests)
   build windows "${targets[@]}"
+  if wanted program dpi144; then
+    ensure_full_database
+    assemble_app
+    rm -rf build/shots build/program
+  fi
+  wanted program && build_licence_page
+  wanted unit threads fuzz && set_aside run_native_layers
   start_display
   start_wine "$(fresh_prefix test)"
+else
+  run_native_layers
 fi
 
 wanted wine-unit && run_gtest wine-unit 180 wine build/windows/bin/unit_tests.exe
 wanted windows && run_gtest windows 300 wine build/windows/bin/windows/window_tests.exe
-
-if wanted program dpi144; then
-  ensure_full_database
-  assemble_app
-  rm -rf build/shots build/program
-fi
-if wanted program; then
-  build_licence_page
+wanted program &&
   run_gtest program 420 wine build/windows/bin/program_tests.exe '--gtest_filter=-*Dpi144*'
-fi
 if wanted dpi144; then
   stop_wine
   start_wine "$(fresh_prefix test-144)"
   set_dpi 144
   run_gtest dpi144 120 wine build/windows/bin/program_tests.exe '--gtest_filter=*Dpi144*'
 fi
+[[ -z $aside ]] || gather_aside
 
 say "$passed passed, $failed failed"
 ((failed == 0))

@@ -4,6 +4,7 @@
 results_dir=$LEXILO_ROOT/build/results
 passed=0
 failed=0
+aside=
 
 # count LAYER PASSED FAILED TENTHS: adds up and tells.
 count() {
@@ -49,4 +50,49 @@ run_gtest() {
     fail "the results of $layer could not be read (see build/results)."
   # shellcheck disable=SC2086
   count "$layer" $numbers $(($(tenths) - start))
+}
+
+# set_aside LAYERS: runs that function, which runs layers, while the script goes on with others. It
+# gives way to those: they wait for windows, whose users have no patience.
+# shellcheck disable=SC2030
+set_aside() {
+  mkdir -p "$results_dir"
+  rm -f "$results_dir/aside.count"
+  (
+    trap - EXIT
+    renice -n 10 -p "$BASHPID" >/dev/null
+    passed=0 failed=0
+    "$1"
+    printf '%s %s\n' "$passed" "$failed" >"$results_dir/aside.count"
+  ) >"$results_dir/aside.log" 2>&1 </dev/null &
+  aside=$!
+}
+
+# Waits for what was set aside, shows what it said and adds up what it counted.
+# shellcheck disable=SC2031
+gather_aside() {
+  local numbers
+  wait "$aside" || true
+  aside=
+  # Progress is of no interest any more.
+  grep -v -e '^  [0-9]* s: ' -e ' \.\.\.$' "$results_dir/aside.log" || true
+  read -r -a numbers 2>/dev/null <"$results_dir/aside.count" ||
+    fail "the tests that were set aside did not end."
+  passed=$((passed + numbers[0]))
+  failed=$((failed + numbers[1]))
+}
+
+# Ends what was set aside and still runs.
+stop_aside() {
+  [[ -z $aside ]] || end_tree "$aside"
+}
+
+# end_tree PID: ends a process and all that it started.
+end_tree() {
+  local child children
+  children=$(cat "/proc/$1/task/$1/children" 2>/dev/null) || return 0
+  kill "$1" 2>/dev/null || true
+  for child in $children; do
+    end_tree "$child"
+  done
 }
