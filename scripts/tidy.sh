@@ -12,7 +12,7 @@ cd "$LEXILO_ROOT"
 ensure_packages "${program_packages[@]}" clang-tidy cppcheck
 ensure_node_modules
 paths=("$@")
-((${#paths[@]} > 0)) || paths=(app bench capture data dictionary forms lookup settings tests text)
+((${#paths[@]} > 0)) || paths=(app bench capture data dictionary forms lookup query settings tests text)
 
 # A compilation database is all that is needed of a build, except for generated headers.
 for preset in native windows; do
@@ -23,7 +23,7 @@ for preset in native windows; do
 done
 
 # Where the cross-compiler finds its headers, for a clang that knows nothing of it.
-windows_flags=(--extra-arg=--target=x86_64-w64-mingw32 --extra-arg=-Wno-unknown-warning-option)
+windows_flags=(--extra-arg=--target=x86_64-w64-mingw32)
 while read -r directory; do
   windows_flags+=("--extra-arg=-isystem$directory")
 done < <(x86_64-w64-mingw32-g++-posix -E -Wp,-v -xc++ /dev/null 2>&1 | sed -n 's/^ \//\//p' |
@@ -47,7 +47,7 @@ for file in "${files[@]}"; do
   else
     continue
   fi
-  clang-tidy --quiet "${flags[@]}" "$file" 2>/dev/null || failures=$((failures + 1))
+  clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option "${flags[@]}" "$file" 2>/dev/null || failures=$((failures + 1))
 done
 
 say "cppcheck ..."

@@ -61,7 +61,9 @@ build_licence_page() {
 assemble_app() {
   mkdir -p "$app_dir"
   cp --remove-destination "$LEXILO_ROOT/build/windows/bin/lexilo.exe" "$app_dir/lexilo.exe"
-  if ! cmp -s "$database.stamp" "$app_dir/.kk.dat.stamp"; then
+  if [[ ! -f $app_dir/kk.dat ]] || ! cmp -s "$database.stamp" "$app_dir/.kk.dat.stamp"; then
+    # What an interrupted update of the old database left would be rolled back into the new one.
+    rm -f "$app_dir/kk.dat-journal"
     cp --remove-destination "$database" "$app_dir/kk.dat"
     cp "$database.stamp" "$app_dir/.kk.dat.stamp"
   fi

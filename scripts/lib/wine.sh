@@ -3,6 +3,9 @@
 
 wine_base=$LEXILO_ROOT/build/wine/base
 
+# The prefix that start_wine started. $WINEPREFIX may be one of the user's, with programs in it.
+started_prefix=
+
 # use_prefix PREFIX: what is started from here on runs in it, on a Chinese Windows, without Wine's
 # add-ons and without its messages.
 use_prefix() {
@@ -58,15 +61,17 @@ copy_prefix() {
 # otherwise hold on to the output of whatever program comes first.
 start_wine() {
   use_prefix "$1"
-  wineserver -p >/dev/null 2>&1 </dev/null
-  wine cmd /c exit >/dev/null 2>&1 </dev/null
+  started_prefix=$1
+  wineserver -p >/dev/null 2>&1 </dev/null && wine cmd /c exit >/dev/null 2>&1 </dev/null ||
+    fail "Wine did not start in ${1#"$LEXILO_ROOT"/}. Remove build/wine and run this again."
 }
 
-# Ends the server of the prefix in use, and with it every program that runs in it.
+# Ends the server that start_wine started, and with it every program that runs in its prefix.
 stop_wine() {
-  [[ -n ${WINEPREFIX:-} ]] || return 0
-  wineserver -k >/dev/null 2>&1 || true
-  wineserver -w >/dev/null 2>&1 || true
+  [[ -n $started_prefix ]] || return 0
+  WINEPREFIX=$started_prefix wineserver -k >/dev/null 2>&1 || true
+  WINEPREFIX=$started_prefix wineserver -w >/dev/null 2>&1 || true
+  started_prefix=
   unset WINEPREFIX
 }
 
@@ -77,11 +82,11 @@ fresh_prefix() {
   copy_prefix "$1"
 }
 
-# set_dpi DPI: the resolution that programs in the prefix in use see from here on.
+# set_dpi DPI: the resolution that programs in the prefix that was started see from here on.
 set_dpi() {
   wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f \
-    >/dev/null 2>&1 </dev/null
-  local prefix=$WINEPREFIX
+    >/dev/null 2>&1 </dev/null || fail "Wine did not take $1 dpi. Remove build/wine and run this again."
+  local prefix=$started_prefix
   stop_wine
   start_wine "$prefix"
 }
