@@ -49,7 +49,7 @@ PopupSize popupSize(std::int16_t headLength, std::int16_t meaningLength) {
     width = meaningLength * 200;
   }
   const std::int16_t checkedWidth = forms::toInt16(width);
-  const std::int16_t height = forms::toInt16((lines + 1) * kLineHeight);
+  const std::int16_t height = forms::toInt16(std::int64_t{lines + 1} * kLineHeight);
   return {std::max<std::int16_t>(checkedWidth, kMinWidth),
           std::max<std::int16_t>(height, kMinHeight)};
 }

@@ -49,9 +49,10 @@ ConnectionString parseConnectionString(std::u16string_view text) {
   std::array<bool, kKeys.size()> given{};
   std::optional<Entry> open;
   const auto finish = [&](std::size_t end) {
-    if (open)
+    if (open) {
       result.*(open->key->value) =
           user::trimBlanks(text.substr(open->valueStart, end - open->valueStart));
+    }
   };
   for (std::size_t start = 0;;) {
     const std::optional<Entry> next = entryAt(text, start);

@@ -1,5 +1,6 @@
 #include "forms/column_tree.h"
 
+#include <cstdint>
 #include <cstring>
 #include <vector>
 
@@ -107,8 +108,8 @@ LRESULT ColumnTree::notify(const NMHDR& header) {
 }
 
 void ColumnTree::draw(const NMCUSTOMDRAW& drawing) const {
-  const auto item = reinterpret_cast<HTREEITEM>(drawing.dwItemSpec);
-  const std::size_t number = numberOf(item);
+  const auto item = static_cast<std::uintptr_t>(drawing.dwItemSpec);
+  const std::size_t number = numberOf(reinterpret_cast<HTREEITEM>(item));
   RECT place{};
   // The question carries the item where the answer is to stand.
   std::memcpy(&place, &item, sizeof item);

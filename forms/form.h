@@ -118,7 +118,7 @@ class Form {
   void paint();
   void giveFocusBack();
   void rescale(int dpi, const RECT& suggested);
-  void command(WORD code, HWND control, WORD id);
+  void command(WORD code, HWND control, WORD id) const;
   bool passToGrabber(UINT message, WPARAM wParam, LPARAM lParam);
   void limitTracking(MINMAXINFO& limits) const;
   void adjustPlacement(WINDOWPOS& position) const;

@@ -113,7 +113,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return DefWindowProcW(handle_, message, wParam, lParam);
 }
 
-void Form::command(WORD code, HWND control, WORD id) {
+void Form::command(WORD code, HWND control, WORD id) const {
   settleFocus();
   if (Widget* widget = Widget::of(control)) {
     widget->command(code);

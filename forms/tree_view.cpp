@@ -108,7 +108,7 @@ void TreeView::chooseOnlyExpressly() {
   onKeyDown[VK_SPACE] = [this] { raiseChoice(); };
 }
 
-void TreeView::raiseChoice() {
+void TreeView::raiseChoice() const {
   if (const std::size_t node = selected(); node != 0) onNodeClick.raise(node);
 }
 

@@ -79,7 +79,7 @@ class TreeView : public Widget {
   void giveText(NMTVDISPINFOW& info) const;
   LRESULT highlight(NMTVCUSTOMDRAW& drawing) const;
   bool clicked();
-  void raiseChoice();
+  void raiseChoice() const;
   void showPicture();
 
   std::vector<Node> nodes_;

@@ -145,7 +145,7 @@ TEST_F(Dictionaries, AreSearchedByTwoFragments) {
   for (const std::wstring& line : window.lines()) {
     std::wstring lower = line;
     std::ranges::transform(lower, lower.begin(), towlower);
-    EXPECT_NE(line.find(L"热"), line.npos);
+    EXPECT_NE(line.find(L'热'), line.npos);
     EXPECT_NE(lower.find(L"heat"), lower.npos);
   }
   EXPECT_EQ(textOf(window.input()), L"特殊查询 heat：热");
