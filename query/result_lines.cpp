@@ -26,11 +26,11 @@ std::int16_t sampleWidth(data::RecordSet& rows) {
   std::size_t columns = 0;
   std::size_t counted = 0;
   rows.moveFirst();
-  while (counted < kSampledRows && !rows.endOfFile()) {
+  do {
     columns += user::displayLength(rows.field(u"word").text);
     ++counted;
     rows.moveNext();
-  }
+  } while (counted < kSampledRows && !rows.endOfFile());
   return lineWidth(columns, counted);
 }
 

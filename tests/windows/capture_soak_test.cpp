@@ -172,7 +172,7 @@ TEST_F(CaptureSoak, TwoThousandCapturesLeaveNothingBehind) {
   round(2000);
   const Held after = held();
   const HeldByOther otherAfter = heldBy(program);
-  constexpr std::size_t kSlack = 16 * 1024;  // bytes: eight for each capture
+  constexpr std::size_t kSlack = std::size_t{16} * 1024;  // bytes: eight for each capture
   EXPECT_LE(after.memory, before.memory + kSlack);
   EXPECT_LE(after.gdiObjects, before.gdiObjects + 2);
   EXPECT_LE(after.handles, before.handles + 4);
