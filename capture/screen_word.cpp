@@ -57,7 +57,7 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
   try {
     takeWord();
   } catch (const std::exception&) {
-    // Nothing is pending then; the next probe asks again.
+    // What was pending stays so until the next probe, which asks again.
   }
   return 0;
 }

@@ -1,14 +1,11 @@
 #pragma once
 
 #include <chrono>
-#include <functional>
 
 #include "capture/nhw32/automation_interfaces.h"
+#include "capture/nhw32/clock.h"
 
 namespace nhw32 {
-
-/// Tells the time.
-using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
 /// The longest that one question to UI Automation takes.
 inline constexpr std::chrono::milliseconds kQuestionLimit{500};

@@ -49,7 +49,6 @@ class OwnedText {
   ~OwnedText() { SysFreeString(text_); }
 
   BSTR* out() { return &text_; }
-  explicit operator bool() const { return text_ != nullptr; }
   [[nodiscard]] std::u16string_view view() const {
     return {reinterpret_cast<const char16_t*>(text_), SysStringLen(text_)};
   }

@@ -30,6 +30,14 @@ bool prepare(AutomationClient2& client) {
          SUCCEEDED(client.put_TransactionTimeout(limit));
 }
 
+/// Where a window lies on the screen; none where it is hidden or gone.
+std::optional<ScreenBox> placeOf(HWND window) {
+  RECT place{};
+  if (!IsWindowVisible(window) || !GetWindowRect(window, &place)) return std::nullopt;
+  return ScreenBox{static_cast<int>(place.left), static_cast<int>(place.top),
+                   static_cast<int>(place.right), static_cast<int>(place.bottom)};
+}
+
 class AutomationProvider : public TextProvider {
  public:
   explicit AutomationProvider(AutomationSystem system) : system_(std::move(system)) {}
@@ -60,13 +68,14 @@ class AutomationProvider : public TextProvider {
 
   Answer ask(const Question& question) {
     auto* const window = reinterpret_cast<HWND>(question.window);
-    if (!IsWindowVisible(window)) return {};
+    const auto place = placeOf(window);
+    if (!place) return {};
     AutomationCalls calls(system_.now);
     const auto pattern = textPatternAt(*client_.get(), question, calls);
     if (pattern) {
       auto word = wordUnder(*pattern.get(), question.point, calls);
-      // Meanwhile the window may have gone.
-      if (word && IsWindowVisible(window)) return {Outcome::word, std::move(*word)};
+      // Meanwhile the window may have gone, moved or shrunk.
+      if (word && placeOf(window) == place) return {Outcome::word, std::move(*word)};
     }
     return {calls.outOfTime() ? Outcome::outOfTime : Outcome::none, {}};
   }

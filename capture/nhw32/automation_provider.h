@@ -19,8 +19,9 @@ struct AutomationSystem {
 inline constexpr std::chrono::seconds kClientPause{60};
 
 /// Asks windows for their words by UI Automation: word processors, spreadsheets, browsers, readers,
-/// consoles. No question takes longer than kQuestionLimit. The first question prepares COM for the
-/// asking thread, on which the provider has to go as well.
+/// consoles. No call is made that could end after kQuestionLimit; making the client comes on top
+/// and may take long, but is not tried again for kClientPause. The first question prepares COM for
+/// the asking thread, on which the provider has to go as well.
 std::unique_ptr<TextProvider> makeAutomationProvider();
 std::unique_ptr<TextProvider> makeAutomationProvider(AutomationSystem system);
 

@@ -10,10 +10,15 @@ Answer answerOfControl(const Question& question,
   target.refusePasswords();
   const WindowScale scale = scaleOf(target.handle());
   const TargetAwareness awareness(target.handle());
-  const ScreenPoint point = toClient(target.handle(), toTarget(scale, question.point));
+  const ScreenPoint asked = toTarget(scale, question.point);
+  const ScreenPoint point = toClient(target.handle(), asked);
   if (!inClientArea(target.handle(), point)) return {};
   const auto word = read(target, point);
-  if (!word || !target.visible()) return {};
+  // Meanwhile the window may have gone, moved or shrunk.
+  if (!word || !target.visible() || toClient(target.handle(), asked) != point ||
+      !inClientArea(target.handle(), point)) {
+    return {};
+  }
   return {.outcome = Outcome::word,
           .word = {word->text, toScreen(scale, fromClient(target.handle(), word->box))}};
 } catch (const NoAnswer& silence) {

@@ -25,7 +25,11 @@ class EditText : public ControlText {
     const std::size_t visible = number(target_.ask(EM_GETFIRSTVISIBLELINE));
     if (!multiline_) return unwrapped(visible, LOWORD(packed));
     const auto start = startOf(unwrapped(visible, HIWORD(packed)));
-    if (!start) throw NoAnswer(Outcome::none);
+    // In a longer line several characters end in the same bits.
+    constexpr std::size_t kLongestLine = 0xFFFF;
+    if (!start || number(target_.ask(EM_LINELENGTH, *start)) > kLongestLine) {
+      throw NoAnswer(Outcome::none);
+    }
     return unwrapped(*start, LOWORD(packed));
   }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 
+#include "capture/nhw32/clock.h"
 #include "capture/nhw32/patience.h"
 #include "capture/nhw32/text_provider.h"
 
@@ -11,8 +11,6 @@ namespace nhw32 {
 /// Asks by another provider, but not the windows that keep running out of time.
 class PatientProvider : public TextProvider {
  public:
-  using Clock = std::function<Patience::Time()>;
-
   explicit PatientProvider(std::unique_ptr<TextProvider> provider,
                            Clock clock = std::chrono::steady_clock::now)
       : provider_(std::move(provider)), clock_(std::move(clock)) {}

@@ -20,4 +20,11 @@ std::vector<std::byte> textRangeBytes(Bitness bitness, std::int32_t begin, std::
   return bytes;
 }
 
+bool isWideText(std::span<const std::byte> written, std::size_t count) {
+  constexpr std::byte kNul{0};
+  // Bytes have one NUL at their end, so that nowhere among them and behind them two stand together.
+  const std::size_t end = 2 * count;
+  return count > 0 && end + 1 < written.size() && written[end] == kNul && written[end + 1] == kNul;
+}
+
 }  // namespace nhw32

@@ -5,12 +5,15 @@
 #include <richedit.h>
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <limits>
 
 #include "capture/nhw32/control_question.h"
 #include "capture/nhw32/remote_memory.h"
 #include "capture/nhw32/rich_edit_layout.h"
 #include "capture/nhw32/word_at.h"
+#include "settings/ansi.h"
 
 namespace nhw32 {
 namespace {
@@ -19,7 +22,9 @@ namespace {
 constexpr std::size_t kStructure = 0;
 constexpr std::size_t kText = 64;
 constexpr std::size_t kMostText = 2 * (kLongestWord + 1);
-constexpr std::size_t kMemory = kText + (kMostText + 1) * sizeof(wchar_t);
+/// In the code page of the greatest need (UTF-8) a code unit takes three bytes.
+constexpr std::size_t kTextSize = 3 * (kMostText + 1);
+constexpr std::size_t kMemory = kText + kTextSize;
 
 constexpr UINT kUtf16 = 1200;  ///< its number among the code pages
 
@@ -39,11 +44,12 @@ class RichEditText : public ControlText {
     const std::size_t end = std::min(position + reach, length());
     if (begin >= end) return {};
     const auto bitness = memory_.inProgramOf32Bits() ? Bitness::bits32 : Bitness::bits64;
-    const auto range = textRangeBytes(bitness, static_cast<std::int32_t>(begin),
-                                      static_cast<std::int32_t>(end), memory_.address(kText));
-    memory_.write(kStructure, range.data(), range.size());
+    auto bytes = textRangeBytes(bitness, static_cast<std::int32_t>(begin),
+                                static_cast<std::int32_t>(end), memory_.address(kText));
+    bytes.resize(kMemory, kUnwritten);
+    memory_.write(kStructure, bytes.data(), bytes.size());
     const std::size_t count = number(ask(EM_GETTEXTRANGE, 0, parameter()));
-    return {IsWindowUnicode(target_.handle()) != FALSE ? wideText(count) : ansiText(count), begin};
+    return {textOf(count), begin};
   }
 
   std::optional<ScreenPoint> cornerOf(std::size_t position) override {
@@ -83,19 +89,19 @@ class RichEditText : public ControlText {
     return number(ask(EM_GETTEXTLENGTHEX, memory_.address(kStructure), 0));
   }
 
-  std::u16string wideText(std::size_t count) {
-    std::u16string text(std::min(count, kMostText), u'\0');
-    memory_.read(kText, text.data(), text.size() * sizeof(char16_t));
-    return text;
-  }
-
-  std::u16string ansiText(std::size_t count) {
-    std::string bytes(std::min(count, kMostText * 2), '\0');
-    memory_.read(kText, bytes.data(), bytes.size());
-    std::wstring text(bytes.size(), L'\0');
-    const int units = MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(bytes.size()),
-                                          text.data(), static_cast<int>(text.size()));
-    return {text.begin(), text.begin() + units};
+  /// The text that the control wrote, `count` characters or bytes of it.
+  std::u16string textOf(std::size_t count) {
+    if (count == 0) return {};
+    std::array<std::byte, kTextSize> written{};
+    memory_.read(kText, written.data(), written.size());
+    if (isWideText(written, count)) {
+      std::u16string text(count, u'\0');
+      std::memcpy(text.data(), written.data(), count * sizeof(char16_t));
+      return text;
+    }
+    const auto* const bytes = reinterpret_cast<const char*>(written.data());
+    const auto* const end = std::find(bytes, bytes + written.size(), '\0');
+    return user::fromAnsi({bytes, end});
   }
 
   template <class Structure>

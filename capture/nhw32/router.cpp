@@ -20,7 +20,8 @@ class Router : public TextProvider {
 
  private:
   TextProvider& providerFor(WindowId window) {
-    const Way way = wayFor(classNameOf(reinterpret_cast<HWND>(window)));
+    auto* const handle = reinterpret_cast<HWND>(window);
+    const Way way = wayFor(classNameOf(handle), realClassOf(handle));
     if (way == Way::automation || !hasLines(window)) return *automation_;
     if (way == Way::richEdit) return richEdit_;
     return edit_;

@@ -8,6 +8,8 @@
 namespace nhw32 {
 namespace {
 
+using ClassName = std::array<wchar_t, 257>;  // the system's limit is 256 characters
+
 ScreenBox boxOf(HWND window) {
   RECT rect{};
   GetWindowRect(window, &rect);
@@ -50,8 +52,14 @@ void TargetWindow::refusePasswords() const {
 }
 
 std::u16string classNameOf(HWND window) {
-  std::array<wchar_t, 257> name{};  // Windows' limit for class names is 256 characters
+  ClassName name{};
   const int length = GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+  return {name.begin(), name.begin() + length};
+}
+
+std::u16string realClassOf(HWND window) {
+  ClassName name{};
+  const UINT length = RealGetWindowClassW(window, name.data(), static_cast<UINT>(name.size()));
   return {name.begin(), name.begin() + length};
 }
 

@@ -21,10 +21,11 @@ class NoAnswer : public std::exception {
   Outcome outcome_;
 };
 
-/// A window of any program for the time of one question: what is asked, and how long it may take.
+/// A window of any program, to be asked by messages for a limited time.
 class TargetWindow {
  public:
-  /// How long one message may wait, and all messages of one question together.
+  /// How long one message may wait, and all messages together since this object was made. The one
+  /// by which a control is recognised (hasLines) is sent beforehand and has its own time.
   static constexpr std::chrono::milliseconds kMessageTime{50};
   static constexpr std::chrono::milliseconds kQuestionTime{150};
 
@@ -49,6 +50,9 @@ class TargetWindow {
 
 /// The window's class name.
 std::u16string classNameOf(HWND window);
+/// The system's class from which the window's class was derived, where the system knows; else the
+/// window's class name.
+std::u16string realClassOf(HWND window);
 
 /// While it lives, this thread counts pixels as the window's program does.
 class TargetAwareness {

@@ -55,7 +55,8 @@ struct Answer {
 class TextProvider {
  public:
   virtual ~TextProvider() = default;
-  /// Asks; whatever goes wrong is "none", and nothing waits longer than the way allows.
+  /// Asks, and says in its outcome what went wrong; an exception counts as "none". Nothing waits
+  /// longer than the way allows.
   virtual Answer wordAt(const Question& question) = 0;
 };
 

@@ -1,5 +1,6 @@
 // Words under the pointer in other programs.
 #include <array>
+#include <utility>
 
 #include "tests/program/capture_fixture.h"
 #include "tests/program/harness/clipboard.h"
@@ -160,9 +161,10 @@ TEST_F(Capture, ASelectionStaysAsItIs) {
   for (int i = 0; i < 8; ++i) input::key(VK_RIGHT, {VK_SHIFT});
   const Selection selected{0, 8};
   waitFor("the word to be selected", [&] { return selectionOf(notepad.edit()) == selected; });
-  for (const LONG character : {2L, 11L, 18L}) {
+  for (const auto& [character, word] :
+       {std::pair(2L, L"database"), std::pair(11L, L"kernel"), std::pair(18L, L"network")}) {
     restOn(notepad, character);
-    waitFor("a popup", [&] { return popup.isUp(); });
+    (void)popup.waitFor(word);
     EXPECT_EQ(selectionOf(notepad.edit()), selected);
     input::moveTo(kAwayFromTexts);
     popup.waitUntilClosed();
@@ -175,9 +177,10 @@ TEST_F(Capture, TheClipboardStaysAsItIs) {
   notepad.setText(L"database kernel network");
   setClipboardText(L"kept");
   const DWORD before = GetClipboardSequenceNumber();
-  for (const LONG character : {2L, 11L, 18L}) {
+  for (const auto& [character, word] :
+       {std::pair(2L, L"database"), std::pair(11L, L"kernel"), std::pair(18L, L"network")}) {
     restOn(notepad, character);
-    waitFor("a popup", [&] { return popup.isUp(); });
+    (void)popup.waitFor(word);
     input::moveTo(kAwayFromTexts);
     popup.waitUntilClosed();
   }

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstring>
 #include <map>
+#include <string>
+#include <vector>
 
 #include "capture/nhw32/ansi_word.h"
 #include "capture/nhw32/choose_way.h"
@@ -66,17 +69,63 @@ TEST(ChooseWay, KnowsTheWindowsThatAreProbed) {
   };
   EXPECT_EQ(ways.size(), 17U);
   for (const auto& [name, way] : ways) {
-    EXPECT_EQ(wayFor(name), way);
-    EXPECT_EQ(wayFor(u"My" + std::u16string(name) + u".1"), way) << "containing it is enough";
+    EXPECT_EQ(wayFor(name, name), way);
   }
 }
 
-TEST(ChooseWay, CaseMatters) {
-  EXPECT_EQ(wayFor(u"TMyEditor"), Way::edit);
-  EXPECT_EQ(wayFor(u"EDIT"), Way::automation);
-  EXPECT_EQ(wayFor(u"edit"), Way::automation);
-  EXPECT_EQ(wayFor(u"Richedit"), Way::automation);
-  EXPECT_EQ(wayFor(u""), Way::automation);
+TEST(ChooseWay, RichEditControlsMayHaveMoreInTheirNames) {
+  for (const std::u16string_view name : {u"TRichEdit", u"RichEdit20W.1", u"RichEditD2DPT"}) {
+    EXPECT_EQ(wayFor(name, name), Way::richEdit);
+  }
+}
+
+TEST(ChooseWay, AnEditControlIsOneByItsRealClassNotByItsName) {
+  for (const std::u16string_view name : {u"TMyEditor", u"TLogEdit", u"Edit0", u"TRichEdit"}) {
+    for (const std::u16string_view real : {u"Edit", u"EDIT", u"edit"}) {
+      EXPECT_EQ(wayFor(name, real), Way::edit);
+    }
+  }
+  for (const std::u16string_view name : {u"TMyEditor", u"TLogEdit", u"Edit0", u"MyEdit"}) {
+    for (const std::u16string_view real :
+         {name, std::u16string_view(u"RichEdit20W"), std::u16string_view()}) {
+      EXPECT_EQ(wayFor(name, real), Way::automation);
+    }
+  }
+}
+
+TEST(ChooseWay, WithoutARealClassTheWholeNameTells) {
+  for (const std::u16string_view name : {u"Edit", u"EDIT", u"edit", u"ThunderRT6TextBox"}) {
+    EXPECT_EQ(wayFor(name, u""), Way::edit);
+  }
+  EXPECT_EQ(wayFor(u"MyThunderTextBox", u"MyThunderTextBox"), Way::automation);
+  EXPECT_EQ(wayFor(u"Richedit", u"Richedit"), Way::automation);
+  EXPECT_EQ(wayFor(u"", u""), Way::automation);
+}
+
+/// A buffer into which a control wrote `text` and the NUL behind it.
+template <class Unit>
+std::vector<std::byte> writtenAs(std::basic_string<Unit> text) {
+  std::vector<std::byte> buffer(40, kUnwritten);
+  std::memcpy(buffer.data(), text.c_str(), (text.size() + 1) * sizeof(Unit));
+  return buffer;
+}
+
+TEST(RichEditText, IsWideWhereItsNulIs) {
+  for (const std::u16string text : {u"a", u"word", u"字典", u"\u0100\u0200"}) {
+    EXPECT_TRUE(isWideText(writtenAs<char16_t>(text), text.size()));
+  }
+  for (const std::string text : {"a", "ab", "word", "\xD7\xD6\xB5\xE4", "a\xD7\xD6"}) {
+    for (std::size_t count = 1; count <= text.size(); ++count) {
+      EXPECT_FALSE(isWideText(writtenAs<char>(text), count)) << text << ", said to be " << count;
+    }
+  }
+}
+
+TEST(RichEditText, IsNotReadBeyondItsBuffer) {
+  const std::vector<std::byte> nuls(40);
+  EXPECT_TRUE(isWideText(nuls, 19));
+  for (const std::size_t count : {20U, 21U, 0x7FFFFFFFU}) EXPECT_FALSE(isWideText(nuls, count));
+  EXPECT_FALSE(isWideText({}, 0));
 }
 
 /// A code page in which the Chinese character that it has takes two bytes and pairs four.

@@ -121,5 +121,23 @@ TEST_F(AutomationElementTest, FindsNoneInAWindowThatHidesOrGoesMeanwhile) {
   EXPECT_TRUE(nothingRead());
 }
 
+TEST_F(AutomationElementTest, FindsNoneInAWindowThatShrinksOrMovesMeanwhile) {
+  showText(u"word");
+  EXPECT_EQ(wordAt(grid::at(0, 1)), u"word");
+  const std::size_t last = log().calls.size();
+  for (const RECT& place : {RECT{0, 0, 5, 9}, RECT{0, 3, 5, 9}}) {
+    log().calls.clear();
+    plan().onCall = [&] {
+      if (log().calls.size() == last) {
+        SetWindowPos(window_.get(), nullptr, place.left, place.top, place.right, place.bottom,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+      }
+    };
+    EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+    EXPECT_EQ(log().calls.size(), last);
+    EXPECT_EQ(wordAt(grid::at(0, 1)), u"word");
+  }
+}
+
 }  // namespace
 }  // namespace wintest

@@ -1,6 +1,7 @@
 #include "forms/dpi.h"
 #include "forms/registry.h"
 #include "tests/program/harness/controls.h"
+#include "tests/program/harness/find.h"
 #include "tests/windows/support/capture_test.h"
 #include "tests/windows/support/other_program.h"
 
@@ -27,6 +28,23 @@ class FrmScreenWordMeaning : public CaptureTest {
 
   static int pixels(int twips) { return forms::toPixels(twips, popup().dpi()); }
 };
+
+TEST_F(FrmScreenWordMeaning, OpensAsDesigned) {
+  const auto& form = popup();
+  EXPECT_EQ(form.Timer1.interval(), 20);
+  EXPECT_TRUE(form.Timer1.enabled());
+  EXPECT_EQ(form.width(), 3345);
+  EXPECT_EQ(form.height(), 1320);
+  EXPECT_EQ(size().cx, pixels(3345));
+  EXPECT_EQ(size().cy, pixels(1320));
+  const auto& box = form.txtOut.box();
+  EXPECT_EQ(box.left, 0);
+  EXPECT_EQ(box.top, 0);
+  EXPECT_EQ(box.width, 3375);
+  EXPECT_EQ(box.height, 1335);
+  EXPECT_EQ(harness::textOf(form.handle()), L"Form2");
+  EXPECT_FALSE(IsWindowVisible(form.handle()));
+}
 
 TEST_F(FrmScreenWordMeaning, ShowsTheWordAndItsMeaningBelowThePointer) {
   EXPECT_EQ(show(u"data"), u"data\r\n数据");

@@ -1,6 +1,8 @@
 #include "capture/nhw32/nhw32.h"
+#include "capture/nhw32/service.h"
 #include "forms/dispatcher.h"
 #include "forms/registry.h"
+#include "tests/program/harness/find.h"
 #include "tests/windows/support/capture_test.h"
 #include "tests/windows/support/shown_watch.h"
 
@@ -72,6 +74,47 @@ TEST_F(FrmScreenWord, UnloadingPutsItsOwnProcedureBack) {
   procedure = Seen::found();
   EXPECT_EQ(procedure, old);
   EXPECT_FALSE(IsWindow(window));
+}
+
+TEST_F(FrmScreenWord, UnloadingStopsItsProbesAndEndsTheServiceWithWhatWasArmed) {
+  const PlainWindow edit(L"Edit", {200, 300, 900, 400}, L"some data here");
+  ScreenWord::StartCapture();
+  ScreenWord::CatchWordAt(wordPoint(edit.handle(), 6));
+  ASSERT_TRUE(nhw32::service().armed());
+  ASSERT_GE(nhw32::service().workers(), 1);
+  // The object outlives its window until the next event.
+  const auto& gone = host();
+  host().unload();
+  EXPECT_FALSE(gone.timScreenWord1.enabled());
+  EXPECT_FALSE(nhw32::service().armed());
+  EXPECT_TRUE(eventually([] { return nhw32::service().workers() == 0; }));
+  EXPECT_EQ(ScreenWord::strScreenWord, u"");
+}
+
+TEST_F(FrmScreenWord, LoadingReadiesItsDataControl) {
+  host().unload();
+  forms::doEvents();
+  auto& control = host().Adodc1;
+  control.setRecordSource(u"select word from [edict] where word = 'data'");
+  control.refresh();
+  EXPECT_FALSE(control.recordset().empty());
+}
+
+TEST_F(FrmScreenWord, LooksAsDesigned) {
+  EXPECT_EQ(harness::textOf(host().handle()), L"Form2");
+  // It is never painted on the screen, so that its class tells its colour.
+  const auto brush =
+      reinterpret_cast<HBRUSH>(GetClassLongPtrW(host().handle(), GCLP_HBRBACKGROUND));
+  EXPECT_EQ(brush, GetSysColorBrush(COLOR_HIGHLIGHT));
+  EXPECT_NE(brush, GetSysColorBrush(COLOR_BTNFACE));
+}
+
+TEST_F(FrmScreenWord, EveryProbeStartsTheServiceAnew) {
+  const PlainWindow edit(L"Edit", {200, 300, 900, 400}, L"some data here");
+  input::moveTo(wordPoint(edit.handle(), 6));
+  nhw32::ResetNHW32();
+  ScreenWord::StartCapture();
+  EXPECT_TRUE(eventually([] { return popupIsUp(); }));
 }
 
 TEST_F(FrmScreenWord, HandsTheFirstWordToThePopup) {

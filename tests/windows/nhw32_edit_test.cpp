@@ -2,6 +2,7 @@
 
 #include <atomic>
 
+#include "capture/nhw32/target_window.h"
 #include "tests/program/harness/find.h"
 #include "tests/windows/support/text_places.h"
 #include "tests/windows/support/text_target.h"
@@ -204,16 +205,86 @@ TEST_F(Nhw32Edit, NothingWhereItShrinksHidesOrGoesInMidQuestion) {
   }
 }
 
-TEST_F(Nhw32Edit, AnEditControlUnderAnotherNameTellsItsWordsToo) {
+/// What a control's window does right after the control's text was read.
+void becomesLow(HWND control) {
+  SetWindowPos(control, nullptr, 0, 0, 400, 3, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+void movesDown(HWND control) {
+  SetWindowPos(control, nullptr, 0, 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+TEST_F(Nhw32Edit, NothingWhereItsWindowShrinksOrMovesInMidQuestion) {
+  for (auto* const befall : {becomesLow, movesDown}) {
+    bool armed = false;
+    const TextTarget target({.hook =
+                                 [&](HWND control, UINT message, WPARAM, LPARAM) {
+                                   if (message == EM_POSFROMCHAR && std::exchange(armed, false)) {
+                                     befall(control);
+                                   }
+                                   return std::optional<LRESULT>();
+                                 }},
+                            u"words of the past");
+    const nhw32::Question question = questionAbout(target.control(), 14);
+    EXPECT_EQ(wordAt(target, question), u"past");
+    armed = true;
+    EXPECT_EQ(wordAt(target, question), u"");
+    EXPECT_FALSE(armed);
+  }
+}
+
+TEST_F(Nhw32Edit, NothingInALineThatIsLongerThanItsCharactersCanBeTold) {
+  constexpr std::size_t kLongest = 0xFFFF;
+  std::u16string line = u"plain ";
+  while (line.size() <= kLongest) line += u"words of data ";
+  for (const std::size_t length : {kLongest, kLongest + 1}) {
+    const TextTarget target({.style = ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL},
+                            line.substr(0, length) + u"\r\nbelow it");
+    EXPECT_EQ(wordAbout(target, 2), length == kLongest ? u"plain" : u"");
+    EXPECT_EQ(wordAbout(target, length + 4), u"below");
+  }
+}
+
+/// Registers a class under a name of its own that behaves as `base` does.
+void derive(const wchar_t* base, const wchar_t* name) {
+  WNDCLASSW windowClass{};
+  ASSERT_TRUE(GetClassInfoW(nullptr, base, &windowClass));
+  windowClass.hInstance = GetModuleHandleW(nullptr);
+  windowClass.lpszClassName = name;
+  ASSERT_NE(RegisterClassW(&windowClass), 0);
+}
+
+TEST_F(Nhw32Edit, ATextBoxOfVisualBasicTellsItsWordsToo) {
   for (const wchar_t* name : {L"ThunderRT6TextBox", L"ThunderRT5TextBox", L"ThunderTextBox"}) {
-    WNDCLASSW windowClass{};
-    ASSERT_TRUE(GetClassInfoW(nullptr, L"EDIT", &windowClass));
-    windowClass.hInstance = GetModuleHandleW(nullptr);
-    windowClass.lpszClassName = name;
-    ASSERT_NE(RegisterClassW(&windowClass), 0);
+    derive(L"EDIT", name);
     const TextTarget target({.className = name}, u"older words");
     EXPECT_EQ(wordAbout(target, 8), u"words");
   }
+}
+
+TEST_F(Nhw32Edit, AnEditControlUnderAnotherNameTellsItsWordsWhereTheSystemKnowsIt) {
+  derive(L"EDIT", L"TNoteEdit");
+  const TextTarget target({.className = L"TNoteEdit"}, u"older words");
+  // Windows tells the real class of its own controls; Wine tells the name again, and the control
+  // might as well be another.
+  const bool known = nhw32::realClassOf(target.control()) == u"Edit";
+  EXPECT_EQ(wordAbout(target, 8), known ? u"words" : u"");
+}
+
+TEST_F(Nhw32Edit, ARichEditControlThatSoundsLikeOneIsNotGivenThePoint) {
+  LoadLibraryW(L"riched20.dll");
+  derive(L"RichEdit20W", L"TLogEdit");
+  std::atomic<int> points = 0;
+  const TextTarget target({.className = L"TLogEdit",
+                           .hook =
+                               [&](HWND, UINT message, WPARAM, LPARAM) {
+                                 // The control would read at the address that the point makes.
+                                 if (message != EM_CHARFROMPOS) return std::optional<LRESULT>();
+                                 ++points;
+                                 return std::optional<LRESULT>(0);
+                               }},
+                          u"words of a log");
+  EXPECT_EQ(wordAtPoint(target, harness::centreOf(harness::clientRectOf(target.control()))), u"");
+  EXPECT_EQ(points, 0);
 }
 
 TEST_F(Nhw32Edit, AWindowThatOnlySoundsLikeOneIsNotAskedForItsText) {

@@ -127,5 +127,67 @@ TEST_F(Nhw32RichEdit, NothingWhereItShrinksOrGoesInMidQuestion) {
   }
 }
 
+TEST_F(Nhw32RichEdit, NothingWhereItsWindowShrinksInMidQuestion) {
+  bool armed = false;
+  TextTarget::Design design = richDesign();
+  design.hook = [&](HWND control, UINT message, WPARAM, LPARAM) {
+    if (message == EM_GETTEXTRANGE && std::exchange(armed, false)) {
+      SetWindowPos(control, nullptr, 0, 0, 400, 3, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    return std::optional<LRESULT>();
+  };
+  const TextTarget target(design, u"words of the past");
+  const nhw32::Question question = questionAbout(target.control(), 14);
+  EXPECT_EQ(wordAt(question), u"past");
+  armed = true;
+  EXPECT_EQ(wordAt(question), u"");
+  EXPECT_FALSE(armed);
+}
+
+TEST_F(Nhw32RichEdit, OneWhoseTextIsBytesTellsItsWordsToo) {
+  const TextTarget target({.className = L"RichEdit20A", .style = ES_MULTILINE | ES_AUTOVSCROLL},
+                          u"字典 mixed words");
+  ASSERT_FALSE(IsWindowUnicode(target.control()));
+  EXPECT_EQ(wordAt(questionAbout(target.control(), 1)), u"字典");
+  EXPECT_EQ(wordAt(questionAbout(target.control(), 5)), u"mixed");
+  EXPECT_EQ(wordAt(questionAbout(target.control(), 11)), u"words");
+}
+
+/// Puts a procedure for the other kind of text before a control's own, as programs do that subclass
+/// their controls. For one control at a time.
+class OtherTextProcedure {
+ public:
+  static void putBefore(HWND control) {
+    const bool wide = IsWindowUnicode(control) != FALSE;
+    const auto set = wide ? SetWindowLongPtrA : SetWindowLongPtrW;
+    before() = reinterpret_cast<WNDPROC>(
+        set(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(wide ? passOnBytes : passOnWide)));
+  }
+
+ private:
+  static LRESULT CALLBACK passOnBytes(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return CallWindowProcA(before(), window, message, wParam, lParam);
+  }
+  static LRESULT CALLBACK passOnWide(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return CallWindowProcW(before(), window, message, wParam, lParam);
+  }
+  static WNDPROC& before() {
+    static WNDPROC procedure;
+    return procedure;
+  }
+};
+
+TEST_F(Nhw32RichEdit, ASubclassOfTheOtherKindOfTextDoesNotMatter) {
+  for (const wchar_t* name : {L"RichEdit20W", L"RichEdit20A"}) {
+    const TextTarget target({.className = name, .style = ES_MULTILINE | ES_AUTOVSCROLL},
+                            u"字典 mixed words");
+    const BOOL wide = IsWindowUnicode(target.control());
+    OtherTextProcedure::putBefore(target.control());
+    ASSERT_NE(IsWindowUnicode(target.control()), wide);
+    EXPECT_EQ(wordAt(questionAbout(target.control(), 1)), u"字典");
+    EXPECT_EQ(wordAt(questionAbout(target.control(), 5)), u"mixed");
+  }
+}
+
 }  // namespace
 }  // namespace wintest

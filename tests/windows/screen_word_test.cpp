@@ -1,9 +1,11 @@
 #include <algorithm>
 #include <stdexcept>
+#include <string>
 
 #include "capture/nhw32/nhw32.h"
 #include "capture/nhw32/service.h"
 #include "forms/registry.h"
+#include "tests/program/harness/find.h"
 #include "tests/windows/support/capture_test.h"
 #include "tests/windows/support/window_everywhere.h"
 
@@ -214,6 +216,30 @@ TEST_F(ScreenWordTest, AWordThatComesWhileCaptureRestsDoesNotTurnUpLater) {
   ScreenWord::StopCapture();
   ScreenWord::StartCapture();
   EXPECT_TRUE(allAlong([] { return !popupIsUp(); }, 100));
+}
+
+TEST_F(ScreenWordTest, AWordThatWasAskedForBeforeCaptureRestsDoesNotTurnUpLater) {
+  const PlainWindow edit(L"Edit", kPlace, L"some data here");
+  ScreenWord::CatchWordAt(wordPoint(edit.handle(), 6));
+  ASSERT_TRUE(aReportWaits()) << "a report that must not arrive";
+  ScreenWord::StopCapture();
+  EXPECT_FALSE(nhw32::service().armed());
+  EXPECT_TRUE(allAlong([] { return ScreenWord::strScreenWord.empty(); }, 150));
+  ScreenWord::StartCapture();
+  EXPECT_TRUE(allAlong([] { return !forms::isLoaded<frmScreenWordMeaning>(); }, 100));
+}
+
+TEST_F(ScreenWordTest, OfAClassNameSixtyThreeCharactersAreRead) {
+  for (const std::size_t length : {63U, 64U}) {
+    const std::wstring name = std::wstring(length - 4, L'x') + L"Edit";
+    const PlainWindow window(plainClass(name.c_str()), kPlace);
+    ASSERT_NE(window.handle(), nullptr);
+    EXPECT_EQ(probe({250, 350}).stripMoved, length == 63) << length;
+  }
+}
+
+TEST_F(ScreenWordTest, TheStripsCaptionIsTheDesigns) {
+  EXPECT_EQ(harness::textOf(forms::single<frmScreen>().handle()), L"Form2");
 }
 
 }  // namespace
