@@ -14,7 +14,8 @@ class TemporaryFile {
 
   [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
-  /// Lets the file take the place of `target`. Throws Failure.
+  /// Lets the file take the place of `target`, whose journal goes with it. Throws Failure; `target`
+  /// and its journal are as before then.
   void replace(const std::filesystem::path& target) const;
 
  private:

@@ -6,6 +6,7 @@
 
 #include "data/database.h"
 #include "data/error.h"
+#include "tests/unit/support/plain_read.h"
 #include "tests/unit/support/sample_database.h"
 
 namespace {
@@ -187,27 +188,17 @@ std::filesystem::path makeInterruptedUpdate(const TempFolder& folder) {
   return file;
 }
 
-/// Code of a plain connection for reading on `file`.
-int plainRead(const std::filesystem::path& file) {
-  sqlite3* connection = nullptr;
-  sqlite3_open_v2(support::utf8Path(file).c_str(), &connection, SQLITE_OPEN_READONLY, nullptr);
-  sqlite3_exec(connection, "select count(*) from sqlite_master", nullptr, nullptr, nullptr);
-  const int code = sqlite3_extended_errcode(connection);
-  sqlite3_close_v2(connection);
-  return code;
-}
-
 TEST(DatabaseFailure, InterruptedUpdateIsRolledBack) {
   const TempFolder folder;
   const auto file = makeInterruptedUpdate(folder);
-  EXPECT_EQ(plainRead(file), SQLITE_READONLY_ROLLBACK);
+  EXPECT_EQ(support::plainRead(file), SQLITE_READONLY_ROLLBACK);
   Database database(support::utf8Path(file));
   const data::Rows rows = database.read("select a,n from t order by n", kMany);
   ASSERT_EQ(rows.count(), 2000U);
   EXPECT_EQ(rows.cells[0].text, "word 0");
   EXPECT_EQ(rows.cells[3999].integer, 1999);
   EXPECT_EQ(support::entryCount(file.parent_path()), 1) << "the journal is still there";
-  EXPECT_EQ(plainRead(file), SQLITE_OK);
+  EXPECT_EQ(support::plainRead(file), SQLITE_OK);
 }
 
 TEST(DatabaseFailure, InterruptedUpdateIsRolledBackUnderAnOpenDatabase) {
