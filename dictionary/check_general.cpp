@@ -13,17 +13,6 @@ namespace {
 
 constexpr char16_t kFirstChinese = 0x100;
 
-void checkRowCounts(const GeneralTables& tables, Findings& findings) {
-  const LookupLimits limits;
-  const std::size_t english = tables.edict.words.size();
-  const std::size_t chinese = tables.cdict.words.size();
-  if (english != chinese || english == 0 || english % limits.blockRows != 0 ||
-      english > limits.maxRows) {
-    findings.add(Rule::kRowCount, "[edict] has " + std::to_string(english) + " rows, [cdict] " +
-                                      std::to_string(chinese));
-  }
-}
-
 void checkOrder(const char* name, const HeadwordTable& table, Findings& findings) {
   for (std::size_t row = 1; row < table.words.size(); ++row) {
     const int compared = text::compare(table.words[row - 1], table.words[row]);
@@ -110,8 +99,17 @@ void checkHeadwordTexts(const char* name, const HeadwordTable& table, bool chine
 
 }  // namespace
 
+void checkRowCounts(std::size_t english, std::size_t chinese, Findings& findings) {
+  const LookupLimits limits;
+  if (english != chinese || english == 0 || english % limits.blockRows != 0 ||
+      english > limits.maxRows) {
+    findings.add(Rule::kRowCount, "[edict] has " + std::to_string(english) + " rows, [cdict] " +
+                                      std::to_string(chinese));
+  }
+}
+
 void checkGeneral(const GeneralTables& tables, Findings& findings) {
-  checkRowCounts(tables, findings);
+  checkRowCounts(tables.edict.words.size(), tables.cdict.words.size(), findings);
   checkOrder("edict", tables.edict, findings);
   checkOrder("cdict", tables.cdict, findings);
   checkLinks("edict", tables.edict, tables.cdict, findings);

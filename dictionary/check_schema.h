@@ -1,13 +1,21 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "dictionary/findings.h"
+#include "dictionary/table.h"
 
 struct sqlite3;
 
 namespace dictionary {
+
+/// The column of the catalogue that says whether a dictionary is offered. It may stand anywhere.
+inline constexpr std::string_view kIsshowName = "Isshow";
+
+/// Place of the column called `name`, without regard to case; -1 if there is none.
+int findColumn(const RowReader& reader, std::string_view name);
 
 /// Checks that the file is undamaged and that the fixed tables are there with their columns.
 /// Returns whether they can be read on; otherwise the findings say why not.

@@ -43,7 +43,8 @@ bool isPlainName(const std::string& name) {
 /// One reading of the catalogue: what it has named so far.
 class Catalogue {
  public:
-  explicit Catalogue(Findings& findings) : findings_(findings) {}
+  /// `isshow` is the place of that column.
+  Catalogue(int isshow, Findings& findings) : isshow_(isshow), findings_(findings) {}
 
   void addRow(const RowReader& reader);
   void finish();
@@ -54,6 +55,7 @@ class Catalogue {
   void checkName(const RowReader& reader, const std::string& table);
   void checkFlags(const RowReader& reader, const std::string& table);
 
+  int isshow_;
   Findings& findings_;
   std::vector<std::string> tables_;
   std::vector<std::u16string> names_;
@@ -84,14 +86,15 @@ void Catalogue::checkName(const RowReader& reader, const std::string& table) {
 
 void Catalogue::checkFlags(const RowReader& reader, const std::string& table) {
   const bool isDefault = reader.number(4) == 1;
-  if (!reader.isInteger(3) || !reader.isInteger(4) || (!isDefault && reader.number(4) != 0)) {
+  if (!reader.isInteger(isshow_) || !reader.isInteger(4) || (!isDefault && reader.number(4) != 0)) {
     findings_.add(Rule::kCatalogueFlags, "[" + table + "] has Isshow " +
-                                             std::string(reader.text(3)) + " and default " +
+                                             std::string(reader.text(isshow_)) + " and default " +
                                              std::string(reader.text(4)));
   }
   if (!isDefault) return;
   ++defaults_;
-  if (reader.number(3) != 1) findings_.add(Rule::kCatalogueDefault, "[" + table + "] is hidden");
+  if (reader.number(isshow_) != 1)
+    findings_.add(Rule::kCatalogueDefault, "[" + table + "] is hidden");
 }
 
 void Catalogue::finish() {
@@ -128,8 +131,8 @@ void checkRows(sqlite3* connection, const std::string& table, CheckResult& resul
 }  // namespace
 
 void checkSubjects(sqlite3* connection, CheckResult& result) {
-  Catalogue catalogue(result.findings);
   RowReader reader(connection, "select * from [Index]");
+  Catalogue catalogue(findColumn(reader, kIsshowName), result.findings);
   while (reader.next()) catalogue.addRow(reader);
   catalogue.finish();
 

@@ -12,10 +12,15 @@ namespace {
 /// Subjects whose lines use one-character brackets for something else.
 constexpr SubjectSet kNoShortTagsAfter = setOf(Subject::kMedicine) | setOf(Subject::kComputing);
 
-/// Length of what may stand between a note or numeral and a part-of-speech mark: "& ", "Ⅰ ", and
-/// the full stop of "n<古>.".
+/// Length of what may stand between a note or numeral and a part-of-speech mark: "& ", "Ⅰ " (also
+/// as "l "), and the full stop of "n<古>.".
 std::size_t strayLength(std::u16string_view text, bool behindNote) {
   if (behindNote && text.starts_with(u'.')) return 1;
+  for (const std::u16string_view numeral : {u"l ", u"ll "}) {
+    if (text.starts_with(numeral) && partOfSpeechLength(text.substr(numeral.size())) > 0) {
+      return numeral.size();
+    }
+  }
   constexpr std::u16string_view kStray = u"&.ⅠⅡⅢⅣ";
   std::size_t length = 0;
   while (length < text.size() &&

@@ -65,6 +65,49 @@ std::size_t entityLength(std::u16string_view text) {
   return length < text.size() && text[length] == u';' ? length : 0;
 }
 
+/// What a code stands for, and its length; 0 where there is none.
+struct Decoded {
+  std::size_t length = 0;
+  std::u16string text;
+};
+
+Decoded readEntity(std::u16string_view text) {
+  const std::size_t length = text.starts_with(u'&') ? entityLength(text.substr(1)) : 0;
+  if (length == 0) return {};
+  return {length + 2, {entityCharacter(text.substr(1, length))}};
+}
+
+bool isFigure(char16_t unit) {
+  return isAsciiLetter(unit) || isDigit(unit) || unit == u'+' || unit == u'-';
+}
+
+/// "&-{12a}" stands below the line, "&+{-3}" above it, "&{2}" tells equal headwords apart.
+Decoded readFigures(std::u16string_view text) {
+  if (!text.starts_with(u'&')) return {};
+  const std::size_t open = text.starts_with(u"&-") || text.starts_with(u"&+") ? 2 : 1;
+  const std::size_t close = text.find(u'}', open);
+  if (close == std::u16string_view::npos || text[open] != u'{') return {};
+  const std::u16string_view figures = text.substr(open + 1, close - open - 1);
+  if (!std::ranges::all_of(figures, isFigure)) return {};
+  return {close + 1, std::u16string(open == 1 ? std::u16string_view() : figures)};
+}
+
+Decoded readLostCharacter(std::u16string_view text) {
+  if (!text.starts_with(u"<&")) return {};
+  std::size_t end = 2;
+  while (end < text.size() && isDigit(text[end])) ++end;
+  if (end == 2 || !text.substr(end).starts_with(u"&>")) return {};
+  return {end + 2, {kReplacement}};
+}
+
+Decoded readCode(std::u16string_view text) {
+  for (const auto read : {readEntity, readFigures, readLostCharacter}) {
+    Decoded decoded = read(text);
+    if (decoded.length > 0) return decoded;
+  }
+  return {};
+}
+
 /// Length of the tag at the beginning of `text`, 0 if there is none: "<", a letter or "/", and only
 /// ASCII up to ">".
 std::size_t tagLength(std::u16string_view text) {
@@ -88,12 +131,13 @@ bool isLineBreakTag(std::u16string_view tag) {
 std::u16string decodeEntities(std::u16string_view text) {
   std::u16string decoded;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const std::size_t length = text[i] == u'&' ? entityLength(text.substr(i + 1)) : 0;
-    if (length == 0) {
+    const bool mayBegin = text[i] == u'&' || text[i] == u'<';
+    const Decoded code = mayBegin ? readCode(text.substr(i)) : Decoded();
+    if (code.length == 0) {
       decoded += text[i];
     } else {
-      decoded += entityCharacter(text.substr(i + 1, length));
-      i += length + 1;
+      decoded += code.text;
+      i += code.length - 1;
     }
   }
   return decoded;

@@ -5,8 +5,9 @@
 
 namespace dictionary {
 
-/// Undoes entity codes such as "&beta;" and "&#946;". One that is not known becomes U+FFFD, which
-/// no row may hold.
+/// Undoes entity codes such as "&beta;" and "&#946;", and the codes of small figures ("A&-{2}"
+/// becomes "A2"). An entity that is not known becomes U+FFFD, which no row may hold, and so does
+/// the number of a character that the source could not write ("<&14&>").
 std::u16string decodeEntities(std::u16string_view text);
 
 /// Turns every way to write a line break ("<br />", a backslash with "n", one with "r") into a line

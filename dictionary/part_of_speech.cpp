@@ -23,6 +23,8 @@ constexpr std::array kMarks = {
 /// Marks that occur without their full stop.
 constexpr std::array kBareMarks = {u"n"sv, u"v"sv, u"a"sv, u"vt"sv, u"vi"sv, u"adj"sv, u"adv"sv};
 
+constexpr std::u16string_view kLinks = u"&,/，、";
+
 std::size_t blanksAt(std::u16string_view text, std::size_t position) {
   std::size_t length = 0;
   while (position + length < text.size() && text[position + length] == u' ') ++length;
@@ -41,16 +43,43 @@ bool isNoteThenStop(std::u16string_view text) {
   return close != std::u16string_view::npos && text.substr(close + 1).starts_with(u'.');
 }
 
-/// Length of one mark without what links it to the next.
-std::size_t markLength(std::u16string_view text) {
+std::size_t lettersAt(std::u16string_view text) {
   std::size_t letters = 0;
   while (letters < text.size() && isAsciiLetter(text[letters])) ++letters;
+  return letters;
+}
+
+bool isStop(char16_t unit) { return unit == u'.' || unit == u'．'; }
+
+bool isBareMark(std::u16string_view mark) {
+  return std::ranges::find(kBareMarks, mark) != kBareMarks.end();
+}
+
+/// Length of a mark with its full stop, 0 if there is none.
+std::size_t stoppedMarkLength(std::u16string_view text) {
+  constexpr std::u16string_view kLinkingVerb = u"link-v.";
+  if (text.starts_with(kLinkingVerb)) return kLinkingVerb.size();
+  const std::size_t letters = lettersAt(text);
   const std::u16string_view mark = text.substr(0, letters);
-  if (mark.empty() || letters == text.size()) return 0;
-  if (text[letters] == u'.' || text[letters] == u'．') {
-    return std::ranges::find(kMarks, mark) == kMarks.end() ? 0 : letters + 1;
-  }
-  if (std::ranges::find(kBareMarks, mark) == kBareMarks.end()) return 0;
+  const bool known = letters < text.size() && isStop(text[letters]) &&
+                     std::ranges::find(kMarks, mark) != kMarks.end();
+  if (!known) return 0;
+  // "comb.form" is one mark.
+  constexpr std::u16string_view kForm = u"form";
+  const std::size_t form = letters + 1 + blanksAt(text, letters + 1);
+  const bool combining =
+      mark == u"comb" && text.substr(form, lettersAt(text.substr(form))) == kForm;
+  return combining ? form + kForm.size() : letters + 1;
+}
+
+/// Length of one mark without what links it to the next.
+std::size_t markLength(std::u16string_view text) {
+  if (const std::size_t stopped = stoppedMarkLength(text); stopped > 0) return stopped;
+  const std::size_t letters = lettersAt(text);
+  if (letters == text.size() || !isBareMark(text.substr(0, letters))) return 0;
+  // "vt,vi.": the stop of the last one serves all.
+  const bool linked = kLinks.find(text[letters]) != std::u16string_view::npos;
+  if (linked && stoppedMarkLength(text.substr(letters + 1)) > 0) return letters;
   const std::size_t blanks = blanksAt(text, letters);
   const bool bare = (blanks > 0 && beginsChinese(text.substr(letters + blanks))) ||
                     isNoteThenStop(text.substr(letters));
@@ -67,7 +96,6 @@ std::size_t partOfSpeechLength(std::u16string_view text) {
     next += mark;
     next += blanksAt(text, next);
     length = next;
-    constexpr std::u16string_view kLinks = u"&,/，、";
     while (next < text.size() && kLinks.find(text[next]) != std::u16string_view::npos) {
       ++next;
       next += blanksAt(text, next);
@@ -76,6 +104,15 @@ std::size_t partOfSpeechLength(std::u16string_view text) {
       return next;
     }
   }
+}
+
+bool beginsFurtherSense(std::u16string_view text) {
+  constexpr std::u16string_view kSecond = u"ll ";
+  if (text.starts_with(kSecond)) text.remove_prefix(kSecond.size());
+  const std::size_t letters = lettersAt(text);
+  if (!isBareMark(text.substr(0, letters)) || letters == text.size()) return false;
+  const std::u16string_view sense = text.substr(letters + 1);
+  return isStop(text[letters]) && beginsChinese(sense) && !sense.starts_with(u'的');
 }
 
 }  // namespace dictionary

@@ -6,6 +6,7 @@
 
 #include "dictionary/brackets.h"
 #include "dictionary/characters.h"
+#include "dictionary/part_of_speech.h"
 #include "text/trim.h"
 
 namespace dictionary {
@@ -17,6 +18,9 @@ constexpr std::array kInflections = {u"的复数"sv,     u"的过去式"sv,   u"
                                      u"的现在分词"sv, u"的第三人称"sv, u"的比较级"sv,
                                      u"的最高级"sv};
 constexpr std::size_t kMaxInflection = 48;
+
+/// Enough to see the longest part-of-speech mark.
+constexpr std::size_t kMaxMark = 8;
 
 char16_t separatorAt(char16_t unit) {
   switch (unit) {
@@ -44,10 +48,17 @@ bool isLocant(char16_t unit) {
 bool joinsLocants(std::u16string_view text, std::size_t comma) {
   if ((text[comma] != u',' && text[comma] != u'，') || comma == 0) return false;
   std::size_t next = comma + 1;
+  if (isLatin(text[comma - 1]) && partOfSpeechLength(text.substr(next, kMaxMark)) > 0) return false;
   if (next < text.size() && text[next] == u' ' && isDigit(text[comma - 1])) {
     return next + 1 < text.size() && isDigit(text[next + 1]);
   }
   return next < text.size() && isLocant(text[comma - 1]) && isLocant(text[next]);
+}
+
+/// Whether another sense begins at `at` without a separator before it.
+bool runsIntoNextSense(std::u16string_view text, std::size_t at) {
+  const std::size_t blank = at > 0 && text[at - 1] == u' ' ? 1 : 0;
+  return at > blank && isHan(text[at - 1 - blank]) && beginsFurtherSense(text.substr(at));
 }
 
 std::size_t closedGroupEnd(std::u16string_view text, std::size_t open) {
@@ -89,6 +100,10 @@ std::vector<RawPiece> splitPieces(std::u16string_view text) {
       finish(i);
       before = separator;
       begin = i + 1;
+    } else if (runsIntoNextSense(text, i)) {
+      finish(i);
+      before = u'；';
+      begin = i;
     }
     ++i;
   }

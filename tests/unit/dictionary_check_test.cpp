@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "dictionary/check_general.h"
 #include "dictionary/failure.h"
 #include "tests/unit/support/sample_database.h"
 #include "tests/unit/support/small_dictionary.h"
@@ -43,6 +44,14 @@ const std::vector<Damage> kDamages = {
     {Rule::kColumns, "alter table edict rename column cid to kid"},
     {Rule::kColumns, "alter table cdict add column more integer"},
     {Rule::kColumns, "alter table [Index] rename column Cname to title"},
+    {Rule::kColumns, "alter table [Index] rename column Isshow to shown"},
+    {Rule::kColumns, "alter table [Index] rename column [default] to standard"},
+    {Rule::kColumns, "alter table [Index] drop column [default]"},
+    {Rule::kColumns, "alter table [Index] drop column Isshow"},
+    {Rule::kColumns,
+     "alter table [Index] drop column Isshow;"
+     "alter table [Index] add column more text;"
+     "alter table [Index] add column Isshow text"},
     {Rule::kColumns, "drop table edictidx;create table edictidx (word text not null)"},
     {Rule::kColumns,
      "drop table med;create table med (meaning text collate lexilo, word text collate lexilo)"},
@@ -90,6 +99,8 @@ const std::vector<Damage> kDamages = {
     {Rule::kMarkup, "update med set meaning='贫血&beta;' where word='anemia'"},
     {Rule::kMarkup, "update med set meaning='贫血<br />' where word='anemia'"},
     {Rule::kMarkup, "update med set meaning='贫血\\n血' where word='anemia'"},
+    {Rule::kMarkup, "update med set meaning='维生素A&-{2}' where word='anemia'"},
+    {Rule::kMarkup, "update med set meaning='内<&14&>动脉' where word='anemia'"},
     {Rule::kIndexOrder,
      "update edict set word='AB' where eid=1;update edict set word='a-' where eid=2"},
     {Rule::kEnglishReach, joinRows("edict", "eid", 100, 101)},
@@ -153,6 +164,21 @@ TEST_F(CheckDatabase, AllowsWhatTheSettingsWindowDoes) {
   EXPECT_TRUE(dictionary::checkDatabase(file_).findings.empty());
 }
 
+TEST_F(CheckDatabase, AllowsACatalogueWithFurtherColumnsAndIsshowAmongThem) {
+  run("alter table [Index] rename to former;"
+      "create table [Index] (code text, TableName text collate lexilo, Cname text collate lexilo,"
+      " remark text, [default] integer, more blob, ISSHOW integer);"
+      "insert into [Index] select 'x',TableName,Cname,'no number',[default],x'00',Isshow"
+      " from former;drop table former");
+  const CheckResult sound = dictionary::checkDatabase(file_);
+  std::ostringstream text;
+  sound.findings.print(text);
+  EXPECT_EQ(text.str(), "");
+  EXPECT_EQ(sound.dictionaries, 24U);
+  run("update [Index] set Isshow=0 where TableName='med'");
+  EXPECT_GT(dictionary::checkDatabase(file_).findings.count(Rule::kCatalogueDefault), 0U);
+}
+
 TEST(CheckDatabaseRules, NamesEveryRuleThatIsBroken) {
   std::vector<bool> covered(static_cast<std::size_t>(Rule::kCount));
   for (const Damage& damage : kDamages) {
@@ -172,6 +198,15 @@ TEST(CheckDatabaseRules, NamesEveryRuleThatIsBroken) {
   for (std::size_t rule = 0; rule < covered.size(); ++rule) {
     EXPECT_TRUE(covered[rule]) << dictionary::describe(static_cast<Rule>(rule));
   }
+}
+
+TEST(CheckRowCounts, AllowsAsManyRowsAsTheLookupsReach) {
+  Findings findings;
+  dictionary::checkRowCounts(100, 100, findings);
+  dictionary::checkRowCounts(1'060'000, 1'060'000, findings);
+  EXPECT_TRUE(findings.empty());
+  dictionary::checkRowCounts(1'060'100, 1'060'100, findings);
+  EXPECT_EQ(findings.count(Rule::kRowCount), 1U);
 }
 
 TEST_F(CheckDatabase, NoticesADamagedFile) {

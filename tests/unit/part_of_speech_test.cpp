@@ -26,6 +26,31 @@ TEST(PartOfSpeech, MayConsistOfSeveral) {
   EXPECT_EQ(rest(u"a. & 加速"), u"加速");
 }
 
+TEST(PartOfSpeech, MayConsistOfSeveralWithOneStop) {
+  EXPECT_EQ(rest(u"vt,vi.& n.<口>大口吞咽"), u"<口>大口吞咽");
+  EXPECT_EQ(rest(u"n,n. 甲"), u"甲");
+  EXPECT_EQ(rest(u"v/n.甲"), u"甲");
+}
+
+TEST(PartOfSpeech, MayHaveTwoWords) {
+  EXPECT_EQ(rest(u"comb.form 表示“大气”"), u"表示“大气”");
+  EXPECT_EQ(rest(u"comb. form 【化学】表示"), u"【化学】表示");
+  EXPECT_EQ(rest(u"comb. 构词成分"), u"构词成分");
+  EXPECT_EQ(rest(u"comb. formal 甲"), u"formal 甲");
+  EXPECT_EQ(rest(u"link-v. 忘记"), u"忘记");
+}
+
+TEST(PartOfSpeech, MayBeginAFurtherSense) {
+  using dictionary::beginsFurtherSense;
+  for (const std::u16string text : {u"v.使渗透", u"ll n.得洛斯人", u"ll n.( 航空器的)脱离轨道"}) {
+    EXPECT_TRUE(beginsFurtherSense(text)) << text.size();
+  }
+  for (const std::u16string text :
+       {u"adj.的2.", u"int.色墨水", u"n. ", u"n.", u"n", u"", u"ll ", u"ll 甲", u"x.甲", u"v.1"}) {
+    EXPECT_FALSE(beginsFurtherSense(text)) << text.size();
+  }
+}
+
 TEST(PartOfSpeech, MayLackItsStopBeforeChinese) {
   EXPECT_EQ(rest(u"n 数据"), u"数据");
   EXPECT_EQ(rest(u"v …成"), u"…成");
@@ -35,7 +60,7 @@ TEST(PartOfSpeech, MayLackItsStopBeforeChinese) {
 
 TEST(PartOfSpeech, IsNoOtherWord) {
   for (const std::u16string text : {u"数据", u"N. 数据", u"Dr. 数据", u"no. 数据", u"a级",
-                                    u"n型半导体", u"v", u"n.", u"a b", u""}) {
+                                    u"n型半导体", u"v", u"n.", u"a b", u"n,n甲", u"a,乙", u""}) {
     if (text == u"n.") {
       EXPECT_EQ(rest(text), u"");
     } else {

@@ -54,6 +54,15 @@ TEST(SplitPieces, KeepsCommasInsideNamesOfCompounds) {
   EXPECT_EQ(split(u"维生素A, B"), (Texts{u"维生素A", u"B"}));
 }
 
+TEST(SplitPieces, PartsBeforeAPartOfSpeech) {
+  EXPECT_EQ(split(u"ambiance,n.周围, 气氛"), (Texts{u"ambiance", u"n.周围", u"气氛"}));
+  EXPECT_EQ(split(u"渗透现象v.使渗透"), (Texts{u"渗透现象", u"v.使渗透"}));
+  EXPECT_EQ(split(u"脱离轨道 ll n.( 航空器等的)脱离轨道"),
+            (Texts{u"脱离轨道", u"ll n.( 航空器等的)脱离轨道"}));
+  EXPECT_EQ(split(u"维生素n.1, 在farther的adj.的(甲v.乙)"),
+            (Texts{u"维生素n.1", u"在farther的adj.的(甲v.乙)"}));
+}
+
 TEST(SplitPieces, TakesTimeInProportionToTheLength) {
   const std::u16string hostile(30000, u'(');
   EXPECT_EQ(split(hostile).size(), 1U);

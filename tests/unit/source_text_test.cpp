@@ -57,6 +57,29 @@ TEST(Markup, DecodesEntities) {
   EXPECT_EQ(dictionary::decodeEntities(u"S&P；甲 & 乙;"), u"S&P；甲 & 乙;");
 }
 
+TEST(Markup, UndoesTheCodesOfSmallFigures) {
+  EXPECT_EQ(dictionary::decodeEntities(u"维生素A&-{2}, B&-{12a}, C&-{10}H&-{13}NO&-{4}"),
+            u"维生素A2, B12a, C10H13NO4");
+  EXPECT_EQ(dictionary::decodeEntities(u"维生素H&+{-3}; =fog&{2}"), u"维生素H-3; =fog");
+  EXPECT_EQ(dictionary::decodeEntities(u"A&-, &-{2, &{甲}"), u"A&-, &-{2, &{甲}");
+  EXPECT_EQ(translationLines(u"[生化]吡哆醛,维生素B&-{6}"), (Lines{u"[生化]吡哆醛,维生素B6"}));
+}
+
+TEST(Markup, ANumberedCharacterIsLost) {
+  EXPECT_EQ(dictionary::decodeEntities(u"内<&14&>动脉"), u"内\uFFFD动脉");
+  EXPECT_EQ(dictionary::decodeEntities(u"<&&> <&14> <甲&14&> <&"), u"<&&> <&14> <甲&14&> <&");
+}
+
+TEST(Markup, IsSeen) {
+  for (const std::u16string text : {u"维生素A&-{2}", u"H&+{-3}", u"fog&{2}", u"内<&14&>动脉",
+                                    u"&beta;", u"<br />", u"甲\\n乙"}) {
+    EXPECT_TRUE(dictionary::hasMarkup(text)) << text.size();
+  }
+  for (const std::u16string text : {u"A&B", u"<德>甲", u"{2}", u"甲 & 乙"}) {
+    EXPECT_FALSE(dictionary::hasMarkup(text)) << text.size();
+  }
+}
+
 TEST(StandIns, AreRepairedWhereTheyAreCertain) {
   EXPECT_EQ(dictionary::repairStandIns(u"异┭唑, 苯胺┹离子, │恶性黑瘤"),
             u"异噁唑, 苯胺鎓离子, 恶性黑瘤");

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "dictionary/line_head.h"
+#include "dictionary/markup.h"
 
 namespace {
 
@@ -49,6 +50,20 @@ TEST(LineHead, SkipsStrayMarksBeforeAPartOfSpeech) {
   EXPECT_EQ(words(u"[鱼]Ⅰ adj.总鳃类的"), (Texts{u"总鳃类的"}));
   EXPECT_EQ(words(u"n<古>.乡下人, 老粗"), (Texts{u"乡下人", u"老粗"}));
   EXPECT_EQ(words(u"adv. &. adj.[数]逐项地(的)"), (Texts{u"逐项地"}));
+}
+
+TEST(LineHead, SkipsNumeralsThatBecameLetters) {
+  EXPECT_EQ(words(u"l adj.(爱琴海中)得洛斯岛(Delos)的ll n.得洛斯人"),
+            (Texts{u"得洛斯岛的", u"得洛斯人"}));
+  EXPECT_EQ(words(u"l v.(使)(航空器等)脱离轨道 ll n.( 航空器等的)脱离轨道"),
+            (Texts{u"脱离轨道", u"脱离轨道"}));
+}
+
+TEST(TranslationLine, PartsSensesThatRunIntoOneAnother) {
+  EXPECT_EQ(words(u"n. 渗透现象v.使渗透"), (Texts{u"渗透现象", u"使渗透"}));
+  EXPECT_EQ(words(u"a. 全部的n.罩衫, 工装裤"), (Texts{u"全部的", u"罩衫", u"工装裤"}));
+  EXPECT_EQ(text(u"[医] 地方病 adj.风土的", Subject::kMedicine), u"地方病；风土的");
+  EXPECT_EQ(words(u"ambiance,n.周围, 气氛"), (Texts{u"周围", u"气氛"}));
 }
 
 TEST(TranslationLine, GivesItsPieces) {
@@ -137,6 +152,12 @@ TEST(TranslationLine, SubjectsDoNotShowLostCharacters) {
   EXPECT_EQ(text(u"[化] 甲(C\uE00917)乙", Subject::kChemistry), u"甲乙");
   EXPECT_EQ(text(u"[化] 酸┏", Subject::kChemistry), u"");
   EXPECT_EQ(text(u"[化] ABC", Subject::kChemistry), u"");
+}
+
+TEST(TranslationLine, WhatLostAnUnwritableCharacterIsLeftOut) {
+  const std::u16string line = dictionary::decodeEntities(u"[医] 内<&14&>动脉, 内眦动脉");
+  EXPECT_EQ(words(line), (Texts{u"内眦动脉"}));
+  EXPECT_EQ(text(line, Subject::kMedicine), u"内眦动脉");
 }
 
 TEST(TranslationLine, KnowsInflectedForms) {
