@@ -67,9 +67,7 @@ void frmdictSetting::TreeView2_NodeClick(std::size_t node) try {
   query::chooseDefault(Adodc1.recordset(), node);
 } catch (...) {
   // The list goes on showing what is stored.
-  if (const std::size_t stored = query::lastDefault(Adodc1.recordset()); stored != 0) {
-    TreeView2.select(stored);
-  }
+  TreeView2.show(query::lastDefault(Adodc1.recordset()));
   throw;
 }
 

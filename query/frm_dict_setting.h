@@ -3,14 +3,14 @@
 #include "data/data_control.h"
 #include "forms/form.h"
 #include "forms/text_box.h"
-#include "forms/tree_view.h"
+#include "query/default_list.h"
 
 /// 字典设置: lists all subject dictionaries and makes the one that is clicked the default.
 class frmdictSetting : public forms::Form {
  public:
   frmdictSetting();
 
-  forms::TreeView TreeView2{*this, {}};
+  query::DefaultList TreeView2{*this, {}};
   forms::TextBox Text3{*this, {}, forms::TextBox::Look::note};
   data::DataControl Adodc1;
 

@@ -27,14 +27,47 @@ class FrmDictSetting : public QueryTest {
     return eventually([=] { return flags() == expected; });
   }
 
-  /// Expects the failure of a click on node 1 with the engine's own words, and nothing changed.
-  void expectFailure(std::u16string_view words) {
+  /// Waits until the list has the focus, maybe again, and node `number` is highlighted there; 0: no
+  /// node.
+  static bool highlights(std::size_t number) {
+    const forms::TreeView& list = settings().TreeView2;
+    return eventually([&] { return GetFocus() == list.handle() && list.selected() == number; }) &&
+           allAlong([&] { return list.selected() == number; }, 60);
+  }
+
+  /// Moves the default from 医学, node 3, to `node` on a disk that fills up between the writing of
+  /// the two rows, and expects that to be told.
+  void moveWithTheDiskFillingUpBetweenBothRows(int node) {
+    int changes = 0;
+    openSettings();
+    {
+      const support::FileLayer counting([&] {
+        ++changes;
+        return SQLITE_OK;
+      });
+      choose(node);
+      ASSERT_TRUE(eventually([&] { return flags() != 1 && stored(kDefaults) == 1; }));
+    }
+    settings().unload();
+    store("update [Index] set [default]=(id=1)");
+    openSettings();
+    // Each of the two rows takes half of them.
+    const support::FileLayer full(
+        [left = changes / 2]() mutable { return left-- > 0 ? SQLITE_OK : SQLITE_FULL; });
+    choose(node);
+    expectBox(u"database or disk is full", Icon::error);
+  }
+  static constexpr const char* kDefaults = "select count(*) from [Index] where [default]=1";
+
+  /// Expects the failure of a click on node 1 with the engine's own words, and nothing changed:
+  /// node `shown` is highlighted, 0 for none.
+  void expectFailure(std::u16string_view words, std::size_t shown = 3) {
     choose(1);
     ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
     const auto seen = boxes.take();
     EXPECT_EQ(seen[0].text, words);
     EXPECT_EQ(seen[0].icon, Icon::error);
-    EXPECT_EQ(settings().TreeView2.selected(), 3U);
+    EXPECT_TRUE(highlights(shown));
     EXPECT_EQ(textsOf(settings().TreeView2).size(), 4U);
   }
 };
@@ -44,6 +77,26 @@ TEST_F(FrmDictSetting, ListsAllDictionariesTheHiddenOnesToo) {
   EXPECT_EQ(textsOf(window.TreeView2), (Texts{u"化学", u"计算机", u"医学", u"隐藏"}));
   EXPECT_EQ(window.TreeView2.selected(), 3U);
   EXPECT_EQ(window.Adodc1.recordSource(), u"select * from [index] order by Cname");
+}
+
+TEST_F(FrmDictSetting, EveryNodeHasThePicture) {
+  HWND list = openSettings().TreeView2.handle();
+  const auto pictures =
+      reinterpret_cast<HIMAGELIST>(SendMessageW(list, TVM_GETIMAGELIST, TVSIL_NORMAL, 0));
+  ASSERT_EQ(ImageList_GetImageCount(pictures), 1);
+  int nodes = 0;
+  TVITEMW item{};
+  item.mask = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+  item.hItem = TreeView_GetRoot(list);
+  while (item.hItem != nullptr) {
+    item.iImage = item.iSelectedImage = -1;
+    SendMessageW(list, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    EXPECT_EQ(item.iImage, 0);
+    EXPECT_EQ(item.iSelectedImage, 0);
+    ++nodes;
+    item.hItem = TreeView_GetNextSibling(list, item.hItem);
+  }
+  EXPECT_EQ(nodes, 4);
 }
 
 TEST_F(FrmDictSetting, ShowsItsCaptionAndItsHint) {
@@ -206,30 +259,51 @@ TEST_F(FrmDictSetting, AFullDiskIsTold) {
 }
 
 TEST_F(FrmDictSetting, AfterADiskThatFilledUpBetweenBothRowsTheNextClickRepairs) {
-  int changes = 0;
-  openSettings();
-  {
-    const support::FileLayer counting([&] {
-      ++changes;
-      return SQLITE_OK;
-    });
-    choose(1);
-    ASSERT_TRUE(flagsBecome(10));
-  }
-  settings().unload();
-  store("update [Index] set [default]=(id=1)");
-  openSettings();
-  {
-    // Each of the two rows takes half of them.
-    const support::FileLayer full(
-        [left = changes / 2]() mutable { return left-- > 0 ? SQLITE_OK : SQLITE_FULL; });
-    choose(1);
-    expectBox(u"database or disk is full", Icon::error);
-  }
+  moveWithTheDiskFillingUpBetweenBothRows(1);
   EXPECT_EQ(flags(), 11);
-  EXPECT_EQ(settings().TreeView2.selected(), 3U);
+  EXPECT_TRUE(highlights(3));
   choose(2);
   EXPECT_TRUE(flagsBecome(100));
+}
+
+// Down the list the former default is reset first: none is left.
+TEST_F(FrmDictSetting, AfterADiskThatFilledUpBeforeTheNewDefaultNoneIsHighlighted) {
+  moveWithTheDiskFillingUpBetweenBothRows(4);
+  EXPECT_EQ(stored(kDefaults), 0);
+  EXPECT_TRUE(highlights(0));
+  choose(2);
+  EXPECT_TRUE(flagsBecome(100));
+  EXPECT_TRUE(highlights(2));
+}
+
+TEST_F(FrmDictSetting, WithoutADefaultNoneIsHighlightedAfterAFailureEither) {
+  store("update [Index] set [default]=0");
+  openSettings();
+  EXPECT_TRUE(highlights(0));
+  HANDLE file = CreateFileW(besideProgram().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  ASSERT_NE(file, INVALID_HANDLE_VALUE);
+  expectFailure(u"attempt to write a readonly database", 0);
+  CloseHandle(file);
+  EXPECT_EQ(stored(kDefaults), 0);
+}
+
+TEST_F(FrmDictSetting, WithoutADefaultTheKeysEnterTheListAtItsEnds) {
+  store("update [Index] set [default]=0");
+  openSettings();
+  ASSERT_TRUE(highlights(0));
+  input::key(VK_SPACE);
+  input::key(VK_END);
+  EXPECT_TRUE(highlights(4));
+  settings().unload();
+  for (const WORD key : std::initializer_list<WORD>{VK_DOWN, VK_UP, VK_HOME}) {
+    openSettings();
+    ASSERT_TRUE(highlights(0));
+    input::key(key);
+    EXPECT_TRUE(highlights(1));
+    settings().unload();
+  }
+  EXPECT_EQ(stored(kDefaults), 0);
 }
 
 TEST_F(FrmDictSetting, CaptureRestsFromItsActivationToItsEnd) {
