@@ -33,8 +33,8 @@ const PopupMenu::Item* PopupMenu::choose(const Form& owner, POINT screen,
   // Without the foreground a click elsewhere would not close the menu; the empty message lets the
   // task switch happen that TrackPopupMenu would otherwise swallow (both as Windows documents).
   SetForegroundWindow(owner.handle());
-  const auto chosen = static_cast<std::size_t>(TrackPopupMenuEx(
-      menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screen.x, screen.y, owner.handle(), nullptr));
+  const auto chosen = static_cast<std::size_t>(
+      TrackPopupMenuEx(menu.get(), TPM_RETURNCMD, screen.x, screen.y, owner.handle(), nullptr));
   PostMessageW(owner.handle(), WM_NULL, 0, 0);
   if (opener != nullptr) dropPress(*opener);
   return chosen == 0 ? nullptr : &items_[chosen - 1];

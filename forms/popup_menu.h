@@ -10,7 +10,8 @@
 
 namespace forms {
 
-/// A menu that drops down over a form. Items are described once; their states may change.
+/// A menu that drops down over a form. Items are described once; their states may change. Only the
+/// left mouse button and the keys choose.
 class PopupMenu {
  public:
   /// One line: a separator where the caption is "-".

@@ -85,15 +85,9 @@ LRESULT Widget::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KEYDOWN:
       if (takesKey(message, wParam)) {
         const auto handler = onKeyDown.find(wParam)->second;
+        dropCharacterOf(wParam);
         settleFocus();
         guard(handler);
-        return 0;
-      }
-      break;
-    case WM_CHAR:
-      // The character that follows a key taken above; the control would beep at it.
-      if ((wParam == VK_RETURN || wParam == VK_ESCAPE || wParam == VK_SPACE) &&
-          takesKey(WM_KEYDOWN, wParam)) {
         return 0;
       }
       break;
@@ -101,6 +95,14 @@ LRESULT Widget::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       raiseMouseEvents(message, lParam);
   }
   return handle_ == nullptr ? 0 : DefSubclassProc(handle_, message, wParam, lParam);
+}
+
+void Widget::dropCharacterOf(WPARAM key) const {
+  MSG character{};
+  if (PeekMessageW(&character, handle_, WM_CHAR, WM_CHAR, PM_NOREMOVE) != FALSE &&
+      character.wParam == key) {
+    PeekMessageW(&character, handle_, WM_CHAR, WM_CHAR, PM_REMOVE);
+  }
 }
 
 bool Widget::takesKey(UINT message, WPARAM wParam) const {

@@ -88,6 +88,9 @@ class Widget {
                                        UINT_PTR id, DWORD_PTR self);
   void raiseMouseEvents(UINT message, LPARAM lParam);
   bool takesKey(UINT message, WPARAM wParam) const;
+  /// Drops the character that the message loop has made of a key: the control would beep at it, and
+  /// a menu that the key opens would take it for a choice.
+  void dropCharacterOf(WPARAM key) const;
   void applyBox();
 
   Form& form_;

@@ -84,6 +84,26 @@ TEST_F(FrmMenu, CaptureRestsWhileItIsOpenAndRunsAfterwards) {
   EXPECT_TRUE(captureRuns());
 }
 
+TEST_F(FrmMenu, CaptureRestsAndRunsAsWellWhenTheKeysOpenIt) {
+  start();
+  for (const WORD key : std::initializer_list<WORD>{VK_SPACE, VK_RETURN}) {
+    SCOPED_TRACE(key);
+    top().Command1.setFocus();
+    ASSERT_TRUE(eventually([] { return captureRuns(); }));
+    bool rested = false;
+    const Watcher user([&] {
+      if (openMenu() == nullptr) return false;
+      rested = !captureRuns();
+      input::key(VK_ESCAPE);
+      return true;
+    });
+    input::key(key);
+    EXPECT_TRUE(eventually([&] { return user.done() && openMenu() == nullptr; }));
+    EXPECT_TRUE(rested);
+    EXPECT_TRUE(eventually([] { return captureRuns(); }));
+  }
+}
+
 TEST_F(FrmMenu, CaptureRunsAfterwardsEvenIfItWasSwitchedOff) {
   start();
   click(top().cmdMouse);
@@ -155,6 +175,7 @@ TEST_F(FrmMenu, HelpIsTheToolbars) {
   ASSERT_TRUE(eventually([] { return !startedCommandLine().empty(); }));
   EXPECT_EQ(startedCommandLine(),
             user::BrowserPath + u" " + app::applicationFolder() + u"\\help\\help.htm");
+  EXPECT_EQ(startedShow(), SW_SHOWNORMAL);
 }
 
 TEST_F(FrmMenu, HelpWithoutABrowserIsTold) {
@@ -173,6 +194,7 @@ TEST_F(FrmMenu, TheWebSiteStartsTheBrowserWithItsAddress) {
   chooseFromMenu(kWebSite);
   ASSERT_TRUE(eventually([] { return !startedCommandLine().empty(); }));
   EXPECT_EQ(startedCommandLine(), user::BrowserPath + u" " + std::u16string(app::kHomePage));
+  EXPECT_EQ(startedShow(), SW_SHOWNORMAL);
 }
 
 TEST_F(FrmMenu, TheWebSiteWithoutABrowserIsAnUncaughtError) {

@@ -82,5 +82,16 @@ TEST_F(FrmMenuWindows, TheToolbarOpensTheQueryWindowAndTheSettings) {
   EXPECT_TRUE(opens<frmMain>());
 }
 
+TEST_F(FrmMenuWindows, CaptureRestsInTheSettingsThatTheToolbarOpens) {
+  start();
+  ASSERT_TRUE(eventually([] { return captureRuns(); }));
+  click(top().cmdDictSetting);
+  ASSERT_TRUE(opens<frmdictSetting>());
+  EXPECT_TRUE(eventually([] { return !captureRuns(); }));
+  EXPECT_TRUE(allAlong([] { return !captureRuns(); }, 40));
+  forms::single<frmdictSetting>().unload();
+  EXPECT_TRUE(captureRuns());
+}
+
 }  // namespace
 }  // namespace wintest

@@ -74,6 +74,16 @@ TEST_F(PopupMenuTest, AClickChooses) {
   EXPECT_EQ(chosen, &menu.item(0));
 }
 
+TEST_F(PopupMenuTest, ARightClickChoosesNothing) {
+  opened<FormA>();
+  const auto* chosen = choose([](HWND window) {
+    const RECT rect = rectOf(window);
+    input::rightClick({rect.left + 40, rect.top + 12});
+    input::key(VK_ESCAPE);
+  });
+  EXPECT_EQ(chosen, nullptr);
+}
+
 TEST_F(PopupMenuTest, EscapeLeavesIt) {
   opened<FormA>();
   EXPECT_EQ(choose([](HWND) { input::key(VK_ESCAPE); }), nullptr);

@@ -11,6 +11,8 @@
 namespace wintest {
 namespace {
 
+constexpr wchar_t kUnasked = 0xFFFF;
+
 std::filesystem::path record() {
   return std::filesystem::path(app::applicationFolder()) / u"started.txt";
 }
@@ -21,15 +23,32 @@ std::u16string ownPath() {
   return {path, path + length};
 }
 
+/// How this program was asked to show its window; kUnasked where it may choose.
+wchar_t shownAs() {
+  STARTUPINFOW startup{};
+  GetStartupInfoW(&startup);
+  return (startup.dwFlags & STARTF_USESHOWWINDOW) != 0 ? startup.wShowWindow : kUnasked;
+}
+
+/// What is on record; "" where nothing is.
+std::u16string recorded() {
+  const std::string bytes = support::readFile(record());
+  std::u16string told(bytes.size() / 2, u'\0');
+  std::memcpy(told.data(), bytes.data(), told.size() * 2);
+  return told;
+}
+
 }  // namespace
 
 bool tookPage() {
   const std::wstring_view line = GetCommandLineW();
   if (!line.ends_with(L"help.htm") && line.find(L" https://") == std::wstring_view::npos)
     return false;
+  std::wstring told(1, shownAs());
+  told += line;
   // Under another name until it is complete.
   const auto draft = record().concat(".new");
-  support::writeFile(draft, {reinterpret_cast<const char*>(line.data()), line.size() * 2});
+  support::writeFile(draft, {reinterpret_cast<const char*>(told.data()), told.size() * 2});
   std::filesystem::rename(draft, record());
   return true;
 }
@@ -40,10 +59,13 @@ void useAsBrowser() {
 }
 
 std::u16string startedCommandLine() {
-  const std::string bytes = support::readFile(record());
-  std::u16string line(bytes.size() / 2, u'\0');
-  std::memcpy(line.data(), bytes.data(), bytes.size());
-  return line;
+  const std::u16string told = recorded();
+  return told.empty() ? told : told.substr(1);
+}
+
+int startedShow() {
+  const std::u16string told = recorded();
+  return told.empty() ? kUnasked : told.front();
 }
 
 }  // namespace wintest

@@ -14,4 +14,7 @@ void useAsBrowser();
 /// The command line of the browser that was started since then; "" where none was.
 std::u16string startedCommandLine();
 
+/// How that browser was asked to show its window (SW_SHOWNORMAL ...); 65535 where it was not.
+int startedShow();
+
 }  // namespace wintest
