@@ -156,8 +156,7 @@ void frmSub::txtOut_MouseUp(forms::Place place) {
 }
 
 void frmSub::mnuSearch_Click() {
-  // The box holds one line; a selection across lines counts by the first of them.
-  txtInput.setText(std::u16string(user::firstLine(txtOut.selText())));
+  txtInput.setText(user::onOneLine(txtOut.selText()));
   txtOut.select(txtOut.selStart(), 0);
 }
 

@@ -48,6 +48,7 @@ void frmSub::writeSizes() const {
   if (settingsPath_.empty()) return;
   user::WriteINIProfileString(kSection, kWindowWidth, text::decimal(width()), settingsPath_);
   user::WriteINIProfileString(kSection, kWindowHeight, text::decimal(height()), settingsPath_);
-  user::WriteINIProfileString(kSection, kTreeWidth, text::decimal(TreeView1.width()),
-                              settingsPath_);
+  // A window that was narrowed may have left its list too wide for it.
+  const int treeWidth = lookup::widthToKeep({width(), height()}, TreeView1.width());
+  user::WriteINIProfileString(kSection, kTreeWidth, text::decimal(treeWidth), settingsPath_);
 }

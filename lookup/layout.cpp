@@ -36,6 +36,11 @@ bool leavesRoomForPane(Size window, int listWidth) {
   return layOut(snapSize(window), listWidth).pane.width > 0;
 }
 
+int widthToKeep(Size size, int listWidth) {
+  if (leavesRoomForPane(size, listWidth)) return listWidth;
+  return widthAfterDropOnPane(snapSize(size).width, listWidth, 0);
+}
+
 int widthAfterDropOnList(int x) { return x < kNarrowestDrop ? kNarrowestDrop : x - kMargin; }
 
 int widthAfterDropOnPane(int windowWidth, int listWidth, int x) {

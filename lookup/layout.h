@@ -34,6 +34,10 @@ Layout layOut(Size window, int listWidth);
 /// Whether a list of `listWidth` leaves room for the splitter and some of the pane.
 bool leavesRoomForPane(Size window, int listWidth);
 
+/// The list width to keep for the next opening of a window of `size`: `listWidth`, or the widest
+/// that a drop on the pane allows where the list leaves the pane no room.
+int widthToKeep(Size size, int listWidth);
+
 /// List width after the splitter is dropped on the list, `x` twips from the list's left edge.
 int widthAfterDropOnList(int x);
 

@@ -25,13 +25,15 @@ TypedText readTyped(std::u16string_view text) {
   return typed;
 }
 
-std::u16string_view firstLine(std::u16string_view text) {
-  for (;;) {
-    const std::size_t end = text.find_first_of(u"\r\n");
-    const std::u16string_view line = text.substr(0, end);
-    if (end == std::u16string_view::npos || !trimBlanks(line).empty()) return line;
-    text.remove_prefix(end + 1);
+std::u16string onOneLine(std::u16string_view text) {
+  std::u16string line;
+  line.reserve(text.size());
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const bool carriageReturn = text[at] == u'\r';
+    line += carriageReturn || text[at] == u'\n' ? u' ' : text[at];
+    if (carriageReturn && at + 1 < text.size() && text[at + 1] == u'\n') ++at;
   }
+  return line;
 }
 
 }  // namespace user

@@ -22,8 +22,7 @@ struct TypedText {
 
 TypedText readTyped(std::u16string_view text);
 
-/// The first line of `text` that holds more than blanks, without its line end; the last one where
-/// there is none. Lines end with CR, LF or both.
-std::u16string_view firstLine(std::u16string_view text);
+/// All of `text` as a box of one line can hold it: a blank for every line end (CR, LF or both).
+std::u16string onOneLine(std::u16string_view text);
 
 }  // namespace user

@@ -10,6 +10,7 @@ using lookup::Size;
 using lookup::snapSize;
 using lookup::widthAfterDropOnList;
 using lookup::widthAfterDropOnPane;
+using lookup::widthToKeep;
 
 TEST(Snapping, BelowItsThresholdsAWindowIs3500By2800) {
   EXPECT_EQ(snapSize({3000, 2500}), (Size{3500, 2800}));
@@ -111,6 +112,23 @@ TEST(DropOnThePane, TheLimitIsRoundedDown) {
 
 TEST(DropOnThePane, ALimitBelowTheListsWidthNarrowsIt) {
   EXPECT_EQ(widthAfterDropOnPane(3500, 2000, 10), 1650);
+}
+
+TEST(WidthToKeep, IsTheListsOwnWhereThePaneHasRoom) {
+  EXPECT_EQ(widthToKeep({3500, 3200}, 2000), 2000);
+  EXPECT_EQ(widthToKeep({9000, 5000}, 5000), 5000);
+  EXPECT_EQ(widthToKeep({3500, 3200}, 3299), 3299);
+  EXPECT_EQ(widthToKeep({3500, 3200}, 0), 0);
+}
+
+TEST(WidthToKeep, LeavesThePaneRoomAtTheNextOpening) {
+  EXPECT_EQ(widthToKeep({3500, 5000}, 5000), 1650);
+  for (const int width : {0, 3000, 3500, 3600, 7699, 7700, 32767}) {
+    for (const int list : {0, 1600, 3299, 3300, 9000, 32767}) {
+      EXPECT_TRUE(lookup::leavesRoomForPane({width, 3200}, widthToKeep({width, 3200}, list)))
+          << width << ' ' << list;
+    }
+  }
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 
 namespace {
 
-using user::firstLine;
+using user::onOneLine;
 using user::readTyped;
 using user::Typed;
 
@@ -41,19 +41,17 @@ TEST(ReadTyped, TrimsBlanksAndDoublesQuotes) {
   EXPECT_EQ(readTyped(u"\u3000").kind, Typed::kWord);
 }
 
-TEST(FirstLine, IsWithoutItsEnd) {
-  EXPECT_EQ(firstLine(u"数据\r\n"), u"数据");
-  EXPECT_EQ(firstLine(u"数据\r"), u"数据");
-  EXPECT_EQ(firstLine(u"data\n 位"), u"data");
-  EXPECT_EQ(firstLine(u" data bank "), u" data bank ");
+TEST(OnOneLine, ABlankStandsForEveryLineEnd) {
+  EXPECT_EQ(onOneLine(u"数据\r\n"), u"数据 ");
+  EXPECT_EQ(onOneLine(u"数据\r"), u"数据 ");
+  EXPECT_EQ(onOneLine(u"data\n位"), u"data 位");
+  EXPECT_EQ(onOneLine(u"\r\n 数据；\r\n 位"), u"  数据；  位");
+  EXPECT_EQ(onOneLine(u"a\n\rb\r\r\n"), u"a  b  ");
 }
 
-TEST(FirstLine, SkipsBlankLines) {
-  EXPECT_EQ(firstLine(u"\r\n 数据；\r\n 位"), u" 数据；");
-  EXPECT_EQ(firstLine(u"  \r\n\r\nb"), u"b");
-  EXPECT_EQ(firstLine(u"\r\n"), u"");
-  EXPECT_EQ(firstLine(u"   "), u"   ");
-  EXPECT_EQ(firstLine(u""), u"");
+TEST(OnOneLine, LeavesAllElseAsItIs) {
+  EXPECT_EQ(onOneLine(u" data bank "), u" data bank ");
+  EXPECT_EQ(onOneLine(u""), u"");
 }
 
 }  // namespace

@@ -55,31 +55,29 @@ TEST_F(FrmSubPaneMenu, SearchLooksTheSelectionUp) {
   EXPECT_EQ(form.txtOut.selLength(), 0U);
 }
 
-TEST_F(FrmSubPaneMenu, SearchLeavesOutTheLineEndOfTheSelection) {
+TEST_F(FrmSubPaneMenu, SearchIsNotMisledByTheLineEndOfTheSelection) {
   frmSub& form = open();
   form.txtInput.setText(u"data");
   form.txtOut.select(0, 7);
   ASSERT_EQ(form.txtOut.selText(), u" data\r\n");
   rightClick({VK_DOWN, VK_RETURN});
-  ASSERT_TRUE(eventually([&] { return form.txtInput.text() == u" data"; }));
+  ASSERT_TRUE(eventually([&] { return form.txtInput.text() == u" data "; }));
   EXPECT_EQ(list()[0], u"data");
+  EXPECT_EQ(form.txtOut.text(), u" data\r\n 数据");
 }
 
-TEST_F(FrmSubPaneMenu, SearchTakesTheFirstWordOfASelectionAcrossLines) {
+TEST_F(FrmSubPaneMenu, SearchTakesAllOfASelectionAcrossLines) {
   frmSub& form = open();
   form.txtInput.setText(u"数据");
   ASSERT_EQ(form.txtOut.text(), u" 数据\r\n data；\r\n datum");
-  // From the end of the headword's line, so that the first line selected is empty.
-  form.txtOut.select(3, 10);
-  ASSERT_EQ(form.txtOut.selText(), u"\r\n data；\r\n");
+  form.txtOut.select(1, 12);
+  ASSERT_EQ(form.txtOut.selText(), u"数据\r\n data；\r\n");
   rightClick({VK_DOWN, VK_RETURN});
-  ASSERT_TRUE(eventually([&] { return form.txtInput.text() == u" data；"; }));
-  form.txtInput.setText(u"数据");
-  form.txtOut.select(1, 13);
-  rightClick({VK_DOWN, VK_RETURN});
-  ASSERT_TRUE(eventually([&] { return form.txtOut.selLength() == 0; }));
-  EXPECT_EQ(form.txtInput.text(), u"数据");
-  EXPECT_EQ(list()[0], u"数据");
+  ASSERT_TRUE(eventually([&] { return form.txtInput.text() == u"数据  data； "; }));
+  // Looked up as if it had been typed.
+  EXPECT_EQ(list(), expectedList(u"数据  data；"));
+  EXPECT_EQ(list()[0], u"数据库");
+  EXPECT_EQ(form.txtOut.selLength(), 0U);
 }
 
 TEST_F(FrmSubPaneMenu, SearchForALineEndAloneChangesNothingButTheBox) {
@@ -89,7 +87,7 @@ TEST_F(FrmSubPaneMenu, SearchForALineEndAloneChangesNothingButTheBox) {
   form.txtOut.select(5, 2);
   ASSERT_EQ(form.txtOut.selText(), u"\r\n");
   rightClick({VK_DOWN, VK_RETURN});
-  ASSERT_TRUE(eventually([&] { return form.txtInput.text().empty(); }));
+  ASSERT_TRUE(eventually([&] { return form.txtInput.text() == u" "; }));
   EXPECT_EQ(list(), before);
   EXPECT_EQ(form.txtOut.text(), u" data\r\n 数据");
 }
@@ -104,6 +102,21 @@ TEST_F(FrmSubPaneMenu, CopyPutsTheSelectionOnTheClipboardAsText) {
   EXPECT_TRUE(eventually([] { return harness::clipboardText() == L"data\r\n 数据"; }));
   EXPECT_EQ(form.txtOut.selLength(), 9U);
   EXPECT_EQ(form.txtInput.text(), u"data");
+}
+
+TEST_F(FrmSubPaneMenu, CopyClearsTheClipboardOfEverythingElse) {
+  frmSub& form = open();
+  form.txtInput.setText(u"data");
+  form.txtOut.select(1, 4);
+  const UINT other = RegisterClipboardFormatW(L"Lexilo test format");
+  ASSERT_TRUE(OpenClipboard(form.handle()));
+  EmptyClipboard();
+  SetClipboardData(other, GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, 1));
+  CloseClipboard();
+  ASSERT_TRUE(IsClipboardFormatAvailable(other));
+  rightClick({VK_DOWN, VK_DOWN, VK_RETURN});
+  EXPECT_TRUE(eventually([] { return harness::clipboardText() == L"data"; }));
+  EXPECT_FALSE(IsClipboardFormatAvailable(other));
 }
 
 TEST_F(FrmSubPaneMenu, ABusyClipboardIsToldAfterAMoment) {

@@ -137,6 +137,19 @@ TEST_F(FrmSubSettings, AListThatLeavesThePaneNoRoomIsRefused) {
   expectRefused();
 }
 
+TEST_F(FrmSubSettings, AListThatANarrowedWindowHasNoRoomForIsStoredSoThatItOpensAgain) {
+  store(L"9000", L"5000", L"5000");
+  open();
+  expectSizes(9000, 5000, 5000);
+  sub().setSize(3500, 5000);
+  expectSizes(3500, 5000, 5000);
+  close();
+  expectStored(L"3500", L"5000", L"1650");
+  open();
+  EXPECT_EQ(boxes.count(), 0U);
+  expectSizes(3500, 5000, 1650);
+}
+
 TEST_F(FrmSubSettings, ClosedWhileMinimisedItKeepsItsRestoredSizes) {
   store(L"6000", L"5000", L"2100");
   open();
