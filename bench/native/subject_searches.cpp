@@ -2,19 +2,21 @@
 
 #include <cstdio>
 #include <string>
-#include <utility>
+#include <string_view>
 #include <vector>
 
 #include "bench/native/search_patterns.h"
 #include "bench/native/yardsticks.h"
 #include "bench/timings.h"
 #include "data/data_control.h"
+#include "query/query_sql.h"
 #include "text/query_text.h"
 #include "text/utf.h"
 
 namespace bench {
 namespace {
 
+constexpr std::u16string_view kTable = u"med";
 constexpr std::size_t kPatterns = 1200;
 /// A yardstick is held to every fifth pattern.
 constexpr std::size_t kPatternsPerYardstick = 5;
@@ -42,46 +44,38 @@ struct Kind {
 
 std::u16string wildcards(std::u16string text) { return user::convertWildcard(text); }
 
-Search englishSearch(std::u16string_view top, std::u16string pattern) {
-  std::u16string inSql = pattern;
-  user::escapeQuote(inSql);
-  return {u"select top " + std::u16string(top) + u" word,meaning from med where word like '" +
-              inSql + u"' order by word",
-          std::move(pattern),
-          {}};
+/// The pattern that the engine compares a column with; `mode` as for query::makeQuerySql.
+std::u16string patternOf(const std::u16string& typed, std::u16string_view mode) {
+  return (mode == query::kComplex ? u"%" : u"") + wildcards(typed) + u"%";
 }
 
-Search chineseSearch(std::u16string_view top, std::u16string pattern) {
-  std::u16string inSql = pattern;
-  user::escapeQuote(inSql);
-  return {u"select top " + std::u16string(top) +
-              u" word as meaning,meaning as word from med where meaning like '" + inSql +
-              u"' order by meaning",
-          {},
-          std::move(pattern)};
+std::u16string sqlOf(std::u16string typed, std::u16string_view mode) {
+  return query::makeQuerySql(typed, mode, kTable).sql;
 }
 
+Search englishSearch(const Typed& typed, std::u16string_view mode) {
+  return {sqlOf(typed.english, mode), patternOf(typed.english, mode), {}};
+}
+
+Search chineseSearch(const Typed& typed, std::u16string_view mode) {
+  return {sqlOf(typed.chinese, mode), {}, patternOf(typed.chinese, mode)};
+}
+
+// This search takes LIKE's own wildcards only.
 Search twoFragments(const Typed& typed) {
-  const std::u16string english = u"%" + wildcards(typed.english) + u"%";
-  const std::u16string chinese = u"%" + wildcards(typed.chinese) + u"%";
-  return {u"select top 200 word,meaning from med where  word like '" + english +
-              u"' and meaning like '" + chinese + u"'",
-          english, chinese};
+  return {query::specialSql(kTable, wildcards(typed.english), wildcards(typed.chinese)),
+          patternOf(typed.english, query::kComplex), patternOf(typed.chinese, query::kComplex)};
 }
 
 const Kind kKinds[] = {
     {"English beginning", true, "word", kEnglishBeginningShare,
-     [](const Typed& typed) { return englishSearch(u"100", wildcards(typed.english) + u"%"); }},
+     [](const Typed& typed) { return englishSearch(typed, query::kEasy); }},
     {"English part", false, "word", kShare,
-     [](const Typed& typed) {
-       return englishSearch(u"200", u"%" + wildcards(typed.english) + u"%");
-     }},
+     [](const Typed& typed) { return englishSearch(typed, query::kComplex); }},
     {"Chinese beginning", true, "meaning", kShare,
-     [](const Typed& typed) { return chineseSearch(u"100", wildcards(typed.chinese) + u"%"); }},
+     [](const Typed& typed) { return chineseSearch(typed, query::kEasy); }},
     {"Chinese part", false, "meaning", kShare,
-     [](const Typed& typed) {
-       return chineseSearch(u"200", u"%" + wildcards(typed.chinese) + u"%");
-     }},
+     [](const Typed& typed) { return chineseSearch(typed, query::kComplex); }},
     {"two fragments", false, "word", kShare, twoFragments},
 };
 

@@ -2,6 +2,8 @@
 #include <cstdio>
 #include <random>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/state.h"
@@ -10,6 +12,7 @@
 #include "forms/dispatcher.h"
 #include "forms/registry.h"
 #include "query/frm_main.h"
+#include "query/frm_spc.h"
 
 /// What a click on a button of the multi-dictionary window costs until its result lines are
 /// painted, over the medical dictionary.
@@ -31,6 +34,12 @@ struct Search {
   Timings lines{"  painting the lines"};
 };
 
+bool isPlain(std::u16string_view text, bool english) {
+  return std::ranges::all_of(text, [=](char16_t unit) {
+    return english ? (unit >= u'a' && unit <= u'z') : unit >= u'\u4E00';
+  });
+}
+
 /// Beginnings, `length` code units long, of words of a column, spread over the dictionary.
 std::vector<std::u16string> beginnings(const std::u16string& column, std::size_t length) {
   data::DataControl control;
@@ -44,13 +53,64 @@ std::vector<std::u16string> beginnings(const std::u16string& column, std::size_t
   for (rows.moveFirst(); !rows.endOfFile(); rows.moveNext()) {
     if (place++ % step != 0) continue;
     std::u16string text = rows.field(std::size_t{0}).text.substr(0, length);
-    const bool plain = std::ranges::all_of(text, [&](char16_t unit) {
-      return column == u"word" ? (unit >= u'a' && unit <= u'z') : unit >= u'\u4E00';
-    });
-    if (plain && text.size() == length && found.size() < kSearches) found.push_back(text);
+    if (isPlain(text, column == u"word") && text.size() == length && found.size() < kSearches)
+      found.push_back(text);
   }
   std::shuffle(found.begin(), found.end(), std::minstd_rand(3));
   return found;
+}
+
+/// Two letters and a character that stand at the beginning of the same entry.
+struct Fragments {
+  std::u16string english;
+  std::u16string chinese;
+};
+
+/// Those of entries that are spread over the dictionary: every search finds something.
+std::vector<Fragments> fragments() {
+  data::DataControl control;
+  control.setConnectionString(user::ConnectionString);
+  control.setRecordSource(u"select word,meaning from med");
+  control.refresh();
+  auto& rows = control.recordset();
+  const std::size_t step = std::max<std::size_t>(rows.recordCount() / (2 * kSearches), 1);
+  std::vector<Fragments> found;
+  std::size_t place = 0;
+  for (rows.moveFirst(); !rows.endOfFile() && found.size() < kSearches; rows.moveNext()) {
+    if (place++ % step != 0) continue;
+    Fragments pair{rows.field(u"word").text.substr(0, 2), rows.field(u"meaning").text.substr(0, 1)};
+    if (isPlain(pair.english, true) && pair.english.size() == 2 && isPlain(pair.chinese, false) &&
+        !pair.chinese.empty()) {
+      found.push_back(std::move(pair));
+    }
+  }
+  std::shuffle(found.begin(), found.end(), std::minstd_rand(3));
+  return found;
+}
+
+void press(const forms::Button& button) { SendMessageW(button.handle(), BM_CLICK, 0, 0); }
+
+/// Times a press of `button` and the painting of the lines that it leads to.
+void timePress(frmMain& form, const forms::Button& button, Search& times) {
+  times.whole.time([&] {
+    times.search.time([&] { press(button); });
+    times.lines.time([&] {
+      UpdateWindow(form.TreeView2.handle());
+      GdiFlush();
+    });
+  });
+}
+
+void searchForBoth(frmMain& form, Search& times) {
+  for (const auto& [english, chinese] : fragments()) {
+    press(form.cmdSpc);
+    auto& dialog = forms::single<frmSpc>();
+    dialog.txtE.setText(english);
+    dialog.txtC.setText(chinese);
+    forms::doEvents();
+    timePress(form, dialog.cmdOK, times);
+    forms::doEvents();
+  }
 }
 
 void search(frmMain& form, const forms::Button& button, const std::vector<std::u16string>& texts,
@@ -58,13 +118,7 @@ void search(frmMain& form, const forms::Button& button, const std::vector<std::u
   for (const std::u16string& text : texts) {
     form.txtInput.setText(text);
     forms::doEvents();
-    times.whole.time([&] {
-      times.search.time([&] { SendMessageW(button.handle(), BM_CLICK, 0, 0); });
-      times.lines.time([&] {
-        UpdateWindow(form.TreeView2.handle());
-        GdiFlush();
-      });
-    });
+    timePress(form, button, times);
   }
 }
 
@@ -94,6 +148,9 @@ int run(const std::u16string& database) {
   Search chinesePart("Chinese part, 2 characters");
   search(form, form.Command1, beginnings(u"meaning", 2), chinesePart);
   chinesePart.print();
+  Search both("Two fragments, 2 letters and 1 character");
+  searchForBoth(form, both);
+  both.print();
   return 0;
 }
 

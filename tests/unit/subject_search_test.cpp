@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "dictionary/schema.h"
+#include "query/query_sql.h"
 #include "tests/unit/random_text.h"
 #include "tests/unit/support/sample_database.h"
 #include "text/order.h"
@@ -67,6 +68,14 @@ class SubjectSearch : public testing::Test {
 
   static std::string quoted(std::u16string text) { return text::toUtf8(user::escapeQuote(text)); }
 
+  /// A pattern that a search takes for English or for Chinese.
+  std::u16string typed(bool english) {
+    while (true) {
+      std::u16string text = pattern(english);
+      if ((user::getEorC(text) == user::kEnglish) == english) return text;
+    }
+  }
+
   /// A pattern, typed or copied from a row, perhaps with wildcards and capitals of its own.
   std::u16string pattern(bool english) {
     const Line& row = rows_[random_.below(rows_.size())];
@@ -105,18 +114,12 @@ class SubjectSearch : public testing::Test {
     return lines;
   }
 
-  void expectSameLines(bool english, const std::u16string& top, const std::u16string& before,
-                       std::size_t limit) {
+  void expectSameLines(bool english, std::u16string_view mode, std::size_t limit) {
     std::size_t lines = 0;
     for (int round = 0; round < 400; ++round) {
-      const std::u16string like = before + pattern(english) + u"%";
-      std::u16string inSql = like;
-      user::escapeQuote(inSql);
-      const std::u16string columns = english ? u"word,meaning" : u"word as meaning,meaning as word";
-      const std::u16string field = english ? u"word" : u"meaning";
-      const std::vector<Line> found =
-          searched(u"select top " + top + u" " + columns + u" from med where " + field +
-                   u" like '" + inSql + u"' order by " + field);
+      std::u16string text = typed(english);
+      const std::u16string like = (mode == query::kComplex ? u"%" : u"") + text + u"%";
+      const std::vector<Line> found = searched(query::makeQuerySql(text, mode, u"med").sql);
       ASSERT_EQ(found, tried(english, like, limit)) << text::toUtf8(like);
       lines += found.size();
     }
@@ -130,13 +133,13 @@ class SubjectSearch : public testing::Test {
   data::DataControl control_;
 };
 
-TEST_F(SubjectSearch, FindsEnglishByBeginning) { expectSameLines(true, u"100", u"", 100); }
+TEST_F(SubjectSearch, FindsEnglishByBeginning) { expectSameLines(true, query::kEasy, 100); }
 
-TEST_F(SubjectSearch, FindsEnglishByPart) { expectSameLines(true, u"200", u"%", 200); }
+TEST_F(SubjectSearch, FindsEnglishByPart) { expectSameLines(true, query::kComplex, 200); }
 
-TEST_F(SubjectSearch, FindsChineseByBeginning) { expectSameLines(false, u"100", u"", 100); }
+TEST_F(SubjectSearch, FindsChineseByBeginning) { expectSameLines(false, query::kEasy, 100); }
 
-TEST_F(SubjectSearch, FindsChineseByPart) { expectSameLines(false, u"200", u"%", 200); }
+TEST_F(SubjectSearch, FindsChineseByPart) { expectSameLines(false, query::kComplex, 200); }
 
 TEST_F(SubjectSearch, FindsTwoFragmentsInTheOrderOfTheWords) {
   std::size_t lines = 0;
@@ -144,9 +147,7 @@ TEST_F(SubjectSearch, FindsTwoFragmentsInTheOrderOfTheWords) {
     std::u16string english = pattern(true);
     std::u16string chinese = pattern(false);
     std::erase(english, u'\'');
-    const std::vector<Line> found =
-        searched(u"select top 200 word,meaning from med where  word like '%" + english +
-                 u"%' and meaning like '%" + chinese + u"%'");
+    const std::vector<Line> found = searched(query::specialSql(u"med", english, chinese));
     std::vector<Line> expected;
     for (const Line& row : rows_) {
       if (text::like(u"%" + english + u"%", row.word) &&
