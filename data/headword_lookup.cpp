@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "data/bound_limits.h"
+#include "data/wildcards.h"
 #include "text/order.h"
 #include "text/query_text.h"
 
@@ -12,10 +13,6 @@ namespace {
 
 /// The width above which a list would have to be narrowed.
 constexpr std::int32_t kListWindow = 1000;
-
-std::u16string withWildcards(std::u16string_view word, std::u16string_view replacement) {
-  return user::replaceStr(user::replaceStr(word, u"%", replacement), u"_", replacement);
-}
 
 std::int32_t rowNumber(std::int64_t number) {
   if (number < std::numeric_limits<std::int32_t>::min() ||
@@ -52,9 +49,9 @@ void HeadwordLookup::getBound(std::u16string_view word, DataControl& control) {
 }
 
 void HeadwordLookup::getEnglishBound(std::u16string_view word) {
-  const std::u16string low = text::toLower(withWildcards(word, u"0"));
+  const std::u16string low = text::toLower(withoutWildcards(word, u"0"));
   const std::u16string high =
-      rules_.lambdaUpperKey ? text::toLower(withWildcards(word, u"λ")) : low;
+      rules_.lambdaUpperKey ? text::toLower(withoutWildcards(word, u"λ")) : low;
   const bool oneKey = high == low;
   for (std::size_t i = 1; i < indexWords_.size(); ++i) {
     const std::u16string& indexWord = indexWords_[i];
@@ -68,14 +65,14 @@ void HeadwordLookup::getEnglishBound(std::u16string_view word) {
 }
 
 void HeadwordLookup::getChineseBound(std::u16string_view word, DataControl& control) {
-  RecordSet& before = rowsOf(control, indexRowsUpToSql(withWildcards(word, u"0")));
+  RecordSet& before = rowsOf(control, indexRowsUpToSql(withoutWildcards(word, u"0")));
   if (before.empty()) {
     bounds_.lower = 0;
   } else {
     before.moveLast();
     bounds_.lower = rowFromBlock(before.field(u"id").integer, -kReachBack);
   }
-  RecordSet& behind = rowsOf(control, indexRowsBehindSql(withWildcards(word, u"做")));
+  RecordSet& behind = rowsOf(control, indexRowsBehindSql(withoutWildcards(word, u"做")));
   if (behind.empty()) {
     bounds_.upper = kLastRow;
   } else {

@@ -1,21 +1,11 @@
 #include "data/lookup_sql.h"
 
-#include <initializer_list>
-
+#include "data/joined.h"
 #include "text/decimal.h"
 
 namespace data {
-namespace {
 
 using text::decimal;
-
-std::u16string joined(std::initializer_list<std::u16string_view> parts) {
-  std::u16string whole;
-  for (const std::u16string_view part : parts) whole.append(part);
-  return whole;
-}
-
-}  // namespace
 
 std::u16string englishListSql(Bounds bounds, std::u16string_view word) {
   return joined({u"select distinct top 75 edict.word as Word from [edict]", u"where edict.eid>=",

@@ -3,15 +3,14 @@
 #include <algorithm>
 
 #include "data/bound_limits.h"
+#include "data/wildcards.h"
 #include "text/order.h"
 #include "text/query_text.h"
 
 namespace dictionary {
 namespace {
 
-std::u16string withoutWildcards(std::u16string_view word, std::u16string_view replacement) {
-  return user::replaceStr(user::replaceStr(word, u"%", replacement), u"_", replacement);
-}
+using data::withoutWildcards;
 
 std::u16string escaped(std::u16string_view word) {
   std::u16string text(word);

@@ -3,22 +3,15 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "text/units.h"
+
 namespace dictionary {
 namespace {
 
 /// Length of the valid UTF-8 sequence at the beginning of `bytes`, 0 if there is none.
 std::size_t sequenceLength(std::string_view bytes) {
-  const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
-  const unsigned char lead = at(0);
-  if (lead < 0x80) return 1;
-  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-  if (lead < 0xC2 || lead > 0xF4 || bytes.size() < length) return 0;
-  for (std::size_t i = 1; i < length; ++i) {
-    if ((at(i) & 0xC0) != 0x80) return 0;
-  }
-  const bool overlong = (lead == 0xE0 && at(1) < 0xA0) || (lead == 0xF0 && at(1) < 0x90);
-  const bool outside = (lead == 0xED && at(1) > 0x9F) || (lead == 0xF4 && at(1) > 0x8F);
-  return overlong || outside ? 0 : length;
+  const bool ascii = static_cast<unsigned char>(bytes[0]) < 0x80;
+  return ascii ? 1 : text::readSequence(bytes).length;
 }
 
 bool isControl(char byte) {

@@ -4,11 +4,6 @@
 #include "forms/geometry.h"
 
 namespace forms {
-namespace {
-
-constexpr int kPictureTwips = 240;  // 16 pixels at 96 dpi
-
-}  // namespace
 
 Button::Button(Form& form, const std::u16string& caption, const WidgetBox& box)
     : Widget(form, {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0}, box, caption) {

@@ -16,6 +16,9 @@ inline constexpr int kFrameHeight = 405;
 /// Largest size of a window, in twips.
 inline constexpr int kMaxSize = 32767;
 
+/// Width and height of a small picture, on a button or before a node: 16 pixels at 96 dpi.
+inline constexpr int kPictureTwips = 240;
+
 /// Place and size of a widget in its form's client area, in twips.
 struct WidgetBox {
   int left = 0;

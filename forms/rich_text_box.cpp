@@ -129,13 +129,4 @@ LRESULT RichTextBox::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
-RichTextBox::RepaintHeld::RepaintHeld(const RichTextBox& box) : window_(box.handle()) {
-  SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
-}
-
-RichTextBox::RepaintHeld::~RepaintHeld() {
-  SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
-  InvalidateRect(window_, nullptr, TRUE);
-}
-
 }  // namespace forms

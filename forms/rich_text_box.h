@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/repaint_held.h"
 #include "forms/widget.h"
 
 namespace forms {
@@ -29,17 +30,7 @@ class RichTextBox : public Widget {
   /// from now on.
   void setHangingIndent(int twips);
 
-  /// While one lives, the pane does not repaint; then once.
-  class RepaintHeld {
-   public:
-    explicit RepaintHeld(const RichTextBox& box);
-    ~RepaintHeld();
-    RepaintHeld(const RepaintHeld&) = delete;
-    RepaintHeld& operator=(const RepaintHeld&) = delete;
-
-   private:
-    HWND window_;
-  };
+  using RepaintHeld = forms::RepaintHeld;
 
  protected:
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -6,11 +6,6 @@
 #include "forms/geometry.h"
 
 namespace forms {
-namespace {
-
-constexpr int kPictureTwips = 240;  // 16 pixels at 96 dpi
-
-}  // namespace
 
 TreeView::TreeView(Form& form, const WidgetBox& box) : TreeView(form, box, TVS_NOHSCROLL) {}
 
@@ -193,15 +188,6 @@ bool TreeView::clicked() {
   send(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(hit.hItem));
   if (selected() == number) onNodeClick.raise(number);
   return true;
-}
-
-TreeView::RepaintHeld::RepaintHeld(const TreeView& tree) : window_(tree.handle()) {
-  SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
-}
-
-TreeView::RepaintHeld::~RepaintHeld() {
-  SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
-  InvalidateRect(window_, nullptr, TRUE);
 }
 
 }  // namespace forms

@@ -4,6 +4,7 @@
 
 #include "forms/handles.h"
 #include "forms/picture.h"
+#include "forms/repaint_held.h"
 #include "forms/widget.h"
 
 namespace forms {
@@ -49,17 +50,7 @@ class TreeView : public Widget {
   LRESULT notify(const NMHDR& header) override;
   void rescale() override;
 
-  /// While one lives, the control does not repaint; then once.
-  class RepaintHeld {
-   public:
-    explicit RepaintHeld(const TreeView& tree);
-    ~RepaintHeld();
-    RepaintHeld(const RepaintHeld&) = delete;
-    RepaintHeld& operator=(const RepaintHeld&) = delete;
-
-   private:
-    HWND window_;
-  };
+  using RepaintHeld = forms::RepaintHeld;
 
  protected:
   /// `scrolling` is the style that says in which directions the view scrolls.

@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-/// The one place where the program's UTF-16 texts become the Windows API's wide ones.
+/// The system's headers, and how the UTF-16 texts of widgets become its wide ones and back.
 namespace forms {
 
 static_assert(sizeof(wchar_t) == sizeof(char16_t), "wide texts of Windows are UTF-16");

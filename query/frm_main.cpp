@@ -8,6 +8,7 @@
 #include "forms/message_box.h"
 #include "forms/registry.h"
 #include "query/frm_spc.h"
+#include "query/input_font.h"
 #include "query/layout.h"
 #include "query/query_sql.h"
 
@@ -39,7 +40,7 @@ void tellUnexpectedError() {
 }  // namespace
 
 frmMain::frmMain() : Form(design()) {
-  txtInput.setFont({u"宋体", 10.5});
+  txtInput.setFont(query::inputFont());
   cmdOK.setToolTip(u"普通查询");
   Command1.setToolTip(u"高级搜索");
   TreeView1.setPicture(forms::Picture(IDI_DICTIONARY));

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "data/data_control.h"
@@ -39,6 +40,10 @@ class frmMain : public forms::Form {
 
   /// Table of the selected dictionary; "" for none.
   [[nodiscard]] const std::u16string& selectedTable() const { return curTable; }
+  /// Node of the dictionary that was clicked last, from 1; 0 before the first click.
+  [[nodiscard]] std::int16_t lastClicked() const { return curIndex; }
+  /// Column in which the last search by beginning or by part looked; "" before the first.
+  [[nodiscard]] std::u16string_view lastColumn() const { return curField; }
 
  private:
   void Form_Load() override;

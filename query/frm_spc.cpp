@@ -4,6 +4,7 @@
 #include "forms/message_box.h"
 #include "forms/registry.h"
 #include "query/frm_main.h"
+#include "query/input_font.h"
 #include "text/trim.h"
 
 namespace {
@@ -22,8 +23,8 @@ forms::FormDesign design() {
 }  // namespace
 
 frmSpc::frmSpc() : Form(design()) {
-  txtE.setFont({u"宋体", 10.5});
-  txtC.setFont({u"宋体", 10.5});
+  txtE.setFont(query::inputFont());
+  txtC.setFont(query::inputFont());
   cmdOK.onClick = [this] { cmdOK_Click(); };
   cmdCancel.onClick = [this] { cmdCancel_Click(); };
   onEnter = [this] { cmdOK_Click(); };

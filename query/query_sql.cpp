@@ -1,19 +1,11 @@
 #include "query/query_sql.h"
 
-#include <initializer_list>
-
+#include "data/joined.h"
 #include "text/query_text.h"
 
 namespace query {
-namespace {
 
-std::u16string joined(std::initializer_list<std::u16string_view> parts) {
-  std::u16string whole;
-  for (const std::u16string_view part : parts) whole.append(part);
-  return whole;
-}
-
-}  // namespace
+using data::joined;
 
 Search makeQuerySql(std::u16string& text, std::u16string_view mode, std::u16string_view table) {
   text = user::convertWildcard(text);

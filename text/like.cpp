@@ -1,3 +1,4 @@
+#include "text/ascii.h"
 #include "text/effort.h"
 #include "text/order.h"
 #include "text/units.h"
@@ -7,9 +8,6 @@ namespace {
 
 constexpr char16_t kAnyRun = u'%';
 constexpr char16_t kAnyUnit = u'_';
-
-/// The bit in which the two cases of an ASCII or Latin-1 letter differ.
-constexpr unsigned kCaseBit = 0x20;
 
 /// A pattern tried on a text from left to right. Where they part, only the last "%" takes more of
 /// the text: whatever an earlier one might take, the last can take as well.

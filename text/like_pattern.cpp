@@ -8,15 +8,12 @@
 #include <utility>
 #include <vector>
 
+#include "text/ascii.h"
 #include "text/order.h"
 #include "text/units.h"
 
 namespace text {
 namespace {
-
-/// The bit in which the two cases of an ASCII or Latin-1 letter differ, in its last byte of UTF-8
-/// too.
-constexpr char kCaseBit = 0x20;
 
 /// Bytes that a dictionary is full of, the most frequent first: the lead bytes of common Han
 /// characters, blanks, letters. Any other byte is rarer.

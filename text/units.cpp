@@ -3,12 +3,6 @@
 namespace text {
 namespace {
 
-/// A character and the number of its bytes; no bytes where they are no valid sequence.
-struct Character {
-  char32_t value = 0;
-  std::size_t length = 0;
-};
-
 /// `value` if it is one that a sequence of `length` bytes may stand for.
 Character checked(char32_t value, std::size_t length, char32_t smallest) {
   const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
@@ -18,7 +12,8 @@ Character checked(char32_t value, std::size_t length, char32_t smallest) {
   return {value, length};
 }
 
-/// Decodes the sequence of two to four bytes that `bytes` starts with.
+}  // namespace
+
 Character readSequence(std::string_view bytes) {
   const auto byte = [&](std::size_t i) { return char32_t{static_cast<unsigned char>(bytes[i])}; };
   const auto continues = [&](std::size_t i) {
@@ -43,8 +38,6 @@ Character readSequence(std::string_view bytes) {
   }
   return checked((lead & 0x07) << 18 | bits(1) << 12 | bits(2) << 6 | bits(3), 4, 0x10000);
 }
-
-}  // namespace
 
 Unit Utf8Units::decode(std::size_t position) const {
   const Character here = readSequence(text_.substr(position));

@@ -14,6 +14,15 @@ struct Unit {
   std::size_t length;
 };
 
+/// A character and the number of its bytes; no bytes where they are no valid sequence.
+struct Character {
+  char32_t value = 0;
+  std::size_t length = 0;
+};
+
+/// Decodes the UTF-8 sequence of two to four bytes that `bytes`, which is not empty, begins with.
+Character readSequence(std::string_view bytes);
+
 /// Reads the UTF-16 code units of a UTF-8 text where they stand. A byte that belongs to no valid
 /// sequence (stray, overlong, cut off, a surrogate's or beyond U+10FFFF) reads as U+FFFD. The
 /// second unit of a pair stands behind the first byte of the pair's four.

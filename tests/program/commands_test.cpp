@@ -1,7 +1,10 @@
 // Every command of the toolbar's menu, and ending the program.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <utility>
+#include <vector>
 
 #include "tests/program/harness/button.h"
 #include "tests/program/harness/dictionary_windows.h"
@@ -9,6 +12,7 @@
 #include "tests/program/harness/message_box.h"
 #include "tests/program/harness/popup_menu.h"
 #include "tests/program/harness/screen.h"
+#include "tests/program/harness/settings.h"
 
 namespace harness {
 namespace {
@@ -67,6 +71,79 @@ TEST_F(Commands, TheMenusHelpStartsTheBrowserWithThePageThatIsThere) {
   HWND browser = waitForWindow({.className = L"IEFrame", .title = {}});
   PostMessageW(browser, WM_CLOSE, 0, 0);
   waitUntilGone(browser);
+}
+
+/// How the menu looks, row by row, when it is dropped down.
+std::vector<COLORREF> lookOf(const Lexilo& lexilo, SIZE& size) {
+  const RECT rect = rectOf(lexilo.dropMenu());
+  size = sizeOf(rect);
+  std::vector<COLORREF> last;
+  waitFor("the menu to be painted",
+          [&] { return std::exchange(last, screenPixels(rect)) == last && !last.empty(); });
+  popup_menu::dismiss(lexilo.process());
+  return last;
+}
+
+/// The smallest rectangle that holds all differences of two pictures.
+RECT differenceOf(const std::vector<COLORREF>& one, const std::vector<COLORREF>& other,
+                  LONG width) {
+  RECT difference{};
+  for (std::size_t i = 0; i < std::min(one.size(), other.size()); ++i) {
+    if (one[i] == other[i]) continue;
+    const LONG x = static_cast<LONG>(i) % width;
+    const LONG y = static_cast<LONG>(i) / width;
+    const RECT pixel{x, y, x + 1, y + 1};
+    UnionRect(&difference, &difference, &pixel);
+  }
+  return difference;
+}
+
+TEST_F(Commands, TheMenuShowsByItsCheckMarkWhetherCaptureIsOn) {
+  SIZE size{};
+  const std::vector<COLORREF> on = lookOf(lexilo, size);
+  lexilo.click(ToolbarButton::capture);
+  const std::vector<COLORREF> off = lookOf(lexilo, size);
+  ASSERT_EQ(on.size(), off.size());
+  const RECT mark = differenceOf(on, off, size.cx);
+  ASSERT_FALSE(IsRectEmpty(&mark));
+  // At the left end of the third of eight items and three separators.
+  EXPECT_LT(mark.right, size.cx / 3);
+  EXPECT_GT(mark.top, size.cy / 6);
+  EXPECT_LT(mark.bottom, size.cy * 2 / 5);
+  lexilo.click(ToolbarButton::capture);
+  EXPECT_EQ(lookOf(lexilo, size), on);
+  lexilo.choose(MenuItem::capture);
+  waitFor("the menu to close", [&] { return !popup_menu::isOpen(lexilo.process()); });
+  EXPECT_EQ(lookOf(lexilo, size), off);
+}
+
+/// The sizes that are kept, put there by the test and taken away again.
+class KeptSizes {
+ public:
+  KeptSizes() {
+    settings::clear();
+    settings::write(L"WindowWidth", L"5000");
+    settings::write(L"WindowHeight", L"4000");
+    settings::write(L"TreeWidth", L"2000");
+  }
+  KeptSizes(const KeptSizes&) = delete;
+  KeptSizes& operator=(const KeptSizes&) = delete;
+  ~KeptSizes() { settings::clear(); }
+
+  [[nodiscard]] bool unchanged() const {
+    return settings::read(L"WindowWidth") == L"5000" &&
+           settings::read(L"WindowHeight") == L"4000" && settings::read(L"TreeWidth") == L"2000";
+  }
+};
+
+// The quick lookup window keeps its sizes when it is unloaded.
+TEST_F(Commands, ExitUnloadsNoWindow) {
+  const KeptSizes kept;
+  const QuickLookup window = lexilo.openQuickLookup();
+  const RECT before = rectOf(window.window());
+  placeWindow(window.window(), {before.left, before.top, before.right + 150, before.bottom + 90});
+  EXPECT_EQ(lexilo.exit(), 0U);
+  EXPECT_TRUE(kept.unchanged());
 }
 
 TEST_F(Commands, ExitEndsItAtOnceWithEveryWindowOpen) {

@@ -6,6 +6,8 @@
 #include <stdexcept>
 
 #include "tests/unit/support/sample_database.h"
+#include "tests/unit/support/statement_watch.h"
+#include "text/query_text.h"
 
 namespace {
 
@@ -136,6 +138,28 @@ TEST_F(ChineseBoundsTest, SearchWithWildcardsAtBothEnds) {
   makeIndex("('0',1),('发0',2),('发现',3),('发做做',4),('发做做做',5),('在',6)");
   EXPECT_EQ(boundsOf(u"发%"), (Bounds{0, 500}));
   EXPECT_EQ(boundsOf(u"发_"), (Bounds{0, 500}));
+}
+
+TEST_F(ChineseBoundsTest, EndAtTheLastRowThatThereMayBe) {
+  makeIndex("('发',10598)");
+  EXPECT_EQ(boundsOf(u"做"), (Bounds{1'059'600, 1'060'000}));
+}
+
+TEST_F(ChineseBoundsTest, AreFoundTwiceForAList) {
+  constexpr std::string_view kIndexQuery = "from [cdictidx] where";
+  support::StatementWatch watch;
+  makeIndex("('发',7),('在',9)");
+  boundsOf(u"数");
+  static_cast<void>(watch.take(kIndexQuery));
+  boundsOf(u"数");
+  const auto once = watch.take(kIndexQuery);
+  EXPECT_GE(once, 2);
+  const Bounds bounds = lookup_.bounds();
+  lookup_.makeStrSql(user::kChinese, u"数", control_);
+  EXPECT_EQ(watch.take(kIndexQuery), 2 * once);
+  EXPECT_EQ(lookup_.bounds(), bounds);
+  // What the watch was put on goes before it.
+  control_ = DataControl();
 }
 
 TEST_F(ChineseBoundsTest, AreReplacedByEveryLookup) {

@@ -22,9 +22,15 @@ struct Closing {
 
 std::ostream& operator<<(std::ostream& out, const Closing& closing) { return out << closing.name; }
 
-void closeBox(forms::Form& form) { SendMessageW(form.handle(), WM_SYSCOMMAND, SC_CLOSE, 0); }
+template <class F>
+void closeBox() {
+  SendMessageW(forms::single<F>().handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
+}
 
-void press(const forms::Button& button) { SendMessageW(button.handle(), BM_CLICK, 0, 0); }
+template <class F>
+void pressAltF4() {
+  PostMessageW(forms::single<F>().handle(), WM_SYSKEYDOWN, VK_F4, 1 << 29);
+}
 
 template <class F>
 forms::Form& shown() {
@@ -33,49 +39,58 @@ forms::Form& shown() {
   return form;
 }
 
-forms::Form& special() {
-  press(forms::single<frmMain>().cmdSpc);
-  return forms::single<frmSpc>();
-}
-
-void search(const char16_t* english, const char16_t* chinese) {
-  auto& dialog = forms::single<frmSpc>();
-  dialog.txtE.setText(english);
-  dialog.txtC.setText(chinese);
-  press(dialog.cmdOK);
-}
-
-std::vector<Closing> closings() {
-  const auto escape = [] { input::key(VK_ESCAPE); };
-  return {
-      {"AboutByItsButton", shown<frmAbout>, [] { press(forms::single<frmAbout>().cmdOK); },
-       forms::isLoaded<frmAbout>},
-      {"AboutByEsc", shown<frmAbout>, escape, forms::isLoaded<frmAbout>},
-      {"AboutByItsCloseBox", shown<frmAbout>, [] { closeBox(forms::single<frmAbout>()); },
-       forms::isLoaded<frmAbout>},
-      {"SettingsByTheirCloseBox", shown<frmdictSetting>,
-       [] { closeBox(forms::single<frmdictSetting>()); }, forms::isLoaded<frmdictSetting>},
-      {"SettingsByAltF4", shown<frmdictSetting>,
-       [] {
-         PostMessageW(forms::single<frmdictSetting>().handle(), WM_SYSKEYDOWN, VK_F4, 1 << 29);
-       },
-       forms::isLoaded<frmdictSetting>},
-      {"SpecialWithHits", special, [] { search(u"heart", u"心"); }, forms::isLoaded<frmSpc>},
-      {"SpecialWithoutHits", special, [] { search(u"heart", u"肝"); }, forms::isLoaded<frmSpc>},
-      {"SpecialByCancel", special, [] { press(forms::single<frmSpc>().cmdCancel); },
-       forms::isLoaded<frmSpc>},
-      {"SpecialByEsc", special, escape, forms::isLoaded<frmSpc>},
-      {"SpecialByItsCloseBox", special, [] { closeBox(forms::single<frmSpc>()); },
-       forms::isLoaded<frmSpc>},
-  };
-}
-
 /// Where the focus is before the dialog opens, and goes back to.
 enum class Back { inputBox, tree, quickLookupBox };
 
 class DialogCapture : public QueryTest,
                       public ::testing::WithParamInterface<std::tuple<Closing, Back>> {
+ public:
+  static std::vector<Closing> closings() {
+    const auto escape = [] { input::key(VK_ESCAPE); };
+    const auto enter = [] { input::key(VK_RETURN); };
+    const auto about = forms::isLoaded<frmAbout>;
+    const auto settings = forms::isLoaded<frmdictSetting>;
+    const auto special = forms::isLoaded<frmSpc>;
+    return {
+        {"AboutByItsButton", shown<frmAbout>, [] { press(forms::single<frmAbout>().cmdOK); },
+         about},
+        {"AboutByEnter", shown<frmAbout>, enter, about},
+        {"AboutByEsc", shown<frmAbout>, escape, about},
+        {"AboutByItsCloseBox", shown<frmAbout>, closeBox<frmAbout>, about},
+        {"AboutByAltF4", shown<frmAbout>, pressAltF4<frmAbout>, about},
+        {"SettingsByEsc", shown<frmdictSetting>, escape, settings},
+        {"SettingsByTheirCloseBox", shown<frmdictSetting>, closeBox<frmdictSetting>, settings},
+        {"SettingsByAltF4", shown<frmdictSetting>, pressAltF4<frmdictSetting>, settings},
+        {"SpecialWithHits", shownSpecial, [] { search(u"心"); }, special},
+        {"SpecialWithoutHits", shownSpecial, [] { search(u"肝"); }, special},
+        {"SpecialByEnter", shownSpecial,
+         [] {
+           fill(u"心");
+           input::key(VK_RETURN);
+         },
+         special},
+        {"SpecialByCancel", shownSpecial, [] { press(forms::single<frmSpc>().cmdCancel); },
+         special},
+        {"SpecialByEsc", shownSpecial, escape, special},
+        {"SpecialByItsCloseBox", shownSpecial, closeBox<frmSpc>, special},
+        {"SpecialByAltF4", shownSpecial, pressAltF4<frmSpc>, special},
+    };
+  }
+
  protected:
+  static forms::Form& shownSpecial() {
+    press(form().cmdSpc);
+    return forms::single<frmSpc>();
+  }
+  static void fill(const char16_t* chinese) {
+    forms::single<frmSpc>().txtE.setText(u"heart");
+    forms::single<frmSpc>().txtC.setText(chinese);
+  }
+  static void search(const char16_t* chinese) {
+    fill(chinese);
+    press(forms::single<frmSpc>().cmdOK);
+  }
+
   /// The window of ours that comes to the front and stays there: the window manager may show
   /// another one for a moment.
   static const forms::Form& lastingFront() {
@@ -132,7 +147,7 @@ std::string nameOf(const ::testing::TestParamInfo<DialogCapture::ParamType>& inf
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryWay, DialogCapture,
-                         ::testing::Combine(::testing::ValuesIn(closings()),
+                         ::testing::Combine(::testing::ValuesIn(DialogCapture::closings()),
                                             ::testing::Values(Back::inputBox, Back::tree,
                                                               Back::quickLookupBox)),
                          nameOf);

@@ -31,6 +31,19 @@ TEST_F(FrmAbout, SaysWhatTheProgramIsAndWhereItsDataComesFrom) {
   EXPECT_FALSE(textOf(about().Label6).empty());
 }
 
+TEST_F(FrmAbout, TwoLinesPartItsTexts) {
+  opened<frmAbout>();
+  const auto parts = [](const forms::Widget& above, const forms::Widget& line,
+                        const forms::Widget& below) {
+    const RECT rect = rectOf(line.handle());
+    return IsWindowVisible(line.handle()) != FALSE && rect.top < rect.bottom &&
+           rectOf(above.handle()).bottom <= rect.top && rect.bottom <= rectOf(below.handle()).top &&
+           rect.right - rect.left >= rectOf(below.handle()).right - rectOf(below.handle()).left;
+  };
+  EXPECT_TRUE(parts(about().lblVersion, about().Line1, about().lblDescription));
+  EXPECT_TRUE(parts(about().Label5, about().Line2, about().lblDisclaimer));
+}
+
 TEST_F(FrmAbout, EveryTextFits) {
   opened<frmAbout>();
   for (const forms::Widget* label : std::initializer_list<const forms::Widget*>{

@@ -66,6 +66,31 @@ TEST_F(FrmHostileTexts, InTheChineseBoxOfTheSpecialSearch) {
   expectIntact();
 }
 
+TEST_F(FrmHostileTexts, CostlyOnesInTheEnglishBoxOfTheSpecialSearch) {
+  typeEach(support::costlyTexts(), [](const std::u16string& text) { special(text, u"心"); });
+  expectIntact();
+}
+
+TEST_F(FrmHostileTexts, CostlyOnesInTheChineseBoxOfTheSpecialSearch) {
+  typeEach(support::costlyTexts(), [](const std::u16string& text) { special(u"e", text); });
+  expectIntact();
+}
+
+// Once into an empty list, once over the lines that are there.
+TEST_F(FrmHostileTexts, TheLongestLinesThatThereCanBe) {
+  constexpr std::size_t kLong = 29'000;
+  const std::u16string text =
+      u"zzz' union all select '" + std::u16string(kLong, u'x') + u"'||word,meaning from comp --";
+  typeEach({text, text}, [&](const std::u16string& typed) {
+    special(typed, u"心");
+    UpdateWindow(form().TreeView2.handle());
+    ASSERT_EQ(form().TreeView2.count(), 200U);
+    EXPECT_GT(form().TreeView2.text(200).size(), kLong);
+  });
+  EXPECT_EQ(boxes.count(), 0U);
+  expectIntact();
+}
+
 TEST_F(FrmHostileTexts, ASearchWithoutEndEndsInOneBox) {
   typeEach({support::endlessTexts().front()},
            [](const std::u16string& text) { special(text, u"心"); });

@@ -16,8 +16,10 @@ class FrmMainChoosing : public QueryTest {
 
 TEST_F(FrmMainChoosing, AClickChoosesTheDictionary) {
   open();
+  EXPECT_EQ(form().lastClicked(), 0);
   input::click(nodePoint(form().TreeView1, 1));
   EXPECT_TRUE(chosen(u"chem"));
+  EXPECT_EQ(form().lastClicked(), 1);
   EXPECT_EQ(form().TreeView1.selected(), 1U);
   easy(u"heat");
   EXPECT_EQ(lines().size(), 2U);
@@ -34,6 +36,7 @@ TEST_F(FrmMainChoosing, ANodeThatIsNotSelectedChangesNothing) {
   open();
   form().TreeView1.onNodeClick.raise(1);
   EXPECT_EQ(form().selectedTable(), u"med");
+  EXPECT_EQ(form().lastClicked(), 0);
 }
 
 TEST_F(FrmMainChoosing, MovingTheHighlightChoosesToo) {
@@ -46,6 +49,7 @@ TEST_F(FrmMainChoosing, MovingTheHighlightChoosesToo) {
   EXPECT_TRUE(chosen(u"chem"));
   input::key(VK_END);
   EXPECT_TRUE(chosen(u"med"));
+  EXPECT_EQ(form().lastClicked(), 3);
 }
 
 TEST_F(FrmMainChoosing, EnterSearchesFromTheBoxAndFromBothTrees) {

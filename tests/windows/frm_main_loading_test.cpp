@@ -1,3 +1,5 @@
+#include "forms/window_text.h"
+#include "tests/windows/support/box_looks.h"
 #include "tests/windows/support/query_test.h"
 
 namespace wintest {
@@ -25,6 +27,29 @@ TEST_F(FrmMainLoading, ShowsItsCaptionsAndHints) {
   EXPECT_STREQ(caption, L" 多功能查询 V1.3");
   EXPECT_EQ(window.cmdOK.toolTip(), u"普通查询");
   EXPECT_EQ(window.Command1.toolTip(), u"高级搜索");
+  EXPECT_EQ(forms::windowText(window.cmdOK.handle()), u"确定");
+  EXPECT_EQ(forms::windowText(window.Command1.handle()), u"高级");
+  EXPECT_EQ(forms::windowText(window.cmdSpc.handle()), u"特殊");
+}
+
+TEST_F(FrmMainLoading, ItsBoxAndItsDictionariesHaveTheirHeadings) {
+  frmMain& window = open();
+  EXPECT_EQ(forms::windowText(window.Label2.handle()), u"输入：");
+  EXPECT_TRUE(standsBeside(window.Label2, window.txtInput));
+  EXPECT_EQ(forms::windowText(window.Label5.handle()), u"请选择字典：");
+  EXPECT_TRUE(IsWindowVisible(window.Label5.handle()));
+  const RECT heading = rectOf(window.Label5.handle());
+  const RECT dictionaries = rectOf(window.TreeView1.handle());
+  EXPECT_LE(heading.bottom, dictionaries.top);
+  EXPECT_GE(heading.left, dictionaries.left);
+  EXPECT_LT(heading.left, dictionaries.right);
+  EXPECT_GE(heading.top, rectOf(window.txtInput.handle()).bottom);
+}
+
+TEST_F(FrmMainLoading, ItsBoxHasItsFont) {
+  const LOGFONTW font = fontOf(open().txtInput);
+  EXPECT_STREQ(font.lfFaceName, L"宋体");
+  EXPECT_EQ(font.lfHeight, -MulDiv(21, form().dpi(), 144));
 }
 
 TEST_F(FrmMainLoading, TellsThatItIsOpen) {

@@ -42,6 +42,18 @@ TEST_F(FrmMainSearching, AChineseTextSearchesTheMeaningsAndStandsFirst) {
   EXPECT_EQ(lines(), (Texts{u"心上人          sweetheart"}));
 }
 
+TEST_F(FrmMainSearching, KnowsInWhichColumnItLookedLast) {
+  EXPECT_EQ(form().lastColumn(), u"");
+  easy(u"心");
+  EXPECT_EQ(form().lastColumn(), u"meaning");
+  complex(u"heart");
+  EXPECT_EQ(form().lastColumn(), u"word");
+  complex(u"上");
+  EXPECT_EQ(form().lastColumn(), u"meaning");
+  easy(u"heart");
+  EXPECT_EQ(form().lastColumn(), u"word");
+}
+
 TEST_F(FrmMainSearching, TakesTheUsersWildcards) {
   easy(u"h*t b?a");
   EXPECT_EQ(lines(), (Texts{u"heart beat          心搏"}));

@@ -1,5 +1,7 @@
 #include "query/frm_spc.h"
 
+#include "forms/window_text.h"
+#include "tests/windows/support/box_looks.h"
 #include "tests/windows/support/query_test.h"
 
 namespace wintest {
@@ -40,6 +42,22 @@ TEST_F(FrmSpc, OpensAboveItsOwnerWhichStaysUsable) {
   EXPECT_TRUE(isAbove(dialog().handle(), form().handle()));
   easy(u"liver");
   EXPECT_EQ(lines().size(), 1U);
+}
+
+TEST_F(FrmSpc, BothBoxesHaveTheirNamesAndTheirFont) {
+  openBoth();
+  EXPECT_EQ(forms::windowText(dialog().Label1.handle()), u"英文");
+  EXPECT_TRUE(standsBeside(dialog().Label1, dialog().txtE));
+  EXPECT_EQ(forms::windowText(dialog().Label2.handle()), u"中文");
+  EXPECT_TRUE(standsBeside(dialog().Label2, dialog().txtC));
+  for (const forms::Widget* box :
+       std::initializer_list<const forms::Widget*>{&dialog().txtE, &dialog().txtC}) {
+    const LOGFONTW font = fontOf(*box);
+    EXPECT_STREQ(font.lfFaceName, L"宋体");
+    EXPECT_EQ(font.lfHeight, -MulDiv(21, dialog().dpi(), 144));
+  }
+  EXPECT_EQ(forms::windowText(dialog().cmdOK.handle()), u"确定");
+  EXPECT_EQ(forms::windowText(dialog().cmdCancel.handle()), u"取消");
 }
 
 TEST_F(FrmSpc, SearchesForBothTextsAndCloses) {

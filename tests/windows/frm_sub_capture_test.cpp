@@ -53,6 +53,29 @@ TEST_F(FrmSubCapture, RunsOnceTheWindowIsClosed) {
   EXPECT_TRUE(captureRuns());
 }
 
+TEST_F(FrmSubCapture, RunsAtOnceWhenTheWindowIsClosedWithTheFocusInTheBox) {
+  open();
+  ASSERT_TRUE(rests());
+  sub().unload();
+  EXPECT_TRUE(captureRuns());
+}
+
+TEST_F(FrmSubCapture, RunsOnceTheCloseBoxHasClosedTheWindow) {
+  open();
+  ASSERT_TRUE(rests());
+  PostMessageW(sub().handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
+  ASSERT_TRUE(eventually([] { return !forms::isLoaded<frmSub>(); }));
+  EXPECT_TRUE(captureRuns());
+}
+
+TEST_F(FrmSubCapture, RunsOnceAltF4HasClosedTheWindow) {
+  open();
+  ASSERT_TRUE(rests());
+  input::key(VK_F4, {VK_MENU});
+  ASSERT_TRUE(eventually([] { return !forms::isLoaded<frmSub>(); }));
+  EXPECT_TRUE(captureRuns());
+}
+
 TEST_F(FrmSubCapture, AMessageBoxDoesNotWakeIt) {
   frmSub& form = open();
   ASSERT_TRUE(rests());

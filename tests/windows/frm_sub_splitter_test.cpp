@@ -6,8 +6,8 @@ namespace {
 
 class FrmSubSplitter : public FrmSubTest {
  protected:
-  /// Opens the window at a size, with a list of a given width.
-  static void openAt(int width, int height, const wchar_t* listWidth) {
+  /// Stores the sizes that the window is to open with.
+  static void prepareSizes(int width, int height, const wchar_t* listWidth) {
     harness::settings::write(L"WindowWidth", std::to_wstring(width));
     harness::settings::write(L"WindowHeight", std::to_wstring(height));
     harness::settings::write(L"TreeWidth", listWidth);
@@ -40,49 +40,49 @@ class FrmSubSplitter : public FrmSubTest {
 };
 
 TEST_F(FrmSubSplitter, DroppedOnTheListNearItsLeftEdgeLeaves1600) {
-  openAt(5000, 4000, L"2100");
+  prepareSizes(5000, 4000, L"2100");
   open();
   dropAt(inWidget(sub().TreeView1, 900, 1500));
   expectPlaced(1600);
 }
 
 TEST_F(FrmSubSplitter, DroppedOnTheListItTakesOff30Twips) {
-  openAt(5000, 4000, L"2100");
+  prepareSizes(5000, 4000, L"2100");
   open();
   dropAt(inWidget(sub().TreeView1, 1800, 1500));
   expectPlaced(1770);
 }
 
 TEST_F(FrmSubSplitter, JustBehind1600ItComesOutBelow) {
-  openAt(5000, 4000, L"2100");
+  prepareSizes(5000, 4000, L"2100");
   open();
   dropAt(inWidget(sub().TreeView1, 1605, 1500));
   expectPlaced(1575);
 }
 
 TEST_F(FrmSubSplitter, DroppedOnThePaneItWidensTheList) {
-  openAt(9000, 4000, L"1800");
+  prepareSizes(9000, 4000, L"1800");
   open();
   dropAt(inWidget(sub().txtOut, 600, 1500));
   expectPlaced(2400);
 }
 
 TEST_F(FrmSubSplitter, AWindowOf5000StopsAt2150) {
-  openAt(5000, 4000, L"1800");
+  prepareSizes(5000, 4000, L"1800");
   open();
   dropAt(inWidget(sub().txtOut, 1200, 1500));
   expectPlaced(2150);
 }
 
 TEST_F(FrmSubSplitter, AWindowOf9000StopsAt3000) {
-  openAt(9000, 4000, L"1800");
+  prepareSizes(9000, 4000, L"1800");
   open();
   dropAt(inWidget(sub().txtOut, 3000, 1500));
   expectPlaced(3000);
 }
 
 TEST_F(FrmSubSplitter, DroppedElsewhereNothingChanges) {
-  openAt(5000, 4000, L"2100");
+  prepareSizes(5000, 4000, L"2100");
   open();
   dropAt(centreOf(sub().cmdExit));
   expectPlaced(2100);
@@ -93,14 +93,14 @@ TEST_F(FrmSubSplitter, DroppedElsewhereNothingChanges) {
 }
 
 TEST_F(FrmSubSplitter, APressWithoutAMoveChangesNothing) {
-  openAt(5000, 4000, L"2100");
+  prepareSizes(5000, 4000, L"2100");
   open();
   dropAt(centreOf(sub().Image1));
   expectPlaced(2100);
 }
 
 TEST_F(FrmSubSplitter, DropsOfAnythingElseChangeNothing) {
-  openAt(5000, 4000, L"2100");
+  prepareSizes(5000, 4000, L"2100");
   open();
   sub().TreeView1.onDragDrop.raise(sub().txtInput, {1800, 100});
   sub().txtOut.onDragDrop.raise(sub().txtInput, {300, 100});
@@ -108,7 +108,7 @@ TEST_F(FrmSubSplitter, DropsOfAnythingElseChangeNothing) {
 }
 
 TEST_F(FrmSubSplitter, AClickBesideTheDragStillChoosesWords) {
-  openAt(5000, 4000, L"2100");
+  prepareSizes(5000, 4000, L"2100");
   open();
   dropAt(inWidget(sub().TreeView1, 1800, 1500));
   input::click(nodePoint(2));
@@ -116,7 +116,7 @@ TEST_F(FrmSubSplitter, AClickBesideTheDragStillChoosesWords) {
 }
 
 TEST_F(FrmSubSplitter, CanBeTakenHoldOfBesideItsThinLine) {
-  openAt(5000, 4000, L"2100");
+  prepareSizes(5000, 4000, L"2100");
   frmSub& form = open();
   const POINT target = inWidget(form.TreeView1, 1800, 1500);
   for (const int beside : {-2, 3}) {
@@ -139,7 +139,7 @@ TEST_F(FrmSubSplitter, CanBeTakenHoldOfBesideItsThinLine) {
 }
 
 TEST_F(FrmSubSplitter, AnyButtonDragsItAndOpensNoMenu) {
-  openAt(5000, 4000, L"2100");
+  prepareSizes(5000, 4000, L"2100");
   frmSub& form = open();
   input::moveTo(centreOf(form.Image1));
   input::pressRight();
@@ -153,7 +153,7 @@ TEST_F(FrmSubSplitter, AnyButtonDragsItAndOpensNoMenu) {
 }
 
 TEST_F(FrmSubSplitter, TwoDragsInQuickSuccessionBothCount) {
-  openAt(5000, 4000, L"2100");
+  prepareSizes(5000, 4000, L"2100");
   frmSub& form = open();
   dropAt(inWidget(form.txtOut, 15, 1500));
   expectPlaced(2115);
@@ -161,8 +161,24 @@ TEST_F(FrmSubSplitter, TwoDragsInQuickSuccessionBothCount) {
   expectPlaced(2130);
 }
 
+TEST_F(FrmSubSplitter, APressShowsThePointerWithoutAMoveBeforeIt) {
+  prepareSizes(5000, 4000, L"2100");
+  frmSub& form = open();
+  HCURSOR sizing = LoadCursorW(nullptr, IDC_SIZEWE);
+  input::moveTo(centreOf(form.Image1));
+  ASSERT_TRUE(eventually([&] { return GetCursor() == sizing; }));
+  form.setMousePointer(nullptr);
+  ASSERT_NE(GetCursor(), sizing);
+  // Not by the hand, whose presses may come with moves.
+  SendMessageW(form.Image1.handle(), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+  EXPECT_EQ(GetCursor(), sizing);
+  EXPECT_TRUE(form.Image1.isDragged());
+  SendMessageW(form.Image1.handle(), WM_LBUTTONUP, 0, 0);
+  EXPECT_FALSE(form.Image1.isDragged());
+}
+
 TEST_F(FrmSubSplitter, ThePointerShowsWhereItCanBeDragged) {
-  openAt(5000, 4000, L"2100");
+  prepareSizes(5000, 4000, L"2100");
   frmSub& form = open();
   HCURSOR sizing = LoadCursorW(nullptr, IDC_SIZEWE);
   input::moveTo(centreOf(form.Image1));

@@ -40,6 +40,15 @@ TEST_F(FrmTopStart, TheIndexIsThatOfTheDatabase) {
   }
 }
 
+TEST_F(FrmTopStart, BothDataControlsReachTheDatabase) {
+  frmTop& form = top();
+  for (data::DataControl* control : {&form.Adodc1, &form.Adodc2}) {
+    control->setRecordSource(u"select word from edictidx order by word");
+    control->refresh();
+    EXPECT_FALSE(control->recordset().empty());
+  }
+}
+
 TEST_F(FrmTopStart, TheIndexIsInLowerCase) {
   const OtherDictionary other(
       "create table edictidx (word text);"
