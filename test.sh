@@ -47,7 +47,7 @@ wanted fuzz && build fuzz fuzz_targets
 
 run_native_layers() {
   local source name
-  wanted unit && run_gtest unit 300 build/native/bin/unit_tests
+  wanted unit && run_gtest unit 400 build/native/bin/unit_tests
   wanted threads && run_gtest threads 60 build/tsan/bin/thread_tests
   wanted fuzz || return 0
   for source in tests/fuzz/*_fuzz.cpp; do
@@ -76,9 +76,9 @@ else
 fi
 
 wanted wine-unit && run_gtest wine-unit 180 wine build/windows/bin/unit_tests.exe
-wanted windows && run_gtest windows 300 wine build/windows/bin/windows/window_tests.exe
+wanted windows && run_gtest windows 480 wine build/windows/bin/windows/window_tests.exe
 wanted program &&
-  run_gtest program 420 wine build/windows/bin/program_tests.exe '--gtest_filter=-*Dpi144*'
+  run_gtest program 600 wine build/windows/bin/program_tests.exe '--gtest_filter=-*Dpi144*'
 if wanted dpi144; then
   stop_wine
   start_wine "$(fresh_prefix test-144)"
