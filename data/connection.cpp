@@ -13,8 +13,8 @@ namespace data {
 namespace {
 
 /// Ceilings for one statement and one value: well above what the dictionary needs (its longest
-/// meaning has some 200 characters, and the longest text that a box takes 98,301 bytes), well below
-/// what would hurt.
+/// meaning has some 200 characters, and the longest text that can be typed into a box 98,301
+/// bytes), well below what would hurt.
 struct Ceiling {
   int what;
   int limit;

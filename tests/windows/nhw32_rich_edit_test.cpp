@@ -29,6 +29,17 @@ class Nhw32RichEdit : public ::testing::Test {
   std::u16string wordAtPoint(const TextTarget& target, POINT point) {
     return wordAt(questionAt(target.control(), point));
   }
+
+  /// A control of `design` tells a word, and none any more once `armed` has its hook act in the
+  /// middle of the question.
+  void expectNoWordOnceArmed(const TextTarget::Design& design, bool& armed) {
+    const TextTarget target(design, u"words of the past");
+    const nhw32::Question question = questionAbout(target.control(), 14);
+    EXPECT_EQ(wordAt(question), u"past");
+    armed = true;
+    EXPECT_EQ(wordAt(question), u"");
+    EXPECT_FALSE(armed);
+  }
 };
 
 TEST_F(Nhw32RichEdit, TellsTheWordUnderThePoint) {
@@ -118,12 +129,7 @@ TEST_F(Nhw32RichEdit, NothingWhereItShrinksOrGoesInMidQuestion) {
       }
       return std::optional(length);
     };
-    const TextTarget target(design, u"words of the past");
-    const nhw32::Question question = questionAbout(target.control(), 14);
-    EXPECT_EQ(wordAt(question), u"past");
-    armed = true;
-    EXPECT_EQ(wordAt(question), u"");
-    EXPECT_FALSE(armed);
+    expectNoWordOnceArmed(design, armed);
   }
 }
 
@@ -136,12 +142,7 @@ TEST_F(Nhw32RichEdit, NothingWhereItsWindowShrinksInMidQuestion) {
     }
     return std::optional<LRESULT>();
   };
-  const TextTarget target(design, u"words of the past");
-  const nhw32::Question question = questionAbout(target.control(), 14);
-  EXPECT_EQ(wordAt(question), u"past");
-  armed = true;
-  EXPECT_EQ(wordAt(question), u"");
-  EXPECT_FALSE(armed);
+  expectNoWordOnceArmed(design, armed);
 }
 
 TEST_F(Nhw32RichEdit, OneWhoseTextIsBytesTellsItsWordsToo) {
