@@ -84,17 +84,35 @@ TEST_F(FormFocus, AMessageBoxIsNoMoveOfTheFocus) {
 }
 
 TEST_F(FormFocus, WhatMovedWhileABoxWasUpIsToldAfterwards) {
-  auto& form = opened<FormA>();
+  opened<FormA>();
   ASSERT_TRUE(reached(4));
+  auto& other = forms::single<FormB>();
   events().clear();
-  boxes.whileUp([&](HWND) { form.unload(); });
+  bool quiet = false;
+  boxes.whileUp([&](HWND) {
+    other.show();
+    quiet = allAlong([] { return times("A.LostFocus") + times("B.Activate") == 0; }, 60);
+  });
+  forms::showMessage(u"…", forms::MessageIcon::none);
+  EXPECT_EQ(boxes.take().size(), 1U);
+  EXPECT_TRUE(quiet);
+  awaitActive(other);
+  EXPECT_TRUE(
+      eventually([] { return !events().empty() && events().back() == "B.first.GotFocus"; }));
+  EXPECT_GE(times("A.LostFocus"), 1);
+  EXPECT_GE(times("B.Activate"), 1);
+}
+
+TEST_F(FormFocus, AFormThatIsUnloadedWhileABoxIsUpHearsNothingMore) {
+  auto& form = opened<FormA>();
   opened<FormB>();
   events().clear();
+  boxes.whileUp([&](HWND) { form.unload(); });
   forms::showMessage(u"…", forms::MessageIcon::none);
   EXPECT_EQ(boxes.take().size(), 1U);
   passTime(50);
   EXPECT_EQ(times("A.Unload"), 1);
-  EXPECT_EQ(times("B.LostFocus"), 0);
+  EXPECT_EQ(times("A.LostFocus") + times("A.first.LostFocus") + times("A.Activate"), 0);
 }
 
 TEST_F(FormFocus, AClickOnAButtonIsHandledAfterTheEventsOfItsFocus) {

@@ -27,13 +27,18 @@ class FrmMainLayout : public QueryTest {
 };
 
 TEST_F(FrmMainLayout, OpensInItsSizeAndFollowsTheWindow) {
-  frmMain& window = open();
-  EXPECT_EQ(window.width(), query::kOpeningWidth);
-  EXPECT_EQ(window.height(), query::kOpeningHeight);
+  EXPECT_TRUE(untilItLasts(
+      [&] {
+        if (forms::isLoaded<frmMain>()) form().unload();
+        open();
+      },
+      [] {
+        return form().width() == query::kOpeningWidth && form().height() == query::kOpeningHeight;
+      }));
   expectLaidOut();
-  window.setSize(12000, 9000);
+  resize(form(), 12000, 9000);
   expectLaidOut();
-  window.setSize(7000, 4000);
+  resize(form(), 7000, 4000);
   expectLaidOut();
 }
 

@@ -34,8 +34,7 @@ class FrmSubLayout : public FrmSubTest {
 TEST_F(FrmSubLayout, FollowsTheWindow) {
   open();
   for (const auto& [width, height] : {std::pair{6000, 5000}, {3600, 2900}, {9001, 7003}}) {
-    sub().setSize(width, height);
-    forms::doEvents();
+    resize(sub(), width, height);
     expectLaidOut(width, height);
   }
 }
@@ -52,15 +51,18 @@ TEST_F(FrmSubLayout, BelowItsThresholdsItSnaps) {
 
 TEST_F(FrmSubLayout, TheUsersHandSnapsItToo) {
   open();
-  SetWindowPos(sub().handle(), nullptr, 0, 0, 120, 150, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-  forms::doEvents();
+  EXPECT_TRUE(untilItLasts(
+      [] {
+        SetWindowPos(sub().handle(), nullptr, 0, 0, 120, 150,
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+      },
+      [] { return sub().width() == 3500 && sub().height() == 2800; }));
   expectLaidOut(3500, 2800);
 }
 
 TEST_F(FrmSubLayout, ThePaneLiesInsideTheWindow) {
   open();
-  sub().setSize(6000, 5000);
-  forms::doEvents();
+  resize(sub(), 6000, 5000);
   RECT client{};
   GetClientRect(sub().handle(), &client);
   // Its height is made for a frame 5 twips, less than a pixel, lower.
@@ -85,8 +87,7 @@ TEST_F(FrmSubLayout, EveryPaintPutsItOnTopAgainWithoutTakingTheFocus) {
 
 TEST_F(FrmSubLayout, MaximisedItIsLaidOutAndComesBack) {
   open();
-  sub().setSize(6004, 5003);
-  passTime(50);
+  resize(sub(), 6004, 5003);
   ShowWindow(sub().handle(), SW_MAXIMIZE);
   ASSERT_TRUE(eventually([] { return sub().width() > 10'000; }));
   passTime(100);

@@ -34,4 +34,17 @@ inline void passTime(DWORD milliseconds) {
   eventually([] { return false; }, milliseconds);
 }
 
+/// Does `act` until `look` is true and stays so: a window manager may answer a window's earlier
+/// places and sizes late, and that answer is the one that counts then. At most ten times.
+template <class Act, class Look>
+bool untilItLasts(Act act, Look look) {
+  constexpr DWORD kLong = 100;
+  constexpr DWORD kLasting = 30;
+  for (int tries = 0; tries < 10; ++tries) {
+    act();
+    if (eventually(look, kLong) && allAlong(look, kLasting)) return true;
+  }
+  return false;
+}
+
 }  // namespace wintest

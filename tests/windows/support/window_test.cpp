@@ -64,13 +64,26 @@ void WindowTest::TearDown() {
 
 void WindowTest::awaitActive(const forms::Form& form) {
   const auto active = [&] { return GetForegroundWindow() == form.handle(); };
-  ASSERT_TRUE(eventually(active));
-  // The window manager may still be answering an earlier window.
+  // A window manager that still answers an earlier window may bring that one to the front.
+  constexpr DWORD kByItself = 1'000;
   constexpr DWORD kQuiet = 50;
-  for (int tries = 0; tries < 10 && !allAlong(active, kQuiet); ++tries) {
+  eventually(active, kByItself);
+  for (int tries = 0; tries < 20 && !(active() && allAlong(active, kQuiet)); ++tries) {
     SetForegroundWindow(form.handle());
+    eventually(active, kQuiet);
   }
   ASSERT_TRUE(active());
+}
+
+void WindowTest::resize(forms::Form& form, int width, int height) {
+  const auto size = [&] { return std::pair{form.width(), form.height()}; };
+  std::pair<int, int> given;
+  EXPECT_TRUE(untilItLasts(
+      [&] {
+        form.setSize(width, height);
+        given = size();
+      },
+      [&] { return size() == given; }));
 }
 
 }  // namespace wintest

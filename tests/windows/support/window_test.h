@@ -28,8 +28,11 @@ class WindowTest : public ::testing::Test {
     return form;
   }
 
-  /// Waits until `form` has the foreground.
+  /// Waits until `form` has the foreground; brings it there where the window manager does not.
   static void awaitActive(const forms::Form& form);
+
+  /// Gives a form a size, in twips, that it has kept once no window manager answers any more.
+  static void resize(forms::Form& form, int width, int height);
 
   MessageBoxes boxes;
 
