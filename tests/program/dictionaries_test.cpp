@@ -11,6 +11,7 @@
 #include "tests/program/harness/message_box.h"
 #include "tests/program/harness/screen.h"
 #include "tests/program/harness/text.h"
+#include "tests/program/harness/text_box.h"
 #include "tests/unit/support/sample_database.h"
 
 namespace harness {
@@ -98,9 +99,8 @@ TEST_F(Dictionaries, AreChosenByTheMouse) {
 
 TEST_F(Dictionaries, AreChosenByTheKeys) {
   const MultiQuery window(lexilo);
-  input::click(centreOf(treeNodeRect(window.dictionaries(), 0).value()));
   const auto names = window.names();
-  waitFor("the first", [&] { return window.chosen() == names.at(0); });
+  window.choose(names.at(0));
   for (int i = 0; i < 3; ++i) input::key(VK_DOWN);
   waitFor("the fourth", [&] { return window.chosen() == names.at(3); });
   const std::wstring fourth = names.at(3);

@@ -13,6 +13,7 @@
 #include "tests/program/harness/notepad.h"
 #include "tests/program/harness/screen.h"
 #include "tests/program/harness/settings.h"
+#include "tests/program/harness/text_box.h"
 
 namespace harness {
 namespace {
@@ -34,8 +35,14 @@ TEST_F(Harness, SelectsWithTheMouseAndCopiesWithKeys) {
   waitFor("the typed text", [&] { return notepad.text() == L"bandwidth"; });
   HWND edit = onlyChild(notepad.window(), L"Edit");
   const RECT rect = clientRectOf(edit);
-  input::doubleClick({rect.left + 20, rect.top + 8});
-  waitFor("a word to be selected", [&] { return selectionOf(edit) == Selection{0, 9}; });
+  actUntil(
+      "a word to be selected",
+      [&] {
+        input::doubleClick({rect.left + 20, rect.top + 8});
+      },
+      [&] {
+        return selectionOf(edit) == Selection{0, 9};
+      });
   input::key('C', {VK_CONTROL});
   waitFor("the copied text", [] { return clipboardText() == L"bandwidth"; });
 }
@@ -46,9 +53,10 @@ TEST_F(Harness, SeesWhichNodesATreeShows) {
   HWND tree = waitForChild(window, L"SysTreeView32");
   EXPECT_EQ(treeTexts(tree).size(), 1U);
   EXPECT_FALSE(treeTexts(tree).front().empty());
-  const auto node = waitFor("the node's place", [&] { return treeNodeRect(tree, 0); });
-  input::click(centreOf(*node));
-  waitFor("the node to be selected", [&] { return treeSelection(tree) == 0; });
+  waitFor("the node's place", [&] { return treeNodeRect(tree, 0); });
+  actUntil(
+      "the node to be selected", [&] { input::click(centreOf(treeNodeRect(tree, 0).value())); },
+      [&] { return treeSelection(tree) == 0; });
   EXPECT_EQ(treeNodeRect(tree, 1), std::nullopt);
 }
 
@@ -56,9 +64,7 @@ TEST_F(Harness, ReadsColoursAndPlacesInARichTextBox) {
   const Process wordpad(L"C:\\Program Files\\Windows NT\\Accessories\\wordpad.exe");
   HWND window = waitForWindow({.process = wordpad.id(), .className = {}, .title = {}});
   HWND pane = waitForChild(window, L"RichEdit20W");
-  input::click(centreOf(clientRectOf(pane)));
-  waitFor("the keyboard",
-          [&] { return GetForegroundWindow() == window && focusIn(window) == pane; });
+  takeKeyboard(pane);
   input::type(L"ab");
   waitFor("the typed text", [&] { return textOf(pane) == L"ab"; });
   EXPECT_EQ(richTextColours(pane).size(), 2U);

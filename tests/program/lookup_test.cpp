@@ -9,6 +9,7 @@
 #include "tests/program/harness/notepad.h"
 #include "tests/program/harness/popup_menu.h"
 #include "tests/program/harness/screen.h"
+#include "tests/program/harness/text_box.h"
 
 namespace harness {
 namespace {
@@ -58,7 +59,7 @@ bool beginsWith(const std::wstring& word, const std::wstring& text) {
 
 TEST_F(Lookup, EveryLetterTypedMovesTheList) {
   std::wstring typed;
-  input::click(centreOf(clientRectOf(window.input())));
+  takeKeyboard(window.input());
   for (const wchar_t letter : std::wstring(L"computer")) {
     input::type({&letter, 1});
     typed += letter;
@@ -143,7 +144,7 @@ TEST_F(Lookup, AnApostropheIsLookedUpAndShownDoubled) {
 TEST_F(Lookup, ATextThatStartsWithAWildcardIsRefused) {
   window.lookUp(L"data");
   for (const wchar_t* refused : {L"?", L"*", L"_", L"%"}) {
-    input::click(centreOf(clientRectOf(window.input())));
+    takeKeyboard(window.input());
     input::key(VK_HOME);
     input::type(refused);
     waitFor("an empty box", [&] { return window.typed().empty(); });
@@ -164,8 +165,14 @@ TEST_F(Lookup, ATextBehindTheLastWordLeavesTheListAsItWas) {
 void sweep(HWND pane, LONG first, LONG end) {
   const POINT from = richTextPosition(pane, first);
   const POINT to = richTextPosition(pane, end);
-  input::drag({from.x + 1, from.y + 6}, {to.x + 1, to.y + 6});
-  waitFor("the selection", [&] { return selectionOf(pane) == Selection{first, end}; });
+  actUntil(
+      "the selection",
+      [&] {
+        input::drag({from.x + 1, from.y + 6}, {to.x + 1, to.y + 6});
+      },
+      [&] {
+        return selectionOf(pane) == Selection{first, end};
+      });
 }
 
 TEST_F(Lookup, ASelectionIsLookedUpThroughThePanesMenu) {

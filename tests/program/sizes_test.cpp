@@ -50,13 +50,26 @@ class SizesKept : public ::testing::Test {
 };
 
 /// Drags the window's lower right corner by the window manager's frame, below and beside the client
-/// area, until that has `width` x `height` pixels.
-void dragCorner(const QuickLookup& window, int width, int height) {
-  const RECT client = clientRectOf(window.window());
+/// area, to where that would have `pixels`, and waits until the window has these sizes.
+void dragCorner(const QuickLookup& window, SIZE pixels, const Sizes& sizes) {
   const auto place = [](LONG x, LONG y) { return std::to_string(x) + " " + std::to_string(y); };
-  runBelow("xdotool mousemove " + place(client.right - 2, client.bottom + 2) +
-           " mousedown 1 sleep 0.1 mousemove_relative -- 5 5 sleep 0.1 mousemove " +
-           place(client.left + width - 2, client.top + height + 2) + " sleep 0.2 mouseup 1");
+  const auto drag = [&] {
+    const RECT client = clientRectOf(window.window());
+    runBelow("xdotool mousemove " + place(client.right - 2, client.bottom + 2) +
+             " mousedown 1 sleep 0.1 mousemove_relative -- 5 5 sleep 0.1 mousemove " +
+             place(client.left + pixels.cx - 2, client.top + pixels.cy + 2) +
+             " sleep 0.2 mouseup 1");
+  };
+  actUntil("the new size", drag, [&] { return alike(sizesOf(window), sizes); });
+}
+
+/// Drags the splitter to a place on the screen's width until the window has these sizes.
+void dragSplitter(const QuickLookup& window, LONG target, const Sizes& sizes) {
+  const auto drag = [&] {
+    const POINT handle = centreOf(window.splitter());
+    input::drag(handle, {target, handle.y});
+  };
+  actUntil("the list to be as wide", drag, [&] { return alike(sizesOf(window), sizes); });
 }
 
 TEST_F(SizesKept, WithoutSettingsItHasItsDesignSize) {
@@ -74,11 +87,8 @@ TEST_F(SizesKept, OverClosingReopeningAndRestarting) {
     const Lexilo lexilo(folder);
     lexilo.waitUntilSeen();
     const QuickLookup window = lexilo.openQuickLookupAtA();
-    dragCorner(window, 500, 400);
-    waitFor("the new size", [&] { return alike(sizesOf(window), {7620, 6405, 2000}); });
-    const POINT handle = centreOf(window.splitter());
-    input::drag(handle, {handle.x + 40, handle.y});
-    waitFor("a wider list", [&] { return sizesOf(window).list > 2500; });
+    dragCorner(window, {500, 400}, {7620, 6405, 2000});
+    dragSplitter(window, centreOf(window.splitter()).x + 40, {7620, 6405, 2600});
     chosen = sizesOf(window);
     window.close();
     EXPECT_TRUE(alike(savedSizes(), chosen)) << ::testing::PrintToString(savedSizes());
@@ -135,19 +145,15 @@ TEST_F(SizesKept, AWindowMadeTooSmallSnapsToItsLeastSize) {
   const Lexilo lexilo(AppFolder::withFullDictionary());
   lexilo.waitUntilSeen();
   const QuickLookup window = lexilo.openQuickLookupAtA();
-  dragCorner(window, 420, 330);
-  waitFor("the larger size", [&] { return alike(sizesOf(window), {6420, 5355, 2000}); });
-  dragCorner(window, 190, 130);
-  waitFor("the least size", [&] { return alike(sizesOf(window), {3500, 2800, 2000}); });
+  dragCorner(window, {420, 330}, {6420, 5355, 2000});
+  dragCorner(window, {190, 130}, {3500, 2800, 2000});
 }
 
 TEST_F(SizesKept, ASplitterDroppedFarLeftLeavesTheLeastList) {
   const Lexilo lexilo(AppFolder::withFullDictionary());
   lexilo.waitUntilSeen();
   const QuickLookup window = lexilo.openQuickLookupAtA();
-  const POINT handle = centreOf(window.splitter());
-  input::drag(handle, {rectOf(window.list()).left + 20, handle.y});
-  waitFor("the least list", [&] { return alike(sizesOf(window), {3500, 3200, 1600}); });
+  dragSplitter(window, rectOf(window.list()).left + 20, {3500, 3200, 1600});
 }
 
 TEST_F(SizesKept, ASplitterDroppedFarRightStopsAtItsLimit) {
@@ -155,10 +161,8 @@ TEST_F(SizesKept, ASplitterDroppedFarRightStopsAtItsLimit) {
   const Lexilo lexilo(AppFolder::withFullDictionary());
   lexilo.waitUntilSeen();
   const QuickLookup window = lexilo.openQuickLookupAtA();
-  const POINT handle = centreOf(window.splitter());
-  input::drag(handle, {rectOf(window.pane()).right - 30, handle.y});
   // (5000 - 3500) / 3 + 1650
-  waitFor("the widest list", [&] { return alike(sizesOf(window), {5000, 3200, 2150}); });
+  dragSplitter(window, rectOf(window.pane()).right - 30, {5000, 3200, 2150});
   waitFor("the splitter to stand beside it",
           [&] { return window.splitter().left == rectOf(window.list()).right; });
 }

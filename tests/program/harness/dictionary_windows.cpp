@@ -8,6 +8,7 @@
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/text.h"
+#include "tests/program/harness/text_box.h"
 
 namespace harness {
 namespace {
@@ -27,9 +28,13 @@ void clickNode(HWND tree, const std::wstring& text) {
     for (int i = 0; i < index; ++i) item = send(tree, TVM_GETNEXTITEM, TVGN_NEXT, item);
     send(tree, TVM_ENSUREVISIBLE, 0, item);
   }
-  const auto rect = waitFor("a node to click", [&] { return treeNodeRect(tree, index); });
-  input::click(centreOf(rect.value()));
-  waitFor("the node " + utf8(text), [&] { return selectedText(tree) == text; });
+  actUntil(
+      "the node " + utf8(text),
+      [&] {
+        const auto rect = waitFor("a node to click", [&] { return treeNodeRect(tree, index); });
+        input::click(centreOf(rect.value()));
+      },
+      [&] { return selectedText(tree) == text; });
 }
 
 void closeWindow(HWND window) {
@@ -76,19 +81,6 @@ HWND buttonOf(HWND window, const std::wstring& caption) {
     if (textOf(button) == caption && IsWindowVisible(button) != FALSE) return button;
   }
   throw Failure("there is no button " + utf8(caption));
-}
-
-void typeInto(HWND box, const std::wstring& text) {
-  HWND window = GetAncestor(box, GA_ROOT);
-  input::click(centreOf(clientRectOf(box)));
-  waitFor("the box to get the keyboard",
-          [&] { return GetForegroundWindow() == window && focusIn(window) == box; });
-  input::key(VK_END);
-  input::key(VK_HOME, {VK_SHIFT});
-  input::key(VK_DELETE);
-  waitFor("the box to be empty", [&] { return textOf(box).empty(); });
-  input::type(text);
-  waitFor("the typed text " + utf8(text), [&] { return textOf(box) == text; });
 }
 
 MultiQuery::MultiQuery(const Lexilo& lexilo)

@@ -20,9 +20,6 @@ HWND waitForForm(const Process& program, const std::wstring& form);
 /// The one visible button of a window with that caption.
 HWND buttonOf(HWND window, const std::wstring& caption);
 
-/// Clicks into a text box, replaces what it holds by typing, and waits until it stands there.
-void typeInto(HWND box, const std::wstring& text);
-
 /// 多功能查询.
 class MultiQuery {
  public:

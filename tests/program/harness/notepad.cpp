@@ -1,6 +1,6 @@
 #include "tests/program/harness/notepad.h"
 
-#include "tests/program/harness/input.h"
+#include "tests/program/harness/text_box.h"
 
 namespace harness {
 
@@ -13,11 +13,7 @@ Notepad::Notepad(const std::wstring& file)
   Sleep(kReactionTime);
 }
 
-void Notepad::clickIntoText() const {
-  input::click(centreOf(clientRectOf(edit_)));
-  waitFor("Notepad's text to get the keyboard",
-          [&] { return GetForegroundWindow() == window_ && focusIn(window_) == edit_; });
-}
+void Notepad::clickIntoText() const { takeKeyboard(edit_); }
 
 void Notepad::setText(const std::wstring& text) const {
   send(edit_, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));

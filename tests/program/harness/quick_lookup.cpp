@@ -4,6 +4,7 @@
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/text.h"
+#include "tests/program/harness/text_box.h"
 
 namespace harness {
 namespace {
@@ -49,17 +50,7 @@ std::wstring QuickLookup::headword() const {
   return line.starts_with(L' ') ? line.substr(1) : line;
 }
 
-void QuickLookup::type(const std::wstring& text) const {
-  input::click(centreOf(clientRectOf(input_)));
-  waitFor("the input box to get the keyboard",
-          [&] { return GetForegroundWindow() == window_ && focusIn(window_) == input_; });
-  input::key(VK_END);
-  input::key(VK_HOME, {VK_SHIFT});
-  input::key(VK_DELETE);
-  waitFor("the input box to be empty", [&] { return typed().empty(); });
-  input::type(text);
-  waitFor("the typed text " + utf8(text), [&] { return typed() == text; });
-}
+void QuickLookup::type(const std::wstring& text) const { typeInto(input_, text); }
 
 void QuickLookup::lookUp(const std::wstring& text, const std::wstring& headword) const {
   type(text);
