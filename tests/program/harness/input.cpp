@@ -47,6 +47,21 @@ std::string place(POINT point) {
   return " mousemove " + std::to_string(point.x) + " " + std::to_string(point.y);
 }
 
+/// Waits until the system knows of a button that it is down, or is up. The display tells it so by
+/// the program below the pointer; of one that does not answer the system hears nothing.
+void awaitButton(int button, bool down) {
+  constexpr DWORD kLongEnough = 500;
+  neverWithin(kLongEnough, [=] { return (GetAsyncKeyState(button) < 0) == down; });
+}
+
+/// Clicks so that keys that are pressed afterwards come after it.
+void pressAndLetGo(POINT point, const std::string& number, int button) {
+  useMouse(place(point) + " sleep 0.02 mousedown " + number);
+  awaitButton(button, true);
+  useMouse("mouseup " + number);
+  awaitButton(button, false);
+}
+
 }  // namespace
 
 void moveTo(POINT point) {
@@ -58,7 +73,7 @@ void moveTo(POINT point) {
   });
 }
 
-void click(POINT point) { useMouse(place(point) + " sleep 0.02 mousedown 1 sleep 0.04 mouseup 1"); }
+void click(POINT point) { pressAndLetGo(point, "1", VK_LBUTTON); }
 
 void press(POINT point) { useMouse(place(point) + " mousedown 1"); }
 
@@ -66,9 +81,7 @@ void release() { useMouse("mouseup 1"); }
 
 void doubleClick(POINT point) { useMouse(place(point) + " click --repeat 2 --delay 60 1"); }
 
-void rightClick(POINT point) {
-  useMouse(place(point) + " sleep 0.02 mousedown 3 sleep 0.04 mouseup 3");
-}
+void rightClick(POINT point) { pressAndLetGo(point, "3", VK_RBUTTON); }
 
 void drag(POINT from, POINT to, int steps) {
   // A hand takes its time; programs that arm a drag by a timer need it.
