@@ -46,9 +46,12 @@ TEST_F(TreeViewChoosing, EveryNodeHasThePicture) {
     RECT picture = nodeRect(number);
     picture.right = picture.left - 3;
     picture.left -= 16;
-    const auto pixels = harness::screenPixels(picture);
-    EXPECT_TRUE(std::any_of(pixels.begin(), pixels.end(), [](COLORREF pixel) {
+    const auto isBlue = [](COLORREF pixel) {
       return GetBValue(pixel) > 150 && GetRValue(pixel) < 100;
+    };
+    EXPECT_TRUE(eventually([&] {
+      const auto pixels = harness::screenPixels(picture);
+      return std::any_of(pixels.begin(), pixels.end(), isBlue);
     })) << number;
   }
 }

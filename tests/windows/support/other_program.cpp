@@ -37,13 +37,15 @@ std::u16string OtherProgram::text() const {
 }
 
 void OtherProgram::activate() const {
-  SetForegroundWindow(window());
-  ASSERT_TRUE(eventually([this] {
+  const auto active = [this] {
     GUITHREADINFO info{};
     info.cbSize = sizeof info;
     GetGUIThreadInfo(GetWindowThreadProcessId(window(), nullptr), &info);
     return isForeground() && info.hwndFocus == edit();
-  }));
+  };
+  constexpr DWORD kLasting = 100;
+  SetForegroundWindow(window());
+  ASSERT_TRUE(bringToFront(window(), active, kLasting));
 }
 
 }  // namespace wintest

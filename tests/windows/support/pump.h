@@ -34,6 +34,18 @@ inline void passTime(DWORD milliseconds) {
   eventually([] { return false; }, milliseconds);
 }
 
+/// Brings a window to the front until `look` is true for `lasting` ms: a window manager that still
+/// answers an earlier window may bring that one to the front meanwhile.
+template <class Look>
+bool bringToFront(HWND window, Look look, DWORD lasting) {
+  constexpr int kTries = 20;
+  for (int tries = 0; tries < kTries; ++tries) {
+    if (eventually(look, lasting) && allAlong(look, lasting)) return true;
+    SetForegroundWindow(window);
+  }
+  return false;
+}
+
 /// Does `act` until `look` is true and stays so: a window manager may answer a window's earlier
 /// places and sizes late, and that answer is the one that counts then. At most ten times.
 template <class Act, class Look>
