@@ -30,11 +30,13 @@ POINT cornerOf(HWND window) {
   return {rect.left, rect.top};
 }
 
+bool cornerAt(HWND window, POINT target) {
+  const POINT corner = cornerOf(window);
+  return corner.x == target.x && corner.y == target.y;
+}
+
 void waitForCornerAt(HWND window, POINT target) {
-  waitFor("the toolbar to be where it was dragged", [&] {
-    const POINT corner = cornerOf(window);
-    return corner.x == target.x && corner.y == target.y;
-  });
+  waitFor("the toolbar to be where it was dragged", [&] { return cornerAt(window, target); });
 }
 
 TEST_F(Toolbar, TheFirstDragTakesItsCornerToThePointer) {
@@ -46,10 +48,15 @@ TEST_F(Toolbar, EveryLaterDragKeepsThePointWhereItWasGripped) {
   input::drag(centreOf(lexilo.grip()), {500, 400});
   waitForCornerAt(toolbar, {500, 400});
   for (const POINT target : {POINT{300, 600}, POINT{800, 200}}) {
-    const POINT grip = centreOf(lexilo.grip());
-    const POINT before = cornerOf(toolbar);
-    input::drag(grip, target);
-    waitForCornerAt(toolbar, {before.x + target.x - grip.x, before.y + target.y - grip.y});
+    POINT expected{};
+    const auto drag = [&] {
+      const POINT grip = centreOf(lexilo.grip());
+      const POINT before = cornerOf(toolbar);
+      expected = {before.x + target.x - grip.x, before.y + target.y - grip.y};
+      input::drag(grip, target);
+    };
+    actUntil("the toolbar to be where it was dragged", drag,
+             [&] { return cornerAt(toolbar, expected); });
   }
 }
 

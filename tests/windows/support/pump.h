@@ -50,7 +50,7 @@ bool bringToFront(HWND window, Look look, DWORD lasting) {
 /// places and sizes late, and that answer is the one that counts then. At most ten times.
 template <class Act, class Look>
 bool untilItLasts(Act act, Look look) {
-  constexpr DWORD kLong = 100;
+  constexpr DWORD kLong = 1'000;
   constexpr DWORD kLasting = 30;
   for (int tries = 0; tries < 10; ++tries) {
     act();

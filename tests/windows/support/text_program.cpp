@@ -49,8 +49,16 @@ TextProgram::TextProgram(Kind kind, const std::u16string& text)
       control_(harness::waitForChild(window_, kind == Kind::notepad ? L"Edit" : L"RichEdit20W")) {
   // Programs set out their windows, and window managers place them, in their own time.
   process_.waitForInputIdle();
-  SetWindowPos(window_, HWND_TOPMOST, 200, 100, 700, 600, SWP_NOACTIVATE);
-  eventually([this] { return harness::rectOf(window_).left == 200; });
+  constexpr RECT kPlace{200, 100, 900, 700};
+  untilItLasts(
+      [&] {
+        SetWindowPos(window_, HWND_TOPMOST, kPlace.left, kPlace.top, kPlace.right - kPlace.left,
+                     kPlace.bottom - kPlace.top, SWP_NOACTIVATE);
+      },
+      [&] {
+        const RECT now = harness::rectOf(window_);
+        return EqualRect(&now, &kPlace) != FALSE;
+      });
   setText(text);
   harness::repaint(window_);
 }
