@@ -231,9 +231,12 @@ TEST_F(FrmScreenWordMeaning, TakesNoFocusAndNoKeys) {
   input::type(L"typed on");
   EXPECT_TRUE(eventually([&] { return other.text() == u"typed on"; }));
   EXPECT_TRUE(other.isForeground());
-  input::click({rectOf(popup().handle()).left + 20, rectOf(popup().handle()).top + 20});
-  passTime(30);
-  EXPECT_TRUE(other.isForeground());
+  EXPECT_TRUE(untilItLasts(
+      [&] {
+        other.activate();
+        input::click({rectOf(popup().handle()).left + 20, rectOf(popup().handle()).top + 20});
+      },
+      [&] { return other.isForeground(); }));
 }
 
 TEST_F(FrmScreenWordMeaning, FivePixelsAreNoMove) {

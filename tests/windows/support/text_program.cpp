@@ -7,6 +7,7 @@
 
 #include "tests/program/harness/find.h"
 #include "tests/windows/support/pump.h"
+#include "tests/windows/support/text_target.h"
 
 namespace wintest {
 namespace {
@@ -60,6 +61,7 @@ TextProgram::TextProgram(Kind kind, const std::u16string& text)
         return EqualRect(&now, &kPlace) != FALSE;
       });
   setText(text);
+  eventually([this] { return characterCell(control_, 0).has_value(); });
   harness::repaint(window_);
 }
 
