@@ -103,6 +103,70 @@ TEST_F(ColumnTreeTest, ANewTextScrollsAsFarAsItIsLong) {
   EXPECT_FALSE(scrolls());
 }
 
+TEST_F(ColumnTreeTest, TheWidestOfManyTextsSaysHowFarItScrolls) {
+  for (int i = 0; i < 50; ++i) tree().add(u"short");
+  EXPECT_FALSE(scrolls());
+  const auto fill = [](std::size_t widest, std::size_t characters) {
+    const forms::TreeView::RepaintHeld held(tree());
+    for (std::size_t row = 1; row <= tree().count(); ++row) tree().setText(row, u"short");
+    tree().setText(widest, std::u16string(characters, u'词'));
+  };
+  for (const std::size_t widest : {30, 1, 50}) {
+    for (const std::size_t characters : {200, 150, 300}) {
+      fill(widest, characters);
+      forms::doEvents();
+      const int pixels = static_cast<int>(characters) * 2 * tree().columnWidth();
+      EXPECT_GE(scrolling(SB_HORZ).nMax, pixels);
+      EXPECT_LE(scrolling(SB_HORZ).nMax, pixels + 100);
+    }
+  }
+  fill(40, 2);
+  EXPECT_FALSE(scrolls());
+  fill(40, 200);
+  tree().remove(40);
+  EXPECT_FALSE(scrolls());
+  fill(1, 200);
+  tree().remove(1);
+  EXPECT_FALSE(scrolls());
+  fill(1, 200);
+  tree().clear();
+  EXPECT_FALSE(scrolls());
+  tree().add(std::u16string(200, u'词'));
+  EXPECT_TRUE(scrolls());
+}
+
+TEST_F(ColumnTreeTest, ItScrollsAsFarAtAnotherResolution) {
+  tree().add(u"short");
+  tree().add(std::u16string(200, u'词'));
+  const RECT suggested{40, 40, 1000, 700};
+  SendMessageW(forms::single<ColumnForm>().handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
+               reinterpret_cast<LPARAM>(&suggested));
+  forms::doEvents();
+  EXPECT_GE(scrolling(SB_HORZ).nMax, 200 * 2 * tree().columnWidth());
+  tree().setText(2, u"short");
+  forms::doEvents();
+  EXPECT_FALSE(scrolls());
+}
+
+TEST_F(ColumnTreeTest, NewTextsLeaveTheFirstRowOnTop) {
+  for (int i = 0; i < 50; ++i) tree().add(u"short");
+  {
+    const forms::TreeView::RepaintHeld held(tree());
+    tree().deselect();
+    for (std::size_t row = 1; row <= tree().count(); ++row) tree().setText(row, u"something wider");
+  }
+  EXPECT_EQ(scrolling(SB_VERT).nPos, 0);
+  const RECT first = harness::treeNodeRect(tree().handle(), 0).value_or(RECT{});
+  EXPECT_EQ(first.top, rectOf(tree().handle()).top + GetSystemMetrics(SM_CYEDGE));
+}
+
+TEST_F(ColumnTreeTest, WhoeverAsksTheControlHearsTheTexts) {
+  tree().add(u"first");
+  tree().add(u"second");
+  tree().setText(1, u"new");
+  EXPECT_EQ(harness::treeTexts(tree().handle()), (std::vector<std::wstring>{L"new", L"second"}));
+}
+
 TEST_F(ColumnTreeTest, ANewTextKeepsTheSelection) {
   for (const char16_t* text : {u"a", u"b", u"c"}) tree().add(text);
   tree().select(2);

@@ -18,7 +18,10 @@ std::chrono::duration<double, std::milli> pressButton(HWND button) {
     pressed = std::chrono::steady_clock::now();
     const bool lost = neverWithin(kUntilPressedAgain,
                                   [&] { return (send(button, BM_GETSTATE) & BST_PUSHED) != 0; });
-    if (lost) input::release();
+    if (lost) {
+      input::release();
+      tellOnceMore("a button to go down");
+    }
     return !lost;
   });
   return std::chrono::steady_clock::now() - pressed;

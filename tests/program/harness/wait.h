@@ -29,24 +29,6 @@ auto waitFor(const std::string& what, Look look, DWORD milliseconds = kPatience)
   }
 }
 
-/// Acts until `look` is true, as a user does who sees that nothing came of it: once more every two
-/// seconds, for busy displays lose what hands do. Throws Failure naming `what` after five times.
-template <class Act, class Look>
-void actUntil(const std::string& what, Act act, Look look) {
-  constexpr int kTries = 5;
-  constexpr DWORD kOnceMore = 2'000;
-  for (int tries = 1; tries < kTries; ++tries) {
-    act();
-    const ULONGLONG deadline = GetTickCount64() + kOnceMore;
-    while (GetTickCount64() < deadline) {
-      if (look()) return;
-      Sleep(5);
-    }
-  }
-  act();
-  waitFor(what, look);
-}
-
 /// Whether `look` stays false for `milliseconds`: for what must not happen.
 template <class Look>
 bool neverWithin(DWORD milliseconds, Look look) {
@@ -56,6 +38,23 @@ bool neverWithin(DWORD milliseconds, Look look) {
     Sleep(5);
   }
   return true;
+}
+
+/// Says in the log that something was done once more, so that what never works at once is seen.
+void tellOnceMore(const std::string& what);
+
+/// Acts until `look` is true, as a user does who sees that nothing came of it: once more every two
+/// seconds, for busy displays lose what hands do. Throws Failure naming `what` after five times.
+template <class Act, class Look>
+void actUntil(const std::string& what, Act act, Look look) {
+  constexpr int kTries = 5;
+  constexpr DWORD kOnceMore = 2'000;
+  act();
+  for (int tries = 1; tries < kTries && neverWithin(kOnceMore, look); ++tries) {
+    tellOnceMore(what);
+    act();
+  }
+  waitFor(what, look);
 }
 
 }  // namespace harness
