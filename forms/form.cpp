@@ -213,6 +213,13 @@ Widget* Form::widgetAt(POINT screen, const Widget* except) const {
   return nullptr;
 }
 
+Widget* Form::widgetOf(HWND control) const {
+  const auto found = std::find_if(widgets_.begin(), widgets_.end(), [=](const Widget* widget) {
+    return control != nullptr && widget->handle() == control;
+  });
+  return found == widgets_.end() ? nullptr : *found;
+}
+
 Widget* Form::grabberAt(POINT screen) const {
   const auto found = std::find_if(widgets_.begin(), widgets_.end(),
                                   [&](const Widget* widget) { return widget->grabs(screen); });

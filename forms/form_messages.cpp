@@ -94,7 +94,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_NOTIFY: {
       const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
-      Widget* widget = Widget::of(header.hwndFrom);
+      Widget* widget = widgetOf(header.hwndFrom);
       return widget == nullptr ? 0 : widget->notify(header);
     }
     case WM_SYSCOMMAND:
@@ -114,7 +114,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void Form::command(WORD code, HWND control, WORD id) const {
   settleFocus();
-  if (Widget* widget = Widget::of(control)) {
+  if (Widget* widget = widgetOf(control)) {
     widget->command(code);
     return;
   }
