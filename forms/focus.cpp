@@ -24,8 +24,7 @@ Account& account() {
 /// Brings the account one event nearer to what is; false when they agree.
 bool settleOneStep(Account& known) {
   Form* form = Form::of(GetActiveWindow());
-  Widget* widget = form == nullptr ? nullptr : Widget::of(GetFocus());
-  if (widget != nullptr && &widget->form() != form) widget = nullptr;
+  Widget* widget = form == nullptr ? nullptr : form->widgetOf(GetFocus());
 
   if (known.widget != nullptr && known.widget != widget) {
     std::exchange(known.widget, nullptr)->onLostFocus.raise();

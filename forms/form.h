@@ -81,8 +81,7 @@ class Form {
   /// The widget under a screen point, or nullptr; `except` is looked through.
   [[nodiscard]] Widget* widgetAt(POINT screen, const Widget* except = nullptr) const;
 
-  /// The widget that a control belongs to, or nullptr. For messages that come by the hundred:
-  /// unlike Widget::of() it asks the system nothing.
+  /// The widget of this form that a control belongs to; nullptr for any other window.
   [[nodiscard]] Widget* widgetOf(HWND control) const;
 
   /// The widget that takes the mouse at a screen point beside it, or nullptr.

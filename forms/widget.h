@@ -35,9 +35,6 @@ class Widget {
   Widget(const Widget&) = delete;
   Widget& operator=(const Widget&) = delete;
 
-  /// The widget behind a control; nullptr for windows that are none of ours.
-  static Widget* of(HWND window);
-
   [[nodiscard]] HWND handle() const { return handle_; }
   [[nodiscard]] Form& form() const { return form_; }
 
@@ -84,8 +81,7 @@ class Widget {
   [[nodiscard]] Place placeOf(LPARAM lParam) const;
 
  private:
-  static LRESULT CALLBACK subclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                       UINT_PTR id, DWORD_PTR self);
+  static LRESULT CALLBACK widgetProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void raiseMouseEvents(UINT message, LPARAM lParam);
   bool takesKey(UINT message, WPARAM wParam) const;
   /// Drops the character that the message loop has made of a key: the control would beep at it, and
@@ -95,6 +91,7 @@ class Widget {
 
   Form& form_;
   HWND handle_ = nullptr;
+  WNDPROC controlProc_ = nullptr;  // the control's own
   WidgetBox box_;
   Font font_;
   OwnedFont systemFont_;

@@ -30,8 +30,10 @@ TEST_F(FormOpening, FindsItselfBehindItsWindow) {
   EXPECT_EQ(forms::Form::of(form.first.handle()), nullptr);
   EXPECT_EQ(forms::Form::of(GetDesktopWindow()), nullptr);
   EXPECT_EQ(forms::Form::of(nullptr), nullptr);
-  EXPECT_EQ(forms::Widget::of(form.first.handle()), &form.first);
-  EXPECT_EQ(forms::Widget::of(form.handle()), nullptr);
+  EXPECT_EQ(form.widgetOf(form.first.handle()), &form.first);
+  EXPECT_EQ(form.widgetOf(form.handle()), nullptr);
+  EXPECT_EQ(form.widgetOf(forms::single<FormB>().first.handle()), nullptr);
+  EXPECT_EQ(form.widgetOf(nullptr), nullptr);
 }
 
 TEST_F(FormOpening, ShowsWhatLoadingPrepared) {
