@@ -1,6 +1,5 @@
 #include "forms/column_tree.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <vector>
@@ -23,18 +22,6 @@ int evenFontSize(int dpi) { return kTenthsOfPoints * dpi / (10 * kPointsPerInch)
 
 Font fontOf(int pixels, int dpi) {
   return {std::u16string(kFace), static_cast<double>(pixels) * kPointsPerInch / dpi, true};
-}
-
-/// A character of two columns, by which widths are measured.
-constexpr char16_t kRulerMark = u'汉';
-
-/// How many columns a code unit takes.
-int columnsOf(char16_t unit) { return unit < kFirstWide ? 1 : 2; }
-
-std::size_t columnsOf(std::u16string_view text) {
-  std::size_t columns = 0;
-  for (const char16_t unit : text) columns += static_cast<std::size_t>(columnsOf(unit));
-  return columns;
 }
 
 /// A window's device context with a font selected into it.
@@ -85,46 +72,14 @@ ColumnTree::ColumnTree(Form& form, const WidgetBox& box) : TreeView(form, box, T
   makeFonts();
 }
 
-// How far the control scrolls depends on its widest item only, and measuring each costs it more
-// than all else that a new text costs: one item is measured by a text as wide as the widest, the
-// others by a narrow one.
-void ColumnTree::textsChanged() {
-  if (count() == 0 || itemOf(1) != measured_) measured_ = nullptr;
-  if (!held_) fitScrolling();
-}
-
-void ColumnTree::fitScrolling() {
-  std::size_t columns = 0;
-  for (std::size_t number = 1; number <= count(); ++number) {
-    columns = std::max(columns, columnsOf(text(number)));
-  }
-  const std::size_t length = (columns + 1) / 2;
-  if (count() == 0 || (measured_ != nullptr && ruler_.size() == length)) return;
-  ruler_.assign(length, kRulerMark);
-  measureAgain(1);
-  measured_ = itemOf(1);
-}
-
-const std::u16string& ColumnTree::measuredText(std::size_t number) const {
-  // Without any width the control would measure an item again whenever it draws it.
-  static const std::u16string narrow(1, kRulerMark);
-  return number == 1 && !ruler_.empty() ? ruler_ : narrow;
-}
-
-LRESULT ColumnTree::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_SETREDRAW) {
-    held_ = wParam == FALSE;
-    if (!held_) fitScrolling();
-  }
-  return TreeView::handleMessage(message, wParam, lParam);
+void ColumnTree::setText(std::size_t number, const std::u16string& text) {
+  TreeView::setText(number, text);
+  measureAgain(number);
 }
 
 void ColumnTree::rescale() {
   TreeView::rescale();
   makeFonts();
-  // With a new font the control measures the texts that it drew last.
-  for (std::size_t number = 1; number <= count(); ++number) measureAgain(number);
-  if (count() != 0) measured_ = itemOf(1);
 }
 
 // The control measures its texts, and with them how far it scrolls, in a font whose Han characters
@@ -171,7 +126,9 @@ void ColumnTree::draw(const NMCUSTOMDRAW& drawing) const {
 }
 
 void ColumnTree::drawText(HDC dc, const RECT& row, int left, std::u16string_view text) const {
-  const auto widthOf = [this](char16_t unit) { return columnsOf(unit) * columnWidth_; };
+  const auto widthOf = [this](char16_t unit) {
+    return unit < kFirstWide ? columnWidth_ : 2 * columnWidth_;
+  };
   while (!text.empty() && left + widthOf(text.front()) <= 0) {
     left += widthOf(text.front());
     text.remove_prefix(1);

@@ -11,29 +11,22 @@ class ColumnTree : public TreeView {
  public:
   ColumnTree(Form& form, const WidgetBox& box);
 
+  void setText(std::size_t number, const std::u16string& text) override;
+
   /// Width of one column in pixels.
   [[nodiscard]] int columnWidth() const { return columnWidth_; }
 
   LRESULT notify(const NMHDR& header) override;
   void rescale() override;
 
- protected:
-  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-  void textsChanged() override;
-  [[nodiscard]] const std::u16string& measuredText(std::size_t number) const override;
-
  private:
   void makeFonts();
-  void fitScrolling();
   void draw(const NMCUSTOMDRAW& drawing) const;
   void drawText(HDC dc, const RECT& row, int left, std::u16string_view text) const;
 
   int columnWidth_ = 0;
   int textHeight_ = 0;
   OwnedFont drawingFont_;
-  std::u16string ruler_;          // as wide as the widest text
-  HTREEITEM measured_ = nullptr;  // the item that was measured by it
-  bool held_ = false;             // nothing repaints
 };
 
 }  // namespace forms

@@ -21,7 +21,6 @@ TreeView::TreeView(Form& form, const WidgetBox& box, DWORD scrolling)
 void TreeView::add(const std::u16string& text) {
   nodes_.push_back({nullptr, text});
   nodes_.back().item = insert(nodes_.size(), TVI_LAST);
-  textsChanged();
 }
 
 HTREEITEM TreeView::insert(std::size_t number, HTREEITEM after) {
@@ -49,25 +48,20 @@ void TreeView::remove(std::size_t number) {
   const HTREEITEM item = nodes_.at(number - 1).item;
   nodes_.erase(nodes_.begin() + static_cast<std::ptrdiff_t>(number) - 1);
   send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(item));
-  textsChanged();
 }
 
 void TreeView::clear() {
   nodes_.clear();
   send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
-  textsChanged();
 }
 
 void TreeView::setText(std::size_t number, const std::u16string& text) {
   nodes_.at(number - 1).text = text;
-  textsChanged();
 }
 
 const std::u16string& TreeView::text(std::size_t number) const {
   return nodes_.at(number - 1).text;
 }
-
-const std::u16string& TreeView::measuredText(std::size_t number) const { return text(number); }
 
 void TreeView::select(std::size_t number) {
   const auto item = reinterpret_cast<LPARAM>(nodes_.at(number - 1).item);
@@ -168,8 +162,9 @@ LRESULT TreeView::highlight(NMTVCUSTOMDRAW& drawing) const {
 void TreeView::giveText(NMTVDISPINFOW& info) const {
   if ((info.item.mask & TVIF_TEXT) == 0 || info.item.cchTextMax <= 0) return;
   const std::size_t known = numberOf(info.item.hItem);
-  if (known == 0 && inserting_ == 0) return;
-  const std::u16string& text = known == 0 ? measuredText(inserting_) : nodes_[known - 1].text;
+  const std::size_t number = known == 0 ? inserting_ : known;
+  if (number == 0) return;
+  const std::u16string& text = nodes_[number - 1].text;
   if (text.size() < static_cast<std::size_t>(info.item.cchTextMax)) {
     std::copy_n(text.c_str(), text.size() + 1, info.item.pszText);
   } else {

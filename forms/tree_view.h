@@ -58,11 +58,6 @@ class TreeView : public Widget {
 
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   [[nodiscard]] std::size_t numberOf(HTREEITEM item) const;
-  [[nodiscard]] HTREEITEM itemOf(std::size_t number) const { return nodes_.at(number - 1).item; }
-  /// Called after every change of the nodes or of their texts.
-  virtual void textsChanged() {}
-  /// What the control measures to know how far it scrolls.
-  [[nodiscard]] virtual const std::u16string& measuredText(std::size_t number) const;
   /// Has the control measure a node's text anew, which it does once for each of its items.
   void measureAgain(std::size_t number);
 
@@ -79,7 +74,7 @@ class TreeView : public Widget {
   void showPicture();
 
   std::vector<Node> nodes_;
-  std::size_t inserting_ = 0;  // the control asks for its text before its item is known
+  std::size_t inserting_ = 0;  // the control asks for its text before its handle is known
   bool highlightChooses_ = true;
   bool keepsHighlight_ = false;
   Picture picture_;
