@@ -93,6 +93,20 @@ void expectOpensWith(const Lexilo& lexilo, const Sizes& sizes) {
            [&] { return alike(sizesOf(QuickLookup(QuickLookup::find(lexilo.process()))), sizes); });
 }
 
+/// Minimises the window as its frame's button does.
+void minimise(const QuickLookup& window) {
+  // The display may not know of the window yet.
+  const auto command = [] {
+    try {
+      runBelow("xdotool search --onlyvisible --name '^速查 V1.3$' windowminimize");
+    } catch (const Failure&) {
+      tellOnceMore("the display to know the window");
+    }
+  };
+  actUntil("the window to be minimised", command,
+           [&] { return IsIconic(window.window()) != FALSE; });
+}
+
 TEST_F(SizesKept, WithoutSettingsItHasItsDesignSize) {
   const Lexilo lexilo(AppFolder::withFullDictionary());
   lexilo.waitUntilSeen();
@@ -137,13 +151,11 @@ TEST_F(SizesKept, MinimisingSavesNothingSmall) {
   lexilo.waitUntilSeen();
   const QuickLookup window = lexilo.openQuickLookupAtA();
   const Sizes before = sizesOf(window);
-  runBelow("xdotool search --onlyvisible --name '^速查 V1.3$' windowminimize");
-  waitFor("the window to be minimised", [&] { return IsIconic(window.window()) != FALSE; });
+  minimise(window);
   lexilo.click(ToolbarButton::quickLookup);
   waitFor("the window to be back", [&] { return IsIconic(window.window()) == FALSE; });
   waitFor("the old size", [&] { return sizesOf(window) == before; });
-  runBelow("xdotool search --onlyvisible --name '^速查 V1.3$' windowminimize");
-  waitFor("the window to be minimised", [&] { return IsIconic(window.window()) != FALSE; });
+  minimise(window);
   PostMessageW(window.window(), WM_CLOSE, 0, 0);
   waitFor("the window to close", [&] { return IsWindow(window.window()) == FALSE; });
   EXPECT_TRUE(alike(savedSizes(), before)) << ::testing::PrintToString(savedSizes());

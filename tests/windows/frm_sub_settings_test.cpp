@@ -14,18 +14,10 @@ class FrmSubSettings : public FrmSubTest {
     EXPECT_EQ(sub().height(), height);
     EXPECT_EQ(sub().TreeView1.width(), list);
   }
-  /// Stores values by `prepare` and opens the window, which is to have these sizes then; once more
-  /// where a window manager has answered an earlier one of its sizes.
+  /// Opens the window with what `prepare` stores, which is to have these sizes then.
   template <class Prepare>
   void openAs(Prepare prepare, int width, int height, int list) {
-    EXPECT_TRUE(untilItLasts(
-        [&] {
-          if (forms::isLoaded<frmSub>()) close();
-          harness::settings::clear();
-          prepare();
-          open();
-        },
-        [&] { return sub().width() == width && sub().height() == height; }));
+    openSized(prepare, width, height);
     expectSizes(width, height, list);
   }
   static void expectStored(const wchar_t* width, const wchar_t* height, const wchar_t* list) {

@@ -6,11 +6,15 @@ namespace {
 
 class FrmSubSplitter : public FrmSubTest {
  protected:
-  /// Stores the sizes that the window is to open with.
-  static void prepareSizes(int width, int height, const wchar_t* listWidth) {
-    harness::settings::write(L"WindowWidth", std::to_wstring(width));
-    harness::settings::write(L"WindowHeight", std::to_wstring(height));
-    harness::settings::write(L"TreeWidth", listWidth);
+  /// Opens the window in sizes that are stored before.
+  frmSub& openWith(int width, int height, const wchar_t* listWidth) {
+    return openSized(
+        [=] {
+          harness::settings::write(L"WindowWidth", std::to_wstring(width));
+          harness::settings::write(L"WindowHeight", std::to_wstring(height));
+          harness::settings::write(L"TreeWidth", listWidth);
+        },
+        width, height);
   }
 
   /// Drags the splitter to a point and lets go.
@@ -40,50 +44,43 @@ class FrmSubSplitter : public FrmSubTest {
 };
 
 TEST_F(FrmSubSplitter, DroppedOnTheListNearItsLeftEdgeLeaves1600) {
-  prepareSizes(5000, 4000, L"2100");
-  open();
+  openWith(5000, 4000, L"2100");
   dropAt(inWidget(sub().TreeView1, 900, 1500));
   expectPlaced(1600);
 }
 
 TEST_F(FrmSubSplitter, DroppedOnTheListItTakesOff30Twips) {
-  prepareSizes(5000, 4000, L"2100");
-  open();
+  openWith(5000, 4000, L"2100");
   dropAt(inWidget(sub().TreeView1, 1800, 1500));
   expectPlaced(1770);
 }
 
 TEST_F(FrmSubSplitter, JustBehind1600ItComesOutBelow) {
-  prepareSizes(5000, 4000, L"2100");
-  open();
+  openWith(5000, 4000, L"2100");
   dropAt(inWidget(sub().TreeView1, 1605, 1500));
   expectPlaced(1575);
 }
 
 TEST_F(FrmSubSplitter, DroppedOnThePaneItWidensTheList) {
-  prepareSizes(9000, 4000, L"1800");
-  open();
+  openWith(9000, 4000, L"1800");
   dropAt(inWidget(sub().txtOut, 600, 1500));
   expectPlaced(2400);
 }
 
 TEST_F(FrmSubSplitter, AWindowOf5000StopsAt2150) {
-  prepareSizes(5000, 4000, L"1800");
-  open();
+  openWith(5000, 4000, L"1800");
   dropAt(inWidget(sub().txtOut, 1200, 1500));
   expectPlaced(2150);
 }
 
 TEST_F(FrmSubSplitter, AWindowOf9000StopsAt3000) {
-  prepareSizes(9000, 4000, L"1800");
-  open();
+  openWith(9000, 4000, L"1800");
   dropAt(inWidget(sub().txtOut, 3000, 1500));
   expectPlaced(3000);
 }
 
 TEST_F(FrmSubSplitter, DroppedElsewhereNothingChanges) {
-  prepareSizes(5000, 4000, L"2100");
-  open();
+  openWith(5000, 4000, L"2100");
   dropAt(centreOf(sub().cmdExit));
   expectPlaced(2100);
   dropAt(centreOf(sub().Label1));
@@ -93,31 +90,27 @@ TEST_F(FrmSubSplitter, DroppedElsewhereNothingChanges) {
 }
 
 TEST_F(FrmSubSplitter, APressWithoutAMoveChangesNothing) {
-  prepareSizes(5000, 4000, L"2100");
-  open();
+  openWith(5000, 4000, L"2100");
   dropAt(centreOf(sub().Image1));
   expectPlaced(2100);
 }
 
 TEST_F(FrmSubSplitter, DropsOfAnythingElseChangeNothing) {
-  prepareSizes(5000, 4000, L"2100");
-  open();
+  openWith(5000, 4000, L"2100");
   sub().TreeView1.onDragDrop.raise(sub().txtInput, {1800, 100});
   sub().txtOut.onDragDrop.raise(sub().txtInput, {300, 100});
   expectPlaced(2100);
 }
 
 TEST_F(FrmSubSplitter, AClickBesideTheDragStillChoosesWords) {
-  prepareSizes(5000, 4000, L"2100");
-  open();
+  openWith(5000, 4000, L"2100");
   dropAt(inWidget(sub().TreeView1, 1800, 1500));
   input::click(nodePoint(2));
   EXPECT_TRUE(eventually([] { return sub().TreeView1.selected() == 2; }));
 }
 
 TEST_F(FrmSubSplitter, CanBeTakenHoldOfBesideItsThinLine) {
-  prepareSizes(5000, 4000, L"2100");
-  frmSub& form = open();
+  frmSub& form = openWith(5000, 4000, L"2100");
   const POINT target = inWidget(form.TreeView1, 1800, 1500);
   for (const int beside : {-2, 3}) {
     const RECT line = rectOf(form.Image1.handle());
@@ -139,8 +132,7 @@ TEST_F(FrmSubSplitter, CanBeTakenHoldOfBesideItsThinLine) {
 }
 
 TEST_F(FrmSubSplitter, AnyButtonDragsItAndOpensNoMenu) {
-  prepareSizes(5000, 4000, L"2100");
-  frmSub& form = open();
+  frmSub& form = openWith(5000, 4000, L"2100");
   input::moveTo(centreOf(form.Image1));
   input::pressRight();
   ASSERT_TRUE(eventually([&] { return form.Image1.isDragged(); }));
@@ -153,8 +145,7 @@ TEST_F(FrmSubSplitter, AnyButtonDragsItAndOpensNoMenu) {
 }
 
 TEST_F(FrmSubSplitter, TwoDragsInQuickSuccessionBothCount) {
-  prepareSizes(5000, 4000, L"2100");
-  frmSub& form = open();
+  frmSub& form = openWith(5000, 4000, L"2100");
   dropAt(inWidget(form.txtOut, 15, 1500));
   expectPlaced(2115);
   dropAt(inWidget(form.txtOut, 15, 1500));
@@ -162,8 +153,7 @@ TEST_F(FrmSubSplitter, TwoDragsInQuickSuccessionBothCount) {
 }
 
 TEST_F(FrmSubSplitter, APressShowsThePointerWithoutAMoveBeforeIt) {
-  prepareSizes(5000, 4000, L"2100");
-  frmSub& form = open();
+  frmSub& form = openWith(5000, 4000, L"2100");
   HCURSOR sizing = LoadCursorW(nullptr, IDC_SIZEWE);
   input::moveTo(centreOf(form.Image1));
   ASSERT_TRUE(eventually([&] { return GetCursor() == sizing; }));
@@ -178,8 +168,7 @@ TEST_F(FrmSubSplitter, APressShowsThePointerWithoutAMoveBeforeIt) {
 }
 
 TEST_F(FrmSubSplitter, ThePointerShowsWhereItCanBeDragged) {
-  prepareSizes(5000, 4000, L"2100");
-  frmSub& form = open();
+  frmSub& form = openWith(5000, 4000, L"2100");
   HCURSOR sizing = LoadCursorW(nullptr, IDC_SIZEWE);
   input::moveTo(centreOf(form.Image1));
   EXPECT_TRUE(eventually([&] { return GetCursor() == sizing; }));

@@ -31,6 +31,21 @@ class FrmSubTest : public WindowTest {
     return form;
   }
 
+  /// Stores values by `prepare` and shows the window, which is to have this size in twips then;
+  /// once more where a window manager has answered an earlier one of its sizes.
+  template <class Prepare>
+  frmSub& openSized(Prepare prepare, int width, int height) {
+    EXPECT_TRUE(untilItLasts(
+        [&] {
+          if (forms::isLoaded<frmSub>()) sub().unload();
+          harness::settings::clear();
+          prepare();
+          open();
+        },
+        [&] { return sub().width() == width && sub().height() == height; }));
+    return sub();
+  }
+
   /// What the list shows.
   static std::vector<std::u16string> list() {
     std::vector<std::u16string> texts;
