@@ -41,7 +41,10 @@ std::u16string browserPath(const std::u16string& systemDirectory) {
 }
 
 void openInBrowser(std::u16string_view page) {
-  std::u16string commandLine = user::BrowserPath + u" " + std::u16string(page);
+  // Naming the program starts that file and no other, whatever lies at the parts of its path before
+  // a blank. The command line then reaches the child as it stands: the child takes what comes
+  // before the first unquoted blank for its own name, and the rest for the page.
+  std::u16string commandLine = u'"' + user::BrowserPath + u"\" " + std::u16string(page);
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   startup.dwFlags = STARTF_USESHOWWINDOW;

@@ -25,8 +25,9 @@ std::u16string connectionString(const std::u16string& folder);
 /// The browser on the drive that `systemDirectory` lies on.
 std::u16string browserPath(const std::u16string& systemDirectory);
 
-/// Starts the browser with `page` as its command line, shown normally. Throws std::runtime_error
-/// where it cannot be started.
+/// Starts the browser with `page` as its command line, shown normally. `page` is handed over as it
+/// stands, without quotes, blanks included. Throws std::runtime_error where the browser cannot be
+/// started.
 void openInBrowser(std::u16string_view page);
 
 /// Opens the help page; a message where the browser cannot be started.

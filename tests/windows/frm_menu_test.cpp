@@ -172,10 +172,11 @@ TEST_F(FrmMenu, HelpIsTheToolbars) {
   start();
   useAsBrowser();
   chooseFromMenu(kHelp);
-  ASSERT_TRUE(eventually([] { return !startedCommandLine().empty(); }));
-  EXPECT_EQ(startedCommandLine(),
-            user::BrowserPath + u" " + app::applicationFolder() + u"\\help\\help.htm");
-  EXPECT_EQ(startedShow(), SW_SHOWNORMAL);
+  const StartedBrowser browser = awaitBrowser();
+  EXPECT_EQ(browser.program, user::BrowserPath) << "another program was started";
+  EXPECT_EQ(browser.name, user::BrowserPath);
+  EXPECT_EQ(browser.page, app::applicationFolder() + u"\\help\\help.htm");
+  EXPECT_EQ(browser.show, SW_SHOWNORMAL);
 }
 
 TEST_F(FrmMenu, HelpWithoutABrowserIsTold) {
@@ -192,9 +193,11 @@ TEST_F(FrmMenu, TheWebSiteStartsTheBrowserWithItsAddress) {
   start();
   useAsBrowser();
   chooseFromMenu(kWebSite);
-  ASSERT_TRUE(eventually([] { return !startedCommandLine().empty(); }));
-  EXPECT_EQ(startedCommandLine(), user::BrowserPath + u" " + std::u16string(app::kHomePage));
-  EXPECT_EQ(startedShow(), SW_SHOWNORMAL);
+  const StartedBrowser browser = awaitBrowser();
+  EXPECT_EQ(browser.program, user::BrowserPath) << "another program was started";
+  EXPECT_EQ(browser.name, user::BrowserPath);
+  EXPECT_EQ(browser.page, app::kHomePage);
+  EXPECT_EQ(browser.show, SW_SHOWNORMAL);
 }
 
 TEST_F(FrmMenu, TheWebSiteWithoutABrowserIsAnUncaughtError) {

@@ -87,9 +87,20 @@ TEST_F(FrmTop, HelpStartsTheBrowserWithThePage) {
   start();
   useAsBrowser();
   click(top().cmdHelp);
-  ASSERT_TRUE(eventually([] { return !startedCommandLine().empty(); }));
-  EXPECT_EQ(startedCommandLine(),
-            user::BrowserPath + u" " + app::applicationFolder() + u"\\help\\help.htm");
+  const StartedBrowser browser = awaitBrowser();
+  EXPECT_EQ(browser.program, user::BrowserPath) << "another program was started";
+  EXPECT_EQ(browser.name, user::BrowserPath);
+  EXPECT_EQ(browser.page, app::applicationFolder() + u"\\help\\help.htm");
+}
+
+TEST_F(FrmTop, APageWhosePathHasBlanksReachesTheBrowserAsItStands) {
+  useAsBrowser();
+  const std::u16string page = u"C:\\My Programs\\Lexilo 1.3\\help\\help.htm";
+  app::openInBrowser(page);
+  const StartedBrowser browser = awaitBrowser();
+  EXPECT_EQ(browser.program, user::BrowserPath);
+  EXPECT_EQ(browser.name, user::BrowserPath);
+  EXPECT_EQ(browser.page, page);
 }
 
 TEST_F(FrmTop, TheMenuDropsDownJustBelowTheButtons) {

@@ -5,16 +5,24 @@
 /// The test program as the browser that Lexilo starts: it writes down how it was started.
 namespace wintest {
 
-/// In the browser's role: writes the command line down and returns true where it names a page.
+/// How a program was started to show a page, as it sees it itself.
+struct StartedBrowser {
+  std::u16string program;  ///< its file
+  std::u16string name;     ///< what it takes for its own name, the first argument
+  std::u16string page;     ///< the rest of its command line
+  int show = 0;            ///< SW_SHOWNORMAL ...; -1 where it was not told
+};
+
+/// In the browser's role: writes down how it was started and returns true where its command line
+/// names a page.
 bool tookPage();
 
-/// Makes this program the browser and forgets what was started before.
+/// Makes a copy of this program the browser, in a folder whose name has a blank, and forgets what
+/// was started before. Another copy lies where the browser's path ends at that blank, for whoever
+/// starts the wrong one.
 void useAsBrowser();
 
-/// The command line of the browser that was started since then; "" where none was.
-std::u16string startedCommandLine();
-
-/// How that browser was asked to show its window (SW_SHOWNORMAL ...); 65535 where it was not.
-int startedShow();
+/// Waits for the browser that is started since then; a test without one fails, and all is empty.
+StartedBrowser awaitBrowser();
 
 }  // namespace wintest
