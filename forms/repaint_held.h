@@ -4,7 +4,7 @@
 
 namespace forms {
 
-/// While one lives, the widget does not repaint; then once.
+/// While one lives, the widget does not repaint; then it is due to be painted once, all of it.
 class RepaintHeld {
  public:
   explicit RepaintHeld(const Widget& widget) : window_(widget.handle()) {
@@ -12,7 +12,10 @@ class RepaintHeld {
   }
   ~RepaintHeld() {
     SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
-    InvalidateRect(window_, nullptr, TRUE);
+    // The frame as well: a scroll bar that came or went meanwhile stands there. These are the flags
+    // that WM_SETREDRAW's documentation asks for.
+    RedrawWindow(window_, nullptr, nullptr,
+                 RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
   }
   RepaintHeld(const RepaintHeld&) = delete;
   RepaintHeld& operator=(const RepaintHeld&) = delete;

@@ -1,0 +1,82 @@
+#include "forms/repaint_held.h"
+
+#include "forms/column_tree.h"
+#include "forms/rich_text_box.h"
+#include "tests/windows/support/painted.h"
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+class HeldForm : public FormA {
+ public:
+  forms::RichTextBox pane{*this, {150, 1000, 1800, 1200}};
+  forms::TreeView tree{*this, {2100, 1000, 1800, 1200}};
+  forms::ColumnTree columns{*this, {4050, 1000, 1800, 1200}};
+};
+
+/// Controls whose scroll bars come and go while they hold back their repaint.
+class RepaintHeldTest : public WindowTest {
+ protected:
+  RepaintHeldTest() {
+    plan<'A'>().design.width = 6300;
+    opened<HeldForm>();
+  }
+  static HeldForm& form() { return forms::single<HeldForm>(); }
+
+  static void fill(forms::TreeView& tree, std::size_t count, const std::u16string& text) {
+    const forms::RepaintHeld held(tree);
+    while (tree.count() > count) tree.remove(tree.count());
+    for (std::size_t node = 1; node <= tree.count(); ++node) tree.setText(node, text);
+    while (tree.count() < count) tree.add(text);
+  }
+
+  static void expectPainted(const forms::Widget& widget, LONG_PTR bar, bool shown) {
+    EXPECT_EQ(hasScrollBar(widget.handle(), bar), shown);
+    EXPECT_TRUE(isPaintedWhole(widget.handle()));
+  }
+};
+
+TEST_F(RepaintHeldTest, ARichTextBoxPaintsABarThatComesOrGoes) {
+  const auto show = [](const std::u16string& text) {
+    const forms::RepaintHeld held(form().pane);
+    form().pane.setText(text);
+  };
+  const std::u16string few = u"word\r\nmeaning that is longer than the pane is wide";
+  std::u16string many = few;
+  for (int i = 0; i < 30; ++i) many += u"\r\nmeaning";
+  show(few);
+  expectPainted(form().pane, WS_VSCROLL, false);
+  show(many);
+  expectPainted(form().pane, WS_VSCROLL, true);
+  show(few);
+  expectPainted(form().pane, WS_VSCROLL, false);
+}
+
+TEST_F(RepaintHeldTest, ATreePaintsABarThatComesOrGoes) {
+  fill(form().tree, 2, u"a word that is longer than the tree is wide");
+  expectPainted(form().tree, WS_VSCROLL, false);
+  fill(form().tree, 60, u"a word that is longer than the tree is wide");
+  expectPainted(form().tree, WS_VSCROLL, true);
+  fill(form().tree, 2, u"another word that is longer than the tree is wide");
+  expectPainted(form().tree, WS_VSCROLL, false);
+}
+
+TEST_F(RepaintHeldTest, ATreeOfColumnsPaintsBothBarsThatComeOrGo) {
+  forms::ColumnTree& tree = form().columns;
+  const std::u16string wide(100, u'x');
+  fill(tree, 2, u"short");
+  expectPainted(tree, WS_VSCROLL, false);
+  fill(tree, 60, u"short");
+  expectPainted(tree, WS_VSCROLL, true);
+  fill(tree, 60, wide);
+  expectPainted(tree, WS_HSCROLL, true);
+  fill(tree, 2, wide);
+  expectPainted(tree, WS_VSCROLL, false);
+  expectPainted(tree, WS_HSCROLL, true);
+  fill(tree, 2, u"short");
+  expectPainted(tree, WS_HSCROLL, false);
+}
+
+}  // namespace
+}  // namespace wintest
