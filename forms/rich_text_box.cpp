@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/clipboard.h"
 #include "forms/form.h"
 #include "forms/geometry.h"
 #include "forms/system_error.h"
@@ -31,6 +32,16 @@ ControlKind kindOf(RichTextBox::Look look) {
   return {richEditClass(), kStyle | WS_TABSTOP, WS_EX_CLIENTEDGE};
 }
 
+/// Where the control puts the text that a message asks for; null for a text of bytes.
+wchar_t* givenText(UINT message, WPARAM wParam, LPARAM lParam) {
+  constexpr UINT kUtf16 = 1200;  // its number among the code pages
+  if (message == EM_GETTEXTRANGE) return reinterpret_cast<const TEXTRANGEW*>(lParam)->lpstrText;
+  if (message == EM_GETTEXTEX && reinterpret_cast<const GETTEXTEX*>(wParam)->codepage != kUtf16) {
+    return nullptr;
+  }
+  return reinterpret_cast<wchar_t*>(lParam);
+}
+
 }  // namespace
 
 RichTextBox::RichTextBox(Form& form, const WidgetBox& box, Look look)
@@ -52,9 +63,12 @@ void RichTextBox::keepMargins() {
   send(EM_SETRECT, 0, reinterpret_cast<LPARAM>(&inner));
 }
 
+// A line whose rest does not fit beside its leading blank would break behind the blank, where the
+// control knows no other place to break (Wine's knows none between Han characters): an empty line.
+// The control therefore holds no-break spaces there, and blanks is what it gives out.
 void RichTextBox::setText(const std::u16string& text) {
   text_ = text;
-  SetWindowTextW(handle(), wide(text));
+  SetWindowTextW(handle(), wide(withFirmBlanks(text)));
   if (hangingIndent_ == 0 || text.empty()) return;
   PARAFORMAT format{};
   format.cbSize = sizeof format;
@@ -109,8 +123,32 @@ Place RichTextBox::caretPlace() const {
           toTwips(std::clamp(point.y, client.top, client.bottom), form().dpi())};
 }
 
+void RichTextBox::copy() const {
+  if (selLength() != 0) setClipboardText(form().handle(), selText());
+}
+
 LRESULT RichTextBox::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    case WM_GETTEXT:
+    case EM_GETSELTEXT:
+    case EM_GETLINE:
+    case EM_GETTEXTRANGE:
+    case EM_GETTEXTEX: {
+      const LRESULT length = Widget::handleMessage(message, wParam, lParam);
+      if (wchar_t* given = givenText(message, wParam, lParam)) {
+        std::replace(given, given + length, static_cast<wchar_t>(kNoBreakSpace), L' ');
+      }
+      return length;
+    }
+    case WM_COPY:
+      copy();
+      return 0;
+    case WM_KEYDOWN:
+      if (GetKeyState(VK_CONTROL) < 0 && (wParam == 'C' || wParam == VK_INSERT)) {
+        copy();
+        return 0;
+      }
+      return Widget::handleMessage(message, wParam, lParam);
     case WM_GETDLGCODE:
       // The pane is for reading: Tab leaves it, as it leaves every other widget.
       return Widget::handleMessage(message, wParam, lParam) &

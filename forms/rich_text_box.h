@@ -6,7 +6,7 @@
 namespace forms {
 
 /// A read-only pane of coloured text. Positions are those of the text as it was set, from 0, where
-/// CR LF counts two.
+/// CR LF counts two. No line breaks behind the blank that it begins with.
 class RichTextBox : public Widget {
  public:
   enum class Look {
@@ -37,6 +37,7 @@ class RichTextBox : public Widget {
 
  private:
   [[nodiscard]] Place caretPlace() const;
+  void copy() const;
   void keepMargins();
 
   Look look_;

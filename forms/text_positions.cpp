@@ -11,6 +11,14 @@ bool isLineEnd(std::u16string_view text, std::size_t at) {
 
 }  // namespace
 
+std::u16string withFirmBlanks(std::u16string_view text) {
+  std::u16string firm(text);
+  for (std::size_t i = 0; i < firm.size(); ++i) {
+    if (firm[i] == u' ' && (i == 0 || firm[i - 1] == u'\n')) firm[i] = kNoBreakSpace;
+  }
+  return firm;
+}
+
 std::size_t controlPosition(std::u16string_view text, std::size_t index) {
   index = std::min(index, text.size());
   std::size_t pairs = 0;

@@ -10,6 +10,13 @@ namespace {
 using forms::controlPosition;
 using forms::textPosition;
 
+TEST(FirmBlanks, StandWhereALineBegins) {
+  EXPECT_EQ(forms::withFirmBlanks(u" bit\r\n 位 比；\r\n  two\r\nx"),
+            u"\u00A0bit\r\n\u00A0位 比；\r\n\u00A0 two\r\nx");
+  EXPECT_EQ(forms::withFirmBlanks(u""), u"");
+  EXPECT_EQ(forms::withFirmBlanks(u"a "), u"a ");
+}
+
 TEST(TextPositions, AreTheSameWithoutLineEnds) {
   for (std::size_t at = 0; at <= 4; ++at) {
     EXPECT_EQ(controlPosition(u"word", at), at);
