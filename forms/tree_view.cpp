@@ -73,8 +73,7 @@ std::size_t TreeView::selected() const {
   return numberOf(reinterpret_cast<HTREEITEM>(send(TVM_GETNEXTITEM, TVGN_CARET)));
 }
 
-void TreeView::deselect() {
-  send(TVM_SELECTITEM, TVGN_CARET, 0);
+void TreeView::scrollToBeginning() {
   send(WM_VSCROLL, SB_TOP);
   // Not every system's control knows SB_LEFT.
   send(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 0));

@@ -26,8 +26,8 @@ class TreeView : public Widget {
   void select(std::size_t number);
   /// Number of the selected node; 0 for none.
   [[nodiscard]] std::size_t selected() const;
-  /// Selects no node and goes back to the beginning.
-  void deselect();
+  /// Scrolls back to the first node and its beginning; the selection stays where it is.
+  void scrollToBeginning();
 
   /// Puts `picture` before every node.
   void setPicture(const Picture& picture);

@@ -27,7 +27,6 @@ void frmMain::MakeTree(data::DataControl& recordSource, forms::TreeView& tree,
                        std::int16_t maxRows) try {
   const std::size_t nodeCount = tree.count();
   const forms::TreeView::RepaintHeld held(tree);
-  tree.deselect();
   data::RecordSet& rows = recordSource.recordset();
   if (rows.empty()) {
     for (std::size_t node = 1; node <= nodeCount; ++node) tree.setText(node, {});
@@ -48,6 +47,7 @@ void frmMain::MakeTree(data::DataControl& recordSource, forms::TreeView& tree,
   }
   tree.refresh();
   for (std::size_t surplus = written; surplus < nodeCount; ++surplus) tree.remove(written + 1);
+  tree.scrollToBeginning();
 } catch (const std::exception&) {
   // The lines already written stay.
 }

@@ -21,6 +21,8 @@ class ColumnTreeTest : public WindowTest {
     tree().setFocus();
   }
   static forms::ColumnTree& tree() { return forms::single<ColumnForm>().tree; }
+  /// Leaves no row highlighted, so that all are dark on light.
+  static void deselect() { SendMessageW(tree().handle(), TVM_SELECTITEM, TVGN_CARET, 0); }
 
   /// How many columns a row's text takes on the screen, up to its last dark pixel.
   static int columnsShown(int number) {
@@ -57,7 +59,7 @@ TEST_F(ColumnTreeTest, AHanCharacterTakesExactlyTwoColumns) {
   tree().add(std::u16string(10, u'汉') + u"M");
   tree().add(std::u16string(10, u'，') + u"M");
   tree().add(u"汉ii字MM，..汉字汉字汉M");
-  tree().deselect();
+  deselect();
   ASSERT_TRUE(eventually([] { return columnsShown(1) == 1; }));
   for (const int row : {2, 3, 4, 5, 6}) EXPECT_EQ(columnsShown(row), 21) << row;
   EXPECT_EQ(columnsShown(7), 23);
@@ -71,7 +73,7 @@ TEST_F(ColumnTreeTest, ColumnsStayStraightAtAnotherResolution) {
   const RECT suggested{40, 40, 1000, 700};
   SendMessageW(forms::single<ColumnForm>().handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
                reinterpret_cast<LPARAM>(&suggested));
-  tree().deselect();
+  deselect();
   EXPECT_GT(tree().columnWidth(), before);
   ASSERT_TRUE(eventually([] { return columnsShown(1) == 1; }));
   for (const int row : {2, 3}) EXPECT_EQ(columnsShown(row), 21) << row;
@@ -150,11 +152,13 @@ TEST_F(ColumnTreeTest, ItScrollsAsFarAtAnotherResolution) {
 
 TEST_F(ColumnTreeTest, NewTextsLeaveTheFirstRowOnTop) {
   for (int i = 0; i < 50; ++i) tree().add(u"short");
+  tree().select(50);
   {
     const forms::TreeView::RepaintHeld held(tree());
-    tree().deselect();
     for (std::size_t row = 1; row <= tree().count(); ++row) tree().setText(row, u"something wider");
+    tree().scrollToBeginning();
   }
+  EXPECT_EQ(tree().selected(), 50U);
   EXPECT_EQ(scrolling(SB_VERT).nPos, 0);
   const RECT first = harness::treeNodeRect(tree().handle(), 0).value_or(RECT{});
   EXPECT_EQ(first.top, rectOf(tree().handle()).top + GetSystemMetrics(SM_CYEDGE));
@@ -177,15 +181,15 @@ TEST_F(ColumnTreeTest, ANewTextKeepsTheSelection) {
             (std::vector<std::wstring>{L"first", L"new", L"c"}));
 }
 
-TEST_F(ColumnTreeTest, DeselectingGoesBackToTheBeginning) {
+TEST_F(ColumnTreeTest, ScrollsToTheBeginningInBothDirectionsAndKeepsTheSelection) {
   for (int i = 0; i < 100; ++i) tree().add(std::u16string(200, u'x'));
   tree().select(100);
   SendMessageW(tree().handle(), WM_HSCROLL, SB_PAGERIGHT, 0);
   forms::doEvents();
   ASSERT_GT(scrolling(SB_VERT).nPos, 0);
   ASSERT_GT(scrolling(SB_HORZ).nPos, 0);
-  tree().deselect();
-  EXPECT_EQ(tree().selected(), 0U);
+  tree().scrollToBeginning();
+  EXPECT_EQ(tree().selected(), 100U);
   EXPECT_EQ(scrolling(SB_VERT).nPos, 0);
   EXPECT_EQ(scrolling(SB_HORZ).nPos, 0);
 }

@@ -137,7 +137,7 @@ TEST_F(FrmMainSearching, TheLinesStartAtTheTopAgain) {
   easy(u"bit2");
   forms::doEvents();
   EXPECT_TRUE(harness::treeNodeRect(form().TreeView2.handle(), 0).has_value());
-  EXPECT_EQ(form().TreeView2.selected(), 0U);
+  EXPECT_EQ(form().TreeView2.selected(), 90U);
 }
 
 TEST_F(FrmMainSearching, LinesAreWrittenToAnyTreeUpToALimit) {
