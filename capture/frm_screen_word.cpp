@@ -26,6 +26,16 @@ LONG_PTR setProcedure(HWND window, WNDPROC procedure) {
   return SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
 }
 
+/// The popup, loaded. It handles events while it loads, and goes again where the pointer moves away
+/// meanwhile: then it is loaded once more, since it takes a popup to end the StopCapture that
+/// follows.
+frmScreenWordMeaning& loadedPopup() {
+  while (true) {
+    auto& popup = forms::single<frmScreenWordMeaning>();
+    if (forms::isLoaded<frmScreenWordMeaning>()) return popup;
+  }
+}
+
 }  // namespace
 
 frmScreenWord::frmScreenWord() : Form(design()) {
@@ -53,40 +63,36 @@ void frmScreenWord::Form_Unload() {
   nhw32::ResetNHW32();
 }
 
-void frmScreenWord::timScreenWord1_Timer() {
+void frmScreenWord::timScreenWord1_Timer() try {
+  // The popup handles events while it loads, ticks of this timer among them. A probe then would arm
+  // the service again, and its word, arriving after StopCapture, would open another popup as soon
+  // as this one closes.
   if (handingOver_) return;
-  try {
-    catchWord();
-  } catch (const std::exception&) {
-    // A probe that fails ends silently; the next one comes in a moment.
-  }
+  catchWord();
   nhw32::SetNHW32();
   ScreenWord::strScreenWord.clear();
+} catch (const std::exception&) {
+  // The probe ends silently where it failed; the next one comes in a moment.
 }
 
 void frmScreenWord::catchWord() {
-  POINT pointer{};
-  GetCursorPos(&pointer);
-  ScreenWord::CatchWordAt(pointer);
+  ScreenWord::CatchWordAt(pointerPlace());
   timScreenWord2.setEnabled(false);
 }
 
 void frmScreenWord::Timer1_Timer() {
-  // The popup handles events while it opens, further ticks among them.
+  // Nor does the popup's loading hand the same word over once more.
   if (handingOver_ || !capture::opensPopup(ScreenWord::strScreenWord)) return;
   handingOver_ = true;
   try {
-    handOver(ScreenWord::GetFirstWord(ScreenWord::strScreenWord));
+    std::u16string word = ScreenWord::GetFirstWord(ScreenWord::strScreenWord);
+    auto& popup = loadedPopup();
+    popup.showMeaning(word, popup.Adodc1);
+    ScreenWord::strScreenWord.clear();
+    ScreenWord::StopCapture();
   } catch (const std::exception&) {
-    // No popup then, and nothing to trouble the user with in the middle of other work.
+    // No popup then, and nothing to trouble the user with in the middle of other work. Capture goes
+    // on: only a popup starts it again.
   }
-  ScreenWord::strScreenWord.clear();
-  // A popup that the pointer left while it was opening has closed already, and capture goes on.
-  if (forms::isLoaded<frmScreenWordMeaning>()) ScreenWord::StopCapture();
   handingOver_ = false;
-}
-
-void frmScreenWord::handOver(std::u16string word) {
-  auto& popup = forms::single<frmScreenWordMeaning>();
-  if (forms::isLoaded<frmScreenWordMeaning>()) popup.showMeaning(word, popup.Adodc1);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "data/data_control.h"
 #include "forms/form.h"
 #include "forms/timer.h"
@@ -16,13 +18,19 @@ class frmScreenWord : public forms::Form {
   forms::Timer timScreenWord2{*this, 60000, true};
   data::DataControl Adodc1;
 
+  /// Tells where the pointer is, in screen pixels.
+  std::function<POINT()> pointerPlace = [] {
+    POINT pointer{};
+    GetCursorPos(&pointer);
+    return pointer;
+  };
+
  private:
   void Form_Load() override;
   void Form_Unload() override;
   void timScreenWord1_Timer();
   void Timer1_Timer();
   void catchWord();
-  static void handOver(std::u16string word);
 
   bool handingOver_ = false;
 };

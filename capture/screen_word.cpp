@@ -82,10 +82,6 @@ void CatchWordAt(const POINT& point) {
 
 void StartCapture() { setCapture(true); }
 
-void StopCapture() {
-  setCapture(false);
-  disarm();
-  strScreenWord.clear();
-}
+void StopCapture() { setCapture(false); }
 
 }  // namespace ScreenWord

@@ -32,8 +32,8 @@ void CatchWordAt(const POINT& point);
 /// Starts the three timers of frmScreenWord, loading it where it is not loaded. Idempotent.
 void StartCapture();
 
-/// Stops the three timers of frmScreenWord, loading it where it is not loaded, and forgets the word
-/// that was asked for, so that it does not turn up when capture runs again. Idempotent.
+/// Stops the three timers of frmScreenWord, loading it where it is not loaded. What is armed stays
+/// so, and a word that is pending is handed over when capture runs again. Idempotent.
 void StopCapture();
 
 }  // namespace ScreenWord

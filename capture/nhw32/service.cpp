@@ -86,6 +86,7 @@ void Service::stop() {
 void Service::arm(HWND host, POINT point) {
   if (!started_) return;
   disarm();
+  foreground_ = GetForegroundWindow();
   const HWND target = WindowFromPoint(point);
   if (target != nullptr) {
     desk_->arm({idOf(target), {static_cast<int>(point.x), static_cast<int>(point.y)}}, idOf(host));
@@ -100,6 +101,8 @@ void Service::disarm() {
 
 bool Service::armed() const { return started_ && desk_->armed(); }
 
-std::optional<Word> Service::word() const { return started_ ? desk_->word() : std::nullopt; }
+std::optional<Word> Service::word() const {
+  return started_ && GetForegroundWindow() == foreground_ ? desk_->word() : std::nullopt;
+}
 
 }  // namespace nhw32

@@ -28,7 +28,8 @@ class Service {
   void disarm();
   /// Whether a question stands: armed and not disarmed since.
   [[nodiscard]] bool armed() const;
-  /// The announced word, if there is one.
+  /// The announced word, if there is one and the user has not turned to another window since it was
+  /// asked for: a slow answer must not turn up over what is read by then.
   [[nodiscard]] std::optional<Word> word() const;
 
   /// Threads at work, those included that were sent away and are still waiting for a window.
@@ -40,6 +41,7 @@ class Service {
   ProviderFactory factory_;
   std::shared_ptr<std::atomic<int>> workers_ = std::make_shared<std::atomic<int>>(0);
   std::shared_ptr<RequestDesk> desk_;  ///< shared with the worker, which may outlive us
+  HWND foreground_ = nullptr;          ///< when the question was armed
   bool started_ = false;
 };
 

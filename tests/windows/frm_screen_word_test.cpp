@@ -5,6 +5,7 @@
 #include "tests/program/harness/find.h"
 #include "tests/windows/support/capture_test.h"
 #include "tests/windows/support/shown_watch.h"
+#include "tests/windows/support/window_everywhere.h"
 
 namespace wintest {
 namespace {
@@ -189,17 +190,61 @@ TEST_F(FrmScreenWord, AWordIsHandedOverOnceAlthoughThePopupHandlesEventsWhileItO
   EXPECT_FALSE(captureRuns());
 }
 
-TEST_F(FrmScreenWord, APopupThatThePointerLeavesWhileItOpensDoesNotStopCapture) {
+TEST_F(FrmScreenWord, APopupThatThePointerLeavesWhileItOpensIsLoadedAgain) {
   ScreenWord::StartCapture();
   ScreenWord::strScreenWord = u"data";
-  forms::Dispatcher::instance().post([] {
+  HWND first = nullptr;
+  forms::Dispatcher::instance().post([&] {
+    first = popup().handle();
     input::moveTo({kNowhere.x - 100, kNowhere.y});
     Sleep(60);
   });
   host().Timer1.onTimer.raise();
-  EXPECT_FALSE(forms::isLoaded<frmScreenWordMeaning>());
-  EXPECT_TRUE(captureRuns());
+  EXPECT_FALSE(IsWindow(first)) << "it did not go while it opened";
+  ASSERT_TRUE(popupIsUp());
+  EXPECT_EQ(headword(), u"data");
+  EXPECT_FALSE(captureRuns());
   EXPECT_EQ(ScreenWord::strScreenWord, u"");
+  // It is the one that starts capture again.
+  input::moveTo(kNowhere);
+  EXPECT_TRUE(eventually([] { return !forms::isLoaded<frmScreenWordMeaning>(); }));
+  EXPECT_TRUE(captureRuns());
+}
+
+TEST_F(FrmScreenWord, NoProbeArmsTheServiceWhileAPopupOpens) {
+  const PlainWindow edit(L"Edit", {200, 300, 900, 400}, L"some data here");
+  input::moveTo(wordPoint(edit.handle(), 6));
+  ScreenWord::StartCapture();
+  ScreenWord::strScreenWord = u"bit";
+  bool armed = true;
+  forms::Dispatcher::instance().post([&] {
+    host().timScreenWord1.onTimer.raise();
+    armed = nhw32::service().armed();
+  });
+  host().Timer1.onTimer.raise();
+  EXPECT_FALSE(armed);
+  EXPECT_EQ(headword(), u"bit");
+}
+
+TEST_F(FrmScreenWord, AProbeThatFailsEndsThereAndTheNextOneIsMade) {
+  const PlainWindow window(plainClass(L"TMyEditor"), {32'700, 300, 32'900, 400});
+  const WindowEverywhere everywhere(window.handle());
+  host().pointerPlace = [] { return POINT{32'768, 350}; };
+  nhw32::ResetNHW32();
+  ScreenWord::StartCapture();
+  host().Timer1.setEnabled(false);
+  ScreenWord::strScreenWord = u"data";
+  host().timScreenWord1.onTimer.raise();
+  // What follows the step that failed was not done.
+  EXPECT_TRUE(host().timScreenWord2.enabled());
+  EXPECT_EQ(ScreenWord::strScreenWord, u"data");
+  EXPECT_FALSE(nhw32::service().armed());
+  EXPECT_EQ(boxes.count(), 0U);
+  host().pointerPlace = [] { return POINT{32'767, 350}; };
+  host().timScreenWord1.onTimer.raise();
+  EXPECT_FALSE(host().timScreenWord2.enabled());
+  EXPECT_EQ(ScreenWord::strScreenWord, u"");
+  ScreenWord::StopCapture();
 }
 
 TEST_F(FrmScreenWord, AFailingLookupStopsCaptureUntilThePointerMoves) {

@@ -4,6 +4,7 @@
 #include "capture/frm_screen.h"
 #include "capture/frm_screen_word.h"
 #include "capture/frm_screen_word_meaning.h"
+#include "capture/nhw32/nhw32.h"
 #include "capture/screen_word.h"
 #include "tests/windows/support/capture_state.h"
 #include "tests/windows/support/dictionary.h"
@@ -21,6 +22,8 @@ class CaptureTest : public WindowTest {
     useDictionary();
     input::moveTo(kNowhere);
     ScreenWord::StopCapture();
+    nhw32::BL_SetFlag32(nhw32::kDisarm, nullptr, 0, 0);
+    ScreenWord::strScreenWord.clear();
   }
 
   static frmScreenWord& host() { return forms::single<frmScreenWord>(); }
