@@ -6,6 +6,7 @@
 #include "forms/focus.h"
 #include "forms/geometry.h"
 #include "forms/registry.h"
+#include "forms/stacking.h"
 #include "forms/system_error.h"
 
 namespace forms {
@@ -17,6 +18,10 @@ DWORD styleOf(const FormDesign& design) {
       return WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
     case Frame::fixed:
       return WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
+    case Frame::dialog:
+      // As the system's own dialogs: an owned window of another kind is not one to which every
+      // window manager gives the keyboard.
+      return WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
     case Frame::borderless:
       break;
   }
@@ -27,8 +32,11 @@ DWORD exStyleOf(const FormDesign& design) {
   DWORD style = design.topmost ? WS_EX_TOPMOST : 0;
   if (design.neverActive) style |= WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW;
   if (!design.taskbarButton) style |= WS_EX_TOOLWINDOW;
+  if (design.frame == Frame::dialog) style |= WS_EX_DLGMODALFRAME;
   return style;
 }
+
+PixelBox toBox(const RECT& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 
 /// Whether this thread shows a menu, its own or a control's.
 bool isMenuOpen() {
@@ -100,6 +108,12 @@ Form* Form::of(HWND window) {
   return reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
 }
 
+Rank Form::rank() const {
+  if (design_.neverActive) return Rank::notice;
+  if (!design_.topmost) return Rank::window;
+  return design_.floating ? Rank::floating : Rank::bar;
+}
+
 void Form::load() {
   guard([this] { Form_Load(); });
   loaded_ = true;
@@ -117,6 +131,7 @@ void Form::show(Form* owner) {
   ShowWindow(handle_, isMinimised() ? SW_RESTORE : SW_SHOW);
   SetForegroundWindow(handle_);
   settleFocus();
+  settleStacking();
 }
 
 void Form::hide() { ShowWindow(handle_, SW_HIDE); }
@@ -168,18 +183,32 @@ void Form::setPosition(int left, int top) {
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void Form::centre(const Form* other) {
-  const RECT work = monitorOf(other == nullptr ? handle_ : other->handle_).work;
-  RECT over = work;
-  if (other != nullptr) GetWindowRect(other->handle_, &over);
-  RECT own{};
-  GetWindowRect(handle_, &own);
-  const LONG width = std::min(own.right - own.left, work.right - work.left);
-  const LONG height = std::min(own.bottom - own.top, work.bottom - work.top);
-  const LONG left = std::clamp((over.left + over.right - width) / 2, work.left, work.right - width);
-  const LONG top =
-      std::clamp((over.top + over.bottom - height) / 2, work.top, work.bottom - height);
-  SetWindowPos(handle_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+PixelBox Form::place() const {
+  RECT rect{};
+  GetWindowRect(handle_, &rect);
+  return toBox(rect);
+}
+
+void Form::setPlace(const PixelBox& place) {
+  SetWindowPos(handle_, nullptr, place.left, place.top, place.width(), place.height(),
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Form::centre(const Form& other) {
+  setPlace(centred(place(), other.place(), toBox(monitorOf(other.handle_).work)));
+}
+
+void Form::centre() {
+  const PixelBox work = toBox(monitorOf(handle_).work);
+  const PixelBox middle = centred(place(), work, work);
+  // Beside all of them; failing that, where at least the smaller ones do not lie on it.
+  for (const Rank lowest : {Rank::floating, Rank::bar}) {
+    if (const auto free = placeBeside(middle, work, placesKeptOnTop(lowest, Rank::bar))) {
+      setPlace(*free);
+      return;
+    }
+  }
+  setPlace(middle);
 }
 
 void Form::setMousePointer(const wchar_t* systemCursor) {
@@ -242,6 +271,10 @@ void Form::setToolTip(Widget& widget, const std::u16string& text) {
   SendMessageW(toolTip_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
   tool.lpszText = const_cast<wchar_t*>(wide(text));
   if (!text.empty()) SendMessageW(toolTip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void Form::hideToolTip() const {
+  if (toolTip_ != nullptr) SendMessageW(toolTip_, TTM_POP, 0, 0);
 }
 
 void Form::raiseActivate() noexcept {

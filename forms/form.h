@@ -4,12 +4,18 @@
 #include <vector>
 
 #include "forms/guard.h"
+#include "forms/placement.h"
 #include "forms/widget.h"
 #include "forms/win32.h"
 
 namespace forms {
 
-enum class Frame { borderless, sizable, fixed };
+enum class Frame {
+  borderless,
+  sizable,
+  fixed,
+  dialog,  ///< fixed, for a form that is shown with an owner
+};
 
 /// Resource number of the program's own icon: the first, which Explorer takes too.
 inline constexpr int kProgramIcon = 1;
@@ -24,6 +30,7 @@ struct FormDesign {
   int leastWidth = 0;  ///< the user cannot make a sizable form smaller
   int leastHeight = 0;
   bool topmost = false;      ///< raising it never takes the focus
+  bool floating = false;     ///< a topmost form that stays below all other windows of ours
   bool neverActive = false;  ///< no focus, no taskbar button, no place in Alt+Tab
   bool taskbarButton = true;
   bool closable = true;  ///< reacts to Alt+F4, the close box and WM_CLOSE
@@ -46,6 +53,7 @@ class Form {
 
   [[nodiscard]] HWND handle() const { return handle_; }
   [[nodiscard]] int dpi() const { return dpi_; }
+  [[nodiscard]] Rank rank() const;
 
   /// Runs Form_Load. An error that it lets out is shown; the form stays as far as it got.
   void load();
@@ -63,9 +71,14 @@ class Form {
   [[nodiscard]] int left() const;
   [[nodiscard]] int top() const;
   void setPosition(int left, int top);
-  /// Puts the form into the middle of `other`, or of its monitor, so that all of it lies on the
-  /// monitor's work area; one that is too large for that is made smaller.
-  void centre(const Form* other = nullptr);
+  /// The outer rectangle in screen pixels.
+  [[nodiscard]] PixelBox place() const;
+  /// Puts the form into the middle of `other` so that all of it lies on the monitor's work area;
+  /// one that is too large for that is made smaller.
+  void centre(const Form& other);
+  /// The same in the middle of its monitor; where topmost forms of ours lie there, beside them as
+  /// far as there is room.
+  void centre();
   [[nodiscard]] bool isMinimised() const { return IsIconic(handle_) != FALSE; }
 
   /// The pointer's shape over the whole form; nullptr is each widget's own.
@@ -75,7 +88,8 @@ class Form {
   void setForeColor(COLORREF color) { foreColor_ = color; }
   [[nodiscard]] COLORREF foreColor() const { return foreColor_; }
 
-  /// Puts the form above all other windows; moves, sizes and activates nothing.
+  /// Puts the form above all other windows but those of ours that are to stay above it; moves,
+  /// sizes and activates nothing.
   void bringToTop();
 
   /// The widget under a screen point, or nullptr; `except` is looked through.
@@ -90,6 +104,8 @@ class Form {
   void addWidget(Widget& widget);
   void removeWidget(Widget& widget);
   void setToolTip(Widget& widget, const std::u16string& text);
+  /// Takes the tool tip off the screen that is up.
+  void hideToolTip() const;
 
   void raiseActivate() noexcept;
   void raiseLostFocus() noexcept;
@@ -125,6 +141,7 @@ class Form {
   bool passToGrabber(UINT message, WPARAM wParam, LPARAM lParam);
   void limitTracking(MINMAXINFO& limits) const;
   void adjustPlacement(WINDOWPOS& position) const;
+  void setPlace(const PixelBox& place);
   [[nodiscard]] SIZE outerPixels(int width, int height, int dpi) const;
   [[nodiscard]] SIZE outerPixels(int width, int height) const {
     return outerPixels(width, height, dpi_);

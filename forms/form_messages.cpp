@@ -5,6 +5,7 @@
 #include "forms/form.h"
 #include "forms/geometry.h"
 #include "forms/registry.h"
+#include "forms/stacking.h"
 
 namespace forms {
 
@@ -35,6 +36,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       } else if (shown_) {
         resized();
       }
+      if (wParam == SIZE_MAXIMIZED) barsMayBeCovered(*this);
       return 0;
     case WM_PAINT:
       paint();
@@ -44,8 +46,10 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         if (HWND focus = GetFocus(); IsChild(handle_, focus)) lastFocus_ = focus;
       } else if (HIWORD(wParam) == 0) {
         giveFocusBack();
+        barsMayBeCovered(*this);
       }
       focusMayHaveMoved();
+      stackingMayHaveChanged();
       return 0;
     case WM_SETFOCUS:
       giveFocusBack();
@@ -59,6 +63,12 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_WINDOWPOSCHANGING:
       adjustPlacement(*reinterpret_cast<WINDOWPOS*>(lParam));
+      break;
+    case WM_WINDOWPOSCHANGED:
+      if (design_.floating && (reinterpret_cast<WINDOWPOS*>(lParam)->flags & SWP_NOZORDER) == 0) {
+        raiseWhatIsAbove(*this);
+      }
+      stackingMayHaveChanged();
       break;
     case WM_GETMINMAXINFO:
       limitTracking(*reinterpret_cast<MINMAXINFO*>(lParam));
@@ -83,6 +93,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:
+      barsMayBeCovered(*this);
       passToGrabber(message, wParam, lParam);
       return 0;
     case WM_MOUSEMOVE:
@@ -179,9 +190,17 @@ void Form::giveFocusBack() {
 }
 
 void Form::adjustPlacement(WINDOWPOS& position) const {
-  const bool raisedAboveAll =
-      (position.flags & SWP_NOZORDER) == 0 && position.hwndInsertAfter == HWND_TOPMOST;
+  const bool reordered = (position.flags & SWP_NOZORDER) == 0;
+  const bool raisedAboveAll = reordered && position.hwndInsertAfter == HWND_TOPMOST;
   if (design_.neverActive || (design_.topmost && raisedAboveAll)) position.flags |= SWP_NOACTIVATE;
+  if (design_.neverActive || !design_.topmost) return;
+  // The system itself uses HWND_TOP when the user activates the window.
+  if (!raisedAboveAll && !(reordered && position.hwndInsertAfter == HWND_TOP)) return;
+  if (const auto after = insertAfter(*this)) {
+    position.hwndInsertAfter = *after;
+  } else {
+    position.flags |= SWP_NOZORDER;
+  }
 }
 
 void Form::limitTracking(MINMAXINFO& limits) const {

@@ -39,4 +39,10 @@ std::vector<Form*> Registry::ownedBy(const Form& owner) const {
   return owned;
 }
 
+std::vector<Form*> Registry::all() const {
+  std::vector<Form*> all;
+  for (const auto& [type, form] : forms_) all.push_back(form.get());
+  return all;
+}
+
 }  // namespace forms

@@ -20,6 +20,7 @@ class Registry {
   void retire(const Form& form);
   void purge();
   [[nodiscard]] std::vector<Form*> ownedBy(const Form& owner) const;
+  [[nodiscard]] std::vector<Form*> all() const;
 
  private:
   std::unordered_map<std::type_index, std::unique_ptr<Form>> forms_;

@@ -3,6 +3,7 @@
 #include "forms/focus.h"
 #include "forms/form.h"
 #include "forms/geometry.h"
+#include "forms/stacking.h"
 #include "forms/system_error.h"
 
 namespace forms {
@@ -104,6 +105,7 @@ void Widget::raiseMouseEvents(UINT message, LPARAM lParam) {
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:
       settleFocus();
+      barsMayBeCovered(form_);
       onMouseDown.raise(placeOf(lParam));
       break;
     case WM_LBUTTONUP:

@@ -17,6 +17,7 @@ forms::FormDesign design() {
   design.width = 3500;
   design.height = 3200;
   design.topmost = true;
+  design.floating = true;
   design.iconResource = forms::kProgramIcon;
   return design;
 }

@@ -13,7 +13,7 @@ forms::FormDesign design() {
   forms::FormDesign design;
   design.name = u"frmSpc";
   design.caption = u"特殊查询";
-  design.frame = forms::Frame::fixed;
+  design.frame = forms::Frame::dialog;
   design.width = 4140;
   design.height = 2175;
   design.iconResource = forms::kProgramIcon;
@@ -31,7 +31,7 @@ frmSpc::frmSpc() : Form(design()) {
   onEscape = [this] { cmdCancel_Click(); };
 }
 
-void frmSpc::Form_Load() { centre(&forms::single<frmMain>()); }
+void frmSpc::Form_Load() { centre(forms::single<frmMain>()); }
 
 void frmSpc::Form_Activate() { ScreenWord::StopCapture(); }
 

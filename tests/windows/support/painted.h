@@ -10,22 +10,22 @@
 
 namespace wintest {
 
-/// What the screen shows of a window, frame included, once that no longer changes.
-inline std::vector<COLORREF> settledPixels(HWND window) {
+/// What the screen shows of a rectangle once that no longer changes.
+inline std::vector<COLORREF> settledPixels(const RECT& rect) {
   std::vector<COLORREF> last;
   eventually([&] {
     passTime(30);
-    return std::exchange(last, harness::screenPixels(rectOf(window))) == last;
+    return std::exchange(last, harness::screenPixels(rect)) == last;
   });
   return last;
 }
 
 /// Whether a window shows what it shows after all of it, frame included, was painted anew.
 inline bool isPaintedWhole(HWND window) {
-  const std::vector<COLORREF> shown = settledPixels(window);
+  const std::vector<COLORREF> shown = settledPixels(rectOf(window));
   RedrawWindow(window, nullptr, nullptr,
                RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-  return settledPixels(window) == shown;
+  return settledPixels(rectOf(window)) == shown;
 }
 
 /// Whether a window has that scroll bar (WS_VSCROLL, WS_HSCROLL) now.

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "forms/placement.h"
+#include "forms/win32.h"
+
+/// The order of our own windows where they meet those that stay on top. All on the user-interface
+/// thread.
+namespace forms {
+
+class Form;
+
+/// The window behind which `form`, a topmost one, goes when it is brought to the top: the lowest of
+/// our topmost windows that are to stay above it. HWND_TOPMOST where there is none, or where it
+/// lies below a window of another program; nullopt where the form is in its place already.
+std::optional<HWND> insertAfter(const Form& form);
+
+/// Brings those of our topmost windows to the top that are to stay above `form` and no longer do:
+/// the system puts a window that it activates above all others.
+void raiseWhatIsAbove(const Form& form);
+
+/// Tells that the activation, or the place or visibility of one of our windows, may have changed;
+/// settleStacking follows from the message loop.
+void stackingMayHaveChanged();
+
+/// Tells that the user has activated, maximised or clicked a form: where it is a floating one, the
+/// bars that meet it come above it again in a moment. Window managers of other systems
+/// raise what the user clicks by themselves, unknown to the system under which we run, by whose
+/// account the bars are on top already.
+void barsMayBeCovered(const Form& form);
+
+/// Makes an ordinary form topmost while it, or a window that it owns, is active and a floating form
+/// lies where it would cover it. Takes it down again once that is over, behind the window of
+/// another program that is active by then.
+void settleStacking();
+
+/// The places, in screen pixels, of our topmost forms of the ranks `lowest` to `highest` that can
+/// be seen: what lies there below them is covered.
+std::vector<PixelBox> placesKeptOnTop(Rank lowest, Rank highest);
+
+}  // namespace forms

@@ -1,0 +1,132 @@
+#include "forms/placement.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+#include <vector>
+
+namespace {
+
+using forms::centred;
+using forms::lowestAbove;
+using forms::meet;
+using forms::PixelBox;
+using forms::placeBeside;
+using forms::Rank;
+
+constexpr PixelBox kWork{0, 0, 1280, 1024};
+
+TEST(Meet, NeedsACommonPixel) {
+  EXPECT_TRUE(meet({0, 0, 10, 10}, {9, 9, 20, 20}));
+  EXPECT_FALSE(meet({0, 0, 10, 10}, {10, 0, 20, 10}));
+  EXPECT_FALSE(meet({0, 0, 10, 10}, {0, 10, 10, 20}));
+  EXPECT_TRUE(meet({0, 0, 10, 10}, {-5, 4, 50, 5}));
+}
+
+TEST(Centred, LiesInTheMiddleOfTheOther) {
+  EXPECT_EQ(centred({0, 0, 100, 50}, {200, 200, 600, 400}, kWork), (PixelBox{350, 275, 450, 325}));
+}
+
+TEST(Centred, StaysInsideTheWorkArea) {
+  EXPECT_EQ(centred({0, 0, 300, 200}, {0, 0, 40, 40}, kWork), (PixelBox{0, 0, 300, 200}));
+  EXPECT_EQ(centred({0, 0, 300, 200}, {1270, 1000, 1300, 1100}, kWork),
+            (PixelBox{980, 824, 1280, 1024}));
+}
+
+TEST(Centred, IsNoLargerThanTheWorkArea) {
+  EXPECT_EQ(centred({0, 0, 3000, 200}, kWork, kWork), (PixelBox{0, 412, 1280, 612}));
+}
+
+TEST(PlaceBeside, IsTheWantedPlaceWhereThatIsFree) {
+  const PixelBox wanted{400, 400, 600, 500};
+  EXPECT_EQ(placeBeside(wanted, kWork, {}), wanted);
+  EXPECT_EQ(placeBeside(wanted, kWork, std::array{PixelBox{600, 400, 700, 500}}), wanted);
+}
+
+TEST(PlaceBeside, IsTheNearestSideOfWhatLiesThere) {
+  const PixelBox wanted{400, 400, 600, 500};
+  // 50 pixels up, 110 down, 150 left, 250 right.
+  EXPECT_EQ(placeBeside(wanted, kWork, std::array{PixelBox{550, 450, 650, 510}}),
+            (PixelBox{400, 350, 600, 450}));
+}
+
+TEST(PlaceBeside, TakesAnotherSideWhereTheNearestLeavesTheWorkArea) {
+  const PixelBox wanted{400, 20, 600, 120};
+  EXPECT_EQ(placeBeside(wanted, kWork, std::array{PixelBox{590, 60, 900, 200}}),
+            (PixelBox{390, 20, 590, 120}));
+}
+
+TEST(PlaceBeside, PassesBetweenSeveral) {
+  const PixelBox wanted{400, 400, 600, 500};
+  const std::array obstacles{PixelBox{300, 390, 700, 510}, PixelBox{300, 100, 700, 310},
+                             PixelBox{300, 600, 700, 1024}};
+  EXPECT_EQ(placeBeside(wanted, kWork, obstacles), (PixelBox{100, 400, 300, 500}));
+}
+
+TEST(PlaceBeside, IsNoneWhereThereIsNoRoom) {
+  EXPECT_EQ(placeBeside({400, 400, 1000, 900}, kWork, std::array{PixelBox{300, 200, 1000, 800}}),
+            std::nullopt);
+}
+
+/// Whether there is a free place within `reach` of the wanted one, by trying all.
+bool anyNearer(const PixelBox& wanted, const PixelBox& work, const std::vector<PixelBox>& obstacles,
+               int reach) {
+  for (int x = -reach; x <= reach; ++x) {
+    for (int y = -reach; y <= reach; ++y) {
+      const PixelBox place{wanted.left + x, wanted.top + y, wanted.right + x, wanted.bottom + y};
+      if ((x * x) + (y * y) >= reach * reach || place.left < work.left || place.top < work.top ||
+          place.right > work.right || place.bottom > work.bottom) {
+        continue;
+      }
+      bool free = true;
+      for (const PixelBox& obstacle : obstacles) free = free && !meet(place, obstacle);
+      if (free) return true;
+    }
+  }
+  return false;
+}
+
+TEST(PlaceBeside, IsFreeAndNoFreePlaceIsNearer) {
+  std::mt19937 random(1);
+  const auto upTo = [&](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
+  const PixelBox work{0, 0, 60, 50};
+  int found = 0;
+  for (int round = 0; round < 300; ++round) {
+    const int left = upTo(40);
+    const int top = upTo(30);
+    const PixelBox wanted{left, top, left + 1 + upTo(60 - left - 1), top + 1 + upTo(50 - top - 1)};
+    std::vector<PixelBox> obstacles;
+    for (int i = upTo(3); i > 0; --i) {
+      const int x = upTo(50);
+      const int y = upTo(40);
+      obstacles.push_back({x, y, x + 1 + upTo(25), y + 1 + upTo(25)});
+    }
+    const auto place = placeBeside(wanted, work, obstacles);
+    if (!place) {
+      EXPECT_FALSE(anyNearer(wanted, work, obstacles, 80));
+      continue;
+    }
+    ++found;
+    EXPECT_EQ(place->width(), wanted.width());
+    EXPECT_EQ(place->height(), wanted.height());
+    for (const PixelBox& obstacle : obstacles) EXPECT_FALSE(meet(*place, obstacle));
+    const int x = place->left - wanted.left;
+    const int y = place->top - wanted.top;
+    int distance = 0;
+    while (distance * distance < (x * x) + (y * y)) ++distance;
+    EXPECT_FALSE(distance > 0 && anyNearer(wanted, work, obstacles, distance - 1));
+  }
+  EXPECT_GT(found, 100);
+}
+
+TEST(LowestAbove, IsTheLastOfAHigherRank) {
+  const std::vector<Rank> order{Rank::notice, Rank::bar, Rank::floating, Rank::window};
+  EXPECT_EQ(lowestAbove(order, Rank::floating), 3U);
+  EXPECT_EQ(lowestAbove(order, Rank::window), 1U);
+  EXPECT_EQ(lowestAbove(order, Rank::bar), 0U);
+  EXPECT_EQ(lowestAbove(order, Rank::notice), std::nullopt);
+  EXPECT_EQ(lowestAbove({}, Rank::floating), std::nullopt);
+}
+
+}  // namespace

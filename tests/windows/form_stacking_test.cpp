@@ -1,0 +1,223 @@
+#include "forms/message_box.h"
+#include "forms/stacking.h"
+#include "tests/program/harness/find.h"
+#include "tests/windows/support/other_program.h"
+#include "tests/windows/support/painted.h"
+#include "tests/windows/support/window_test.h"
+
+namespace wintest {
+namespace {
+
+/// A floats, B is an ordinary window, C a bar.
+class FormStacking : public WindowTest {
+ protected:
+  FormStacking() {
+    plan<'A'>().design.topmost = true;
+    plan<'A'>().design.floating = true;
+    plan<'A'>().paint = [] { a().bringToTop(); };
+    plan<'B'>().load = [] { b().centre(); };
+    plan<'C'>().design.topmost = true;
+    plan<'C'>().design.frame = forms::Frame::borderless;
+    plan<'C'>().design.width = 1500;
+    plan<'C'>().design.height = 375;
+    plan<'C'>().paint = [] { c().bringToTop(); };
+  }
+
+  static FormA& a() { return forms::single<FormA>(); }
+  static FormB& b() { return forms::single<FormB>(); }
+  static FormC& c() { return forms::single<FormC>(); }
+
+  /// Opens A in the middle of the screen, so large that B finds no place beside it.
+  FormA& openLargeA() {
+    auto& form = opened<FormA>();
+    EXPECT_TRUE(untilItLasts(
+        [&] {
+          form.setSize(15000, 13500);
+          form.setPosition(1800, 1200);
+        },
+        [&] { return form.width() == 15000 && rectOf(form.handle()).left < 200; }));
+    return form;
+  }
+
+  static void repaint(const forms::Form& form) {
+    RedrawWindow(form.handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    forms::doEvents();
+  }
+
+  /// Whether the screen shows of `window` what it shows without those that might cover it.
+  static bool isSeenWhole(HWND window, std::initializer_list<const forms::Form*> others) {
+    // Neither the blinking caret nor what is seen beside a frame that is drawn narrower than it is.
+    HideCaret(nullptr);
+    const RECT inside = harness::clientRectOf(window);
+    const std::vector<COLORREF> shown = settledPixels(inside);
+    for (const forms::Form* other : others) ShowWindow(other->handle(), SW_HIDE);
+    forms::doEvents();
+    HideCaret(nullptr);
+    const bool same = settledPixels(inside) == shown;
+    for (const forms::Form* other : others) ShowWindow(other->handle(), SW_SHOWNA);
+    forms::doEvents();
+    return same;
+  }
+
+  /// Shows C, the bar, and keeps in mind how it looks where nothing covers it.
+  static FormC& openBar() {
+    auto& bar = c();
+    bar.setPosition(6000, 1500);
+    bar.show();
+    awaitActive(bar);
+    HideCaret(nullptr);
+    look() = settledPixels(rectOf(bar.handle()));
+    return bar;
+  }
+  static std::vector<COLORREF>& look() {
+    static std::vector<COLORREF> pixels;
+    return pixels;
+  }
+  /// Whether nothing comes to cover it.
+  static bool barIsSeen() {
+    return eventually([] { return settledPixels(rectOf(c().handle())) == look(); });
+  }
+
+  static bool areApart(const forms::Form& one, const forms::Form& other) {
+    return !forms::meet(one.place(), other.place());
+  }
+};
+
+TEST_F(FormStacking, AnOrdinaryWindowOpensBesideAFloatingOne) {
+  auto& floating = opened<FormA>();
+  floating.centre();
+  forms::doEvents();
+  auto& window = opened<FormB>();
+  EXPECT_TRUE(areApart(floating, window));
+  EXPECT_FALSE(isTopmost(window.handle()));
+  repaint(floating);
+  EXPECT_TRUE(isSeenWhole(window.handle(), {&floating}));
+}
+
+TEST_F(FormStacking, WithoutRoomItIsTopmostWhileItIsActive) {
+  auto& floating = openLargeA();
+  auto& window = opened<FormB>();
+  EXPECT_FALSE(areApart(floating, window));
+  EXPECT_TRUE(isTopmost(window.handle()));
+  EXPECT_TRUE(isSeenWhole(window.handle(), {&floating}));
+  floating.show();
+  awaitActive(floating);
+  EXPECT_TRUE(eventually([&] { return !isTopmost(window.handle()); }));
+  EXPECT_TRUE(isSeenWhole(floating.handle(), {&window}));
+  window.show();
+  awaitActive(window);
+  EXPECT_TRUE(isSeenWhole(window.handle(), {&floating}));
+}
+
+TEST_F(FormStacking, ForcedPaintsOfTheFloatingOneLeaveTheActiveWindowAbove) {
+  auto& floating = openLargeA();
+  auto& window = opened<FormB>();
+  for (int i = 0; i < 20; ++i) repaint(floating);
+  EXPECT_TRUE(isAbove(window.handle(), floating.handle()));
+  EXPECT_TRUE(isSeenWhole(window.handle(), {&floating}));
+}
+
+TEST_F(FormStacking, AWindowThatIsMovedOverAFloatingOneStaysVisible) {
+  auto& floating = opened<FormA>();
+  floating.centre();
+  auto& window = opened<FormB>();
+  ASSERT_FALSE(isTopmost(window.handle()));
+  const RECT place = rectOf(floating.handle());
+  EXPECT_TRUE(untilItLasts(
+      [&] {
+        SetWindowPos(window.handle(), nullptr, place.left + 30, place.top + 30, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER);
+      },
+      [&] { return isTopmost(window.handle()); }));
+  EXPECT_TRUE(isSeenWhole(window.handle(), {&floating}));
+}
+
+TEST_F(FormStacking, AnotherProgramThatIsTurnedToIsNotCovered) {
+  auto& floating = openLargeA();
+  auto& window = opened<FormB>();
+  ASSERT_TRUE(isTopmost(window.handle()));
+  const OtherProgram other;
+  other.activate();
+  EXPECT_TRUE(eventually([&] { return !isTopmost(window.handle()); }));
+  EXPECT_TRUE(isAbove(other.window(), window.handle()));
+  EXPECT_TRUE(isAbove(floating.handle(), other.window()));
+}
+
+TEST_F(FormStacking, ADialogAndItsOwnerAreBothSeen) {
+  auto& floating = openLargeA();
+  auto& window = opened<FormB>();
+  plan<'C'>().design = plainDesign('C');
+  plan<'C'>().design.frame = forms::Frame::dialog;
+  plan<'C'>().design.width = 2000;
+  plan<'C'>().design.height = 1200;
+  plan<'C'>().load = [] { c().centre(b()); };
+  c().show(&window);
+  awaitActive(c());
+  EXPECT_TRUE(isTopmost(window.handle()));
+  for (int i = 0; i < 5; ++i) repaint(floating);
+  EXPECT_TRUE(isAbove(window.handle(), floating.handle()));
+  EXPECT_TRUE(isSeenWhole(c().handle(), {&floating}));
+}
+
+TEST_F(FormStacking, AMessageBoxIsSeenWhole) {
+  auto& floating = openLargeA();
+  auto& window = opened<FormB>();
+  bool seen = false;
+  bool ownerAbove = false;
+  boxes.whileUp([&](HWND box) {
+    repaint(floating);
+    floating.bringToTop();
+    ownerAbove = isAbove(window.handle(), floating.handle());
+    seen = isSeenWhole(box, {&floating});
+  });
+  forms::showMessage(u"没有该词条", forms::MessageIcon::information);
+  EXPECT_TRUE(seen);
+  EXPECT_TRUE(ownerAbove);
+  EXPECT_EQ(boxes.take().size(), 1U);
+}
+
+TEST_F(FormStacking, ABarStaysAboveAllAndAFloatingFormBelowIt) {
+  auto& bar = openBar();
+  auto& floating = openLargeA();
+  ASSERT_FALSE(areApart(bar, floating));
+  input::click(centreOf(floating.second));
+  EXPECT_TRUE(eventually([&] { return GetFocus() == floating.second.handle(); }));
+  repaint(floating);
+  EXPECT_TRUE(eventually([&] { return isAbove(bar.handle(), floating.handle()); }));
+  EXPECT_TRUE(barIsSeen());
+  auto& window = opened<FormB>();
+  repaint(bar);
+  repaint(floating);
+  EXPECT_TRUE(isAbove(bar.handle(), window.handle()));
+  EXPECT_TRUE(isAbove(window.handle(), floating.handle()));
+}
+
+TEST_F(FormStacking, AMaximisedFloatingFormDoesNotCoverTheBar) {
+  auto& bar = openBar();
+  auto& floating = opened<FormA>();
+  ShowWindow(floating.handle(), SW_MAXIMIZE);
+  ASSERT_TRUE(eventually([&] { return !areApart(bar, floating); }));
+  EXPECT_TRUE(barIsSeen());
+  input::click(centreOf(floating.second));
+  EXPECT_TRUE(eventually([&] { return GetFocus() == floating.second.handle(); }));
+  EXPECT_TRUE(eventually([&] { return isAbove(bar.handle(), floating.handle()); }));
+  EXPECT_TRUE(barIsSeen());
+}
+
+TEST_F(FormStacking, WhatStaysOnTopComesAboveOtherProgramsTogether) {
+  auto& bar = openBar();
+  auto& floating = openLargeA();
+  const OtherProgram other;
+  other.activate();
+  other.raiseAboveAll();
+  ASSERT_TRUE(isAbove(other.window(), bar.handle()));
+  // A window that is being activated may come to the front once more meanwhile.
+  EXPECT_TRUE(eventually([&] {
+    repaint(floating);
+    return isAbove(floating.handle(), other.window()) && isAbove(bar.handle(), floating.handle());
+  }));
+  EXPECT_TRUE(allAlong([&] { return other.isForeground(); }, 60));
+}
+
+}  // namespace
+}  // namespace wintest
