@@ -1,5 +1,6 @@
 #include "forms/guard.h"
 
+#include "forms/box_text.h"
 #include "forms/message_box.h"
 #include "forms/win32.h"
 #include "text/utf.h"
@@ -17,14 +18,6 @@ int& runningHandlers() {
   return count;
 }
 
-/// A description may quote all that was typed; a message box has to fit the screen.
-std::u16string shortened(std::u16string text) {
-  constexpr std::size_t kLongest = 300;
-  if (text.size() <= kLongest) return text;
-  text.resize(kLongest);
-  return text + u"…";
-}
-
 }  // namespace
 
 HandlerRunning::HandlerRunning() { ++runningHandlers(); }
@@ -37,7 +30,7 @@ std::u16string describe(const std::exception_ptr& error) {
   try {
     std::rethrow_exception(error);
   } catch (const std::exception& known) {
-    return text::toUtf16(known.what());
+    return fittedToBox(text::toUtf16(known.what()));
   } catch (...) {
     return u"未知错误";
   }
@@ -47,7 +40,7 @@ void reportUncaught(const std::exception_ptr& error) noexcept {
   if (boxIsUp()) return;
   boxIsUp() = true;
   try {
-    showMessage(shortened(describe(error)), MessageIcon::critical);
+    showMessage(describe(error), MessageIcon::critical);
   } catch (...) {
     // Not even memory for the text: the program goes on, which is all that is asked here.
     MessageBeep(MB_ICONERROR);

@@ -8,7 +8,7 @@
 /// The boundary around every handler: no exception ever reaches a callback of the system.
 namespace forms {
 
-/// The error's own description.
+/// The error's own description, fitted to a message box (see box_text.h).
 std::u16string describe(const std::exception_ptr& error);
 
 /// The handler of uncaught errors: a message box with the error's description, the critical icon

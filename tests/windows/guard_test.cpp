@@ -31,6 +31,31 @@ TEST_F(Guard, AnUncaughtErrorIsShownWithItsOwnDescription) {
   EXPECT_EQ(seen[0].owner, form.handle());
 }
 
+TEST_F(Guard, TheLongestDescriptionFitsTheScreen) {
+  auto& form = opened<FormA>();
+  for (const std::string& unit : {std::string("x"), std::string("W"), std::string("词")}) {
+    RECT box{};
+    RECT text{};
+    boxes.whileUp([&](HWND window) {
+      box = rectOf(window);
+      text = rectOf(GetDlgItem(window, 65535));
+    });
+    form.first.onChange = [&] {
+      std::string description = "first\n";
+      for (int i = 0; i < 5'000; ++i) description += unit;
+      throw std::runtime_error(description + "\nlast");
+    };
+    form.first.setText(u"x");
+    const auto seen = boxes.take();
+    ASSERT_EQ(seen.size(), 1U);
+    EXPECT_TRUE(seen[0].text.starts_with(u"first\n"));
+    EXPECT_TRUE(seen[0].text.ends_with(u"\nlast"));
+    EXPECT_LE(box.right - box.left, GetSystemMetrics(SM_CXSCREEN)) << unit;
+    EXPECT_LE(box.bottom - box.top, GetSystemMetrics(SM_CYSCREEN)) << unit;
+    EXPECT_LE(text.right, box.right) << unit;
+  }
+}
+
 TEST_F(Guard, TheProgramGoesOnWithItsDataIntact) {
   auto& form = opened<FailingForm>();
   form.first.setText(u"kept");
