@@ -97,7 +97,7 @@ Statement prepare(sqlite3* connection, const std::string& sql) {
   const bool single = std::all_of(rest.begin(), rest.end(), [](const Token& token) {
     return token.kind == TokenKind::kComment || token.isSymbol(';');
   });
-  if (!single) throw Error(SQLITE_MISUSE, "SQL text with more than one statement");
+  if (!single) throw Error(SQLITE_ERROR, "SQL text with more than one statement");
   return statement;
 }
 

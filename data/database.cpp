@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "data/error.h"
+#include "data/error_text.h"
 #include "data/read_only_rules.h"
 
 namespace data {
@@ -70,8 +71,9 @@ Rows readRows(sqlite3* connection, const std::string& sql, std::size_t limit) {
 Database::Database(std::string file, Patience patience)
     : file_(std::move(file)),
       patience_(patience),
-      connection_(
-          openConnection(file_, Access::kRead, patience.lock, [this] { return isOverdue(); })) {
+      connection_(describingFailures(file_, Access::kRead, [&] {
+        return openConnection(file_, Access::kRead, patience.lock, [this] { return isOverdue(); });
+      })) {
   sqlite3_hard_heap_limit64(kMostMemory);
   allowReadingOnly(connection_.get());
   sqlite3_progress_handler(
@@ -81,6 +83,11 @@ Database::Database(std::string file, Patience patience)
 }
 
 bool Database::isOverdue() const { return std::chrono::steady_clock::now() > deadline_; }
+
+template <typename Operation>
+auto Database::run(Operation operation) {
+  return describingFailures(file_, Access::kRead, [&] { return withRecovery(operation); });
+}
 
 /// A program that was killed in the middle of an update leaves a journal behind that has to be
 /// rolled back before the file can be read, which a connection for reading cannot do.
@@ -97,7 +104,7 @@ auto Database::withRecovery(Operation operation) {
 }
 
 Rows Database::read(const std::string& sql, std::size_t limit, ScanOrder order) {
-  return withRecovery([&] {
+  return run([&] {
     std::optional<BackwardScan> backward;
     if (order == ScanOrder::kBackward) backward.emplace(connection_.get());
     Rows rows = readRows(connection_.get(), sql, limit);
@@ -108,7 +115,7 @@ Rows Database::read(const std::string& sql, std::size_t limit, ScanOrder order) 
 }
 
 bool Database::hasRowid(const std::string& table) {
-  return withRecovery([&] {
+  return run([&] {
     const int result =
         sqlite3_table_column_metadata(connection_.get(), "main", table.c_str(), "rowid", nullptr,
                                       nullptr, nullptr, nullptr, nullptr);

@@ -43,8 +43,8 @@ inline constexpr std::int64_t kMostMemory = std::int64_t{64} << 20U;
 
 /// A database file, open for reading only. Every operation runs its statement to the end of what is
 /// asked and closes it, so that nothing holds the file between operations. All operations throw
-/// Error with the engine's message. From the first one on the engine takes at most kMostMemory in
-/// this process; a query that needs more fails.
+/// Error with a description for the user. From the first one on the engine takes at most
+/// kMostMemory in this process; a query that needs more fails.
 class Database {
  public:
   /// `file` is the path in UTF-8.
@@ -66,6 +66,8 @@ class Database {
  private:
   [[nodiscard]] bool isOverdue() const;
 
+  template <typename Operation>
+  auto run(Operation operation);
   template <typename Operation>
   auto withRecovery(Operation operation);
   void rollBackJournal() const;

@@ -4,6 +4,7 @@
 
 #include "data/connection.h"
 #include "data/error.h"
+#include "data/error_text.h"
 
 namespace data {
 namespace {
@@ -14,10 +15,8 @@ std::string quotedName(const std::string& name) {
   return quoted + '"';
 }
 
-}  // namespace
-
-void writeCell(const std::string& file, const CellAddress& address, std::int64_t value,
-               std::chrono::milliseconds lockWait) {
+void write(const std::string& file, const CellAddress& address, std::int64_t value,
+           std::chrono::milliseconds lockWait) {
   const Connection connection = openConnection(file, Access::kWrite, lockWait);
   execute(connection.get(), "pragma synchronous=full");
   execute(connection.get(), "begin immediate");
@@ -28,6 +27,13 @@ void writeCell(const std::string& file, const CellAddress& address, std::int64_t
     throw Error(SQLITE_NOTFOUND, "row to be updated is not there any more");
   }
   execute(connection.get(), "commit");
+}
+
+}  // namespace
+
+void writeCell(const std::string& file, const CellAddress& address, std::int64_t value,
+               std::chrono::milliseconds lockWait) {
+  describingFailures(file, Access::kWrite, [&] { write(file, address, value, lockWait); });
 }
 
 }  // namespace data

@@ -14,8 +14,9 @@ struct CellAddress {
 };
 
 /// Writes one number into the database file, in a transaction of its own that is on the disk when
-/// this returns. Waits up to `lockWait` for others that hold the file. Throws Error, with nothing
-/// changed, where the file is locked or may not be written or the row is no longer there.
+/// this returns. Waits up to `lockWait` for others that hold the file. Throws Error, described for
+/// the user and with nothing changed, where the file is locked or may not be written or the row is
+/// no longer there.
 void writeCell(const std::string& file, const CellAddress& address, std::int64_t value,
                std::chrono::milliseconds lockWait);
 

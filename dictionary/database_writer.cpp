@@ -98,7 +98,7 @@ void writeDatabase(const DatabaseContent& content, const std::filesystem::path& 
         data::openConnection(utf8Path(file), data::Access::kWrite, std::chrono::milliseconds(0));
     writeTables(connection.get(), content);
   } catch (const data::Error& error) {
-    throw Failure("cannot write " + displayName(file) + ": " + error.what());
+    throw Failure("cannot write " + displayName(file) + ": " + error.engineText());
   }
 }
 

@@ -25,7 +25,7 @@ void requireFile(const std::filesystem::path& path) {
 }
 
 void throwUnreadable(const std::filesystem::path& database, const data::Error& error) {
-  throw Failure(displayName(database) + " cannot be read as a dictionary: " + error.what());
+  throw Failure(displayName(database) + " cannot be read as a dictionary: " + error.engineText());
 }
 
 }  // namespace dictionary

@@ -20,7 +20,7 @@ std::string displayName(const std::filesystem::path& path);
 /// Throws Failure unless there is a file of that name.
 void requireFile(const std::filesystem::path& path);
 
-/// Throws Failure for a database that the engine cannot read.
+/// Throws Failure, with the engine's own words, for a database that it cannot read.
 [[noreturn]] void throwUnreadable(const std::filesystem::path& database, const data::Error& error);
 
 }  // namespace dictionary

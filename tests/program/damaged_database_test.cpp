@@ -6,9 +6,11 @@
 #include <optional>
 
 #include "tests/program/harness/controls.h"
+#include "tests/program/harness/dictionary_windows.h"
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/lexilo.h"
 #include "tests/program/harness/message_box.h"
+#include "tests/program/harness/screen.h"
 
 namespace harness {
 namespace {
@@ -103,36 +105,48 @@ TEST_P(DamagedDatabase, ProgramStaysUsable) {
 
 INSTANTIATE_TEST_SUITE_P(AtTenPlaces, DamagedDatabase, ::testing::Range(0, 10));
 
+/// Starts the program and expects it to tell that its dictionary has `problem`, where it lies, what
+/// to do and what the engine says; then ends it.
+void expectToldAtStart(const AppFolder& folder, const std::wstring& problem,
+                       const std::wstring& engineText) {
+  const Lexilo lexilo(folder);
+  const ShownMessage box = waitForMessageBox(lexilo.process());
+  EXPECT_EQ(box.text, problem + L"\n" + folder.databaseAsShown() +
+                          L"\n请重新解压或重新安装 Lexilo，恢复这个文件，然后重新启动程序。\n\n" +
+                          engineText);
+  EXPECT_TRUE(box.criticalIcon);
+  EXPECT_EQ(box.title, L"");
+  box.answer();
+  EXPECT_EQ(lexilo.exit(), 0U);
+}
+
 class BrokenDatabase : public ::testing::Test {};
 
 TEST_F(BrokenDatabase, Empty) {
   const AppFolder folder = AppFolder::withSmallDictionary();
   fs::resize_file(folder.database(), 0);
+  expectToldAtStart(folder, L"词典文件不完整：", L"no such table: edictidx");
   useAndEnd(folder);
 }
 
 TEST_F(BrokenDatabase, CutInTheMiddle) {
   const AppFolder folder = AppFolder::withSmallDictionary();
   fs::resize_file(folder.database(), fs::file_size(folder.database()) / 2);
+  expectToldAtStart(folder, L"词典文件已经损坏：", L"database disk image is malformed");
   useAndEnd(folder);
 }
 
 TEST_F(BrokenDatabase, NoDatabaseAtAll) {
   const AppFolder folder = AppFolder::withSmallDictionary();
   std::ofstream(folder.database(), std::ios::trunc) << "This is a letter to the editor.\n";
+  expectToldAtStart(folder, L"这个文件不是词典文件，或者已经损坏：", L"file is not a database");
   useAndEnd(folder);
 }
 
 TEST_F(BrokenDatabase, WithoutTheTableAskedFor) {
   const AppFolder folder = AppFolder::withSmallDictionary();
   folder.renameTables("edictidx", "edictidy");
-  const Lexilo lexilo(folder);
-  const ShownMessage box = waitForMessageBox(lexilo.process());
-  EXPECT_NE(box.text.find(L"edictidx"), std::wstring::npos) << "the message does not name it";
-  EXPECT_TRUE(box.criticalIcon);
-  EXPECT_EQ(box.title, L"");
-  box.answer();
-  EXPECT_EQ(lexilo.exit(), 0U);
+  expectToldAtStart(folder, L"词典文件不完整：", L"no such table: edictidx");
   useAndEnd(folder);
 }
 
@@ -153,20 +167,54 @@ TEST_F(BrokenDatabase, WithoutTheTableOfTheMeanings) {
   EXPECT_EQ(lexilo.exit(), 0U);
 }
 
-TEST_F(BrokenDatabase, WriteProtectedEverythingStillWorks) {
-  const AppFolder folder = AppFolder::withSmallDictionary();
-  const std::wstring file = folder.database().wstring();
-  SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
-  {
-    const Lexilo lexilo(folder);
-    lexilo.waitUntilSeen();
-    const QuickLookup window = lexilo.openQuickLookupAtA();
-    window.lookUp(L"data");
-    window.lookUp(L"数据");
-    EXPECT_EQ(lexilo.exit(), 0U);
+/// A small dictionary that may only be read while this lives. Later runs replace its folder.
+class WriteProtectedDatabase : public ::testing::Test {
+ protected:
+  ~WriteProtectedDatabase() override { setAttribute(FILE_ATTRIBUTE_NORMAL); }
+
+  void SetUp() override {
+    setAttribute(FILE_ATTRIBUTE_READONLY);
+    ASSERT_NE(reader.get(), INVALID_HANDLE_VALUE);
   }
-  // Later runs replace the folder.
-  SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+
+  const AppFolder folder = AppFolder::withSmallDictionary();
+
+ private:
+  void setAttribute(DWORD attribute) const {
+    EXPECT_NE(SetFileAttributesW(folder.database().c_str(), attribute), FALSE);
+  }
+
+  // The attribute does not bind every user; a handle that lets nobody else write does.
+  const Handle reader{CreateFileW(folder.database().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                  OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)};
+};
+
+TEST_F(WriteProtectedDatabase, LookupsStillWork) {
+  const Lexilo lexilo(folder);
+  lexilo.waitUntilSeen();
+  const QuickLookup window = lexilo.openQuickLookupAtA();
+  window.lookUp(L"data");
+  window.lookUp(L"数据");
+  EXPECT_EQ(lexilo.exit(), 0U);
+}
+
+TEST_F(WriteProtectedDatabase, ChoosingADefaultTellsWhatToDo) {
+  const Lexilo lexilo(folder);
+  lexilo.waitUntilSeen();
+  const DictionarySettings settings(lexilo);
+  const std::wstring before = settings.chosen();
+  input::click(centreOf(treeNodeRect(settings.list(), 0).value()));
+  const ShownMessage box = waitForMessageBox(lexilo.process());
+  EXPECT_EQ(box.text,
+            L"无法写入词典文件：\n" + folder.databaseAsShown() +
+                L"\n请取消这个文件的只读属性，或者把整个 Lexilo 文件夹移到可以写入的位置，"
+                L"再试一次。\n\nattempt to write a readonly database");
+  EXPECT_TRUE(box.criticalIcon);
+  saveScreenshot("build/shots/write-protected-dictionary.png");
+  box.answer();
+  EXPECT_EQ(settings.chosen(), before);
+  settings.close();
+  EXPECT_EQ(lexilo.exit(), 0U);
 }
 
 }  // namespace

@@ -169,7 +169,9 @@ TEST_F(Dictionaries, AQuoteAmongTwoFragmentsIsAnErrorThatHarmsNothing) {
   dialog.ask(L"it's", L"它");
   const ShownMessage box = waitForMessageBox(lexilo.process());
   EXPECT_TRUE(box.criticalIcon);
-  EXPECT_NE(box.text.find(L"near \"s\": syntax error"), box.text.npos);
+  EXPECT_TRUE(box.text.starts_with(L"无法在词典文件中执行这次查询：\n"));
+  EXPECT_NE(box.text.find(L"不要使用单引号（'）"), box.text.npos);
+  EXPECT_TRUE(box.text.ends_with(L"\n\nnear \"s\": syntax error"));
   box.answer();
   // It stays as it was typed, to be mended.
   EXPECT_TRUE(IsWindowVisible(dialog.window()));

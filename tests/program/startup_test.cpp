@@ -90,7 +90,10 @@ TEST_F(Startup, WithoutADictionaryItSaysSoAndGoesOn) {
   const Lexilo lexilo(folder);
   const ShownMessage box = waitForMessageBox(lexilo.process());
   EXPECT_EQ(box.title, L"");
-  EXPECT_FALSE(box.text.empty());
+  EXPECT_EQ(box.text, L"找不到词典文件，或者无法打开它：\n" + folder.databaseAsShown() +
+                          L"\n请确认这个文件与程序在同一文件夹中，并且没有被其他程序占用。"
+                          L"如果它不见了，请重新解压或重新安装 Lexilo。"
+                          L"\n\nunable to open database file");
   EXPECT_TRUE(box.criticalIcon);
   saveScreenshot("build/shots/no-dictionary.png");
   box.answer();

@@ -6,6 +6,8 @@
 
 #include "data/database.h"
 #include "data/error.h"
+#include "data/error_text.h"
+#include "tests/unit/support/file_layer.h"
 #include "tests/unit/support/plain_read.h"
 #include "tests/unit/support/sample_database.h"
 
@@ -23,7 +25,8 @@ int failureOf(const std::filesystem::path& file) {
     Database database(support::utf8Path(file));
     database.read("select * from t order by a", kMany);
   } catch (const Error& error) {
-    EXPECT_STRNE(error.what(), "");
+    EXPECT_STRNE(error.engineText(), "");
+    EXPECT_EQ(error.what(), data::failureText(support::utf8Path(file), data::Access::kRead, error));
     return error.code();
   }
   return SQLITE_OK;
@@ -66,7 +69,10 @@ TEST(DatabaseFailure, EmptyFileHasNoTables) {
     Database(support::utf8Path(file)).read("select * from t", kMany);
     ADD_FAILURE() << "no error";
   } catch (const Error& error) {
-    EXPECT_STREQ(error.what(), "no such table: t");
+    EXPECT_STREQ(error.engineText(), "no such table: t");
+    EXPECT_EQ(error.what(), "词典文件不完整：\n" + support::utf8Path(file) +
+                                "\n请重新解压或重新安装 Lexilo，恢复这个文件，然后重新启动程序。"
+                                "\n\nno such table: t");
   }
   EXPECT_EQ(std::filesystem::file_size(file), 0U);
 }
@@ -218,6 +224,13 @@ TEST(DatabaseFailure, InterruptedUpdateIsRolledBackUnderAnOpenDatabase) {
   ASSERT_EQ(rows.count(), 2000U);
   EXPECT_EQ(rows.cells[3999].integer, 1999);
   EXPECT_FALSE(std::filesystem::exists(journal));
+}
+
+TEST(DatabaseFailure, AnUpdateThatCannotBeRolledBackIsTold) {
+  const TempFolder folder;
+  const auto file = makeInterruptedUpdate(folder);
+  const support::FileLayer full([] { return SQLITE_FULL; });
+  EXPECT_EQ(primary(failureOf(file)), SQLITE_FULL);
 }
 
 TEST(DatabaseFailure, ReadingOpensTheFileForReadingOnly) {

@@ -7,6 +7,7 @@
 #include <chrono>
 
 #include "data/error.h"
+#include "data/error_text.h"
 #include "tests/unit/support/sample_database.h"
 
 namespace {
@@ -31,7 +32,11 @@ class DatabaseTest : public testing::Test {
     try {
       database.read(sql, kMany);
     } catch (const Error& error) {
-      return error.what();
+      EXPECT_EQ(error.what(),
+                error.code() == SQLITE_MISUSE
+                    ? error.engineText()
+                    : data::failureText(support::utf8Path(file_), data::Access::kRead, error));
+      return error.engineText();
     }
     return {};
   }
@@ -104,7 +109,7 @@ TEST_F(DatabaseTest, NamesWhatIsWrongWithAStatement) {
 }
 
 TEST_F(DatabaseTest, RunsExactlyOneStatement) {
-  EXPECT_NE(failureOf("select a from t; select a from t"), "");
+  EXPECT_EQ(failureOf("select a from t; select a from t"), "SQL text with more than one statement");
   EXPECT_NE(failureOf("select a from t;;x"), "");
   EXPECT_NE(failureOf(""), "");
   EXPECT_NE(failureOf(" -- nothing"), "");
@@ -168,6 +173,9 @@ TEST_F(DatabaseTest, EndsAQueryThatRunsTooLong) {
     ADD_FAILURE() << "no error";
   } catch (const Error& error) {
     EXPECT_EQ(error.code(), SQLITE_INTERRUPT);
+    EXPECT_TRUE(std::string(error.what())
+                    .starts_with("在词典文件中查询用时过长，已经停止：\n" +
+                                 support::utf8Path(file_) + "\n"));
   }
   EXPECT_GE(std::chrono::steady_clock::now() - start, milliseconds(50));
   EXPECT_LT(std::chrono::steady_clock::now() - start, milliseconds(2000));

@@ -100,7 +100,7 @@ TEST_F(DefaultFlag, ALockedFileFailsWithNothingChanged) {
     query::chooseDefault(rows, 1);
     ADD_FAILURE() << "no error";
   } catch (const data::Error& error) {
-    EXPECT_STREQ(error.what(), "database is locked");
+    EXPECT_STREQ(error.engineText(), "database is locked");
   }
   EXPECT_EQ(query::lastDefault(rows), 4U);
   other.run("commit");
@@ -116,7 +116,7 @@ TEST_F(DefaultFlag, AFullDiskFailsWithNothingChanged) {
       query::chooseDefault(control.recordset(), 1);
       ADD_FAILURE() << "no error";
     } catch (const data::Error& error) {
-      EXPECT_STREQ(error.what(), "database or disk is full");
+      EXPECT_STREQ(error.engineText(), "database or disk is full");
     }
   }
   EXPECT_EQ(query::lastDefault(control.recordset()), 4U);

@@ -73,7 +73,8 @@ TEST(Commands, SayInOneSentenceWhatFailed) {
   support::writeFile(folder.file(u"kk.dat"), "no database at all, but long enough to be read");
   const Outcome lookedUp = run({"lookup", target, "a"});
   EXPECT_EQ(lookedUp.code, dictionary::kFailed);
-  EXPECT_EQ(lookedUp.err.find("kkbuild: \"" + target + "\" cannot be read"), 0U);
+  EXPECT_EQ(lookedUp.err,
+            "kkbuild: \"" + target + "\" cannot be read as a dictionary: file is not a database\n");
 }
 
 TEST(Commands, CheckFailsForABrokenRule) {

@@ -7,6 +7,7 @@
 #include "data/cursor.h"
 #include "data/database.h"
 #include "data/error.h"
+#include "data/error_text.h"
 #include "tests/unit/support/sample_database.h"
 #include "tests/unit/support/unprivileged.h"
 
@@ -151,7 +152,9 @@ TEST_F(RecordSetUpdateTest, WaitsForOthersOnlySoLong) {
     ADD_FAILURE() << "no error";
   } catch (const Error& error) {
     EXPECT_EQ(error.code() & 0xFF, SQLITE_BUSY);
-    EXPECT_STREQ(error.what(), "database is locked");
+    EXPECT_STREQ(error.engineText(), "database is locked");
+    EXPECT_EQ(error.what(),
+              data::failureText(support::utf8Path(file_), data::Access::kWrite, error));
   }
   EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(50));
   EXPECT_EQ(set.field(u"default").integer, 0);

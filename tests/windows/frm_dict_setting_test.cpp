@@ -55,18 +55,21 @@ class FrmDictSetting : public QueryTest {
     const support::FileLayer full(
         [left = changes / 2]() mutable { return left-- > 0 ? SQLITE_OK : SQLITE_FULL; });
     choose(node);
-    expectBox(u"database or disk is full", Icon::error);
+    expectDatabaseBox(kDiskFull, u"database or disk is full");
   }
   static constexpr const char* kDefaults = "select count(*) from [Index] where [default]=1";
 
-  /// Expects the failure of a click on node 1 with the engine's own words, and nothing changed:
-  /// node `shown` is highlighted, 0 for none.
-  void expectFailure(std::u16string_view words, std::size_t shown = 3) {
+  static constexpr const char16_t* kDiskFull = u"磁盘已满，无法写入词典文件：";
+  static constexpr const char16_t* kInUse = u"词典文件正被其他程序占用：";
+  static constexpr const char16_t* kIncomplete = u"词典文件不完整：";
+  static constexpr const char16_t* kNotWritable = u"无法写入词典文件：";
+
+  /// Expects that a click on node 1 fails, which is told, and that nothing has changed: node
+  /// `shown` is highlighted, 0 for none.
+  void expectFailure(const std::u16string& problem, const std::u16string& engineText,
+                     std::size_t shown = 3) {
     choose(1);
-    ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
-    const auto seen = boxes.take();
-    EXPECT_EQ(seen[0].text, words);
-    EXPECT_EQ(seen[0].icon, Icon::error);
+    expectDatabaseBox(problem, engineText);
     EXPECT_TRUE(highlights(shown));
     EXPECT_EQ(textsOf(settings().TreeView2).size(), 4U);
   }
@@ -127,7 +130,7 @@ TEST_F(FrmDictSetting, AClickOnTheDefaultWritesAgain) {
     support::Writer other(besideProgram());
     other.run("begin immediate");
     choose(3);
-    expectBox(u"database is locked", Icon::error);
+    expectDatabaseBox(kInUse, u"database is locked");
     other.run("rollback");
   }
   const POINT point = nodePoint(settings().TreeView2, 3);
@@ -208,15 +211,15 @@ TEST_F(FrmDictSetting, AFailingQueryWindowIsAnUncaughtError) {
   openSettings();
   store("drop table [Index]");
   settings().unload();
-  expectBox(u"no such table: Index", Icon::error);
+  expectDatabaseBox(kIncomplete, u"no such table: Index");
   EXPECT_FALSE(forms::isLoaded<frmdictSetting>());
   EXPECT_EQ(form().TreeView1.count(), 3U);
 }
 
-TEST_F(FrmDictSetting, WithoutACatalogueTheEnginesWordsAreShown) {
+TEST_F(FrmDictSetting, WithoutACatalogueTheFileIsToldToBeIncomplete) {
   store("drop table [Index]");
   forms::single<frmdictSetting>();
-  expectBox(u"no such table: index", Icon::error);
+  expectDatabaseBox(kIncomplete, u"no such table: index");
   opened<frmdictSetting>();
   EXPECT_EQ(settings().TreeView2.count(), 0U);
 }
@@ -227,7 +230,7 @@ TEST_F(FrmDictSetting, AFileThatMayNotBeWrittenIsTold) {
   HANDLE file = CreateFileW(besideProgram().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
                             OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   ASSERT_NE(file, INVALID_HANDLE_VALUE);
-  expectFailure(u"attempt to write a readonly database");
+  expectFailure(kNotWritable, u"attempt to write a readonly database");
   CloseHandle(file);
   EXPECT_EQ(flags(), 1);
   choose(2);
@@ -240,7 +243,7 @@ TEST_F(FrmDictSetting, AFileThatOthersHoldIsToldWithinSeconds) {
     support::Writer other(besideProgram());
     other.run("begin immediate");
     const ULONGLONG start = GetTickCount64();
-    expectFailure(u"database is locked");
+    expectFailure(kInUse, u"database is locked");
     EXPECT_LT(GetTickCount64() - start, 3'000U);
     other.run("rollback");
   }
@@ -251,7 +254,7 @@ TEST_F(FrmDictSetting, AFullDiskIsTold) {
   openSettings();
   {
     const support::FileLayer full([] { return SQLITE_FULL; });
-    expectFailure(u"database or disk is full");
+    expectFailure(kDiskFull, u"database or disk is full");
   }
   EXPECT_EQ(flags(), 1);
   choose(2);
@@ -283,7 +286,7 @@ TEST_F(FrmDictSetting, WithoutADefaultNoneIsHighlightedAfterAFailureEither) {
   HANDLE file = CreateFileW(besideProgram().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
                             OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   ASSERT_NE(file, INVALID_HANDLE_VALUE);
-  expectFailure(u"attempt to write a readonly database", 0);
+  expectFailure(kNotWritable, u"attempt to write a readonly database", 0);
   CloseHandle(file);
   EXPECT_EQ(stored(kDefaults), 0);
 }

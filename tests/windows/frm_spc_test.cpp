@@ -10,6 +10,7 @@ namespace {
 class FrmSpc : public QueryTest {
  protected:
   static constexpr const char16_t* kBothBoxes = u"请在英文和中文的文本框里输入内容！";
+  static constexpr const char16_t* kRefused = u"无法在词典文件中执行这次查询：";
 
   static frmSpc& dialog() { return forms::single<frmSpc>(); }
 
@@ -150,20 +151,23 @@ TEST_F(FrmSpc, LinesThatCannotBeWrittenAreNoReasonToStop) {
   EXPECT_EQ(boxes.count(), 0U);
 }
 
-TEST_F(FrmSpc, AQuoteIsAnUncaughtErrorWithTheEnginesWords) {
+TEST_F(FrmSpc, AQuoteIsAnUncaughtErrorWithAdviceAndTheEnginesWords) {
   openBoth();
   easy(u"heart");
   const Texts before = lines();
-  for (const auto& [english, chinese] : std::vector<std::pair<std::u16string, std::u16string>>{
-           {u"heart's", u"心"}, {u"heart", u"'"}, {u"' or", u"'"}}) {
+  struct Case {
+    std::u16string english;
+    std::u16string chinese;
+    std::u16string engineText;
+  };
+  for (const auto& [english, chinese, engineText] :
+       std::vector<Case>{{u"heart's", u"心", u"near \"s\": syntax error"},
+                         {u"heart", u"'", u"unrecognized token: \"' limit 200\""},
+                         {u"' or", u"'", u"near \"%\": syntax error"},
+                         {u"'; select 1 --", u"心", u"SQL text with more than one statement"}}) {
     fill(english, chinese);
     press(dialog().cmdOK);
-    ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
-    const auto seen = boxes.take();
-    EXPECT_EQ(seen[0].icon, Icon::error);
-    EXPECT_EQ(seen[0].title, u"");
-    EXPECT_NE(seen[0].text, kUnexpected);
-    EXPECT_FALSE(seen[0].text.empty());
+    expectDatabaseBox(kRefused, engineText);
     EXPECT_EQ(dialog().txtE.text(), english);
   }
   EXPECT_EQ(lines(), before);
@@ -174,12 +178,21 @@ TEST_F(FrmSpc, AQuoteIsAnUncaughtErrorWithTheEnginesWords) {
   EXPECT_TRUE(closed());
 }
 
-TEST_F(FrmSpc, AQuoteBeforeThousandsOfCharactersFitsTheBox) {
+TEST_F(FrmSpc, AQuoteBeforeThousandsOfCharactersFitsTheScreen) {
   openBoth();
+  RECT box{};
+  boxes.whileUp([&](HWND window) { box = rectOf(window); });
   fill(u"'" + std::u16string(5000, u'x'), u"心");
   press(dialog().cmdOK);
   ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
-  EXPECT_LE(boxes.take()[0].text.size(), 301U);
+  const std::u16string text = boxes.take()[0].text;
+  EXPECT_TRUE(text.starts_with(kRefused));
+  EXPECT_NE(text.find(u"不要使用单引号（'）"), text.npos);
+  EXPECT_NE(text.find(u"\n\nnear \"xxx"), text.npos);
+  EXPECT_NE(text.find(u"xxx…xxx"), text.npos);
+  EXPECT_TRUE(text.ends_with(u"xxx\": syntax error"));
+  EXPECT_LE(box.right - box.left, GetSystemMetrics(SM_CXSCREEN));
+  EXPECT_LE(box.bottom - box.top, GetSystemMetrics(SM_CYSCREEN) / 2);
 }
 
 TEST_F(FrmSpc, WithoutADictionaryTheSearchFails) {
@@ -189,8 +202,7 @@ TEST_F(FrmSpc, WithoutADictionaryTheSearchFails) {
   openBoth();
   fill(u"heart", u"心");
   press(dialog().cmdOK);
-  ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
-  EXPECT_EQ(boxes.take()[0].icon, Icon::error);
+  expectDatabaseBox(kRefused, u"near \"where\": syntax error");
   EXPECT_TRUE(forms::isLoaded<frmSpc>());
 }
 

@@ -100,7 +100,12 @@ TEST_F(FrmTopStart, AMissingDatabaseIsToldOnceAndTheToolbarStays) {
   ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
   const auto seen = boxes.take();
   EXPECT_EQ(seen[0].icon, Icon::error);
-  EXPECT_FALSE(seen[0].text.empty());
+  EXPECT_EQ(seen[0].title, u"");
+  EXPECT_EQ(seen[0].text,
+            u"找不到词典文件，或者无法打开它：\n" + app::applicationFolder() +
+                u"\\kk.dat\n请确认这个文件与程序在同一文件夹中，并且没有被其他程序占用。"
+                u"如果它不见了，请重新解压或重新安装 Lexilo。"
+                u"\n\nunable to open database file");
   EXPECT_TRUE(IsWindowVisible(form.handle()));
   EXPECT_TRUE(allAlong([this] { return boxes.count() == 0; }, 60));
   EXPECT_FALSE(std::filesystem::exists(besideProgram()));

@@ -24,6 +24,10 @@ class AppFolder {
 
   [[nodiscard]] std::filesystem::path program() const { return path_ / "lexilo.exe"; }
   [[nodiscard]] std::filesystem::path database() const { return path_ / "kk.dat"; }
+  /// The same as the program shows it to its user.
+  [[nodiscard]] std::wstring databaseAsShown() const {
+    return database().make_preferred().wstring();
+  }
   [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
   /// Overwrites `length` bytes of the dictionary from `offset` on with bytes that mean nothing.

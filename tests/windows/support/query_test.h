@@ -109,6 +109,19 @@ class QueryTest : public WindowTest {
     EXPECT_EQ(seen[0].title, u"");
   }
 
+  /// Expects just one message box since the last call, which tells of the database file: what is
+  /// wrong with it, where it lies, what to do, and what the engine says.
+  void expectDatabaseBox(const std::u16string& problem, const std::u16string& engineText) {
+    ASSERT_TRUE(eventually([this] { return boxes.count() >= 1; }));
+    const auto seen = boxes.take();
+    ASSERT_EQ(seen.size(), 1U);
+    EXPECT_EQ(seen[0].icon, Icon::error);
+    EXPECT_EQ(seen[0].title, u"");
+    const std::u16string head = problem + u"\n" + app::applicationFolder() + u"\\kk.dat\n请";
+    EXPECT_TRUE(seen[0].text.starts_with(head)) << text::toUtf8(seen[0].text);
+    EXPECT_TRUE(seen[0].text.ends_with(u"。\n\n" + engineText)) << text::toUtf8(seen[0].text);
+  }
+
   static constexpr const char16_t* kUnexpected = u"出现异常错误，请重新启动程序或安装程序！";
   static constexpr const char16_t* kChoose = u"请选择字典！";
   static constexpr const char16_t* kNothing = u"Sorry，没有该词条！";
