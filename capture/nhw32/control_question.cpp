@@ -19,20 +19,21 @@ Answer answerOfControl(const Question& question,
       !inClientArea(target.handle(), point)) {
     return {};
   }
+  const ScreenBox box = inClientArea(target.handle(), word->box);
   return {.outcome = Outcome::word,
-          .word = {word->text, toScreen(scale, fromClient(target.handle(), word->box))}};
+          .word = {word->text, toScreen(scale, fromClient(target.handle(), box))}};
 } catch (const NoAnswer& silence) {
   return {.outcome = silence.outcome(), .word = {}};
 }
 
-std::optional<int> caretHeight(HWND window) {
+std::optional<ScreenBox> caretIn(HWND window) {
   GUITHREADINFO info{};
   info.cbSize = sizeof info;
   if (GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) == FALSE ||
       info.hwndCaret != window || info.rcCaret.bottom <= info.rcCaret.top) {
     return std::nullopt;
   }
-  return static_cast<int>(info.rcCaret.bottom - info.rcCaret.top);
+  return boxOf(info.rcCaret);
 }
 
 bool hasLines(WindowId window) { return TargetWindow(window).ask(EM_GETLINECOUNT) > 0; }

@@ -22,8 +22,9 @@ Answer answerOfControlAs(const Question& question) {
   });
 }
 
-/// The height of the caret where it stands in this window: that of a line of a text control.
-std::optional<int> caretHeight(HWND window);
+/// The caret where it stands in this window, in pixels of the client area; never empty. Under
+/// TargetAwareness.
+std::optional<ScreenBox> caretIn(HWND window);
 
 /// Whether a window answers as text controls do: one that only sounds like it by its class's name
 /// has no lines. Throws NoAnswer where it does not answer.

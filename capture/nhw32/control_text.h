@@ -31,8 +31,13 @@ class ControlText {
   virtual std::size_t lineOf(std::size_t position) = 0;
   /// The first position of a line; none behind the last.
   virtual std::optional<std::size_t> startOf(std::size_t line) = 0;
-  /// The height of a line where the control says it other than by its lines' places.
-  virtual std::optional<int> lineHeight() = 0;
+  /// Whether every line is as high as the others: the text has one font.
+  [[nodiscard]] virtual bool linesAreAlike() const = 0;
+  /// The lower edge of the last line, whose upper edge is `top`, where the control or its caret
+  /// tells it. Always below `top`.
+  virtual std::optional<int> bottomOfLastLine(int top) = 0;
+  /// The pixels of the client area that count as an inch.
+  [[nodiscard]] virtual int dpi() const = 0;
 };
 
 /// A word and the pixels of the client area that it takes up, as far as it stands on one line.

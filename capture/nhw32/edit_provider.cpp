@@ -37,17 +37,8 @@ class EditText : public ControlText {
   TextPart textAround(std::size_t position) override {
     const std::size_t capacity = position + kLongestWord + 2;  // with the NUL
     auto buffer = std::make_unique<wchar_t[]>(capacity);
-    try {
-      const auto length =
-          number(target_.ask(WM_GETTEXT, capacity, reinterpret_cast<LPARAM>(buffer.get())));
-      return {{buffer.get(), buffer.get() + std::min(length, capacity - 1)}, 0};
-    } catch (const NoAnswer& silence) {
-      // A late control of our own program may yet write into the memory that it was given.
-      if (silence.outcome() == Outcome::outOfTime && target_.isOurs()) {
-        static_cast<void>(buffer.release());
-      }
-      throw;
-    }
+    const auto length = number(askInto(WM_GETTEXT, capacity, buffer));
+    return {{buffer.get(), buffer.get() + std::min(length, capacity - 1)}, 0};
   }
 
   std::optional<ScreenPoint> cornerOf(std::size_t position) override {
@@ -67,9 +58,39 @@ class EditText : public ControlText {
     return isNone(start) ? std::nullopt : std::optional(number(start));
   }
 
-  std::optional<int> lineHeight() override { return caretHeight(target_.handle()); }
+  [[nodiscard]] bool linesAreAlike() const override { return true; }
+
+  /// A single line ends with the formatting rectangle, whose top may lie below the line's, which
+  /// Windows tells as 0. The caret is as high as any line.
+  std::optional<int> bottomOfLastLine(int top) override {
+    if (!multiline_) {
+      auto formatting = std::make_unique<RECT>();
+      askInto(EM_GETRECT, 0, formatting);
+      if (!IsRectEmpty(formatting.get()) && formatting->bottom > top) {
+        return static_cast<int>(formatting->bottom);
+      }
+    }
+    const auto caret = caretIn(target_.handle());
+    return caret ? std::optional(top + caret->bottom - caret->top) : std::nullopt;
+  }
+
+  [[nodiscard]] int dpi() const override { return dpiOf(target_.handle()); }
 
  private:
+  /// Sends a message whose answer the control writes into memory.
+  template <class Memory>
+  LRESULT askInto(UINT message, WPARAM wParam, std::unique_ptr<Memory>& memory) {
+    try {
+      return target_.ask(message, wParam, reinterpret_cast<LPARAM>(memory.get()));
+    } catch (const NoAnswer& silence) {
+      // A late control of our own program may yet write into the memory that it was given.
+      if (silence.outcome() == Outcome::outOfTime && target_.isOurs()) {
+        static_cast<void>(memory.release());
+      }
+      throw;
+    }
+  }
+
   static std::size_t number(LRESULT answer) { return static_cast<std::uint32_t>(answer); }
 
   const TargetWindow& target_;

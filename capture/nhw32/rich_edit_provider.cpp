@@ -71,7 +71,15 @@ class RichEditText : public ControlText {
     return start < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(start));
   }
 
-  std::optional<int> lineHeight() override { return caretHeight(target_.handle()); }
+  [[nodiscard]] bool linesAreAlike() const override { return false; }
+
+  /// The caret tells of the line that it stands on, and of no other.
+  std::optional<int> bottomOfLastLine(int top) override {
+    const auto caret = caretIn(target_.handle());
+    return caret && caret->top >= top ? std::optional(caret->bottom) : std::nullopt;
+  }
+
+  [[nodiscard]] int dpi() const override { return dpiOf(target_.handle()); }
 
  private:
   /// Whatever a control that ran out of time was told to read or write, it may do so later.

@@ -10,14 +10,18 @@ namespace {
 
 using ClassName = std::array<wchar_t, 257>;  // the system's limit is 256 characters
 
-ScreenBox boxOf(HWND window) {
+ScreenBox outerBoxOf(HWND window) {
   RECT rect{};
   GetWindowRect(window, &rect);
-  return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
-          static_cast<int>(rect.bottom)};
+  return boxOf(rect);
 }
 
 }  // namespace
+
+ScreenBox boxOf(const RECT& rect) {
+  return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
+          static_cast<int>(rect.bottom)};
+}
 
 TargetWindow::TargetWindow(WindowId window)
     : window_(reinterpret_cast<HWND>(window)),
@@ -64,9 +68,9 @@ std::u16string realClassOf(HWND window) {
 }
 
 WindowScale scaleOf(HWND window) {
-  WindowScale scale{.onScreen = boxOf(window), .forTarget = {}};
+  WindowScale scale{.onScreen = outerBoxOf(window), .forTarget = {}};
   const TargetAwareness awareness(window);
-  scale.forTarget = boxOf(window);
+  scale.forTarget = outerBoxOf(window);
   return scale;
 }
 
@@ -89,5 +93,15 @@ bool inClientArea(HWND window, ScreenPoint clientPoint) {
   GetClientRect(window, &rect);
   return PtInRect(&rect, POINT{clientPoint.x, clientPoint.y}) != FALSE;
 }
+
+ScreenBox inClientArea(HWND window, const ScreenBox& box) {
+  RECT rect{};
+  GetClientRect(window, &rect);
+  const ScreenBox client = boxOf(rect);
+  return {std::max(box.left, client.left), std::max(box.top, client.top),
+          std::min(box.right, client.right), std::min(box.bottom, client.bottom)};
+}
+
+int dpiOf(HWND window) { return static_cast<int>(GetDpiForWindow(window)); }
 
 }  // namespace nhw32

@@ -54,6 +54,8 @@ std::u16string classNameOf(HWND window);
 /// window's class name.
 std::u16string realClassOf(HWND window);
 
+ScreenBox boxOf(const RECT& rect);
+
 /// While it lives, this thread counts pixels as the window's program does.
 class TargetAwareness {
  public:
@@ -80,5 +82,11 @@ ScreenBox fromClient(HWND window, const ScreenBox& box);
 
 /// Whether a point lies in the window's client area. Under TargetAwareness.
 bool inClientArea(HWND window, ScreenPoint clientPoint);
+
+/// The part of a box of the client area that lies in it. Under TargetAwareness.
+ScreenBox inClientArea(HWND window, const ScreenBox& box);
+
+/// The resolution in which the window's program counts pixels: 96 where it knows of no other.
+int dpiOf(HWND window);
 
 }  // namespace nhw32

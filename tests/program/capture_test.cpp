@@ -1,5 +1,7 @@
 // Words under the pointer in other programs.
 #include <array>
+#include <filesystem>
+#include <fstream>
 #include <utility>
 
 #include "tests/program/capture_fixture.h"
@@ -36,6 +38,21 @@ TEST_F(Capture, AWordInWordPadIsRead) {
   const std::wstring text = popup.waitFor(L"catalyst");
   EXPECT_NE(text.find(L"催化剂"), text.npos) << utf8(text);
   saveScreenshot("build/shots/popup-wordpad.png");
+}
+
+TEST_F(Capture, AWordOfLargeTypeInWordPadsLastLineIsReadAtItsLowerEdgeToo) {
+  const auto file = std::filesystem::absolute("build/large-type.rtf");
+  std::ofstream(file) << R"({\rtf1\ansi{\fonttbl{\f0 Times New Roman;}}\f0\fs20 )"
+                      << R"(Small type before it.\par\fs72 The catalyst})";
+  const WordPad wordPad(file.wstring());
+  wordPad.place(kPage);
+  waitFor("the text", [&] { return textOf(wordPad.edit()).ends_with(L"The catalyst"); });
+  constexpr LONG kLetterY = 31;
+  constexpr LONG kBaseLine = 43;  // of type of 36 points (48 pixels) below the line's upper edge
+  const POINT place = richTextPosition(wordPad.edit(), kLetterY);
+  input::moveTo({place.x + 4, place.y + kBaseLine + 3});
+  (void)popup.waitFor(L"catalyst");
+  saveScreenshot("build/shots/popup-wordpad-large.png");
 }
 
 TEST_F(Capture, AWordFoundWithoutItsLastLetterKeepsItsHeadline) {

@@ -1,6 +1,8 @@
 // The same program where the system shows everything at one and a half times the size.
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "forms/geometry.h"
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/dictionary_windows.h"
@@ -12,6 +14,7 @@
 #include "tests/program/harness/screen.h"
 #include "tests/program/harness/settings.h"
 #include "tests/program/harness/text.h"
+#include "tests/program/harness/text_window.h"
 
 namespace harness {
 namespace {
@@ -133,6 +136,22 @@ TEST_F(Dpi144, ThePopupIsLargerAsWell) {
   EXPECT_TRUE(neverWithin(200, [&] { return !popup.isUp(); }));
   input::moveTo({pointer.x + 6, pointer.y});
   popup.waitUntilClosed();
+}
+
+TEST_F(Dpi144, ABoxOfOneLineIsReadDownToItsLettersLowerEdge) {
+  input::moveTo(kAwayFromTexts);
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  const int em = MulDiv(9, kDpi, 72);  // the usual 9 points
+  const auto closed = [](HFONT font) { DeleteObject(font); };
+  const std::unique_ptr<HFONT__, decltype(closed)> font(CreateFontW(
+      -em, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0, 0, 0, L"Tahoma"));
+  const TextWindow box(L"Edit", ES_AUTOHSCROLL, {300, 300, 600, 330}, L"catalyst");
+  SendMessageW(box.control(), WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+  const POINT y = editPosition(box.control(), 5);
+  input::moveTo({y.x + 3, y.y + em});
+  (void)MeaningPopup(lexilo.process()).waitFor(L"catalyst");
+  saveScreenshot("build/shots/popup-one-line-144dpi.png");
 }
 
 /// Whether no child of a window reaches beyond its client area.

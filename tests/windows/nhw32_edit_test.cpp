@@ -3,6 +3,7 @@
 #include <atomic>
 
 #include "capture/nhw32/target_window.h"
+#include "forms/font.h"
 #include "tests/program/harness/find.h"
 #include "tests/windows/support/text_places.h"
 #include "tests/windows/support/text_target.h"
@@ -129,6 +130,76 @@ TEST_F(Nhw32Edit, NothingFarBelowALoneLine) {
   const POINT corner = *characterCorner(target.control(), 2);
   EXPECT_EQ(wordAtPoint(target, {corner.x + 1, corner.y + 5}), u"lonely");
   EXPECT_EQ(wordAtPoint(target, {corner.x + 1, corner.y + 25}), u"");
+}
+
+/// Fonts of the sizes that programs use at 96, 144 and 192 dpi, and a large one.
+class Nhw32EditFont : public Nhw32Edit,
+                      public ::testing::WithParamInterface<std::tuple<const char16_t*, int>> {
+ protected:
+  [[nodiscard]] TextTarget::Design design(DWORD style) const {
+    return {.style = style, .font = font_.get()};
+  }
+
+  [[nodiscard]] int lineHeight() const {
+    const TextTarget target(design(ES_MULTILINE), u"one\r\ntwo");
+    return lineDistance(target.control(), 0, 5);
+  }
+
+ private:
+  const forms::OwnedFont font_ =
+      forms::makeFont({.face = std::get<0>(GetParam()), .points = 9}, std::get<1>(GetParam()));
+};
+
+INSTANTIATE_TEST_SUITE_P(Faces, Nhw32EditFont,
+                         ::testing::Combine(::testing::Values(u"Tahoma", u"Times New Roman",
+                                                              u"Courier New"),
+                                            ::testing::Values(96, 144, 192, 384)));
+
+TEST_P(Nhw32EditFont, ASingleLineTellsItsWordsFromItsUpperToItsLowerEdge) {
+  const TextTarget target(design(ES_AUTOHSCROLL), u"The catalyst");
+  EXPECT_EQ(rowsTold(target.control(), 6), lineHeight());
+}
+
+TEST_P(Nhw32EditFont, ALoneLineTellsItsWordsDownToItsLowerEdgeAndLittleBelow) {
+  const TextTarget target(design(ES_MULTILINE), u"The catalyst");
+  const int rows = rowsTold(target.control(), 6);
+  EXPECT_GE(rows, lineHeight());
+  EXPECT_LT(rows, lineHeight() * 3 / 2);
+}
+
+TEST_P(Nhw32EditFont, WithTheCaretALoneLineTellsThemToItsLowerEdge) {
+  const TextTarget target(design(ES_MULTILINE), u"The catalyst");
+  SendMessageW(target.control(), WM_SETFOCUS, 0, 0);
+  EXPECT_EQ(rowsTold(target.control(), 6), lineHeight());
+}
+
+TEST_P(Nhw32EditFont, ALastLineTellsThemToItsLowerEdge) {
+  const TextTarget target(design(ES_MULTILINE), u"first\r\nThe catalyst");
+  EXPECT_EQ(rowsTold(target.control(), 13), lineHeight());
+}
+
+TEST_F(Nhw32Edit, AFormattingRectangleThatCannotBeIsNotTrusted) {
+  for (const RECT& rect : {RECT{0, 0, 0, 0}, {0, 20, 100, 10}, {0, -90, 100, -70}}) {
+    const TextTarget target({.style = ES_AUTOHSCROLL,
+                             .hook =
+                                 [&rect](HWND, UINT message, WPARAM, LPARAM lParam) {
+                                   if (message != EM_GETRECT) return std::optional<LRESULT>();
+                                   *reinterpret_cast<RECT*>(lParam) = rect;
+                                   return std::optional<LRESULT>(0);
+                                 }},
+                            u"The catalyst");
+    const int rows = rowsTold(target.control(), 6);
+    EXPECT_GE(rows, 16);
+    EXPECT_LE(rows, 24);
+  }
+}
+
+TEST_F(Nhw32Edit, TheBoxOfAWordEndsWithTheClientArea) {
+  const TextTarget target({.size = {420, 9}}, u"The catalyst");
+  const RECT client = harness::clientRectOf(target.control());
+  const auto answer = answerTo(questionAt(target.control(), {client.left + 8, client.top + 5}));
+  ASSERT_EQ(answer.outcome, Outcome::word);
+  EXPECT_EQ(answer.word.box.bottom, client.bottom);
 }
 
 TEST_F(Nhw32Edit, TheLastCharacterOfTheTextBelongsToItsWord) {

@@ -12,6 +12,7 @@
 #include "capture/nhw32/router.h"
 #include "capture/nhw32/service.h"
 #include "tests/program/harness/find.h"
+#include "tests/windows/support/heap_blocks.h"
 #include "tests/windows/support/hold_ups.h"
 #include "tests/windows/support/pump.h"
 #include "tests/windows/support/text_target.h"
@@ -30,13 +31,15 @@ constexpr milliseconds kQuestionTime{200 + 150};
 class Hanging {
  public:
   /// In all messages or only in `message`.
-  explicit Hanging(std::wstring className = L"EDIT", UINT message = WM_NULL)
+  explicit Hanging(std::wstring className = L"EDIT", UINT message = WM_NULL,
+                   DWORD style = ES_MULTILINE | ES_AUTOVSCROLL)
       : target_({.className = std::move(className),
+                 .style = style,
                  .hook =
                      [this, message](HWND, UINT sent, WPARAM, LPARAM structure) {
                        const bool late = hangs_ && message == sent;
                        while (hangs_ && (message == WM_NULL || message == sent)) Sleep(1);
-                       if (late && !committed(structure)) ++lost_;
+                       if (late && !inUse(structure)) ++lost_;
                        return std::optional<LRESULT>();
                      }},
                 u"stubborn words") {
@@ -53,10 +56,10 @@ class Hanging {
   [[nodiscard]] nhw32::Question question() const { return questionAt(target_.control(), place_); }
 
  private:
-  static bool committed(LPARAM address) {
+  static bool inUse(LPARAM address) {
     MEMORY_BASIC_INFORMATION memory{};
     VirtualQuery(reinterpret_cast<const void*>(address), &memory, sizeof memory);
-    return memory.State == MEM_COMMIT;
+    return memory.State == MEM_COMMIT && !isFreeInHeap(reinterpret_cast<const void*>(address));
   }
 
   std::atomic<bool> hangs_ = false;
@@ -95,9 +98,11 @@ TEST_F(Nhw32Hanging, AQuestionEndsInTimeAndTheWindowIsLeftAloneForAWhile) {
 
 TEST_F(Nhw32Hanging, AControlThatTakesItsTimeMayStillUseTheMemoryItWasGiven) {
   for (const auto& [className, message] :
-       {std::pair(L"EDIT", UINT{WM_GETTEXT}), std::pair(L"RichEdit20W", UINT{EM_CHARFROMPOS}),
+       {std::pair(L"EDIT", UINT{WM_GETTEXT}), std::pair(L"EDIT", UINT{EM_GETRECT}),
+        std::pair(L"RichEdit20W", UINT{EM_CHARFROMPOS}),
         std::pair(L"RichEdit20W", UINT{EM_GETTEXTRANGE})}) {
-    Hanging target(className, message);
+    Hanging target(className, message,
+                   message == EM_GETRECT ? ES_AUTOHSCROLL : ES_MULTILINE | ES_AUTOVSCROLL);
     for (int round = 0; round < 3; ++round) {
       target.hang(true);
       EXPECT_EQ(nhw32::makeRouter()->wordAt(target.question()).outcome, nhw32::Outcome::outOfTime);

@@ -101,6 +101,85 @@ TEST_F(Nhw32RichEdit, LettersOfManySizes) {
   EXPECT_EQ(wordAt(questionAbout(target.control(), 19)), u"next");
 }
 
+/// A rich edit control whose lines are of several sizes, none of which holds the caret.
+class SizedLines {
+ public:
+  struct Line {
+    std::u16string text;
+    int points;
+  };
+
+  explicit SizedLines(const std::vector<Line>& lines) : target_(richDesign(), joined(lines)) {
+    LONG first = 0;
+    for (const auto& [text, points] : lines) {
+      setSize(first, first + static_cast<LONG>(text.size()) + 1, points);
+      first += static_cast<LONG>(text.size()) + 1;
+    }
+    SendMessageW(control(), EM_SETSEL, 0, 0);
+  }
+
+  [[nodiscard]] HWND control() const { return target_.control(); }
+
+  void putCaretAt(LONG position) const {
+    SendMessageW(control(), EM_SETSEL, static_cast<WPARAM>(position), position);
+    SendMessageW(control(), WM_SETFOCUS, 0, 0);
+  }
+
+  void setSize(LONG first, LONG end, int points) const {
+    CHARFORMATW format{};
+    format.cbSize = sizeof format;
+    format.dwMask = CFM_SIZE;
+    format.yHeight = points * 20;  // in twips
+    SendMessageW(control(), EM_SETSEL, static_cast<WPARAM>(first), end);
+    SendMessageW(control(), EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+  }
+
+ private:
+  static std::u16string joined(const std::vector<Line>& lines) {
+    std::u16string text;
+    for (const Line& line : lines) text += (text.empty() ? u"" : u"\r") + line.text;
+    return text;
+  }
+
+  TextTarget target_;
+};
+
+int lineHeightOf(int points) {
+  const SizedLines lines({{u"one", points}, {u"two", points}});
+  return lineDistance(lines.control(), 0, 4);
+}
+
+TEST_F(Nhw32RichEdit, ALastLineTellsItsWordsDownToItsLowerEdgeAndLittleBelow) {
+  for (const int points : {8, 12, 18, 36, 48}) {
+    const int height = lineHeightOf(points);
+    for (const auto& above : std::vector<std::vector<SizedLines::Line>>{
+             {}, {{u"first", 8}}, {{u"first", points}}, {{u"first", 60}}}) {
+      std::vector<SizedLines::Line> lines = above;
+      lines.push_back({u"The catalyst", points});
+      const SizedLines target(lines);
+      const int rows = rowsTold(target.control(), (above.empty() ? 0 : 6) + 6);
+      EXPECT_GE(rows, height) << points;
+      EXPECT_LT(rows, std::max(height, 16) * 3 / 2) << points;
+    }
+  }
+}
+
+TEST_F(Nhw32RichEdit, TheCaretTellsOfItsOwnLineOnly) {
+  const int height = lineHeightOf(36);
+  const SizedLines target({{u"first", 8}, {u"The catalyst", 36}});
+  target.putCaretAt(9);
+  EXPECT_EQ(rowsTold(target.control(), 12), height);
+  target.putCaretAt(2);
+  EXPECT_GE(rowsTold(target.control(), 12), height);
+}
+
+TEST_F(Nhw32RichEdit, TheCaretTellsOfSmallLettersBesideLargeOnes) {
+  const SizedLines target({{u"The LARGE catalyst", 8}});
+  target.setSize(4, 9, 36);
+  target.putCaretAt(6);
+  EXPECT_EQ(rowsTold(target.control(), 13), lineHeightOf(36));
+}
+
 TEST_F(Nhw32RichEdit, APasswordIsNotEvenRead) {
   std::atomic<int> reads = 0;
   TextTarget::Design design = richDesign(ES_PASSWORD);

@@ -4,8 +4,8 @@
 
 namespace harness {
 
-WordPad::WordPad()
-    : process_(L"C:\\Program Files\\Windows NT\\Accessories\\wordpad.exe"),
+WordPad::WordPad(const std::wstring& file)
+    : process_(L"C:\\Program Files\\Windows NT\\Accessories\\wordpad.exe", file),
       window_(waitForWindow({.process = process_.id(), .className = L"WORDPADTOP", .title = {}})),
       edit_(waitForChild(window_, L"RICHEDIT20W")) {
   waitFor("WordPad to come to the front", [&] { return GetForegroundWindow() == window_; });

@@ -10,8 +10,8 @@ namespace harness {
 /// The system's WordPad, whose text is a rich text box.
 class WordPad {
  public:
-  /// Starts it and waits until a user has seen it.
-  WordPad();
+  /// Starts it, with a file's text where `file` is not empty, and waits until a user has seen it.
+  explicit WordPad(const std::wstring& file = L"");
 
   [[nodiscard]] HWND window() const { return window_; }
   [[nodiscard]] HWND edit() const { return edit_; }

@@ -1,5 +1,7 @@
 #include "tests/windows/support/text_places.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <random>
 
@@ -52,6 +54,25 @@ std::vector<TextPlace> placesInSight(HWND control, std::size_t count) {
                        cell->top + below(cell->bottom - cell->top)}});
   }
   return places;
+}
+
+int rowsTold(HWND control, std::size_t position) {
+  const POINT corner = *characterCorner(control, position);
+  const LONG bottom = harness::clientRectOf(control).bottom;
+  const auto told = [&](LONG y) {
+    return answerTo(questionAt(control, {corner.x + 1, y})).outcome == nhw32::Outcome::word;
+  };
+  LONG y = corner.y;
+  while (y < bottom && told(y)) ++y;
+  const auto rows = static_cast<int>(y - corner.y);
+  for (; y < bottom; y += 5) EXPECT_FALSE(told(y)) << y - corner.y << " pixels down";
+  return rows;
+}
+
+int lineDistance(HWND control, std::size_t inLine, std::size_t inNextLine) {
+  const auto line = characterCorner(control, inLine);
+  const auto next = characterCorner(control, inNextLine);
+  return static_cast<int>(next->y - line->y);
 }
 
 }  // namespace wintest

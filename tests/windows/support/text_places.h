@@ -17,4 +17,11 @@ struct TextPlace {
 /// in another character as long as there are as many. The last characters of lines are left out.
 std::vector<TextPlace> placesInSight(HWND control, std::size_t count);
 
+/// How many pixels down from the upper edge of a character the service tells a word, all from there
+/// on; where it does so again further down, a failure.
+int rowsTold(HWND control, std::size_t position);
+
+/// How many pixels one line of a control's text stands above the next.
+int lineDistance(HWND control, std::size_t inLine, std::size_t inNextLine);
+
 }  // namespace wintest

@@ -43,6 +43,9 @@ TextTarget::~TextTarget() {
 
 void TextTarget::prepare(HWND control) const {
   SendMessageW(control, EM_LIMITTEXT, 4'000'000, 0);
+  if (design_.font != nullptr) {
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(design_.font), FALSE);
+  }
   if (design_.hook) {
     SetWindowSubclass(control, hookProc, 1, reinterpret_cast<DWORD_PTR>(&design_.hook));
   }

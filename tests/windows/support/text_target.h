@@ -23,6 +23,7 @@ class TextTarget {
     DWORD style = ES_MULTILINE | ES_AUTOVSCROLL;
     SIZE size{420, 220};
     Hook hook = {};
+    HFONT font = nullptr;  ///< null: the control's own
   };
 
   explicit TextTarget(Design design, const std::u16string& text = u"");
