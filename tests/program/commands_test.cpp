@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "tests/program/harness/browser.h"
 #include "tests/program/harness/button.h"
 #include "tests/program/harness/dictionary_windows.h"
 #include "tests/program/harness/input.h"
@@ -68,9 +69,23 @@ TEST_F(Commands, TheMenusHelpStartsTheBrowserWithThePageThatIsThere) {
   const auto help = AppFolder::withFullDictionary().path() / "help" / "help.htm";
   ASSERT_TRUE(std::filesystem::exists(help));
   lexilo.choose(MenuItem::help);
-  HWND browser = waitForWindow({.className = L"IEFrame", .title = {}});
-  PostMessageW(browser, WM_CLOSE, 0, 0);
-  waitUntilGone(browser);
+  const Browser browser;
+  browser.waitForAddress(L"file://" + help.wstring());
+}
+
+TEST_F(Commands, TheWebSiteIsOpenedInTheBrowser) {
+  lexilo.choose(MenuItem::homePage);
+  const Browser browser;
+  browser.waitForAddress(L"" LEXILO_HOME_PAGE);
+}
+
+TEST(CommandsElsewhere, HelpFromAFolderWithBlanksIsTheStatedPage) {
+  const AppFolder folder = AppFolder::withSmallDictionary(L"my programs and Lexilo 1.3");
+  const Lexilo lexilo(folder);
+  lexilo.waitUntilSeen();
+  lexilo.choose(MenuItem::help);
+  const Browser browser;
+  browser.waitForAddress(L"file://" + (folder.path() / L"help" / L"help.htm").wstring());
 }
 
 /// How the menu looks, row by row, when it is dropped down.

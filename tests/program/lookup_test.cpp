@@ -1,6 +1,9 @@
 // Looking words up in the quick lookup window, as a user does.
 #include <gtest/gtest.h>
 
+#include <utility>
+#include <vector>
+
 #include "tests/program/harness/clipboard.h"
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/cover.h"
@@ -34,6 +37,27 @@ TEST_F(Lookup, OpensAtTheLetterA) {
   EXPECT_EQ(textOf(window.window()), L"速查 V1.3");
   EXPECT_TRUE(isTopmost(window.window()));
   EXPECT_EQ(focusIn(window.window()), window.input());
+}
+
+/// Whether a control shows what it shows after all of it, frame included, was painted anew.
+bool isPaintedWhole(HWND control) {
+  const RECT rect = rectOf(control);
+  const std::vector<COLORREF> shown = settledPixels(rect);
+  RedrawWindow(control, nullptr, nullptr,
+               RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+  return settledPixels(rect) == shown;
+}
+
+bool scrolls(HWND control) { return (GetWindowLongPtrW(control, GWL_STYLE) & WS_VSCROLL) != 0; }
+
+TEST_F(Lookup, TheScrollBarsSayThatThereIsMore) {
+  for (const auto& [word, more] : std::initializer_list<std::pair<const wchar_t*, bool>>{
+           {L"ge", false}, {L"get", true}, {L"ge", false}, {L"set", true}}) {
+    window.type(word);
+    waitFor("the meanings", [&] { return scrolls(window.pane()) == more; });
+    EXPECT_TRUE(isPaintedWhole(window.pane()));
+    EXPECT_TRUE(isPaintedWhole(window.list()));
+  }
 }
 
 TEST_F(Lookup, AnEnglishWordShowsItsNeighboursAndItsMeaning) {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "forms/geometry.h"
+#include "tests/program/harness/browser.h"
 #include "tests/program/harness/cover.h"
 #include "tests/program/harness/input.h"
 #include "tests/program/harness/lexilo.h"
@@ -203,12 +204,12 @@ TEST_F(Toolbar, ItsMenuSaysWhenThereIsNoBrowserForTheHomePage) {
   EXPECT_EQ(lexilo.exit(), 0U);
 }
 
-TEST_F(Toolbar, ItsHelpButtonStartsTheBrowser) {
+TEST_F(Toolbar, ItsHelpButtonStartsTheBrowserWithThePageThatIsThere) {
+  const auto help = AppFolder::withFullDictionary().path() / L"help" / L"help.htm";
+  ASSERT_TRUE(std::filesystem::exists(help));
   lexilo.click(ToolbarButton::help);
-  HWND browser = waitForWindow({.className = L"IEFrame", .title = {}});
-  Handle process(OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, processOf(browser)));
-  TerminateProcess(process.get(), 0);
-  WaitForSingleObject(process.get(), kPatience);
+  const Browser browser;
+  browser.waitForAddress(L"file://" + help.wstring());
 }
 
 }  // namespace

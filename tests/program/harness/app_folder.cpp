@@ -18,10 +18,11 @@ fs::path named(const wchar_t* variable, const wchar_t* otherwise) {
 
 fs::path fullFolder() { return named(L"LEXILO_APP", L"build/app"); }
 
-/// A new folder with the program alone. The program file is shared, since nothing changes it.
-fs::path freshFolder() {
+/// A new folder of that name with the program alone. The program file is shared, since nothing
+/// changes it.
+fs::path freshFolder(const std::wstring& name = L"Lexilo") {
   static int folders = 0;
-  fs::path path = fs::absolute(L"build/program") / std::to_wstring(++folders);
+  fs::path path = fs::absolute(L"build/program") / std::to_wstring(++folders) / name;
   fs::remove_all(path);
   fs::create_directories(path);
   fs::create_hard_link(fullFolder() / "lexilo.exe", path / "lexilo.exe");
@@ -32,8 +33,8 @@ fs::path freshFolder() {
 
 AppFolder AppFolder::withFullDictionary() { return AppFolder(fullFolder()); }
 
-AppFolder AppFolder::withSmallDictionary() {
-  AppFolder folder(freshFolder());
+AppFolder AppFolder::withSmallDictionary(const std::wstring& name) {
+  AppFolder folder(freshFolder(name));
   fs::copy_file(named(L"LEXILO_SMALL_DATABASE", L"build/small/kk.dat"), folder.database());
   return folder;
 }

@@ -16,8 +16,8 @@ class AppFolder {
   /// The one with the full dictionary. Shared by all tests: nothing may be changed in it.
   static AppFolder withFullDictionary();
 
-  /// A fresh copy with the small dictionary, to be changed at will.
-  static AppFolder withSmallDictionary();
+  /// A fresh copy with the small dictionary, to be changed at will; in a folder of that name.
+  static AppFolder withSmallDictionary(const std::wstring& name = L"Lexilo");
 
   /// A fresh copy without any dictionary.
   static AppFolder withoutDictionary();

@@ -105,6 +105,12 @@ void key(WORD virtualKey, std::initializer_list<WORD> modifiers) {
   inject(events);
 }
 
+void pressOnDisplay(std::initializer_list<const char*> keys) {
+  std::string commands = "key --delay 60";
+  for (const char* key : keys) commands.append(" ").append(key);
+  runBelow("xdotool " + commands);
+}
+
 void type(std::wstring_view text) {
   std::vector<INPUT> events;
   for (wchar_t unit : text) {

@@ -1,7 +1,11 @@
 #include "tests/program/harness/screen.h"
 
 #include <filesystem>
+#include <functional>
+#include <numeric>
+#include <utility>
 
+#include "tests/program/harness/find.h"
 #include "tests/program/harness/process.h"
 
 namespace harness {
@@ -57,6 +61,31 @@ std::vector<COLORREF> screenPixels(const RECT& rect) {
   BitBlt(canvas.context(), 0, 0, size.cx, size.cy, screen, rect.left, rect.top, SRCCOPY);
   ReleaseDC(nullptr, screen);
   return canvas.pixels();
+}
+
+std::vector<COLORREF> settledPixels(const RECT& rect) {
+  constexpr DWORD kBetween = 40;  // ms
+  std::vector<COLORREF> last;
+  waitFor("the screen to settle", [&] {
+    Sleep(kBetween);
+    return std::exchange(last, screenPixels(rect)) == last;
+  });
+  return last;
+}
+
+bool isSeenWhole(HWND window, const std::vector<HWND>& others) {
+  const RECT inside = clientRectOf(window);
+  const std::vector<COLORREF> shown = settledPixels(inside);
+  for (HWND other : others) {
+    ShowWindow(other, SW_HIDE);
+    waitUntilGone(other);
+  }
+  const std::vector<COLORREF> alone = settledPixels(inside);
+  for (HWND other : others) ShowWindow(other, SW_SHOWNA);
+  constexpr std::ptrdiff_t kCaret = 100;  // pixels of a blinking caret
+  const auto same = std::inner_product(shown.begin(), shown.end(), alone.begin(), std::ptrdiff_t{0},
+                                       std::plus<>(), std::equal_to<>());
+  return std::ssize(shown) - same <= kCaret;
 }
 
 std::vector<COLORREF> iconPixels(const wchar_t* icon, SIZE size) {

@@ -11,6 +11,13 @@ namespace harness {
 /// The colours of a rectangle of the screen, row by row.
 std::vector<COLORREF> screenPixels(const RECT& rect);
 
+/// The same once they no longer change.
+std::vector<COLORREF> settledPixels(const RECT& rect);
+
+/// Whether the screen shows of the inside of `window`, but for a caret, what it shows while the
+/// windows `others` are hidden.
+bool isSeenWhole(HWND window, const std::vector<HWND>& others);
+
 /// The colours of one of the system's icons (IDI_ERROR ...) on the background of dialogs.
 std::vector<COLORREF> iconPixels(const wchar_t* icon, SIZE size);
 

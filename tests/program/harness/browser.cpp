@@ -1,0 +1,27 @@
+#include "tests/program/harness/browser.h"
+
+#include "tests/program/harness/find.h"
+#include "tests/program/harness/process.h"
+#include "tests/program/harness/text.h"
+
+namespace harness {
+
+Browser::Browser() : window_(waitForWindow({.className = L"IEFrame", .title = {}})) {}
+
+Browser::~Browser() {
+  const Handle process(OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, processOf(window_)));
+  TerminateProcess(process.get(), 0);
+  WaitForSingleObject(process.get(), kPatience);
+}
+
+void Browser::waitForAddress(const std::wstring& address) const {
+  HWND bar = waitForChild(window_, L"Edit");
+  std::wstring shown;
+  try {
+    waitFor("the address", [&] { return (shown = textOf(bar)) == address; });
+  } catch (const Failure&) {
+    throw Failure("the browser shows " + utf8(shown) + " and not " + utf8(address));
+  }
+}
+
+}  // namespace harness

@@ -1,0 +1,146 @@
+// The program's windows beside and above each other: which is seen, and which has the keyboard.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/program/harness/button.h"
+#include "tests/program/harness/controls.h"
+#include "tests/program/harness/dictionary_windows.h"
+#include "tests/program/harness/input.h"
+#include "tests/program/harness/message_box.h"
+#include "tests/program/harness/screen.h"
+
+namespace harness {
+namespace {
+
+constexpr RECT kMiddle{260, 200, 1020, 800};  ///< leaves no room beside it for the query window
+
+class WindowsTogether : public ::testing::Test {
+ protected:
+  WindowsTogether() : lookup_(openLookup()) {}
+
+  /// Forces paints of the quick lookup window, each of which raises it.
+  void repaintLookup() const {
+    for (int i = 0; i < 5; ++i) {
+      RedrawWindow(lookup_.window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+      Sleep(20);
+    }
+  }
+
+  /// Whether neither the quick lookup window nor the toolbar covers a part of `window`, also after
+  /// the former was painted.
+  [[nodiscard]] bool staysSeen(HWND window) const {
+    const std::vector<HWND> others{lookup_.window(), lexilo.toolbar()};
+    if (!isSeenWhole(window, others)) return false;
+    waitFor("the window in front", [&] { return GetForegroundWindow() == window; });
+    repaintLookup();
+    return isSeenWhole(window, others);
+  }
+
+  void answer(const std::wstring& text) const {
+    const ShownMessage box = waitForMessageBox(lexilo.process());
+    EXPECT_EQ(box.text, text);
+    EXPECT_TRUE(isSeenWhole(box.window, {lookup_.window(), lexilo.toolbar()}));
+    box.answer();
+  }
+
+  const Lexilo lexilo{AppFolder::withFullDictionary()};
+  const QuickLookup lookup_;
+
+ private:
+  QuickLookup openLookup() const {
+    lexilo.waitUntilSeen();
+    QuickLookup window = lexilo.openQuickLookupAtA();
+    placeWindow(window.window(), kMiddle);
+    return window;
+  }
+};
+
+TEST_F(WindowsTogether, TheQueryWindowAndItsMessagesAreSeen) {
+  const MultiQuery query(lexilo);
+  EXPECT_TRUE(staysSeen(query.window()));
+  saveScreenshot("build/shots/query-over-lookup.png");
+  query.search(L"zzzzz");
+  answer(L"Sorry，没有该词条！");
+  EXPECT_TRUE(staysSeen(query.window()));
+}
+
+TEST_F(WindowsTogether, TheDictionarySettingsAreSeen) {
+  const DictionarySettings settings(lexilo);
+  EXPECT_TRUE(staysSeen(settings.window()));
+}
+
+TEST_F(WindowsTogether, TheAboutBoxIsSeen) {
+  lexilo.choose(MenuItem::about);
+  EXPECT_TRUE(staysSeen(waitForForm(lexilo.process(), L"frmAbout")));
+}
+
+TEST_F(WindowsTogether, TheSpecialQueryIsSeen) {
+  const MultiQuery query(lexilo);
+  const SpecialQuery dialog(lexilo.process(), query);
+  EXPECT_TRUE(staysSeen(dialog.window()));
+  dialog.ask(L"", L"");
+  answer(L"请在英文和中文的文本框里输入内容！");
+  EXPECT_TRUE(staysSeen(dialog.window()));
+}
+
+TEST_F(WindowsTogether, AWindowBesideStaysSeenWhileWordsAreTyped) {
+  placeWindow(lookup_.window(), {20, 100, 270, 400});
+  const DictionarySettings settings(lexilo);
+  EXPECT_FALSE(isTopmost(settings.window()));
+  for (const wchar_t* word : {L"set", L"data", L"get", L"zoology"}) lookup_.lookUp(word);
+  EXPECT_TRUE(isSeenWhole(settings.window(), {lookup_.window(), lexilo.toolbar()}));
+}
+
+TEST_F(WindowsTogether, AMaximisedLookupLeavesTheToolbarInSight) {
+  // Away from the buttons, whose tool tips and highlights come and go.
+  input::moveTo({640, 900});
+  const RECT bar = rectOf(lexilo.toolbar());
+  const std::vector<COLORREF> look = settledPixels(bar);
+  const auto seen = [&] { return screenPixels(bar) == look; };
+  actUntil(
+      "a maximised window",
+      [&] {
+        input::doubleClick({640, kMiddle.top + 12});
+      },
+      [&] { return IsZoomed(lookup_.window()) != FALSE; });
+  waitFor("the toolbar above it", seen);
+  lookup_.lookUp(L"set");
+  waitFor("the toolbar above it after typing", seen);
+  lookup_.clickWord(3);
+  waitFor("the toolbar above it after a click", seen);
+}
+
+/// The colour of a window's title bar, as the window manager draws it, beside its text.
+COLORREF titleColour(HWND window) {
+  const RECT rect = rectOf(window);
+  const RECT spot{rect.left + 40, rect.top + 16, rect.left + 41, rect.top + 17};
+  return settledPixels(spot).front();
+}
+
+TEST_F(WindowsTogether, TheKeyboardStaysInTheSpecialQueryAfterItsWarning) {
+  const MultiQuery query(lexilo);
+  const COLORREF active = titleColour(query.window());
+  query.click(L"特殊");
+  HWND dialog = waitForForm(lexilo.process(), L"frmSpc");
+  waitFor("the dialog's title drawn as the active one",
+          [&] { return titleColour(dialog) == active; });
+  EXPECT_NE(titleColour(query.window()), active);
+  input::pressOnDisplay({"Return"});
+  const ShownMessage box = waitForMessageBox(lexilo.process());
+  EXPECT_EQ(box.text, L"请在英文和中文的文本框里输入内容！");
+  Sleep(kReactionTime);
+  input::pressOnDisplay({"Return"});
+  waitUntilGone(box.window);
+  waitFor("the dialog's title drawn as the active one again",
+          [&] { return titleColour(dialog) == active; });
+  input::pressOnDisplay({"h", "e", "a", "t"});
+  // Its upper box, which had the keyboard before.
+  std::vector<HWND> edits = childrenOf(dialog, L"Edit");
+  std::ranges::sort(edits, {}, [](HWND edit) { return rectOf(edit).top; });
+  waitFor("what was typed", [&] { return textOf(edits.front()) == L"heat"; });
+  EXPECT_EQ(textOf(query.input()), L"");
+}
+
+}  // namespace
+}  // namespace harness
