@@ -48,11 +48,10 @@ if measured painted capture; then
   start_wine "$(fresh_prefix bench)"
   say "Under Wine on a virtual display:"
 fi
-# The pipe keeps Wine from taking the terminal for a console of its own.
 if measured painted; then
-  wine build/windows/bin/window_bench.exe build/kk.dat 2>&1 </dev/null | cat
-  wine build/windows/bin/search_bench.exe build/kk.dat 2>&1 </dev/null | cat
+  run_wine build/windows/bin/window_bench.exe build/kk.dat
+  run_wine build/windows/bin/search_bench.exe build/kk.dat
 fi
 if measured capture; then
-  wine build/windows/bin/capture_bench.exe 2>&1 </dev/null | cat
+  run_wine build/windows/bin/capture_bench.exe
 fi

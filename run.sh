@@ -18,7 +18,11 @@ assemble_app
 if have_display; then
   use_prefix "$(copy_prefix user)"
   say "Lexilo is starting on display $DISPLAY; its toolbar appears near the top right corner."
-  exec wine build/app/lexilo.exe
+  wine build/app/lexilo.exe >build/logs/lexilo.log 2>&1 </dev/null &
+  lexilo=$!
+  trap 'kill "$lexilo" 2>/dev/null || true; exit 130' INT TERM
+  wait "$lexilo" || fail "Lexilo ended with status $? (see build/logs/lexilo.log$(crash_hint))."
+  exit
 fi
 
 trap 'stop_wine; stop_display' EXIT
@@ -30,6 +34,5 @@ rm -rf "$tour_dir"
 mkdir -p "$tour_dir"
 start_display
 start_wine "$(fresh_prefix tour)"
-# The pipe keeps Wine from taking the terminal for a console of its own.
-wine build/windows/bin/tour.exe build/tour 2>&1 </dev/null | cat
+run_wine build/windows/bin/tour.exe build/tour
 say "The screenshots are in build/tour."

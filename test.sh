@@ -87,5 +87,6 @@ if wanted dpi144; then
 fi
 [[ -z $aside ]] || gather_aside
 
+tell_of_crashes
 say "$passed passed, $failed failed"
 ((failed == 0))

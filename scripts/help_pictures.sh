@@ -16,5 +16,4 @@ ensure_full_database
 assemble_app
 start_display
 start_wine "$(fresh_prefix help)"
-# The pipe keeps Wine from taking the terminal for a console of its own.
-wine build/windows/bin/help_pictures.exe help/pictures 2>&1 </dev/null | cat
+run_wine build/windows/bin/help_pictures.exe help/pictures

@@ -144,7 +144,7 @@ int main() {
   try {
     measure();
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "%s\n", error.what());
+    std::printf("error: %s\n", error.what());
     return 1;
   }
   return 0;

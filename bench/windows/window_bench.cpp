@@ -146,13 +146,13 @@ int run(const std::u16string& database) {
 
 int wmain(int count, wchar_t** arguments) {
   if (count != 2) {
-    std::fputs("usage: window_bench KK.DAT\n", stderr);
+    std::puts("usage: window_bench KK.DAT");
     return 2;
   }
   try {
     return run(forms::fromWide(arguments[1]));
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "window_bench: %s\n", error.what());
+    std::printf("error: %s\n", error.what());
     return 1;
   }
 }

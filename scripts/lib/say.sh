@@ -18,10 +18,11 @@ tenths() {
   printf '%s' "${now:0:-5}"
 }
 
-# The last line that was written to a log, without its control characters.
+# The last line that was written to a log, without its control characters and without characters
+# that the cutting took apart.
 last_line() {
   tail -c 400 "$1" 2>/dev/null | tr '\r' '\n' | tr -d '\000-\010\013-\037' | sed '/^ *$/d' |
-    tail -n 1 | cut -c 1-90
+    tail -n 1 | cut -c 1-90 | iconv -c -f UTF-8 -t UTF-8 2>/dev/null
 }
 
 # Sleeps without holding a pipe of ours, so that nobody waits for it when the step is over.

@@ -35,14 +35,18 @@ run_gtest() {
   local layer=$1 seconds=$2 start status=0 ticker numbers
   local log=$results_dir/$1.log json=$results_dir/$1.json
   shift 2
+  # The sanitizers' reports belong to the log; what Wine says does not.
+  local errors=$log
+  [[ $1 != wine ]] || errors=$LEXILO_ROOT/build/logs/wine-$layer.log
   mkdir -p "$results_dir"
-  rm -f "$json" "$log"
+  rm -f "$json"
   : >"$log"
+  : >"$errors"
   start=$(tenths)
   announce "$layer" "$log" &
   ticker=$!
   timeout -k 5 "$seconds" "$@" "--gtest_output=json:${json#"$LEXILO_ROOT"/}" \
-    >"$log" 2>&1 </dev/null || status=$?
+    >>"$log" 2>>"$errors" </dev/null || status=$?
   kill "$ticker" 2>/dev/null || true
   wait "$ticker" 2>/dev/null || true
   # The reader's report goes to the screen, its two numbers come back.

@@ -3,6 +3,11 @@
 
 wine_base=$LEXILO_ROOT/build/wine/base
 
+# What Wine itself has to say, and the backtraces of programs that crashed. None of it is for the
+# terminal: it is partly in Chinese, in whatever code page, and says nothing to a user.
+wine_log=$LEXILO_ROOT/build/logs/wine.log
+crash_log=$LEXILO_ROOT/build/logs/crashes.log
+
 # The prefix that start_wine started. $WINEPREFIX may be one of the user's, with programs in it.
 started_prefix=
 
@@ -15,24 +20,43 @@ use_prefix() {
   export LC_ALL=zh_CN.UTF-8
 }
 
+# set_registry KEY VALUE TYPE DATA: writes a value into the registry of the prefix in use. reg tells
+# what it did in the prefix's code page.
+set_registry() {
+  wine reg add "$1" /v "$2" /t "$3" /d "$4" /f 2>>"$wine_log" </dev/null |
+    iconv -c -f GBK -t UTF-8 | tr -d '\r' >>"$wine_log"
+}
+
 make_prefix() {
   use_prefix "$1"
   # Without a display: nothing may pop up on the user's screen meanwhile.
   unset DISPLAY
+  say "Windows' folders and registry; Wine's messages go to ${wine_log#"$LEXILO_ROOT"/}"
   rm -rf "$WINEPREFIX" && mkdir -p "$WINEPREFIX" || return
-  wine wineboot -i || return
-  # A crash is to end a program, not to open a dialog that waits.
-  wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f || return
+  wine wineboot -i >"$wine_log" 2>&1 </dev/null || return
+  # A crash is to end a program, not to open a dialog that waits. Its backtrace, which Wine would
+  # mix with what the program prints, goes to C:\logs, which is build/logs in every copy.
+  ln -s ../../../logs "$WINEPREFIX/drive_c/logs" || return
+  set_registry 'HKCU\Software\Wine\WineDbg' ShowCrashDialog REG_DWORD 0 || return
+  set_registry 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' Debugger REG_SZ \
+    'cmd /c "C:\windows\system32\winedbg.exe --auto %ld %ld >>C:\logs\crashes.log 2>&1"' || return
   wineserver -w
   [[ -f $WINEPREFIX/user.reg && -f $WINEPREFIX/drive_c/windows/system32/kernel32.dll ]] &&
-    wine --version >"$WINEPREFIX/made-by"
+    base_stamp >"$WINEPREFIX/made-by"
+}
+
+# What a base prefix is made by: Wine, and the steps above, whose number rises when they change.
+base_stamp() {
+  printf '%s, steps 2\n' "$(wine --version 2>/dev/null)"
 }
 
 # Makes the prefix from which all others are copied, again when Wine has changed.
 ensure_wine_base() {
-  [[ $(cat "$wine_base/made-by" 2>/dev/null) == "$(wine --version 2>/dev/null)" ]] && return
-  step "Making a Wine prefix" wine.log \
-    "Look for a message of Wine's there; 'wine --version' should say 8.0 or later." \
+  # The backtraces of earlier runs tell nothing of this one.
+  rm -f "$crash_log"
+  [[ $(cat "$wine_base/made-by" 2>/dev/null) == "$(base_stamp)" ]] && return
+  step "Making a Wine prefix" prefix.log \
+    "Look for a message in build/logs/wine.log; 'wine --version' should say 8.0 or later." \
     make_prefix "$wine_base"
 }
 
@@ -62,8 +86,31 @@ copy_prefix() {
 start_wine() {
   use_prefix "$1"
   started_prefix=$1
-  wineserver -p >/dev/null 2>&1 </dev/null && wine cmd /c exit >/dev/null 2>&1 </dev/null ||
-    fail "Wine did not start in ${1#"$LEXILO_ROOT"/}. Remove build/wine and run this again."
+  mkdir -p "${wine_log%/*}"
+  wineserver -p >>"$wine_log" 2>&1 </dev/null && wine cmd /c exit >>"$wine_log" 2>&1 </dev/null ||
+    fail "Wine did not start in ${1#"$LEXILO_ROOT"/} (see build/logs/wine.log). Remove build/wine" \
+      "and run this again."
+}
+
+# run_wine PROGRAM ARGUMENT...: runs a program, whose standard output, errors included, comes here.
+# Standard error, where Wine has its say, goes to build/logs/NAME.log. Without a terminal on either
+# side Wine does not take it for a console of its own.
+run_wine() {
+  local name log status=0
+  name=$(basename "$1" .exe)
+  log=build/logs/$name.log
+  wine "$@" 2>"$LEXILO_ROOT/$log" </dev/null | sed -u 's/\r$//' || status=$?
+  ((status == 0)) || fail "$name ended with status $status (see $log$(crash_hint))."
+}
+
+# Where the backtraces of this run's crashes are, if there were any: as the end of a list of logs, and
+# as a sentence.
+crash_hint() {
+  [[ ! -s $crash_log ]] || printf ' and %s' "${crash_log#"$LEXILO_ROOT"/}"
+}
+
+tell_of_crashes() {
+  [[ ! -s $crash_log ]] || say "The backtraces of crashes are in ${crash_log#"$LEXILO_ROOT"/}."
 }
 
 # Ends the server that start_wine started, and with it every program that runs in its prefix.
@@ -84,8 +131,8 @@ fresh_prefix() {
 
 # set_dpi DPI: the resolution that programs in the prefix that was started see from here on.
 set_dpi() {
-  wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f \
-    >/dev/null 2>&1 </dev/null || fail "Wine did not take $1 dpi. Remove build/wine and run this again."
+  set_registry 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD "$1" ||
+    fail "Wine did not take $1 dpi (see build/logs/wine.log). Remove build/wine and run this again."
   local prefix=$started_prefix
   stop_wine
   start_wine "$prefix"
