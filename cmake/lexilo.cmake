@@ -43,3 +43,17 @@ function(lexilo_library name)
   add_library(${name} STATIC ${arg_SOURCES})
   target_link_libraries(${name} PUBLIC lexilo_options ${arg_LINKS})
 endfunction()
+
+# lexilo_separate_symbols(TARGET): an executable for Windows without debugging data, which is left
+# beside it as TARGET.debug. Debuggers, Wine's among them, find that by the name that is noted in the
+# executable. Part of the linking: neither file is ever older than the other. The start routine stays
+# as the only symbol: without any, Wine does not read the section names of an executable.
+function(lexilo_separate_symbols target)
+  set(symbols ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${target}.debug)
+  add_custom_command(TARGET ${target} POST_BUILD
+    BYPRODUCTS ${symbols}
+    COMMAND ${CMAKE_OBJCOPY} --only-keep-debug $<TARGET_FILE:${target}> ${symbols}
+    COMMAND ${CMAKE_OBJCOPY} --strip-all --keep-symbol=WinMainCRTStartup
+      --add-gnu-debuglink=${symbols} $<TARGET_FILE:${target}>
+    VERBATIM)
+endfunction()

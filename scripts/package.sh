@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Makes build/Lexilo-VERSION.zip, which runs on Windows 10 and later where it is unpacked.
+# Makes build/Lexilo-VERSION.zip, which runs on Windows 10 and later where it is unpacked, and
+# build/Lexilo-VERSION-symbols.zip, with which a debugger names the functions of that very program.
 set -euo pipefail
 
 # shellcheck source=setup.sh
@@ -18,8 +19,7 @@ folder=build/package/$name
 rm -rf build/package
 mkdir -p "$folder/licences"
 
-x86_64-w64-mingw32-strip -o "$folder/lexilo.exe" build/windows/bin/lexilo.exe
-cp build/kk.dat LICENSE THIRD_PARTY.md "$folder"
+cp build/windows/bin/lexilo.exe build/kk.dat LICENSE THIRD_PARTY.md "$folder"
 cp -r help "$folder/help"
 
 # The licences of what is built in, word for word as it came.
@@ -29,7 +29,13 @@ cp "$doc/mingw-w64-x86-64-dev/copyright" "$folder/licences/mingw-w64.txt"
 cp "$doc/gcc-mingw-w64-base/copyright" "$folder/licences/gcc-runtime.txt"
 cp "$doc/libicu72/copyright" "$folder/licences/icu-pinyin-order.txt"
 
-rm -f "build/$name.zip"
-step "Packing build/$name.zip" package.log "Look for a full disk." \
-  cmake -E chdir build/package cmake -E tar cf "../$name.zip" --format=zip "$name"
-say "build/$name.zip: $(($(stat -c %s "build/$name.zip") / 1024 / 1024)) MB"
+# pack ZIP FOLDER ENTRY: puts an entry of FOLDER into build/ZIP.
+pack() {
+  rm -f "build/$1"
+  step "Packing build/$1" package.log "Look for a full disk." \
+    cmake -E chdir "$2" cmake -E tar cf "$LEXILO_ROOT/build/$1" --format=zip "$3"
+  say "build/$1: $(($(stat -c %s "build/$1") / 1024 / 1024)) MB"
+}
+
+pack "$name.zip" build/package "$name"
+pack "$name-symbols.zip" build/windows/bin lexilo.debug

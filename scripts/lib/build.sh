@@ -57,10 +57,10 @@ build_licence_page() {
     makensis -V2 -NOCD -INPUTCHARSET UTF8 "-DOUT=$out" "-DTEXT=$source.txt" "$source.nsi"
 }
 
-# assemble_app: brings build/app up to date.
+# assemble_app: brings build/app up to date. The symbols lie there for the backtraces of crashes.
 assemble_app() {
   mkdir -p "$app_dir"
-  cp --remove-destination "$LEXILO_ROOT/build/windows/bin/lexilo.exe" "$app_dir/lexilo.exe"
+  cp --remove-destination "$LEXILO_ROOT"/build/windows/bin/lexilo.{exe,debug} "$app_dir"
   if [[ ! -f $app_dir/kk.dat ]] || ! cmp -s "$database.stamp" "$app_dir/.kk.dat.stamp"; then
     # What an interrupted update of the old database left would be rolled back into the new one.
     rm -f "$app_dir/kk.dat-journal"

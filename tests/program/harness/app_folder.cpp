@@ -18,14 +18,17 @@ fs::path named(const wchar_t* variable, const wchar_t* otherwise) {
 
 fs::path fullFolder() { return named(L"LEXILO_APP", L"build/app"); }
 
-/// A new folder of that name with the program alone. The program file is shared, since nothing
-/// changes it.
+/// A new folder of that name with the program alone, and its symbols for backtraces where there are
+/// any. The files are shared, since nothing changes them.
 fs::path freshFolder(const std::wstring& name = L"Lexilo") {
   static int folders = 0;
   fs::path path = fs::absolute(L"build/program") / std::to_wstring(++folders) / name;
   fs::remove_all(path);
   fs::create_directories(path);
   fs::create_hard_link(fullFolder() / "lexilo.exe", path / "lexilo.exe");
+  if (fs::exists(fullFolder() / "lexilo.debug")) {
+    fs::create_hard_link(fullFolder() / "lexilo.debug", path / "lexilo.debug");
+  }
   return path;
 }
 
