@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Measures how fast Lexilo is on the full dictionary, and prints tables.
+# Measures how fast Lexilo is on the full dictionary and how much memory it takes, and prints tables.
 #
 #   ./bench.sh          all parts
 #   ./bench.sh native   only lookups and searches, natively, without windows
 #   ./bench.sh painted  only from keystroke or click to what it has painted, under Wine
 #   ./bench.sh capture  only words under the pointer: popup, service, toolbar, processor time
+#   ./bench.sh memory   only memory: at the start, and after 1,000 lookups, beside a bare window
 #
 # Other work on the machine shows in the figures.
 set -euo pipefail
@@ -13,7 +14,7 @@ set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/scripts/setup.sh"
 cd "$LEXILO_ROOT"
 
-all_parts=(native painted capture)
+all_parts=(native painted capture memory)
 parts=("${@:-${all_parts[@]}}")
 for part in "${parts[@]}"; do
   [[ " ${all_parts[*]} " == *" $part "* ]] ||
@@ -41,8 +42,8 @@ if measured native; then
   build/tools/bin/lookup_bench build/kk.dat
 fi
 
-if measured painted capture; then
-  build windows window_bench search_bench capture_bench lexilo
+if measured painted capture memory; then
+  build windows window_bench search_bench capture_bench memory_bench bare_window lexilo
   assemble_app
   start_display
   start_wine "$(fresh_prefix bench)"
@@ -54,4 +55,7 @@ if measured painted; then
 fi
 if measured capture; then
   run_wine build/windows/bin/capture_bench.exe
+fi
+if measured memory; then
+  run_wine build/windows/bin/memory_bench.exe build/windows/bin/bare_window.exe
 fi

@@ -5,6 +5,7 @@
 
 #include "app/state.h"
 #include "bench/timings.h"
+#include "bench/windows/sample_words.h"
 #include "data/data_control.h"
 #include "forms/dispatcher.h"
 #include "forms/registry.h"
@@ -91,31 +92,14 @@ void typeLookup(frmSub& form, const std::vector<std::u16string>& words, Keystrok
   typeWords(form.txtInput, words, [&](char16_t letter) { typeLetter(form, letter, times); });
 }
 
-/// `count` headwords spread evenly over `table`.
-std::vector<std::u16string> sampleWords(const char16_t* table, int count) {
-  data::DataControl control;
-  control.setConnectionString(user::ConnectionString);
-  std::vector<std::u16string> words;
-  control.setRecordSource(std::u16string(u"select word from ") + table);
-  control.refresh();
-  auto& rows = control.recordset();
-  const std::size_t step =
-      std::max<std::size_t>(rows.recordCount() / static_cast<unsigned>(count), 1);
-  std::size_t place = 0;
-  for (rows.moveFirst(); !rows.endOfFile(); rows.moveNext()) {
-    if (place++ % step == 0) words.push_back(rows.field(u"word").text);
-  }
-  return words;
-}
-
 int run(const std::u16string& database) {
   user::ConnectionString =
       u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + database + u";Persist Security Info=False";
   data::DataControl control;
   control.setConnectionString(user::ConnectionString);
   user::IdxWords = data::readIndexWords(control);
-  const auto english = sampleWords(u"edictidx", 200);
-  const auto chinese = sampleWords(u"cdictidx", 300);
+  const auto english = bench::sampleWords(control, u"edictidx", 200);
+  const auto chinese = bench::sampleWords(control, u"cdictidx", 300);
 
   Timings echoEnglish("English letter, a bare text box");
   Timings echoChinese("Chinese character, a bare text box");
