@@ -174,6 +174,8 @@ void frmTop::Timer1_Timer() {
 void frmTop::GetIdx() {
   RunQuery(Adodc1, data::kIndexQuery);
   user::IdxWords = data::readIndexWords(Adodc1.recordset());
+  // Nothing else is read here: the rows and the connection would only take memory.
+  Adodc1.close();
 }
 
 void frmTop::RunQuery(data::DataControl& control, std::u16string_view sql) {

@@ -5,10 +5,10 @@ if(NOT EXISTS ${sqlite_dir}/sqlite3.c)
 endif()
 add_library(sqlite3 STATIC ${sqlite_dir}/sqlite3.c)
 target_include_directories(sqlite3 SYSTEM PUBLIC ${sqlite_dir})
-# The page cache, in KiB below zero: a search reads the largest subject dictionary (some 6 MB) from
-# end to end, and the next one finds its pages in memory. Only pages that are read take memory.
+# The page cache of a connection, in KiB below zero: enough for the inner pages of the tables that
+# lookups go through. Searches ask for more (data::kSearchPages).
 target_compile_definitions(sqlite3 PRIVATE
-  SQLITE_DEFAULT_CACHE_SIZE=-16384
+  SQLITE_DEFAULT_CACHE_SIZE=-512
   SQLITE_THREADSAFE=0
   SQLITE_OMIT_LOAD_EXTENSION
   SQLITE_OMIT_DEPRECATED

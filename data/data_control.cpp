@@ -1,5 +1,7 @@
 #include "data/data_control.h"
 
+#include <utility>
+
 #include "data/connection_string.h"
 #include "data/cursor.h"
 #include "data/database.h"
@@ -15,6 +17,10 @@ DataControl& DataControl::operator=(DataControl&& other) noexcept = default;
 void DataControl::setConnectionString(std::u16string_view connectionString) {
   if (connectionString == connectionString_) return;
   connectionString_ = connectionString;
+  close();
+}
+
+void DataControl::close() {
   recordset_ = RecordSet();
   database_.reset();
 }
@@ -25,7 +31,9 @@ void DataControl::refresh() {
   recordset_ = RecordSet();
   if (!database_) {
     const std::u16string file = parseConnectionString(connectionString_).dataSource;
-    database_ = std::make_shared<Database>(text::toUtf8(file));
+    auto opened = std::make_shared<Database>(text::toUtf8(file));
+    if (keptPages_) opened->keepPages(*keptPages_);
+    database_ = std::move(opened);
   }
   recordset_ = RecordSet(std::make_unique<Cursor>(database_, text::toUtf8(recordSource_)));
 }

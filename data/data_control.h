@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -24,11 +25,16 @@ class DataControl {
 
   /// "Provider=...;Data Source=FILE;..."; another text closes the connection of the former.
   void setConnectionString(std::u16string_view connectionString);
+  /// Pages that connections opened from here on keep in memory, in KiB (see Database::keepPages).
+  void setKeptPages(int kibibytes) { keptPages_ = kibibytes; }
   void setRecordSource(std::u16string_view sql);
   [[nodiscard]] const std::u16string& recordSource() const { return recordSource_; }
 
   /// Runs the record source. Throws Error; the former rows are gone then.
   void refresh();
+
+  /// Drops the rows and closes the file, which the next refresh opens again.
+  void close();
 
   /// The rows of the last refresh; empty before the first.
   [[nodiscard]] RecordSet& recordset() { return recordset_; }
@@ -36,6 +42,7 @@ class DataControl {
  private:
   std::u16string connectionString_;
   std::u16string recordSource_;
+  std::optional<int> keptPages_;
   std::shared_ptr<Database> database_;
   RecordSet recordset_;
 };

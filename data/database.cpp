@@ -30,6 +30,20 @@ class BackwardScan {
   sqlite3* connection_;
 };
 
+/// Lifts allowReadingOnly from the connection while it exists.
+class AnythingAllowed {
+ public:
+  explicit AnythingAllowed(sqlite3* connection) : connection_(connection) {
+    sqlite3_set_authorizer(connection_, nullptr, nullptr);
+  }
+  AnythingAllowed(const AnythingAllowed&) = delete;
+  AnythingAllowed& operator=(const AnythingAllowed&) = delete;
+  ~AnythingAllowed() { allowReadingOnly(connection_); }
+
+ private:
+  sqlite3* connection_;
+};
+
 Cell cellAt(sqlite3_stmt* statement, int column) {
   if (sqlite3_column_type(statement, column) == SQLITE_NULL) return {};
   const std::int64_t integer = sqlite3_column_int64(statement, column);
@@ -101,6 +115,14 @@ auto Database::withRecovery(Operation operation) {
   }
   rollBackJournal();
   return operation();
+}
+
+void Database::keepPages(int kibibytes) {
+  withRecovery([&] {
+    // No text of the windows may set anything; this one is our own.
+    const AnythingAllowed allowed(connection_.get());
+    execute(connection_.get(), "pragma cache_size=-" + std::to_string(kibibytes));
+  });
 }
 
 Rows Database::read(const std::string& sql, std::size_t limit, ScanOrder order) {

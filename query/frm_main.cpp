@@ -3,6 +3,7 @@
 #include "app/resources/resource_ids.h"
 #include "app/state.h"
 #include "capture/screen_word.h"
+#include "data/database.h"
 #include "forms/clipboard.h"
 #include "forms/geometry.h"
 #include "forms/message_box.h"
@@ -63,6 +64,7 @@ void frmMain::Form_Load() try {
   centre();
   user::MainOpen = true;
   Adodc1.setConnectionString(user::ConnectionString);
+  Adodc1.setKeptPages(data::kSearchPages);
   iniTree();
 } catch (const std::exception&) {
   tellUnexpectedError();

@@ -54,9 +54,19 @@ std::u16string ansiName(const std::u16string& path) {
   return {shortPath.begin(), shortPath.begin() + length};
 }
 
+/// SHGetKnownFolderPath, from a library that takes near 1 MB of memory and is loaded only where the
+/// local application data folder is needed; it stays loaded.
+HRESULT knownFolderPath(REFKNOWNFOLDERID folder, wchar_t** path) {
+  const HMODULE library = LoadLibraryExW(L"shell32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  if (library == nullptr) return HRESULT_FROM_WIN32(GetLastError());
+  const auto ask = reinterpret_cast<decltype(&SHGetKnownFolderPath)>(
+      reinterpret_cast<void*>(GetProcAddress(library, "SHGetKnownFolderPath")));
+  return ask == nullptr ? HRESULT_FROM_WIN32(GetLastError()) : ask(folder, 0, nullptr, path);
+}
+
 std::u16string localSettingsFile() {
   wchar_t* found = nullptr;
-  const bool known = SUCCEEDED(SHGetKnownFolderPath(FOLDERID_LocalAppData, 0, nullptr, &found));
+  const bool known = SUCCEEDED(knownFolderPath(FOLDERID_LocalAppData, &found));
   const TaskMemory owner(found);
   std::u16string folder;
   if (known) {

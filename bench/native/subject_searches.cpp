@@ -9,6 +9,7 @@
 #include "bench/native/yardsticks.h"
 #include "bench/timings.h"
 #include "data/data_control.h"
+#include "data/database.h"
 #include "query/query_sql.h"
 #include "text/query_text.h"
 #include "text/utf.h"
@@ -134,6 +135,7 @@ void timeKind(const Kind& kind, const std::vector<Entry>& entries, const Yardsti
 
 void timeSearches(const char* file) {
   data::DataControl control;
+  control.setKeptPages(data::kSearchPages);
   control.setConnectionString(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" +
                               text::toUtf16(file) + u";Persist Security Info=False");
   const std::vector<Entry> entries = readEntries(control);

@@ -1,7 +1,13 @@
 #include "data/data_control.h"
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+
+#include "data/database.h"
 #include "data/error.h"
 #include "tests/unit/support/sample_database.h"
 
@@ -81,6 +87,62 @@ TEST(DataControl, KeepsItsRowsWhenItIsMoved) {
   back.recordset().moveLast();
   EXPECT_EQ(back.recordset().field(u"word").text, u"b");
   EXPECT_EQ(moved.recordSource(), u"select * from t");
+}
+
+/// What the engine takes more, in KiB, once a table of some 8 MB has been read from end to end.
+std::int64_t memoryForAScan(DataControl& control, const std::filesystem::path& file) {
+  const std::int64_t before = sqlite3_memory_used();
+  control.setConnectionString(connectionStringFor(file));
+  control.setRecordSource(u"select a from t where a like '%nowhere%'");
+  control.refresh();
+  EXPECT_TRUE(control.recordset().empty());
+  return (sqlite3_memory_used() - before) / 1024;
+}
+
+TEST(DataControl, KeepsFewPagesInMemoryUnlessAskedForMore) {
+  const TempFolder folder;
+  const std::filesystem::path file = folder.file(u"kk.dat");
+  support::makeDatabase(file,
+                        "create table t (a text);"
+                        "with recursive n(i) as (select 1 union all select i+1 from n where i<8000)"
+                        "insert into t select printf('%1000d', i) from n");
+  DataControl few;
+  EXPECT_LT(memoryForAScan(few, file), 1024);
+  DataControl many;
+  many.setKeptPages(data::kSearchPages);
+  const std::int64_t all = memoryForAScan(many, file);
+  EXPECT_GT(all, 8000);
+  EXPECT_LT(all, data::kSearchPages);
+}
+
+TEST(DataControl, GivesBackRowsAndMemoryWhenClosedAndOpensAgain) {
+  const TempFolder folder;
+  support::makeDatabase(folder.file(u"kk.dat"), kSchema);
+  const std::int64_t before = sqlite3_memory_used();
+  DataControl control = support::opened(folder.file(u"kk.dat"), u"select word from t");
+  EXPECT_GT(sqlite3_memory_used(), before);
+  control.close();
+  EXPECT_TRUE(control.recordset().empty());
+  EXPECT_EQ(sqlite3_memory_used(), before);
+  control.refresh();
+  EXPECT_EQ(control.recordset().recordCount(), 2U);
+}
+
+TEST(DataControl, FindsAFileLaterAlsoWhenItIsToKeepPages) {
+  const TempFolder folder;
+  const std::filesystem::path file = folder.file(u"kk.dat");
+  std::ofstream(file) << "no database";
+  DataControl control;
+  control.setKeptPages(data::kSearchPages);
+  control.setConnectionString(connectionStringFor(file));
+  control.setRecordSource(u"select word from t");
+  EXPECT_THROW(control.refresh(), Error);
+  std::filesystem::remove(file);
+  support::makeDatabase(file, kSchema);
+  control.refresh();
+  EXPECT_EQ(control.recordset().recordCount(), 2U);
+  control.setRecordSource(u"pragma cache_size");
+  EXPECT_THROW(control.refresh(), Error) << "texts of the windows may only select";
 }
 
 }  // namespace
