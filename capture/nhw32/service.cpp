@@ -56,10 +56,11 @@ bool takeBack(HWND host, UINT message) {
 
 Service::Service(ProviderFactory factory) : factory_(std::move(factory)) {}
 
-void Service::start() {
-  if (started_) return;
-  started_ = true;
+void Service::start() { started_ = true; }
+
+bool Service::ensureWorker() {
   if (desk_ == nullptr || !desk_->reopen()) startWorker();
+  return desk_ != nullptr;
 }
 
 void Service::startWorker() {
@@ -71,8 +72,7 @@ void Service::startWorker() {
       work(*desk, factory);
     }).detach();
   } catch (const std::system_error&) {
-    started_ = false;  // no thread to be had now; the next start tries again
-    desk_.reset();
+    desk_.reset();  // no thread to be had now; the next question tries again
   }
 }
 
@@ -80,11 +80,11 @@ void Service::stop() {
   if (!started_) return;
   disarm();
   started_ = false;
-  desk_->close();
+  if (desk_ != nullptr) desk_->close();
 }
 
 void Service::arm(HWND host, POINT point) {
-  if (!started_) return;
+  if (!started_ || !ensureWorker()) return;
   disarm();
   foreground_ = GetForegroundWindow();
   const HWND target = WindowFromPoint(point);
@@ -94,15 +94,16 @@ void Service::arm(HWND host, POINT point) {
 }
 
 void Service::disarm() {
-  if (!started_) return;
+  if (!started_ || desk_ == nullptr) return;
   const auto host = desk_->disarm();
   if (host && takeBack(windowOf(*host), RegisterWindowMessageA(kMessageName))) desk_->withdraw();
 }
 
-bool Service::armed() const { return started_ && desk_->armed(); }
+bool Service::armed() const { return started_ && desk_ != nullptr && desk_->armed(); }
 
 std::optional<Word> Service::word() const {
-  return started_ && GetForegroundWindow() == foreground_ ? desk_->word() : std::nullopt;
+  const bool asked = started_ && desk_ != nullptr && GetForegroundWindow() == foreground_;
+  return asked ? desk_->word() : std::nullopt;
 }
 
 }  // namespace nhw32

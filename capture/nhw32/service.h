@@ -36,11 +36,14 @@ class Service {
   [[nodiscard]] int workers() const { return *workers_; }
 
  private:
+  /// Starts the worker with the first question; until then its stack takes no memory. false where
+  /// there is no thread to be had.
+  bool ensureWorker();
   void startWorker();
 
   ProviderFactory factory_;
   std::shared_ptr<std::atomic<int>> workers_ = std::make_shared<std::atomic<int>>(0);
-  std::shared_ptr<RequestDesk> desk_;  ///< shared with the worker, which may outlive us
+  std::shared_ptr<RequestDesk> desk_;  ///< shared with the worker, which may outlive us; or null
   HWND foreground_ = nullptr;          ///< when the question was armed
   bool started_ = false;
 };
