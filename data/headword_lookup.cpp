@@ -54,7 +54,7 @@ void HeadwordLookup::getEnglishBound(std::u16string_view word) {
       rules_.lambdaUpperKey ? text::toLower(withoutWildcards(word, u"λ")) : low;
   const bool oneKey = high == low;
   for (std::size_t i = 1; i < indexWords_.size(); ++i) {
-    const std::u16string& indexWord = indexWords_[i];
+    const std::u16string_view indexWord = indexWords_[i];
     const bool reached = low <= indexWord;
     if (reached) bounds_.lower = rowFromBlock(static_cast<std::int64_t>(i), -kReachBack);
     if (oneKey ? reached : high <= indexWord) {

@@ -20,11 +20,11 @@ IndexWords readIndexWords(RecordSet& rows) {
     throw std::overflow_error("more index words than a 16-bit number can count");
   }
   IndexWords words;
-  words.reserve(count + 1);
-  words.emplace_back();
+  words.push_back({});
   for (rows.moveFirst(); !rows.endOfFile(); rows.moveNext()) {
     words.push_back(text::toLower(rows.field(u"word").text));
   }
+  words.shrink_to_fit();
   return words;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,8 +10,42 @@
 
 namespace data {
 
-/// The shared index list: slot 0 empty, slot k the lower-cased headword of [edict] row k x 100.
-using IndexWords = std::vector<std::u16string>;
+/// The shared index list: slot 0 empty, slot k the lower-cased headword of [edict] row k x 100. All
+/// words stand in one text, which takes less than half the memory of as many strings.
+class IndexWords {
+ public:
+  IndexWords() = default;
+  IndexWords(std::initializer_list<std::u16string_view> words) {
+    for (const std::u16string_view word : words) push_back(word);
+  }
+
+  /// The word in a slot below size(); valid until the list changes.
+  [[nodiscard]] std::u16string_view operator[](std::size_t slot) const {
+    const std::size_t begin = slot == 0 ? 0 : ends_[slot - 1];
+    return std::u16string_view(words_).substr(begin, ends_[slot] - begin);
+  }
+  [[nodiscard]] std::size_t size() const { return ends_.size(); }
+  [[nodiscard]] bool empty() const { return ends_.empty(); }
+
+  void push_back(std::u16string_view word) {
+    words_.append(word);
+    ends_.push_back(static_cast<std::uint32_t>(words_.size()));
+  }
+  void clear() {
+    words_.clear();
+    ends_.clear();
+  }
+  void shrink_to_fit() {
+    words_.shrink_to_fit();
+    ends_.shrink_to_fit();
+  }
+
+  bool operator==(const IndexWords&) const = default;
+
+ private:
+  std::u16string words_;
+  std::vector<std::uint32_t> ends_;  ///< where the word in each slot ends
+};
 
 /// The query for table [edictidx].
 inline constexpr std::u16string_view kIndexQuery = u"select word from edictidx order by word";

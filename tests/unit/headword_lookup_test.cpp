@@ -82,8 +82,9 @@ TEST(EnglishBounds, OfThePopupFollowTheLoopWhenItsKeysDiffer) {
 }
 
 TEST(EnglishBounds, ReachTheLastSlotThatAnIndexMayHave) {
-  IndexWords words(32'768, u"a");
-  words.back() = u"b";
+  IndexWords words;
+  for (int slot = 0; slot < 32'767; ++slot) words.push_back(u"a");
+  words.push_back(u"b");
   EXPECT_EQ(boundsOf(words, kWindow, u"b"), (Bounds{3'276'500, 3'276'700}));
 }
 

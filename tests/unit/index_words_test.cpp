@@ -33,6 +33,22 @@ TEST(IndexWords, StandInLowerCaseAndInOrder) {
             (IndexWords{u"", u"aids", u"bit-map", u"data", u"éclair"}));
 }
 
+TEST(IndexWords, EachSlotHoldsItsWord) {
+  IndexWords words{u"", u"ab", u"", u"c"};
+  words.push_back(u"def");
+  ASSERT_EQ(words.size(), 5U);
+  EXPECT_EQ(words[0], u"");
+  EXPECT_EQ(words[1], u"ab");
+  EXPECT_EQ(words[2], u"");
+  EXPECT_EQ(words[3], u"c");
+  EXPECT_EQ(words[4], u"def");
+  EXPECT_NE(words, (IndexWords{u"", u"a", u"b", u"c", u"def"})) << "the same letters";
+  words.clear();
+  EXPECT_TRUE(words.empty());
+  words.push_back(u"x");
+  EXPECT_EQ(words[0], u"x");
+}
+
 TEST(IndexWords, HaveOnlySlotZeroForAnEmptyTable) { EXPECT_EQ(wordsFrom(""), IndexWords{u""}); }
 
 TEST(IndexWords, AreCountedWithSixteenBits) {
