@@ -118,7 +118,7 @@ auto Database::withRecovery(Operation operation) {
 }
 
 void Database::keepPages(int kibibytes) {
-  withRecovery([&] {
+  run([&] {
     // No text of the windows may set anything; this one is our own.
     const AnythingAllowed allowed(connection_.get());
     execute(connection_.get(), "pragma cache_size=-" + std::to_string(kibibytes));

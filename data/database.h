@@ -61,7 +61,7 @@ class Database {
   [[nodiscard]] Patience patience() const { return patience_; }
 
   /// Keeps up to so many KiB of the file's pages in memory from here on, each from when it is first
-  /// read; 512 otherwise.
+  /// read; 256 otherwise.
   void keepPages(int kibibytes);
 
   /// The first `limit` rows of one SQL text in SQLite's own dialect. kBackward scans a table from
