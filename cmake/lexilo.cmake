@@ -17,6 +17,8 @@ if(WIN32)
     WIN32_LEAN_AND_MEAN STRICT)
   add_compile_options(-gdwarf-4)
   add_link_options(-static -static-libgcc -static-libstdc++)
+  # Sections that lie in the file as they lie in memory are mapped by Wine, others copied.
+  add_link_options(-Wl,--file-alignment,4096)
 endif()
 
 if(LEXILO_SANITIZE)
