@@ -27,21 +27,11 @@ class WindowsTogether : public ::testing::Test {
     }
   }
 
-  /// Whether neither the quick lookup window nor the toolbar covers a part of `window`, also after
-  /// the former was painted.
+  /// Whether neither the quick lookup window nor the toolbar covers a part of `window`, even after
+  /// the former was painted. Ends the scene: those two are hidden meanwhile.
   [[nodiscard]] bool staysSeen(HWND window) const {
-    const std::vector<HWND> others{lookup_.window(), lexilo.toolbar()};
-    if (!isSeenWhole(window, others)) return false;
-    waitFor("the window in front", [&] { return GetForegroundWindow() == window; });
     repaintLookup();
-    return isSeenWhole(window, others);
-  }
-
-  void answer(const std::wstring& text) const {
-    const ShownMessage box = waitForMessageBox(lexilo.process());
-    EXPECT_EQ(box.text, text);
-    EXPECT_TRUE(isSeenWhole(box.window, {lookup_.window(), lexilo.toolbar()}));
-    box.answer();
+    return isSeenWhole(window, {lookup_.window(), lexilo.toolbar()});
   }
 
   const Lexilo lexilo{AppFolder::withFullDictionary()};
@@ -56,13 +46,18 @@ class WindowsTogether : public ::testing::Test {
   }
 };
 
-TEST_F(WindowsTogether, TheQueryWindowAndItsMessagesAreSeen) {
+TEST_F(WindowsTogether, TheQueryWindowIsSeen) {
   const MultiQuery query(lexilo);
-  EXPECT_TRUE(staysSeen(query.window()));
   saveScreenshot("build/shots/query-over-lookup.png");
-  query.search(L"zzzzz");
-  answer(L"Sorry，没有该词条！");
   EXPECT_TRUE(staysSeen(query.window()));
+}
+
+TEST_F(WindowsTogether, TheMessageOfAFruitlessSearchIsSeen) {
+  const MultiQuery query(lexilo);
+  query.search(L"zzzzz");
+  const ShownMessage box = waitForMessageBox(lexilo.process());
+  EXPECT_EQ(box.text, L"Sorry，没有该词条！");
+  EXPECT_TRUE(staysSeen(box.window));
 }
 
 TEST_F(WindowsTogether, TheDictionarySettingsAreSeen) {
@@ -79,9 +74,13 @@ TEST_F(WindowsTogether, TheSpecialQueryIsSeen) {
   const MultiQuery query(lexilo);
   const SpecialQuery dialog(lexilo.process(), query);
   EXPECT_TRUE(staysSeen(dialog.window()));
+}
+
+TEST_F(WindowsTogether, TheWarningOfTheSpecialQueryIsSeen) {
+  const MultiQuery query(lexilo);
+  const SpecialQuery dialog(lexilo.process(), query);
   dialog.ask(L"", L"");
-  answer(L"请在英文和中文的文本框里输入内容！");
-  EXPECT_TRUE(staysSeen(dialog.window()));
+  EXPECT_TRUE(staysSeen(waitForMessageBox(lexilo.process()).window));
 }
 
 TEST_F(WindowsTogether, AWindowBesideStaysSeenWhileWordsAreTyped) {
@@ -111,29 +110,30 @@ TEST_F(WindowsTogether, AMaximisedLookupLeavesTheToolbarInSight) {
   waitFor("the toolbar above it after a click", seen);
 }
 
-/// The colour of a window's title bar, as the window manager draws it, beside its text.
-COLORREF titleColour(HWND window) {
+/// Whether the window manager draws a window's title bar as the active one's: blue where those of
+/// others are grey.
+bool hasActiveTitle(HWND window) {
   const RECT rect = rectOf(window);
   const RECT spot{rect.left + 40, rect.top + 16, rect.left + 41, rect.top + 17};
-  return settledPixels(spot).front();
+  const COLORREF colour = screenPixels(spot).front();
+  constexpr int kClearly = 40;
+  return GetBValue(colour) - GetRValue(colour) > kClearly;
 }
 
 TEST_F(WindowsTogether, TheKeyboardStaysInTheSpecialQueryAfterItsWarning) {
   const MultiQuery query(lexilo);
-  const COLORREF active = titleColour(query.window());
+  waitFor("an active query window", [&] { return hasActiveTitle(query.window()); });
   query.click(L"特殊");
   HWND dialog = waitForForm(lexilo.process(), L"frmSpc");
-  waitFor("the dialog's title drawn as the active one",
-          [&] { return titleColour(dialog) == active; });
-  EXPECT_NE(titleColour(query.window()), active);
+  waitFor("an active dialog", [&] { return hasActiveTitle(dialog); });
+  EXPECT_FALSE(hasActiveTitle(query.window()));
   input::pressOnDisplay({"Return"});
   const ShownMessage box = waitForMessageBox(lexilo.process());
   EXPECT_EQ(box.text, L"请在英文和中文的文本框里输入内容！");
-  Sleep(kReactionTime);
+  waitFor("an active message box", [&] { return hasActiveTitle(box.window); });
   input::pressOnDisplay({"Return"});
   waitUntilGone(box.window);
-  waitFor("the dialog's title drawn as the active one again",
-          [&] { return titleColour(dialog) == active; });
+  waitFor("the dialog active again", [&] { return hasActiveTitle(dialog); });
   input::pressOnDisplay({"h", "e", "a", "t"});
   // Its upper box, which had the keyboard before.
   std::vector<HWND> edits = childrenOf(dialog, L"Edit");

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "data/data_control.h"
@@ -66,7 +67,9 @@ TEST(BoundStep, AgreesWithTheLookups) {
   control.setConnectionString(support::connectionStringFor(support::smallDatabase()));
   const data::IndexWords index = data::readIndexWords(control);
   data::HeadwordLookup lookup(index, data::LookupRules());
-  const EnglishBoundStep english(Words(index.begin() + 1, index.end()));
+  Words words;
+  for (std::size_t slot = 1; slot < index.size(); ++slot) words.emplace_back(index[slot]);
+  const EnglishBoundStep english(std::move(words));
 
   data::DataControl rows =
       support::opened(support::smallDatabase(), u"select distinct word from edict");

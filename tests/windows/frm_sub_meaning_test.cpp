@@ -10,10 +10,11 @@ constexpr COLORREF kBlue = RGB(0, 0, 255);
 /// word.
 class EndlessIndex {
  public:
-  explicit EndlessIndex(std::u16string last) : former_(std::move(user::IdxWords)) {
+  explicit EndlessIndex(std::u16string_view last)
+      : former_(std::exchange(user::IdxWords, data::IndexWords())) {
     constexpr std::size_t kBlocks = 21'474'837;  // the last row of the last is beyond 2^31
-    user::IdxWords.assign(kBlocks, {});
-    user::IdxWords.push_back(std::move(last));
+    for (std::size_t block = 0; block < kBlocks; ++block) user::IdxWords.push_back({});
+    user::IdxWords.push_back(last);
   }
   ~EndlessIndex() { user::IdxWords = std::move(former_); }
   EndlessIndex(const EndlessIndex&) = delete;
