@@ -1,5 +1,7 @@
 #include "capture/frm_screen_word.h"
 
+#include <stdexcept>
+
 #include "app/state.h"
 #include "capture/frm_screen_word_meaning.h"
 #include "capture/nhw32/nhw32.h"
@@ -28,12 +30,14 @@ LONG_PTR setProcedure(HWND window, WNDPROC procedure) {
 
 /// The popup, loaded. It handles events while it loads, and goes again where the pointer moves away
 /// meanwhile: then it is loaded once more, since it takes a popup to end the StopCapture that
-/// follows.
+/// follows. Throws std::runtime_error where the pointer keeps moving for too long.
 frmScreenWordMeaning& loadedPopup() {
-  while (true) {
+  constexpr int kMostTries = 10;
+  for (int tries = 0; tries < kMostTries; ++tries) {
     auto& popup = forms::single<frmScreenWordMeaning>();
     if (forms::isLoaded<frmScreenWordMeaning>()) return popup;
   }
+  throw std::runtime_error("the pointer does not rest");
 }
 
 }  // namespace
@@ -81,7 +85,7 @@ void frmScreenWord::catchWord() {
 }
 
 void frmScreenWord::Timer1_Timer() {
-  // Nor does the popup's loading hand the same word over once more.
+  // While the popup loads, a tick would hand the same word over once more.
   if (handingOver_ || !capture::opensPopup(ScreenWord::strScreenWord)) return;
   handingOver_ = true;
   try {

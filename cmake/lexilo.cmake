@@ -15,7 +15,8 @@ if(WIN32)
   target_compile_definitions(lexilo_options INTERFACE
     _WIN32_WINNT=0x0A00 WINVER=0x0A00 NTDDI_VERSION=0x0A000002 UNICODE _UNICODE NOMINMAX
     WIN32_LEAN_AND_MEAN STRICT)
-  add_compile_options(-gdwarf-4)
+  # The symbols name sources by their places in the repository.
+  add_compile_options(-gdwarf-4 -fdebug-prefix-map=${PROJECT_SOURCE_DIR}/=)
   add_link_options(-static -static-libgcc -static-libstdc++)
   # Sections that lie in the file as they lie in memory are mapped by Wine, others copied.
   add_link_options(-Wl,--file-alignment,4096)

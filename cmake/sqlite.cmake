@@ -6,7 +6,7 @@ endif()
 add_library(sqlite3 STATIC ${sqlite_dir}/sqlite3.c)
 target_include_directories(sqlite3 SYSTEM PUBLIC ${sqlite_dir})
 # The page cache of a connection, in KiB below zero: enough for the inner pages of the tables that
-# lookups go through. Searches ask for more (data::kSearchPages).
+# lookups go through. Searches ask for more (data::kSearchCacheKiB).
 target_compile_definitions(sqlite3 PRIVATE
   SQLITE_DEFAULT_CACHE_SIZE=-256
   SQLITE_OMIT_JSON

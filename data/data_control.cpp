@@ -32,7 +32,7 @@ void DataControl::refresh() {
   if (!database_) {
     const std::u16string file = parseConnectionString(connectionString_).dataSource;
     auto opened = std::make_shared<Database>(text::toUtf8(file));
-    if (keptPages_) opened->keepPages(*keptPages_);
+    if (cacheKiB_) opened->setCacheKiB(*cacheKiB_);
     database_ = std::move(opened);
   }
   recordset_ = RecordSet(std::make_unique<Cursor>(database_, text::toUtf8(recordSource_)));

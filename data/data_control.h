@@ -25,8 +25,8 @@ class DataControl {
 
   /// "Provider=...;Data Source=FILE;..."; another text closes the connection of the former.
   void setConnectionString(std::u16string_view connectionString);
-  /// Pages that connections opened from here on keep in memory, in KiB (see Database::keepPages).
-  void setKeptPages(int kibibytes) { keptPages_ = kibibytes; }
+  /// Pages that connections opened from here on keep in memory, in KiB (see Database::setCacheKiB).
+  void setCacheKiB(int kibibytes) { cacheKiB_ = kibibytes; }
   void setRecordSource(std::u16string_view sql);
   [[nodiscard]] const std::u16string& recordSource() const { return recordSource_; }
 
@@ -42,7 +42,7 @@ class DataControl {
  private:
   std::u16string connectionString_;
   std::u16string recordSource_;
-  std::optional<int> keptPages_;
+  std::optional<int> cacheKiB_;
   std::shared_ptr<Database> database_;
   RecordSet recordset_;
 };

@@ -117,7 +117,7 @@ auto Database::withRecovery(Operation operation) {
   return operation();
 }
 
-void Database::keepPages(int kibibytes) {
+void Database::setCacheKiB(int kibibytes) {
   run([&] {
     // No text of the windows may set anything; this one is our own.
     const AnythingAllowed allowed(connection_.get());

@@ -43,7 +43,7 @@ inline constexpr std::int64_t kMostMemory = std::int64_t{64} << 20U;
 
 /// Pages of the file that a connection for searches keeps in memory, in KiB: a search reads the
 /// largest subject dictionary (some 6 MB) from end to end, and the next one finds its pages there.
-inline constexpr int kSearchPages = 16384;
+inline constexpr int kSearchCacheKiB = 16384;
 
 /// A database file, open for reading only. Every operation runs its statement to the end of what is
 /// asked and closes it, so that nothing holds the file between operations. All operations throw
@@ -62,7 +62,7 @@ class Database {
 
   /// Keeps up to so many KiB of the file's pages in memory from here on, each from when it is first
   /// read; 256 otherwise.
-  void keepPages(int kibibytes);
+  void setCacheKiB(int kibibytes);
 
   /// The first `limit` rows of one SQL text in SQLite's own dialect. kBackward scans a table from
   /// its end; it is for queries that scan one table only (see Query::plainScan).

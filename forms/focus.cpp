@@ -2,6 +2,7 @@
 
 #include "forms/dispatcher.h"
 #include "forms/form.h"
+#include "forms/stacking.h"
 #include "forms/widget.h"
 
 namespace forms {
@@ -85,7 +86,10 @@ FocusHeld::FocusHeld() { ++account().holds; }
 
 FocusHeld::~FocusHeld() {
   --account().holds;
-  guard([] { focusMayHaveMoved(); });
+  guard([] {
+    focusMayHaveMoved();
+    stackingMayHaveChanged();
+  });
 }
 
 }  // namespace forms

@@ -123,6 +123,10 @@ void Form::show(Form* owner) {
   if (owner != nullptr) {
     SetWindowLongPtrW(handle_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner->handle()));
   }
+  if (owner != nullptr && (GetWindowLongPtrW(owner->handle(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0) {
+    // A window that is given a topmost owner does not become topmost by that.
+    SetWindowPos(handle_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
   if (!std::exchange(shown_, true)) resized();
   if (design_.neverActive) {
     ShowWindow(handle_, SW_SHOWNOACTIVATE);
@@ -225,9 +229,10 @@ void Form::setMousePointer(const wchar_t* systemCursor) {
                MAKELPARAM(part, WM_MOUSEMOVE));
 }
 
+bool Form::isRaisingHeld() { return isFocusHeld() || isMenuOpen(); }
+
 void Form::bringToTop() {
-  // Not above a message box that may belong to another window, nor above an open menu.
-  if (isFocusHeld() || isMenuOpen()) return;
+  if (isRaisingHeld()) return;
   SetWindowPos(handle_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 }
 
@@ -260,8 +265,7 @@ void Form::addWidget(Widget& widget) { widgets_.push_back(&widget); }
 void Form::removeWidget(Widget& widget) { std::erase(widgets_, &widget); }
 
 void Form::setToolTip(Widget& widget, const std::u16string& text) {
-  // Not before one is needed: beside the owned window of the tool tips a form that was not made
-  // topmost cannot become so on every system.
+  // Not before one is needed.
   if (toolTip_ == nullptr) createToolTip();
   TOOLINFOW tool{};
   tool.cbSize = sizeof tool;

@@ -55,6 +55,12 @@ class Form {
   [[nodiscard]] int dpi() const { return dpi_; }
   [[nodiscard]] Rank rank() const;
 
+  /// Whether an ordinary form was made topmost while it is active (see settleStacking).
+  [[nodiscard]] bool isRaisedForNow() const { return raisedForNow_; }
+  void setRaisedForNow(bool raised) { raisedForNow_ = raised; }
+  /// Whether a message box or a menu is open, above which no form is raised.
+  static bool isRaisingHeld();
+
   /// Runs Form_Load. An error that it lets out is shown; the form stays as far as it got.
   void load();
   /// Shows the form and gives it the focus; one that is open comes to the front, restored.
@@ -104,7 +110,7 @@ class Form {
   void addWidget(Widget& widget);
   void removeWidget(Widget& widget);
   void setToolTip(Widget& widget, const std::u16string& text);
-  /// Takes the tool tip off the screen that is up.
+  /// Hides the tool tip that is shown.
   void hideToolTip() const;
 
   void raiseActivate() noexcept;
@@ -165,6 +171,7 @@ class Form {
   bool loaded_ = false;
   bool shown_ = false;
   bool unloading_ = false;
+  bool raisedForNow_ = false;
   std::vector<Widget*> widgets_;
 };
 

@@ -68,7 +68,8 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (design_.floating && (reinterpret_cast<WINDOWPOS*>(lParam)->flags & SWP_NOZORDER) == 0) {
         raiseWhatIsAbove(*this);
       }
-      stackingMayHaveChanged();
+      // Not for capture's windows, which come and go ten times a second.
+      if (!design_.neverActive) stackingMayHaveChanged();
       break;
     case WM_GETMINMAXINFO:
       limitTracking(*reinterpret_cast<MINMAXINFO*>(lParam));

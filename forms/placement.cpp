@@ -59,11 +59,21 @@ std::optional<PixelBox> placeBeside(const PixelBox& wanted, const PixelBox& work
   return best;
 }
 
-std::optional<std::size_t> lowestAbove(std::span<const Rank> ranks, Rank rank) {
-  for (std::size_t i = ranks.size(); i > 0; --i) {
-    if (ranks[i - 1] > rank) return i - 1;
+Raise raised(std::span<const std::optional<Rank>> stack, std::optional<std::size_t> self,
+             Rank rank) {
+  const auto isHigher = [&](const std::optional<Rank>& other) { return other && *other > rank; };
+  std::size_t higher = 0;  // how many of the first windows reach down to the last of a higher rank
+  for (std::size_t i = 0; i < stack.size(); ++i) {
+    if (isHigher(stack[i])) higher = i + 1;
   }
-  return std::nullopt;
+  if (!self) return {Raise::Where::top};
+  if (higher <= *self && std::ranges::all_of(stack.first(*self), isHigher)) {
+    return {Raise::Where::stays};
+  }
+  const bool clear =
+      std::ranges::all_of(stack.first(higher), [](const auto& one) { return one.has_value(); });
+  if (higher == 0 || !clear) return {Raise::Where::top};
+  return {Raise::Where::behind, higher - 1};
 }
 
 }  // namespace forms

@@ -40,9 +40,22 @@ enum class Rank {
   notice,    ///< above all of them: popups, menus, message boxes
 };
 
-/// `ranks` are those of our topmost windows from the top of the Z order down. Index of the one
-/// behind which a window of `rank` goes when it is brought to the top: the last of a higher rank;
-/// nullopt where there is none and it goes to the very top.
-std::optional<std::size_t> lowestAbove(std::span<const Rank> ranks, Rank rank);
+/// Where a window goes that is brought to the top.
+struct Raise {
+  enum class Where {
+    stays,   ///< it is in its place already
+    top,     ///< above all windows; what is to stay above it has to follow
+    behind,  ///< behind the window of index `behind`
+  };
+  Where where = Where::top;
+  std::size_t behind = 0;
+  bool operator==(const Raise&) const = default;
+};
+
+/// Decides it for the window of index `self` (nullopt where it is not topmost yet) and of rank
+/// `rank`. `stack` are the topmost windows from the top of the Z order down, ours with their ranks,
+/// nullopt for those of other programs that lie where the window does.
+Raise raised(std::span<const std::optional<Rank>> stack, std::optional<std::size_t> self,
+             Rank rank);
 
 }  // namespace forms

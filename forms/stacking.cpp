@@ -1,5 +1,7 @@
 #include "forms/stacking.h"
 
+#include <dwmapi.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -13,12 +15,36 @@ namespace {
 
 constexpr UINT kOrderOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
 
+void putBehind(HWND window, HWND other) { SetWindowPos(window, other, 0, 0, 0, 0, kOrderOnly); }
+
 bool isTopmost(HWND window) {
   return (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
 }
 
+bool isOurs(HWND window) {
+  return GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();
+}
+
 bool isShown(const Form& form) {
   return IsWindowVisible(form.handle()) != FALSE && !form.isMinimised();
+}
+
+/// Whether a user can see a window where nothing covers it. The shell keeps some of its own windows
+/// "visible" without showing them (cloaked).
+bool canBeSeen(HWND window) {
+  if (IsWindowVisible(window) == FALSE ||
+      MonitorFromWindow(window, MONITOR_DEFAULTTONULL) == nullptr) {
+    return false;
+  }
+  DWORD cloaked = 0;
+  DwmGetWindowAttribute(window, DWMWA_CLOAKED, &cloaked, sizeof cloaked);
+  return cloaked == 0;
+}
+
+PixelBox placeOf(HWND window) {
+  RECT rect{};
+  GetWindowRect(window, &rect);
+  return {rect.left, rect.top, rect.right, rect.bottom};
 }
 
 /// The window itself, or the one at the end of the chain of its owners.
@@ -32,39 +58,36 @@ Rank rankOf(HWND window) {
   return form == nullptr ? Rank::notice : form->rank();
 }
 
-/// Our topmost windows that a user can see, beside those of one form.
-struct Neighbours {
-  std::vector<HWND> windows;  ///< from the top of the Z order down
-  std::vector<Rank> ranks;
-  std::size_t aboveOthers = 0;   ///< how many lie above all windows of other programs
-  std::size_t aboveForm = 0;     ///< how many lie above the form
-  bool othersAboveForm = false;  ///< whether a window of another program lies above the form
+/// The topmost windows that concern a form, as raised() takes them.
+struct Stack {
+  std::vector<HWND> windows;
+  std::vector<std::optional<Rank>> ranks;
+  std::optional<std::size_t> self;
 };
 
 /// Windows that `form` owns are left out: the system itself keeps them above it.
-Neighbours neighboursOf(const Form& form) {
+Stack stackAround(const Form& form) {
   // GetWindow in a loop may go round in circles when windows are moved meanwhile.
   constexpr int kMaxSteps = 1'000;
-  Neighbours own;
-  bool othersSeen = false;
-  bool formSeen = false;
+  const PixelBox place = form.place();
+  Stack stack;
   HWND window = GetTopWindow(nullptr);
-  for (int step = 0; step < kMaxSteps && window != nullptr && isTopmost(window); ++step) {
-    const bool ours = GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();
-    const bool seen = IsWindowVisible(window) != FALSE &&
-                      MonitorFromWindow(window, MONITOR_DEFAULTTONULL) != nullptr;
-    if (seen && ours && rootOwner(window) != form.handle()) {
-      own.windows.push_back(window);
-      own.ranks.push_back(rankOf(window));
-      if (!othersSeen) ++own.aboveOthers;
-      if (!formSeen) ++own.aboveForm;
+  for (int step = 0; step < kMaxSteps && window != nullptr; ++step) {
+    HWND next = GetWindow(window, GW_HWNDNEXT);
+    if (canBeSeen(window)) {
+      if (!isTopmost(window)) break;
+      const bool self = window == form.handle();
+      const bool concerns = isOurs(window) ? self || rootOwner(window) != form.handle()
+                                           : meet(placeOf(window), place);
+      if (self) stack.self = stack.windows.size();
+      if (concerns) {
+        stack.windows.push_back(window);
+        stack.ranks.push_back(isOurs(window) ? std::optional(rankOf(window)) : std::nullopt);
+      }
     }
-    othersSeen = othersSeen || (seen && !ours);
-    formSeen = formSeen || window == form.handle();
-    own.othersAboveForm = own.othersAboveForm || (othersSeen && !formSeen);
-    window = GetWindow(window, GW_HWNDNEXT);
+    window = next;
   }
-  return own;
+  return stack;
 }
 
 bool isCoveredByFloating(const Form& form) {
@@ -80,52 +103,97 @@ bool wouldBeCovered(const Form& form) {
          });
 }
 
-std::vector<Form*> barsShown() {
-  std::vector<Form*> bars = Registry::instance().all();
-  std::erase_if(bars,
-                [](const Form* form) { return form->rank() != Rank::bar || !isShown(*form); });
-  return bars;
+void raise(Form& form) {
+  form.setRaisedForNow(true);
+  putBehind(form.handle(), HWND_TOPMOST);
+  raiseWhatIsAbove(form);
 }
 
-void raise(const Form& form) {
-  SetWindowPos(form.handle(), HWND_TOPMOST, 0, 0, 0, 0, kOrderOnly);
-  for (Form* bar : barsShown()) bar->bringToTop();
+/// The topmost windows of ours that `form` owns and that are no forms: its message box.
+std::vector<HWND> boxesOf(const Form& form) {
+  struct Search {
+    HWND owner;
+    std::vector<HWND> found;
+  } search{form.handle(), {}};
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM context) {
+        auto& wanted = *reinterpret_cast<Search*>(context);
+        if (window != wanted.owner && rootOwner(window) == wanted.owner &&
+            IsWindowVisible(window) != FALSE && isTopmost(window) && Form::of(window) == nullptr) {
+          wanted.found.push_back(window);
+        }
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&search));
+  return search.found;
 }
 
-void raiseBarsAbove(const Form& floating) {
-  for (Form* bar : barsShown()) {
-    if (!meet(bar->place(), floating.place()) || isFocusHeld()) continue;
-    // Having been below, the bar goes to the top in fact, as long as no tool tip of its own keeps
-    // it from being the topmost.
-    bar->hideToolTip();
-    SetWindowPos(bar->handle(), floating.handle(), 0, 0, 0, 0, kOrderOnly);
-    bar->bringToTop();
+bool isDesktop(HWND window) {
+  wchar_t name[16] = L"";
+  GetClassNameW(window, name, static_cast<int>(std::size(name)));
+  const std::wstring_view className = name;
+  return window == GetShellWindow() || className == L"Progman" || className == L"WorkerW";
+}
+
+/// The window behind which `form` goes when another one, `front`, has taken its place. The desktop
+/// lies behind all others anyway, and a dialog is not parted from the window that it belongs to.
+HWND behindWhom(HWND front) {
+  for (HWND owner = GetWindow(front, GW_OWNER); owner != nullptr && IsWindowVisible(owner) != FALSE;
+       owner = GetWindow(front, GW_OWNER)) {
+    front = owner;
   }
+  return isTopmost(front) || isDesktop(front) ? HWND_NOTOPMOST : front;
 }
 
-/// Settles once more in a moment.
-void settleSoon() {
+/// Settles once more in a moment, at most some fifty times in a row: the foreground may be nobody's
+/// for as long as the session is locked.
+void settleSoon(bool goOn) {
   constexpr UINT kMoment = 20;  // ms
+  constexpr int kMostTries = 50;
   static UINT_PTR timer = 0;
-  if (timer != 0) return;
+  static int tries = 0;
+  if (!goOn) tries = 0;
+  if (!goOn || timer != 0 || ++tries > kMostTries) return;
   timer = Dispatcher::instance().startTimer(kMoment, [] {
     Dispatcher::instance().stopTimer(std::exchange(timer, 0));
     settleStacking();
   });
 }
 
-void lower(const Form& form, bool isActive) {
+void lower(Form& form, bool isActive) {
   HWND front = GetForegroundWindow();
   const bool frontIsOurs = front != nullptr && rootOwner(front) == form.handle();
-  if (!isActive && (front == nullptr || frontIsOurs)) {
-    // Nobody has taken its place yet; behind whom it goes is not known.
-    settleSoon();
-    return;
-  }
-  SetWindowPos(form.handle(), HWND_NOTOPMOST, 0, 0, 0, 0, kOrderOnly);
-  // That is above all other ordinary windows, the one that took its place included.
-  if (!frontIsOurs && !isTopmost(front)) {
-    SetWindowPos(form.handle(), front, 0, 0, 0, 0, kOrderOnly);
+  // Nobody has taken its place yet: behind whom it goes is not known.
+  const bool unknown = !isActive && (front == nullptr || frontIsOurs);
+  settleSoon(unknown);
+  if (unknown) return;
+  form.setRaisedForNow(false);
+  // The system takes what it owns along; a message box has to stay where it can be seen.
+  const std::vector<HWND> boxes = boxesOf(form);
+  putBehind(form.handle(), frontIsOurs ? HWND_NOTOPMOST : behindWhom(front));
+  for (HWND box : boxes) putBehind(box, HWND_TOPMOST);
+}
+
+/// Whether the system is not Windows itself, but runs on one whose window manager raises windows
+/// without telling.
+bool hasForeignWindowManager() {
+  static const bool wine =
+      GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+  return wine;
+}
+
+void raiseBarsAbove(const Form& floating) {
+  for (Form* bar : Registry::instance().all()) {
+    if (bar->rank() != Rank::bar || !isShown(*bar) || !meet(bar->place(), floating.place()) ||
+        Form::isRaisingHeld()) {
+      continue;
+    }
+    // Having been below, the bar goes to the top in fact, as long as no tool tip of its own keeps
+    // it from being the topmost.
+    bar->hideToolTip();
+    putBehind(bar->handle(), floating.handle());
+    bar->bringToTop();
   }
 }
 
@@ -137,21 +205,32 @@ bool& isPosted() {
 }  // namespace
 
 std::optional<HWND> insertAfter(const Form& form) {
-  const Neighbours own = neighboursOf(form);
-  const auto lowest = lowestAbove(own.ranks, form.rank());
-  const std::size_t keptAbove = lowest ? *lowest + 1 : 0;
-  if (isTopmost(form.handle()) && own.aboveForm == keptAbove && !own.othersAboveForm) {
-    return std::nullopt;
+  const Stack stack = stackAround(form);
+  const Raise raise = raised(stack.ranks, stack.self, form.rank());
+  switch (raise.where) {
+    case Raise::Where::stays:
+      return std::nullopt;
+    case Raise::Where::behind:
+      return stack.windows[raise.behind];
+    case Raise::Where::top:
+      break;
   }
-  return lowest && *lowest < own.aboveOthers ? own.windows[*lowest] : HWND_TOPMOST;
+  return HWND_TOPMOST;
 }
 
 void raiseWhatIsAbove(const Form& form) {
-  const Neighbours own = neighboursOf(form);
-  for (std::size_t i = own.windows.size(); i > own.aboveForm; --i) {
-    if (own.ranks[i - 1] <= form.rank()) continue;
-    SetWindowPos(own.windows[i - 1], HWND_TOPMOST, 0, 0, 0, 0, kOrderOnly);
+  const Stack stack = stackAround(form);
+  std::vector<std::pair<Rank, HWND>> higher;
+  bool below = false;
+  for (std::size_t i = 0; i < stack.windows.size(); ++i) {
+    if (!stack.ranks[i] || *stack.ranks[i] <= form.rank()) continue;
+    higher.emplace_back(*stack.ranks[i], stack.windows[i]);
+    below = below || (stack.self && i > *stack.self);
   }
+  if (!below) return;
+  std::ranges::stable_sort(higher, std::greater(), &std::pair<Rank, HWND>::first);
+  HWND after = HWND_TOPMOST;
+  for (const auto& [rank, window] : higher) putBehind(window, std::exchange(after, window));
 }
 
 std::vector<PixelBox> placesKeptOnTop(Rank lowest, Rank highest) {
@@ -174,7 +253,7 @@ void stackingMayHaveChanged() {
 }
 
 void barsMayBeCovered(const Form& form) {
-  if (form.rank() != Rank::floating) return;
+  if (form.rank() != Rank::floating || !hasForeignWindowManager()) return;
   // Once the window manager has had the time for it.
   constexpr UINT kItsTime = 100;  // ms
   static UINT_PTR timer = 0;
@@ -189,15 +268,16 @@ void barsMayBeCovered(const Form& form) {
 
 void settleStacking() {
   HWND active = GetActiveWindow();
-  for (const Form* form : Registry::instance().all()) {
+  for (Form* form : Registry::instance().all()) {
     if (form->rank() == Rank::floating && isShown(*form)) raiseWhatIsAbove(*form);
     if (form->rank() != Rank::window || GetWindow(form->handle(), GW_OWNER) != nullptr) continue;
     const bool isActive = active != nullptr && rootOwner(active) == form->handle();
     const bool wanted = isActive && isShown(*form) && wouldBeCovered(*form);
-    if (wanted == isTopmost(form->handle())) continue;
-    if (wanted) {
+    if (wanted && form->isRaisedForNow()) {
+      raiseWhatIsAbove(*form);
+    } else if (wanted) {
       raise(*form);
-    } else {
+    } else if (form->isRaisedForNow()) {
       lower(*form, isActive);
     }
   }

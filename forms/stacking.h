@@ -25,10 +25,9 @@ void raiseWhatIsAbove(const Form& form);
 /// settleStacking follows from the message loop.
 void stackingMayHaveChanged();
 
-/// Tells that the user has activated, maximised or clicked a form: where it is a floating one, the
-/// bars that meet it come above it again in a moment. Window managers of other systems
-/// raise what the user clicks by themselves, unknown to the system under which we run, by whose
-/// account the bars are on top already.
+/// Tells that the user has activated, maximised or clicked a form. Under Wine the X11 window
+/// manager raises what the user clicks without telling Wine, in whose own Z order the bars are
+/// still above a floating form: there the bars that meet it are raised again in a moment.
 void barsMayBeCovered(const Form& form);
 
 /// Makes an ordinary form topmost while it, or a window that it owns, is active and a floating form

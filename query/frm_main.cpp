@@ -64,7 +64,7 @@ void frmMain::Form_Load() try {
   centre();
   user::MainOpen = true;
   Adodc1.setConnectionString(user::ConnectionString);
-  Adodc1.setKeptPages(data::kSearchPages);
+  Adodc1.setCacheKiB(data::kSearchCacheKiB);
   iniTree();
 } catch (const std::exception&) {
   tellUnexpectedError();

@@ -1,3 +1,5 @@
+#include <optional>
+
 #include "forms/message_box.h"
 #include "query/frm_main.h"
 #include "query/query_sql.h"
@@ -26,7 +28,7 @@ void frmMain::runQuery(data::DataControl& recordSource, std::u16string_view sql)
 void frmMain::MakeTree(data::DataControl& recordSource, forms::TreeView& tree,
                        std::int16_t maxRows) try {
   const std::size_t nodeCount = tree.count();
-  const forms::TreeView::RepaintHeld held(tree);
+  std::optional<forms::TreeView::RepaintHeld> held(tree);
   data::RecordSet& rows = recordSource.recordset();
   if (rows.empty()) {
     for (std::size_t node = 1; node <= nodeCount; ++node) tree.setText(node, {});
@@ -47,6 +49,8 @@ void frmMain::MakeTree(data::DataControl& recordSource, forms::TreeView& tree,
   }
   tree.refresh();
   for (std::size_t surplus = written; surplus < nodeCount; ++surplus) tree.remove(written + 1);
+  // Not while the repaint is held: the control may not know yet how far it scrolls.
+  held.reset();
   tree.scrollToBeginning();
 } catch (const std::exception&) {
   // The lines already written stay.

@@ -135,7 +135,7 @@ void timeKind(const Kind& kind, const std::vector<Entry>& entries, const Yardsti
 
 void timeSearches(const char* file) {
   data::DataControl control;
-  control.setKeptPages(data::kSearchPages);
+  control.setCacheKiB(data::kSearchCacheKiB);
   control.setConnectionString(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" +
                               text::toUtf16(file) + u";Persist Security Info=False");
   const std::vector<Entry> entries = readEntries(control);

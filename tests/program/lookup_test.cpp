@@ -1,7 +1,6 @@
 // Looking words up in the quick lookup window, as a user does.
 #include <gtest/gtest.h>
 
-#include <utility>
 #include <vector>
 
 #include "tests/program/harness/clipboard.h"
@@ -51,10 +50,19 @@ bool isPaintedWhole(HWND control) {
 bool scrolls(HWND control) { return (GetWindowLongPtrW(control, GWL_STYLE) & WS_VSCROLL) != 0; }
 
 TEST_F(Lookup, TheScrollBarsSayThatThereIsMore) {
-  for (const auto& [word, more] : std::initializer_list<std::pair<const wchar_t*, bool>>{
-           {L"ge", false}, {L"get", true}, {L"ge", false}, {L"set", true}}) {
+  struct Case {
+    const wchar_t* word;
+    bool moreMeanings;
+    bool moreWords;
+  };
+  for (const auto& [word, moreMeanings, moreWords] :
+       std::initializer_list<Case>{{L"ge", false, true},
+                                   {L"get", true, true},
+                                   {L"bit", true, false},
+                                   {L"set", true, true}}) {
     window.type(word);
-    waitFor("the meanings", [&] { return scrolls(window.pane()) == more; });
+    waitFor("the meanings", [&] { return scrolls(window.pane()) == moreMeanings; });
+    waitFor("the words", [&] { return scrolls(window.list()) == moreWords; });
     EXPECT_TRUE(isPaintedWhole(window.pane()));
     EXPECT_TRUE(isPaintedWhole(window.list()));
   }

@@ -109,10 +109,10 @@ TEST(DataControl, KeepsFewPagesInMemoryUnlessAskedForMore) {
   DataControl few;
   EXPECT_LT(memoryForAScan(few, file), 1024);
   DataControl many;
-  many.setKeptPages(data::kSearchPages);
+  many.setCacheKiB(data::kSearchCacheKiB);
   const std::int64_t all = memoryForAScan(many, file);
   EXPECT_GT(all, 8000);
-  EXPECT_LT(all, data::kSearchPages);
+  EXPECT_LT(all, data::kSearchCacheKiB);
 }
 
 TEST(DataControl, GivesBackRowsAndMemoryWhenClosedAndOpensAgain) {
@@ -133,7 +133,7 @@ TEST(DataControl, FindsAFileLaterAlsoWhenItIsToKeepPages) {
   const std::filesystem::path file = folder.file(u"kk.dat");
   std::ofstream(file) << "no database";
   DataControl control;
-  control.setKeptPages(data::kSearchPages);
+  control.setCacheKiB(data::kSearchCacheKiB);
   control.setConnectionString(connectionStringFor(file));
   control.setRecordSource(u"select word from t");
   EXPECT_THROW(control.refresh(), Error);

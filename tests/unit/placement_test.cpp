@@ -9,10 +9,11 @@
 namespace {
 
 using forms::centred;
-using forms::lowestAbove;
 using forms::meet;
 using forms::PixelBox;
 using forms::placeBeside;
+using forms::Raise;
+using forms::raised;
 using forms::Rank;
 
 constexpr PixelBox kWork{0, 0, 1280, 1024};
@@ -120,13 +121,42 @@ TEST(PlaceBeside, IsFreeAndNoFreePlaceIsNearer) {
   EXPECT_GT(found, 100);
 }
 
-TEST(LowestAbove, IsTheLastOfAHigherRank) {
-  const std::vector<Rank> order{Rank::notice, Rank::bar, Rank::floating, Rank::window};
-  EXPECT_EQ(lowestAbove(order, Rank::floating), 3U);
-  EXPECT_EQ(lowestAbove(order, Rank::window), 1U);
-  EXPECT_EQ(lowestAbove(order, Rank::bar), 0U);
-  EXPECT_EQ(lowestAbove(order, Rank::notice), std::nullopt);
-  EXPECT_EQ(lowestAbove({}, Rank::floating), std::nullopt);
+using Stack = std::vector<std::optional<Rank>>;
+constexpr std::nullopt_t kOther = std::nullopt;
+
+TEST(Raised, GoesBehindTheLastOfAHigherRank) {
+  const Stack stack{Rank::floating, Rank::notice, Rank::bar, Rank::window};
+  EXPECT_EQ(raised(stack, 0, Rank::floating), (Raise{Raise::Where::behind, 3}));
+  EXPECT_EQ(raised(Stack{Rank::notice, Rank::floating, Rank::bar}, 2, Rank::bar),
+            (Raise{Raise::Where::behind, 0}));
+}
+
+TEST(Raised, StaysWhereItIsInItsPlace) {
+  EXPECT_EQ(raised(Stack{Rank::bar, Rank::floating}, 1, Rank::floating).where, Raise::Where::stays);
+  EXPECT_EQ(raised(Stack{Rank::bar, Rank::floating, kOther}, 1, Rank::floating).where,
+            Raise::Where::stays);
+  EXPECT_EQ(raised(Stack{Rank::bar, Rank::floating}, 0, Rank::bar).where, Raise::Where::stays);
+}
+
+TEST(Raised, GoesToTheTopWithoutAnyOfAHigherRank) {
+  EXPECT_EQ(raised(Stack{kOther, Rank::floating}, 1, Rank::floating).where, Raise::Where::top);
+  EXPECT_EQ(raised(Stack{Rank::floating, Rank::bar}, 1, Rank::bar).where, Raise::Where::top);
+}
+
+TEST(Raised, GoesToTheTopWhereThoseOfAHigherRankLieBelowAnotherProgram) {
+  EXPECT_EQ(raised(Stack{kOther, Rank::bar, Rank::floating}, 2, Rank::floating).where,
+            Raise::Where::top);
+  EXPECT_EQ(raised(Stack{Rank::bar, kOther, Rank::window, Rank::floating}, 3, Rank::floating).where,
+            Raise::Where::top);
+}
+
+TEST(Raised, GoesBehindThoseThatLieAboveAnotherProgram) {
+  EXPECT_EQ(raised(Stack{Rank::bar, kOther, Rank::floating}, 2, Rank::floating),
+            (Raise{Raise::Where::behind, 0}));
+}
+
+TEST(Raised, GoesToTheTopWhereItIsNotTopmostYet) {
+  EXPECT_EQ(raised(Stack{Rank::bar}, std::nullopt, Rank::floating).where, Raise::Where::top);
 }
 
 }  // namespace

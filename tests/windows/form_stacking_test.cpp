@@ -154,6 +154,7 @@ TEST_F(FormStacking, ADialogAndItsOwnerAreBothSeen) {
   c().show(&window);
   awaitActive(c());
   EXPECT_TRUE(isTopmost(window.handle()));
+  EXPECT_TRUE(isTopmost(c().handle()));
   for (int i = 0; i < 5; ++i) repaint(floating);
   EXPECT_TRUE(isAbove(window.handle(), floating.handle()));
   EXPECT_TRUE(isSeenWhole(c().handle(), {&floating}));
@@ -165,8 +166,8 @@ TEST_F(FormStacking, AMessageBoxIsSeenWhole) {
   bool seen = false;
   bool ownerAbove = false;
   boxes.whileUp([&](HWND box) {
-    repaint(floating);
-    floating.bringToTop();
+    SetWindowPos(floating.handle(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    forms::doEvents();
     ownerAbove = isAbove(window.handle(), floating.handle());
     seen = isSeenWhole(box, {&floating});
   });
@@ -174,6 +175,24 @@ TEST_F(FormStacking, AMessageBoxIsSeenWhole) {
   EXPECT_TRUE(seen);
   EXPECT_TRUE(ownerAbove);
   EXPECT_EQ(boxes.take().size(), 1U);
+}
+
+TEST_F(FormStacking, AMessageBoxStaysOnTopWhileTheUserTurnsToAnotherProgram) {
+  openLargeA();
+  auto& window = opened<FormB>();
+  const OtherProgram other;
+  bool boxOnTop = false;
+  boxes.whileUp([&](HWND box) {
+    ASSERT_TRUE(isTopmost(window.handle()));
+    other.activate();
+    EXPECT_TRUE(eventually([&] { return !isTopmost(window.handle()); }));
+    boxOnTop = isTopmost(box) && isAbove(box, a().handle());
+    SetForegroundWindow(box);
+  });
+  forms::showMessage(u"没有该词条", forms::MessageIcon::information);
+  EXPECT_TRUE(boxOnTop);
+  EXPECT_EQ(boxes.take().size(), 1U);
+  EXPECT_TRUE(eventually([&] { return isAbove(window.handle(), a().handle()); }));
 }
 
 TEST_F(FormStacking, ABarStaysAboveAllAndAFloatingFormBelowIt) {
@@ -189,6 +208,9 @@ TEST_F(FormStacking, ABarStaysAboveAllAndAFloatingFormBelowIt) {
   repaint(bar);
   repaint(floating);
   EXPECT_TRUE(isAbove(bar.handle(), window.handle()));
+  // As the system puts a window that the user clicks to the top.
+  SetWindowPos(window.handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+  EXPECT_TRUE(eventually([&] { return isAbove(bar.handle(), window.handle()); }));
   EXPECT_TRUE(isAbove(window.handle(), floating.handle()));
 }
 

@@ -11,6 +11,7 @@ namespace {
 class HeldForm : public FormA {
  public:
   forms::RichTextBox pane{*this, {150, 1000, 1800, 1200}};
+  forms::RichTextBox note{*this, {150, 2300, 1800, 1800}, forms::RichTextBox::Look::toolTip};
   forms::TreeView tree{*this, {2100, 1000, 1800, 1200}};
   forms::ColumnTree columns{*this, {4050, 1000, 1800, 1200}};
 };
@@ -20,6 +21,7 @@ class RepaintHeldTest : public WindowTest {
  protected:
   RepaintHeldTest() {
     plan<'A'>().design.width = 6300;
+    plan<'A'>().design.height = 4800;
     opened<HeldForm>();
   }
   static HeldForm& form() { return forms::single<HeldForm>(); }
@@ -38,19 +40,19 @@ class RepaintHeldTest : public WindowTest {
 };
 
 TEST_F(RepaintHeldTest, ARichTextBoxPaintsABarThatComesOrGoes) {
-  const auto show = [](const std::u16string& text) {
-    const forms::RepaintHeld held(form().pane);
-    form().pane.setText(text);
-  };
-  const std::u16string few = u"word\r\nmeaning that is longer than the pane is wide";
+  const std::u16string few(u"word\r\nmeaning that is long");
   std::u16string many = few;
   for (int i = 0; i < 30; ++i) many += u"\r\nmeaning";
-  show(few);
-  expectPainted(form().pane, WS_VSCROLL, false);
-  show(many);
-  expectPainted(form().pane, WS_VSCROLL, true);
-  show(few);
-  expectPainted(form().pane, WS_VSCROLL, false);
+  for (forms::RichTextBox* box : {&form().pane, &form().note}) {
+    for (const std::u16string* text :
+         std::initializer_list<const std::u16string*>{&few, &many, &few}) {
+      {
+        const forms::RepaintHeld held(*box);
+        box->setText(*text);
+      }
+      expectPainted(*box, WS_VSCROLL, text == &many);
+    }
+  }
 }
 
 TEST_F(RepaintHeldTest, ATreePaintsABarThatComesOrGoes) {
