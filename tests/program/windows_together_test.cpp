@@ -28,7 +28,7 @@ class WindowsTogether : public ::testing::Test {
   }
 
   /// Whether neither the quick lookup window nor the toolbar covers a part of `window`, even after
-  /// the former was painted. Ends the scene: those two are hidden meanwhile.
+  /// the former was painted. Ends the scene: those two are hidden then.
   [[nodiscard]] bool staysSeen(HWND window) const {
     repaintLookup();
     return isSeenWhole(window, {lookup_.window(), lexilo.toolbar()});
@@ -58,6 +58,7 @@ TEST_F(WindowsTogether, TheMessageOfAFruitlessSearchIsSeen) {
   const ShownMessage box = waitForMessageBox(lexilo.process());
   EXPECT_EQ(box.text, L"Sorry，没有该词条！");
   EXPECT_TRUE(staysSeen(box.window));
+  box.answer();
 }
 
 TEST_F(WindowsTogether, TheDictionarySettingsAreSeen) {
@@ -80,7 +81,9 @@ TEST_F(WindowsTogether, TheWarningOfTheSpecialQueryIsSeen) {
   const MultiQuery query(lexilo);
   const SpecialQuery dialog(lexilo.process(), query);
   dialog.ask(L"", L"");
-  EXPECT_TRUE(staysSeen(waitForMessageBox(lexilo.process()).window));
+  const ShownMessage box = waitForMessageBox(lexilo.process());
+  EXPECT_TRUE(staysSeen(box.window));
+  box.answer();
 }
 
 TEST_F(WindowsTogether, AWindowBesideStaysSeenWhileWordsAreTyped) {

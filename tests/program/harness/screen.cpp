@@ -81,7 +81,6 @@ bool isSeenWhole(HWND window, const std::vector<HWND>& others) {
     waitUntilGone(other);
   }
   const std::vector<COLORREF> alone = settledPixels(inside);
-  for (HWND other : others) ShowWindow(other, SW_SHOWNA);
   constexpr std::ptrdiff_t kCaret = 100;  // pixels of a blinking caret
   const auto same = std::inner_product(shown.begin(), shown.end(), alone.begin(), std::ptrdiff_t{0},
                                        std::plus<>(), std::equal_to<>());

@@ -14,8 +14,8 @@ std::vector<COLORREF> screenPixels(const RECT& rect);
 /// The same once they no longer change.
 std::vector<COLORREF> settledPixels(const RECT& rect);
 
-/// Whether the screen shows of the inside of `window`, but for a caret, what it shows while the
-/// windows `others` are hidden.
+/// Hides the windows `others`, for good. Whether the screen showed of the inside of `window`, but
+/// for a caret, what it shows then.
 bool isSeenWhole(HWND window, const std::vector<HWND>& others);
 
 /// The colours of one of the system's icons (IDI_ERROR ...) on the background of dialogs.
