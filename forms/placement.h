@@ -54,7 +54,7 @@ struct Raise {
 
 /// Decides it for the window of index `self` (nullopt where it is not topmost yet) and of rank
 /// `rank`. `stack` are the topmost windows from the top of the Z order down, ours with their ranks,
-/// nullopt for those of other programs that lie where the window does.
+/// nullopt for those of other programs.
 Raise raised(std::span<const std::optional<Rank>> stack, std::optional<std::size_t> self,
              Rank rank);
 

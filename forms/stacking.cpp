@@ -41,12 +41,6 @@ bool canBeSeen(HWND window) {
   return cloaked == 0;
 }
 
-PixelBox placeOf(HWND window) {
-  RECT rect{};
-  GetWindowRect(window, &rect);
-  return {rect.left, rect.top, rect.right, rect.bottom};
-}
-
 /// The window itself, or the one at the end of the chain of its owners.
 HWND rootOwner(HWND window) {
   while (HWND owner = GetWindow(window, GW_OWNER)) window = owner;
@@ -69,7 +63,6 @@ struct Stack {
 Stack stackAround(const Form& form) {
   // GetWindow in a loop may go round in circles when windows are moved meanwhile.
   constexpr int kMaxSteps = 1'000;
-  const PixelBox place = form.place();
   Stack stack;
   HWND window = GetTopWindow(nullptr);
   for (int step = 0; step < kMaxSteps && window != nullptr; ++step) {
@@ -77,12 +70,11 @@ Stack stackAround(const Form& form) {
     if (canBeSeen(window)) {
       if (!isTopmost(window)) break;
       const bool self = window == form.handle();
-      const bool concerns = isOurs(window) ? self || rootOwner(window) != form.handle()
-                                           : meet(placeOf(window), place);
+      const bool ours = isOurs(window);
       if (self) stack.self = stack.windows.size();
-      if (concerns) {
+      if (!ours || self || rootOwner(window) != form.handle()) {
         stack.windows.push_back(window);
-        stack.ranks.push_back(isOurs(window) ? std::optional(rankOf(window)) : std::nullopt);
+        stack.ranks.push_back(ours ? std::optional(rankOf(window)) : std::nullopt);
       }
     }
     window = next;
