@@ -64,6 +64,18 @@ TEST_F(RepaintHeldTest, ATreePaintsABarThatComesOrGoes) {
   expectPainted(form().tree, WS_VSCROLL, false);
 }
 
+TEST_F(RepaintHeldTest, AHiddenControlStaysHidden) {
+  for (const forms::Widget* widget :
+       std::initializer_list<const forms::Widget*>{&form().pane, &form().tree, &form().columns}) {
+    ShowWindow(widget->handle(), SW_HIDE);
+    { const forms::RepaintHeld held(*widget); }
+    EXPECT_FALSE(IsWindowVisible(widget->handle()));
+    ShowWindow(widget->handle(), SW_SHOWNA);
+    { const forms::RepaintHeld held(*widget); }
+    EXPECT_TRUE(IsWindowVisible(widget->handle()));
+  }
+}
+
 TEST_F(RepaintHeldTest, ATreeOfColumnsPaintsBothBarsThatComeOrGo) {
   forms::ColumnTree& tree = form().columns;
   const std::u16string wide(100, u'x');
