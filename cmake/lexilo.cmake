@@ -87,6 +87,31 @@ function(lexilo_library name)
   endif()
 endfunction()
 
+# lexilo_folder(NAME [SUBFOLDERS folder...] [EXCEPT file...] [PORTABLE target...] [WINDOWS target...])
+# makes libraries of the sources of a folder, and of the subfolders that are named, by their names:
+# NAME of x.cpp, built everywhere and linked with the targets behind PORTABLE; NAME_win of x_win.cpp,
+# built for Windows only and linked with NAME and with the targets behind WINDOWS. There is no NAME
+# where no source is portable, and no NAME_win where none is for Windows.
+function(lexilo_folder name)
+  cmake_parse_arguments(arg "" "" "SUBFOLDERS;EXCEPT;PORTABLE;WINDOWS" ${ARGN})
+  set(patterns *.cpp)
+  foreach(folder ${arg_SUBFOLDERS})
+    list(APPEND patterns ${folder}/*.cpp)
+  endforeach()
+  file(GLOB portable RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS ${patterns})
+  list(REMOVE_ITEM portable "" ${arg_EXCEPT})
+  set(windows ${portable})
+  list(FILTER portable EXCLUDE REGEX "_win\\.cpp$")
+  list(FILTER windows INCLUDE REGEX "_win\\.cpp$")
+  if(portable)
+    lexilo_library(${name} SOURCES ${portable} LINKS ${arg_PORTABLE})
+    list(PREPEND arg_WINDOWS ${name})
+  endif()
+  if(WIN32 AND windows)
+    lexilo_library(${name}_win WINDOWS SOURCES ${windows} LINKS ${arg_WINDOWS})
+  endif()
+endfunction()
+
 # lexilo_separate_symbols(TARGET): an executable for Windows without debugging data, which is left
 # beside it as TARGET.debug. Debuggers, Wine's among them, find that by the name that is noted in the
 # executable. Part of the linking: neither file is ever older than the other. The start routine stays
