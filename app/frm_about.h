@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/process.h"
+#include "app/browser.h"
 #include "forms/button.h"
 #include "forms/form.h"
 #include "forms/label.h"

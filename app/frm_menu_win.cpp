@@ -1,14 +1,15 @@
 #include "app/frm_menu.h"
 
+#include "app/browser.h"
 #include "app/frm_about.h"
 #include "app/frm_top.h"
-#include "app/process.h"
 #include "app/state.h"
 #include "capture/screen_word.h"
 #include "forms/registry.h"
 #include "lookup/frm_sub.h"
 #include "query/frm_dict_setting.h"
 #include "query/frm_main.h"
+#include "win32/program.h"
 
 namespace {
 
@@ -67,4 +68,4 @@ void frmMenu::mnu_about_Click() { forms::single<frmAbout>().show(); }
 
 void frmMenu::mnu_fwwz_Click() { app::openInBrowser(app::kHomePage); }
 
-void frmMenu::mnu_exit_Click() { app::endProgram(); }
+void frmMenu::mnu_exit_Click() { win32::endProgram(); }

@@ -1,11 +1,11 @@
 #include "app/frm_top.h"
 
+#include "app/browser.h"
 #include "app/frm_menu.h"
-#include "app/process.h"
 #include "app/state.h"
 #include "capture/frm_screen_word.h"
 #include "capture/screen_word.h"
-#include "forms/dpi.h"
+#include "data/connection_string.h"
 #include "forms/geometry.h"
 #include "forms/message_box.h"
 #include "forms/registry.h"
@@ -13,6 +13,8 @@
 #include "query/frm_dict_setting.h"
 #include "query/frm_main.h"
 #include "settings/settings_file.h"
+#include "win32/monitor.h"
+#include "win32/program.h"
 
 namespace {
 
@@ -55,7 +57,7 @@ frmTop::frmTop() : Form(design()) {
 }
 
 void frmTop::Form_Load() {
-  if (!app::claimOnlyInstance()) app::endProgram();
+  if (!win32::claimOnlyInstance(L"Local\\Lexilo.Instance")) win32::endProgram();
   IdxPending = true;
   try {
     start();
@@ -76,7 +78,7 @@ void frmTop::start() {
   setForeColor(RGB(0, 0, 255));
   Get_Windows_Rect();
   setSize(width(), TopHeight);
-  user::ConnectionString = app::connectionString(app::applicationFolder());
+  user::ConnectionString = data::connectionString(win32::applicationFolder() + u"\\kk.dat");
   Adodc1.setConnectionString(user::ConnectionString);
   Adodc2.setConnectionString(user::ConnectionString);
   show();
@@ -91,7 +93,7 @@ void frmTop::start() {
 }
 
 void frmTop::placeAtTopRight() {
-  const forms::Monitor monitor = forms::monitorOf(handle());
+  const win32::Monitor monitor = win32::monitorOf(handle());
   const int screenWidth = forms::toTwips(monitor.bounds.right - monitor.bounds.left, monitor.dpi);
   setPosition(screenWidth - width() - 1300, height());
 }

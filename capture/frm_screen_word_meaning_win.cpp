@@ -5,8 +5,8 @@
 #include "app/state.h"
 #include "capture/screen_word.h"
 #include "forms/dispatcher.h"
-#include "forms/dpi.h"
 #include "text/query_text.h"
+#include "win32/monitor.h"
 
 namespace {
 
@@ -39,7 +39,7 @@ void frmScreenWordMeaning::Form_Load() {
   GetCursorPos(&StartPos);
   // Wholly onto the pointer's monitor while it is hidden: its fonts and sizes are those of the one
   // on which most of it lies.
-  const RECT monitor = forms::monitorAt(StartPos).bounds;
+  const RECT monitor = win32::monitorAt(StartPos).bounds;
   SetWindowPos(handle(), nullptr, monitor.left, monitor.top, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   Timer1.setEnabled(true);
@@ -102,7 +102,7 @@ void frmScreenWordMeaning::write(const capture::PopupText& text) {
 
 void frmScreenWordMeaning::place(const capture::PopupText& text) {
   const auto size = capture::popupSize(text.headLength, text.meaningLength);
-  const forms::Monitor monitor = forms::monitorAt(StartPos);
+  const win32::Monitor monitor = win32::monitorAt(StartPos);
   const auto place = capture::popupPlace(StartPos.x, StartPos.y, size,
                                          {monitor.bounds.left, monitor.bounds.right, monitor.dpi});
   placed_ = true;

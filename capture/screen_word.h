@@ -3,7 +3,7 @@
 #include <span>
 #include <string>
 
-#include "forms/win32.h"
+#include "win32/win32.h"
 
 /// Screen word capture: what drives the screen-text service, and the switches that every other
 /// window of the program calls.

@@ -8,8 +8,8 @@
 #include "capture/probe_rules.h"
 #include "forms/geometry.h"
 #include "forms/registry.h"
-#include "settings/ansi.h"
 #include "text/trim.h"
+#include "win32/win32.h"
 
 namespace ScreenWord {
 namespace {
@@ -63,7 +63,7 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
 }
 
 std::u16string pendingWord(std::span<const char> buffer) {
-  return std::u16string(user::trimBlanks(user::fromAnsi(capture::reportedText(buffer))));
+  return std::u16string(user::trimBlanks(win32::fromAnsi(capture::reportedText(buffer))));
 }
 
 void CatchWordAt(const POINT& point) {

@@ -44,6 +44,13 @@ std::optional<Entry> entryAt(std::u16string_view text, std::size_t start) {
 
 }  // namespace
 
+std::u16string connectionString(std::u16string_view databaseFile) {
+  std::u16string text(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=");
+  text += databaseFile;
+  text += u";Persist Security Info=False";
+  return text;
+}
+
 ConnectionString parseConnectionString(std::u16string_view text) {
   ConnectionString result;
   std::array<bool, kKeys.size()> given{};

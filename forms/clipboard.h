@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "forms/win32.h"
+#include "win32/win32.h"
 
 namespace forms {
 

@@ -3,9 +3,9 @@
 #include <new>
 #include <stdexcept>
 
-#include "forms/handles.h"
 #include "forms/line_ends.h"
-#include "forms/system_error.h"
+#include "win32/handles.h"
+#include "win32/win32.h"
 
 namespace forms {
 namespace {
@@ -28,9 +28,9 @@ class OpenClipboardLock {
   OpenClipboardLock& operator=(const OpenClipboardLock&) = delete;
 };
 
-OwnedMemory copyToGlobalMemory(const std::u16string& text) {
+win32::OwnedMemory copyToGlobalMemory(const std::u16string& text) {
   const std::size_t bytes = (text.size() + 1) * sizeof(char16_t);
-  OwnedMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes));
+  win32::OwnedMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes));
   void* copy = memory ? GlobalLock(memory.get()) : nullptr;
   if (copy == nullptr) throw std::bad_alloc();
   CopyMemory(copy, text.c_str(), bytes);
@@ -41,10 +41,10 @@ OwnedMemory copyToGlobalMemory(const std::u16string& text) {
 }  // namespace
 
 void setClipboardText(HWND owner, std::u16string_view text) {
-  OwnedMemory memory = copyToGlobalMemory(withWindowsLineEnds(text));
+  win32::OwnedMemory memory = copyToGlobalMemory(withWindowsLineEnds(text));
   const OpenClipboardLock lock(owner);
   EmptyClipboard();
-  if (SetClipboardData(CF_UNICODETEXT, memory.get()) == nullptr) throwLastError();
+  if (SetClipboardData(CF_UNICODETEXT, memory.get()) == nullptr) win32::throwLastError();
   // The clipboard owns the memory now.
   static_cast<void>(memory.release());
 }

@@ -26,7 +26,7 @@ class ColumnTree : public TreeView {
 
   int columnWidth_ = 0;
   int textHeight_ = 0;
-  OwnedFont drawingFont_;
+  win32::OwnedFont drawingFont_;
 };
 
 }  // namespace forms

@@ -4,7 +4,7 @@
 #include <functional>
 #include <unordered_map>
 
-#include "forms/win32.h"
+#include "win32/win32.h"
 
 namespace forms {
 

@@ -3,7 +3,7 @@
 #include "forms/form.h"
 #include "forms/guard.h"
 #include "forms/registry.h"
-#include "forms/system_error.h"
+#include "win32/win32.h"
 
 namespace forms {
 namespace {
@@ -37,7 +37,7 @@ Dispatcher::Dispatcher() {
   window_ = CreateWindowExW(0, kClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
                             windowClass.hInstance, nullptr);
   if (window_ == nullptr) {
-    throwLastError();
+    win32::throwLastError();
   }
 }
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "forms/handles.h"
+#include "win32/handles.h"
 
 namespace forms {
 
@@ -15,6 +15,6 @@ struct Font {
 };
 
 /// The system's font of `font` for `dpi`. Throws std::runtime_error.
-OwnedFont makeFont(const Font& font, int dpi);
+win32::OwnedFont makeFont(const Font& font, int dpi);
 
 }  // namespace forms

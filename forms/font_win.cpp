@@ -1,5 +1,5 @@
 #include "forms/font.h"
-#include "forms/system_error.h"
+#include "win32/win32.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,10 +29,10 @@ LOGFONTW namedFont(const Font& font, int dpi) {
 
 }  // namespace
 
-OwnedFont makeFont(const Font& font, int dpi) {
+win32::OwnedFont makeFont(const Font& font, int dpi) {
   const LOGFONTW description = font.face.empty() ? messageFont(dpi) : namedFont(font, dpi);
-  OwnedFont made(CreateFontIndirectW(&description));
-  if (!made) throwLastError();
+  win32::OwnedFont made(CreateFontIndirectW(&description));
+  if (!made) win32::throwLastError();
   return made;
 }
 

@@ -6,7 +6,7 @@
 #include "forms/guard.h"
 #include "forms/placement.h"
 #include "forms/widget.h"
-#include "forms/win32.h"
+#include "win32/win32.h"
 
 namespace forms {
 
@@ -159,8 +159,8 @@ class Form {
   HWND handle_ = nullptr;
   HWND toolTip_ = nullptr;
   HWND lastFocus_ = nullptr;
-  OwnedIcon bigIcon_;
-  OwnedIcon smallIcon_;
+  win32::OwnedIcon bigIcon_;
+  win32::OwnedIcon smallIcon_;
   HCURSOR mousePointer_ = nullptr;
   COLORREF foreColor_ = 0;
   int dpi_ = 96;

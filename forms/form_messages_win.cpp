@@ -1,11 +1,11 @@
 #include <algorithm>
 
-#include "forms/dpi.h"
 #include "forms/focus.h"
 #include "forms/form.h"
 #include "forms/geometry.h"
 #include "forms/registry.h"
 #include "forms/stacking.h"
+#include "win32/monitor.h"
 
 namespace forms {
 

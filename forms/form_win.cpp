@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "forms/dpi.h"
 #include "forms/focus.h"
 #include "forms/geometry.h"
 #include "forms/registry.h"
 #include "forms/stacking.h"
-#include "forms/system_error.h"
+#include "win32/monitor.h"
+#include "win32/win32.h"
 
 namespace forms {
 namespace {
@@ -46,9 +46,9 @@ bool isMenuOpen() {
   return (info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0;
 }
 
-OwnedIcon loadIcon(int resource, int systemMetric, int dpi) {
+win32::OwnedIcon loadIcon(int resource, int systemMetric, int dpi) {
   const int size = GetSystemMetricsForDpi(systemMetric, static_cast<UINT>(dpi));
-  return OwnedIcon(static_cast<HICON>(LoadImageW(
+  return win32::OwnedIcon(static_cast<HICON>(LoadImageW(
       GetModuleHandleW(nullptr), MAKEINTRESOURCEW(resource), IMAGE_ICON, size, size, 0)));
 }
 
@@ -73,13 +73,13 @@ void Form::createWindow() {
   windowClass.hInstance = GetModuleHandleW(nullptr);
   windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   windowClass.hbrBackground = GetSysColorBrush(design_.background);
-  windowClass.lpszClassName = wide(className);
+  windowClass.lpszClassName = win32::wide(className);
   RegisterClassExW(&windowClass);
-  CreateWindowExW(exStyleOf(design_), wide(className), wide(design_.caption), styleOf(design_),
-                  CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr, windowClass.hInstance,
-                  this);
+  CreateWindowExW(exStyleOf(design_), win32::wide(className), win32::wide(design_.caption),
+                  styleOf(design_), CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr,
+                  windowClass.hInstance, this);
   if (handle_ == nullptr) {
-    throwLastError();
+    win32::throwLastError();
   }
   dpi_ = static_cast<int>(GetDpiForWindow(handle_));
   showIcons();
@@ -156,7 +156,7 @@ int Form::frameWidth() const { return design_.frame == Frame::borderless ? 0 : k
 int Form::frameHeight() const { return design_.frame == Frame::borderless ? 0 : kFrameHeight; }
 
 SIZE Form::outerPixels(int width, int height, int dpi) const {
-  const SIZE frame = frameOf(styleOf(design_), exStyleOf(design_), dpi);
+  const SIZE frame = win32::frameOf(styleOf(design_), exStyleOf(design_), dpi);
   return {toPixels(std::max(width - frameWidth(), 0), dpi) + frame.cx,
           toPixels(std::max(height - frameHeight(), 0), dpi) + frame.cy};
 }
@@ -199,11 +199,11 @@ void Form::setPlace(const PixelBox& place) {
 }
 
 void Form::centre(const Form& other) {
-  setPlace(centred(place(), other.place(), toBox(monitorOf(other.handle_).work)));
+  setPlace(centred(place(), other.place(), toBox(win32::monitorOf(other.handle_).work)));
 }
 
 void Form::centre() {
-  const PixelBox work = toBox(monitorOf(handle_).work);
+  const PixelBox work = toBox(win32::monitorOf(handle_).work);
   const PixelBox middle = centred(place(), work, work);
   // Beside all of them; failing that, where at least the smaller ones do not lie on it.
   for (const Rank lowest : {Rank::floating, Rank::bar}) {
@@ -273,7 +273,7 @@ void Form::setToolTip(Widget& widget, const std::u16string& text) {
   tool.hwnd = handle_;
   tool.uId = reinterpret_cast<UINT_PTR>(widget.handle());
   SendMessageW(toolTip_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-  tool.lpszText = const_cast<wchar_t*>(wide(text));
+  tool.lpszText = const_cast<wchar_t*>(win32::wide(text));
   if (!text.empty()) SendMessageW(toolTip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 

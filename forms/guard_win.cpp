@@ -2,8 +2,8 @@
 
 #include "forms/box_text.h"
 #include "forms/message_box.h"
-#include "forms/win32.h"
 #include "text/utf.h"
+#include "win32/win32.h"
 
 namespace forms {
 namespace {

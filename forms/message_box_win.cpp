@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "forms/focus.h"
-#include "forms/win32.h"
+#include "win32/win32.h"
 
 namespace forms {
 namespace {
@@ -58,7 +58,7 @@ void showMessage(const std::u16string& text, MessageIcon icon, const std::u16str
   const FocusHeld focusHeld;
   const OtherWindowsHeld othersHeld(owner);
   // Our windows are topmost: a box that is not would open below them.
-  MessageBoxW(owner, wide(text), wide(title),
+  MessageBoxW(owner, win32::wide(text), win32::wide(title),
               MB_OK | MB_TOPMOST | MB_SETFOREGROUND | iconFlag(icon));
 }
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "forms/handles.h"
+#include "win32/handles.h"
 
 namespace forms {
 

@@ -6,7 +6,7 @@ namespace forms {
 
 struct Picture::Drawings {
   int resource = 0;
-  std::map<int, OwnedIcon> bySize;
+  std::map<int, win32::OwnedIcon> bySize;
 };
 
 Picture::Picture(int iconResource) : drawings_(std::make_shared<Drawings>()) {
@@ -15,11 +15,11 @@ Picture::Picture(int iconResource) : drawings_(std::make_shared<Drawings>()) {
 
 HICON Picture::icon(int size) const {
   if (drawings_ == nullptr) return nullptr;
-  OwnedIcon& icon = drawings_->bySize[size];
+  win32::OwnedIcon& icon = drawings_->bySize[size];
   if (!icon) {
-    icon = OwnedIcon(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr),
-                                                   MAKEINTRESOURCEW(drawings_->resource),
-                                                   IMAGE_ICON, size, size, 0)));
+    icon = win32::OwnedIcon(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr),
+                                                          MAKEINTRESOURCEW(drawings_->resource),
+                                                          IMAGE_ICON, size, size, 0)));
   }
   return icon.get();
 }

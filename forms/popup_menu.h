@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/form.h"
-#include "forms/handles.h"
+#include "win32/handles.h"
 
 namespace forms {
 

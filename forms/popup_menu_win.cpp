@@ -21,14 +21,14 @@ void dropPress(const Widget& widget) {
 
 const PopupMenu::Item* PopupMenu::choose(const Form& owner, POINT screen,
                                          const Widget* opener) const {
-  const OwnedMenu menu(CreatePopupMenu());
+  const win32::OwnedMenu menu(CreatePopupMenu());
   for (std::size_t place = 0; place < items_.size(); ++place) {
     const Item& item = items_[place];
     const bool separator = item.caption == u"-";
     const UINT flags = (separator ? MF_SEPARATOR : MF_STRING) |
                        (item.enabled ? MF_ENABLED : MF_GRAYED) |
                        (item.checked ? MF_CHECKED : MF_UNCHECKED);
-    AppendMenuW(menu.get(), flags, place + 1, wide(item.caption));
+    AppendMenuW(menu.get(), flags, place + 1, win32::wide(item.caption));
   }
   // Without the foreground a click elsewhere would not close the menu; the empty message lets the
   // task switch happen that TrackPopupMenu would otherwise swallow (both as Windows documents).

@@ -5,9 +5,9 @@
 #include "forms/clipboard.h"
 #include "forms/form.h"
 #include "forms/geometry.h"
-#include "forms/system_error.h"
 #include "forms/text_positions.h"
 #include "forms/window_text.h"
+#include "win32/win32.h"
 
 namespace forms {
 namespace {
@@ -17,7 +17,7 @@ const wchar_t* richEditClass() {
   static const HMODULE library =
       LoadLibraryExW(L"msftedit.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
   if (library == nullptr) {
-    throwLastError();
+    win32::throwLastError();
   }
   return MSFTEDIT_CLASS;
 }
@@ -68,7 +68,7 @@ void RichTextBox::keepMargins() {
 // The control therefore holds no-break spaces there, and blanks is what it gives out.
 void RichTextBox::setText(const std::u16string& text) {
   text_ = text;
-  SetWindowTextW(handle(), wide(withFirmBlanks(text)));
+  SetWindowTextW(handle(), win32::wide(withFirmBlanks(text)));
   if (hangingIndent_ == 0 || text.empty()) return;
   PARAFORMAT format{};
   format.cbSize = sizeof format;

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "forms/placement.h"
-#include "forms/win32.h"
+#include "win32/win32.h"
 
 /// The order of our own windows where they meet those that stay on top. All on the user-interface
 /// thread.

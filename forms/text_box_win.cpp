@@ -16,7 +16,7 @@ TextBox::TextBox(Form& form, const WidgetBox& box, Look look)
 
 std::u16string TextBox::text() const { return windowText(handle()); }
 
-void TextBox::setText(const std::u16string& text) { SetWindowTextW(handle(), wide(text)); }
+void TextBox::setText(const std::u16string& text) { SetWindowTextW(handle(), win32::wide(text)); }
 
 void TextBox::command(WORD code) {
   if (code == EN_CHANGE) onChange.raise();

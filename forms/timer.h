@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/guard.h"
-#include "forms/win32.h"
+#include "win32/win32.h"
 
 namespace forms {
 

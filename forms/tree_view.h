@@ -2,10 +2,10 @@
 
 #include <vector>
 
-#include "forms/handles.h"
 #include "forms/picture.h"
 #include "forms/repaint_held.h"
 #include "forms/widget.h"
+#include "win32/handles.h"
 
 namespace forms {
 
@@ -78,7 +78,7 @@ class TreeView : public Widget {
   bool highlightChooses_ = true;
   bool keepsHighlight_ = false;
   Picture picture_;
-  OwnedImageList pictures_;
+  win32::OwnedImageList pictures_;
 };
 
 }  // namespace forms

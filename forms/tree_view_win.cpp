@@ -86,7 +86,7 @@ void TreeView::setPicture(const Picture& picture) {
 
 void TreeView::showPicture() {
   const int size = toPixels(kPictureTwips, form().dpi());
-  OwnedImageList made(ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, 1, 0));
+  win32::OwnedImageList made(ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, 1, 0));
   if (HICON icon = picture_.icon(size)) ImageList_AddIcon(made.get(), icon);
   send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(made.get()));
   pictures_ = std::move(made);
@@ -168,7 +168,7 @@ void TreeView::giveText(NMTVDISPINFOW& info) const {
     std::copy_n(text.c_str(), text.size() + 1, info.item.pszText);
   } else {
     // Longer than the control's own buffer: it takes ours.
-    info.item.pszText = const_cast<wchar_t*>(wide(text));
+    info.item.pszText = const_cast<wchar_t*>(win32::wide(text));
   }
 }
 

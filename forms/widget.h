@@ -7,7 +7,7 @@
 #include "forms/font.h"
 #include "forms/geometry.h"
 #include "forms/guard.h"
-#include "forms/win32.h"
+#include "win32/win32.h"
 
 namespace forms {
 
@@ -94,7 +94,7 @@ class Widget {
   WNDPROC controlProc_ = nullptr;  // the control's own
   WidgetBox box_;
   Font font_;
-  OwnedFont systemFont_;
+  win32::OwnedFont systemFont_;
   std::u16string toolTip_;
 };
 

@@ -4,18 +4,18 @@
 #include "forms/form.h"
 #include "forms/geometry.h"
 #include "forms/stacking.h"
-#include "forms/system_error.h"
+#include "win32/win32.h"
 
 namespace forms {
 
 Widget::Widget(Form& form, const ControlKind& kind, const WidgetBox& box,
                const std::u16string& caption)
     : form_(form), box_(box) {
-  handle_ = CreateWindowExW(kind.exStyle, kind.className, wide(caption),
+  handle_ = CreateWindowExW(kind.exStyle, kind.className, win32::wide(caption),
                             WS_CHILD | WS_VISIBLE | kind.style, 0, 0, 0, 0, form.handle(), nullptr,
                             GetModuleHandleW(nullptr), nullptr);
   if (handle_ == nullptr) {
-    throwLastError();
+    win32::throwLastError();
   }
   // Not SetWindowSubclass(): it asks the system for a window property at every message, which takes
   // 0.13 ms under Wine 8, some hundred times as long as the message itself.
@@ -165,7 +165,7 @@ void Widget::setToolTip(const std::u16string& text) {
   if (toolTip_ == text) return;
   toolTip_ = text;
   // A picture has no name that a screen reader could read out.
-  if (GetWindowTextLengthW(handle_) == 0) SetWindowTextW(handle_, wide(text));
+  if (GetWindowTextLengthW(handle_) == 0) SetWindowTextW(handle_, win32::wide(text));
   form_.setToolTip(*this, toolTip_);
 }
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "forms/win32.h"
+#include "win32/win32.h"
 
 namespace forms {
 
@@ -10,7 +10,7 @@ namespace forms {
 inline std::u16string windowText(HWND window) {
   std::wstring buffer(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
   const int length = GetWindowTextW(window, buffer.data(), static_cast<int>(buffer.size()));
-  return fromWide({buffer.data(), static_cast<std::size_t>(length)});
+  return win32::fromWide({buffer.data(), static_cast<std::size_t>(length)});
 }
 
 }  // namespace forms

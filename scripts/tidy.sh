@@ -12,7 +12,7 @@ cd "$LEXILO_ROOT"
 ensure_packages "${program_packages[@]}" clang-tidy cppcheck
 ensure_node_modules
 paths=("$@")
-((${#paths[@]} > 0)) || paths=(app bench capture data dictionary forms lookup query settings tests text)
+((${#paths[@]} > 0)) || paths=(app bench capture data dictionary forms lookup query settings tests text win32)
 
 # A compilation database is all that is needed of a build, except for generated headers.
 for preset in native windows; do

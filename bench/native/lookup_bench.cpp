@@ -14,6 +14,7 @@
 
 #include "bench/native/subject_searches.h"
 #include "bench/timings.h"
+#include "data/connection_string.h"
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
 #include "text/decimal.h"
@@ -31,11 +32,6 @@ constexpr std::size_t kChineseWords = 2000;
 /// What a keystroke may take at the median, in ms.
 constexpr double kEnglishAim = 0.2;
 constexpr double kChineseAim = 1;
-
-std::u16string connectionStringFor(const char* file) {
-  return u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + text::toUtf16(file) +
-         u";Persist Security Info=False";
-}
 
 data::RecordSet& run(data::DataControl& control, std::u16string_view sql) {
   control.setRecordSource(sql);
@@ -135,7 +131,7 @@ void timeStart(const char* file) {
   for (int i = 0; i < 20; ++i) {
     start.time([&] {
       data::DataControl control;
-      control.setConnectionString(connectionStringFor(file));
+      control.setConnectionString(data::connectionString(text::toUtf16(file)));
       return data::readIndexWords(control);
     });
   }
@@ -145,7 +141,7 @@ void timeStart(const char* file) {
 int runAll(const std::vector<const char*>& arguments) {
   const char* file = arguments.front();
   data::DataControl control;
-  control.setConnectionString(connectionStringFor(file));
+  control.setConnectionString(data::connectionString(text::toUtf16(file)));
   const data::IndexWords indexWords = data::readIndexWords(control);
   const bool listed = arguments.size() == 3;
   const Words english =

@@ -8,6 +8,7 @@
 #include "bench/native/search_patterns.h"
 #include "bench/native/yardsticks.h"
 #include "bench/timings.h"
+#include "data/connection_string.h"
 #include "data/data_control.h"
 #include "data/database.h"
 #include "query/query_sql.h"
@@ -136,8 +137,7 @@ void timeKind(const Kind& kind, const std::vector<Entry>& entries, const Yardsti
 void timeSearches(const char* file) {
   data::DataControl control;
   control.setCacheKiB(data::kSearchCacheKiB);
-  control.setConnectionString(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" +
-                              text::toUtf16(file) + u";Persist Security Info=False");
+  control.setConnectionString(data::connectionString(text::toUtf16(file)));
   const std::vector<Entry> entries = readEntries(control);
   const Yardsticks yardsticks(file, entries);
   for (const Kind& kind : kKinds) timeKind(kind, entries, yardsticks, control);

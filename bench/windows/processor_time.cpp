@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "tests/program/harness/handle.h"
+#include "win32/handles.h"
 
 namespace bench {
 namespace {
@@ -16,7 +16,7 @@ double milliseconds(const FILETIME& time) {
 }
 
 double threadTime(DWORD id) {
-  const harness::Handle thread(OpenThread(THREAD_QUERY_INFORMATION, FALSE, id));
+  const win32::OwnedKernelObject thread(OpenThread(THREAD_QUERY_INFORMATION, FALSE, id));
   FILETIME created{};
   FILETIME ended{};
   FILETIME kernel{};
@@ -29,7 +29,7 @@ double threadTime(DWORD id) {
 
 // Thread by thread: Wine tells a program only its own times as a process.
 double processorTime(DWORD process) {
-  const harness::Handle snapshot(CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0));
+  const win32::OwnedKernelObject snapshot(CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0));
   THREADENTRY32 entry{};
   entry.dwSize = sizeof entry;
   double time = 0;

@@ -8,6 +8,7 @@
 
 #include "app/state.h"
 #include "bench/timings.h"
+#include "data/connection_string.h"
 #include "data/data_control.h"
 #include "forms/dispatcher.h"
 #include "forms/registry.h"
@@ -123,8 +124,7 @@ void search(frmMain& form, const forms::Button& button, const std::vector<std::u
 }
 
 int run(const std::u16string& database) {
-  user::ConnectionString =
-      u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + database + u";Persist Security Info=False";
+  user::ConnectionString = data::connectionString(database);
   auto& form = forms::single<frmMain>();
   form.show();
   forms::doEvents();
@@ -162,7 +162,7 @@ int wmain(int count, wchar_t** arguments) {
     return 2;
   }
   try {
-    return run(forms::fromWide(arguments[1]));
+    return run(win32::fromWide(arguments[1]));
   } catch (const std::exception& error) {
     std::printf("error: %s\n", error.what());
     return 1;

@@ -6,6 +6,7 @@
 #include "app/state.h"
 #include "bench/timings.h"
 #include "bench/windows/sample_words.h"
+#include "data/connection_string.h"
 #include "data/data_control.h"
 #include "forms/dispatcher.h"
 #include "forms/registry.h"
@@ -93,8 +94,7 @@ void typeLookup(frmSub& form, const std::vector<std::u16string>& words, Keystrok
 }
 
 int run(const std::u16string& database) {
-  user::ConnectionString =
-      u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + database + u";Persist Security Info=False";
+  user::ConnectionString = data::connectionString(database);
   data::DataControl control;
   control.setConnectionString(user::ConnectionString);
   user::IdxWords = data::readIndexWords(control);
@@ -134,7 +134,7 @@ int wmain(int count, wchar_t** arguments) {
     return 2;
   }
   try {
-    return run(forms::fromWide(arguments[1]));
+    return run(win32::fromWide(arguments[1]));
   } catch (const std::exception& error) {
     std::printf("error: %s\n", error.what());
     return 1;

@@ -1,16 +1,11 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+
+#include "win32/handles.h"
 
 namespace nhw32 {
-
-struct CloseHandleOf {
-  void operator()(HANDLE handle) const { CloseHandle(handle); }
-};
 
 /// Memory in the program of a window, for messages whose structures a control reads there. Every
 /// operation that fails throws NoAnswer.
@@ -32,7 +27,7 @@ class RemoteMemory {
   void abandon() { address_ = nullptr; }
 
  private:
-  std::unique_ptr<void, CloseHandleOf> process_;
+  win32::OwnedKernelObject process_;
   std::byte* address_ = nullptr;
 };
 

@@ -16,7 +16,7 @@ HANDLE openProgramOf(HWND window) {
 }  // namespace
 
 RemoteMemory::RemoteMemory(HWND window, std::size_t size) : process_(openProgramOf(window)) {
-  if (process_ == nullptr) throw NoAnswer(Outcome::refused);
+  if (!process_) throw NoAnswer(Outcome::refused);
   address_ = static_cast<std::byte*>(
       VirtualAllocEx(process_.get(), nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE));
   if (address_ == nullptr) throw NoAnswer(Outcome::refused);

@@ -13,7 +13,7 @@
 #include "capture/nhw32/remote_memory.h"
 #include "capture/nhw32/rich_edit_layout.h"
 #include "capture/nhw32/word_at.h"
-#include "settings/ansi.h"
+#include "win32/win32.h"
 
 namespace nhw32 {
 namespace {
@@ -109,7 +109,7 @@ class RichEditText : public ControlText {
     }
     const auto* const bytes = reinterpret_cast<const char*>(written.data());
     const auto* const end = std::find(bytes, bytes + written.size(), '\0');
-    return user::fromAnsi({bytes, end});
+    return win32::fromAnsi({bytes, end});
   }
 
   template <class Structure>

@@ -185,8 +185,9 @@ class WriteProtectedDatabase : public ::testing::Test {
   }
 
   // The attribute does not bind every user; a handle that lets nobody else write does.
-  const Handle reader{CreateFileW(folder.database().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                  OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)};
+  const win32::OwnedKernelObject reader{CreateFileW(folder.database().c_str(), GENERIC_READ,
+                                                    FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                                    FILE_ATTRIBUTE_NORMAL, nullptr)};
 };
 
 TEST_F(WriteProtectedDatabase, LookupsStillWork) {

@@ -7,9 +7,13 @@ namespace {
 using data::parseConnectionString;
 
 std::u16string dataSourceOf(std::u16string_view file) {
-  return parseConnectionString(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" +
-                               std::u16string(file) + u";Persist Security Info=False")
-      .dataSource;
+  return parseConnectionString(data::connectionString(file)).dataSource;
+}
+
+TEST(ConnectionString, NamesTheDatabaseFile) {
+  EXPECT_EQ(data::connectionString(u"C:\\Program Files\\kk.dat"),
+            u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=C:\\Program Files\\kk.dat;"
+            u"Persist Security Info=False");
 }
 
 TEST(ConnectionString, GivesItsThreeValues) {

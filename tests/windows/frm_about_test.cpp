@@ -56,7 +56,7 @@ TEST_F(FrmAbout, EveryTextFits) {
     RECT room{};
     GetClientRect(label->handle(), &room);
     RECT needed = room;
-    DrawTextW(dc, forms::wide(text), -1, &needed, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+    DrawTextW(dc, win32::wide(text), -1, &needed, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
     SelectObject(dc, before);
     ReleaseDC(label->handle(), dc);
     EXPECT_LE(needed.bottom, room.bottom);

@@ -1,6 +1,6 @@
-#include "forms/dpi.h"
 #include "query/layout.h"
 #include "tests/windows/support/query_test.h"
+#include "win32/monitor.h"
 
 namespace wintest {
 namespace {
@@ -23,7 +23,7 @@ class FrmMainLayout : public QueryTest {
     expectAt(window.TreeView1, layout.dictionaries);
     expectAt(window.TreeView2, layout.results);
   }
-  static RECT workArea() { return forms::monitorOf(form().handle()).work; }
+  static RECT workArea() { return win32::monitorOf(form().handle()).work; }
 };
 
 TEST_F(FrmMainLayout, OpensInItsSizeAndFollowsTheWindow) {

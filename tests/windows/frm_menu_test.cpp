@@ -1,8 +1,9 @@
-#include "app/process.h"
+#include "app/browser.h"
 #include "capture/screen_word.h"
 #include "lookup/frm_sub.h"
 #include "tests/windows/support/frm_top_test.h"
 #include "tests/windows/support/started_page.h"
+#include "win32/program.h"
 
 namespace wintest {
 namespace {
@@ -176,7 +177,7 @@ TEST_F(FrmMenu, HelpIsTheToolbars) {
   const StartedBrowser browser = awaitBrowser();
   EXPECT_EQ(browser.program, user::BrowserPath) << "another program was started";
   EXPECT_EQ(browser.name, user::BrowserPath);
-  EXPECT_EQ(browser.page, app::applicationFolder() + u"\\help\\help.htm");
+  EXPECT_EQ(browser.page, win32::applicationFolder() + u"\\help\\help.htm");
   EXPECT_EQ(browser.show, SW_SHOWNORMAL);
 }
 

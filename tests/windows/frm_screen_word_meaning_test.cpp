@@ -1,9 +1,9 @@
-#include "forms/dpi.h"
 #include "forms/registry.h"
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/find.h"
 #include "tests/windows/support/capture_test.h"
 #include "tests/windows/support/other_program.h"
+#include "win32/monitor.h"
 
 namespace wintest {
 namespace {
@@ -188,7 +188,7 @@ TEST_F(FrmScreenWordMeaning, AMissingDatabaseEndsSilently) {
 }
 
 TEST_F(FrmScreenWordMeaning, WhileHiddenItLiesWhollyOnThePointersMonitor) {
-  const RECT screen = forms::monitorAt(kPointer).bounds;
+  const RECT screen = win32::monitorAt(kPointer).bounds;
   input::moveTo({screen.right - 5, screen.bottom - 5});
   const RECT rect = rectOf(popup().handle());
   RECT common{};
@@ -197,7 +197,7 @@ TEST_F(FrmScreenWordMeaning, WhileHiddenItLiesWhollyOnThePointersMonitor) {
 }
 
 TEST_F(FrmScreenWordMeaning, NearTheRightEdgeItEnds30PixelsBeforeIt) {
-  const RECT screen = forms::monitorAt(kPointer).bounds;
+  const RECT screen = win32::monitorAt(kPointer).bounds;
   input::moveTo({screen.right - 40, 400});
   show(u"data");
   // The last third of a pixel that the width has may go to either side.
@@ -205,7 +205,7 @@ TEST_F(FrmScreenWordMeaning, NearTheRightEdgeItEnds30PixelsBeforeIt) {
 }
 
 TEST_F(FrmScreenWordMeaning, NearTheBottomItReachesBelowTheScreen) {
-  const RECT screen = forms::monitorAt(kPointer).bounds;
+  const RECT screen = win32::monitorAt(kPointer).bounds;
   input::moveTo({300, screen.bottom - 20});
   show(u"data");
   EXPECT_EQ(rectOf(popup().handle()).top, screen.bottom - 10);

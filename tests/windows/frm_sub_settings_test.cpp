@@ -156,7 +156,7 @@ TEST_F(FrmSubSettings, AFileThatCannotBeWrittenGivesWayToOneOfTheUsersOwn) {
   open();
   expectSizes(7005, 5505, 2000);
   close();
-  DeleteFileW(forms::wide(own));
+  DeleteFileW(win32::wide(own));
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
-#include "app/process.h"
 #include "tests/windows/support/frm_top_test.h"
 #include "tests/windows/support/other_program.h"
+#include "win32/program.h"
 
 namespace wintest {
 namespace {
@@ -12,7 +12,7 @@ TEST_F(FrmTopStart, LeavesTheProgramReady) {
   EXPECT_TRUE(IsWindowVisible(form.handle()));
   EXPECT_FALSE(user::MainOpen);
   EXPECT_EQ(user::ConnectionString, u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" +
-                                        app::applicationFolder() +
+                                        win32::applicationFolder() +
                                         u"\\kk.dat;Persist Security Info=False");
   EXPECT_EQ(user::BrowserPath, u"C:\\Program Files\\Internet Explorer\\IEXPLORE.EXE");
   EXPECT_EQ(form.height(), 375);
@@ -102,7 +102,7 @@ TEST_F(FrmTopStart, AMissingDatabaseIsToldOnceAndTheToolbarStays) {
   EXPECT_EQ(seen[0].icon, Icon::error);
   EXPECT_EQ(seen[0].title, u"");
   EXPECT_EQ(seen[0].text,
-            u"找不到词典文件，或者无法打开它：\n" + app::applicationFolder() +
+            u"找不到词典文件，或者无法打开它：\n" + win32::applicationFolder() +
                 u"\\kk.dat\n请确认这个文件与程序在同一文件夹中，并且没有被其他程序占用。"
                 u"如果它不见了，请重新解压或重新安装 Lexilo。"
                 u"\n\nunable to open database file");

@@ -1,8 +1,9 @@
 #include "tests/windows/support/frm_top_test.h"
-#include "app/process.h"
+#include "app/browser.h"
 #include "lookup/frm_sub.h"
 #include "tests/windows/support/other_program.h"
 #include "tests/windows/support/started_page.h"
+#include "win32/program.h"
 
 namespace wintest {
 namespace {
@@ -90,7 +91,7 @@ TEST_F(FrmTop, HelpStartsTheBrowserWithThePage) {
   const StartedBrowser browser = awaitBrowser();
   EXPECT_EQ(browser.program, user::BrowserPath) << "another program was started";
   EXPECT_EQ(browser.name, user::BrowserPath);
-  EXPECT_EQ(browser.page, app::applicationFolder() + u"\\help\\help.htm");
+  EXPECT_EQ(browser.page, win32::applicationFolder() + u"\\help\\help.htm");
 }
 
 TEST_F(FrmTop, APageWhosePathHasBlanksReachesTheBrowserAsItStands) {

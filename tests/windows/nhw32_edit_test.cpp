@@ -146,7 +146,7 @@ class Nhw32EditFont : public Nhw32Edit,
   }
 
  private:
-  const forms::OwnedFont font_ =
+  const win32::OwnedFont font_ =
       forms::makeFont({.face = std::get<0>(GetParam()), .points = 9}, std::get<1>(GetParam()));
 };
 

@@ -1,8 +1,8 @@
 #include "settings/settings_file.h"
 
-#include "forms/win32.h"
 #include "tests/unit/support/temp_folder.h"
 #include "tests/windows/support/unwritable_settings.h"
+#include "win32/win32.h"
 
 namespace wintest {
 namespace {
@@ -138,7 +138,7 @@ TEST_F(SettingsFile, ElseAmongTheUsersOwnData) {
   EXPECT_NE(path.find(u"AppData\\Local"), path.npos);
   user::WriteINIProfileString(kSection, u"A", u"own", path);
   EXPECT_EQ(user::getINIProfileString(kSection, u"A", u"", path), u"own");
-  DeleteFileW(forms::wide(path));
+  DeleteFileW(win32::wide(path));
 }
 
 TEST_F(SettingsFile, ThatTheCodePageCannotNameIsReachedByItsShortName) {
@@ -159,10 +159,10 @@ TEST_F(SettingsFile, ThatTheCodePageCannotNameIsReachedByItsShortName) {
 TEST_F(SettingsFile, LookingForItLeavesNoFileBehind) {
   const std::u16string path = user::systemDirectory() + u"\\system.ini";
   const std::u16string aside = path + u".aside";
-  MoveFileW(forms::wide(path), forms::wide(aside));
+  MoveFileW(win32::wide(path), win32::wide(aside));
   EXPECT_EQ(user::settingsFile(), path);
-  EXPECT_EQ(GetFileAttributesW(forms::wide(path)), INVALID_FILE_ATTRIBUTES);
-  MoveFileW(forms::wide(aside), forms::wide(path));
+  EXPECT_EQ(GetFileAttributesW(win32::wide(path)), INVALID_FILE_ATTRIBUTES);
+  MoveFileW(win32::wide(aside), win32::wide(path));
 }
 
 }  // namespace

@@ -9,7 +9,8 @@ namespace harness {
 Browser::Browser() : window_(waitForWindow({.className = L"IEFrame", .title = {}})) {}
 
 Browser::~Browser() {
-  const Handle process(OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, processOf(window_)));
+  const win32::OwnedKernelObject process(
+      OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, processOf(window_)));
   TerminateProcess(process.get(), 0);
   WaitForSingleObject(process.get(), kPatience);
 }

@@ -39,8 +39,8 @@ Process::Process(const std::wstring& program, const std::wstring& arguments,
   const PROCESS_INFORMATION information =
       create(program, L"\"" + program + L"\" " + arguments, directory);
   id_ = information.dwProcessId;
-  process_ = Handle(information.hProcess);
-  const Handle thread(information.hThread);
+  process_ = win32::OwnedKernelObject(information.hProcess);
+  const win32::OwnedKernelObject thread(information.hThread);
 }
 
 Process::~Process() {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "tests/program/harness/handle.h"
 #include "tests/program/harness/wait.h"
+#include "win32/handles.h"
 
 namespace harness {
 
@@ -34,7 +34,7 @@ class Process {
 
  private:
   DWORD id_ = 0;
-  Handle process_;
+  win32::OwnedKernelObject process_;
 };
 
 /// The process that a window belongs to.

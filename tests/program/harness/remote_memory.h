@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-#include "tests/program/harness/handle.h"
+#include "win32/handles.h"
 
 namespace harness {
 
@@ -40,7 +40,7 @@ class RemoteMemory {
   void read(void* to, std::size_t size, std::size_t offset) const;
 
  private:
-  Handle process_;
+  win32::OwnedKernelObject process_;
   void* address_ = nullptr;
 };
 

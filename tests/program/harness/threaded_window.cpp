@@ -1,7 +1,7 @@
 #include "tests/program/harness/threaded_window.h"
 
-#include "tests/program/harness/handle.h"
 #include "tests/program/harness/wait.h"
+#include "win32/handles.h"
 
 namespace harness {
 namespace {
@@ -12,7 +12,7 @@ constexpr wchar_t kClassName[] = L"ThreadedWindow";
 
 ThreadedWindow::ThreadedWindow(Design design) : design_(std::move(design)) {
   LoadLibraryW(L"riched20.dll");
-  const Handle ready(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+  const win32::OwnedKernelObject ready(CreateEventW(nullptr, TRUE, FALSE, nullptr));
   thread_ = std::thread([this, event = ready.get()] { run(event); });
   WaitForSingleObject(ready.get(), kPatience);
 }

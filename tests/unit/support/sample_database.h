@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "data/connection_string.h"
 #include "data/data_control.h"
 #include "data/text_functions.h"
 #include "tests/unit/support/temp_folder.h"
@@ -52,8 +53,7 @@ inline void makeDatabase(const std::filesystem::path& file, const std::string& s
 
 /// The connection string for `file`, put together as the program does it.
 inline std::u16string connectionStringFor(const std::filesystem::path& file) {
-  return u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + file.u16string() +
-         u";Persist Security Info=False";
+  return data::connectionString(file.u16string());
 }
 
 /// A data control for `file` with the rows of `sql`.

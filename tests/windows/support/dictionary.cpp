@@ -1,7 +1,8 @@
 #include "tests/windows/support/dictionary.h"
+#include "data/connection_string.h"
 
-#include "app/process.h"
 #include "app/state.h"
+#include "win32/program.h"
 
 namespace wintest {
 namespace {
@@ -16,7 +17,7 @@ const support::SampleDictionary& sampleDictionary() {
 }
 
 std::filesystem::path besideProgram() {
-  return std::filesystem::path(app::applicationFolder()) / u"kk.dat";
+  return std::filesystem::path(win32::applicationFolder()) / u"kk.dat";
 }
 
 void writeDictionary() {
@@ -26,7 +27,7 @@ void writeDictionary() {
 }
 
 void useDictionary() {
-  user::ConnectionString = app::connectionString(app::applicationFolder());
+  user::ConnectionString = data::connectionString(win32::applicationFolder() + u"\\kk.dat");
   data::DataControl control;
   control.setConnectionString(user::ConnectionString);
   control.setRecordSource(u"select word from edictidx order by word");

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "app/process.h"
 #include "app/state.h"
 #include "capture/screen_word.h"
+#include "data/connection_string.h"
 #include "query/frm_main.h"
 #include "tests/program/harness/controls.h"
 #include "tests/windows/support/capture_state.h"
 #include "tests/windows/support/dictionary.h"
 #include "tests/windows/support/window_test.h"
+#include "win32/program.h"
 
 namespace wintest {
 
@@ -40,7 +41,7 @@ class QueryTest : public WindowTest {
  protected:
   explicit QueryTest(const std::string& changes = {})
       : dictionary_(subjectSql() + (changes.empty() ? "" : ";" + changes)) {
-    user::ConnectionString = app::connectionString(app::applicationFolder());
+    user::ConnectionString = data::connectionString(win32::applicationFolder() + u"\\kk.dat");
     user::MainOpen = false;
   }
   ~QueryTest() override {
@@ -117,7 +118,7 @@ class QueryTest : public WindowTest {
     ASSERT_EQ(seen.size(), 1U);
     EXPECT_EQ(seen[0].icon, Icon::error);
     EXPECT_EQ(seen[0].title, u"");
-    const std::u16string head = problem + u"\n" + app::applicationFolder() + u"\\kk.dat\n请";
+    const std::u16string head = problem + u"\n" + win32::applicationFolder() + u"\\kk.dat\n请";
     EXPECT_TRUE(seen[0].text.starts_with(head)) << text::toUtf8(seen[0].text);
     EXPECT_TRUE(seen[0].text.ends_with(u"。\n\n" + engineText)) << text::toUtf8(seen[0].text);
   }

@@ -8,10 +8,10 @@
 
 #include <memory>
 
-#include "app/process.h"
 #include "app/state.h"
 #include "tests/unit/support/temp_folder.h"
 #include "tests/windows/support/pump.h"
+#include "win32/program.h"
 
 namespace wintest {
 namespace {
@@ -25,10 +25,10 @@ std::u16string ownPath() {
 }
 
 /// The folder in which the browser and its record are.
-fs::path browserFolder() { return fs::path(app::applicationFolder()) / u"the browser"; }
+fs::path browserFolder() { return fs::path(win32::applicationFolder()) / u"the browser"; }
 
 /// A browser writes its record beside itself; all share one.
-fs::path record() { return fs::path(app::applicationFolder()) / u"started.txt"; }
+fs::path record() { return fs::path(win32::applicationFolder()) / u"started.txt"; }
 
 std::wstring firstArgument() {
   struct Freeing {
@@ -70,7 +70,7 @@ void useAsBrowser() {
   fs::remove(record());
   fs::create_directories(browserFolder());
   const fs::path browser = browserFolder() / u"browser.exe";
-  for (const fs::path& copy : {browser, fs::path(app::applicationFolder()) / u"the.exe"}) {
+  for (const fs::path& copy : {browser, fs::path(win32::applicationFolder()) / u"the.exe"}) {
     // One of this very program cannot be removed while it runs, and need not be.
     std::error_code ours;
     fs::remove(copy, ours);

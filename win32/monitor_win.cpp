@@ -1,6 +1,6 @@
-#include "forms/dpi.h"
+#include "win32/monitor.h"
 
-namespace forms {
+namespace win32 {
 namespace {
 
 Monitor describe(HMONITOR monitor) {
@@ -29,4 +29,4 @@ SIZE frameOf(DWORD style, DWORD exStyle, int dpi) {
   return {rect.right - rect.left, rect.bottom - rect.top};
 }
 
-}  // namespace forms
+}  // namespace win32

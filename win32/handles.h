@@ -3,9 +3,9 @@
 #include <type_traits>
 #include <utility>
 
-#include "forms/win32.h"
+#include "win32/win32.h"
 
-namespace forms {
+namespace win32 {
 
 /// Owns one system handle; `Close` is the call that gives it back.
 template <class Handle, auto Close>
@@ -49,4 +49,4 @@ using OwnedMenu = Owned<HMENU, closeMenu>;
 using OwnedMemory = Owned<HGLOBAL, freeMemory>;
 using OwnedKernelObject = Owned<HANDLE, closeKernelObject>;
 
-}  // namespace forms
+}  // namespace win32

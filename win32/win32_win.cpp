@@ -1,8 +1,11 @@
-#include "settings/ansi.h"
+#include "win32/win32.h"
 
-#include <windows.h>
+#include <array>
+#include <stdexcept>
 
-namespace user {
+#include "text/utf.h"
+
+namespace win32 {
 
 std::string toAnsi(std::u16string_view text) {
   const auto* units = reinterpret_cast<const wchar_t*>(text.data());
@@ -18,7 +21,17 @@ std::u16string fromAnsi(std::string_view text) {
   const int size = MultiByteToWideChar(CP_ACP, 0, text.data(), length, nullptr, 0);
   std::wstring units(static_cast<std::size_t>(size), L'\0');
   MultiByteToWideChar(CP_ACP, 0, text.data(), length, units.data(), size);
-  return {units.begin(), units.end()};
+  return fromWide(units);
 }
 
-}  // namespace user
+void throwLastError() {
+  const DWORD code = GetLastError();
+  std::array<wchar_t, 512> buffer{};
+  DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                                code, 0, buffer.data(), static_cast<DWORD>(buffer.size()), nullptr);
+  while (length > 0 && (buffer[length - 1] == L'\r' || buffer[length - 1] == L'\n')) --length;
+  const std::string text = text::toUtf8(fromWide({buffer.data(), length}));
+  throw std::runtime_error(text.empty() ? "Windows error " + std::to_string(code) : text);
+}
+
+}  // namespace win32

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// The running program and the programs it starts.
+namespace win32 {
+
+/// Returns whether this process is the first of the user's session to claim `name`, the name of a
+/// mutex. The claim is held until the process ends; only one name can be claimed.
+bool claimOnlyInstance(const wchar_t* name);
+
+/// Ends the process at once: no destructor of the caller's runs.
+[[noreturn]] void endProgram();
+
+/// Returns the folder of the program's file, without a trailing backslash.
+std::u16string applicationFolder();
+
+/// Starts the program file `path`, shown normally. Its command line is `path` in quotes, a blank
+/// and `arguments` as they stand. Throws std::runtime_error with the system's text where the
+/// program cannot be started.
+void startProgram(const std::u16string& path, std::u16string_view arguments);
+
+}  // namespace win32

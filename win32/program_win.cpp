@@ -1,0 +1,50 @@
+#include "win32/program.h"
+
+#include "win32/handles.h"
+
+namespace win32 {
+
+bool claimOnlyInstance(const wchar_t* name) {
+  // Deliberate: the mutex has no owner and is never closed, so that it lasts as long as the
+  // process.
+  static const bool first = [name] {
+    const HANDLE mutex = CreateMutexW(nullptr, FALSE, name);
+    const DWORD error = GetLastError();
+    return mutex != nullptr && error != ERROR_ALREADY_EXISTS;
+  }();
+  return first;
+}
+
+void endProgram() { ExitProcess(0); }
+
+std::u16string applicationFolder() {
+  std::wstring path(MAX_PATH, L'\0');
+  DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+  while (length == path.size()) {
+    path.resize(path.size() * 2);
+    length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+  }
+  path.resize(length);
+  const auto end = path.find_last_of(L'\\');
+  return fromWide(std::wstring_view(path).substr(0, end == std::wstring::npos ? 0 : end));
+}
+
+void startProgram(const std::u16string& path, std::u16string_view arguments) {
+  // Naming the program starts that file and no other, whatever lies at the parts of its path before
+  // a blank. The command line then reaches the child as it stands: the child takes what comes
+  // before the first unquoted blank for its own name, and the rest for its arguments.
+  std::u16string commandLine = u'"' + path + u"\" " + std::u16string(arguments);
+  STARTUPINFOW startup{};
+  startup.cb = sizeof startup;
+  startup.dwFlags = STARTF_USESHOWWINDOW;
+  startup.wShowWindow = SW_SHOWNORMAL;
+  PROCESS_INFORMATION process{};
+  if (!CreateProcessW(wide(path), reinterpret_cast<wchar_t*>(commandLine.data()), nullptr, nullptr,
+                      FALSE, 0, nullptr, nullptr, &startup, &process)) {
+    throwLastError();
+  }
+  const OwnedKernelObject processHandle(process.hProcess);
+  const OwnedKernelObject threadHandle(process.hThread);
+}
+
+}  // namespace win32
