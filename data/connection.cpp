@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "data/dialect/sql_tokens.h"
 #include "data/error.h"
-#include "data/sql_tokens.h"
 #include "data/text_functions.h"
 
 namespace data {

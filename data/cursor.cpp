@@ -6,9 +6,9 @@
 #include <limits>
 #include <utility>
 
+#include "data/dialect/sql_tokens.h"
 #include "data/error.h"
 #include "data/row_writer.h"
-#include "data/sql_tokens.h"
 #include "text/utf.h"
 
 namespace data {

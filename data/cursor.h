@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "data/database.h"
-#include "data/dialect.h"
+#include "data/dialect/dialect.h"
 #include "data/record_set.h"
 
 namespace data {

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "data/connection.h"
-#include "data/sql_tokens.h"
+#include "data/dialect/sql_tokens.h"
 
 namespace data {
 namespace {

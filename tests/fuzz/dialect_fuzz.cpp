@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "data/connection_string.h"
-#include "data/dialect.h"
-#include "data/sql_tokens.h"
+#include "data/dialect/dialect.h"
+#include "data/dialect/sql_tokens.h"
 #include "tests/fuzz/fuzz_input.h"
 #include "text/utf.h"
 

@@ -1,4 +1,4 @@
-#include "data/dialect.h"
+#include "data/dialect/dialect.h"
 
 #include <gtest/gtest.h>
 

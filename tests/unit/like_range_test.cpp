@@ -1,4 +1,4 @@
-#include "data/like_range.h"
+#include "data/dialect/like_range.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "data/sql_tokens.h"
+#include "data/dialect/sql_tokens.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
-#include "data/dialect.h"
+#include "data/dialect/dialect.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <vector>
 
-#include "data/like_range.h"
-#include "data/sql_tokens.h"
+#include "data/dialect/like_range.h"
+#include "data/dialect/sql_tokens.h"
 
 namespace data {
 namespace {
