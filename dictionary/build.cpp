@@ -5,18 +5,18 @@
 #include <string>
 #include <utility>
 
-#include "dictionary/block_choice.h"
+#include "dictionary/arrange/block_choice.h"
+#include "dictionary/arrange/pair_collector.h"
+#include "dictionary/arrange/subject_collector.h"
 #include "dictionary/build_report.h"
-#include "dictionary/database_writer.h"
+#include "dictionary/database/database_writer.h"
+#include "dictionary/database/install.h"
 #include "dictionary/failure.h"
-#include "dictionary/install.h"
 #include "dictionary/line_ranges.h"
-#include "dictionary/pair_collector.h"
 #include "dictionary/paths.h"
 #include "dictionary/peak_memory.h"
 #include "dictionary/progress.h"
-#include "dictionary/source_reader.h"
-#include "dictionary/subject_collector.h"
+#include "dictionary/source/source_reader.h"
 
 namespace dictionary {
 namespace {

@@ -5,9 +5,9 @@
 #include <map>
 #include <ostream>
 
-#include "dictionary/csv_line.h"
-#include "dictionary/database_writer.h"
-#include "dictionary/entry.h"
+#include "dictionary/database/database_writer.h"
+#include "dictionary/source/csv_line.h"
+#include "dictionary/translation/entry.h"
 
 namespace dictionary {
 

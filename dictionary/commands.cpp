@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "dictionary/build.h"
-#include "dictionary/check.h"
+#include "dictionary/check/check.h"
 #include "dictionary/paths.h"
 #include "dictionary/progress.h"
 #include "dictionary/word_lookup.h"

@@ -4,12 +4,12 @@
 #include <sstream>
 #include <string>
 
-#include "dictionary/characters.h"
-#include "dictionary/check_text.h"
-#include "dictionary/entry.h"
-#include "dictionary/pair_collector.h"
-#include "dictionary/source_reader.h"
-#include "dictionary/subject_collector.h"
+#include "dictionary/arrange/pair_collector.h"
+#include "dictionary/arrange/subject_collector.h"
+#include "dictionary/check/check_text.h"
+#include "dictionary/source/source_reader.h"
+#include "dictionary/translation/characters.h"
+#include "dictionary/translation/entry.h"
 #include "tests/fuzz/fuzz_input.h"
 
 namespace {

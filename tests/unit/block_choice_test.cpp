@@ -1,4 +1,4 @@
-#include "dictionary/block_choice.h"
+#include "dictionary/arrange/block_choice.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "dictionary/block_cuts.h"
+#include "dictionary/arrange/block_cuts.h"
 
 #include <gtest/gtest.h>
 

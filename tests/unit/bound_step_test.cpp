@@ -1,4 +1,4 @@
-#include "dictionary/bound_step.h"
+#include "dictionary/check/bound_step.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "dictionary/csv_line.h"
+#include "dictionary/source/csv_line.h"
 
 #include <gtest/gtest.h>
 

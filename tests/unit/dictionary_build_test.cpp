@@ -7,9 +7,9 @@
 #include <sstream>
 #include <string>
 
-#include "dictionary/check.h"
+#include "dictionary/check/check.h"
+#include "dictionary/database/install.h"
 #include "dictionary/failure.h"
-#include "dictionary/install.h"
 #include "tests/unit/support/sample_database.h"
 #include "tests/unit/support/small_dictionary.h"
 #include "tests/unit/support/temp_folder.h"

@@ -1,4 +1,4 @@
-#include "dictionary/check.h"
+#include "dictionary/check/check.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/check_general.h"
+#include "dictionary/check/check_general.h"
 #include "dictionary/failure.h"
 #include "tests/unit/support/sample_database.h"
 #include "tests/unit/support/small_dictionary.h"

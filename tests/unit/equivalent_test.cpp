@@ -1,11 +1,11 @@
-#include "dictionary/equivalent.h"
+#include "dictionary/translation/equivalent.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "dictionary/explanation.h"
-#include "dictionary/name_piece.h"
+#include "dictionary/translation/explanation.h"
+#include "dictionary/translation/name_piece.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "dictionary/pair_collector.h"
+#include "dictionary/arrange/pair_collector.h"
 
 #include <gtest/gtest.h>
 
@@ -6,9 +6,9 @@
 #include <utility>
 #include <vector>
 
-#include "dictionary/entry.h"
-#include "dictionary/general_dictionary.h"
-#include "dictionary/subject_collector.h"
+#include "dictionary/arrange/general_dictionary.h"
+#include "dictionary/arrange/subject_collector.h"
+#include "dictionary/translation/entry.h"
 
 namespace {
 

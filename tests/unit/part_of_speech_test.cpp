@@ -1,4 +1,4 @@
-#include "dictionary/part_of_speech.h"
+#include "dictionary/translation/part_of_speech.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
-#include "dictionary/pieces.h"
+#include "dictionary/translation/pieces.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "dictionary/brackets.h"
+#include "dictionary/translation/brackets.h"
 
 namespace {
 

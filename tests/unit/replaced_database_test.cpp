@@ -5,9 +5,9 @@
 #include <string>
 
 #include "dictionary/build.h"
-#include "dictionary/check.h"
+#include "dictionary/check/check.h"
+#include "dictionary/database/temporary_file.h"
 #include "dictionary/failure.h"
-#include "dictionary/temporary_file.h"
 #include "tests/unit/support/file_layer.h"
 #include "tests/unit/support/plain_read.h"
 #include "tests/unit/support/small_dictionary.h"

@@ -1,4 +1,4 @@
-#include "dictionary/row_exchange.h"
+#include "dictionary/arrange/row_exchange.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "dictionary/source_reader.h"
+#include "dictionary/source/source_reader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
-#include "dictionary/source_text.h"
+#include "dictionary/source/source_text.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "dictionary/markup.h"
-#include "dictionary/stand_ins.h"
+#include "dictionary/source/markup.h"
+#include "dictionary/source/stand_ins.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "dictionary/schema.h"
+#include "dictionary/database/schema.h"
 #include "query/query_sql.h"
 #include "tests/unit/random_text.h"
 #include "tests/unit/support/sample_database.h"

@@ -1,12 +1,12 @@
-#include "dictionary/translation_line.h"
+#include "dictionary/translation/translation_line.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "dictionary/line_head.h"
-#include "dictionary/markup.h"
+#include "dictionary/source/markup.h"
+#include "dictionary/translation/line_head.h"
 
 namespace {
 

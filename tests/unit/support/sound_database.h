@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "dictionary/check.h"
+#include "dictionary/check/check.h"
 
 namespace support {
 

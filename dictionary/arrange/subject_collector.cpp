@@ -1,0 +1,60 @@
+#include "dictionary/arrange/subject_collector.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "text/order.h"
+
+namespace dictionary {
+namespace {
+
+/// The entry's lines for the subject, each once, parted by semicolons.
+std::u16string meaningOf(const Entry& entry, Subject subject) {
+  std::u16string meaning;
+  std::vector<std::u16string> texts;
+  for (const TranslationLine& line : entry.lines) {
+    std::u16string text = subjectText(line, subject);
+    if (text.empty() || std::ranges::find(texts, text) != texts.end()) continue;
+    if (!meaning.empty()) meaning += u'；';
+    meaning += text;
+    texts.push_back(std::move(text));
+  }
+  return meaning;
+}
+
+/// Makes one row of rows whose headwords are equal.
+void mergeEqual(std::vector<SubjectRow>& rows) {
+  std::vector<SubjectRow> merged;
+  merged.reserve(rows.size());
+  for (SubjectRow& row : rows) {
+    if (!merged.empty() && text::equal(merged.back().word, row.word)) {
+      merged.back().meaning += u'；';
+      merged.back().meaning += row.meaning;
+    } else {
+      merged.push_back(std::move(row));
+    }
+  }
+  rows = std::move(merged);
+}
+
+}  // namespace
+
+void SubjectCollector::add(const Entry& entry) {
+  for (std::size_t i = 0; i < kSubjectCount; ++i) {
+    std::u16string meaning = meaningOf(entry, static_cast<Subject>(i));
+    if (!meaning.empty()) tables_[i].push_back({entry.headword, std::move(meaning)});
+  }
+}
+
+SubjectTables SubjectCollector::finish() && {
+  for (std::vector<SubjectRow>& rows : tables_) {
+    std::ranges::stable_sort(rows, [](const SubjectRow& a, const SubjectRow& b) {
+      return text::compare(a.word, b.word) < 0;
+    });
+    mergeEqual(rows);
+  }
+  return std::move(tables_);
+}
+
+}  // namespace dictionary

@@ -1,0 +1,125 @@
+#include "dictionary/check/check_general.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "dictionary/arrange/lookup_limits.h"
+#include "dictionary/check/check_text.h"
+#include "text/order.h"
+#include "text/utf.h"
+
+namespace dictionary {
+namespace {
+
+constexpr char16_t kFirstChinese = 0x100;
+
+void checkOrder(const char* name, const HeadwordTable& table, Findings& findings) {
+  for (std::size_t row = 1; row < table.words.size(); ++row) {
+    const int compared = text::compare(table.words[row - 1], table.words[row]);
+    if (compared > 0) {
+      findings.add(Rule::kOrder, rowName(name, row, table.words[row]) + " comes behind «" +
+                                     text::toUtf8(table.words[row - 1]) + "»");
+    } else if (compared == 0 && table.words[row - 1] != table.words[row]) {
+      findings.add(Rule::kSpelling, rowName(name, row, table.words[row]) + " after «" +
+                                        text::toUtf8(table.words[row - 1]) + "»");
+    }
+  }
+}
+
+void checkLinks(const char* name, const HeadwordTable& from, const HeadwordTable& to,
+                Findings& findings) {
+  for (std::size_t row = 0; row < from.links.size(); ++row) {
+    const std::int64_t link = from.links[row];
+    const bool inside = link >= 1 && link <= static_cast<std::int64_t>(to.links.size());
+    if (!inside ||
+        to.links[static_cast<std::size_t>(link - 1)] != static_cast<std::int64_t>(row + 1)) {
+      findings.add(Rule::kLinks, rowName(name, row, from.words[row]) + " links to row " +
+                                     std::to_string(link) + ", which does not link back");
+    }
+  }
+}
+
+/// Two rows of one English headword must not link to the same Chinese headword.
+void checkDistinctPairs(const GeneralTables& tables, Findings& findings) {
+  for (const HeadwordRun& run : headwordRuns(tables.edict)) {
+    std::vector<std::u16string> equivalents;
+    for (std::size_t row = run.first; row < run.end; ++row) {
+      const auto link = static_cast<std::size_t>(tables.edict.links[row] - 1);
+      if (link < tables.cdict.words.size()) {
+        equivalents.push_back(text::toLower(tables.cdict.words[link]));
+      }
+    }
+    std::ranges::sort(equivalents);
+    const auto repeated = std::ranges::adjacent_find(equivalents);
+    if (repeated != equivalents.end()) {
+      findings.add(Rule::kDistinctPairs, "«" + text::toUtf8(tables.edict.words[run.first]) +
+                                             "» has «" + text::toUtf8(*repeated) + "» twice");
+    }
+  }
+}
+
+void checkIndex(Rule rule, const char* name, const std::vector<std::u16string>& index,
+                const HeadwordTable& table, Findings& findings) {
+  const std::size_t step = LookupLimits().blockRows;
+  if (index.size() != table.words.size() / step) {
+    findings.add(rule, std::string("[") + name + "] has " + std::to_string(index.size()) +
+                           " rows for " + std::to_string(table.words.size()) + " headword rows");
+  }
+  for (std::size_t k = 0; k < index.size() && (k + 1) * step <= table.words.size(); ++k) {
+    const std::u16string& word = table.words[(k + 1) * step - 1];
+    if (index[k] != word) {
+      findings.add(rule, rowName(name, k, index[k]) + " should be «" + text::toUtf8(word) + "»");
+    }
+  }
+}
+
+void checkIndexOrder(const HeadwordTable& edict, Findings& findings) {
+  for (std::size_t row = 1; row < edict.words.size(); ++row) {
+    if (text::toLower(edict.words[row - 1]) > text::toLower(edict.words[row])) {
+      findings.add(Rule::kIndexOrder, rowName("edict", row, edict.words[row]) + " comes behind «" +
+                                          text::toUtf8(edict.words[row - 1]) + "»");
+    }
+  }
+}
+
+void checkHeadwordTexts(const char* name, const HeadwordTable& table, bool chinese,
+                        Findings& findings) {
+  for (const HeadwordRun& run : headwordRuns(table)) {
+    const std::u16string& word = table.words[run.first];
+    const std::string place = rowName(name, run.first, word);
+    const bool isChinese =
+        std::ranges::any_of(word, [](char16_t unit) { return unit >= kFirstChinese; });
+    if (isChinese != chinese) {
+      findings.add(chinese ? Rule::kChineseHeadwords : Rule::kEnglishHeadwords, place);
+    }
+    checkSearchable(word, place, findings);
+    checkText(word, place, findings);
+  }
+}
+
+}  // namespace
+
+void checkRowCounts(std::size_t english, std::size_t chinese, Findings& findings) {
+  const LookupLimits limits;
+  if (english != chinese || english == 0 || english % limits.blockRows != 0 ||
+      english > limits.maxRows) {
+    findings.add(Rule::kRowCount, "[edict] has " + std::to_string(english) + " rows, [cdict] " +
+                                      std::to_string(chinese));
+  }
+}
+
+void checkGeneral(const GeneralTables& tables, Findings& findings) {
+  checkRowCounts(tables.edict.words.size(), tables.cdict.words.size(), findings);
+  checkOrder("edict", tables.edict, findings);
+  checkOrder("cdict", tables.cdict, findings);
+  checkLinks("edict", tables.edict, tables.cdict, findings);
+  checkLinks("cdict", tables.cdict, tables.edict, findings);
+  checkDistinctPairs(tables, findings);
+  checkIndex(Rule::kEnglishIndex, "edictidx", tables.englishIndex, tables.edict, findings);
+  checkIndex(Rule::kChineseIndex, "cdictidx", tables.chineseIndex, tables.cdict, findings);
+  checkIndexOrder(tables.edict, findings);
+  checkHeadwordTexts("edict", tables.edict, false, findings);
+  checkHeadwordTexts("cdict", tables.cdict, true, findings);
+}
+
+}  // namespace dictionary

@@ -1,0 +1,169 @@
+#include "dictionary/check/check_schema.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <string_view>
+#include <utility>
+
+#include "data/text_functions.h"
+#include "dictionary/database/table.h"
+
+namespace dictionary {
+namespace {
+
+struct Column {
+  std::string_view name;
+  bool isText;
+};
+
+/// A column of the catalogue, which has others besides.
+struct CatalogueColumn {
+  int place;
+  Column column;
+};
+
+struct Table {
+  std::string_view name;
+  std::span<const Column> columns;
+};
+
+constexpr std::array kEdict = {Column{"eid", false}, Column{"word", true}, Column{"cid", false}};
+constexpr std::array kCdict = {Column{"cid", false}, Column{"word", true}, Column{"eid", false}};
+constexpr std::array kEdictIdx = {Column{"word", true}};
+constexpr std::array kCdictIdx = {Column{"word", true}, Column{"id", false}};
+constexpr std::array kCatalogueColumns = {CatalogueColumn{1, {"TableName", true}},
+                                          CatalogueColumn{2, {"Cname", true}},
+                                          CatalogueColumn{4, {"default", false}}};
+/// Its place is free: it is read by its name only.
+constexpr Column kIsshow = {kIsshowName, false};
+constexpr std::array kSubject = {Column{"word", true}, Column{"meaning", true}};
+
+constexpr std::array kTables = {Table{"edict", kEdict}, Table{"cdict", kCdict},
+                                Table{"edictidx", kEdictIdx}, Table{"cdictidx", kCdictIdx}};
+constexpr std::string_view kCatalogue = "Index";
+
+bool hasRightType(sqlite3* connection, const std::string& table, const std::string& name,
+                  bool isText) {
+  const char* type = nullptr;
+  const char* collation = nullptr;
+  const int result = sqlite3_table_column_metadata(connection, nullptr, table.c_str(), name.c_str(),
+                                                   &type, &collation, nullptr, nullptr, nullptr);
+  if (result != SQLITE_OK || type == nullptr || collation == nullptr) return false;
+  if (!isText) return sqlite3_stricmp(type, "integer") == 0;
+  return sqlite3_stricmp(type, "text") == 0 && sqlite3_stricmp(collation, data::kTextOrder) == 0;
+}
+
+/// A column as it stands in the file.
+struct FoundColumn {
+  int place;
+  std::string name;
+};
+
+bool checkColumn(sqlite3* connection, const std::string& table, const FoundColumn& found,
+                 const Column& wanted, Findings& findings) {
+  std::string example = "[" + table + "] column " + std::to_string(found.place) + ", ";
+  example += found.name;
+  if (sqlite3_stricmp(found.name.c_str(), std::string(wanted.name).c_str()) != 0) {
+    example += ", should be ";
+    example += wanted.name;
+  } else if (!hasRightType(connection, table, found.name, wanted.isText)) {
+    example += ", is not declared as ";
+    example += wanted.isText ? "text collate lexilo" : "integer";
+  } else {
+    return true;
+  }
+  findings.add(Rule::kColumns, std::move(example));
+  return false;
+}
+
+bool checkColumns(sqlite3* connection, const std::string& table, std::span<const Column> columns,
+                  Findings& findings) {
+  const RowReader reader(connection, "select * from [" + table + "]");
+  if (reader.columnCount() != static_cast<int>(columns.size())) {
+    findings.add(Rule::kColumns, "[" + table + "] has " + std::to_string(reader.columnCount()) +
+                                     " columns instead of " + std::to_string(columns.size()));
+    return false;
+  }
+  bool right = true;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    const std::string name = reader.columnName(static_cast<int>(i));
+    right =
+        checkColumn(connection, table, {static_cast<int>(i), name}, columns[i], findings) && right;
+  }
+  return right;
+}
+
+bool checkCatalogueColumns(sqlite3* connection, Findings& findings) {
+  const std::string table(kCatalogue);
+  const RowReader reader(connection, "select * from [" + table + "]");
+  bool right = true;
+  for (const auto& [place, column] : kCatalogueColumns) {
+    // Behind the last column there is none, whose name is "".
+    const std::string name = place < reader.columnCount() ? reader.columnName(place) : "";
+    right = checkColumn(connection, table, {place, name}, column, findings) && right;
+  }
+  const int place = findColumn(reader, kIsshow.name);
+  if (place < 0) {
+    findings.add(Rule::kColumns, "[" + table + "] has no column " + std::string(kIsshow.name));
+    return false;
+  }
+  return checkColumn(connection, table, {place, reader.columnName(place)}, kIsshow, findings) &&
+         right;
+}
+
+bool checkUndamaged(sqlite3* connection, Findings& findings) {
+  bool undamaged = true;
+  RowReader reader(connection, "pragma quick_check(5)");
+  while (reader.next()) {
+    if (reader.text(0) == "ok") continue;
+    findings.add(Rule::kUndamaged, std::string(reader.text(0)));
+    undamaged = false;
+  }
+  return undamaged;
+}
+
+}  // namespace
+
+int findColumn(const RowReader& reader, std::string_view name) {
+  const std::string wanted(name);
+  for (int column = 0; column < reader.columnCount(); ++column) {
+    if (sqlite3_stricmp(reader.columnName(column).c_str(), wanted.c_str()) == 0) return column;
+  }
+  return -1;
+}
+
+std::vector<std::string> tableNames(sqlite3* connection) {
+  std::vector<std::string> names;
+  RowReader reader(connection,
+                   "select name from sqlite_schema where type in ('table', 'view') order by name");
+  while (reader.next()) names.emplace_back(reader.text(0));
+  return names;
+}
+
+bool checkFixedTables(sqlite3* connection, Findings& findings) {
+  if (!checkUndamaged(connection, findings)) return false;
+  const std::vector<std::string> names = tableNames(connection);
+  const auto isPresent = [&](std::string_view table) {
+    const std::string wanted(table);
+    const bool present = std::ranges::any_of(names, [&](const std::string& name) {
+      return sqlite3_stricmp(name.c_str(), wanted.c_str()) == 0;
+    });
+    if (!present) findings.add(Rule::kTables, "there is no table [" + wanted + "]");
+    return present;
+  };
+  bool right = isPresent(kCatalogue) && checkCatalogueColumns(connection, findings);
+  for (const Table& table : kTables) {
+    right = isPresent(table.name) &&
+            checkColumns(connection, std::string(table.name), table.columns, findings) && right;
+  }
+  return right;
+}
+
+bool checkSubjectTable(sqlite3* connection, const std::string& table, Findings& findings) {
+  return checkColumns(connection, table, kSubject, findings);
+}
+
+}  // namespace dictionary

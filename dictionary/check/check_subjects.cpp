@@ -1,0 +1,157 @@
+#include "dictionary/check/check_subjects.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "dictionary/check/check_schema.h"
+#include "dictionary/check/check_text.h"
+#include "dictionary/database/schema.h"
+#include "dictionary/database/table.h"
+#include "dictionary/source/csv_line.h"
+#include "dictionary/translation/characters.h"
+#include "text/order.h"
+#include "text/utf.h"
+
+namespace dictionary {
+namespace {
+
+bool sameName(const std::string& a, std::string_view b) {
+  return sqlite3_stricmp(a.c_str(), std::string(b).c_str()) == 0;
+}
+
+bool isKnown(const std::vector<std::string>& names, std::string_view name) {
+  return std::ranges::any_of(names,
+                             [&](const std::string& known) { return sameName(known, name); });
+}
+
+/// Table names stand unquoted in SQL texts.
+bool isPlainName(const std::string& name) {
+  const auto isLetterOrDigit = [](char byte) {
+    const auto unit = static_cast<char16_t>(static_cast<unsigned char>(byte));
+    return isAsciiLetter(unit) || isDigit(unit);
+  };
+  return !name.empty() && !isDigit(static_cast<unsigned char>(name.front())) &&
+         std::ranges::all_of(name, isLetterOrDigit) &&
+         sqlite3_keyword_check(name.data(), static_cast<int>(name.size())) == 0 &&
+         std::ranges::none_of(kFixedTables,
+                              [&](std::string_view fixed) { return sameName(name, fixed); });
+}
+
+/// One reading of the catalogue: what it has named so far.
+class Catalogue {
+ public:
+  /// `isshow` is the place of that column.
+  Catalogue(int isshow, Findings& findings) : isshow_(isshow), findings_(findings) {}
+
+  void addRow(const RowReader& reader);
+  void finish();
+
+  [[nodiscard]] const std::vector<std::string>& tables() const { return tables_; }
+
+ private:
+  void checkName(const RowReader& reader, const std::string& table);
+  void checkFlags(const RowReader& reader, const std::string& table);
+
+  int isshow_;
+  Findings& findings_;
+  std::vector<std::string> tables_;
+  std::vector<std::u16string> names_;
+  std::size_t defaults_ = 0;
+};
+
+void Catalogue::addRow(const RowReader& reader) {
+  const std::string table(reader.text(1));
+  if (!isPlainName(table) || isKnown(tables_, table)) {
+    findings_.add(Rule::kCatalogueTables, "table name «" + table + "»");
+  } else {
+    tables_.push_back(table);
+  }
+  checkName(reader, table);
+  checkFlags(reader, table);
+}
+
+void Catalogue::checkName(const RowReader& reader, const std::string& table) {
+  const std::u16string name = text::toUtf16(reader.text(2));
+  const bool repeated = std::ranges::any_of(
+      names_, [&](const std::u16string& other) { return text::equal(other, name); });
+  if (repeated || std::ranges::none_of(name, isHan)) {
+    findings_.add(Rule::kCatalogueNames, "[" + table + "] is called «" + text::toUtf8(name) + "»");
+  }
+  checkText(name, "the name of [" + table + "]", findings_);
+  names_.push_back(name);
+}
+
+void Catalogue::checkFlags(const RowReader& reader, const std::string& table) {
+  const bool isDefault = reader.number(4) == 1;
+  if (!reader.isInteger(isshow_) || !reader.isInteger(4) || (!isDefault && reader.number(4) != 0)) {
+    findings_.add(Rule::kCatalogueFlags, "[" + table + "] has Isshow " +
+                                             std::string(reader.text(isshow_)) + " and default " +
+                                             std::string(reader.text(4)));
+  }
+  if (!isDefault) return;
+  ++defaults_;
+  if (reader.number(isshow_) != 1)
+    findings_.add(Rule::kCatalogueDefault, "[" + table + "] is hidden");
+}
+
+void Catalogue::finish() {
+  if (defaults_ != 1) {
+    findings_.add(Rule::kCatalogueDefault, std::to_string(defaults_) + " dictionaries are default");
+  }
+}
+
+void checkRows(sqlite3* connection, const std::string& table, CheckResult& result) {
+  Findings& findings = result.findings;
+  std::size_t rows = 0;
+  std::u16string before;
+  RowReader reader(connection, "select * from [" + table + "]");
+  while (reader.next()) {
+    const bool texts = reader.isText(0) && reader.isText(1);
+    const std::u16string word = text::toUtf16(reader.text(0));
+    const std::u16string meaning = text::toUtf16(reader.text(1));
+    const std::string place = "[" + table + "] «" + text::toUtf8(word) + "»";
+    if (!texts || !isUtf8(reader.text(0)) || !isUtf8(reader.text(1))) {
+      findings.add(Rule::kValues, place);
+    }
+    if (word.empty() || meaning.empty()) findings.add(Rule::kSubjectRows, place + " lacks a text");
+    if (rows > 0 && text::compare(before, word) >= 0) findings.add(Rule::kSubjectOrder, place);
+    checkSearchable(word, place, findings);
+    checkText(word, place, findings);
+    checkText(meaning, place, findings);
+    before = word;
+    ++rows;
+  }
+  if (rows == 0) findings.add(Rule::kSubjectRows, "[" + table + "] is empty");
+  result.subjectRows += rows;
+}
+
+}  // namespace
+
+void checkSubjects(sqlite3* connection, CheckResult& result) {
+  RowReader reader(connection, "select * from [Index]");
+  Catalogue catalogue(findColumn(reader, kIsshowName), result.findings);
+  while (reader.next()) catalogue.addRow(reader);
+  catalogue.finish();
+
+  const std::vector<std::string> present = tableNames(connection);
+  for (const std::string& table : catalogue.tables()) {
+    if (!isKnown(present, table)) {
+      result.findings.add(Rule::kTables, "there is no table [" + table + "]");
+    } else if (checkSubjectTable(connection, table, result.findings)) {
+      checkRows(connection, table, result);
+    }
+  }
+  result.dictionaries = catalogue.tables().size();
+  for (const std::string& table : present) {
+    const bool fixed = std::ranges::any_of(
+        kFixedTables, [&](std::string_view name) { return sameName(table, name); });
+    if (!fixed && !isKnown(catalogue.tables(), table)) {
+      result.findings.add(Rule::kTables, "[" + table + "] is not in the catalogue");
+    }
+  }
+}
+
+}  // namespace dictionary

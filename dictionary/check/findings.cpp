@@ -1,0 +1,93 @@
+#include "dictionary/check/findings.h"
+
+#include <algorithm>
+
+#include "dictionary/progress.h"
+
+namespace dictionary {
+
+std::string_view describe(Rule rule) {
+  switch (rule) {
+    case Rule::kUndamaged:
+      return "the file is undamaged";
+    case Rule::kTables:
+      return "the database has the fixed tables, those of its catalogue, and no others";
+    case Rule::kColumns:
+      return "every table has its columns, in their order, of their type and text order";
+    case Rule::kValues:
+      return "numbers are 32-bit integers and texts are UTF-8 and not empty";
+    case Rule::kRowNumbers:
+      return "row numbers run from 1 upward without gaps";
+    case Rule::kOrder:
+      return "headwords ascend in the text order";
+    case Rule::kSpelling:
+      return "all rows of a headword spell it alike";
+    case Rule::kRowCount:
+      return "[edict] and [cdict] have the same number of rows, a multiple of 100 and at most "
+             "1,060,000";
+    case Rule::kLinks:
+      return "every row links to a row of the other table that links back";
+    case Rule::kDistinctPairs:
+      return "no pair of words occurs twice";
+    case Rule::kEnglishIndex:
+      return "row k of [edictidx] is the headword of [edict] row 100 k";
+    case Rule::kChineseIndex:
+      return "row k of [cdictidx] is number k and the headword of [cdict] row 100 k";
+    case Rule::kEnglishHeadwords:
+      return "English headwords have only characters below U+0100";
+    case Rule::kChineseHeadwords:
+      return "Chinese headwords have a character from U+0100 upward";
+    case Rule::kSearchable:
+      return "no headword holds a wildcard (% _) or a character beyond U+FFFF";
+    case Rule::kCharacters:
+      return "no text holds controls, invisible or uncomposed marks, box drawing, private-use or "
+             "compatibility characters, characters beyond U+FFFF, specials or noncharacters";
+    case Rule::kMarkup:
+      return "no text holds tags or entity codes";
+    case Rule::kIndexOrder:
+      return "English headwords ascend by the code units of their lower case";
+    case Rule::kEnglishReach:
+      return "an English headword typed in full finds all its rows";
+    case Rule::kApostropheReach:
+      return "an English headword with an apostrophe, which is doubled, finds all its rows";
+    case Rule::kChineseReach:
+      return "a Chinese headword typed in full finds all its rows";
+    case Rule::kCatalogueTables:
+      return "the catalogue names each table once, by ASCII letters and digits and no word of SQL";
+    case Rule::kCatalogueNames:
+      return "the catalogue gives every dictionary a Chinese name of its own";
+    case Rule::kCatalogueFlags:
+      return "Isshow is a number, default is 0 or 1";
+    case Rule::kCatalogueDefault:
+      return "exactly one dictionary is the default, and it is shown";
+    case Rule::kSubjectRows:
+      return "a subject dictionary has rows, each with a headword and a meaning";
+    case Rule::kSubjectOrder:
+      return "a subject dictionary has its headwords in the text order, each once";
+    case Rule::kCount:
+      break;
+  }
+  return "";
+}
+
+void Findings::add(Rule rule, std::string example) {
+  Breaches& breaches = breaches_[static_cast<std::size_t>(rule)];
+  ++breaches.count;
+  if (breaches.examples.size() < kMaxExamples) breaches.examples.push_back(std::move(example));
+}
+
+bool Findings::empty() const {
+  return std::ranges::all_of(breaches_,
+                             [](const Breaches& breaches) { return breaches.count == 0; });
+}
+
+void Findings::print(std::ostream& out) const {
+  for (std::size_t i = 0; i < breaches_.size(); ++i) {
+    if (breaches_[i].count == 0) continue;
+    out << "broken " << grouped(breaches_[i].count) << " times: " << describe(static_cast<Rule>(i))
+        << '\n';
+    for (const std::string& example : breaches_[i].examples) out << "    " << example << '\n';
+  }
+}
+
+}  // namespace dictionary

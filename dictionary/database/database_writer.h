@@ -1,0 +1,22 @@
+#pragma once
+
+#include <filesystem>
+
+#include "dictionary/arrange/general_dictionary.h"
+#include "dictionary/arrange/subject_collector.h"
+#include "dictionary/arrange/vocabulary.h"
+
+namespace dictionary {
+
+/// Everything that a dictionary database holds.
+struct DatabaseContent {
+  Vocabulary vocabulary;
+  GeneralDictionary general;
+  SubjectTables subjects;
+};
+
+/// Writes a new database file in the place of `file`: the same bytes for the same content. Subject
+/// dictionaries without rows are left out. Throws Failure; the file is incomplete then.
+void writeDatabase(const DatabaseContent& content, const std::filesystem::path& file);
+
+}  // namespace dictionary

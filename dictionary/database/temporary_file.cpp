@@ -1,0 +1,87 @@
+#include "dictionary/database/temporary_file.h"
+
+#include <array>
+#include <system_error>
+
+#include "dictionary/failure.h"
+#include "dictionary/paths.h"
+
+namespace dictionary {
+namespace {
+
+/// What SQLite keeps beside a database and leaves there when its writer is killed.
+constexpr std::array kCompanions = {"-journal", "-wal", "-shm"};
+
+std::filesystem::path with(std::filesystem::path path, const char* ending) {
+  path += ending;
+  return path;
+}
+
+[[noreturn]] void fail(const std::filesystem::path& target, const std::error_code& error) {
+  throw Failure("cannot replace " + displayName(target) + ": " + error.message());
+}
+
+/// Keeps what belongs to the old database away from the new one, into which it would be rolled
+/// back. It is deleted once the old database is gone and returns to it as long as it is not.
+class CompanionsAside {
+ public:
+  explicit CompanionsAside(const std::filesystem::path& target)
+      : target_(target), aside_(with(target, ".old")) {
+    for (const char* ending : kCompanions) {
+      if (const std::error_code error = move(target_, aside_, ending)) {
+        putBack();
+        fail(target, error);
+      }
+    }
+  }
+  CompanionsAside(const CompanionsAside&) = delete;
+  CompanionsAside& operator=(const CompanionsAside&) = delete;
+  ~CompanionsAside() { replaced_ ? remove() : putBack(); }
+
+  void setReplaced() { replaced_ = true; }
+
+ private:
+  static std::error_code move(const std::filesystem::path& from, const std::filesystem::path& to,
+                              const char* ending) {
+    std::error_code error;
+    if (!std::filesystem::exists(with(from, ending), error)) return {};
+    std::filesystem::rename(with(from, ending), with(to, ending), error);
+    return error;
+  }
+
+  void putBack() const {
+    for (const char* ending : kCompanions) move(aside_, target_, ending);
+  }
+
+  void remove() const {
+    for (const char* ending : kCompanions) {
+      std::error_code ignored;
+      std::filesystem::remove(with(aside_, ending), ignored);
+    }
+  }
+
+  std::filesystem::path target_;
+  std::filesystem::path aside_;
+  bool replaced_ = false;
+};
+
+}  // namespace
+
+TemporaryFile::TemporaryFile(const std::filesystem::path& target) : path_(target) {
+  path_ += ".new";
+}
+
+TemporaryFile::~TemporaryFile() {
+  std::error_code ignored;
+  std::filesystem::remove(path_, ignored);
+}
+
+void TemporaryFile::replace(const std::filesystem::path& target) const {
+  CompanionsAside companions(target);
+  std::error_code error;
+  std::filesystem::rename(path_, target, error);
+  if (error) fail(target, error);
+  companions.setReplaced();
+}
+
+}  // namespace dictionary

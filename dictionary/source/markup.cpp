@@ -1,0 +1,167 @@
+#include "dictionary/source/markup.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+#include "dictionary/translation/characters.h"
+
+namespace dictionary {
+namespace {
+
+constexpr char16_t kReplacement = 0xFFFD;
+constexpr std::size_t kMaxEntity = 10;
+
+struct Entity {
+  std::u16string_view name;
+  char16_t character;
+};
+
+constexpr std::array kEntities = {
+    Entity{u"amp", u'&'},     Entity{u"lt", u'<'},       Entity{u"gt", u'>'},
+    Entity{u"quot", u'"'},    Entity{u"apos", u'\''},    Entity{u"nbsp", u' '},
+    Entity{u"alpha", 0x03B1}, Entity{u"beta", 0x03B2},   Entity{u"gamma", 0x03B3},
+    Entity{u"delta", 0x03B4}, Entity{u"frac12", 0x00BD}, Entity{u"times", 0x00D7},
+    Entity{u"deg", 0x00B0},   Entity{u"middot", 0x00B7}, Entity{u"hellip", 0x2026},
+    Entity{u"mdash", 0x2014}, Entity{u"ndash", 0x2013},  Entity{u"ldquo", 0x201C},
+    Entity{u"rdquo", 0x201D},
+};
+
+int digitValue(char16_t unit) {
+  if (isDigit(unit)) return unit - u'0';
+  const char16_t lower = unit | 0x20;
+  return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
+}
+
+/// Character of "#946" or "#x3B2".
+char16_t numericEntity(std::u16string_view digits) {
+  const int base = !digits.empty() && (digits[0] | 0x20) == u'x' ? 16 : 10;
+  if (base == 16) digits.remove_prefix(1);
+  std::int32_t code = 0;
+  for (const char16_t unit : digits) {
+    const int value = digitValue(unit);
+    if (value < 0 || value >= base) return kReplacement;
+    code = code * base + value;
+    if (code > 0xFFFF) return kReplacement;
+  }
+  return code < 0x20 ? kReplacement : static_cast<char16_t>(code);
+}
+
+char16_t entityCharacter(std::u16string_view name) {
+  if (name.starts_with(u'#')) return numericEntity(name.substr(1));
+  const auto* const found = std::ranges::find(kEntities, name, &Entity::name);
+  return found == kEntities.end() ? kReplacement : found->character;
+}
+
+/// Length of the name between "&" and ";" at the beginning of `text`, 0 if it is no entity.
+std::size_t entityLength(std::u16string_view text) {
+  std::size_t length = 0;
+  while (length < text.size() && length < kMaxEntity &&
+         (isAsciiLetter(text[length]) || isDigit(text[length]) ||
+          (length == 0 && text[length] == u'#'))) {
+    ++length;
+  }
+  return length < text.size() && text[length] == u';' ? length : 0;
+}
+
+/// What a code stands for, and its length; 0 where there is none.
+struct Decoded {
+  std::size_t length = 0;
+  std::u16string text;
+};
+
+Decoded readEntity(std::u16string_view text) {
+  const std::size_t length = text.starts_with(u'&') ? entityLength(text.substr(1)) : 0;
+  if (length == 0) return {};
+  return {length + 2, {entityCharacter(text.substr(1, length))}};
+}
+
+bool isFigure(char16_t unit) {
+  return isAsciiLetter(unit) || isDigit(unit) || unit == u'+' || unit == u'-';
+}
+
+/// "&-{12a}" stands below the line, "&+{-3}" above it, "&{2}" tells equal headwords apart.
+Decoded readFigures(std::u16string_view text) {
+  if (!text.starts_with(u'&')) return {};
+  const std::size_t open = text.starts_with(u"&-") || text.starts_with(u"&+") ? 2 : 1;
+  const std::size_t close = text.find(u'}', open);
+  if (close == std::u16string_view::npos || text[open] != u'{') return {};
+  const std::u16string_view figures = text.substr(open + 1, close - open - 1);
+  if (!std::ranges::all_of(figures, isFigure)) return {};
+  return {close + 1, std::u16string(open == 1 ? std::u16string_view() : figures)};
+}
+
+Decoded readLostCharacter(std::u16string_view text) {
+  if (!text.starts_with(u"<&")) return {};
+  std::size_t end = 2;
+  while (end < text.size() && isDigit(text[end])) ++end;
+  if (end == 2 || !text.substr(end).starts_with(u"&>")) return {};
+  return {end + 2, {kReplacement}};
+}
+
+Decoded readCode(std::u16string_view text) {
+  for (const auto read : {readEntity, readFigures, readLostCharacter}) {
+    Decoded decoded = read(text);
+    if (decoded.length > 0) return decoded;
+  }
+  return {};
+}
+
+/// Length of the tag at the beginning of `text`, 0 if there is none: "<", a letter or "/", and only
+/// ASCII up to ">".
+std::size_t tagLength(std::u16string_view text) {
+  if (text.size() < 3 || text[0] != u'<') return 0;
+  if (!isAsciiLetter(text[1]) && text[1] != u'/') return 0;
+  const std::size_t end = text.find(u'>');
+  if (end == std::u16string_view::npos) return 0;
+  const std::u16string_view content = text.substr(1, end - 1);
+  const bool plain =
+      std::ranges::all_of(content, [](char16_t unit) { return unit < 0x80 && unit != u'<'; });
+  return plain ? end + 1 : 0;
+}
+
+bool isLineBreakTag(std::u16string_view tag) {
+  return tag.size() >= 4 && (tag[1] | 0x20) == u'b' && (tag[2] | 0x20) == u'r' &&
+         !isAsciiLetter(tag[3]);
+}
+
+}  // namespace
+
+std::u16string decodeEntities(std::u16string_view text) {
+  std::u16string decoded;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool mayBegin = text[i] == u'&' || text[i] == u'<';
+    const Decoded code = mayBegin ? readCode(text.substr(i)) : Decoded();
+    if (code.length == 0) {
+      decoded += text[i];
+    } else {
+      decoded += code.text;
+      i += code.length - 1;
+    }
+  }
+  return decoded;
+}
+
+std::u16string breakLines(std::u16string_view text) {
+  std::u16string broken;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const std::u16string_view rest = text.substr(i);
+    if (rest.starts_with(u"\\n") || rest.starts_with(u"\\r")) {
+      broken += u'\n';
+      ++i;
+    } else if (const std::size_t length = tagLength(rest); length > 0) {
+      if (isLineBreakTag(rest.substr(0, length))) broken += u'\n';
+      i += length - 1;
+    } else {
+      broken += text[i];
+    }
+  }
+  return broken;
+}
+
+bool hasMarkup(std::u16string_view text) {
+  return decodeEntities(text) != text || breakLines(text) != text;
+}
+
+}  // namespace dictionary

@@ -1,0 +1,100 @@
+#include "dictionary/translation/brackets.h"
+
+#include <algorithm>
+
+#include "dictionary/translation/characters.h"
+
+namespace dictionary {
+namespace {
+
+constexpr std::u16string_view kOpening = u"(（﹙[［〔【〖<〈＜";
+constexpr std::u16string_view kClosing = u")）﹚]］〕】〗>〉＞";
+/// Longer notes and quotations are taken for brackets that do not close, which also keeps the work
+/// on a hostile text proportional to its length.
+constexpr std::size_t kMaxGroup = 400;
+
+constexpr std::size_t kFirstSquare = 3;
+constexpr std::size_t kFirstAngle = 8;
+
+constexpr std::u16string_view kQuoteOpening = u"“‘《『";
+constexpr std::u16string_view kQuoteClosing = u"”’》』";
+
+Bracket kindAt(std::size_t index) {
+  if (index == std::u16string_view::npos) return Bracket::kNone;
+  if (index < kFirstSquare) return Bracket::kRound;
+  return index < kFirstAngle ? Bracket::kSquare : Bracket::kAngle;
+}
+
+bool isValence(std::u16string_view content) {
+  return !content.empty() && content.find_first_not_of(u"IVX") == std::u16string_view::npos;
+}
+
+bool isRingPosition(std::u16string_view content) {
+  return !content.empty() && std::ranges::all_of(content, [](char16_t unit) {
+    return isDigit(unit) || (unit >= u'a' && unit <= u'z') || unit == u',' || unit == u'-' ||
+           unit == u'\'';
+  });
+}
+
+bool holdsLocant(std::u16string_view content) {
+  return std::ranges::any_of(content,
+                             [](char16_t unit) { return isDigit(unit) || isAsciiLetter(unit); });
+}
+
+/// Whether the group between `open` and `close` is part of a chemical name instead of a note.
+bool isPartOfName(std::u16string_view text, std::size_t open, std::size_t close) {
+  if (open == 0 || close + 1 == text.size()) return false;
+  const char16_t before = text[open - 1];
+  const char16_t after = text[close + 1];
+  const std::u16string_view content = text.substr(open + 1, close - open - 1);
+  if (openingBracket(text[open]) == Bracket::kSquare) {
+    return isHan(before) && isHan(after) && isRingPosition(content);
+  }
+  if (openingBracket(text[open]) != Bracket::kRound) return false;
+  return (isHan(before) && isHan(after) && isValence(content)) ||
+         ((before == u'-' || after == u'-') && holdsLocant(content));
+}
+
+}  // namespace
+
+Bracket openingBracket(char16_t unit) { return kindAt(kOpening.find(unit)); }
+
+Bracket closingBracket(char16_t unit) { return kindAt(kClosing.find(unit)); }
+
+std::size_t closingPosition(std::u16string_view text, std::size_t open) {
+  const Bracket kind = openingBracket(text[open]);
+  const std::size_t end = std::min(text.size(), open + kMaxGroup);
+  std::size_t depth = 0;
+  for (std::size_t i = open; i < end; ++i) {
+    if (openingBracket(text[i]) == kind) {
+      ++depth;
+    } else if (closingBracket(text[i]) == kind && --depth == 0) {
+      return i;
+    }
+  }
+  return std::u16string_view::npos;
+}
+
+std::size_t quotationEnd(std::u16string_view text, std::size_t open) {
+  const std::size_t kind = kQuoteOpening.find(text[open]);
+  if (kind == std::u16string_view::npos) return kind;
+  const std::size_t close = text.substr(0, open + kMaxGroup).find(kQuoteClosing[kind], open + 1);
+  return close == std::u16string_view::npos ? close : close + 1;
+}
+
+std::u16string withoutNotes(std::u16string_view text) {
+  std::u16string plain;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const std::size_t close = openingBracket(text[i]) == Bracket::kNone ? std::u16string_view::npos
+                                                                        : closingPosition(text, i);
+    if (close == std::u16string_view::npos) {
+      plain += text[i];
+    } else {
+      if (isPartOfName(text, i, close)) plain += text.substr(i, close + 1 - i);
+      i = close;
+    }
+  }
+  return plain;
+}
+
+}  // namespace dictionary

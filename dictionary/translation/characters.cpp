@@ -1,0 +1,44 @@
+#include "dictionary/translation/characters.h"
+
+namespace dictionary {
+namespace {
+
+bool within(char16_t unit, char16_t first, char16_t last) { return unit >= first && unit <= last; }
+
+}  // namespace
+
+bool isHan(char16_t unit) { return within(unit, 0x3400, 0x9FFF) || unit == 0x3007; }
+
+bool isAsciiLetter(char16_t unit) { return within(unit, u'a', u'z') || within(unit, u'A', u'Z'); }
+
+bool isDigit(char16_t unit) { return within(unit, u'0', u'9'); }
+
+bool isGreek(char16_t unit) { return within(unit, 0x0370, 0x03FF); }
+
+bool isCyrillic(char16_t unit) { return within(unit, 0x0400, 0x04FF); }
+
+bool isLatin1Letter(char16_t unit) {
+  return within(unit, 0x00C0, 0x00FF) && unit != 0x00D7 && unit != 0x00F7;
+}
+
+bool isLatin(char16_t unit) { return isAsciiLetter(unit) || isLatin1Letter(unit); }
+
+bool isForbidden(char16_t unit) {
+  return unit < 0x20 || within(unit, 0x7F, 0x9F) || unit == 0xAD ||  // controls, soft hyphen
+         within(unit, 0x0300, 0x036F) ||                             // marks left uncomposed
+         within(unit, 0x200B, 0x200F) || within(unit, 0x2028, 0x202E) ||
+         within(unit, 0x2060, 0x206F) || unit == 0xFEFF ||  // invisible marks
+         within(unit, 0x2500, 0x257F) ||                    // box drawing
+         within(unit, 0xD800, 0xF8FF) ||                    // surrogates, private use
+         within(unit, 0xF900, 0xFAFF) ||                    // compatibility ideographs
+         within(unit, 0xFDD0, 0xFDEF) || unit >= 0xFFF0;    // specials, noncharacters
+}
+
+bool isStandIn(char16_t unit) {
+  const bool pinyinVowel = within(unit, 0x0100, 0x017F) || within(unit, 0x01CD, 0x01DC) ||
+                           unit == 0x01F8 || unit == 0x01F9;
+  return isCyrillic(unit) || within(unit, 0x3105, 0x312F) || pinyinVowel ||
+         within(unit, 0x25A0, 0x25FF);
+}
+
+}  // namespace dictionary

@@ -1,0 +1,78 @@
+#include "dictionary/translation/name_piece.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string>
+
+#include "dictionary/translation/brackets.h"
+#include "dictionary/translation/characters.h"
+
+namespace dictionary {
+namespace {
+
+using namespace std::string_view_literals;
+
+/// What begins an explanation written right behind a name.
+constexpr std::array kExplanations = {
+    u"来源于"sv, u"取自"sv,     u"绰号"sv,     u"住所名称"sv, u"地貌名称"sv, u"职业名称"sv,
+    u"盖尔语"sv, u"威尔士语"sv, u"的变体"sv,   u"的昵称"sv,   u"的异体"sv,   u"的英语形式"sv,
+    u"英语化"sv, u"涵义"sv,     u"含义"sv,     u"源自"sv,     u"爱尔兰语"sv, u"同"sv,
+    u"可能"sv,   u"爱称"sv,     u"缩写形式"sv, u"职业"sv,     u"住所"sv,     u"新娘"sv,
+};
+
+constexpr std::array kPersonNotes = {u"人名"sv,   u"姓氏"sv, u"姓"sv,   u"男子名"sv,
+                                     u"女子名"sv, u"男名"sv, u"女名"sv, u"教名"sv};
+/// What announces names, and of what kind.
+struct Announcement {
+  std::u16string_view word;
+  Subject subject;
+};
+constexpr std::array kAnnouncements = {Announcement{u"人名", Subject::kPerson},
+                                       Announcement{u"姓氏", Subject::kPerson},
+                                       Announcement{u"地名", Subject::kPlace}};
+constexpr std::size_t kMaxPlaceNote = 12;
+
+bool endsLikePerson(std::u16string_view note) {
+  return std::ranges::any_of(kPersonNotes,
+                             [&](std::u16string_view end) { return note.ends_with(end); });
+}
+
+}  // namespace
+
+std::u16string_view leadingName(std::u16string_view piece) {
+  std::size_t end = piece.size();
+  for (const std::u16string_view explanation : kExplanations) {
+    end = std::min(end, piece.find(explanation));
+  }
+  for (std::size_t i = 1; i + 1 < end; ++i) {
+    if (piece[i] == u' ' && isHan(piece[i - 1]) && isLatin(piece[i + 1])) end = i;
+  }
+  return piece.substr(0, end);
+}
+
+SubjectSet namedByNote(std::u16string_view piece) {
+  SubjectSet subjects = 0;
+  for (std::size_t i = 0; i < piece.size(); ++i) {
+    if (openingBracket(piece[i]) != Bracket::kRound) continue;
+    const std::size_t close = closingPosition(piece, i);
+    if (close == std::u16string_view::npos) break;
+    const std::u16string_view note = piece.substr(i + 1, close - i - 1);
+    if (i > 0 && endsLikePerson(note)) subjects |= setOf(Subject::kPerson);
+    if (i > 0 && note.ends_with(u"地名") && note.size() <= kMaxPlaceNote) {
+      subjects |= setOf(Subject::kPlace);
+    }
+    i = close;
+  }
+  return subjects;
+}
+
+SubjectSet announcedNames(std::u16string_view piece, bool standsInFront) {
+  const std::u16string word = withoutNotes(piece);
+  const auto* const found = std::ranges::find(kAnnouncements, word, &Announcement::word);
+  if (found == kAnnouncements.end() || !piece.ends_with(word)) return 0;
+  const bool noted = word == u"人名" && piece.size() > word.size();
+  return standsInFront || noted ? setOf(found->subject) : 0;
+}
+
+}  // namespace dictionary

@@ -1,0 +1,118 @@
+#include "dictionary/translation/part_of_speech.h"
+
+#include <algorithm>
+#include <array>
+
+#include "dictionary/translation/brackets.h"
+#include "dictionary/translation/characters.h"
+
+namespace dictionary {
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::array kMarks = {
+    u"n"sv,     u"a"sv,    u"v"sv,     u"vt"sv,  u"vi"sv,     u"adj"sv,  u"adv"sv,    u"ad"sv,
+    u"abbr"sv,  u"un"sv,   u"na"sv,    u"int"sv, u"interj"sv, u"pl"sv,   u"pref"sv,   u"prep"sv,
+    u"pron"sv,  u"num"sv,  u"conj"sv,  u"vbl"sv, u"suf"sv,    u"suff"sv, u"comb"sv,   u"aux"sv,
+    u"pla"sv,   u"st"sv,   u"pp"sv,    u"phr"sv, u"ph"sv,     u"art"sv,  u"exclam"sv, u"ind"sv,
+    u"quant"sv, u"pn"sv,   u"tim"sv,   u"adl"sv, u"ing"sv,    u"pers"sv, u"col"sv,    u"sing"sv,
+    u"symb"sv,  u"pren"sv, u"stuff"sv,
+};
+
+/// Marks that occur without their full stop.
+constexpr std::array kBareMarks = {u"n"sv, u"v"sv, u"a"sv, u"vt"sv, u"vi"sv, u"adj"sv, u"adv"sv};
+
+constexpr std::u16string_view kLinks = u"&,/，、";
+
+std::size_t blanksAt(std::u16string_view text, std::size_t position) {
+  std::size_t length = 0;
+  while (position + length < text.size() && text[position + length] == u' ') ++length;
+  return length;
+}
+
+bool beginsChinese(std::u16string_view text) {
+  return !text.empty() && (isHan(text[0]) || openingBracket(text[0]) != Bracket::kNone ||
+                           text[0] == u'…' || text[0] == u'“' || text[0] == u'《');
+}
+
+/// Whether a note and then the mark's full stop follow: "n<古>.", "a[生化].".
+bool isNoteThenStop(std::u16string_view text) {
+  if (text.empty() || openingBracket(text[0]) == Bracket::kNone) return false;
+  const std::size_t close = closingPosition(text, 0);
+  return close != std::u16string_view::npos && text.substr(close + 1).starts_with(u'.');
+}
+
+std::size_t lettersAt(std::u16string_view text) {
+  std::size_t letters = 0;
+  while (letters < text.size() && isAsciiLetter(text[letters])) ++letters;
+  return letters;
+}
+
+bool isStop(char16_t unit) { return unit == u'.' || unit == u'．'; }
+
+bool isBareMark(std::u16string_view mark) {
+  return std::ranges::find(kBareMarks, mark) != kBareMarks.end();
+}
+
+/// Length of a mark with its full stop, 0 if there is none.
+std::size_t stoppedMarkLength(std::u16string_view text) {
+  constexpr std::u16string_view kLinkingVerb = u"link-v.";
+  if (text.starts_with(kLinkingVerb)) return kLinkingVerb.size();
+  const std::size_t letters = lettersAt(text);
+  const std::u16string_view mark = text.substr(0, letters);
+  const bool known = letters < text.size() && isStop(text[letters]) &&
+                     std::ranges::find(kMarks, mark) != kMarks.end();
+  if (!known) return 0;
+  // "comb.form" is one mark.
+  constexpr std::u16string_view kForm = u"form";
+  const std::size_t form = letters + 1 + blanksAt(text, letters + 1);
+  const bool combining =
+      mark == u"comb" && text.substr(form, lettersAt(text.substr(form))) == kForm;
+  return combining ? form + kForm.size() : letters + 1;
+}
+
+/// Length of one mark without what links it to the next.
+std::size_t markLength(std::u16string_view text) {
+  if (const std::size_t stopped = stoppedMarkLength(text); stopped > 0) return stopped;
+  const std::size_t letters = lettersAt(text);
+  if (letters == text.size() || !isBareMark(text.substr(0, letters))) return 0;
+  // "vt,vi.": the stop of the last one serves all.
+  const bool linked = kLinks.find(text[letters]) != std::u16string_view::npos;
+  if (linked && stoppedMarkLength(text.substr(letters + 1)) > 0) return letters;
+  const std::size_t blanks = blanksAt(text, letters);
+  const bool bare = (blanks > 0 && beginsChinese(text.substr(letters + blanks))) ||
+                    isNoteThenStop(text.substr(letters));
+  return bare ? letters : 0;
+}
+
+}  // namespace
+
+std::size_t partOfSpeechLength(std::u16string_view text) {
+  std::size_t length = 0;
+  for (std::size_t next = 0;;) {
+    const std::size_t mark = markLength(text.substr(next));
+    if (mark == 0) return length;
+    next += mark;
+    next += blanksAt(text, next);
+    length = next;
+    while (next < text.size() && kLinks.find(text[next]) != std::u16string_view::npos) {
+      ++next;
+      next += blanksAt(text, next);
+    }
+    if (next != length && markLength(text.substr(next)) == 0 && text[length] == u'&') {
+      return next;
+    }
+  }
+}
+
+bool beginsFurtherSense(std::u16string_view text) {
+  constexpr std::u16string_view kSecond = u"ll ";
+  if (text.starts_with(kSecond)) text.remove_prefix(kSecond.size());
+  const std::size_t letters = lettersAt(text);
+  if (!isBareMark(text.substr(0, letters)) || letters == text.size()) return false;
+  const std::u16string_view sense = text.substr(letters + 1);
+  return isStop(text[letters]) && beginsChinese(sense) && !sense.starts_with(u'的');
+}
+
+}  // namespace dictionary

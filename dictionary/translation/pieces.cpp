@@ -1,0 +1,128 @@
+#include "dictionary/translation/pieces.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "dictionary/translation/brackets.h"
+#include "dictionary/translation/characters.h"
+#include "dictionary/translation/part_of_speech.h"
+#include "text/trim.h"
+
+namespace dictionary {
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::array kInflections = {u"的复数"sv,     u"的过去式"sv,   u"的过去分词"sv,
+                                     u"的现在分词"sv, u"的第三人称"sv, u"的比较级"sv,
+                                     u"的最高级"sv};
+constexpr std::size_t kMaxInflection = 48;
+
+/// Enough to see the longest part-of-speech mark.
+constexpr std::size_t kMaxMark = 8;
+
+char16_t separatorAt(char16_t unit) {
+  switch (unit) {
+    case u',':
+    case u'，':
+      return u'，';
+    case u';':
+    case u'；':
+      return u'；';
+    case u'、':
+      return u'、';
+    case u'!':
+    case u'！':
+      return u'！';
+    default:
+      return 0;
+  }
+}
+
+bool isLocant(char16_t unit) {
+  return isDigit(unit) || isLatin(unit) || isGreek(unit) || unit == u'\'' || unit == u'′';
+}
+
+/// A comma inside a chemical name or a number: "2,4-二氯苯", "1, 4-二氮杂苯", "N,N-二甲基".
+bool joinsLocants(std::u16string_view text, std::size_t comma) {
+  if ((text[comma] != u',' && text[comma] != u'，') || comma == 0) return false;
+  std::size_t next = comma + 1;
+  if (isLatin(text[comma - 1]) && partOfSpeechLength(text.substr(next, kMaxMark)) > 0) return false;
+  if (next < text.size() && text[next] == u' ' && isDigit(text[comma - 1])) {
+    return next + 1 < text.size() && isDigit(text[next + 1]);
+  }
+  return next < text.size() && isLocant(text[comma - 1]) && isLocant(text[next]);
+}
+
+/// Whether another sense begins at `at` without a separator before it.
+bool runsIntoNextSense(std::u16string_view text, std::size_t at) {
+  const std::size_t blank = at > 0 && text[at - 1] == u' ' ? 1 : 0;
+  return at > blank && isHan(text[at - 1 - blank]) && beginsFurtherSense(text.substr(at));
+}
+
+std::size_t closedGroupEnd(std::u16string_view text, std::size_t open) {
+  if (openingBracket(text[open]) == Bracket::kNone) return quotationEnd(text, open);
+  const std::size_t close = closingPosition(text, open);
+  return close == std::u16string_view::npos ? close : close + 1;
+}
+
+/// Whether `note` is a foreign word and what form of it the headword is, and nothing else.
+bool isInflection(std::u16string_view note) {
+  const bool named = std::ranges::any_of(kInflections, [&](std::u16string_view inflection) {
+    return note.find(inflection) != std::u16string_view::npos;
+  });
+  return named && isAsciiLetter(note[0]) && note.size() <= kMaxInflection &&
+         std::ranges::all_of(note, [](char16_t unit) {
+           return isHan(unit) || isAsciiLetter(unit) || isDigit(unit) || unit == u'-' ||
+                  unit == u'.' || unit == u'′';
+         });
+}
+
+}  // namespace
+
+std::vector<RawPiece> splitPieces(std::u16string_view text) {
+  std::vector<RawPiece> pieces;
+  std::size_t begin = 0;
+  char16_t before = 0;
+  const auto finish = [&](std::size_t end) {
+    const std::u16string_view piece = user::trimBlanks(text.substr(begin, end - begin));
+    if (!piece.empty()) pieces.push_back({piece, before});
+  };
+  for (std::size_t i = 0; i < text.size();) {
+    const std::size_t groupEnd = closedGroupEnd(text, i);
+    const char16_t separator = separatorAt(text[i]);
+    if (groupEnd != std::u16string_view::npos) {
+      i = groupEnd;
+      continue;
+    }
+    if (separator != 0 && !joinsLocants(text, i)) {
+      finish(i);
+      before = separator;
+      begin = i + 1;
+    } else if (runsIntoNextSense(text, i)) {
+      finish(i);
+      before = u'；';
+      begin = i;
+    }
+    ++i;
+  }
+  finish(text.size());
+  return pieces;
+}
+
+std::u16string inflectionNote(std::u16string_view line) {
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    if (openingBracket(line[i]) != Bracket::kRound) continue;
+    const std::size_t close = closingPosition(line, i);
+    if (close == std::u16string_view::npos) return {};
+    std::u16string inflection(line.substr(i + 1, close - i - 1));
+    std::erase(inflection, u' ');
+    std::ranges::replace(inflection, u'\'', u'′');
+    if (isInflection(inflection)) return inflection;
+    i = close;
+  }
+  return {};
+}
+
+}  // namespace dictionary

@@ -1,0 +1,133 @@
+#include "dictionary/translation/translation_line.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "dictionary/source/markup.h"
+#include "dictionary/source/source_text.h"
+#include "dictionary/translation/brackets.h"
+#include "dictionary/translation/characters.h"
+#include "dictionary/translation/explanation.h"
+#include "dictionary/translation/line_head.h"
+#include "dictionary/translation/name_piece.h"
+#include "dictionary/translation/pieces.h"
+
+namespace dictionary {
+namespace {
+
+/// Lines of this subject mark characters that may be left out with the brackets of tags.
+constexpr SubjectSet kLongTagsOnly = setOf(Subject::kMedicine);
+
+/// A note without blanks inside its brackets; "" if it holds lost characters.
+std::u16string cleanNote(std::u16string_view note) {
+  if (std::ranges::any_of(note, isForbidden)) return {};
+  std::u16string clean(note);
+  if (clean.size() > 2 && clean[1] == u' ') clean.erase(1, 1);
+  if (clean.size() > 2 && clean[clean.size() - 2] == u' ') clean.erase(clean.size() - 2, 1);
+  return clean;
+}
+
+/// The piece as a subject dictionary shows it: notes that hold lost characters are left out; ""
+/// where such a character stands elsewhere.
+std::u16string notedText(std::u16string_view piece) {
+  std::u16string noted;
+  for (std::size_t i = 0; i < piece.size(); ++i) {
+    const std::size_t close = openingBracket(piece[i]) == Bracket::kNone
+                                  ? std::u16string_view::npos
+                                  : closingPosition(piece, i);
+    if (close == std::u16string_view::npos) {
+      if (piece[i] != u'\\') noted += piece[i];
+      continue;
+    }
+    noted += cleanNote(piece.substr(i, close + 1 - i));
+    i = close;
+  }
+  if (!isIntact(withoutNotes(noted)) || hasMarkup(noted)) return {};
+  return foldBlanks(noted);
+}
+
+/// One line on its way to pieces: what holds from one piece to the next.
+class LineParser {
+ public:
+  explicit LineParser(std::u16string_view line)
+      : line_(line), head_(readHead(line, true)), current_(head_.subjects) {}
+
+  std::vector<Piece> pieces();
+
+ private:
+  /// `next` is what parts the piece from the one behind it, 0 for the last.
+  void addPiece(const RawPiece& raw, char16_t next);
+  [[nodiscard]] Equivalent equivalentOf(std::u16string_view text, SubjectSet subjects,
+                                        bool introduced);
+
+  std::u16string_view line_;
+  LineHead head_;
+  SubjectSet current_;       ///< of pieces without a tag of their own
+  bool explaining_ = false;  ///< whether an explanation began in this clause
+  std::vector<Piece> pieces_;
+};
+
+Equivalent LineParser::equivalentOf(std::u16string_view text, SubjectSet subjects,
+                                    bool introduced) {
+  if (explaining_) return {u"", PieceFault::kExplanation};
+  const Explained explained = splitExplanation(text);
+  explaining_ = explained.explains;
+  if ((subjects & kNameSubjects) == 0) return makeEquivalent(explained.word, head_.abbreviation);
+  // Behind a tagged name, what has no tag or note of its own tells where the name comes from.
+  const bool isName = introduced || (head_.subjects & kNameSubjects) == 0;
+  if (!isName) return {u"", PieceFault::kExplanation};
+  return makeEquivalent(leadingName(explained.word), false);
+}
+
+void LineParser::addPiece(const RawPiece& raw, char16_t next) {
+  const bool first = raw.separator == 0;
+  const LineHead head = first ? head_ : readHead(raw.text, (head_.subjects & kLongTagsOnly) == 0);
+  const std::u16string_view text = first ? raw.text : raw.text.substr(head.length);
+  const std::u16string noted = head.notes + std::u16string(text);
+  const bool wholeLine = first && next == u'\0' && head_.length == 0;
+  if (const SubjectSet names = announcedNames(noted, wholeLine || next == u'；'); names != 0) {
+    current_ |= names;
+    return;
+  }
+  if (raw.separator == u'；') explaining_ = false;
+  if ((head.subjects & kNameSubjects) != 0) current_ = head.subjects;
+  const SubjectSet named = namedByNote(text);
+  const bool listedPlace = current_ == setOf(Subject::kPlace) && raw.separator == u'、';
+  const bool introduced = first || head.subjects != 0 || named != 0 || listedPlace;
+
+  Piece piece;
+  piece.separator = pieces_.empty() ? u'\0' : raw.separator;
+  piece.subjects = (head.subjects != 0 ? head.subjects : current_) | named;
+  piece.noted = notedText(noted);
+  piece.equivalent = equivalentOf(text, piece.subjects, introduced);
+  pieces_.push_back(std::move(piece));
+}
+
+std::vector<Piece> LineParser::pieces() {
+  const std::vector<RawPiece> raws = splitPieces(line_.substr(head_.length));
+  for (std::size_t i = 0; i < raws.size(); ++i) {
+    addPiece(raws[i], i + 1 < raws.size() ? raws[i + 1].separator : u'\0');
+  }
+  return std::move(pieces_);
+}
+
+}  // namespace
+
+TranslationLine parseLine(std::u16string_view line) {
+  return {LineParser(line).pieces(), inflectionNote(line)};
+}
+
+std::u16string subjectText(const TranslationLine& line, Subject subject) {
+  std::u16string text;
+  const Piece* last = nullptr;
+  for (const Piece& piece : line.pieces) {
+    if ((piece.subjects & setOf(subject)) == 0 || piece.noted.empty()) continue;
+    if (last != nullptr) text += last + 1 == &piece ? piece.separator : u'；';
+    text += piece.noted;
+    last = &piece;
+  }
+  return std::ranges::any_of(text, isHan) ? text : std::u16string();
+}
+
+}  // namespace dictionary
