@@ -1,11 +1,11 @@
 #include "capture/nhw32/router.h"
 
-#include "capture/nhw32/automation_provider.h"
 #include "capture/nhw32/choose_way.h"
-#include "capture/nhw32/control_question.h"
-#include "capture/nhw32/edit_provider.h"
+#include "capture/nhw32/controls/control_question.h"
+#include "capture/nhw32/controls/edit_provider.h"
+#include "capture/nhw32/controls/rich_edit_provider.h"
 #include "capture/nhw32/patient_provider.h"
-#include "capture/nhw32/rich_edit_provider.h"
+#include "capture/nhw32/uia/automation_provider.h"
 
 namespace nhw32 {
 namespace {

@@ -8,8 +8,8 @@
 
 #include "capture/nhw32/ansi_word.h"
 #include "capture/nhw32/choose_way.h"
-#include "capture/nhw32/edit_index.h"
-#include "capture/nhw32/rich_edit_layout.h"
+#include "capture/nhw32/controls/edit_index.h"
+#include "capture/nhw32/controls/rich_edit_layout.h"
 
 namespace nhw32 {
 namespace {

@@ -1,4 +1,4 @@
-#include "capture/nhw32/target_coordinates.h"
+#include "capture/nhw32/controls/target_coordinates.h"
 
 #include <gtest/gtest.h>
 

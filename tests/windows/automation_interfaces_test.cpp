@@ -1,4 +1,4 @@
-#include "capture/nhw32/automation_interfaces.h"
+#include "capture/nhw32/uia/automation_interfaces.h"
 
 #include <gtest/gtest.h>
 

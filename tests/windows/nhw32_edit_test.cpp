@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-#include "capture/nhw32/target_window.h"
+#include "capture/nhw32/controls/target_window.h"
 #include "forms/font.h"
 #include "tests/program/harness/find.h"
 #include "tests/windows/support/text_places.h"

@@ -5,7 +5,7 @@
 #include <atomic>
 #include <chrono>
 
-#include "capture/nhw32/target_window.h"
+#include "capture/nhw32/controls/target_window.h"
 #include "tests/windows/support/text_target.h"
 
 namespace wintest {

@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "capture/nhw32/automation_interfaces.h"
 #include "capture/nhw32/text_provider.h"
+#include "capture/nhw32/uia/automation_interfaces.h"
 
 /// A program that UI Automation tells of, made up: a column of elements, one of which may hold a
 /// text, and the objects through which it is asked.

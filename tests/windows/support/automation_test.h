@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "capture/nhw32/automation_provider.h"
+#include "capture/nhw32/uia/automation_provider.h"
 #include "tests/windows/support/automation_stand_in.h"
 
 namespace wintest {

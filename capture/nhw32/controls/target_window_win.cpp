@@ -1,4 +1,4 @@
-#include "capture/nhw32/target_window.h"
+#include "capture/nhw32/controls/target_window.h"
 
 #include <algorithm>
 #include <array>

@@ -3,8 +3,8 @@
 #include <functional>
 #include <memory>
 
-#include "capture/nhw32/automation_calls.h"
 #include "capture/nhw32/text_provider.h"
+#include "capture/nhw32/uia/automation_calls.h"
 
 namespace nhw32 {
 

@@ -1,4 +1,4 @@
-#include "capture/nhw32/rich_edit_provider.h"
+#include "capture/nhw32/controls/rich_edit_provider.h"
 
 #include <windows.h>
 
@@ -9,9 +9,9 @@
 #include <cstring>
 #include <limits>
 
-#include "capture/nhw32/control_question.h"
-#include "capture/nhw32/remote_memory.h"
-#include "capture/nhw32/rich_edit_layout.h"
+#include "capture/nhw32/controls/control_question.h"
+#include "capture/nhw32/controls/remote_memory.h"
+#include "capture/nhw32/controls/rich_edit_layout.h"
 #include "capture/nhw32/word_at.h"
 #include "win32/win32.h"
 

@@ -2,8 +2,8 @@
 
 #include <chrono>
 
-#include "capture/nhw32/automation_interfaces.h"
 #include "capture/nhw32/clock.h"
+#include "capture/nhw32/uia/automation_interfaces.h"
 
 namespace nhw32 {
 

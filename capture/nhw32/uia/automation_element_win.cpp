@@ -1,4 +1,4 @@
-#include "capture/nhw32/automation_element.h"
+#include "capture/nhw32/uia/automation_element.h"
 
 #include <cstdint>
 #include <optional>

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "capture/nhw32/automation_interfaces.h"
+#include "capture/nhw32/uia/automation_interfaces.h"
 
 /// Owners of what UI Automation hands out.
 namespace nhw32 {

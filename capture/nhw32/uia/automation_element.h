@@ -1,8 +1,8 @@
 #pragma once
 
-#include "capture/nhw32/automation_calls.h"
-#include "capture/nhw32/automation_owners.h"
 #include "capture/nhw32/text_provider.h"
+#include "capture/nhw32/uia/automation_calls.h"
+#include "capture/nhw32/uia/automation_owners.h"
 
 namespace nhw32 {
 

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "capture/nhw32/control_text.h"
-#include "capture/nhw32/target_window.h"
+#include "capture/nhw32/controls/control_text.h"
+#include "capture/nhw32/controls/target_window.h"
 
 namespace nhw32 {
 

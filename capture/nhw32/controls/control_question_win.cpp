@@ -1,4 +1,4 @@
-#include "capture/nhw32/control_question.h"
+#include "capture/nhw32/controls/control_question.h"
 
 namespace nhw32 {
 

@@ -1,4 +1,4 @@
-#include "capture/nhw32/automation_rules.h"
+#include "capture/nhw32/uia/automation_rules.h"
 
 #include <cmath>
 

@@ -1,10 +1,10 @@
-#include "capture/nhw32/edit_provider.h"
+#include "capture/nhw32/controls/edit_provider.h"
 
 #include <algorithm>
 #include <memory>
 
-#include "capture/nhw32/control_question.h"
-#include "capture/nhw32/edit_index.h"
+#include "capture/nhw32/controls/control_question.h"
+#include "capture/nhw32/controls/edit_index.h"
 #include "capture/nhw32/word_at.h"
 
 namespace nhw32 {

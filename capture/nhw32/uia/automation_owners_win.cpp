@@ -1,4 +1,4 @@
-#include "capture/nhw32/automation_owners.h"
+#include "capture/nhw32/uia/automation_owners.h"
 
 #include <objbase.h>
 

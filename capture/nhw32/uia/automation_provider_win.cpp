@@ -1,13 +1,13 @@
-#include "capture/nhw32/automation_provider.h"
+#include "capture/nhw32/uia/automation_provider.h"
 
 #include <objbase.h>
 
 #include <optional>
 
-#include "capture/nhw32/automation_element.h"
-#include "capture/nhw32/automation_owners.h"
-#include "capture/nhw32/automation_rules.h"
-#include "capture/nhw32/automation_text.h"
+#include "capture/nhw32/uia/automation_element.h"
+#include "capture/nhw32/uia/automation_owners.h"
+#include "capture/nhw32/uia/automation_rules.h"
+#include "capture/nhw32/uia/automation_text.h"
 
 namespace nhw32 {
 namespace {

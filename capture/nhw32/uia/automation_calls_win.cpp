@@ -1,4 +1,4 @@
-#include "capture/nhw32/automation_calls.h"
+#include "capture/nhw32/uia/automation_calls.h"
 
 namespace nhw32 {
 

@@ -1,4 +1,4 @@
-#include "capture/nhw32/control_text.h"
+#include "capture/nhw32/controls/control_text.h"
 
 #include <algorithm>
 #include <cmath>

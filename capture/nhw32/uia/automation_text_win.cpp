@@ -1,10 +1,10 @@
-#include "capture/nhw32/automation_text.h"
+#include "capture/nhw32/uia/automation_text.h"
 
 #include <string>
 #include <utility>
 
-#include "capture/nhw32/automation_owners.h"
-#include "capture/nhw32/automation_rules.h"
+#include "capture/nhw32/uia/automation_owners.h"
+#include "capture/nhw32/uia/automation_rules.h"
 #include "capture/nhw32/word_at.h"
 
 namespace nhw32 {

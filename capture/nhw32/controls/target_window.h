@@ -6,7 +6,7 @@
 #include <exception>
 #include <string>
 
-#include "capture/nhw32/target_coordinates.h"
+#include "capture/nhw32/controls/target_coordinates.h"
 
 namespace nhw32 {
 

@@ -1,4 +1,4 @@
-#include "capture/nhw32/rich_edit_layout.h"
+#include "capture/nhw32/controls/rich_edit_layout.h"
 
 namespace nhw32 {
 namespace {
