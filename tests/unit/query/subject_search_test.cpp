@@ -8,7 +8,7 @@
 
 #include "dictionary/database/schema.h"
 #include "query/query_sql.h"
-#include "tests/unit/random_text.h"
+#include "tests/unit/support/random_text.h"
 #include "tests/unit/support/sample_database.h"
 #include "text/order.h"
 #include "text/query_text.h"
