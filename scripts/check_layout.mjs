@@ -1,0 +1,186 @@
+// Checks how the sources are laid out: which folder may include which, no cycles between components,
+// no file over 400 lines, not too many files a folder, and that ARCHITECTURE.md names files that exist.
+//
+//   node scripts/check_layout.mjs            names each deviation, and fails if there is any
+//   node scripts/check_layout.mjs --figures  prints the figures of the product's files instead
+import { existsSync, readFileSync, readdirSync } from 'node:fs';
+import { dirname, join } from 'node:path';
+import { fileURLToPath } from 'node:url';
+
+const root = join(dirname(fileURLToPath(import.meta.url)), '..');
+
+// Folder: the folders whose headers its files may include besides its own. A name that ends in .h is
+// that header alone.
+const windowFolder = ['text', 'win32', 'settings', 'data', 'forms', 'app/state.h',
+  'app/resources/resource_ids.h'];
+const mayInclude = {
+  text: [],
+  win32: ['text'],
+  settings: ['text', 'win32'],
+  'data/dialect': ['text', 'data/error.h'],
+  data: ['text', 'data/dialect'],
+  forms: ['text', 'win32'],
+  'capture/nhw32': ['text', 'win32', 'capture/nhw32/controls', 'capture/nhw32/uia'],
+  'capture/nhw32/controls': ['text', 'win32', 'capture/nhw32'],
+  'capture/nhw32/uia': ['text', 'win32', 'capture/nhw32'],
+  capture: [...windowFolder, 'capture/nhw32'],
+  lookup: [...windowFolder, 'capture/screen_word.h'],
+  query: [...windowFolder, 'capture/screen_word.h'],
+  app: ['text', 'win32', 'settings', 'data', 'forms', 'capture', 'lookup', 'query', 'app/resources'],
+  'dictionary/source': ['text', 'data'],
+  'dictionary/translation': ['text', 'data', 'dictionary/source'],
+  'dictionary/arrange': ['text', 'data', 'dictionary/source', 'dictionary/translation'],
+  'dictionary/database': ['text', 'data', 'dictionary/source', 'dictionary/translation',
+    'dictionary/arrange'],
+  'dictionary/check': ['text', 'data', 'dictionary/source', 'dictionary/translation',
+    'dictionary/arrange', 'dictionary/database'],
+  dictionary: ['text', 'data', 'dictionary/source', 'dictionary/translation', 'dictionary/arrange',
+    'dictionary/database', 'dictionary/check'],
+};
+// These are built without Windows; only their sources x_win.cpp may know its headers.
+const withoutWindows = /^(text|data|dictionary)(\/|$)/;
+const maxLines = 400;
+const maxFiles = (folder) => (folder === 'forms' ? 45 : 25);
+
+const isSource = (name) => /\.(h|cpp)$/.test(name);
+const isGenerated = (text) => text.split('\n', 2).some((line) => /^\/\/ Generated/.test(line));
+
+/** The sources of a folder, with what they include: their own folder's files only. */
+function readFolder(folder) {
+  return readdirSync(join(root, folder)).filter(isSource).map((name) => {
+    const path = `${folder}/${name}`;
+    const text = readFileSync(join(root, path), 'utf8');
+    return {
+      path, folder, text,
+      lines: text.split('\n').length - 1,
+      generated: isGenerated(text),
+      includes: [...text.matchAll(/^#include "([^"]+)"/gm)].map((match) => match[1]),
+      systemIncludes: [...text.matchAll(/^#include <([^>]+)>/gm)].map((match) => match[1]),
+    };
+  });
+}
+
+const files = Object.keys(mayInclude).flatMap(readFolder);
+
+/** x.h, x.cpp and x_win.cpp are one component. */
+const componentOf = (path) => path.replace(/(_win)?\.(h|cpp)$/, '');
+
+function includeFaults() {
+  const faults = [];
+  for (const { path, folder, includes, systemIncludes } of files) {
+    for (const header of includes) {
+      const from = dirname(header);
+      const allowed = from === folder || mayInclude[folder].includes(from) ||
+        mayInclude[folder].includes(header);
+      if (!allowed) faults.push(`${path} includes ${header}; ${folder}/ may not know it`);
+    }
+    if (withoutWindows.test(folder) && !path.endsWith('_win.cpp') &&
+        systemIncludes.includes('windows.h')) {
+      faults.push(`${path} includes windows.h; only x_win.cpp may`);
+    }
+  }
+  return faults;
+}
+
+/** Strongly connected components of more than one node (Tarjan). */
+function cycles() {
+  const edges = new Map();
+  for (const { path, includes } of files) {
+    const from = componentOf(path);
+    if (!edges.has(from)) edges.set(from, new Set());
+    for (const header of includes) {
+      if (componentOf(header) !== from) edges.get(from).add(componentOf(header));
+    }
+  }
+  const index = new Map(), low = new Map(), stack = [], found = [];
+  const visit = (node) => {
+    index.set(node, index.size);
+    low.set(node, index.get(node));
+    stack.push(node);
+    for (const next of edges.get(node) ?? []) {
+      if (!index.has(next)) {
+        visit(next);
+        low.set(node, Math.min(low.get(node), low.get(next)));
+      } else if (stack.includes(next)) {
+        low.set(node, Math.min(low.get(node), index.get(next)));
+      }
+    }
+    if (low.get(node) === index.get(node)) {
+      const group = stack.splice(stack.indexOf(node));
+      if (group.length > 1) found.push(group.sort());
+    }
+  };
+  for (const node of edges.keys()) if (!index.has(node)) visit(node);
+  return found;
+}
+
+function sizeFaults() {
+  const faults = files.filter(({ lines, generated }) => lines > maxLines && !generated)
+    .map(({ path, lines }) => `${path} has ${lines} lines; at most ${maxLines} are allowed`);
+  for (const folder of Object.keys(mayInclude)) {
+    const count = files.filter((file) => file.folder === folder).length;
+    if (count > maxFiles(folder)) {
+      faults.push(`${folder}/ has ${count} files; at most ${maxFiles(folder)} are allowed`);
+    }
+  }
+  return faults;
+}
+
+/** What ARCHITECTURE.md puts between backticks and looks like a place in the repository exists. */
+function architectureFaults() {
+  const page = join(root, 'ARCHITECTURE.md');
+  const text = existsSync(page) ? readFileSync(page, 'utf8') : '';
+  const places = [...text.matchAll(/`([\w./-]+\/[\w./-]*|[\w-]+\.(?:h|cpp|md|sh|mjs|cmake))`/g)]
+    .map((match) => match[1]);
+  if (places.length === 0) return ['ARCHITECTURE.md names no files'];
+  return places.filter((place) => !existsSync(join(root, place)))
+    .map((place) => `ARCHITECTURE.md names ${place}, which does not exist`);
+}
+
+/** Lines with code, and lines with nothing but a comment. */
+function count(text) {
+  const lines = text.split('\n').map((line) => line.trim()).filter((line) => line !== '');
+  const comments = lines.filter((line) => line.startsWith('//')).length;
+  return { code: lines.length - comments, comments };
+}
+
+function printFigures() {
+  const written = files.filter((file) => !file.generated);
+  const sizes = written.map(({ lines }) => lines).sort((a, b) => a - b);
+  const share = (part, whole) => `${((100 * part) / whole).toFixed(1)} %`;
+  const ratio = (some) => {
+    const sum = some.map(({ text }) => count(text))
+      .reduce((a, b) => ({ code: a.code + b.code, comments: a.comments + b.comments }));
+    return (sum.comments / sum.code).toFixed(2);
+  };
+  const headers = written.filter(({ path }) => path.endsWith('.h'));
+  const lonely = headers.filter(({ path }) => files.filter(({ path: other, includes }) =>
+    includes.includes(path) && componentOf(other) !== componentOf(path)).length <= 1);
+  const folders = Object.keys(mayInclude)
+    .map((folder) => [folder, files.filter((file) => file.folder === folder).length])
+    .sort((a, b) => b[1] - a[1]);
+  const code = written.map(({ text }) => count(text).code).reduce((a, b) => a + b);
+  console.log(`product files                       ${written.length}`);
+  console.log(`lines of code                       ${code}`);
+  console.log(`median file, lines                  ${sizes[Math.floor(sizes.length / 2)]}`);
+  console.log(`files under 25 lines                ${share(sizes.filter((n) => n < 25).length, sizes.length)}`);
+  console.log(`longest file, lines                 ${sizes.at(-1)}`);
+  console.log(`headers one other component uses    ${share(lonely.length, headers.length)}`);
+  console.log(`comment lines to code lines         ${ratio(written)}`);
+  console.log(`  in sources                        ${ratio(written.filter(({ path }) => path.endsWith('.cpp')))}`);
+  console.log(`fullest folders                     ${folders.slice(0, 4).map(([f, n]) => `${f} ${n}`).join(', ')}`);
+  console.log(`cycles between components           ${cycles().length}`);
+}
+
+if (process.argv[2] === '--figures') {
+  printFigures();
+} else {
+  const faults = [
+    ...includeFaults(),
+    ...cycles().map((group) => `these include one another: ${group.join(', ')}`),
+    ...sizeFaults(),
+    ...architectureFaults(),
+  ];
+  for (const fault of faults) console.log(fault);
+  process.exit(faults.length === 0 ? 0 : 1);
+}
