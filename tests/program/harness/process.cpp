@@ -3,6 +3,7 @@
 #include <atomic>
 #include <filesystem>
 #include <fstream>
+#include <random>
 
 #include "tests/program/harness/text.h"
 
@@ -76,10 +77,11 @@ DWORD processOf(HWND window) {
 
 void runBelow(const std::string& command) {
   static std::atomic<int> runs = 0;
+  // No process id: tests may be running in another prefix, where the same ids are given.
+  static const std::string mark = std::to_string(std::random_device{}());
   // Nobody can wait for a process below Wine, so it leaves its exit status in a file.
   const std::filesystem::path answer =
-      std::filesystem::absolute("build/results/below-" + std::to_string(GetCurrentProcessId()) +
-                                "-" + std::to_string(++runs));
+      std::filesystem::absolute("build/results/below-" + mark + "-" + std::to_string(++runs));
   std::filesystem::create_directories(answer.parent_path());
   const std::string file = pathBelow(answer);
   const std::string script = command + "; echo $? >" + file + ".part; mv " + file + ".part " + file;
