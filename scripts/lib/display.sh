@@ -17,9 +17,10 @@ has_window_manager() {
   xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
 }
 
-# Starts the display and makes it $DISPLAY.
+# start_display [NAME]: starts a display and makes it $DISPLAY. The name tells its log from those of
+# other displays.
 start_display() {
-  local number log=$LEXILO_ROOT/build/logs/display.log
+  local number log=$LEXILO_ROOT/build/logs/display${1:+-$1}.log
   mkdir -p "${log%/*}"
   local fifo
   fifo=$(mktemp -u)
@@ -28,13 +29,13 @@ start_display() {
   display_pids+=($!)
   read -r -t 20 number <>"$fifo" || true
   rm -f "$fifo"
-  [[ -n ${number:-} ]] || fail "the virtual display did not start (see build/logs/display.log)."
+  [[ -n ${number:-} ]] || fail "the virtual display did not start (see ${log#"$LEXILO_ROOT"/})."
   export DISPLAY=:$number
   # The system's own configuration: a user's could change what the keys do.
   openbox --sm-disable --config-file /etc/xdg/openbox/rc.xml >>"$log" 2>&1 </dev/null &
   display_pids+=($!)
   wait_for has_window_manager ||
-    fail "the window manager openbox did not start (see build/logs/display.log)."
+    fail "the window manager openbox did not start (see ${log#"$LEXILO_ROOT"/})."
 }
 
 # Ends the display and the window manager that start_display started.

@@ -33,7 +33,8 @@ function countReport(report) {
   }
   if (passed + failed === 0) {
     failed++;
-    tell('FAILED: no test ran');
+    const filter = readLog().match(/^Note: Google Test filter = (.*)$/m)?.[1];
+    tell(filter ? `FAILED: no test matches the filter '${filter}'` : 'FAILED: no test ran');
   } else if (status !== 0 && failed === 0) {
     failed++;
     tell(`FAILED: every test passed, but the executable ended with status ${status}`);

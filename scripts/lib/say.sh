@@ -31,7 +31,7 @@ pause() {
 }
 
 # Announces a step that has been running for a second, then its progress: every ten seconds, after a
-# minute every thirty.
+# minute every thirty. Each line names the step, since others may be running at the same time.
 announce() {
   local title=$1 log=$2 seconds=1 rest=10
   pause 1
@@ -40,7 +40,7 @@ announce() {
     ((seconds < 60)) || rest=30
     pause "$rest"
     seconds=$((seconds + rest))
-    say "  $seconds s: $(last_line "$log")"
+    say "  $title, $seconds s: $(last_line "$log")"
   done
 }
 

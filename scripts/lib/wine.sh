@@ -129,6 +129,13 @@ fresh_prefix() {
   copy_prefix "$1"
 }
 
+# start_windows NAME: a display, and a prefix of that name without anything that earlier programs left.
+# What is started from here on runs there.
+start_windows() {
+  start_display "$1"
+  start_wine "$(fresh_prefix "$1")"
+}
+
 # set_dpi DPI: the resolution that programs in the prefix that was started see from here on.
 set_dpi() {
   set_registry 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD "$1" ||
