@@ -1,5 +1,6 @@
-// Reads what a GoogleTest executable left behind and prints "PASSED FAILED" on standard output; the
-// failures themselves go to standard error.
+// Reads what a GoogleTest executable left behind and prints "PASSED FAILED REPEATED" on standard
+// output, the last being how many acts of a user the tests repeated; the failures themselves go to
+// standard error.
 //
 //   node gtest_results.mjs JSON LOG STATUS SECONDS
 //
@@ -79,4 +80,6 @@ function readReport() {
 const report = status <= 1 ? readReport() : null;
 // A native executable that finds leaks at its end has written its report all the same.
 const counts = report ? countReport(report) : countLog();
-process.stdout.write(counts.join(' ') + '\n');
+// Written by harness::tellOnceMore.
+const repeated = readLog().match(/^\[ONCE MORE \] /gm)?.length ?? 0;
+process.stdout.write([...counts, repeated].join(' ') + '\n');

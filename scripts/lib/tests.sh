@@ -3,8 +3,12 @@
 
 results_dir=$LEXILO_ROOT/build/results
 
-# "PASSED FAILED" of each layer that ended, a line each: layers run in several subshells.
+# "PASSED FAILED REPEATED" of each layer that ended, a line each: layers run in several subshells.
 counts=$results_dir/counts
+
+# How many acts of a user tests may repeat in a run, because nothing came of them at first. A busy
+# display loses one now and then; more of them hide a defect of a test or of the program.
+max_repeated=5
 
 # Forgets what earlier runs counted.
 start_counting() {
@@ -12,20 +16,36 @@ start_counting() {
   : >"$counts"
 }
 
-# count LAYER PASSED FAILED TENTHS: tells the numbers of a layer and keeps them for the sum.
-count() {
-  printf '%s %s\n' "$2" "$3" >>"$counts"
-  say "$1: $2 passed, $3 failed ($(($4 / 10)).$(($4 % 10)) s)"
+# in_words PASSED FAILED REPEATED
+in_words() {
+  printf '%s passed, %s failed' "$1" "$2"
+  case $3 in
+    0) ;;
+    1) printf ', 1 act repeated' ;;
+    *) printf ', %s acts repeated' "$3" ;;
+  esac
 }
 
-# Tells the sum of all layers. Fails when a test failed.
+# count LAYER PASSED FAILED REPEATED TENTHS: tells the numbers of a layer and keeps them for the sum.
+count() {
+  printf '%s %s %s\n' "$2" "$3" "$4" >>"$counts"
+  say "$1: $(in_words "$2" "$3" "$4") ($(($5 / 10)).$(($5 % 10)) s)"
+}
+
+# Tells the sum of all layers. Fails when a test failed or too many acts were repeated.
 tell_sum() {
-  local layer_passed layer_failed passed=0 failed=0
-  while read -r layer_passed layer_failed; do
+  local layer_passed layer_failed layer_repeated passed=0 failed=0 repeated=0
+  while read -r layer_passed layer_failed layer_repeated; do
     passed=$((passed + layer_passed))
     failed=$((failed + layer_failed))
+    repeated=$((repeated + layer_repeated))
   done <"$counts"
-  say "$passed passed, $failed failed"
+  if ((repeated > max_repeated)); then
+    say "FAILED: $repeated acts of users were repeated, more than $max_repeated in a run. Which ones:" \
+      "grep 'ONCE MORE' build/results/*.log"
+    failed=$((failed + 1))
+  fi
+  say "$(in_words "$passed" "$failed" "$repeated")"
   ((failed == 0))
 }
 
@@ -36,11 +56,11 @@ run_test() {
   start=$(tenths)
   timeout -k 5 "$seconds" "$@" >"$log" 2>&1 </dev/null || status=$?
   if ((status == 0)); then
-    count "$name" 1 0 $(($(tenths) - start))
+    count "$name" 1 0 0 $(($(tenths) - start))
   else
     tail -n 40 "$log"
     ((status != 124 && status != 137)) || say "$name: stopped after $seconds s"
-    count "$name" 0 1 $(($(tenths) - start))
+    count "$name" 0 1 0 $(($(tenths) - start))
   fi
 }
 
@@ -64,7 +84,7 @@ run_gtest() {
     "--gtest_output=json:${json#"$LEXILO_ROOT"/}" >>"$log" 2>>"$errors" </dev/null || status=$?
   kill "$ticker" 2>/dev/null || true
   wait "$ticker" 2>/dev/null || true
-  # The reader's report goes to the screen, its two numbers come back.
+  # The reader's report goes to the screen, its three numbers come back.
   numbers=$(node "$LEXILO_ROOT/scripts/lib/gtest_results.mjs" "$json" "$log" "$status" "$seconds") ||
     fail "the results of $layer could not be read (see build/results)."
   # shellcheck disable=SC2086
