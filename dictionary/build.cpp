@@ -9,13 +9,10 @@
 #include "dictionary/arrange/pair_collector.h"
 #include "dictionary/arrange/subject_collector.h"
 #include "dictionary/build_report.h"
+#include "dictionary/console.h"
 #include "dictionary/database/database_writer.h"
 #include "dictionary/database/install.h"
-#include "dictionary/failure.h"
 #include "dictionary/line_ranges.h"
-#include "dictionary/paths.h"
-#include "dictionary/peak_memory.h"
-#include "dictionary/progress.h"
 #include "dictionary/source/source_reader.h"
 
 namespace dictionary {
@@ -92,25 +89,26 @@ void Builder::readSource(std::istream& stream) {
       continue;
     }
     addEntry(reader.entry());
-    if (++entries % kEntriesBetweenNews == 0) progress_.tell(grouped(entries) + " entries so far");
+    if (++entries % kEntriesBetweenNews == 0)
+      progress_.report(grouped(entries) + " entries so far");
   }
   tellFurtherBadLines();
-  progress_.tell(grouped(entries) + " entries read");
+  progress_.report(grouped(entries) + " entries read");
 }
 
 void Builder::arrangeContent() {
   content_.vocabulary = std::move(pairs_).finish();
   content_.subjects = std::move(subjects_).finish();
-  progress_.tell(grouped(content_.vocabulary.pairs.size()) + " pairs sorted");
+  progress_.report(grouped(content_.vocabulary.pairs.size()) + " pairs sorted");
   const std::vector<bool> chosen = choosePairs(content_.vocabulary, LookupLimits());
   content_.general = arrange(content_.vocabulary, chosen);
   report_.addContent(content_, chosen);
-  progress_.tell(grouped(content_.general.edict.size()) + " pairs chosen");
+  progress_.report(grouped(content_.general.edict.size()) + " pairs chosen");
 }
 
 void Builder::tellCost() {
   const std::size_t memory = peakMemory();
-  progress_.tell(
+  progress_.report(
       memory == 0 ? "done" : "done with at most " + grouped(memory / kMebibyte) + " MiB of memory");
 }
 

@@ -4,7 +4,7 @@
 #include <numeric>
 #include <string_view>
 
-#include "dictionary/progress.h"
+#include "dictionary/console.h"
 
 namespace dictionary {
 namespace {

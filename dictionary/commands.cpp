@@ -7,8 +7,7 @@
 
 #include "dictionary/build.h"
 #include "dictionary/check/check.h"
-#include "dictionary/paths.h"
-#include "dictionary/progress.h"
+#include "dictionary/console.h"
 #include "dictionary/word_lookup.h"
 #include "text/utf.h"
 

@@ -1,21 +1,20 @@
-// The builder and checker of the dictionary database, a console program.
+// kkbuild, the console program that builds and checks the dictionary database: the arguments in
+// UTF-8, then runCommand().
 
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "dictionary/commands.h"
+#include "dictionary/console.h"
 
 #ifdef _WIN32
 
 #include "text/utf.h"
 
-// The one call of the Windows API that a console program for UTF-8 needs.
-extern "C" __declspec(dllimport) int __stdcall SetConsoleOutputCP(unsigned int codePage);
-
+// Wide arguments: narrow ones come in the ANSI code page, which cannot name every file.
 int wmain(int argc, wchar_t** argv) {
-  constexpr unsigned int kUtf8CodePage = 65001;
-  SetConsoleOutputCP(kUtf8CodePage);
+  dictionary::useUtf8Output();
   std::vector<std::string> arguments;
   for (int i = 1; i < argc; ++i) {
     const std::wstring argument = argv[i];
@@ -27,6 +26,7 @@ int wmain(int argc, wchar_t** argv) {
 #else
 
 int main(int argc, char** argv) {
+  dictionary::useUtf8Output();
   const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
   return dictionary::runCommand(arguments, std::cout, std::cerr);
 }

@@ -10,7 +10,7 @@
 #include "dictionary/arrange/block_cuts.h"
 #include "dictionary/arrange/pair_sequence.h"
 #include "dictionary/arrange/row_exchange.h"
-#include "dictionary/failure.h"
+#include "dictionary/console.h"
 
 namespace dictionary {
 namespace {

@@ -9,7 +9,7 @@
 #include "dictionary/check/check_schema.h"
 #include "dictionary/check/check_subjects.h"
 #include "dictionary/check/general_tables.h"
-#include "dictionary/paths.h"
+#include "dictionary/console.h"
 
 namespace dictionary {
 

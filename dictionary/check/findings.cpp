@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "dictionary/progress.h"
+#include "dictionary/console.h"
 
 namespace dictionary {
 

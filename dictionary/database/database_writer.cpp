@@ -9,10 +9,9 @@
 #include "data/connection.h"
 #include "data/error.h"
 #include "dictionary/arrange/lookup_limits.h"
+#include "dictionary/console.h"
 #include "dictionary/database/schema.h"
 #include "dictionary/database/table.h"
-#include "dictionary/failure.h"
-#include "dictionary/paths.h"
 #include "dictionary/translation/subjects.h"
 
 namespace dictionary {

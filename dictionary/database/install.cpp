@@ -1,9 +1,8 @@
 #include "dictionary/database/install.h"
 
 #include "dictionary/check/check.h"
+#include "dictionary/console.h"
 #include "dictionary/database/temporary_file.h"
-#include "dictionary/failure.h"
-#include "dictionary/paths.h"
 
 namespace dictionary {
 
@@ -11,16 +10,16 @@ void installDatabase(const DatabaseContent& content, const std::filesystem::path
                      std::ostream& log, Progress& progress) {
   const TemporaryFile temporary(target);
   writeDatabase(content, temporary.path());
-  progress.tell("database written");
+  progress.report("database written");
   const CheckResult check = checkDatabase(temporary.path());
   if (!check.findings.empty()) {
     check.findings.print(log);
     throw Failure("the new database breaks the rules above; " + displayName(target) +
                   " stays as it was");
   }
-  progress.tell("database checked");
+  progress.report("database checked");
   temporary.replace(target);
-  progress.tell(displayName(target) + " is ready");
+  progress.report(displayName(target) + " is ready");
 }
 
 }  // namespace dictionary

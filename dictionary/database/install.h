@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <ostream>
 
+#include "dictionary/console.h"
 #include "dictionary/database/database_writer.h"
-#include "dictionary/progress.h"
 
 namespace dictionary {
 

@@ -3,8 +3,7 @@
 #include <array>
 #include <system_error>
 
-#include "dictionary/failure.h"
-#include "dictionary/paths.h"
+#include "dictionary/console.h"
 
 namespace dictionary {
 namespace {

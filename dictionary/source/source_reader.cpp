@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "dictionary/failure.h"
+#include "dictionary/console.h"
 
 namespace dictionary {
 namespace {

@@ -8,8 +8,8 @@
 #include <string>
 
 #include "dictionary/check/check.h"
+#include "dictionary/console.h"
 #include "dictionary/database/install.h"
-#include "dictionary/failure.h"
 #include "tests/unit/support/sample_database.h"
 #include "tests/unit/support/small_dictionary.h"
 #include "tests/unit/support/temp_folder.h"

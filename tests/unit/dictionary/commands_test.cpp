@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/word_lookup.h"
 #include "tests/unit/support/sample_database.h"
 #include "tests/unit/support/small_dictionary.h"
 #include "tests/unit/support/temp_folder.h"
@@ -116,20 +115,6 @@ TEST(Commands, LookupSaysWhatTheWindowWouldNotLookUp) {
     EXPECT_EQ(outcome.err, "kkbuild: there is nothing to look up\n");
   }
   EXPECT_EQ(run({"lookup", small(), "?数"}).err.find("wildcard"), std::string::npos);
-}
-
-TEST(LookUp, DoublesTheApostropheAsTheWindowDoes) {
-  const dictionary::LookupResult result = dictionary::lookUp(support::smallDatabase(), u"it's");
-  ASSERT_FALSE(result.headwords.empty());
-  EXPECT_EQ(result.headwords.front(), u"it's");
-  EXPECT_EQ(result.meaning, u" it''s\r\n 它是；\r\n 它有");
-}
-
-TEST(LookUp, FindsChineseWords) {
-  const dictionary::LookupResult result = dictionary::lookUp(support::smallDatabase(), u"数据");
-  ASSERT_FALSE(result.headwords.empty());
-  EXPECT_EQ(result.headwords.front(), u"数据");
-  EXPECT_EQ(result.meaning, u" 数据\r\n data；\r\n datum");
 }
 
 }  // namespace

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/failure.h"
+#include "dictionary/console.h"
 #include "text/order.h"
 
 namespace {

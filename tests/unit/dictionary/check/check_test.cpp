@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "dictionary/check/check_general.h"
-#include "dictionary/failure.h"
+#include "dictionary/console.h"
 #include "tests/unit/support/sample_database.h"
 #include "tests/unit/support/small_dictionary.h"
 #include "tests/unit/support/temp_folder.h"

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/failure.h"
+#include "dictionary/console.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "dictionary/peak_memory.h"
+#include "dictionary/console.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 
 namespace {
 
-TEST(PeakMemory, KnowsOfMemoryThatIsGoneAgain) {
+TEST(PeakMemory, IncludesMemoryThatWasFreed) {
   constexpr std::size_t kBytes = std::size_t{256} << 20U;
   {
     std::vector<char> held(kBytes);

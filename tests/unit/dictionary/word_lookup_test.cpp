@@ -1,9 +1,12 @@
+#include "dictionary/word_lookup.h"
+
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 
-#include "dictionary/word_lookup.h"
 #include "tests/unit/support/sample_dictionary.h"
+#include "tests/unit/support/small_dictionary.h"
 #include "tests/unit/support/unprivileged.h"
 
 namespace {
@@ -13,15 +16,15 @@ using std::filesystem::perms;
 constexpr perms kReading = perms::owner_read | perms::group_read | perms::others_read;
 constexpr perms kEntering = perms::owner_exec | perms::group_exec | perms::others_exec;
 
-/// A dictionary that may not be written, in a folder that may not be either.
-class UnwritableFolder : public testing::Test {
+/// A read-only dictionary in a read-only folder.
+class LookUpInUnwritableFolder : public testing::Test {
  protected:
-  UnwritableFolder() {
+  LookUpInUnwritableFolder() {
     support::SampleDictionary().writeTo(file_);
     std::filesystem::permissions(file_, kReading);
     std::filesystem::permissions(folder_.path(), kReading | kEntering);
   }
-  ~UnwritableFolder() override {
+  ~LookUpInUnwritableFolder() override {
     std::filesystem::permissions(folder_.path(), perms::owner_write, kAdd);
     std::filesystem::permissions(file_, perms::owner_write, kAdd);
   }
@@ -36,7 +39,7 @@ class UnwritableFolder : public testing::Test {
   std::filesystem::path file_ = folder_.file(u"kk.dat");
 };
 
-TEST_F(UnwritableFolder, IsEnoughForEveryLookup) {
+TEST_F(LookUpInUnwritableFolder, ReadsWithoutWritingAnything) {
   const std::string before = support::readFile(file_);
   const bool passed = support::passesUnprivileged([this] {
 #ifndef _WIN32
@@ -55,6 +58,20 @@ TEST_F(UnwritableFolder, IsEnoughForEveryLookup) {
   EXPECT_TRUE(passed);
   EXPECT_EQ(support::entryCount(folder_.path()), 1);
   EXPECT_EQ(support::readFile(file_), before);
+}
+
+TEST(LookUp, DoublesTheApostropheAsTheWindowDoes) {
+  const dictionary::LookupResult result = dictionary::lookUp(support::smallDatabase(), u"it's");
+  ASSERT_FALSE(result.headwords.empty());
+  EXPECT_EQ(result.headwords.front(), u"it's");
+  EXPECT_EQ(result.meaning, u" it''s\r\n 它是；\r\n 它有");
+}
+
+TEST(LookUp, FindsChineseWords) {
+  const dictionary::LookupResult result = dictionary::lookUp(support::smallDatabase(), u"数据");
+  ASSERT_FALSE(result.headwords.empty());
+  EXPECT_EQ(result.headwords.front(), u"数据");
+  EXPECT_EQ(result.meaning, u" 数据\r\n data；\r\n datum");
 }
 
 }  // namespace
