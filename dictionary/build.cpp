@@ -8,23 +8,24 @@
 #include "dictionary/arrange/block_choice.h"
 #include "dictionary/arrange/pair_collector.h"
 #include "dictionary/arrange/subject_collector.h"
-#include "dictionary/build_report.h"
 #include "dictionary/console.h"
 #include "dictionary/database/database_writer.h"
 #include "dictionary/database/install.h"
-#include "dictionary/line_ranges.h"
+#include "dictionary/report.h"
 #include "dictionary/source/source_reader.h"
 
 namespace dictionary {
 namespace {
 
-/// Bad lines that are told when they are met; those behind them are told together.
-constexpr std::size_t kToldAtOnce = 20;
-/// How often reading tells how far it is, in entries.
-constexpr std::size_t kEntriesBetweenNews = 200'000;
+/// Bad lines that are reported one by one as they are read; the others are reported as ranges at
+/// the end, so that a source of another format does not flood the console.
+constexpr std::size_t kMaxReportedAtOnce = 20;
+/// Entries between two lines of progress.
+constexpr std::size_t kProgressStep = 200'000;
 constexpr std::size_t kMebibyte = std::size_t{1} << 20U;
 
-/// One build's stages and what they hand on.
+/// The stages of one build in their order, and what each hands to the next: readSource(),
+/// arrangeContent(), install().
 class Builder {
  public:
   explicit Builder(std::ostream& log) : log_(log), progress_(log) {}
@@ -35,11 +36,11 @@ class Builder {
     installDatabase(content_, target, log_, progress_);
   }
   void printReport() const { report_.print(log_); }
-  void tellCost();
+  void reportCost();
 
  private:
-  void tellBadLine(const SourceReader& reader);
-  void tellFurtherBadLines();
+  void reportBadLine(const SourceReader& reader);
+  void reportFurtherBadLines();
   void addEntry(const SourceEntry& source);
 
   std::ostream& log_;
@@ -52,17 +53,17 @@ class Builder {
   std::map<LineFault, LineRanges> furtherBadLines_;
 };
 
-void Builder::tellBadLine(const SourceReader& reader) {
+void Builder::reportBadLine(const SourceReader& reader) {
   report_.addBadLine(reader.fault());
-  if (++badLines_ > kToldAtOnce) {
+  if (++badLines_ > kMaxReportedAtOnce) {
     furtherBadLines_[reader.fault()].add(reader.lineNumber());
     return;
   }
   log_ << "line " << reader.lineNumber() << " skipped: " << describe(reader.fault()) << '\n';
-  if (badLines_ == kToldAtOnce) log_ << "further bad lines are named when all is read\n";
+  if (badLines_ == kMaxReportedAtOnce) log_ << "further bad lines are named when all is read\n";
 }
 
-void Builder::tellFurtherBadLines() {
+void Builder::reportFurtherBadLines() {
   for (const auto& [fault, lines] : furtherBadLines_) {
     log_ << lines.text() << " skipped: " << describe(fault) << '\n';
   }
@@ -85,14 +86,13 @@ void Builder::readSource(std::istream& stream) {
     const SourceReader::Result result = reader.next();
     if (result == SourceReader::Result::kEnd) break;
     if (result == SourceReader::Result::kBadLine) {
-      tellBadLine(reader);
+      reportBadLine(reader);
       continue;
     }
     addEntry(reader.entry());
-    if (++entries % kEntriesBetweenNews == 0)
-      progress_.report(grouped(entries) + " entries so far");
+    if (++entries % kProgressStep == 0) progress_.report(grouped(entries) + " entries so far");
   }
-  tellFurtherBadLines();
+  reportFurtherBadLines();
   progress_.report(grouped(entries) + " entries read");
 }
 
@@ -106,7 +106,7 @@ void Builder::arrangeContent() {
   progress_.report(grouped(content_.general.edict.size()) + " pairs chosen");
 }
 
-void Builder::tellCost() {
+void Builder::reportCost() {
   const std::size_t memory = peakMemory();
   progress_.report(
       memory == 0 ? "done" : "done with at most " + grouped(memory / kMebibyte) + " MiB of memory");
@@ -124,7 +124,7 @@ void buildDatabase(const std::filesystem::path& source, const std::filesystem::p
   builder.arrangeContent();
   builder.install(target);
   builder.printReport();
-  builder.tellCost();
+  builder.reportCost();
 }
 
 }  // namespace dictionary

@@ -1,4 +1,4 @@
-#include "dictionary/build_report.h"
+#include "dictionary/report.h"
 
 #include <iomanip>
 #include <numeric>
@@ -9,6 +9,7 @@
 namespace dictionary {
 namespace {
 
+/// By Tier.
 constexpr std::array<std::string_view, kTierCount> kTierNames = {
     "important words, first equivalent",
     "important words, further equivalents",
@@ -22,12 +23,14 @@ constexpr std::array<std::string_view, kTierCount> kTierNames = {
     "further web equivalents",
 };
 
+/// Columns for a count; the largest has nine characters ("1,060,000").
 constexpr int kNumberWidth = 11;
 
 void printCount(std::ostream& out, std::size_t count, std::string_view what) {
   out << std::setw(kNumberWidth) << grouped(count) << "  " << what << '\n';
 }
 
+/// Number of headwords in rows that are sorted by headword.
 template <typename Rows>
 std::size_t distinctWords(const Rows& rows) {
   std::size_t distinct = 0;
@@ -38,6 +41,25 @@ std::size_t distinctWords(const Rows& rows) {
 }
 
 }  // namespace
+
+void LineRanges::add(std::size_t line) {
+  ++count_;
+  if (!ranges_.empty() && ranges_.back().last + 1 == line) {
+    ranges_.back().last = line;
+  } else {
+    ranges_.push_back({line, line});
+  }
+}
+
+std::string LineRanges::text() const {
+  std::string text = count_ == 1 ? "line " : "lines ";
+  for (const Range& range : ranges_) {
+    if (&range != &ranges_.front()) text += ", ";
+    text += std::to_string(range.first);
+    if (range.last != range.first) text += '-' + std::to_string(range.last);
+  }
+  return text;
+}
 
 void BuildReport::addEntry(const Entry& entry, std::size_t pairs) {
   ++entries_;

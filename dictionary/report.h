@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <map>
 #include <ostream>
+#include <string>
+#include <vector>
 
 #include "dictionary/database/database_writer.h"
 #include "dictionary/source/csv_line.h"
@@ -11,14 +13,39 @@
 
 namespace dictionary {
 
-/// What a build read, kept and left out, and why.
+/// Line numbers in ascending order, stored and printed as ranges.
+class LineRanges {
+ public:
+  /// Adds a line number greater than all that were added before.
+  void add(std::size_t line);
+
+  /// Number of lines added.
+  [[nodiscard]] std::size_t count() const { return count_; }
+
+  /// "line 7", or "lines 7-9, 12".
+  [[nodiscard]] std::string text() const;
+
+ private:
+  struct Range {
+    std::size_t first;
+    std::size_t last;
+  };
+
+  std::vector<Range> ranges_;
+  std::size_t count_ = 0;
+};
+
+/// The summary at the end of a build: what was read, kept and left out, and why.
 class BuildReport {
  public:
+  /// Counts a line that could not be read.
   void addBadLine(LineFault fault) { ++badLines_[fault]; }
+  /// Counts an entry whose word cannot be a headword.
   void addBadHeadword() { ++badHeadwords_; }
-  /// An entry and the number of pairs that it gave.
+  /// Counts an entry; `pairs` is the number of pairs that it gave.
   void addEntry(const Entry& entry, std::size_t pairs);
-  /// What became of the pairs, and the rows written.
+  /// Counts the rows written, and the pairs kept and left out by tier. `chosen` has one flag for
+  /// each pair of the vocabulary. To be called once.
   void addContent(const DatabaseContent& content, const std::vector<bool>& chosen);
 
   void print(std::ostream& out) const;
@@ -34,7 +61,7 @@ class BuildReport {
   std::size_t emptyEntries_ = 0;
   std::size_t referringEntries_ = 0;
   std::size_t entriesWithoutPairs_ = 0;
-  std::array<std::size_t, static_cast<std::size_t>(PieceFault::kCount)> pieces_{};
+  std::array<std::size_t, static_cast<std::size_t>(PieceFault::kCount)> pieces_{};  ///< by fault
 
   std::size_t pairs_ = 0;
   std::size_t rows_ = 0;

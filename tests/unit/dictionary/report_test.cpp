@@ -1,10 +1,10 @@
-#include "dictionary/line_ranges.h"
+#include "dictionary/report.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-TEST(LineRanges, JoinsNeighbours) {
+TEST(LineRanges, JoinsConsecutiveLines) {
   dictionary::LineRanges lines;
   EXPECT_EQ(lines.count(), 0U);
   lines.add(7);
