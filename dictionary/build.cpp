@@ -12,7 +12,7 @@
 #include "dictionary/database/database_writer.h"
 #include "dictionary/database/install.h"
 #include "dictionary/report.h"
-#include "dictionary/source/source_reader.h"
+#include "dictionary/source/csv_reader.h"
 
 namespace dictionary {
 namespace {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "dictionary/database/database_writer.h"
-#include "dictionary/source/csv_line.h"
+#include "dictionary/source/csv_reader.h"
 #include "dictionary/translation/entry.h"
 
 namespace dictionary {

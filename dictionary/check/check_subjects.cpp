@@ -10,8 +10,7 @@
 #include "dictionary/check/check_text.h"
 #include "dictionary/database/schema.h"
 #include "dictionary/database/table.h"
-#include "dictionary/source/csv_line.h"
-#include "dictionary/translation/characters.h"
+#include "dictionary/source/characters.h"
 #include "text/order.h"
 #include "text/utf.h"
 

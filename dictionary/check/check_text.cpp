@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "dictionary/source/characters.h"
 #include "dictionary/source/markup.h"
-#include "dictionary/translation/characters.h"
 
 namespace dictionary {
 

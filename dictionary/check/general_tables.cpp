@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "dictionary/database/table.h"
-#include "dictionary/source/csv_line.h"
+#include "dictionary/source/characters.h"
 #include "text/order.h"
 #include "text/utf.h"
 

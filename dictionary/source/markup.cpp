@@ -5,12 +5,15 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "dictionary/translation/characters.h"
+#include "dictionary/source/characters.h"
 
 namespace dictionary {
 namespace {
 
+/// U+FFFD REPLACEMENT CHARACTER: a row that contains it is left out.
 constexpr char16_t kReplacement = 0xFFFD;
+/// Length of the longest entity name that is decoded, in characters; keeps the search for the
+/// semicolon short.
 constexpr std::size_t kMaxEntity = 10;
 
 struct Entity {
@@ -54,7 +57,9 @@ char16_t entityCharacter(std::u16string_view name) {
   return found == kEntities.end() ? kReplacement : found->character;
 }
 
-/// Length of the name between "&" and ";" at the beginning of `text`, 0 if it is no entity.
+/// Length of the entity name at the beginning of `text`, which follows a "&" and must be followed
+/// by
+/// ";"; 0 if there is none.
 std::size_t entityLength(std::u16string_view text) {
   std::size_t length = 0;
   while (length < text.size() && length < kMaxEntity &&
@@ -65,7 +70,7 @@ std::size_t entityLength(std::u16string_view text) {
   return length < text.size() && text[length] == u';' ? length : 0;
 }
 
-/// What a code stands for, and its length; 0 where there is none.
+/// The text that a code stands for and the length of the code; 0 if there is none.
 struct Decoded {
   std::size_t length = 0;
   std::u16string text;
@@ -81,7 +86,7 @@ bool isFigure(char16_t unit) {
   return isAsciiLetter(unit) || isDigit(unit) || unit == u'+' || unit == u'-';
 }
 
-/// "&-{12a}" stands below the line, "&+{-3}" above it, "&{2}" tells equal headwords apart.
+/// "&-{12a}" is a subscript, "&+{-3}" a superscript, "&{2}" a homograph number, which is dropped.
 Decoded readFigures(std::u16string_view text) {
   if (!text.starts_with(u'&')) return {};
   const std::size_t open = text.starts_with(u"&-") || text.starts_with(u"&+") ? 2 : 1;
@@ -92,6 +97,7 @@ Decoded readFigures(std::u16string_view text) {
   return {close + 1, std::u16string(open == 1 ? std::u16string_view() : figures)};
 }
 
+/// "<&14&>", the number of a character that the source could not write.
 Decoded readLostCharacter(std::u16string_view text) {
   if (!text.starts_with(u"<&")) return {};
   std::size_t end = 2;
@@ -109,7 +115,7 @@ Decoded readCode(std::u16string_view text) {
 }
 
 /// Length of the tag at the beginning of `text`, 0 if there is none: "<", a letter or "/", and only
-/// ASCII up to ">".
+/// ASCII up to ">". "<德>" is a note, no tag.
 std::size_t tagLength(std::u16string_view text) {
   if (text.size() < 3 || text[0] != u'<') return 0;
   if (!isAsciiLetter(text[1]) && text[1] != u'/') return 0;

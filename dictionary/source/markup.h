@@ -5,16 +5,17 @@
 
 namespace dictionary {
 
-/// Undoes entity codes such as "&beta;" and "&#946;", and the codes of small figures ("A&-{2}"
-/// becomes "A2"). An entity that is not known becomes U+FFFD, which no row may hold, and so does
-/// the number of a character that the source could not write ("<&14&>").
+/// Decodes entity codes ("&beta;", "&#946;", "&#x3B2;") and the source's codes for subscripts,
+/// superscripts and homograph numbers ("A&-{2}" becomes "A2"). An unknown entity becomes U+FFFD,
+/// which no row may hold, and so does the number of a character that the source could not write
+/// ("<&14&>").
 std::u16string decodeEntities(std::u16string_view text);
 
-/// Turns every way to write a line break ("<br />", a backslash with "n", one with "r") into a line
-/// feed, and deletes other tags ("<i>").
+/// Turns every spelling of a line break ("<br />", a backslash with "n", one with "r") into a line
+/// feed and deletes other tags ("<i>").
 std::u16string breakLines(std::u16string_view text);
 
-/// Whether one of the above would change `text`.
+/// Returns whether decodeEntities() or breakLines() would change `text`.
 bool hasMarkup(std::u16string_view text);
 
 }  // namespace dictionary

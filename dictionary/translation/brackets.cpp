@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "dictionary/translation/characters.h"
+#include "dictionary/source/characters.h"
 
 namespace dictionary {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "dictionary/source/source_text.h"
+#include "dictionary/source/cleanup.h"
 #include "dictionary/translation/brackets.h"
 #include "text/utf.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/source/source_reader.h"
+#include "dictionary/source/csv_reader.h"
 #include "dictionary/translation/translation_line.h"
 
 namespace dictionary {

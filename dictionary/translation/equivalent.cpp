@@ -4,7 +4,7 @@
 #include <array>
 #include <cstddef>
 
-#include "dictionary/translation/characters.h"
+#include "dictionary/source/characters.h"
 #include "dictionary/translation/piece_text.h"
 
 namespace dictionary {
@@ -91,7 +91,7 @@ Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation) {
 
 bool isIntact(std::u16string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
-    if (isForbidden(text[i]) || isStandIn(text[i])) return false;
+    if (isForbidden(text[i]) || isSubstitute(text[i])) return false;
     // An accented letter that stands alone is what is left of a Han character.
     const bool afterLatin = i > 0 && isLatin(text[i - 1]);
     const bool beforeLatin = i + 1 < text.size() && isLatin(text[i + 1]);

@@ -4,8 +4,8 @@
 #include <array>
 #include <cstddef>
 
+#include "dictionary/source/characters.h"
 #include "dictionary/translation/brackets.h"
-#include "dictionary/translation/characters.h"
 
 namespace dictionary {
 namespace {

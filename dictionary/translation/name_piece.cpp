@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <string>
 
+#include "dictionary/source/characters.h"
 #include "dictionary/translation/brackets.h"
-#include "dictionary/translation/characters.h"
 
 namespace dictionary {
 namespace {

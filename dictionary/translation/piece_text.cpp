@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "dictionary/source/characters.h"
 #include "dictionary/translation/brackets.h"
-#include "dictionary/translation/characters.h"
 
 namespace dictionary {
 namespace {

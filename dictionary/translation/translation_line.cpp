@@ -4,10 +4,10 @@
 #include <cstddef>
 #include <utility>
 
+#include "dictionary/source/characters.h"
+#include "dictionary/source/cleanup.h"
 #include "dictionary/source/markup.h"
-#include "dictionary/source/source_text.h"
 #include "dictionary/translation/brackets.h"
-#include "dictionary/translation/characters.h"
 #include "dictionary/translation/explanation.h"
 #include "dictionary/translation/line_head.h"
 #include "dictionary/translation/name_piece.h"

@@ -7,8 +7,8 @@
 #include "dictionary/arrange/pair_collector.h"
 #include "dictionary/arrange/subject_collector.h"
 #include "dictionary/check/check_text.h"
-#include "dictionary/source/source_reader.h"
-#include "dictionary/translation/characters.h"
+#include "dictionary/source/characters.h"
+#include "dictionary/source/csv_reader.h"
 #include "dictionary/translation/entry.h"
 #include "tests/fuzz/fuzz_input.h"
 

@@ -1,11 +1,30 @@
-#include "dictionary/translation/characters.h"
+#include "dictionary/source/characters.h"
+
+#include <cstddef>
+
+#include "text/units.h"
 
 namespace dictionary {
 namespace {
 
 bool within(char16_t unit, char16_t first, char16_t last) { return unit >= first && unit <= last; }
 
+/// Length of the valid UTF-8 sequence at the beginning of `bytes`, 0 if there is none.
+std::size_t sequenceLength(std::string_view bytes) {
+  const bool ascii = static_cast<unsigned char>(bytes[0]) < 0x80;
+  return ascii ? 1 : text::readSequence(bytes).length;
+}
+
 }  // namespace
+
+bool isUtf8(std::string_view bytes) {
+  while (!bytes.empty()) {
+    const std::size_t length = sequenceLength(bytes);
+    if (length == 0) return false;
+    bytes.remove_prefix(length);
+  }
+  return true;
+}
 
 bool isHan(char16_t unit) { return within(unit, 0x3400, 0x9FFF) || unit == 0x3007; }
 
@@ -34,7 +53,7 @@ bool isForbidden(char16_t unit) {
          within(unit, 0xFDD0, 0xFDEF) || unit >= 0xFFF0;    // specials, noncharacters
 }
 
-bool isStandIn(char16_t unit) {
+bool isSubstitute(char16_t unit) {
   const bool pinyinVowel = within(unit, 0x0100, 0x017F) || within(unit, 0x01CD, 0x01DC) ||
                            unit == 0x01F8 || unit == 0x01F9;
   return isCyrillic(unit) || within(unit, 0x3105, 0x312F) || pinyinVowel ||

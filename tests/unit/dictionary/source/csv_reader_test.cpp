@@ -1,19 +1,33 @@
-#include "dictionary/source/source_reader.h"
+#include "dictionary/source/csv_reader.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "dictionary/console.h"
+#include "dictionary/source/characters.h"
 
 namespace {
 
 using dictionary::LineFault;
 using dictionary::SourceReader;
+using Fields = std::vector<std::string>;
 using Result = SourceReader::Result;
 using namespace std::string_literals;
+
+struct Split {
+  LineFault fault;
+  Fields fields;
+};
+
+Split split(const std::string& line) {
+  Split result;
+  result.fault = dictionary::splitCsvLine(line, result.fields);
+  return result;
+}
 
 const std::string kHeader =
     "word,phonetic,definition,translation,pos,collins,oxford,tag,bnc,frq,exchange,detail,audio\n";
@@ -54,17 +68,59 @@ std::string headerFailure(const std::string& bytes) {
   return "";
 }
 
+TEST(SplitCsvLine, SplitsAtCommas) {
+  EXPECT_EQ(split("a,b,,d").fields, (Fields{"a", "b", "", "d"}));
+  EXPECT_EQ(split("").fields, (Fields{""}));
+  EXPECT_EQ(split(",").fields, (Fields{"", ""}));
+}
+
+TEST(SplitCsvLine, KeepsCommasAndDoubledQuotesInsideQuotes) {
+  EXPECT_EQ(split(R"(a,"b, c",d)").fields, (Fields{"a", "b, c", "d"}));
+  EXPECT_EQ(split(R"("say ""hi""",)").fields, (Fields{"say \"hi\"", ""}));
+  EXPECT_EQ(split(R"("")").fields, (Fields{""}));
+}
+
+TEST(SplitCsvLine, KeepsQuotesInsideUnquotedFields) {
+  EXPECT_EQ(split(R"(compound "S",x)").fields, (Fields{"compound \"S\"", "x"}));
+}
+
+TEST(SplitCsvLine, ReturnsTheFault) {
+  EXPECT_EQ(split(R"(a,"b)").fault, LineFault::kOpenQuote);
+  EXPECT_EQ(split(R"(a,"b"c,d)").fault, LineFault::kTextAfterQuote);
+  EXPECT_EQ(split("a,\0,b"s).fault, LineFault::kControlCharacter);
+  EXPECT_EQ(split("a,\x1b[0m,b").fault, LineFault::kControlCharacter);
+  EXPECT_EQ(split("a\tb").fault, LineFault::kNone);
+}
+
+TEST(SplitCsvLine, RefusesInvalidUtf8) {
+  for (const std::string bytes : {"\x80", "\xC3", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80",
+                                  "\xF0\x80\x80\x80", "\xF4\x90\x80\x80", "\xFF", "\xE4\xB8"}) {
+    EXPECT_EQ(split("a," + bytes + ",b").fault, LineFault::kInvalidUtf8);
+    EXPECT_FALSE(dictionary::isUtf8(bytes));
+  }
+  EXPECT_TRUE(dictionary::isUtf8("é 数据 \xF0\x9F\x98\x80"));
+}
+
+TEST(LineFault, HasADescriptionOfItsOwn) {
+  std::vector<std::string_view> texts;
+  for (int fault = 0; fault <= static_cast<int>(LineFault::kColumnCount); ++fault) {
+    texts.push_back(dictionary::describe(static_cast<LineFault>(fault)));
+    EXPECT_FALSE(texts.back().empty());
+    for (std::size_t i = 0; i + 1 < texts.size(); ++i) EXPECT_NE(texts[i], texts.back());
+  }
+}
+
 TEST(SourceReader, ReadsEntries) {
   EXPECT_EQ(readAll(kHeader + "bit,bɪt,,\"n. 位, 比特\",,,,,0,0,,,\nit's,,,它是,,,,,0,0,,,\n"),
             (std::vector<std::string>{"bit=n. 位, 比特", "it's=它是"}));
 }
 
-TEST(SourceReader, ReadsALastLineWithoutLineFeedAndLinesWithCarriageReturns) {
+TEST(SourceReader, AcceptsCrLfAndAMissingLastLineFeed) {
   EXPECT_EQ(readAll(kHeader + "a,,,甲,,,,,0,0,,,\r\nb,,,乙,,,,,0,0,,,"),
             (std::vector<std::string>{"a=甲", "b=乙"}));
 }
 
-TEST(SourceReader, FindsColumnsByTheirNames) {
+TEST(SourceReader, FindsColumnsByName) {
   EXPECT_EQ(readAll("tag,frq,bnc,oxford,collins,translation,word\n,0,0,,,甲,a\n"),
             (std::vector<std::string>{"a=甲"}));
 }
@@ -74,7 +130,7 @@ TEST(SourceReader, IgnoresAByteOrderMark) {
             (std::vector<std::string>{"a=甲"}));
 }
 
-TEST(SourceReader, TellsBadLinesAndReadsOn) {
+TEST(SourceReader, ReportsBadLinesAndReadsOn) {
   const std::string source = kHeader + "a,,,甲,,,,,0,0,,,\n" +   // 2
                              "b,,,\"乙,,,,,0,0,,,\n" +           // 3: open quote
                              "c,,,丙\n" +                        // 4: columns
@@ -94,7 +150,7 @@ TEST(SourceReader, TellsBadLinesAndReadsOn) {
           "10:" + faultOf(LineFault::kTooLong), "h=辛"}));
 }
 
-TEST(SourceReader, SeesMarksOfImportance) {
+TEST(SourceReader, MarksEntriesAsImportant) {
   EXPECT_FALSE(isImportant("a,,,甲,,,,,0,0,,,\n"));
   EXPECT_FALSE(isImportant("a,,,甲,,,,,,,,,\n"));
   EXPECT_FALSE(isImportant("a,p,d,甲,n:1,,,,0,0,s:as,x,y\n"));
@@ -105,7 +161,7 @@ TEST(SourceReader, SeesMarksOfImportance) {
   EXPECT_TRUE(isImportant("a,,,甲,,,,,0,7,,,\n"));
 }
 
-TEST(SourceReader, RefusesASourceWithoutItsHeader) {
+TEST(SourceReader, ThrowsWithoutAProperHeader) {
   EXPECT_EQ(headerFailure(""), "the source is empty");
   EXPECT_NE(headerFailure("word,meaning\n").find("translation"), std::string::npos);
   EXPECT_NE(headerFailure("translation\n").find("\"word\""), std::string::npos);

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string_view>
+
+/// Kinds of characters in the source texts, by UTF-16 code unit. Characters beyond U+FFFF arrive as
+/// surrogates, which are forbidden: the lookups compare single code units.
+namespace dictionary {
+
+/// Returns whether the bytes are well-formed UTF-8.
+bool isUtf8(std::string_view bytes);
+
+/// Han characters as the text order ranks them, without the compatibility ideographs.
+bool isHan(char16_t unit);
+
+bool isAsciiLetter(char16_t unit);
+bool isDigit(char16_t unit);
+bool isGreek(char16_t unit);
+bool isCyrillic(char16_t unit);
+
+/// Letters of Latin-1 beyond ASCII.
+bool isLatin1Letter(char16_t unit);
+
+/// ASCII or Latin-1 letter.
+bool isLatin(char16_t unit);
+
+/// Characters that no row of the database may hold: controls, invisible characters, combining
+/// marks, surrogates, private use, box drawing, compatibility ideographs (they look like another
+/// character and are never found by typing that one), U+FFFD and noncharacters.
+bool isForbidden(char16_t unit);
+
+/// Characters that the source has in place of a lost Han character: Cyrillic, Bopomofo, vowels with
+/// pinyin tone marks, geometric shapes.
+bool isSubstitute(char16_t unit);
+
+}  // namespace dictionary

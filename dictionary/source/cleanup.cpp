@@ -1,0 +1,122 @@
+#include "dictionary/source/cleanup.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
+
+#include "dictionary/source/characters.h"
+#include "dictionary/source/markup.h"
+
+namespace dictionary {
+namespace {
+
+/// In characters. Longer words are sentences, which nobody looks up as a headword.
+constexpr std::size_t kMaxHeadword = 64;
+
+/// Begins a line that says where the others were taken from.
+constexpr std::u16string_view kCitation = u"以上来源于";
+
+bool isBlank(char16_t unit) {
+  return unit == u' ' || unit == u'\t' || unit == 0xA0 || unit == 0x3000;
+}
+
+bool isInvisible(char16_t unit) {
+  return (unit >= 0x200B && unit <= 0x200F) || unit == 0x2060 || unit == 0xFEFF || unit == 0xAD;
+}
+
+/// Printable ASCII, without what the lookups take as a wildcard, quote or escape.
+bool isHeadwordCharacter(char16_t unit) {
+  constexpr std::u16string_view kUnsearchable = u"%_*\"\\";
+  return unit >= 0x20 && unit < 0x7F && kUnsearchable.find(unit) == std::u16string_view::npos;
+}
+
+/// A character that the source has instead of `meant`.
+struct Substitute {
+  char16_t character;
+  std::u16string_view meant;
+};
+
+/// Found by comparing the entries that contain the substitute with the English words that they
+/// translate. A substitute whose meaning is not certain is not listed: isSubstitute() then keeps
+/// the text out of the dictionary.
+constexpr std::array kSubstitutes = {
+    Substitute{0x0401, u"呎"},    // foot-pound
+    Substitute{0x0416, u"牙合"},  // occlusal; the one character for it lies beyond U+FFFF
+    Substitute{0x0436, u"䏡"},    // albumose, proteose
+    Substitute{0x0449, u"伞"},    // cyme, corymb
+    Substitute{0x044B, u"踇"},    // hallux
+    Substitute{0x0451, u"腘"},    // popliteal
+    Substitute{0x2502, u""},      // a stray mark before some words
+    Substitute{0x25CB, u"〇"},    // the digit in names of compounds
+    Substitute{0x2609, u""},      // a stray mark before some words
+    Substitute{0x2522, u"棓"},    // gallic
+    Substitute{0x252D, u"噁"},    // oxazole
+    Substitute{0x2533, u"䓬"},    // azepine, tropylium
+    Substitute{0x2534, u"芪"},    // stilbene
+    Substitute{0x2535, u"萮"},    // behenic
+    Substitute{0x2537, u"呫"},    // xanthene
+    Substitute{0x2539, u"鎓"},    // onium
+    Substitute{0xE23A, u"棓"},   Substitute{0xE23C, u"噁"}, Substitute{0xE24D, u"鎓"},
+    Substitute{0xE41F, u"踇"},   Substitute{0xE490, u"䏡"}, Substitute{0xE7AB, u"啰"},  // rale
+};
+
+bool insideCyrillicWord(std::u16string_view text, std::size_t position) {
+  return isCyrillic(text[position]) &&
+         ((position > 0 && isCyrillic(text[position - 1])) ||
+          (position + 1 < text.size() && isCyrillic(text[position + 1])));
+}
+
+}  // namespace
+
+std::u16string foldBlanks(std::u16string_view text) {
+  std::u16string folded;
+  for (const char16_t unit : text) {
+    if (isInvisible(unit)) continue;
+    if (!isBlank(unit)) {
+      folded += unit;
+    } else if (!folded.empty() && folded.back() != u' ') {
+      folded += u' ';
+    }
+  }
+  if (folded.ends_with(u' ')) folded.pop_back();
+  return folded;
+}
+
+std::optional<std::u16string> headword(std::u16string_view word) {
+  std::u16string folded = foldBlanks(word);
+  const bool searchable = folded.size() <= kMaxHeadword && !folded.starts_with(u'?') &&
+                          !hasMarkup(folded) && std::ranges::all_of(folded, isHeadwordCharacter) &&
+                          std::ranges::any_of(folded, [](char16_t unit) {
+                            return isAsciiLetter(unit) || isDigit(unit);
+                          });
+  if (!searchable) return std::nullopt;
+  return folded;
+}
+
+std::vector<std::u16string> translationLines(std::u16string_view translation) {
+  std::vector<std::u16string> lines;
+  const std::u16string plain = breakLines(decodeEntities(translation));
+  for (std::size_t begin = 0; begin <= plain.size();) {
+    const std::size_t end = std::min(plain.find(u'\n', begin), plain.size());
+    std::u16string line = foldBlanks(restoreSubstitutes(plain.substr(begin, end - begin)));
+    if (!line.empty() && !line.starts_with(kCitation)) lines.push_back(std::move(line));
+    begin = end + 1;
+  }
+  return lines;
+}
+
+std::u16string restoreSubstitutes(std::u16string_view text) {
+  std::u16string restored;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto* const found = std::ranges::find(kSubstitutes, text[i], &Substitute::character);
+    if (found == kSubstitutes.end() || insideCyrillicWord(text, i)) {
+      restored += text[i];
+    } else {
+      restored += found->meant;
+    }
+  }
+  return restored;
+}
+
+}  // namespace dictionary

@@ -1,0 +1,63 @@
+#include "dictionary/source/cleanup.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using Lines = std::vector<std::u16string>;
+using dictionary::headword;
+using dictionary::translationLines;
+
+TEST(Headword, IsTrimmedAndHasBlanksFolded) {
+  EXPECT_EQ(headword(u"  data \t bank "), u"data bank");
+  EXPECT_EQ(headword(u"it's"), u"it's");
+  EXPECT_EQ(headword(u"2,4-D (acid)"), u"2,4-D (acid)");
+}
+
+TEST(Headword, RefusesWhatLookupsCannotFind) {
+  for (const std::u16string word :
+       {u"", u"   ", u"...", u"alligatoring厄", u"café", u"100%", u"o_O", u"a*b", u"compound \"S\"",
+        u"a\\b", u"?-mark", u"R&amp;D", u"<sigh>"}) {
+    EXPECT_FALSE(headword(word).has_value()) << word.size();
+  }
+  EXPECT_TRUE(headword(u"what for?").has_value());
+  EXPECT_TRUE(headword(std::u16string(64, u'a')).has_value());
+  EXPECT_FALSE(headword(std::u16string(65, u'a')).has_value());
+}
+
+TEST(TranslationLines, SplitsAtEveryKindOfLineBreak) {
+  EXPECT_EQ(translationLines(u"n. 甲\\nv. 乙\\r\\na. 丙<br />丁<BR>戊"),
+            (Lines{u"n. 甲", u"v. 乙", u"a. 丙", u"丁", u"戊"}));
+}
+
+TEST(TranslationLines, CleansEachLine) {
+  EXPECT_EQ(translationLines(u"  [化]\t盐\u00A0酸\u3000 \u200B酸\uFEFF "),
+            (Lines{u"[化] 盐 酸 酸"}));
+  EXPECT_EQ(translationLines(u"\\n \\n"), Lines());
+  EXPECT_EQ(translationLines(u"&beta;版, 8&frac12;英寸"), (Lines{u"β版, 8½英寸"}));
+  EXPECT_EQ(translationLines(u"<i>甲</i>乙"), (Lines{u"甲乙"}));
+  EXPECT_EQ(translationLines(u"<德> n. 甲"), (Lines{u"<德> n. 甲"}));
+}
+
+TEST(TranslationLines, DropsCitations) {
+  EXPECT_EQ(translationLines(u"打脚的\\n以上来源于：《某某词典》"), (Lines{u"打脚的"}));
+}
+
+TEST(RestoreSubstitutes, RestoresHanCharactersThatAreCertain) {
+  EXPECT_EQ(dictionary::restoreSubstitutes(u"异┭唑, 苯胺┹离子, │恶性黑瘤"),
+            u"异噁唑, 苯胺鎓离子, 恶性黑瘤");
+  EXPECT_EQ(dictionary::restoreSubstitutes(u"ё弓状韧带, 聚щ花序, 类ж"),
+            u"腘弓状韧带, 聚伞花序, 类䏡");
+  EXPECT_EQ(dictionary::restoreSubstitutes(u"邻Ж的"), u"邻牙合的");
+  EXPECT_EQ(dictionary::restoreSubstitutes(u"一六○五"), u"一六〇五");
+  EXPECT_EQ(dictionary::restoreSubstitutes(u"苯并\uE23C唑"), u"苯并噁唑");
+}
+
+TEST(RestoreSubstitutes, LeavesCyrillicWordsAlone) {
+  EXPECT_EQ(dictionary::restoreSubstitutes(u"жизнь, ещё"), u"жизнь, ещё");
+}
+
+}  // namespace

@@ -1,0 +1,44 @@
+#include "dictionary/source/markup.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "dictionary/source/cleanup.h"
+
+namespace {
+
+TEST(Markup, DecodesEntities) {
+  EXPECT_EQ(dictionary::decodeEntities(u"a&amp;b &lt;&gt; &#946; &#x3B2;"), u"a&b <> β β");
+  EXPECT_EQ(dictionary::decodeEntities(u"R&D; &;&#;&nothing;"), u"R\uFFFD &;\uFFFD\uFFFD");
+  EXPECT_EQ(dictionary::decodeEntities(u"&#1;&#x10FFFF;&#xZ;&#99999999;"),
+            u"\uFFFD\uFFFD\uFFFD\uFFFD");
+  EXPECT_EQ(dictionary::decodeEntities(u"S&P；甲 & 乙;"), u"S&P；甲 & 乙;");
+}
+
+TEST(Markup, DecodesSubscriptsAndSuperscripts) {
+  EXPECT_EQ(dictionary::decodeEntities(u"维生素A&-{2}, B&-{12a}, C&-{10}H&-{13}NO&-{4}"),
+            u"维生素A2, B12a, C10H13NO4");
+  EXPECT_EQ(dictionary::decodeEntities(u"维生素H&+{-3}; =fog&{2}"), u"维生素H-3; =fog");
+  EXPECT_EQ(dictionary::decodeEntities(u"A&-, &-{2, &{甲}"), u"A&-, &-{2, &{甲}");
+  EXPECT_EQ(dictionary::translationLines(u"[生化]吡哆醛,维生素B&-{6}"),
+            (std::vector<std::u16string>{u"[生化]吡哆醛,维生素B6"}));
+}
+
+TEST(Markup, ReplacesANumberedCharacterByUFffd) {
+  EXPECT_EQ(dictionary::decodeEntities(u"内<&14&>动脉"), u"内\uFFFD动脉");
+  EXPECT_EQ(dictionary::decodeEntities(u"<&&> <&14> <甲&14&> <&"), u"<&&> <&14> <甲&14&> <&");
+}
+
+TEST(Markup, IsFoundByHasMarkup) {
+  for (const std::u16string text : {u"维生素A&-{2}", u"H&+{-3}", u"fog&{2}", u"内<&14&>动脉",
+                                    u"&beta;", u"<br />", u"甲\\n乙"}) {
+    EXPECT_TRUE(dictionary::hasMarkup(text)) << text.size();
+  }
+  for (const std::u16string text : {u"A&B", u"<德>甲", u"{2}", u"甲 & 乙"}) {
+    EXPECT_FALSE(dictionary::hasMarkup(text)) << text.size();
+  }
+}
+
+}  // namespace
