@@ -7,10 +7,12 @@
 namespace dictionary {
 namespace {
 
+/// Opening and closing brackets at the same index belong together: three round ones, then five
+/// square ones, then angle ones.
 constexpr std::u16string_view kOpening = u"(（﹙[［〔【〖<〈＜";
 constexpr std::u16string_view kClosing = u")）﹚]］〕】〗>〉＞";
-/// Longer notes and quotations are taken for brackets that do not close, which also keeps the work
-/// on a hostile text proportional to its length.
+/// In characters. A longer note or quotation counts as one that does not close, which also keeps
+/// the time for a text of opening brackets proportional to its length.
 constexpr std::size_t kMaxGroup = 400;
 
 constexpr std::size_t kFirstSquare = 3;
@@ -25,10 +27,12 @@ Bracket kindAt(std::size_t index) {
   return index < kFirstAngle ? Bracket::kSquare : Bracket::kAngle;
 }
 
+/// "III" in 四氯合金(III)酸钾.
 bool isValence(std::u16string_view content) {
   return !content.empty() && content.find_first_not_of(u"IVX") == std::u16string_view::npos;
 }
 
+/// "1,2-b" in 茚并[1,2-b]吲哚.
 bool isRingPosition(std::u16string_view content) {
   return !content.empty() && std::ranges::all_of(content, [](char16_t unit) {
     return isDigit(unit) || (unit >= u'a' && unit <= u'z') || unit == u',' || unit == u'-' ||
@@ -41,7 +45,8 @@ bool holdsLocant(std::u16string_view content) {
                              [](char16_t unit) { return isDigit(unit) || isAsciiLetter(unit); });
 }
 
-/// Whether the group between `open` and `close` is part of a chemical name instead of a note.
+/// Returns whether the bracketed text from `open` to `close` is part of a chemical name, not a
+/// note.
 bool isPartOfName(std::u16string_view text, std::size_t open, std::size_t close) {
   if (open == 0 || close + 1 == text.size()) return false;
   const char16_t before = text[open - 1];

@@ -9,7 +9,7 @@
 namespace dictionary {
 namespace {
 
-/// The headword behind an equals sign, if the piece is nothing else.
+/// The headword after an equals sign if the piece is nothing else.
 std::optional<std::u16string> referenceIn(const Piece& piece) {
   if (piece.equivalent.fault != PieceFault::kNoHan) return std::nullopt;
   const std::u16string text = foldBlanks(withoutNotes(piece.noted));

@@ -9,16 +9,16 @@
 
 namespace dictionary {
 
-/// A headword with its translation taken apart.
+/// A headword with its parsed translation.
 struct Entry {
   std::u16string headword;
-  bool important = false;
+  bool important = false;  ///< as in SourceEntry
   std::vector<TranslationLine> lines;
-  /// Other headwords that the entry says it means the same as: "= groundsheet".
+  /// Other headwords that the entry gives as its meaning: "= groundsheet".
   std::vector<std::u16string> references;
 };
 
-/// Takes an entry of the source apart; nothing if its word cannot be a headword.
+/// Parses an entry of the source; nullopt if its word cannot be a headword (see headword()).
 std::optional<Entry> extractEntry(const SourceEntry& source);
 
 }  // namespace dictionary

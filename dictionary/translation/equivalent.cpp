@@ -5,16 +5,156 @@
 #include <cstddef>
 
 #include "dictionary/source/characters.h"
-#include "dictionary/translation/piece_text.h"
+#include "dictionary/translation/brackets.h"
+
+// A piece becomes a headword in two steps: headwordText() rewrites it, each rule in a function of
+// its own and in an order that matters (quotation marks are balanced before dots are trimmed, say);
+// findFault() then refuses what still cannot be a headword.
 
 namespace dictionary {
 namespace {
 
 using namespace std::string_view_literals;
 
+/// The form of a character that headwords use: ASCII for wide forms, one character for each kind of
+/// prime, middle dot, hyphen and so on.
+char16_t narrow(char16_t unit) {
+  if (unit >= 0xFF01 && unit <= 0xFF5D) return static_cast<char16_t>(unit - 0xFEE0);
+  switch (unit) {
+    case u'\'':
+    case u'’':
+    case u'‘':
+      return u'′';
+    case u'•':
+    case u'‧':
+    case u'・':
+      return u'·';
+    case u'—':
+    case u'–':
+    case u'―':
+      return u'-';
+    case u'º':
+      return u'°';
+    case u'~':
+      return u'～';
+    default:
+      return unit;
+  }
+}
+
+/// Turns straight quotation marks into opening and closing ones by turns. Single ones are quotation
+/// marks if the first precedes Chinese text and their number is even; otherwise they are primes.
+std::u16string curled(std::u16string_view text) {
+  std::u16string result(text);
+  const std::size_t single = text.find(u'\'');
+  const bool singleQuotes = single + 1 < text.size() && isHan(text[single + 1]) &&
+                            std::ranges::count(text, u'\'') % 2 == 0;
+  bool open = false;
+  for (char16_t& unit : result) {
+    if (unit == u'"' || unit == u'＂' || (unit == u'\'' && singleQuotes)) {
+      open = !open;
+      unit = open ? u'“' : u'”';
+    }
+  }
+  return result;
+}
+
+/// Narrows every character, replaces three full stops by an ellipsis and folds ellipses to one.
+std::u16string narrowed(std::u16string_view text) {
+  std::u16string result;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    char16_t unit = narrow(text[i]);
+    if (text.substr(i).starts_with(u"...")) {
+      unit = u'…';
+      i += 2;
+    }
+    if (unit == u'…' && result.ends_with(u'…')) continue;
+    result += unit;
+  }
+  return result;
+}
+
+bool isOneOf(char16_t unit, std::u16string_view units) {
+  return units.find(unit) != std::u16string_view::npos;
+}
+
+std::u16string_view trimmed(std::u16string_view text) {
+  while (!text.empty() && isOneOf(text.front(), u" …。.:=·,")) text.remove_prefix(1);
+  while (!text.empty() && isOneOf(text.back(), u" …。.!?:=·,-")) text.remove_suffix(1);
+  return text;
+}
+
+/// Removes the hyphen that a deleted note leaves at the beginning: "(Z)-丁烯酸".
+std::u16string_view withoutHyphen(std::u16string_view text) {
+  const bool left =
+      text.size() > 2 && text[0] == u'-' && (isHan(text[1]) || isDigit(text[1]) || text[1] == u' ');
+  return left ? text.substr(text[1] == u' ' ? 2 : 1) : text;
+}
+
+/// Removes quotation marks around the whole text or around a foreign word at its beginning.
+std::u16string withoutQuotes(std::u16string_view text) {
+  const std::size_t end = text.empty() ? std::u16string_view::npos : quotationEnd(text, 0);
+  if (end == std::u16string_view::npos) return std::u16string(text);
+  const std::u16string_view quoted = text.substr(1, end - 2);
+  const bool foreign = std::ranges::all_of(quoted, [](char16_t unit) { return unit < 0x100; });
+  if (end != text.size() && !foreign) return std::u16string(text);
+  return std::u16string(quoted) + std::u16string(text.substr(end));
+}
+
+/// Removes the foreign words before a blank and the Chinese text: the expansion of an abbreviation
+/// ("National Gallery 国家美术馆"), or forms of the headword ("-dled, -dling 逃走").
+std::u16string_view withoutExpansion(std::u16string_view text, bool abbreviation) {
+  const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
+  std::size_t length = 0;
+  while (length < text.size() && text[length] < 0x100) ++length;
+  const std::u16string_view foreign = text.substr(0, length);
+  const auto blanks = std::ranges::count(foreign, u' ');
+  const bool parted = foreign.ends_with(u' ') || (abbreviation && blanks > 1);
+  if (length == text.size() || length < 2 || !isHan(text[length]) || !parted) return text;
+  const auto small = std::ranges::count_if(foreign, isSmall);
+  const bool words =
+      isLatin(foreign[0]) && small > 1 && (abbreviation || std::ranges::count(foreign, u' ') > 1);
+  const bool forms = foreign[0] == u'-' && small > 0;
+  return words || forms ? text.substr(length) : text;
+}
+
+/// Removes the expansion of an abbreviation after its translation ("商用货架产品 commercial
+/// off-the-shelf"): two words or more with more than four small letters.
+std::u16string_view withoutTail(std::u16string_view text) {
+  const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
+  std::size_t begin = text.size();
+  while (begin > 0 && text[begin - 1] < 0x100) --begin;
+  const std::u16string_view foreign = text.substr(begin);
+  const bool words = begin > 0 && isHan(text[begin - 1]) &&
+                     foreign.find(u' ', 1) != std::u16string_view::npos &&
+                     std::ranges::count_if(foreign, isSmall) > 4;
+  return words ? text.substr(0, begin) : text;
+}
+
+/// Removes blanks except those between two foreign words: Chinese is written without blanks.
+std::u16string withoutChineseBlanks(std::u16string_view text) {
+  std::u16string result;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool betweenForeign =
+        i > 0 && i + 1 < text.size() && text[i - 1] < 0x2000 && text[i + 1] < 0x2000;
+    if (text[i] != u' ' || betweenForeign) result += text[i];
+  }
+  return result;
+}
+
+/// The text of a piece as a Chinese headword is written, whatever it is fit for.
+std::u16string headwordText(std::u16string_view piece, bool abbreviation) {
+  const std::u16string plain = narrowed(curled(withoutNotes(piece)));
+  const std::u16string bare = withoutQuotes(trimmed(plain));
+  const std::u16string_view chinese =
+      withoutHyphen(withoutTail(withoutExpansion(bare, abbreviation)));
+  return withoutChineseBlanks(trimmed(chinese));
+}
+
+/// Characters of the longest Chinese headword; longer pieces are explanations.
 constexpr std::size_t kMaxWord = 20;
 
-/// They translate nothing by themselves.
+/// Words that translate nothing by themselves.
 constexpr std::array kLabels = {u"人名"sv, u"的"sv, u"亦作"sv, u"又作"sv, u"略作"sv};
 
 bool isAllowed(char16_t unit) {
@@ -25,7 +165,7 @@ bool isAllowed(char16_t unit) {
 
 bool hasHan(std::u16string_view text) { return std::ranges::any_of(text, isHan); }
 
-/// Whether marks are left that belong to something deleted or lost.
+/// Returns whether `word` contains marks whose counterpart was deleted or lost.
 bool hasLooseEnds(std::u16string_view word) {
   constexpr std::array kPairs = {u"“”"sv, u"《》"sv, u"()"sv, u"[]"sv};
   const bool unbalanced = std::ranges::any_of(kPairs, [&](std::u16string_view pair) {
@@ -40,7 +180,7 @@ bool hasLooseEnds(std::u16string_view word) {
          word.find(u"--") != std::u16string_view::npos;
 }
 
-/// "见 -ion" says where else to look; "的简写" is what is left behind a foreign word.
+/// "见 -ion" refers to another entry; "的简写" is what remains after a foreign word is removed.
 bool isReference(std::u16string_view word) {
   const bool elsewhere =
       word.size() > 1 && word[0] == u'见' && (isLatin(word[1]) || word[1] == u'-');
@@ -92,7 +232,7 @@ Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation) {
 bool isIntact(std::u16string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (isForbidden(text[i]) || isSubstitute(text[i])) return false;
-    // An accented letter that stands alone is what is left of a Han character.
+    // A single accented letter is the remnant of a lost Han character.
     const bool afterLatin = i > 0 && isLatin(text[i - 1]);
     const bool beforeLatin = i + 1 < text.size() && isLatin(text[i + 1]);
     if (isLatin1Letter(text[i]) && !afterLatin && !beforeLatin) return false;

@@ -6,13 +6,13 @@
 
 namespace dictionary {
 
-/// Why a piece of a translation is no Chinese headword.
+/// Why a piece of a translation cannot be a Chinese headword.
 enum class PieceFault : std::uint8_t {
   kNone,
-  kNoHan,          ///< holds no Han character
+  kNoHan,          ///< contains no Han character
   kTooLong,        ///< more than 20 characters
-  kPunctuation,    ///< punctuation or a wildcard is left over
-  kLostCharacter,  ///< holds a character that stands for a lost one, or none a row may hold
+  kPunctuation,    ///< contains punctuation or a wildcard that could not be removed
+  kLostCharacter,  ///< contains a substitute for a lost character, or a forbidden one
   kLabel,          ///< names a kind of word ("人名"), or is a bare particle
   kExplanation,    ///< explains a name instead of translating it
   kCount,
@@ -21,16 +21,19 @@ enum class PieceFault : std::uint8_t {
 /// What a report calls the fault, e.g. "longer than 20 characters".
 std::string_view describe(PieceFault fault);
 
-/// A piece of a translation as a Chinese headword; `word` is "" if there is a fault.
+/// A piece of a translation as a Chinese headword; `word` is empty if there is a fault.
 struct Equivalent {
   std::u16string word;
   PieceFault fault = PieceFault::kNone;
 };
 
-/// Makes a Chinese headword of a piece (see headwordText), or says why there is none.
+/// Makes a Chinese headword of a piece: notes are deleted, wide forms narrowed, outer quotation
+/// marks, dots and blanks removed. Of an abbreviation, the foreign words that it stands for are
+/// removed as well; a single one only if `abbreviation` is set, which says that the line translates
+/// an abbreviation.
 Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation);
 
-/// Whether no lost or forbidden character stands in `text`.
+/// Returns whether `text` contains neither forbidden characters nor substitutes for lost ones.
 bool isIntact(std::u16string_view text);
 
 }  // namespace dictionary

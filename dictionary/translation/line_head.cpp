@@ -9,13 +9,13 @@
 namespace dictionary {
 namespace {
 
-/// Subjects whose lines use one-character brackets for something else.
+/// Subjects whose lines use one-character brackets for optional characters, not for tags.
 constexpr SubjectSet kNoShortTagsAfter = setOf(Subject::kMedicine) | setOf(Subject::kComputing);
 
-/// Length of what may stand between a note or numeral and a part-of-speech mark: "& ", "Ⅰ " (also
-/// as "l "), and the full stop of "n<古>.".
-std::size_t strayLength(std::u16string_view text, bool behindNote) {
-  if (behindNote && text.starts_with(u'.')) return 1;
+/// Length of the stray characters before a part-of-speech mark that can be skipped: "& ", a numeral
+/// of a sense ("Ⅰ ", in the source also "l "), and after a note the full stop of "n<古>.".
+std::size_t strayLength(std::u16string_view text, bool afterNote) {
+  if (afterNote && text.starts_with(u'.')) return 1;
   for (const std::u16string_view numeral : {u"l ", u"ll "}) {
     if (text.starts_with(numeral) && partOfSpeechLength(text.substr(numeral.size())) > 0) {
       return numeral.size();
@@ -35,13 +35,13 @@ std::size_t strayLength(std::u16string_view text, bool behindNote) {
 LineHead readHead(std::u16string_view text, bool shortTags) {
   LineHead head;
   std::size_t position = 0;
-  bool behindNote = false;
+  bool afterNote = false;
   for (;;) {
     while (position < text.size() && text[position] == u' ') ++position;
     head.length = position;
     if (position == text.size()) return head;
     const std::u16string_view rest = text.substr(position);
-    const std::size_t skipped = std::max(partOfSpeechLength(rest), strayLength(rest, behindNote));
+    const std::size_t skipped = std::max(partOfSpeechLength(rest), strayLength(rest, afterNote));
     if (skipped > 0) {
       position += skipped;
       head.abbreviation = head.abbreviation || rest.starts_with(u"abbr");
@@ -60,7 +60,7 @@ LineHead readHead(std::u16string_view text, bool shortTags) {
     if (subjects == 0) head.notes += text.substr(position, close + 1 - position);
     head.subjects |= subjects;
     position = close + 1;
-    behindNote = true;
+    afterNote = true;
   }
 }
 

@@ -11,6 +11,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
+/// Every mark that occurs in the source, without its full stop.
 constexpr std::array kMarks = {
     u"n"sv,     u"a"sv,    u"v"sv,     u"vt"sv,  u"vi"sv,     u"adj"sv,  u"adv"sv,    u"ad"sv,
     u"abbr"sv,  u"un"sv,   u"na"sv,    u"int"sv, u"interj"sv, u"pl"sv,   u"pref"sv,   u"prep"sv,
@@ -20,9 +21,10 @@ constexpr std::array kMarks = {
     u"symb"sv,  u"pren"sv, u"stuff"sv,
 };
 
-/// Marks that occur without their full stop.
+/// Marks that also occur without their full stop.
 constexpr std::array kBareMarks = {u"n"sv, u"v"sv, u"a"sv, u"vt"sv, u"vi"sv, u"adj"sv, u"adv"sv};
 
+/// Characters between the marks of one sense: "vt. & vi.".
 constexpr std::u16string_view kLinks = u"&,/，、";
 
 std::size_t blanksAt(std::u16string_view text, std::size_t position) {
@@ -36,7 +38,8 @@ bool beginsChinese(std::u16string_view text) {
                            text[0] == u'…' || text[0] == u'“' || text[0] == u'《');
 }
 
-/// Whether a note and then the mark's full stop follow: "n<古>.", "a[生化].".
+/// Returns whether `text`, which follows a mark, is a note and then the mark's full stop: "n<古>.",
+/// "a[生化].".
 bool isNoteThenStop(std::u16string_view text) {
   if (text.empty() || openingBracket(text[0]) == Bracket::kNone) return false;
   const std::size_t close = closingPosition(text, 0);
@@ -72,7 +75,7 @@ std::size_t stoppedMarkLength(std::u16string_view text) {
   return combining ? form + kForm.size() : letters + 1;
 }
 
-/// Length of one mark without what links it to the next.
+/// Length of one mark without the link to the next.
 std::size_t markLength(std::u16string_view text) {
   if (const std::size_t stopped = stoppedMarkLength(text); stopped > 0) return stopped;
   const std::size_t letters = lettersAt(text);

@@ -14,14 +14,17 @@ namespace {
 
 using namespace std::string_view_literals;
 
+/// What follows the base word in a note on an inflected form.
 constexpr std::array kInflections = {u"的复数"sv,     u"的过去式"sv,   u"的过去分词"sv,
                                      u"的现在分词"sv, u"的第三人称"sv, u"的比较级"sv,
                                      u"的最高级"sv};
+/// In characters: a longer note is a sentence.
 constexpr std::size_t kMaxInflection = 48;
 
-/// Enough to see the longest part-of-speech mark.
+/// Characters that decide whether a part-of-speech mark follows; limits the time per comma.
 constexpr std::size_t kMaxMark = 8;
 
+/// The wide form of a separator; 0 for any other character.
 char16_t separatorAt(char16_t unit) {
   switch (unit) {
     case u',':
@@ -40,6 +43,7 @@ char16_t separatorAt(char16_t unit) {
   }
 }
 
+/// Characters between which a comma joins the locants of a chemical name.
 bool isLocant(char16_t unit) {
   return isDigit(unit) || isLatin(unit) || isGreek(unit) || unit == u'\'' || unit == u'′';
 }
@@ -55,19 +59,21 @@ bool joinsLocants(std::u16string_view text, std::size_t comma) {
   return next < text.size() && isLocant(text[comma - 1]) && isLocant(text[next]);
 }
 
-/// Whether another sense begins at `at` without a separator before it.
+/// Returns whether another sense begins at `at` without a separator before it.
 bool runsIntoNextSense(std::u16string_view text, std::size_t at) {
   const std::size_t blank = at > 0 && text[at - 1] == u' ' ? 1 : 0;
   return at > blank && isHan(text[at - 1 - blank]) && beginsFurtherSense(text.substr(at));
 }
 
+/// Index after the brackets or quotation that open at `open`; npos if none do, or if they do not
+/// close.
 std::size_t closedGroupEnd(std::u16string_view text, std::size_t open) {
   if (openingBracket(text[open]) == Bracket::kNone) return quotationEnd(text, open);
   const std::size_t close = closingPosition(text, open);
   return close == std::u16string_view::npos ? close : close + 1;
 }
 
-/// Whether `note` is a foreign word and what form of it the headword is, and nothing else.
+/// Returns whether `note` consists of a foreign word and the name of one of its forms.
 bool isInflection(std::u16string_view note) {
   const bool named = std::ranges::any_of(kInflections, [&](std::u16string_view inflection) {
     return note.find(inflection) != std::u16string_view::npos;

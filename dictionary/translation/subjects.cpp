@@ -5,8 +5,8 @@
 namespace dictionary {
 namespace {
 
-/// The spellings of each subject's tag in the source, parted by blanks. Marks of usage (美 英 口 俚
-/// 古 诗 …) and countries are no subjects.
+/// The spellings of each subject's tag in the source, separated by blanks. Marks of usage (美 英 口
+/// 俚 古 诗 …) and countries are no subjects.
 constexpr std::array<std::u16string_view, kSubjectCount> kTags = {
     // Medicine
     u"医 医学 药 药物 药学 解 解剖 解剖学 生理 生理学 病理 病理学 免疫 免疫学 胚 胚胎 兽 兽医 "

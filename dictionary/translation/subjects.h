@@ -46,17 +46,19 @@ constexpr SubjectSet setOf(Subject subject) {
 
 inline constexpr SubjectSet kNameSubjects = setOf(Subject::kPerson) | setOf(Subject::kPlace);
 
+/// A subject dictionary in the catalogue.
 struct SubjectInfo {
   std::string_view table;    ///< table name: ASCII letters, no SQL keyword, no fixed table's name
   std::u16string_view name;  ///< what the windows show
 };
 
+/// By Subject.
 extern const std::array<SubjectInfo, kSubjectCount> kSubjectInfos;
 
 /// The dictionary that is preselected when the multi-dictionary window opens.
 inline constexpr Subject kDefaultSubject = Subject::kMedicine;
 
-/// Subjects meant by a bracketed tag ("医", "动物学"); none for a mark of usage or a note.
+/// Subjects that a bracketed tag names ("医", "动物学"); 0 for a mark of usage or a note.
 SubjectSet subjectsOfTag(std::u16string_view tag);
 
 }  // namespace dictionary

@@ -8,18 +8,17 @@
 #include "dictionary/source/cleanup.h"
 #include "dictionary/source/markup.h"
 #include "dictionary/translation/brackets.h"
-#include "dictionary/translation/explanation.h"
 #include "dictionary/translation/line_head.h"
-#include "dictionary/translation/name_piece.h"
+#include "dictionary/translation/names.h"
 #include "dictionary/translation/pieces.h"
 
 namespace dictionary {
 namespace {
 
-/// Lines of this subject mark characters that may be left out with the brackets of tags.
+/// Lines of this subject enclose optional characters in the brackets of tags.
 constexpr SubjectSet kLongTagsOnly = setOf(Subject::kMedicine);
 
-/// A note without blanks inside its brackets; "" if it holds lost characters.
+/// A note without blanks inside its brackets; "" if it contains forbidden characters.
 std::u16string cleanNote(std::u16string_view note) {
   if (std::ranges::any_of(note, isForbidden)) return {};
   std::u16string clean(note);
@@ -28,8 +27,9 @@ std::u16string cleanNote(std::u16string_view note) {
   return clean;
 }
 
-/// The piece as a subject dictionary shows it: notes that hold lost characters are left out; ""
-/// where such a character stands elsewhere.
+/// The piece as a subject dictionary shows it: notes that contain forbidden characters are left
+/// out;
+/// "" if such a character, or a substitute for a lost one, occurs outside notes.
 std::u16string notedText(std::u16string_view piece) {
   std::u16string noted;
   for (std::size_t i = 0; i < piece.size(); ++i) {
@@ -47,7 +47,7 @@ std::u16string notedText(std::u16string_view piece) {
   return foldBlanks(noted);
 }
 
-/// One line on its way to pieces: what holds from one piece to the next.
+/// Parses one line. The members are the state that carries over from one piece to the next.
 class LineParser {
  public:
   explicit LineParser(std::u16string_view line)
@@ -56,15 +56,15 @@ class LineParser {
   std::vector<Piece> pieces();
 
  private:
-  /// `next` is what parts the piece from the one behind it, 0 for the last.
+  /// `next` is the separator after the piece, 0 for the last.
   void addPiece(const RawPiece& raw, char16_t next);
   [[nodiscard]] Equivalent equivalentOf(std::u16string_view text, SubjectSet subjects,
                                         bool introduced);
 
   std::u16string_view line_;
   LineHead head_;
-  SubjectSet current_;       ///< of pieces without a tag of their own
-  bool explaining_ = false;  ///< whether an explanation began in this clause
+  SubjectSet current_;       ///< subjects of pieces without a tag of their own
+  bool explaining_ = false;  ///< whether an explanation began since the last semicolon
   std::vector<Piece> pieces_;
 };
 
@@ -74,7 +74,7 @@ Equivalent LineParser::equivalentOf(std::u16string_view text, SubjectSet subject
   const Explained explained = splitExplanation(text);
   explaining_ = explained.explains;
   if ((subjects & kNameSubjects) == 0) return makeEquivalent(explained.word, head_.abbreviation);
-  // Behind a tagged name, what has no tag or note of its own tells where the name comes from.
+  // After a tagged name, a piece without a tag or note of its own explains where the name is from.
   const bool isName = introduced || (head_.subjects & kNameSubjects) == 0;
   if (!isName) return {u"", PieceFault::kExplanation};
   return makeEquivalent(leadingName(explained.word), false);

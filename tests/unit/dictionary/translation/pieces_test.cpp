@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/translation/brackets.h"
-
 namespace {
 
 using Texts = std::vector<std::u16string>;
@@ -19,14 +17,14 @@ Texts split(std::u16string_view text) {
   return texts;
 }
 
-TEST(SplitPieces, PartsAtSeparatorsNarrowAndWide) {
+TEST(SplitPieces, SplitsAtNarrowAndWideSeparators) {
   EXPECT_EQ(split(u"甲, 乙;丙；丁，戊、己!庚！"),
             (Texts{u"甲", u"乙", u"丙", u"丁", u"戊", u"己", u"庚"}));
   EXPECT_EQ(split(u" , ;甲,, "), (Texts{u"甲"}));
   EXPECT_EQ(split(u""), Texts());
 }
 
-TEST(SplitPieces, RemembersTheSeparatorBefore) {
+TEST(SplitPieces, ReturnsTheSeparatorBeforeEachPiece) {
   const std::u16string text = u"甲,乙；丙、丁!戊";
   std::u16string separators;
   for (const dictionary::RawPiece& piece : dictionary::splitPieces(text)) {
@@ -35,26 +33,26 @@ TEST(SplitPieces, RemembersTheSeparatorBefore) {
   EXPECT_EQ(separators, u"0，；、！");
 }
 
-TEST(SplitPieces, LeavesBracketsAndQuotesWhole) {
+TEST(SplitPieces, DoesNotSplitInsideBracketsAndQuotes) {
   EXPECT_EQ(split(u"覆盖(马,鹰等)头罩；“又矮,又胖”的人, [甲、乙]丙"),
             (Texts{u"覆盖(马,鹰等)头罩", u"“又矮,又胖”的人", u"[甲、乙]丙"}));
   EXPECT_EQ(split(u"甲（乙,丙)丁,戊"), (Texts{u"甲（乙,丙)丁", u"戊"}));
   EXPECT_EQ(split(u"甲(乙(丙,丁)戊,己)庚,辛"), (Texts{u"甲(乙(丙,丁)戊,己)庚", u"辛"}));
 }
 
-TEST(SplitPieces, PartsBehindABracketThatDoesNotClose) {
+TEST(SplitPieces, IgnoresABracketThatDoesNotClose) {
   EXPECT_EQ(split(u"甲(乙,丙"), (Texts{u"甲(乙", u"丙"}));
   EXPECT_EQ(split(u"甲“乙,丙"), (Texts{u"甲“乙", u"丙"}));
 }
 
-TEST(SplitPieces, KeepsCommasInsideNamesOfCompounds) {
+TEST(SplitPieces, KeepsCommasInsideChemicalNames) {
   EXPECT_EQ(split(u"2,4-二氯苯, 1,2-二溴乙烷"), (Texts{u"2,4-二氯苯", u"1,2-二溴乙烷"}));
   EXPECT_EQ(split(u"N,N-二甲基; 4',5-甲"), (Texts{u"N,N-二甲基", u"4',5-甲"}));
   EXPECT_EQ(split(u"1, 4-二氮杂苯"), (Texts{u"1, 4-二氮杂苯"}));
   EXPECT_EQ(split(u"维生素A, B"), (Texts{u"维生素A", u"B"}));
 }
 
-TEST(SplitPieces, PartsBeforeAPartOfSpeech) {
+TEST(SplitPieces, SplitsBeforeAPartOfSpeechMark) {
   EXPECT_EQ(split(u"ambiance,n.周围, 气氛"), (Texts{u"ambiance", u"n.周围", u"气氛"}));
   EXPECT_EQ(split(u"渗透现象v.使渗透"), (Texts{u"渗透现象", u"v.使渗透"}));
   EXPECT_EQ(split(u"脱离轨道 ll n.( 航空器等的)脱离轨道"),
@@ -63,7 +61,7 @@ TEST(SplitPieces, PartsBeforeAPartOfSpeech) {
             (Texts{u"维生素n.1", u"在farther的adj.的(甲v.乙)"}));
 }
 
-TEST(SplitPieces, TakesTimeInProportionToTheLength) {
+TEST(SplitPieces, TakesLinearTime) {
   const std::u16string hostile(30000, u'(');
   EXPECT_EQ(split(hostile).size(), 1U);
 }
@@ -77,22 +75,6 @@ TEST(InflectionNote, IsReadFromALine) {
   EXPECT_EQ(dictionary::inflectionNote(u"(apple%的复数) n. 苹果"), u"");
   EXPECT_EQ(dictionary::inflectionNote(u"n. 数据(计算机用)"), u"");
   EXPECT_EQ(dictionary::inflectionNote(u"名词的复数, (名词的复数)"), u"");
-}
-
-TEST(Brackets, NotesAreDeleted) {
-  EXPECT_EQ(dictionary::withoutNotes(u"小脑[多发性]硬化(见下)"), u"小脑硬化");
-  EXPECT_EQ(dictionary::withoutNotes(u"甲（乙(丙)丁）戊〔己〕庚【辛】<美>壬"), u"甲戊庚壬");
-  EXPECT_EQ(dictionary::withoutNotes(u"甲(乙"), u"甲(乙");
-  EXPECT_EQ(dictionary::withoutNotes(u"甲)乙"), u"甲)乙");
-}
-
-TEST(Brackets, ThoseOfCompoundsStay) {
-  EXPECT_EQ(dictionary::withoutNotes(u"苯并[c]呋喃酮"), u"苯并[c]呋喃酮");
-  EXPECT_EQ(dictionary::withoutNotes(u"茚并[1,2-b]吲哚"), u"茚并[1,2-b]吲哚");
-  EXPECT_EQ(dictionary::withoutNotes(u"2-(1-萘甲基)-咪唑啉"), u"2-(1-萘甲基)-咪唑啉");
-  EXPECT_EQ(dictionary::withoutNotes(u"四氯合金(III)酸钾"), u"四氯合金(III)酸钾");
-  EXPECT_EQ(dictionary::withoutNotes(u"顺(式)-1,4-聚异戊二烯"), u"顺-1,4-聚异戊二烯");
-  EXPECT_EQ(dictionary::withoutNotes(u"爱克斯[X]射线"), u"爱克斯射线");
 }
 
 }  // namespace

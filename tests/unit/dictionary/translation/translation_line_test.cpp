@@ -16,7 +16,7 @@ using dictionary::Subject;
 using dictionary::subjectText;
 using Texts = std::vector<std::u16string>;
 
-/// The line's Chinese headwords.
+/// The Chinese headwords of the line.
 Texts words(std::u16string_view line) {
   Texts result;
   for (const Piece& piece : parseLine(line).pieces) {
@@ -29,7 +29,7 @@ std::u16string text(std::u16string_view line, Subject subject) {
   return subjectText(parseLine(line), subject);
 }
 
-TEST(LineHead, HoldsMarksTagsAndNotes) {
+TEST(ReadHead, ReadsMarksTagsAndNotes) {
   const dictionary::LineHead head = dictionary::readHead(u"(data 的复数) n. [计] 数据", true);
   EXPECT_EQ(head.subjects, setOf(Subject::kComputing));
   EXPECT_EQ(head.notes, u"(data 的复数)");
@@ -37,7 +37,7 @@ TEST(LineHead, HoldsMarksTagsAndNotes) {
   EXPECT_TRUE(dictionary::readHead(u"abbr. [计] 甲", true).abbreviation);
 }
 
-TEST(LineHead, MayHoldSeveralTags) {
+TEST(ReadHead, ReadsSeveralTags) {
   EXPECT_EQ(dictionary::readHead(u"n. [数][天] 横坐标", true).subjects,
             setOf(Subject::kMathematics) | setOf(Subject::kPhysics));
   EXPECT_EQ(dictionary::readHead(u"[计][修]逐块", true).subjects, setOf(Subject::kComputing));
@@ -45,61 +45,61 @@ TEST(LineHead, MayHoldSeveralTags) {
   EXPECT_EQ(dictionary::readHead(u"〔植〕甲", true).subjects, setOf(Subject::kBotany));
 }
 
-TEST(LineHead, SkipsStrayMarksBeforeAPartOfSpeech) {
+TEST(ParseLine, SkipsStrayMarksBeforeAPartOfSpeech) {
   EXPECT_EQ(words(u"a. [通常作表语], adv. 在晕厥中(的)"), (Texts{u"在晕厥中"}));
   EXPECT_EQ(words(u"[鱼]Ⅰ adj.总鳃类的"), (Texts{u"总鳃类的"}));
   EXPECT_EQ(words(u"n<古>.乡下人, 老粗"), (Texts{u"乡下人", u"老粗"}));
   EXPECT_EQ(words(u"adv. &. adj.[数]逐项地(的)"), (Texts{u"逐项地"}));
 }
 
-TEST(LineHead, SkipsNumeralsThatBecameLetters) {
+TEST(ParseLine, SkipsNumeralsThatBecameLetters) {
   EXPECT_EQ(words(u"l adj.(爱琴海中)得洛斯岛(Delos)的ll n.得洛斯人"),
             (Texts{u"得洛斯岛的", u"得洛斯人"}));
   EXPECT_EQ(words(u"l v.(使)(航空器等)脱离轨道 ll n.( 航空器等的)脱离轨道"),
             (Texts{u"脱离轨道", u"脱离轨道"}));
 }
 
-TEST(TranslationLine, PartsSensesThatRunIntoOneAnother) {
+TEST(ParseLine, SplitsSensesWithoutASeparator) {
   EXPECT_EQ(words(u"n. 渗透现象v.使渗透"), (Texts{u"渗透现象", u"使渗透"}));
   EXPECT_EQ(words(u"a. 全部的n.罩衫, 工装裤"), (Texts{u"全部的", u"罩衫", u"工装裤"}));
   EXPECT_EQ(text(u"[医] 地方病 adj.风土的", Subject::kMedicine), u"地方病；风土的");
   EXPECT_EQ(words(u"ambiance,n.周围, 气氛"), (Texts{u"周围", u"气氛"}));
 }
 
-TEST(TranslationLine, GivesItsPieces) {
+TEST(ParseLine, ReturnsThePieces) {
   EXPECT_EQ(words(u"n. 罩；风帽；（布质）面罩"), (Texts{u"罩", u"风帽", u"面罩"}));
   EXPECT_EQ(words(u"[医] [心]加速纤维"), (Texts{u"加速纤维"}));
   EXPECT_EQ(words(u"n. [有化] 醋酸盐, [有化] 乙酸盐"), (Texts{u"醋酸盐", u"乙酸盐"}));
   EXPECT_EQ(words(u"= bleak"), Texts());
 }
 
-TEST(TranslationLine, ATagHoldsForTheLine) {
+TEST(ParseLine, AppliesALeadingTagToTheLine) {
   EXPECT_EQ(text(u"[医] 小脑[多发性]硬化, 硬化(症)", Subject::kMedicine),
             u"小脑[多发性]硬化，硬化(症)");
   EXPECT_EQ(text(u"[医] 甲, 乙", Subject::kChemistry), u"");
 }
 
-TEST(TranslationLine, APieceMayHaveItsOwnTag) {
+TEST(ParseLine, AppliesATagInsideTheLineToItsPiece) {
   const std::u16string line = u"n. 恶习；缺点；[机] 老虎钳；卖淫";
   EXPECT_EQ(text(line, Subject::kMechanics), u"老虎钳");
   EXPECT_EQ(words(line), (Texts{u"恶习", u"缺点", u"老虎钳", u"卖淫"}));
 }
 
-TEST(TranslationLine, BracketsInMedicalLinesAreNoTags) {
+TEST(ParseLine, TakesShortTagsInMedicalLinesForNotes) {
   const std::u16string line = u"[医] 体液排出过多, [体]液溢, 脑脊液溢";
   EXPECT_EQ(text(line, Subject::kSport), u"");
   EXPECT_EQ(text(line, Subject::kMedicine), u"体液排出过多，[体]液溢，脑脊液溢");
   EXPECT_EQ(words(line), (Texts{u"体液排出过多", u"液溢", u"脑脊液溢"}));
 }
 
-TEST(TranslationLine, MarksOfUsageAreNoSubjects) {
+TEST(ParseLine, IgnoresMarksOfUsage) {
   for (int i = 0; i < static_cast<int>(dictionary::kSubjectCount); ++i) {
     EXPECT_EQ(text(u"n. [口]家伙", static_cast<Subject>(i)), u"");
   }
   EXPECT_EQ(words(u"n. [口]家伙"), (Texts{u"家伙"}));
 }
 
-TEST(TranslationLine, NamesLoseTheirExplanations) {
+TEST(ParseLine, RemovesExplanationsOfNames) {
   const std::u16string line =
       u"[人名] [英格兰人姓氏] 塔隆绰号，跑得快者，来源于古法语; [地名] [美国] 塔隆";
   EXPECT_EQ(words(line), (Texts{u"塔隆", u"塔隆"}));
@@ -107,13 +107,13 @@ TEST(TranslationLine, NamesLoseTheirExplanations) {
   EXPECT_EQ(text(line, Subject::kPerson), u"[英格兰人姓氏]塔隆绰号，跑得快者，来源于古法语");
 }
 
-TEST(TranslationLine, NamesMayBeAnnounced) {
+TEST(ParseLine, RecognizesAnnouncedNames) {
   const std::u16string line = u"n. (Bati)人名；(阿拉伯)巴提；(法、罗)巴蒂";
   EXPECT_EQ(words(line), (Texts{u"巴提", u"巴蒂"}));
   EXPECT_EQ(text(line, Subject::kPerson), u"(阿拉伯)巴提；(法、罗)巴蒂");
 }
 
-TEST(TranslationLine, NamesMayBeAnnouncedByABareWord) {
+TEST(ParseLine, RecognizesNamesAnnouncedByABareWord) {
   const std::u16string line = u"人名；(西)布里希达；(意)布里吉达";
   EXPECT_EQ(words(line), (Texts{u"布里希达", u"布里吉达"}));
   EXPECT_EQ(text(line, Subject::kPerson), u"(西)布里希达；(意)布里吉达");
@@ -123,13 +123,13 @@ TEST(TranslationLine, NamesMayBeAnnouncedByABareWord) {
   EXPECT_EQ(words(u"姓氏；(英)甲氏"), (Texts{u"甲氏"}));
 }
 
-TEST(TranslationLine, ABareWordForNamesTranslatesNothingByItself) {
+TEST(ParseLine, RefusesALoneWordThatAnnouncesNames) {
   EXPECT_EQ(words(u"人名"), Texts());
   EXPECT_EQ(words(u"n. 人名"), Texts());
   EXPECT_EQ(words(u"姓氏"), Texts());
 }
 
-TEST(TranslationLine, WordsForNamesMayBeTheTranslation) {
+TEST(ParseLine, KeepsWordsForNamesThatAreTheTranslation) {
   EXPECT_EQ(words(u"n. 地名, 以地名命名者"), (Texts{u"地名", u"以地名命名者"}));
   EXPECT_EQ(words(u"n. 地名"), (Texts{u"地名"}));
   EXPECT_EQ(words(u"(place-name 的复数) n. 地名"), (Texts{u"地名"}));
@@ -138,50 +138,31 @@ TEST(TranslationLine, WordsForNamesMayBeTheTranslation) {
   EXPECT_EQ(text(u"n. 地名, 以地名命名者", Subject::kPlace), u"");
 }
 
-TEST(TranslationLine, WebLinesAreTheirOwnDictionary) {
+TEST(SubjectText, PutsWebLinesIntoTheirOwnDictionary) {
   EXPECT_EQ(text(u"[网络] 胡德；兜帽", Subject::kWeb), u"胡德；兜帽");
 }
 
-TEST(TranslationLine, AnExplanationGoesOnToTheNextSemicolon) {
+TEST(ParseLine, EndsAnExplanationAtTheNextSemicolon) {
   EXPECT_EQ(words(u"[医]大菱形肌：起于胸椎横突，止于肩胛骨内缘；菱形肌"),
             (Texts{u"大菱形肌", u"菱形肌"}));
 }
 
-TEST(TranslationLine, SubjectsDoNotShowLostCharacters) {
+TEST(SubjectText, LeavesOutLostCharacters) {
   EXPECT_EQ(text(u"[化] 酸┏; 变性蛋白", Subject::kChemistry), u"变性蛋白");
   EXPECT_EQ(text(u"[化] 甲(C\uE00917)乙", Subject::kChemistry), u"甲乙");
   EXPECT_EQ(text(u"[化] 酸┏", Subject::kChemistry), u"");
   EXPECT_EQ(text(u"[化] ABC", Subject::kChemistry), u"");
 }
 
-TEST(TranslationLine, WhatLostAnUnwritableCharacterIsLeftOut) {
+TEST(ParseLine, RefusesPiecesWithAnUnwritableCharacter) {
   const std::u16string line = dictionary::decodeEntities(u"[医] 内<&14&>动脉, 内眦动脉");
   EXPECT_EQ(words(line), (Texts{u"内眦动脉"}));
   EXPECT_EQ(text(line, Subject::kMedicine), u"内眦动脉");
 }
 
-TEST(TranslationLine, KnowsInflectedForms) {
+TEST(ParseLine, ReturnsTheInflectionNote) {
   EXPECT_EQ(parseLine(u"(apple 的复数) n. 苹果").inflection, u"apple的复数");
   EXPECT_EQ(parseLine(u"n. 苹果").inflection, u"");
-}
-
-TEST(Subjects, HaveTablesWithPlainNames) {
-  for (const dictionary::SubjectInfo& info : dictionary::kSubjectInfos) {
-    EXPECT_FALSE(info.name.empty());
-    for (const char letter : info.table) EXPECT_TRUE(letter >= 'a' && letter <= 'z');
-  }
-  EXPECT_EQ(dictionary::kSubjectInfos[0].table, "med");
-  EXPECT_EQ(dictionary::kSubjectInfos[23].name, u"网络释义");
-}
-
-TEST(Subjects, AreKnownByTheirTags) {
-  EXPECT_EQ(dictionary::subjectsOfTag(u"医"), setOf(Subject::kMedicine));
-  EXPECT_EQ(dictionary::subjectsOfTag(u"生化"), setOf(Subject::kChemistry));
-  EXPECT_EQ(dictionary::subjectsOfTag(u"网络"), setOf(Subject::kWeb));
-  for (const std::u16string_view tag :
-       {u"美", u"英", u"口", u"俚", u"古", u"拉", u"复", u"诗", u"", u" "}) {
-    EXPECT_EQ(dictionary::subjectsOfTag(tag), 0U);
-  }
 }
 
 }  // namespace

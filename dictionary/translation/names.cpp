@@ -1,4 +1,4 @@
-#include "dictionary/translation/name_piece.h"
+#include "dictionary/translation/names.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +13,30 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// What begins an explanation written right behind a name.
+/// Words before a colon that introduce the equivalent instead of being it.
+constexpr std::array kLeadIns = {u"表示"sv, u"意为"sv, u"尤指"sv,        u"指"sv,         u"即"sv,
+                                 u"全名"sv, u"人名"sv, u"DOS内部命令"sv, u"DOS外部命令"sv};
+
+bool isColon(char16_t unit) { return unit == u':' || unit == u'：' || unit == u'∶'; }
+
+/// Index of the colon that ends the word; npos if there is none.
+std::size_t colonPosition(std::u16string_view piece) {
+  for (std::size_t i = 0; i < piece.size(); ++i) {
+    const std::size_t close = openingBracket(piece[i]) == Bracket::kNone
+                                  ? std::u16string_view::npos
+                                  : closingPosition(piece, i);
+    if (close != std::u16string_view::npos) {
+      i = close;
+      continue;
+    }
+    const bool ratio =
+        i > 0 && i + 1 < piece.size() && isDigit(piece[i - 1]) && isDigit(piece[i + 1]);
+    if (isColon(piece[i]) && !ratio) return i;
+  }
+  return std::u16string_view::npos;
+}
+
+/// Phrases that begin an explanation right after a name.
 constexpr std::array kExplanations = {
     u"来源于"sv, u"取自"sv,     u"绰号"sv,     u"住所名称"sv, u"地貌名称"sv, u"职业名称"sv,
     u"盖尔语"sv, u"威尔士语"sv, u"的变体"sv,   u"的昵称"sv,   u"的异体"sv,   u"的英语形式"sv,
@@ -21,9 +44,11 @@ constexpr std::array kExplanations = {
     u"可能"sv,   u"爱称"sv,     u"缩写形式"sv, u"职业"sv,     u"住所"sv,     u"新娘"sv,
 };
 
+/// Endings of notes that say that the piece is the name of a person.
 constexpr std::array kPersonNotes = {u"人名"sv,   u"姓氏"sv, u"姓"sv,   u"男子名"sv,
                                      u"女子名"sv, u"男名"sv, u"女名"sv, u"教名"sv};
-/// What announces names, and of what kind.
+
+/// A word that announces names of one subject.
 struct Announcement {
   std::u16string_view word;
   Subject subject;
@@ -31,6 +56,7 @@ struct Announcement {
 constexpr std::array kAnnouncements = {Announcement{u"人名", Subject::kPerson},
                                        Announcement{u"姓氏", Subject::kPerson},
                                        Announcement{u"地名", Subject::kPlace}};
+/// In characters: a longer note that ends like that describes something else.
 constexpr std::size_t kMaxPlaceNote = 12;
 
 bool endsLikePerson(std::u16string_view note) {
@@ -39,6 +65,15 @@ bool endsLikePerson(std::u16string_view note) {
 }
 
 }  // namespace
+
+Explained splitExplanation(std::u16string_view piece) {
+  const std::size_t colon = colonPosition(piece);
+  if (colon == std::u16string_view::npos) return {piece, false};
+  const std::u16string_view word = piece.substr(0, colon);
+  const std::u16string_view rest = piece.substr(colon + 1);
+  if (std::ranges::find(kLeadIns, word) != kLeadIns.end()) return {rest, false};
+  return {word, std::ranges::any_of(rest, isHan)};
+}
 
 std::u16string_view leadingName(std::u16string_view piece) {
   std::size_t end = piece.size();

@@ -1,0 +1,48 @@
+#include "dictionary/translation/names.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using dictionary::Subject;
+
+TEST(SplitExplanation, CutsOffWhatFollowsTheColon) {
+  const dictionary::Explained explained = dictionary::splitExplanation(u"拜药：乳香的一种");
+  EXPECT_EQ(explained.word, u"拜药");
+  EXPECT_TRUE(explained.explains);
+  EXPECT_EQ(dictionary::splitExplanation(u"表示：跑").word, u"跑");
+  EXPECT_EQ(dictionary::splitExplanation(u"人名：莎拉").word, u"莎拉");
+  EXPECT_EQ(dictionary::splitExplanation(u"道路：motordrome").word, u"道路");
+  EXPECT_FALSE(dictionary::splitExplanation(u"道路：motordrome").explains);
+  EXPECT_EQ(dictionary::splitExplanation(u"用3:1混合").word, u"用3:1混合");
+  EXPECT_EQ(dictionary::splitExplanation(u"甲(注：乙)丙").word, u"甲(注：乙)丙");
+}
+
+TEST(LeadingName, EndsWhereAnExplanationBegins) {
+  EXPECT_EQ(dictionary::leadingName(u"巴克 Barker的变体"), u"巴克");
+  EXPECT_EQ(dictionary::leadingName(u"塔隆来源于日耳曼语人名"), u"塔隆");
+  EXPECT_EQ(dictionary::leadingName(u"斯托纳住所名称"), u"斯托纳");
+  EXPECT_EQ(dictionary::leadingName(u"埃格德"), u"埃格德");
+}
+
+TEST(NamedByNote, ReturnsTheSubjectThatTheNoteNames) {
+  EXPECT_EQ(dictionary::namedByNote(u"鲍曼（姓氏）"), setOf(Subject::kPerson));
+  EXPECT_EQ(dictionary::namedByNote(u"约翰(男子名)"), setOf(Subject::kPerson));
+  EXPECT_EQ(dictionary::namedByNote(u"阿波普卡（美国地名）"), setOf(Subject::kPlace));
+  EXPECT_EQ(dictionary::namedByNote(u"（用于地名）古的"), 0U);
+  EXPECT_EQ(dictionary::namedByNote(u"苹果(水果)"), 0U);
+}
+
+TEST(AnnouncedNames, ReturnsTheSubjectOfWhatFollows) {
+  EXPECT_EQ(dictionary::announcedNames(u"(Luang)人名", false), setOf(Subject::kPerson));
+  EXPECT_EQ(dictionary::announcedNames(u"(place-name 的复数)地名", false), 0U);
+  EXPECT_EQ(dictionary::announcedNames(u"人名", true), setOf(Subject::kPerson));
+  EXPECT_EQ(dictionary::announcedNames(u"姓氏", true), setOf(Subject::kPerson));
+  EXPECT_EQ(dictionary::announcedNames(u"地名", true), setOf(Subject::kPlace));
+  EXPECT_EQ(dictionary::announcedNames(u"地名", false), 0U);
+  EXPECT_EQ(dictionary::announcedNames(u"地名(注)", false), 0U);
+  EXPECT_EQ(dictionary::announcedNames(u"地名学", true), 0U);
+  EXPECT_EQ(dictionary::announcedNames(u"", true), 0U);
+}
+
+}  // namespace
