@@ -5,9 +5,9 @@
 #include <string>
 #include <utility>
 
-#include "dictionary/arrange/block_choice.h"
-#include "dictionary/arrange/pair_collector.h"
+#include "dictionary/arrange/block_packing.h"
 #include "dictionary/arrange/subject_collector.h"
+#include "dictionary/arrange/vocabulary.h"
 #include "dictionary/console.h"
 #include "dictionary/database/database_writer.h"
 #include "dictionary/database/install.h"

@@ -2,92 +2,102 @@
 
 #include <algorithm>
 #include <limits>
-#include <optional>
+
+// Dynamic programming over the cuts in order: for every candidate of a cut, the least loss of the
+// blocks before it is the minimum, over the candidates of the cut before, of their loss plus that
+// of the block between. Candidates are the unit boundaries near the cut's natural place, where it
+// would be if all units used the same share of their spare pairs. Losses are integers, so that
+// every machine finds the same cuts.
 
 namespace dictionary {
 namespace {
 
 constexpr std::uint64_t kImpossible = std::numeric_limits<std::uint64_t>::max();
 
-/// How far from its natural place a cut is looked for, in rows; widened where that is not enough.
+/// Largest distance of a cut from its natural place at first, in rows; widened where that gives no
+/// solution.
 constexpr std::size_t kReach = 40;
 
-/// The unit of losses: a block that uses one spare pair more or less than its share.
+/// The loss of a block that uses one spare pair more or less than its share. The loss grows with
+/// the square of that deviation.
 constexpr std::int64_t kUnit = 1024;
-/// Losses of a wanted pair given up, a reserve pair used, a cut left out.
+/// Losses of a wanted pair left out, a reserve pair kept, two blocks joined.
 constexpr std::uint64_t kWantedLoss = 50 * kUnit;
 constexpr std::uint64_t kReserveLoss = 10 * kUnit;
 constexpr std::uint64_t kJoinLoss = 400 * kUnit;
 
-std::uint64_t total(const PairStock& stock) { return stock.wanted + stock.spare + stock.reserve; }
+std::uint64_t total(const TierCounts& counts) {
+  return counts.wanted + counts.spare + counts.reserve;
+}
 
-/// What is to be divided: the sequence, the rows of a block, the share of spare pairs needed.
+/// One search. The counts must outlive it.
 class CutSearch {
  public:
-  CutSearch(const StockBefore& stock, std::size_t blocks, std::size_t blockRows,
-            std::size_t mostJoined)
-      : stock_(stock), blocks_(blocks), blockRows_(blockRows), mostJoined_(mostJoined) {
-    const PairStock& all = stock.back();
+  CutSearch(const PrefixCounts& counts, std::size_t blocks, std::size_t blockRows,
+            std::size_t maxJoined)
+      : counts_(counts), blocks_(blocks), blockRows_(blockRows), maxJoined_(maxJoined) {
+    const TierCounts& all = counts.back();
     const std::uint64_t rows = blocks * blockRows;
     spare_ = std::max<std::uint64_t>(all.spare, 1);
     needed_ = std::min(rows > all.wanted ? rows - all.wanted : 0, spare_);
   }
 
-  /// The best cuts, each at most `reach` rows from its natural place; nothing if there are none.
+  /// The cuts of least loss, each at most `reach` rows from its natural place; empty if there are
+  /// none.
   std::vector<BlockCut> run(std::size_t reach);
 
  private:
-  /// Places where one cut may be: before units first .. first + loss.size() - 1, with the least
-  /// loss of all blocks before it and the place of the cut before that gives it.
-  struct Places {
+  /// Candidates for one cut: the cut may precede units first .. first + loss.size() - 1.
+  struct Candidates {
     std::size_t first = 0;
-    std::vector<std::uint64_t> loss;
-    std::vector<std::uint32_t> previous;
-    std::vector<std::uint8_t> joined;
+    std::vector<std::uint64_t> loss;      ///< least loss of all blocks before the cut
+    std::vector<std::uint32_t> previous;  ///< candidate of the cut before that gives it
+    std::vector<std::uint8_t> joined;     ///< blocks that are one between the two cuts
   };
 
-  [[nodiscard]] std::uint64_t naturalRows(const PairStock& before) const {
+  /// Rows before a unit if every unit uses the same share of its spare pairs, times `spare_`.
+  [[nodiscard]] std::uint64_t scaledRows(const TierCounts& before) const {
     return before.wanted * spare_ + before.spare * needed_;
   }
-  [[nodiscard]] Places placesAround(std::uint64_t row, std::size_t reach) const;
+  [[nodiscard]] Candidates candidatesAround(std::uint64_t row, std::size_t reach) const;
   [[nodiscard]] std::uint64_t blockLoss(std::size_t first, std::size_t last,
                                         std::size_t joined) const;
-  void extend(const Places& from, Places& to, std::size_t joined) const;
-  [[nodiscard]] std::vector<BlockCut> trace(const std::vector<Places>& cuts) const;
+  void extend(const Candidates& from, Candidates& to, std::size_t joined) const;
+  [[nodiscard]] std::vector<BlockCut> trace(const std::vector<Candidates>& cuts) const;
 
-  const StockBefore& stock_;
+  const PrefixCounts& counts_;
   std::size_t blocks_;
   std::size_t blockRows_;
-  std::size_t mostJoined_;
-  std::uint64_t needed_ = 0;  ///< of the spare pairs
-  std::uint64_t spare_ = 1;
+  std::size_t maxJoined_;
+  std::uint64_t needed_ = 0;  ///< spare pairs that are to be kept
+  std::uint64_t spare_ = 1;   ///< all spare pairs, at least 1
 };
 
-/// Units before which about `row` rows lie if every unit uses the same share of its spare pairs.
-CutSearch::Places CutSearch::placesAround(std::uint64_t row, std::size_t reach) const {
-  const auto rowsBefore = [this](const PairStock& before) { return naturalRows(before); };
+/// Cuts with about `row` rows before them if every unit uses the same share of its spare pairs.
+CutSearch::Candidates CutSearch::candidatesAround(std::uint64_t row, std::size_t reach) const {
+  const auto rowsBefore = [this](const TierCounts& before) { return scaledRows(before); };
   const std::uint64_t low = row > reach ? (row - reach) * spare_ : 0;
   const std::uint64_t high = (row + reach) * spare_;
-  const auto begin = stock_.begin();
-  const auto lowest = std::ranges::lower_bound(stock_, low, {}, rowsBefore) - begin;
-  const auto highest = std::ranges::upper_bound(stock_, high, {}, rowsBefore) - begin;
-  Places places;
-  places.first = static_cast<std::size_t>(std::max<std::ptrdiff_t>(lowest - 1, 0));
-  const auto last = std::min(static_cast<std::size_t>(highest), stock_.size() - 1);
-  const std::size_t count = last + 1 - places.first;
-  places.loss.assign(count, kImpossible);
-  places.previous.assign(count, 0);
-  places.joined.assign(count, 0);
-  return places;
+  const auto begin = counts_.begin();
+  const auto lowest = std::ranges::lower_bound(counts_, low, {}, rowsBefore) - begin;
+  const auto highest = std::ranges::upper_bound(counts_, high, {}, rowsBefore) - begin;
+  Candidates candidates;
+  candidates.first = static_cast<std::size_t>(std::max<std::ptrdiff_t>(lowest - 1, 0));
+  const auto last = std::min(static_cast<std::size_t>(highest), counts_.size() - 1);
+  const std::size_t count = last + 1 - candidates.first;
+  candidates.loss.assign(count, kImpossible);
+  candidates.previous.assign(count, 0);
+  candidates.joined.assign(count, 0);
+  return candidates;
 }
 
 std::uint64_t CutSearch::blockLoss(std::size_t first, std::size_t last, std::size_t joined) const {
-  const PairStock& before = stock_[first];
-  const PairStock& behind = stock_[last];
+  const TierCounts& before = counts_[first];
+  const TierCounts& after = counts_[last];
   const std::uint64_t rows = joined * blockRows_;
-  const std::uint64_t wanted = behind.wanted - before.wanted;
-  const std::uint64_t spare = behind.spare - before.spare;
-  if (total(behind) - total(before) < rows) return kImpossible;
+  const std::uint64_t wanted = after.wanted - before.wanted;
+  const std::uint64_t spare = after.spare - before.spare;
+  if (total(after) - total(before) < rows) return kImpossible;
   std::uint64_t loss = (joined - 1) * kJoinLoss;
   if (wanted > rows) loss += (wanted - rows) * kWantedLoss;
   const std::uint64_t open = wanted < rows ? rows - wanted : 0;
@@ -98,7 +108,7 @@ std::uint64_t CutSearch::blockLoss(std::size_t first, std::size_t last, std::siz
   return loss + static_cast<std::uint64_t>(deviation * deviation / kUnit);
 }
 
-void CutSearch::extend(const Places& from, Places& to, std::size_t joined) const {
+void CutSearch::extend(const Candidates& from, Candidates& to, std::size_t joined) const {
   for (std::size_t t = 0; t < to.loss.size(); ++t) {
     const std::size_t last = to.first + t;
     if (last <= from.first) continue;
@@ -114,13 +124,13 @@ void CutSearch::extend(const Places& from, Places& to, std::size_t joined) const
   }
 }
 
-std::vector<BlockCut> CutSearch::trace(const std::vector<Places>& cuts) const {
+std::vector<BlockCut> CutSearch::trace(const std::vector<Candidates>& cuts) const {
   std::vector<BlockCut> chosen;
-  std::size_t place = 0;
+  std::size_t index = 0;
   for (std::size_t i = blocks_; i > 0;) {
-    chosen.push_back({cuts[i].first + place, i * blockRows_});
-    const std::size_t joined = cuts[i].joined[place];
-    place = cuts[i].previous[place];
+    chosen.push_back({cuts[i].first + index, i * blockRows_});
+    const std::size_t joined = cuts[i].joined[index];
+    index = cuts[i].previous[index];
     i -= joined;
   }
   chosen.push_back({0, 0});
@@ -129,12 +139,12 @@ std::vector<BlockCut> CutSearch::trace(const std::vector<Places>& cuts) const {
 }
 
 std::vector<BlockCut> CutSearch::run(std::size_t reach) {
-  std::vector<Places> cuts(blocks_ + 1);
+  std::vector<Candidates> cuts(blocks_ + 1);
   cuts[0] = {0, {0}, {0}, {0}};
   for (std::size_t i = 1; i <= blocks_; ++i) {
-    cuts[i] = placesAround(std::uint64_t{i} * blockRows_, reach);
-    if (i == blocks_) cuts[i] = {stock_.size() - 1, {kImpossible}, {0}, {0}};
-    for (std::size_t joined = 1; joined <= std::min(mostJoined_, i); ++joined) {
+    cuts[i] = candidatesAround(std::uint64_t{i} * blockRows_, reach);
+    if (i == blocks_) cuts[i] = {counts_.size() - 1, {kImpossible}, {0}, {0}};
+    for (std::size_t joined = 1; joined <= std::min(maxJoined_, i); ++joined) {
       extend(cuts[i - joined], cuts[i], joined);
     }
   }
@@ -143,30 +153,30 @@ std::vector<BlockCut> CutSearch::run(std::size_t reach) {
 
 }  // namespace
 
-std::size_t mostBlocks(const StockBefore& stock, std::size_t blockRows) {
+std::size_t maxBlocks(const PrefixCounts& counts, std::size_t blockRows) {
   std::size_t blocks = 0;
   std::size_t first = 0;
-  for (std::size_t unit = 1; unit < stock.size(); ++unit) {
-    if (total(stock[unit]) - total(stock[first]) < blockRows) continue;
+  for (std::size_t unit = 1; unit < counts.size(); ++unit) {
+    if (total(counts[unit]) - total(counts[first]) < blockRows) continue;
     ++blocks;
     first = unit;
   }
   return blocks;
 }
 
-std::vector<BlockCut> chooseCuts(const StockBefore& stock, std::size_t blocks,
+std::vector<BlockCut> chooseCuts(const PrefixCounts& counts, std::size_t blocks,
                                  std::size_t blockRows) {
-  CutSearch search(stock, blocks, blockRows, 1);
+  CutSearch search(counts, blocks, blockRows, 1);
   std::vector<BlockCut> cuts;
   for (std::size_t reach = kReach; cuts.empty(); reach *= 4) cuts = search.run(reach);
   return cuts;
 }
 
-std::vector<BlockCut> chooseCutsJoining(const StockBefore& stock, std::size_t blocks,
+std::vector<BlockCut> chooseCutsJoining(const PrefixCounts& counts, std::size_t blocks,
                                         std::size_t blockRows) {
-  constexpr std::size_t kMostJoined = 3;
-  std::vector<BlockCut> cuts = CutSearch(stock, blocks, blockRows, kMostJoined).run(kReach);
-  if (cuts.empty()) cuts = {{0, 0}, {stock.size() - 1, blocks * blockRows}};
+  constexpr std::size_t kMaxJoined = 3;
+  std::vector<BlockCut> cuts = CutSearch(counts, blocks, blockRows, kMaxJoined).run(kReach);
+  if (cuts.empty()) cuts = {{0, 0}, {counts.size() - 1, blocks * blockRows}};
   return cuts;
 }
 

@@ -7,19 +7,19 @@
 
 namespace dictionary {
 
-/// One row of [edict] or [cdict]. Its own number is its place in the table, from 1.
+/// One row of [edict] or [cdict]. Its row number is its index in the table plus 1.
 struct HeadwordRow {
-  std::uint32_t word = 0;  ///< place in the vocabulary's list of that language
-  std::uint32_t link = 0;  ///< number of the row of the other table with the other half
+  std::uint32_t word = 0;  ///< index into the vocabulary's list of that language
+  std::uint32_t link = 0;  ///< row number of the other half of the pair in the other table
 };
 
-/// The rows of the general dictionary, in order.
+/// The rows of the general dictionary, each table in the text order of its headwords.
 struct GeneralDictionary {
   std::vector<HeadwordRow> edict;
   std::vector<HeadwordRow> cdict;
 };
 
-/// Arranges the chosen pairs: one flag for each of the vocabulary's pairs.
+/// Makes the rows of the chosen pairs. `chosen` has one flag for each of the vocabulary's pairs.
 GeneralDictionary arrange(const Vocabulary& vocabulary, const std::vector<bool>& chosen);
 
 }  // namespace dictionary

@@ -9,7 +9,7 @@
 namespace dictionary {
 namespace {
 
-/// The entry's lines for the subject, each once, parted by semicolons.
+/// The entry's lines for the subject, each once, separated by semicolons.
 std::u16string meaningOf(const Entry& entry, Subject subject) {
   std::u16string meaning;
   std::vector<std::u16string> texts;
@@ -23,7 +23,7 @@ std::u16string meaningOf(const Entry& entry, Subject subject) {
   return meaning;
 }
 
-/// Makes one row of rows whose headwords are equal.
+/// Joins rows whose headwords are equal in the text order, which must follow each other.
 void mergeEqual(std::vector<SubjectRow>& rows) {
   std::vector<SubjectRow> merged;
   merged.reserve(rows.size());

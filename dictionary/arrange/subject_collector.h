@@ -9,20 +9,23 @@
 
 namespace dictionary {
 
+/// A row of a subject dictionary.
 struct SubjectRow {
   std::u16string word;
   std::u16string meaning;
 };
 
-/// The rows of every subject dictionary, in the order of the catalogue.
+/// The rows of every subject dictionary, by Subject.
 using SubjectTables = std::array<std::vector<SubjectRow>, kSubjectCount>;
 
-/// Gathers the rows of the subject dictionaries.
+/// Makes the subject dictionaries: takes the entries one by one and sorts their rows in the end.
 class SubjectCollector {
  public:
+  /// Adds the entry's meaning to the dictionary of each subject that it has.
   void add(const Entry& entry);
 
-  /// Everything gathered, each table in the text order of its headwords, one row for each.
+  /// Everything added, each table in the text order of its headwords, one row for each. Ends the
+  /// use of the collector.
   [[nodiscard]] SubjectTables finish() &&;
 
  private:

@@ -3,18 +3,21 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <unordered_map>
 #include <vector>
+
+#include "dictionary/translation/entry.h"
 
 namespace dictionary {
 
-/// How much a pair is worth when not all of them find room, the most valuable first.
+/// What a pair is worth where not all of them fit, the most valuable first.
 enum class Tier : std::uint8_t {
-  kImportantFirst,  ///< first equivalent of a word with a mark of importance
-  kImportant,       ///< its further ones
-  kFirst,           ///< first equivalent of any other word
-  kOrdinary,        ///< its further ones
+  kImportantFirst,  ///< first equivalent of an important word
+  kImportant,       ///< further equivalent of an important word
+  kFirst,           ///< first equivalent of another word
+  kOrdinary,        ///< further equivalent of another word
   kInflectedFirst,  ///< first equivalent of an inflected form
-  kInflected,       ///< its further ones
+  kInflected,       ///< further equivalent of an inflected form
   kOnly,            ///< first equivalent of a word that has only names or web equivalents
   kWebFirst,        ///< first web equivalent of a word that has others
   kName,            ///< any other name
@@ -23,19 +26,48 @@ enum class Tier : std::uint8_t {
 
 inline constexpr std::size_t kTierCount = 10;
 
-/// An English headword and a Chinese equivalent, as positions in the vocabulary's lists.
+/// An English headword and a Chinese equivalent, as indexes into the vocabulary's lists.
 struct Pair {
   std::uint32_t english = 0;
   std::uint32_t chinese = 0;
   Tier tier = Tier::kWeb;
-  std::uint8_t position = 0;  ///< place among the headword's equivalents, 255 for all behind
+  std::uint8_t position = 0;  ///< among the headword's equivalents, from 0; at most 255
 };
 
-/// All pairs that could stand in the general dictionary.
+/// All pairs that could be rows of the general dictionary.
 struct Vocabulary {
   std::vector<std::u16string> english;  ///< distinct, in the text order
   std::vector<std::u16string> chinese;  ///< distinct, in the text order
   std::vector<Pair> pairs;              ///< distinct, by English, then by Chinese headword
+};
+
+/// Makes the vocabulary: takes the entries one by one, rates their pairs and sorts them in the end.
+class PairCollector {
+ public:
+  /// Adds the entry's pairs and returns their number. An entry that has none but refers to another
+  /// headword gets the first four of that one's pairs in finish().
+  std::size_t add(const Entry& entry);
+
+  /// Everything added, sorted; words that are equal in the text order (they differ in case only)
+  /// become one, spelled as the first. Ends the use of the collector.
+  [[nodiscard]] Vocabulary finish() &&;
+
+ private:
+  /// A headword with the same meaning as others, which are in lower case.
+  struct Reference {
+    std::u16string headword;
+    std::vector<std::u16string> others;
+    bool important = false;
+  };
+
+  void followReferences();
+  void addPair(const std::u16string& chinese, Tier tier, std::size_t position);
+
+  std::vector<std::u16string> english_;
+  std::vector<std::u16string> chinese_;
+  std::unordered_map<std::u16string, std::uint32_t> chineseIds_;
+  std::vector<Pair> pairs_;
+  std::vector<Reference> references_;
 };
 
 }  // namespace dictionary

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "dictionary/arrange/lookup_limits.h"
+#include "dictionary/arrange/block_packing.h"
 #include "dictionary/check/check_text.h"
 #include "text/order.h"
 #include "text/utf.h"

@@ -8,7 +8,7 @@
 
 #include "data/connection.h"
 #include "data/error.h"
-#include "dictionary/arrange/lookup_limits.h"
+#include "dictionary/arrange/block_packing.h"
 #include "dictionary/console.h"
 #include "dictionary/database/schema.h"
 #include "dictionary/database/table.h"

@@ -10,25 +10,25 @@ namespace {
 using dictionary::BlockCut;
 using dictionary::chooseCuts;
 using dictionary::chooseCutsJoining;
-using dictionary::mostBlocks;
-using dictionary::PairStock;
-using dictionary::StockBefore;
+using dictionary::maxBlocks;
+using dictionary::PrefixCounts;
+using dictionary::TierCounts;
 
-StockBefore stockOf(const std::vector<PairStock>& units) {
-  StockBefore stock = {PairStock()};
-  for (const PairStock& unit : units) {
-    const PairStock& before = stock.back();
-    stock.push_back(
+PrefixCounts countsOf(const std::vector<TierCounts>& units) {
+  PrefixCounts counts = {TierCounts()};
+  for (const TierCounts& unit : units) {
+    const TierCounts& before = counts.back();
+    counts.push_back(
         {before.wanted + unit.wanted, before.spare + unit.spare, before.reserve + unit.reserve});
   }
-  return stock;
+  return counts;
 }
 
-StockBefore wanted(const std::vector<std::size_t>& sizes) {
-  std::vector<PairStock> units;
+PrefixCounts wanted(const std::vector<std::size_t>& sizes) {
+  std::vector<TierCounts> units;
   units.reserve(sizes.size());
   for (const std::size_t size : sizes) units.push_back({size, 0, 0});
-  return stockOf(units);
+  return countsOf(units);
 }
 
 std::vector<std::size_t> unitsOf(const std::vector<BlockCut>& cuts) {
@@ -45,31 +45,30 @@ std::vector<std::size_t> rowsOf(const std::vector<BlockCut>& cuts) {
   return rows;
 }
 
-TEST(MostBlocks, CountsRunsOfWholeUnits) {
-  EXPECT_EQ(mostBlocks(wanted({}), 10), 0U);
-  EXPECT_EQ(mostBlocks(wanted({9}), 10), 0U);
-  EXPECT_EQ(mostBlocks(wanted({5, 5, 5, 5}), 10), 2U);
-  EXPECT_EQ(mostBlocks(wanted({9, 9, 9, 9}), 10), 2U);
-  EXPECT_EQ(mostBlocks(stockOf({{3, 3, 3}, {0, 0, 1}}), 10), 1U);
+TEST(MaxBlocks, CountsRunsOfWholeUnits) {
+  EXPECT_EQ(maxBlocks(wanted({}), 10), 0U);
+  EXPECT_EQ(maxBlocks(wanted({9}), 10), 0U);
+  EXPECT_EQ(maxBlocks(wanted({5, 5, 5, 5}), 10), 2U);
+  EXPECT_EQ(maxBlocks(wanted({9, 9, 9, 9}), 10), 2U);
+  EXPECT_EQ(maxBlocks(countsOf({{3, 3, 3}, {0, 0, 1}}), 10), 1U);
 }
 
-TEST(ChooseCuts, DividesEvenlyWhereUnitsAllowIt) {
+TEST(ChooseCuts, DividesEvenlyWhereTheUnitsAllowIt) {
   const std::vector<BlockCut> cuts = chooseCuts(wanted(std::vector<std::size_t>(40, 1)), 4, 10);
   EXPECT_EQ(unitsOf(cuts), (std::vector<std::size_t>{0, 10, 20, 30, 40}));
   EXPECT_EQ(rowsOf(cuts), (std::vector<std::size_t>{0, 10, 20, 30, 40}));
 }
 
 TEST(ChooseCuts, GivesUpAsFewWantedPairsAsPossible) {
-  // Cut behind the third unit, nothing is given up; behind the second, eight pairs would be
-  // missing.
+  // A cut after the third unit gives up nothing; after the second, eight pairs would be missing.
   EXPECT_EQ(unitsOf(chooseCuts(wanted({1, 1, 8, 5, 5, 1}), 2, 10)),
             (std::vector<std::size_t>{0, 3, 6}));
 }
 
-TEST(ChooseCuts, SharesTheSparePairsOut) {
-  std::vector<PairStock> units(100);
+TEST(ChooseCuts, GivesEveryBlockTheSameShareOfSparePairs) {
+  std::vector<TierCounts> units(100);
   for (std::size_t i = 0; i < units.size(); ++i) units[i] = {1, i % 2 == 0 ? 1U : 0U, 0};
-  const std::vector<BlockCut> cuts = chooseCuts(stockOf(units), 12, 10);
+  const std::vector<BlockCut> cuts = chooseCuts(countsOf(units), 12, 10);
   for (std::size_t i = 0; i + 1 < cuts.size(); ++i) {
     const std::size_t taken = cuts[i + 1].unit - cuts[i].unit;
     EXPECT_GE(taken, 7U);
@@ -85,7 +84,7 @@ TEST(ChooseCuts, FindsTheOnlyDivisionHoweverFarItLies) {
             (std::vector<std::size_t>{0, 10, 11, 12, 13}));
 }
 
-TEST(ChooseCutsJoining, MakesOneOfBlocksThatALargeUnitCrosses) {
+TEST(ChooseCutsJoining, JoinsBlocksThatALargeUnitCrosses) {
   std::vector<std::size_t> sizes(90, 1);
   sizes.push_back(120);
   sizes.insert(sizes.end(), 90, 1);

@@ -1,4 +1,4 @@
-#include "dictionary/arrange/pair_collector.h"
+#include "dictionary/arrange/vocabulary.h"
 
 #include <gtest/gtest.h>
 
@@ -48,24 +48,24 @@ Tier tierOf(const Vocabulary& vocabulary, std::u16string_view chinese) {
   return Tier::kWeb;
 }
 
-TEST(ExtractEntry, GivesNothingForAWordThatCannotBeLookedUp) {
+TEST(ExtractEntry, RefusesAWordThatCannotBeLookedUp) {
   EXPECT_FALSE(dictionary::extractEntry({"100%", "百分之百", false}).has_value());
 }
 
-TEST(PairCollector, GivesDistinctPairsInTheTextOrder) {
+TEST(PairCollector, ReturnsDistinctPairsInTheTextOrder) {
   const Vocabulary vocabulary = collect(
       {entry("zoo", "n. 动物园"), entry("Bit", "n. 位, 比特\\n[计] 位"), entry("a", "art. 一")});
   EXPECT_EQ(texts(vocabulary),
             (std::vector<std::u16string>{u"a=一", u"Bit=比特", u"Bit=位", u"zoo=动物园"}));
 }
 
-TEST(PairCollector, CountsTheEntrysPairs) {
+TEST(PairCollector, ReturnsTheNumberOfPairsAdded) {
   PairCollector collector;
   EXPECT_EQ(collector.add(entry("bit", "位, 比特, 位")), 2U);
   EXPECT_EQ(collector.add(entry("bleaky", "= bleak")), 0U);
 }
 
-TEST(PairCollector, MakesOneOfWordsThatDifferInCaseOnly) {
+TEST(PairCollector, JoinsWordsThatDifferInCaseOnly) {
   const Vocabulary vocabulary =
       collect({entry("Polish", "波兰语, A型"), entry("polish", "擦亮, a型, 波兰语")});
   EXPECT_EQ(vocabulary.english, (std::vector<std::u16string>{u"Polish"}));
@@ -92,12 +92,12 @@ TEST(PairCollector, RatesPairs) {
   EXPECT_EQ(tierOf(vocabulary, u"巴提"), Tier::kName);
 }
 
-TEST(PairCollector, ANameInCommonUseIsImportant) {
+TEST(PairCollector, RatesANameInCommonUseAsImportant) {
   const Vocabulary vocabulary = collect({entry("alexander", "n. 亚历山大（男子名）", true)});
   EXPECT_EQ(tierOf(vocabulary, u"亚历山大"), Tier::kImportantFirst);
 }
 
-TEST(PairCollector, AnInflectedFormWithoutMeaningPointsToItsBase) {
+TEST(PairCollector, PairsABareInflectedFormWithItsNote) {
   EXPECT_EQ(texts(collect({entry("backslidden", "(backslide 的过去分词)")})),
             (std::vector<std::u16string>{u"backslidden=backslide的过去分词"}));
 }
@@ -134,7 +134,7 @@ TEST(Arrange, LinksBothTablesRowByRow) {
   }
 }
 
-TEST(Arrange, LeavesOutWhatIsNotChosen) {
+TEST(Arrange, LeavesOutPairsThatAreNotChosen) {
   const Vocabulary vocabulary = collect({entry("heat", "热, 加热"), entry("warm", "暖")});
   const dictionary::GeneralDictionary general =
       dictionary::arrange(vocabulary, {true, false, true});
@@ -142,7 +142,7 @@ TEST(Arrange, LeavesOutWhatIsNotChosen) {
   EXPECT_EQ(general.cdict.size(), 2U);
 }
 
-TEST(SubjectCollector, MakesOneRowOfAHeadword) {
+TEST(SubjectCollector, JoinsTheLinesOfAHeadword) {
   dictionary::SubjectCollector collector;
   collector.add(entry("zone", "[医] 带, 区(域)\\n[计] 区域\\n[医] 带, 区(域)\\n[医] 层"));
   collector.add(entry("Acid", "[化] 酸"));

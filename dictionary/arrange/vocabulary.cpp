@@ -1,4 +1,4 @@
-#include "dictionary/arrange/pair_collector.h"
+#include "dictionary/arrange/vocabulary.h"
 
 #include <algorithm>
 #include <numeric>
@@ -10,9 +10,10 @@
 namespace dictionary {
 namespace {
 
-/// How many equivalents of another headword an entry that refers to it gets.
-constexpr std::size_t kMostFollowed = 4;
+/// Equivalents that an entry takes over from the headword that it refers to.
+constexpr std::size_t kMaxFollowed = 4;
 
+/// Where an equivalent comes from.
 enum class Kind : std::uint8_t { kOrdinary, kWeb, kName };
 
 struct Candidate {
@@ -42,6 +43,8 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
   return candidates;
 }
 
+/// `first`: the entry's first equivalent of that kind; `only`: the entry has no equivalents of a
+/// kind that comes before it.
 Tier tierOf(const Entry& entry, bool inflected, Kind kind, bool only, bool first) {
   if (entry.important && only && kind != Kind::kOrdinary) {
     return first ? Tier::kImportantFirst : Tier::kImportant;
@@ -56,7 +59,8 @@ Tier tierOf(const Entry& entry, bool inflected, Kind kind, bool only, bool first
   return first ? Tier::kFirst : Tier::kOrdinary;
 }
 
-/// Sorts `words`, makes one of those that are equal, and returns the new place of each old one.
+/// Sorts `words`, removes all but the first of those that are equal, and returns the new index of
+/// each old one.
 std::vector<std::uint32_t> sortWords(std::vector<std::u16string>& words) {
   std::vector<std::uint32_t> order(words.size());
   std::iota(order.begin(), order.end(), 0U);
@@ -125,7 +129,7 @@ void PairCollector::followReferences() {
   for (const Pair& pair : pairs_) {
     const auto found = meanings.find(text::toLower(english_[pair.english]));
     const bool wanted =
-        found != meanings.end() && pair.tier < Tier::kOnly && found->second.size() < kMostFollowed;
+        found != meanings.end() && pair.tier < Tier::kOnly && found->second.size() < kMaxFollowed;
     if (wanted) found->second.push_back(pair.chinese);
   }
   for (const Reference& reference : references_) {

@@ -1,4 +1,4 @@
-#include "dictionary/arrange/row_exchange.h"
+#include "dictionary/arrange/max_flow.h"
 
 #include <gtest/gtest.h>
 
@@ -8,47 +8,47 @@
 namespace {
 
 using dictionary::BlockPlan;
+using dictionary::MaxFlow;
 using dictionary::Pair;
-using dictionary::RowExchange;
 using dictionary::Tier;
 
-/// A pair in an English and a Chinese block.
-struct Place {
+/// A pair with its English and its Chinese block.
+struct Edge {
   std::uint32_t english;
   std::uint32_t chinese;
   Tier tier;
   bool kept;
 };
 
-/// Blocks with pairs, before and after an exchange.
+/// Blocks of both languages and the pairs kept in them.
 class Blocks {
  public:
-  Blocks(const std::vector<Place>& places, std::vector<std::uint32_t> englishRows,
+  Blocks(const std::vector<Edge>& edges, std::vector<std::uint32_t> englishRows,
          std::vector<std::uint32_t> chineseRows) {
     english_.rows = std::move(englishRows);
     chinese_.rows = std::move(chineseRows);
-    for (const Place& place : places) {
-      pairs_.push_back({0, 0, place.tier, 0});
-      english_.blockOf.push_back(place.english);
-      chinese_.blockOf.push_back(place.chinese);
-      kept.push_back(place.kept);
+    for (const Edge& edge : edges) {
+      pairs_.push_back({0, 0, edge.tier, 0});
+      english_.blockOf.push_back(edge.english);
+      chinese_.blockOf.push_back(edge.chinese);
+      kept.push_back(edge.kept);
     }
-    barred.resize(places.size());
+    excluded.resize(edges.size());
   }
 
-  bool exchange(Tier first) {
-    RowExchange rows(pairs_, english_, chinese_, kept);
-    rows.run(first, Tier::kWeb, barred);
-    return rows.done();
+  bool run(Tier first) {
+    MaxFlow flow(pairs_, english_, chinese_, kept);
+    flow.run(first, Tier::kWeb, excluded);
+    return flow.done();
   }
 
   void fillEnglish() {
-    RowExchange rows(pairs_, english_, chinese_, kept);
-    rows.fillEnglish(barred);
+    MaxFlow flow(pairs_, english_, chinese_, kept);
+    flow.fillEnglish(excluded);
   }
 
   std::vector<bool> kept;
-  std::vector<bool> barred;
+  std::vector<bool> excluded;
 
  private:
   std::vector<Pair> pairs_;
@@ -56,53 +56,53 @@ class Blocks {
   BlockPlan chinese_;
 };
 
-TEST(RowExchange, HasNothingToDoForFullBlocks) {
+TEST(MaxFlow, ChangesNothingWhereBlocksAreFull) {
   Blocks blocks({{0, 0, Tier::kFirst, true}, {0, 0, Tier::kWeb, false}}, {1}, {1});
-  EXPECT_TRUE(blocks.exchange(Tier::kImportantFirst));
+  EXPECT_TRUE(blocks.run(Tier::kImportantFirst));
   EXPECT_EQ(blocks.kept, (std::vector<bool>{true, false}));
 }
 
-TEST(RowExchange, AddsWhatFitsBothLanguages) {
+TEST(MaxFlow, AddsPairsThatFitBothLanguages) {
   Blocks blocks({{0, 1, Tier::kWeb, false},
                  {0, 0, Tier::kWeb, false},
                  {1, 0, Tier::kWeb, false},
                  {1, 1, Tier::kWeb, false}},
                 {1, 1}, {2, 0});
-  EXPECT_TRUE(blocks.exchange(Tier::kWeb));
+  EXPECT_TRUE(blocks.run(Tier::kWeb));
   EXPECT_EQ(blocks.kept, (std::vector<bool>{false, true, true, false}));
 }
 
-TEST(RowExchange, ExchangesPairsAcrossBlocks) {
+TEST(MaxFlow, ExchangesPairsAlongAnAugmentingPath) {
   // English block 0 lacks a row and Chinese block 1 too, but no pair stands in both. Adding (0, 0)
   // overfills Chinese block 0, so (1, 0) goes and (1, 1) comes.
   Blocks blocks({{0, 0, Tier::kWeb, false}, {1, 0, Tier::kWeb, true}, {1, 1, Tier::kWeb, false}},
                 {1, 1}, {1, 1});
-  EXPECT_TRUE(blocks.exchange(Tier::kWeb));
+  EXPECT_TRUE(blocks.run(Tier::kWeb));
   EXPECT_EQ(blocks.kept, (std::vector<bool>{true, false, true}));
 }
 
-TEST(RowExchange, LeavesValuablePairsAloneUnlessTheyAreGivenUp) {
-  const std::vector<Place> places = {
+TEST(MaxFlow, RemovesOnlyPairsOfTheGivenTiers) {
+  const std::vector<Edge> edges = {
       {0, 0, Tier::kWeb, false}, {1, 0, Tier::kOrdinary, true}, {1, 1, Tier::kWeb, false}};
-  Blocks blocks(places, {1, 1}, {1, 1});
-  EXPECT_FALSE(blocks.exchange(Tier::kInflected));
+  Blocks blocks(edges, {1, 1}, {1, 1});
+  EXPECT_FALSE(blocks.run(Tier::kInflected));
   EXPECT_EQ(blocks.kept, (std::vector<bool>{false, true, false}));
-  EXPECT_TRUE(blocks.exchange(Tier::kOrdinary));
+  EXPECT_TRUE(blocks.run(Tier::kOrdinary));
   EXPECT_EQ(blocks.kept, (std::vector<bool>{true, false, true}));
 }
 
-TEST(RowExchange, NeverAddsABarredPair) {
+TEST(MaxFlow, NeverAddsAnExcludedPair) {
   Blocks blocks({{0, 0, Tier::kWeb, false}}, {1}, {1});
-  blocks.barred[0] = true;
-  EXPECT_FALSE(blocks.exchange(Tier::kImportantFirst));
+  blocks.excluded[0] = true;
+  EXPECT_FALSE(blocks.run(Tier::kImportantFirst));
   blocks.fillEnglish();
   EXPECT_EQ(blocks.kept, (std::vector<bool>{false}));
 }
 
-TEST(RowExchange, FillsEnglishBlocksInAnyCase) {
+TEST(MaxFlow, FillsEnglishBlocksWithoutRegardToChinese) {
   Blocks blocks({{0, 0, Tier::kWeb, false}, {0, 0, Tier::kName, false}, {1, 0, Tier::kWeb, false}},
                 {1, 1}, {0, 2});
-  EXPECT_FALSE(blocks.exchange(Tier::kImportantFirst));
+  EXPECT_FALSE(blocks.run(Tier::kImportantFirst));
   blocks.fillEnglish();
   EXPECT_EQ(blocks.kept, (std::vector<bool>{false, true, true}));
 }

@@ -1,4 +1,4 @@
-#include "dictionary/arrange/row_exchange.h"
+#include "dictionary/arrange/max_flow.h"
 
 #include <algorithm>
 #include <numeric>
@@ -6,17 +6,18 @@
 
 namespace dictionary {
 
-RowExchange::RowExchange(const std::vector<Pair>& pairs, const BlockPlan& english,
-                         const BlockPlan& chinese, std::vector<bool>& kept)
-    : pairs_(pairs), english_(english), chinese_(chinese), kept_(kept), missing_(english.rows) {
-  missing_.insert(missing_.end(), chinese.rows.begin(), chinese.rows.end());
+MaxFlow::MaxFlow(const std::vector<Pair>& pairs, const BlockPlan& english, const BlockPlan& chinese,
+                 std::vector<bool>& kept)
+    : pairs_(pairs), english_(english), chinese_(chinese), kept_(kept), deficit_(english.rows) {
+  deficit_.insert(deficit_.end(), chinese.rows.begin(), chinese.rows.end());
   const auto firstChinese = static_cast<std::uint32_t>(english.rows.size());
   for (std::size_t pair = 0; pair < pairs.size(); ++pair) {
     if (!kept[pair]) continue;
-    --missing_[english.blockOf[pair]];
-    --missing_[firstChinese + chinese.blockOf[pair]];
+    --deficit_[english.blockOf[pair]];
+    --deficit_[firstChinese + chinese.blockOf[pair]];
   }
-  open_ = std::accumulate(missing_.begin(), missing_.begin() + firstChinese, std::size_t{0});
+  englishDeficit_ =
+      std::accumulate(deficit_.begin(), deficit_.begin() + firstChinese, std::size_t{0});
   byValue_.resize(pairs.size());
   std::iota(byValue_.begin(), byValue_.end(), 0U);
   std::ranges::sort(byValue_, {}, [&](std::uint32_t pair) {
@@ -24,13 +25,13 @@ RowExchange::RowExchange(const std::vector<Pair>& pairs, const BlockPlan& englis
   });
 }
 
-std::uint32_t RowExchange::otherEnd(std::uint32_t node, std::uint32_t pair) const {
+std::uint32_t MaxFlow::otherEnd(std::uint32_t node, std::uint32_t pair) const {
   if (!isEnglish(node)) return english_.blockOf[pair];
   return static_cast<std::uint32_t>(english_.rows.size()) + chinese_.blockOf[pair];
 }
 
-RowExchange::Edges RowExchange::edgesOf(const BlockPlan& plan,
-                                        const std::vector<std::uint32_t>& usable) const {
+MaxFlow::Edges MaxFlow::edgesOf(const BlockPlan& plan,
+                                const std::vector<std::uint32_t>& usable) const {
   Edges edges;
   edges.begin.assign(plan.rows.size() + 1, 0);
   for (const std::uint32_t pair : usable) ++edges.begin[plan.blockOf[pair] + 1];
@@ -41,13 +42,14 @@ RowExchange::Edges RowExchange::edgesOf(const BlockPlan& plan,
   return edges;
 }
 
-/// Finds how many exchanges every block lies behind an English block that is short; whether a
-/// Chinese one that is short is among them.
-bool RowExchange::findLevels() {
-  level_.assign(missing_.size(), kUnreached);
+/// Breadth-first search from all sources: the level of a node is its distance from the nearest one.
+/// Returns whether a sink was reached. An edge leads from English to Chinese if its pair can be
+/// added, back if it can be removed.
+bool MaxFlow::buildLevelGraph() {
+  level_.assign(deficit_.size(), kUnreached);
   std::vector<std::uint32_t> queue;
   for (std::uint32_t node = 0; node < english_.rows.size(); ++node) {
-    if (missing_[node] == 0) continue;
+    if (deficit_[node] == 0) continue;
     level_[node] = 0;
     queue.push_back(node);
   }
@@ -58,7 +60,7 @@ bool RowExchange::findLevels() {
     const bool english = isEnglish(node);
     const Edges& edges = english ? englishEdges_ : chineseEdges_;
     const std::uint32_t block = english ? node : node - firstChinese;
-    found = found || (!english && missing_[node] > 0);
+    found = found || (!english && deficit_[node] > 0);
     for (std::uint32_t e = edges.begin[block]; e < edges.begin[block + 1]; ++e) {
       const std::uint32_t other = otherEnd(node, edges.pairs[e]);
       if (kept_[edges.pairs[e]] == english || level_[other] != kUnreached) continue;
@@ -69,56 +71,57 @@ bool RowExchange::findLevels() {
   return found;
 }
 
-/// Exchanges along one way of rising levels to a Chinese block that is short.
-bool RowExchange::pushFrom(std::uint32_t node) {
+/// Depth-first search for one augmenting path from `node` to a sink in the level graph. Flips the
+/// pairs on the path and takes one from the sink's deficit; returns whether there was a path.
+bool MaxFlow::augment(std::uint32_t node) {
   const bool english = isEnglish(node);
-  if (!english && missing_[node] > 0) {
-    --missing_[node];
+  if (!english && deficit_[node] > 0) {
+    --deficit_[node];
     return true;
   }
   const Edges& edges = english ? englishEdges_ : chineseEdges_;
   const auto firstChinese = static_cast<std::uint32_t>(english_.rows.size());
   const std::uint32_t block = english ? node : node - firstChinese;
-  for (; next_[node] < edges.begin[block + 1]; ++next_[node]) {
-    const std::uint32_t pair = edges.pairs[next_[node]];
+  for (; nextEdge_[node] < edges.begin[block + 1]; ++nextEdge_[node]) {
+    const std::uint32_t pair = edges.pairs[nextEdge_[node]];
     const std::uint32_t other = otherEnd(node, pair);
     if (kept_[pair] == english || level_[other] != level_[node] + 1) continue;
-    if (!pushFrom(other)) continue;
+    if (!augment(other)) continue;
     kept_[pair] = english;
     return true;
   }
   return false;
 }
 
-void RowExchange::run(Tier first, Tier last, const std::vector<bool>& barred) {
+void MaxFlow::run(Tier first, Tier last, const std::vector<bool>& excluded) {
   std::vector<std::uint32_t> usable;
   for (const std::uint32_t pair : byValue_) {
     const Tier tier = pairs_[pair].tier;
-    if (tier >= first && tier <= last && (kept_[pair] || !barred[pair])) usable.push_back(pair);
+    if (tier >= first && tier <= last && (kept_[pair] || !excluded[pair])) usable.push_back(pair);
   }
   englishEdges_ = edgesOf(english_, usable);
   std::ranges::reverse(usable);
   chineseEdges_ = edgesOf(chinese_, usable);
-  while (open_ > 0 && findLevels()) {
-    next_ = englishEdges_.begin;
-    next_.pop_back();
-    next_.insert(next_.end(), chineseEdges_.begin.begin(), chineseEdges_.begin.end() - 1);
+  while (englishDeficit_ > 0 && buildLevelGraph()) {
+    nextEdge_ = englishEdges_.begin;
+    nextEdge_.pop_back();
+    nextEdge_.insert(nextEdge_.end(), chineseEdges_.begin.begin(), chineseEdges_.begin.end() - 1);
     for (std::uint32_t node = 0; node < english_.rows.size(); ++node) {
-      while (missing_[node] > 0 && pushFrom(node)) {
-        --missing_[node];
-        --open_;
+      while (deficit_[node] > 0 && augment(node)) {
+        --deficit_[node];
+        --englishDeficit_;
       }
     }
   }
 }
 
-void RowExchange::fillEnglish(const std::vector<bool>& barred) {
+void MaxFlow::fillEnglish(const std::vector<bool>& excluded) {
   for (const std::uint32_t pair : byValue_) {
-    std::uint32_t& missing = missing_[english_.blockOf[pair]];
-    if (kept_[pair] || barred[pair] || missing == 0) continue;
+    std::uint32_t& deficit = deficit_[english_.blockOf[pair]];
+    if (kept_[pair] || excluded[pair] || deficit == 0) continue;
     kept_[pair] = true;
-    --missing;
-    --open_;
+    --deficit;
+    --englishDeficit_;
   }
 }
 

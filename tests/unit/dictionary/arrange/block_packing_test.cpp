@@ -1,4 +1,4 @@
-#include "dictionary/arrange/block_choice.h"
+#include "dictionary/arrange/block_packing.h"
 
 #include <gtest/gtest.h>
 
@@ -93,14 +93,14 @@ TEST(ChoosePairs, TakesEverythingThatFillsBlocks) {
   EXPECT_EQ(keptCount(choosePairs(vocabulary, LookupLimits())), 300U);
 }
 
-TEST(ChoosePairs, LeavesOutWhatFillsNoBlock) {
+TEST(ChoosePairs, LeavesOutPairsThatFillNoBlock) {
   const Vocabulary vocabulary = vocabularyOf(singles(399));
   const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
   EXPECT_EQ(keptCount(kept), 300U);
   expectWholeBlocks(vocabulary, kept);
 }
 
-TEST(ChoosePairs, RefusesLessThanABlock) {
+TEST(ChoosePairs, ThrowsForLessThanABlock) {
   EXPECT_THROW(choosePairs(vocabularyOf(singles(99)), LookupLimits()), dictionary::Failure);
   EXPECT_THROW(choosePairs(Vocabulary(), LookupLimits()), dictionary::Failure);
 }
@@ -174,7 +174,7 @@ TEST(ChoosePairs, KeepsAGroupOfEightyRowsTogether) {
   }
 }
 
-TEST(ChoosePairs, GivesUpTheLeastValuableFirst) {
+TEST(ChoosePairs, LeavesOutTheLeastValuableFirst) {
   std::vector<Word> words = singles(1000);
   for (std::size_t i = 0; i < words.size(); ++i) words[i].pairs = 1 + i % 3;
   for (std::size_t i = 0; i < words.size(); i += 5) words[i].tier = Tier::kWeb;
@@ -191,7 +191,7 @@ TEST(ChoosePairs, GivesUpTheLeastValuableFirst) {
   }
 }
 
-TEST(ChoosePairs, GivesUpLaterEquivalentsBeforeFirstOnes) {
+TEST(ChoosePairs, LeavesOutLaterEquivalentsBeforeFirstOnes) {
   std::vector<Word> words = singles(60);
   for (Word& word : words) word.pairs = 3;
   const Vocabulary vocabulary = vocabularyOf(words);
@@ -220,8 +220,8 @@ TEST(ChoosePairs, LimitsTheRowsOfAChineseHeadword) {
   expectWholeBlocks(vocabulary, kept);
 }
 
-TEST(ChoosePairs, EndsChineseHeadwordsWhereListsEnd) {
-  // 4,000 pairs that must stay and 1,000 that may, of 1,500 Chinese headwords in another order.
+TEST(ChoosePairs, LetsNoChineseHeadwordCrossABlockWhereAvoidable) {
+  // 4,000 wanted and 1,000 spare pairs of 1,500 Chinese headwords in another order.
   std::mt19937 random(7);
   std::vector<Word> words = singles(2500);
   for (Word& word : words) word.pairs = 2;
@@ -250,7 +250,7 @@ TEST(ChoosePairs, EndsChineseHeadwordsWhereListsEnd) {
   }
 }
 
-TEST(ChoosePairs, HoldsForAnyMixtureOfGroups) {
+TEST(ChoosePairs, KeepsWholeBlocksForRandomVocabularies) {
   std::mt19937 random(20240611);
   for (int round = 0; round < 20; ++round) {
     std::vector<Word> words = singles(500 + random() % 500);

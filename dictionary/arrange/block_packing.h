@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "data/bound_limits.h"
+#include "dictionary/arrange/vocabulary.h"
+
+namespace dictionary {
+
+/// What the lookups can reach, by the arithmetic of their bound step.
+struct LookupLimits {
+  /// Rows of a block: the rows up to a row of [edictidx] or [cdictidx], which name the headword of
+  /// each hundredth row.
+  std::size_t blockRows = data::kBlockRows;
+  /// Most rows of a table: where the bound step ends a Chinese search that no index row ends.
+  std::size_t maxRows = data::kLastRow;
+  /// Most rows of a Chinese headword: a Chinese search reaches this far back from the last index
+  /// row that is not after the word.
+  std::size_t maxChineseRows = data::kReachBack + 1;
+};
+
+/// Chooses the pairs that the general dictionary takes, so that the lookups reach every row:
+/// - as many whole blocks of rows as there are pairs for and as the tables may have;
+/// - no English headword, and no group of English headwords that are equal up to and including
+///   their first apostrophe, crosses from one block into the next;
+/// - no Chinese headword has more rows than a search reaches.
+/// Of the pairs that do not fit, the least valuable are left out (see Tier). Chinese headwords may
+/// cross a block, which is avoided where it costs no valuable pair.
+/// Returns one flag for each of the vocabulary's pairs. Throws Failure if they fill no block.
+std::vector<bool> choosePairs(const Vocabulary& vocabulary, const LookupLimits& limits);
+
+}  // namespace dictionary
