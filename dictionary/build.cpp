@@ -9,8 +9,8 @@
 #include "dictionary/arrange/subject_collector.h"
 #include "dictionary/arrange/vocabulary.h"
 #include "dictionary/console.h"
-#include "dictionary/database/database_writer.h"
-#include "dictionary/database/install.h"
+#include "dictionary/database/publish.h"
+#include "dictionary/database/writer.h"
 #include "dictionary/report.h"
 #include "dictionary/source/csv_reader.h"
 
@@ -25,15 +25,15 @@ constexpr std::size_t kProgressStep = 200'000;
 constexpr std::size_t kMebibyte = std::size_t{1} << 20U;
 
 /// The stages of one build in their order, and what each hands to the next: readSource(),
-/// arrangeContent(), install().
+/// arrangeContent(), publish().
 class Builder {
  public:
   explicit Builder(std::ostream& log) : log_(log), progress_(log) {}
 
   void readSource(std::istream& stream);
   void arrangeContent();
-  void install(const std::filesystem::path& target) {
-    installDatabase(content_, target, log_, progress_);
+  void publish(const std::filesystem::path& target) {
+    publishDatabase(content_, target, log_, progress_);
   }
   void printReport() const { report_.print(log_); }
   void reportCost();
@@ -122,7 +122,7 @@ void buildDatabase(const std::filesystem::path& source, const std::filesystem::p
   Builder builder(log);
   builder.readSource(stream);
   builder.arrangeContent();
-  builder.install(target);
+  builder.publish(target);
   builder.printReport();
   builder.reportCost();
 }

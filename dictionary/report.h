@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/database/database_writer.h"
+#include "dictionary/database/writer.h"
 #include "dictionary/source/csv_reader.h"
 #include "dictionary/translation/entry.h"
 

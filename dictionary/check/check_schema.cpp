@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "data/text_functions.h"
-#include "dictionary/database/table.h"
+#include "dictionary/database/row_io.h"
 
 namespace dictionary {
 namespace {

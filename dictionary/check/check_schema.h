@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "dictionary/check/findings.h"
-#include "dictionary/database/table.h"
+#include "dictionary/database/row_io.h"
 
 struct sqlite3;
 

@@ -8,8 +8,8 @@
 
 #include "dictionary/check/check_schema.h"
 #include "dictionary/check/check_text.h"
+#include "dictionary/database/row_io.h"
 #include "dictionary/database/schema.h"
-#include "dictionary/database/table.h"
 #include "dictionary/source/characters.h"
 #include "text/order.h"
 #include "text/utf.h"

@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "dictionary/database/table.h"
+#include "dictionary/database/row_io.h"
 #include "dictionary/source/characters.h"
 #include "text/order.h"
 #include "text/utf.h"

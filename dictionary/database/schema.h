@@ -5,12 +5,12 @@
 
 namespace dictionary {
 
-/// Tables that every dictionary database has.
+/// The tables of every dictionary database besides the subject dictionaries.
 inline constexpr std::array<std::string_view, 5> kFixedTables = {"edict", "cdict", "edictidx",
                                                                  "cdictidx", "Index"};
 
-/// Statements that make them, in the order above. [cdictidx] has an index on its word: the bound
-/// step asks for the rows on either side of a word at every keystroke.
+/// Statements that create them, in the order above. [cdictidx] has an index on its word because the
+/// bound step asks for the rows on either side of a word at every keystroke.
 inline constexpr std::array<std::string_view, 6> kFixedTableSql = {
     "create table [edict] (eid integer primary key, word text not null collate lexilo, "
     "cid integer not null)",
@@ -23,8 +23,8 @@ inline constexpr std::array<std::string_view, 6> kFixedTableSql = {
     "Cname text not null collate lexilo, Isshow integer not null, [default] integer not null)",
 };
 
-/// What follows the name of a subject dictionary's table. Its rows lie in the order of their
-/// headwords, so that a search by beginning needs no index of its own.
+/// What follows "create table [name]" for a subject dictionary. Without a rowid its rows are stored
+/// in the order of their headwords, so that a search by prefix needs no index.
 inline constexpr std::string_view kSubjectColumns =
     " (word text not null collate lexilo primary key, meaning text not null collate lexilo) "
     "without rowid";

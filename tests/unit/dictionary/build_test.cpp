@@ -9,7 +9,7 @@
 
 #include "dictionary/check/check.h"
 #include "dictionary/console.h"
-#include "dictionary/database/install.h"
+#include "dictionary/database/publish.h"
 #include "tests/unit/support/sample_database.h"
 #include "tests/unit/support/small_dictionary.h"
 #include "tests/unit/support/temp_folder.h"
@@ -33,7 +33,7 @@ std::string failureOf(const std::filesystem::path& source, const std::filesystem
   return "";
 }
 
-TEST(BuildDatabase, MakesADictionaryThatKeepsEveryRule) {
+TEST(BuildDatabase, KeepsEveryRule) {
   const dictionary::CheckResult result = dictionary::checkDatabase(support::smallDatabase());
   std::ostringstream findings;
   result.findings.print(findings);
@@ -43,7 +43,7 @@ TEST(BuildDatabase, MakesADictionaryThatKeepsEveryRule) {
   EXPECT_EQ(result.pairs % 100, 0U);
 }
 
-TEST(BuildDatabase, MakesTheSameBytesOfTheSameSource) {
+TEST(BuildDatabase, WritesTheSameBytesForTheSameSource) {
   const TempFolder folder;
   build(support::smallSource(), folder.file(u"again.dat"));
   EXPECT_EQ(support::readFile(folder.file(u"again.dat")),
@@ -63,7 +63,7 @@ TEST(BuildDatabase, ReplacesAFormerDatabase) {
   EXPECT_EQ(support::readFile(folder.file(u"kk.dat")), support::readFile(support::smallDatabase()));
 }
 
-TEST(BuildDatabase, KeepsTheFormerDatabaseWhenTheSourceIsNoGood) {
+TEST(BuildDatabase, KeepsTheFormerDatabaseWhenTheSourceIsBad) {
   const TempFolder folder;
   support::writeFile(folder.file(u"kk.dat"), "former");
   support::writeFile(folder.file(u"empty.csv"), "");
@@ -79,7 +79,7 @@ TEST(BuildDatabase, KeepsTheFormerDatabaseWhenTheSourceIsNoGood) {
   EXPECT_EQ(support::entryCount(folder.path()), 4);
 }
 
-TEST(InstallDatabase, RefusesContentThatBreaksARule) {
+TEST(PublishDatabase, RefusesContentThatBreaksARule) {
   const TempFolder folder;
   support::writeFile(folder.file(u"kk.dat"), "former");
   dictionary::DatabaseContent content;
@@ -89,14 +89,14 @@ TEST(InstallDatabase, RefusesContentThatBreaksARule) {
   content.general.cdict = {{0, 1}, {1, 2}};
   std::ostringstream log;
   dictionary::Progress progress(log);
-  EXPECT_THROW(dictionary::installDatabase(content, folder.file(u"kk.dat"), log, progress),
+  EXPECT_THROW(dictionary::publishDatabase(content, folder.file(u"kk.dat"), log, progress),
                dictionary::Failure);
   EXPECT_NE(log.str().find(dictionary::describe(dictionary::Rule::kOrder)), std::string::npos);
   EXPECT_EQ(support::readFile(folder.file(u"kk.dat")), "former");
   EXPECT_EQ(support::entryCount(folder.path()), 1);
 }
 
-TEST(BuildDatabase, LeavesATargetThatCannotBeReplaced) {
+TEST(BuildDatabase, KeepsATargetThatCannotBeReplaced) {
   const TempFolder folder;
   std::filesystem::create_directory(folder.file(u"kk.dat"));
   support::writeFile(folder.file(u"kk.dat") / "inside", "x");
@@ -105,7 +105,7 @@ TEST(BuildDatabase, LeavesATargetThatCannotBeReplaced) {
   EXPECT_EQ(support::entryCount(folder.path()), 1);
 }
 
-TEST(BuildDatabase, FailsWhereTheTargetsFolderIsNotThere) {
+TEST(BuildDatabase, FailsIfTheTargetsFolderDoesNotExist) {
   const TempFolder folder;
   EXPECT_NE(failureOf(support::smallSource(), folder.file(u"none") / "kk.dat"), "");
 }
@@ -147,7 +147,7 @@ TEST(BuildDatabase, ReportsEveryBadLineByItsNumber) {
             std::string::npos);
 }
 
-TEST(BuildDatabase, ReportsWhatItTook) {
+TEST(BuildDatabase, ReportsTimeAndMemory) {
   const TempFolder folder;
   const std::string log = build(support::smallSource(), folder.file(u"kk.dat"));
   const std::size_t line = log.rfind("\n[") + 1;
@@ -155,7 +155,7 @@ TEST(BuildDatabase, ReportsWhatItTook) {
   EXPECT_TRUE(log.ends_with(" MiB of memory\n"));
 }
 
-TEST(BuildDatabase, ReportsWhatItDid) {
+TEST(BuildDatabase, ReportsStepsAndCounts) {
   const TempFolder folder;
   const std::string log = build(support::smallSource(), folder.file(u"kk.dat"));
   for (const std::string part :

@@ -1,14 +1,14 @@
-#include "dictionary/database/temporary_file.h"
+#include "dictionary/database/publish.h"
 
 #include <array>
 #include <system_error>
 
-#include "dictionary/console.h"
+#include "dictionary/check/check.h"
 
 namespace dictionary {
 namespace {
 
-/// What SQLite keeps beside a database and leaves there when its writer is killed.
+/// Endings of the files that SQLite keeps beside a database and that a killed writer leaves there.
 constexpr std::array kCompanions = {"-journal", "-wal", "-shm"};
 
 std::filesystem::path with(std::filesystem::path path, const char* ending) {
@@ -20,11 +20,12 @@ std::filesystem::path with(std::filesystem::path path, const char* ending) {
   throw Failure("cannot replace " + displayName(target) + ": " + error.message());
 }
 
-/// Keeps what belongs to the old database away from the new one, into which it would be rolled
-/// back. It is deleted once the old database is gone and returns to it as long as it is not.
-class CompanionsAside {
+/// Renames the files beside the database `target` for as long as it is being replaced: a journal
+/// that a killed writer left would be rolled back into the new database. The destructor deletes
+/// them after setReplaced(), otherwise it restores their names.
+class ScopedCompanionsAside {
  public:
-  explicit CompanionsAside(const std::filesystem::path& target)
+  explicit ScopedCompanionsAside(const std::filesystem::path& target)
       : target_(target), aside_(with(target, ".old")) {
     for (const char* ending : kCompanions) {
       if (const std::error_code error = move(target_, aside_, ending)) {
@@ -33,9 +34,9 @@ class CompanionsAside {
       }
     }
   }
-  CompanionsAside(const CompanionsAside&) = delete;
-  CompanionsAside& operator=(const CompanionsAside&) = delete;
-  ~CompanionsAside() { replaced_ ? remove() : putBack(); }
+  ScopedCompanionsAside(const ScopedCompanionsAside&) = delete;
+  ScopedCompanionsAside& operator=(const ScopedCompanionsAside&) = delete;
+  ~ScopedCompanionsAside() { replaced_ ? remove() : putBack(); }
 
   void setReplaced() { replaced_ = true; }
 
@@ -76,11 +77,27 @@ TemporaryFile::~TemporaryFile() {
 }
 
 void TemporaryFile::replace(const std::filesystem::path& target) const {
-  CompanionsAside companions(target);
+  ScopedCompanionsAside companions(target);
   std::error_code error;
   std::filesystem::rename(path_, target, error);
   if (error) fail(target, error);
   companions.setReplaced();
+}
+
+void publishDatabase(const DatabaseContent& content, const std::filesystem::path& target,
+                     std::ostream& log, Progress& progress) {
+  const TemporaryFile temporary(target);
+  writeDatabase(content, temporary.path());
+  progress.report("database written");
+  const CheckResult check = checkDatabase(temporary.path());
+  if (!check.findings.empty()) {
+    check.findings.print(log);
+    throw Failure("the new database breaks the rules above; " + displayName(target) +
+                  " stays as it was");
+  }
+  progress.report("database checked");
+  temporary.replace(target);
+  progress.report(displayName(target) + " is ready");
 }
 
 }  // namespace dictionary

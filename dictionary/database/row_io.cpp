@@ -1,4 +1,4 @@
-#include "dictionary/database/table.h"
+#include "dictionary/database/row_io.h"
 
 #include <sqlite3.h>
 

@@ -1,4 +1,4 @@
-#include "dictionary/database/database_writer.h"
+#include "dictionary/database/writer.h"
 
 #include <chrono>
 #include <cstddef>
@@ -10,13 +10,14 @@
 #include "data/error.h"
 #include "dictionary/arrange/block_packing.h"
 #include "dictionary/console.h"
+#include "dictionary/database/row_io.h"
 #include "dictionary/database/schema.h"
-#include "dictionary/database/table.h"
 #include "dictionary/translation/subjects.h"
 
 namespace dictionary {
 namespace {
 
+/// Empties the file, or creates it: SQLite would open a database that is there.
 void createEmpty(const std::filesystem::path& file) {
   const std::ofstream stream(file, std::ios::binary | std::ios::trunc);
   if (!stream) throw Failure("cannot write " + displayName(file));
@@ -73,6 +74,8 @@ void writeSubjects(sqlite3* connection, const SubjectTables& subjects) {
 }
 
 void writeTables(sqlite3* connection, const DatabaseContent& content) {
+  // The bytes of the file depend on page size and encoding, which are not left to SQLite's
+  // defaults.
   for (const char* pragma : {"pragma page_size=4096", "pragma encoding='UTF-8'",
                              "pragma journal_mode=memory", "pragma synchronous=full"}) {
     data::execute(connection, pragma);

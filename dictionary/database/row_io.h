@@ -8,16 +8,17 @@
 
 namespace dictionary {
 
-/// Adds rows to one table. Texts are given in UTF-16 and stored in UTF-8. All operations throw
-/// data::Error.
+/// Inserts rows through one prepared statement. Texts are given in UTF-16 and stored in UTF-8. The
+/// connection must outlive the inserter. All operations throw data::Error.
 class RowInserter {
  public:
-  /// `sql` is an INSERT with one "?" for each value of a row.
+  /// `sql` is an INSERT statement with one "?" for each value of a row.
   RowInserter(sqlite3* connection, const std::string& sql);
 
+  /// Binds the next value of the row.
   RowInserter& text(std::u16string_view value);
   RowInserter& number(std::int64_t value);
-  /// Ends the row.
+  /// Inserts the row and begins the next.
   void insert();
 
  private:
@@ -26,20 +27,23 @@ class RowInserter {
   int bound_ = 0;
 };
 
-/// Reads the rows of a query one by one. All operations throw data::Error.
+/// Reads the rows of a query one by one. Columns are numbered from 0. The connection must outlive
+/// the reader. All operations throw data::Error.
 class RowReader {
  public:
   RowReader(sqlite3* connection, const std::string& sql);
 
-  /// Goes to the next row; false behind the last.
+  /// Moves to the next row; returns false after the last.
   bool next();
 
   [[nodiscard]] int columnCount() const;
+  /// UTF-8; "" for a column that does not exist.
   [[nodiscard]] std::string columnName(int column) const;
-  /// Value as text in UTF-8, "" for NULL; valid until next().
+  /// The value as UTF-8 text, "" for NULL; valid until next().
   [[nodiscard]] std::string_view text(int column) const;
+  /// The value as a number, 0 for what is none.
   [[nodiscard]] std::int64_t number(int column) const;
-  /// Whether the value is stored as a number or as a text.
+  /// Returns whether the value is stored as an integer or as text, before any conversion.
   [[nodiscard]] bool isInteger(int column) const;
   [[nodiscard]] bool isText(int column) const;
 
