@@ -4,15 +4,14 @@
 
 #include "data/connection.h"
 #include "data/error.h"
-#include "dictionary/check/check_general.h"
-#include "dictionary/check/check_reach.h"
-#include "dictionary/check/check_schema.h"
-#include "dictionary/check/check_subjects.h"
+#include "dictionary/check/general.h"
 #include "dictionary/check/general_tables.h"
+#include "dictionary/check/reach.h"
+#include "dictionary/check/schema_check.h"
+#include "dictionary/check/subjects_check.h"
 #include "dictionary/console.h"
 
 namespace dictionary {
-
 namespace {
 
 CheckResult checkOpened(sqlite3* connection) {

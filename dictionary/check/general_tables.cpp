@@ -15,7 +15,7 @@ bool fits32Bits(std::int64_t number) {
          number <= std::numeric_limits<std::int32_t>::max();
 }
 
-/// The text in a column; a finding if there is none.
+/// The text of a column; a finding unless it is a text in UTF-8 and not empty.
 std::u16string readText(const RowReader& reader, int column, const std::string& place,
                         Findings& findings) {
   const bool isText = reader.isText(column);
@@ -26,6 +26,7 @@ std::u16string readText(const RowReader& reader, int column, const std::string& 
   return text::toUtf16(bytes);
 }
 
+/// The number of a column; a finding unless it is a 32-bit integer.
 std::int64_t readNumber(const RowReader& reader, int column, const std::string& place,
                         Findings& findings) {
   if (!reader.isInteger(column) || !fits32Bits(reader.number(column))) {

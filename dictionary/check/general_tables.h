@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/check/findings.h"
+#include "dictionary/check/rules.h"
 
 struct sqlite3;
 
@@ -14,10 +14,10 @@ namespace dictionary {
 /// The rows of [edict] or [cdict] in their stored order.
 struct HeadwordTable {
   std::vector<std::u16string> words;
-  std::vector<std::int64_t> links;
+  std::vector<std::int64_t> links;  ///< the row numbers of the other halves, not checked
 };
 
-/// A headword's rows: from `first` to before `end`, counted from 0.
+/// The rows of one headword: indexes from `first` to before `end`, from 0.
 struct HeadwordRun {
   std::size_t first = 0;
   std::size_t end = 0;
@@ -31,14 +31,14 @@ struct GeneralTables {
   std::vector<std::u16string> chineseIndex;
 };
 
-/// Reads the general dictionary; values that are none (row numbers out of step, texts that are no
-/// UTF-8) become findings.
+/// Reads the general dictionary into memory. Values of the wrong kind (row numbers with gaps, texts
+/// that are not UTF-8) become findings. Throws data::Error if the file cannot be read.
 GeneralTables readGeneralTables(sqlite3* connection, Findings& findings);
 
-/// The headwords of a table: runs of rows whose words are equal.
+/// The headwords of a table: runs of rows whose words are equal in the text order.
 std::vector<HeadwordRun> headwordRuns(const HeadwordTable& table);
 
-/// "[edict] row 17 «abc»", with the row counted from 0.
+/// "[edict] row 17 «abc»" for the row with index 16.
 std::string rowName(const char* table, std::size_t row, const std::u16string& word);
 
 }  // namespace dictionary

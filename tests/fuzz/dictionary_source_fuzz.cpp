@@ -6,7 +6,7 @@
 
 #include "dictionary/arrange/subject_collector.h"
 #include "dictionary/arrange/vocabulary.h"
-#include "dictionary/check/check_text.h"
+#include "dictionary/check/general.h"
 #include "dictionary/source/characters.h"
 #include "dictionary/source/csv_reader.h"
 #include "dictionary/translation/entry.h"

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/check/check_general.h"
+#include "dictionary/check/general.h"
 #include "dictionary/console.h"
 #include "tests/unit/support/sample_database.h"
 #include "tests/unit/support/small_dictionary.h"
@@ -154,7 +154,7 @@ class CheckDatabase : public testing::Test {
   std::filesystem::path file_;
 };
 
-TEST_F(CheckDatabase, FindsNothingInASoundDictionary) {
+TEST_F(CheckDatabase, FindsNothingInAValidDictionary) {
   EXPECT_TRUE(dictionary::checkDatabase(file_).findings.empty());
 }
 
@@ -170,16 +170,16 @@ TEST_F(CheckDatabase, AllowsACatalogueWithFurtherColumnsAndIsshowAmongThem) {
       " remark text, [default] integer, more blob, ISSHOW integer);"
       "insert into [Index] select 'x',TableName,Cname,'no number',[default],x'00',Isshow"
       " from former;drop table former");
-  const CheckResult sound = dictionary::checkDatabase(file_);
+  const CheckResult valid = dictionary::checkDatabase(file_);
   std::ostringstream text;
-  sound.findings.print(text);
+  valid.findings.print(text);
   EXPECT_EQ(text.str(), "");
-  EXPECT_EQ(sound.dictionaries, 24U);
+  EXPECT_EQ(valid.dictionaries, 24U);
   run("update [Index] set Isshow=0 where TableName='med'");
   EXPECT_GT(dictionary::checkDatabase(file_).findings.count(Rule::kCatalogueDefault), 0U);
 }
 
-TEST(CheckDatabaseRules, NamesEveryRuleThatIsBroken) {
+TEST(CheckDatabaseRules, ReportsEveryBrokenRule) {
   std::vector<bool> covered(static_cast<std::size_t>(Rule::kCount));
   for (const Damage& damage : kDamages) {
     const support::TempFolder folder;
@@ -209,16 +209,16 @@ TEST(CheckRowCounts, AllowsAsManyRowsAsTheLookupsReach) {
   EXPECT_EQ(findings.count(Rule::kRowCount), 1U);
 }
 
-TEST_F(CheckDatabase, NoticesADamagedFile) {
+TEST_F(CheckDatabase, ReportsADamagedFile) {
   constexpr std::streamoff kFreePages = 36;  // number of free pages in the file's header
   overwrite(kFreePages, std::string("\0\0\0\x05", 4));
   EXPECT_GT(dictionary::checkDatabase(file_).findings.count(Rule::kUndamaged), 0U);
 }
 
 TEST_F(CheckDatabase, SurvivesAnyDamage) {
-  const std::string sound = support::readFile(file_);
-  for (std::size_t position = 0; position < sound.size(); position += 1511) {
-    support::writeFile(file_, sound);
+  const std::string valid = support::readFile(file_);
+  for (std::size_t position = 0; position < valid.size(); position += 1511) {
+    support::writeFile(file_, valid);
     overwrite(static_cast<std::streamoff>(position), std::string(64, '\xA5'));
     try {
       dictionary::checkDatabase(file_);
@@ -228,13 +228,13 @@ TEST_F(CheckDatabase, SurvivesAnyDamage) {
   }
 }
 
-TEST_F(CheckDatabase, RefusesWhatIsNoDictionary) {
+TEST_F(CheckDatabase, ThrowsForFilesThatAreNoDictionary) {
   support::writeFile(file_, "this is no database, only a few words that happen to lie in a file");
   EXPECT_THROW(dictionary::checkDatabase(file_), dictionary::Failure);
   support::writeFile(file_, "");
   EXPECT_GT(dictionary::checkDatabase(file_).findings.count(Rule::kTables), 0U);
-  const std::string sound = support::readFile(support::smallDatabase());
-  support::writeFile(file_, sound.substr(0, sound.size() / 2));
+  const std::string valid = support::readFile(support::smallDatabase());
+  support::writeFile(file_, valid.substr(0, valid.size() / 2));
   EXPECT_THROW(dictionary::checkDatabase(file_), dictionary::Failure);
   EXPECT_THROW(dictionary::checkDatabase(folder_.file(u"none")), dictionary::Failure);
   EXPECT_THROW(dictionary::checkDatabase(folder_.path()), dictionary::Failure);
@@ -249,7 +249,7 @@ TEST_F(CheckDatabase, CountsListsWhoseLastHeadwordIsCut) {
   EXPECT_LT(after.cutLists, after.chineseLists);
 }
 
-TEST(Findings, KeepTheFirstFewExamples) {
+TEST(Findings, KeepTheFirstExamples) {
   Findings findings;
   EXPECT_TRUE(findings.empty());
   for (int i = 0; i < 1234; ++i) findings.add(Rule::kOrder, "row " + std::to_string(i));

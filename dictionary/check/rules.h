@@ -10,7 +10,7 @@
 
 namespace dictionary {
 
-/// The rules that a dictionary database keeps.
+/// The rules that a dictionary database must keep.
 enum class Rule : std::uint8_t {
   kUndamaged,
   kTables,
@@ -42,23 +42,26 @@ enum class Rule : std::uint8_t {
   kCount,
 };
 
-/// The rule as a sentence without its full stop.
+/// The rule as a sentence without a full stop.
 std::string_view describe(Rule rule);
 
-/// What breaks the rules: how often each is broken, and the first few examples.
+/// What breaks the rules: how often each is broken, and the first examples.
 class Findings {
  public:
+  /// Examples that are kept of each rule.
   static constexpr std::size_t kMaxExamples = 5;
 
+  /// Counts a breach of `rule`; `example` names the row or table.
   void add(Rule rule, std::string example);
 
+  /// Returns whether no rule is broken.
   [[nodiscard]] bool empty() const;
   [[nodiscard]] std::size_t count(Rule rule) const { return of(rule).count; }
   [[nodiscard]] const std::vector<std::string>& examples(Rule rule) const {
     return of(rule).examples;
   }
 
-  /// Every broken rule with its count and examples.
+  /// Prints every broken rule with its count and examples.
   void print(std::ostream& out) const;
 
  private:
@@ -72,6 +75,20 @@ class Findings {
   }
 
   std::array<Breaches, static_cast<std::size_t>(Rule::kCount)> breaches_;
+};
+
+/// The result of a check: the broken rules, and counts of what was read.
+struct CheckResult {
+  Findings findings;
+  std::size_t pairs = 0;  ///< rows of [edict]
+  std::size_t englishHeadwords = 0;
+  std::size_t chineseHeadwords = 0;
+  std::size_t dictionaries = 0;
+  std::size_t subjectRows = 0;  ///< of all subject dictionaries
+  /// Lists that are shown for a Chinese headword typed in full, and how many of them end with a
+  /// headword that has rows after those searched, so that choosing it shows some meanings only.
+  std::size_t chineseLists = 0;
+  std::size_t cutLists = 0;
 };
 
 }  // namespace dictionary

@@ -1,4 +1,4 @@
-#include "dictionary/check/check_subjects.h"
+#include "dictionary/check/subjects_check.h"
 
 #include <sqlite3.h>
 
@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/check/check_schema.h"
-#include "dictionary/check/check_text.h"
+#include "dictionary/check/general.h"
+#include "dictionary/check/schema_check.h"
 #include "dictionary/database/row_io.h"
 #include "dictionary/database/schema.h"
 #include "dictionary/source/characters.h"
@@ -17,6 +17,7 @@
 namespace dictionary {
 namespace {
 
+/// As SQLite compares names: ASCII case-insensitive.
 bool sameName(const std::string& a, std::string_view b) {
   return sqlite3_stricmp(a.c_str(), std::string(b).c_str()) == 0;
 }
@@ -26,7 +27,8 @@ bool isKnown(const std::vector<std::string>& names, std::string_view name) {
                              [&](const std::string& known) { return sameName(known, name); });
 }
 
-/// Table names stand unquoted in SQL texts.
+/// Returns whether the name can be used unquoted in SQL texts, as the windows do: ASCII letters and
+/// digits, no leading digit, no keyword, none of the fixed tables.
 bool isPlainName(const std::string& name) {
   const auto isLetterOrDigit = [](char byte) {
     const auto unit = static_cast<char16_t>(static_cast<unsigned char>(byte));
@@ -39,15 +41,16 @@ bool isPlainName(const std::string& name) {
                               [&](std::string_view fixed) { return sameName(name, fixed); });
 }
 
-/// One reading of the catalogue: what it has named so far.
+/// Checks the catalogue row by row: addRow() for each, then finish().
 class Catalogue {
  public:
-  /// `isshow` is the place of that column.
+  /// `isshow` is the index of that column.
   Catalogue(int isshow, Findings& findings) : isshow_(isshow), findings_(findings) {}
 
   void addRow(const RowReader& reader);
   void finish();
 
+  /// The proper table names, each once.
   [[nodiscard]] const std::vector<std::string>& tables() const { return tables_; }
 
  private:
@@ -102,6 +105,7 @@ void Catalogue::finish() {
   }
 }
 
+/// Checks the rows of one subject dictionary and counts them.
 void checkRows(sqlite3* connection, const std::string& table, CheckResult& result) {
   Findings& findings = result.findings;
   std::size_t rows = 0;

@@ -1,23 +1,27 @@
-#include "dictionary/check/check_general.h"
+#include "dictionary/check/general.h"
 
 #include <algorithm>
 #include <cstdint>
+#include <vector>
 
 #include "dictionary/arrange/block_packing.h"
-#include "dictionary/check/check_text.h"
+#include "dictionary/source/characters.h"
+#include "dictionary/source/markup.h"
 #include "text/order.h"
 #include "text/utf.h"
 
 namespace dictionary {
 namespace {
 
+/// The lookups take a text with a character from here on for Chinese.
 constexpr char16_t kFirstChinese = 0x100;
 
+/// Checks that headwords ascend and that those that are equal in the text order are spelled alike.
 void checkOrder(const char* name, const HeadwordTable& table, Findings& findings) {
   for (std::size_t row = 1; row < table.words.size(); ++row) {
     const int compared = text::compare(table.words[row - 1], table.words[row]);
     if (compared > 0) {
-      findings.add(Rule::kOrder, rowName(name, row, table.words[row]) + " comes behind «" +
+      findings.add(Rule::kOrder, rowName(name, row, table.words[row]) + " comes after «" +
                                      text::toUtf8(table.words[row - 1]) + "»");
     } else if (compared == 0 && table.words[row - 1] != table.words[row]) {
       findings.add(Rule::kSpelling, rowName(name, row, table.words[row]) + " after «" +
@@ -39,7 +43,7 @@ void checkLinks(const char* name, const HeadwordTable& from, const HeadwordTable
   }
 }
 
-/// Two rows of one English headword must not link to the same Chinese headword.
+/// Checks that no two rows of one English headword link to the same Chinese headword.
 void checkDistinctPairs(const GeneralTables& tables, Findings& findings) {
   for (const HeadwordRun& run : headwordRuns(tables.edict)) {
     std::vector<std::u16string> equivalents;
@@ -58,6 +62,7 @@ void checkDistinctPairs(const GeneralTables& tables, Findings& findings) {
   }
 }
 
+/// Checks that element k of `index`, from 0, is the headword of row 100 (k + 1).
 void checkIndex(Rule rule, const char* name, const std::vector<std::u16string>& index,
                 const HeadwordTable& table, Findings& findings) {
   const std::size_t step = LookupLimits().blockRows;
@@ -73,10 +78,11 @@ void checkIndex(Rule rule, const char* name, const std::vector<std::u16string>& 
   }
 }
 
+/// The English bound step compares code units in lower case, not in the text order.
 void checkIndexOrder(const HeadwordTable& edict, Findings& findings) {
   for (std::size_t row = 1; row < edict.words.size(); ++row) {
     if (text::toLower(edict.words[row - 1]) > text::toLower(edict.words[row])) {
-      findings.add(Rule::kIndexOrder, rowName("edict", row, edict.words[row]) + " comes behind «" +
+      findings.add(Rule::kIndexOrder, rowName("edict", row, edict.words[row]) + " comes after «" +
                                           text::toUtf8(edict.words[row - 1]) + "»");
     }
   }
@@ -98,6 +104,18 @@ void checkHeadwordTexts(const char* name, const HeadwordTable& table, bool chine
 }
 
 }  // namespace
+
+void checkText(std::u16string_view text, const std::string& place, Findings& findings) {
+  if (std::ranges::any_of(text, isForbidden)) findings.add(Rule::kCharacters, place);
+  if (hasMarkup(text)) findings.add(Rule::kMarkup, place);
+}
+
+void checkSearchable(std::u16string_view word, const std::string& place, Findings& findings) {
+  const bool disturbing = std::ranges::any_of(word, [](char16_t unit) {
+    return unit == u'%' || unit == u'_' || (unit >= 0xD800 && unit <= 0xDFFF);
+  });
+  if (disturbing) findings.add(Rule::kSearchable, place);
+}
 
 void checkRowCounts(std::size_t english, std::size_t chinese, Findings& findings) {
   const LookupLimits limits;

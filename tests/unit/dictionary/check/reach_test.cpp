@@ -1,4 +1,4 @@
-#include "dictionary/check/bound_step.h"
+#include "dictionary/check/reach.h"
 
 #include <gtest/gtest.h>
 
@@ -34,23 +34,23 @@ TEST(EnglishBoundStep, EndsAtTheFirstIndexWordThatIsNotLess) {
   EXPECT_EQ(step.window(u"dog")->lower, 0);
 }
 
-TEST(EnglishBoundStep, FindsNothingBehindTheIndex) {
+TEST(EnglishBoundStep, ReturnsNothingAfterTheIndex) {
   EXPECT_FALSE(EnglishBoundStep(kEnglish).window(u"zebra").has_value());
   EXPECT_FALSE(EnglishBoundStep({}).window(u"a").has_value());
 }
 
 TEST(EnglishBoundStep, SearchesWithDoubledApostrophes) {
   const EnglishBoundStep step(Words{u"o''", u"o'a", u"o'z"});
-  EXPECT_EQ(step.window(u"o'x")->upper, 200);  // "o''x" stands before "o'a"
+  EXPECT_EQ(step.window(u"o'x")->upper, 200);  // "o''x" sorts before "o'a"
 }
 
-TEST(EnglishBoundStep, TakesTheFirstMatchOfAnIndexOutOfOrder) {
+TEST(EnglishBoundStep, FindsTheFirstMatchInAnUnorderedIndex) {
   const EnglishBoundStep step(Words{u"m", u"a", u"z"});
   EXPECT_EQ(step.window(u"b")->upper, 100);
   EXPECT_EQ(step.window(u"n")->upper, 300);
 }
 
-TEST(ChineseBoundStep, LiesBetweenTheIndexWordsAround) {
+TEST(ChineseBoundStep, SpansTheIndexWordsAroundTheWord) {
   const ChineseBoundStep step(Words{u"爱", u"大", u"人", u"中"});
   EXPECT_EQ(step.window(u"啊").lower, 0);
   EXPECT_EQ(step.window(u"大").lower, 0);
@@ -61,8 +61,8 @@ TEST(ChineseBoundStep, LiesBetweenTheIndexWordsAround) {
   EXPECT_EQ(ChineseBoundStep({}).window(u"作").upper, 500);
 }
 
-/// The bound step that is followed here must be the one that the windows take.
-TEST(BoundStep, AgreesWithTheLookups) {
+/// The bound step that is repeated here must be that of the windows.
+TEST(BoundStep, EqualsThatOfTheLookups) {
   data::DataControl control;
   control.setConnectionString(support::connectionStringFor(support::smallDatabase()));
   const data::IndexWords index = data::readIndexWords(control);

@@ -1,4 +1,4 @@
-#include "dictionary/check/check_schema.h"
+#include "dictionary/check/schema_check.h"
 
 #include <sqlite3.h>
 
@@ -14,17 +14,19 @@
 namespace dictionary {
 namespace {
 
+/// A column and its declared type: text collate lexilo, or integer.
 struct Column {
   std::string_view name;
   bool isText;
 };
 
-/// A column of the catalogue, which has others besides.
+/// A column of the catalogue at a fixed index; others may be between them.
 struct CatalogueColumn {
-  int place;
+  int index;
   Column column;
 };
 
+/// A fixed table with all its columns in their order.
 struct Table {
   std::string_view name;
   std::span<const Column> columns;
@@ -37,7 +39,7 @@ constexpr std::array kCdictIdx = {Column{"word", true}, Column{"id", false}};
 constexpr std::array kCatalogueColumns = {CatalogueColumn{1, {"TableName", true}},
                                           CatalogueColumn{2, {"Cname", true}},
                                           CatalogueColumn{4, {"default", false}}};
-/// Its place is free: it is read by its name only.
+/// Its position is free because it is read by its name only.
 constexpr Column kIsshow = {kIsshowName, false};
 constexpr std::array kSubject = {Column{"word", true}, Column{"meaning", true}};
 
@@ -56,15 +58,15 @@ bool hasRightType(sqlite3* connection, const std::string& table, const std::stri
   return sqlite3_stricmp(type, "text") == 0 && sqlite3_stricmp(collation, data::kTextOrder) == 0;
 }
 
-/// A column as it stands in the file.
+/// A column as found in the file.
 struct FoundColumn {
-  int place;
+  int index;
   std::string name;
 };
 
 bool checkColumn(sqlite3* connection, const std::string& table, const FoundColumn& found,
                  const Column& wanted, Findings& findings) {
-  std::string example = "[" + table + "] column " + std::to_string(found.place) + ", ";
+  std::string example = "[" + table + "] column " + std::to_string(found.index) + ", ";
   example += found.name;
   if (sqlite3_stricmp(found.name.c_str(), std::string(wanted.name).c_str()) != 0) {
     example += ", should be ";
@@ -100,17 +102,17 @@ bool checkCatalogueColumns(sqlite3* connection, Findings& findings) {
   const std::string table(kCatalogue);
   const RowReader reader(connection, "select * from [" + table + "]");
   bool right = true;
-  for (const auto& [place, column] : kCatalogueColumns) {
-    // Behind the last column there is none, whose name is "".
-    const std::string name = place < reader.columnCount() ? reader.columnName(place) : "";
-    right = checkColumn(connection, table, {place, name}, column, findings) && right;
+  for (const auto& [index, column] : kCatalogueColumns) {
+    // A missing column has the name "".
+    const std::string name = index < reader.columnCount() ? reader.columnName(index) : "";
+    right = checkColumn(connection, table, {index, name}, column, findings) && right;
   }
-  const int place = findColumn(reader, kIsshow.name);
-  if (place < 0) {
+  const int isshow = findColumn(reader, kIsshow.name);
+  if (isshow < 0) {
     findings.add(Rule::kColumns, "[" + table + "] has no column " + std::string(kIsshow.name));
     return false;
   }
-  return checkColumn(connection, table, {place, reader.columnName(place)}, kIsshow, findings) &&
+  return checkColumn(connection, table, {isshow, reader.columnName(isshow)}, kIsshow, findings) &&
          right;
 }
 

@@ -1,4 +1,4 @@
-#include "dictionary/check/findings.h"
+#include "dictionary/check/rules.h"
 
 #include <algorithm>
 

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "dictionary/check/general_tables.h"
+#include "dictionary/check/rules.h"
+
+namespace dictionary {
+
+/// Checks a text for characters and markup that no row may contain. `place` names the text in a
+/// finding.
+void checkText(std::u16string_view text, const std::string& place, Findings& findings);
+
+/// Checks that a headword contains nothing that would act as a wildcard in a search or that the
+/// lookups cannot compare.
+void checkSearchable(std::u16string_view word, const std::string& place, Findings& findings);
+
+/// Checks that both tables have the same number of rows and that the lookups reach all of them.
+void checkRowCounts(std::size_t english, std::size_t chinese, Findings& findings);
+
+/// Checks the rows of the general dictionary: their number, order and links, both indexes, and the
+/// characters of headwords.
+void checkGeneral(const GeneralTables& tables, Findings& findings);
+
+}  // namespace dictionary

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "dictionary/check/general_tables.h"
+#include "dictionary/check/rules.h"
+
+namespace dictionary {
+
+/// The row numbers, from 1, that a lookup searches; both ends included.
+struct RowWindow {
+  std::int64_t lower = 0;
+  std::int64_t upper = 0;
+
+  [[nodiscard]] bool holds(std::int64_t first, std::int64_t last) const {
+    return lower <= first && last <= upper;
+  }
+};
+
+/// The bound step of an English lookup (data/headword_lookup.h) on an index in memory, which is
+/// fast enough to be repeated for every headword. Gives the same windows for any index, also for
+/// one that is not in order.
+class EnglishBoundStep {
+ public:
+  /// `index`: the words of [edictidx].
+  explicit EnglishBoundStep(const std::vector<std::u16string>& index);
+
+  /// The window for a word as typed; nullopt for a word after the whole index.
+  [[nodiscard]] std::optional<RowWindow> window(std::u16string_view word) const;
+
+ private:
+  /// Prefix maxima of the index in lower case. They ascend, so that a binary search finds the first
+  /// index word that is not less than a word.
+  std::vector<std::u16string> greatest_;
+};
+
+/// The same for a Chinese lookup.
+class ChineseBoundStep {
+ public:
+  /// `index`: the words of [cdictidx].
+  explicit ChineseBoundStep(const std::vector<std::u16string>& index);
+
+  [[nodiscard]] RowWindow window(std::u16string_view word) const;
+
+ private:
+  std::vector<std::u16string> greatest_;  ///< prefix maxima of the index in the text order
+  std::vector<std::u16string> least_;     ///< suffix minima
+};
+
+/// Repeats the bound step for every headword of both languages, typed in full, and checks that the
+/// rows that it searches include all rows of the headword. Sets the counts of headwords and lists.
+void checkReach(const GeneralTables& tables, CheckResult& result);
+
+}  // namespace dictionary

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "dictionary/check/rules.h"
+#include "dictionary/database/row_io.h"
+
+struct sqlite3;
+
+/// All functions throw data::Error if the file cannot be read.
+namespace dictionary {
+
+/// The column of the catalogue that says whether a dictionary is offered. Its position is free.
+inline constexpr std::string_view kIsshowName = "Isshow";
+
+/// Index of the column called `name`, ASCII case-insensitive; -1 if there is none.
+int findColumn(const RowReader& reader, std::string_view name);
+
+/// Checks that the file is undamaged and has the fixed tables with their columns. Returns whether
+/// the tables can be read; otherwise the findings say why not.
+bool checkFixedTables(sqlite3* connection, Findings& findings);
+
+/// Checks the columns of one subject dictionary's table. Returns whether it can be read.
+bool checkSubjectTable(sqlite3* connection, const std::string& table, Findings& findings);
+
+/// Names of all tables and views in the file, in binary order.
+std::vector<std::string> tableNames(sqlite3* connection);
+
+}  // namespace dictionary
