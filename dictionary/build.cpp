@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "dictionary/arrange/block_packing.h"
-#include "dictionary/arrange/subject_collector.h"
+#include "dictionary/arrange/tables.h"
 #include "dictionary/arrange/vocabulary.h"
 #include "dictionary/console.h"
 #include "dictionary/database/publish.h"

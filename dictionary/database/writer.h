@@ -2,8 +2,7 @@
 
 #include <filesystem>
 
-#include "dictionary/arrange/general_dictionary.h"
-#include "dictionary/arrange/subject_collector.h"
+#include "dictionary/arrange/tables.h"
 #include "dictionary/arrange/vocabulary.h"
 
 namespace dictionary {

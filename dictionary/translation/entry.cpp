@@ -1,13 +1,138 @@
 #include "dictionary/translation/entry.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "dictionary/source/characters.h"
 #include "dictionary/source/cleanup.h"
+#include "dictionary/source/markup.h"
 #include "dictionary/translation/brackets.h"
+#include "dictionary/translation/names.h"
+#include "dictionary/translation/part_of_speech.h"
+#include "dictionary/translation/pieces.h"
+#include "text/trim.h"
 #include "text/utf.h"
 
 namespace dictionary {
 namespace {
+
+/// Subjects whose lines use one-character brackets for optional characters, not for tags.
+constexpr SubjectSet kNoShortTagsAfter = setOf(Subject::kMedicine) | setOf(Subject::kComputing);
+
+/// Length of the stray characters before a part-of-speech mark that can be skipped: "& ", a numeral
+/// of a sense ("Ⅰ ", in the source also "l "), and after a note the full stop of "n<古>.".
+std::size_t strayLength(std::u16string_view text, bool afterNote) {
+  if (afterNote && text.starts_with(u'.')) return 1;
+  for (const std::u16string_view numeral : {u"l ", u"ll "}) {
+    if (text.starts_with(numeral) && partOfSpeechLength(text.substr(numeral.size())) > 0) {
+      return numeral.size();
+    }
+  }
+  constexpr std::u16string_view kStray = u"&.ⅠⅡⅢⅣ";
+  std::size_t length = 0;
+  while (length < text.size() &&
+         (kStray.find(text[length]) != std::u16string_view::npos || text[length] == u' ')) {
+    ++length;
+  }
+  return partOfSpeechLength(text.substr(length)) > 0 ? length : 0;
+}
+
+/// Lines of this subject enclose optional characters in the brackets of tags.
+constexpr SubjectSet kLongTagsOnly = setOf(Subject::kMedicine);
+
+/// A note without blanks inside its brackets; "" if it contains forbidden characters.
+std::u16string cleanNote(std::u16string_view note) {
+  if (std::ranges::any_of(note, isForbidden)) return {};
+  std::u16string clean(note);
+  if (clean.size() > 2 && clean[1] == u' ') clean.erase(1, 1);
+  if (clean.size() > 2 && clean[clean.size() - 2] == u' ') clean.erase(clean.size() - 2, 1);
+  return clean;
+}
+
+/// The piece as a subject dictionary shows it: notes that contain forbidden characters are left
+/// out;
+/// "" if such a character, or a substitute for a lost one, occurs outside notes.
+std::u16string notedText(std::u16string_view piece) {
+  std::u16string noted;
+  for (std::size_t i = 0; i < piece.size(); ++i) {
+    const std::size_t close = openingBracket(piece[i]) == Bracket::kNone
+                                  ? std::u16string_view::npos
+                                  : closingPosition(piece, i);
+    if (close == std::u16string_view::npos) {
+      if (piece[i] != u'\\') noted += piece[i];
+      continue;
+    }
+    noted += cleanNote(piece.substr(i, close + 1 - i));
+    i = close;
+  }
+  if (!isIntact(withoutNotes(noted)) || hasMarkup(noted)) return {};
+  return foldBlanks(noted);
+}
+
+/// Parses one line. The members are the state that carries over from one piece to the next.
+class LineParser {
+ public:
+  explicit LineParser(std::u16string_view line)
+      : line_(line), head_(readHead(line, true)), current_(head_.subjects) {}
+
+  std::vector<Piece> pieces();
+
+ private:
+  /// `next` is the separator after the piece, 0 for the last.
+  void addPiece(const RawPiece& raw, char16_t next);
+  [[nodiscard]] Equivalent equivalentOf(std::u16string_view text, SubjectSet subjects,
+                                        bool introduced);
+
+  std::u16string_view line_;
+  LineHead head_;
+  SubjectSet current_;       ///< subjects of pieces without a tag of their own
+  bool explaining_ = false;  ///< whether an explanation began since the last semicolon
+  std::vector<Piece> pieces_;
+};
+
+Equivalent LineParser::equivalentOf(std::u16string_view text, SubjectSet subjects,
+                                    bool introduced) {
+  if (explaining_) return {u"", PieceFault::kExplanation};
+  const Explained explained = splitExplanation(text);
+  explaining_ = explained.explains;
+  if ((subjects & kNameSubjects) == 0) return makeEquivalent(explained.word, head_.abbreviation);
+  // After a tagged name, a piece without a tag or note of its own explains where the name is from.
+  const bool isName = introduced || (head_.subjects & kNameSubjects) == 0;
+  if (!isName) return {u"", PieceFault::kExplanation};
+  return makeEquivalent(leadingName(explained.word), false);
+}
+
+void LineParser::addPiece(const RawPiece& raw, char16_t next) {
+  const bool first = raw.separator == 0;
+  const LineHead head = first ? head_ : readHead(raw.text, (head_.subjects & kLongTagsOnly) == 0);
+  const std::u16string_view text = first ? raw.text : raw.text.substr(head.length);
+  const std::u16string noted = head.notes + std::u16string(text);
+  const bool wholeLine = first && next == u'\0' && head_.length == 0;
+  if (const SubjectSet names = announcedNames(noted, wholeLine || next == u'；'); names != 0) {
+    current_ |= names;
+    return;
+  }
+  if (raw.separator == u'；') explaining_ = false;
+  if ((head.subjects & kNameSubjects) != 0) current_ = head.subjects;
+  const SubjectSet named = namedByNote(text);
+  const bool listedPlace = current_ == setOf(Subject::kPlace) && raw.separator == u'、';
+  const bool introduced = first || head.subjects != 0 || named != 0 || listedPlace;
+
+  Piece piece;
+  piece.separator = pieces_.empty() ? u'\0' : raw.separator;
+  piece.subjects = (head.subjects != 0 ? head.subjects : current_) | named;
+  piece.noted = notedText(noted);
+  piece.equivalent = equivalentOf(text, piece.subjects, introduced);
+  pieces_.push_back(std::move(piece));
+}
+
+std::vector<Piece> LineParser::pieces() {
+  const std::vector<RawPiece> raws = splitPieces(line_.substr(head_.length));
+  for (std::size_t i = 0; i < raws.size(); ++i) {
+    addPiece(raws[i], i + 1 < raws.size() ? raws[i + 1].separator : u'\0');
+  }
+  return std::move(pieces_);
+}
 
 /// The headword after an equals sign if the piece is nothing else.
 std::optional<std::u16string> referenceIn(const Piece& piece) {
@@ -18,6 +143,54 @@ std::optional<std::u16string> referenceIn(const Piece& piece) {
 }
 
 }  // namespace
+
+LineHead readHead(std::u16string_view text, bool shortTags) {
+  LineHead head;
+  std::size_t position = 0;
+  bool afterNote = false;
+  for (;;) {
+    while (position < text.size() && text[position] == u' ') ++position;
+    head.length = position;
+    if (position == text.size()) return head;
+    const std::u16string_view rest = text.substr(position);
+    const std::size_t skipped = std::max(partOfSpeechLength(rest), strayLength(rest, afterNote));
+    if (skipped > 0) {
+      position += skipped;
+      head.abbreviation = head.abbreviation || rest.starts_with(u"abbr");
+      continue;
+    }
+    const Bracket kind = openingBracket(text[position]);
+    if (kind == Bracket::kNone) return head;
+    const std::size_t close = closingPosition(text, position);
+    if (close == std::u16string_view::npos) return head;
+
+    const std::u16string_view tag =
+        user::trimBlanks(text.substr(position + 1, close - position - 1));
+    const bool mayBeTag = kind == Bracket::kSquare && (shortTags || tag.size() > 1) &&
+                          (tag.size() > 1 || (head.subjects & kNoShortTagsAfter) == 0);
+    const SubjectSet subjects = mayBeTag ? subjectsOfTag(tag) : 0;
+    if (subjects == 0) head.notes += text.substr(position, close + 1 - position);
+    head.subjects |= subjects;
+    position = close + 1;
+    afterNote = true;
+  }
+}
+
+TranslationLine parseLine(std::u16string_view line) {
+  return {LineParser(line).pieces(), inflectionNote(line)};
+}
+
+std::u16string subjectText(const TranslationLine& line, Subject subject) {
+  std::u16string text;
+  const Piece* last = nullptr;
+  for (const Piece& piece : line.pieces) {
+    if ((piece.subjects & setOf(subject)) == 0 || piece.noted.empty()) continue;
+    if (last != nullptr) text += last + 1 == &piece ? piece.separator : u'；';
+    text += piece.noted;
+    last = &piece;
+  }
+  return std::ranges::any_of(text, isHan) ? text : std::u16string();
+}
 
 std::optional<Entry> extractEntry(const SourceEntry& source) {
   std::optional<std::u16string> word = headword(text::toUtf16(source.word));

@@ -1,13 +1,55 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "dictionary/source/csv_reader.h"
-#include "dictionary/translation/translation_line.h"
+#include "dictionary/translation/equivalent.h"
+#include "dictionary/translation/subjects.h"
 
+/// Parsing a translation: an entry has lines, a line has a head and pieces.
 namespace dictionary {
+
+/// What precedes the Chinese text of a line or piece.
+struct LineHead {
+  std::size_t length = 0;     ///< of the whole head, including the blanks after it
+  SubjectSet subjects = 0;    ///< of its subject tags
+  std::u16string notes;       ///< its other bracketed notes, unchanged
+  bool abbreviation = false;  ///< whether it says that the word is an abbreviation
+};
+
+/// Reads part-of-speech marks, subject tags and notes at the beginning of `text`, in any order and
+/// number. If `shortTags` is false, tags of one character count as notes: medical lines enclose
+/// optional characters in the same brackets.
+LineHead readHead(std::u16string_view text, bool shortTags);
+
+/// One of the equivalents that a line of a translation lists.
+struct Piece {
+  Equivalent equivalent;   ///< as a Chinese headword
+  std::u16string noted;    ///< as a subject dictionary shows it, notes included; "" if unusable
+  char16_t separator = 0;  ///< ，；、！ before it, 0 for the first
+  SubjectSet subjects = 0;
+};
+
+/// A parsed line of a translation.
+struct TranslationLine {
+  std::vector<Piece> pieces;
+  /// "apple的复数" if a note says so, otherwise "".
+  std::u16string inflection;
+};
+
+/// Parses one line as translationLines() gives it: part-of-speech marks, subject tags and notes at
+/// its head, then pieces between separators. A subject tag at the head holds for the whole line, a
+/// tag of a piece for that piece.
+TranslationLine parseLine(std::u16string_view line);
+
+/// The line's text for one subject: its pieces with that subject, notes included, with the
+/// separators of the source between pieces that follow each other and semicolons between others.
+/// "" if there are none, or if they contain no Han character.
+std::u16string subjectText(const TranslationLine& line, Subject subject);
 
 /// A headword with its parsed translation.
 struct Entry {

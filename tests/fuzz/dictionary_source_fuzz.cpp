@@ -4,7 +4,7 @@
 #include <sstream>
 #include <string>
 
-#include "dictionary/arrange/subject_collector.h"
+#include "dictionary/arrange/tables.h"
 #include "dictionary/arrange/vocabulary.h"
 #include "dictionary/check/general.h"
 #include "dictionary/source/characters.h"

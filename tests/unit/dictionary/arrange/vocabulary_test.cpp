@@ -6,8 +6,6 @@
 #include <utility>
 #include <vector>
 
-#include "dictionary/arrange/general_dictionary.h"
-#include "dictionary/arrange/subject_collector.h"
 #include "dictionary/translation/entry.h"
 
 namespace {
@@ -15,7 +13,6 @@ namespace {
 using dictionary::Entry;
 using dictionary::Pair;
 using dictionary::PairCollector;
-using dictionary::Subject;
 using dictionary::Tier;
 using dictionary::Vocabulary;
 
@@ -46,10 +43,6 @@ Tier tierOf(const Vocabulary& vocabulary, std::u16string_view chinese) {
   }
   ADD_FAILURE() << "no such pair";
   return Tier::kWeb;
-}
-
-TEST(ExtractEntry, RefusesAWordThatCannotBeLookedUp) {
-  EXPECT_FALSE(dictionary::extractEntry({"100%", "百分之百", false}).has_value());
 }
 
 TEST(PairCollector, ReturnsDistinctPairsInTheTextOrder) {
@@ -115,49 +108,6 @@ TEST(PairCollector, FollowsReferences) {
                                          u"ground cloth=防潮布", u"ground cloth=铺地防潮布",
                                          u"groundsheet=防潮布", u"groundsheet=铺地防潮布"}));
   EXPECT_EQ(tierOf(vocabulary, u"铺地防潮布"), Tier::kOrdinary);
-}
-
-TEST(Arrange, LinksBothTablesRowByRow) {
-  const Vocabulary vocabulary =
-      collect({entry("heat", "热, 加热"), entry("hot", "热, 热的"), entry("warm", "暖")});
-  const std::vector<bool> all(vocabulary.pairs.size(), true);
-  const dictionary::GeneralDictionary general = dictionary::arrange(vocabulary, all);
-  ASSERT_EQ(general.edict.size(), 5U);
-  ASSERT_EQ(general.cdict.size(), 5U);
-  for (std::size_t i = 0; i < 5; ++i) {
-    EXPECT_EQ(general.cdict[general.edict[i].link - 1].link, i + 1);
-    EXPECT_EQ(general.edict[general.cdict[i].link - 1].link, i + 1);
-    if (i > 0) {
-      EXPECT_LE(general.edict[i - 1].word, general.edict[i].word);
-      EXPECT_LE(general.cdict[i - 1].word, general.cdict[i].word);
-    }
-  }
-}
-
-TEST(Arrange, LeavesOutPairsThatAreNotChosen) {
-  const Vocabulary vocabulary = collect({entry("heat", "热, 加热"), entry("warm", "暖")});
-  const dictionary::GeneralDictionary general =
-      dictionary::arrange(vocabulary, {true, false, true});
-  EXPECT_EQ(general.edict.size(), 2U);
-  EXPECT_EQ(general.cdict.size(), 2U);
-}
-
-TEST(SubjectCollector, JoinsTheLinesOfAHeadword) {
-  dictionary::SubjectCollector collector;
-  collector.add(entry("zone", "[医] 带, 区(域)\\n[计] 区域\\n[医] 带, 区(域)\\n[医] 层"));
-  collector.add(entry("Acid", "[化] 酸"));
-  collector.add(entry("acid bath", "[化] 酸浴"));
-  collector.add(entry("acid", "[化] 酸性的"));
-  const dictionary::SubjectTables tables = std::move(collector).finish();
-  const auto& med = tables[static_cast<std::size_t>(Subject::kMedicine)];
-  ASSERT_EQ(med.size(), 1U);
-  EXPECT_EQ(med[0].word, u"zone");
-  EXPECT_EQ(med[0].meaning, u"带，区(域)；层");
-  const auto& chem = tables[static_cast<std::size_t>(Subject::kChemistry)];
-  ASSERT_EQ(chem.size(), 2U);
-  EXPECT_EQ(chem[0].word, u"Acid");
-  EXPECT_EQ(chem[0].meaning, u"酸；酸性的");
-  EXPECT_EQ(chem[1].word, u"acid bath");
 }
 
 }  // namespace

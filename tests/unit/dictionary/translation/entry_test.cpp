@@ -1,4 +1,4 @@
-#include "dictionary/translation/translation_line.h"
+#include "dictionary/translation/entry.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "dictionary/source/markup.h"
-#include "dictionary/translation/line_head.h"
 
 namespace {
 
@@ -163,6 +162,10 @@ TEST(ParseLine, RefusesPiecesWithAnUnwritableCharacter) {
 TEST(ParseLine, ReturnsTheInflectionNote) {
   EXPECT_EQ(parseLine(u"(apple 的复数) n. 苹果").inflection, u"apple的复数");
   EXPECT_EQ(parseLine(u"n. 苹果").inflection, u"");
+}
+
+TEST(ExtractEntry, RefusesAWordThatCannotBeLookedUp) {
+  EXPECT_FALSE(dictionary::extractEntry({"100%", "百分之百", false}).has_value());
 }
 
 }  // namespace

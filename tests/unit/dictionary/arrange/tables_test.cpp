@@ -1,0 +1,75 @@
+#include "dictionary/arrange/tables.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "dictionary/arrange/vocabulary.h"
+#include "dictionary/translation/entry.h"
+
+namespace {
+
+using dictionary::Entry;
+using dictionary::PairCollector;
+using dictionary::Subject;
+using dictionary::Vocabulary;
+
+Entry entry(const std::string& word, const std::string& translation) {
+  std::optional<Entry> extracted = dictionary::extractEntry({word, translation, false});
+  EXPECT_TRUE(extracted.has_value());
+  return std::move(*extracted);
+}
+
+Vocabulary collect(const std::vector<Entry>& entries) {
+  PairCollector collector;
+  for (const Entry& one : entries) collector.add(one);
+  return std::move(collector).finish();
+}
+
+TEST(Arrange, LinksBothTablesRowByRow) {
+  const Vocabulary vocabulary =
+      collect({entry("heat", "热, 加热"), entry("hot", "热, 热的"), entry("warm", "暖")});
+  const std::vector<bool> all(vocabulary.pairs.size(), true);
+  const dictionary::GeneralDictionary general = dictionary::arrange(vocabulary, all);
+  ASSERT_EQ(general.edict.size(), 5U);
+  ASSERT_EQ(general.cdict.size(), 5U);
+  for (std::size_t i = 0; i < 5; ++i) {
+    EXPECT_EQ(general.cdict[general.edict[i].link - 1].link, i + 1);
+    EXPECT_EQ(general.edict[general.cdict[i].link - 1].link, i + 1);
+    if (i > 0) {
+      EXPECT_LE(general.edict[i - 1].word, general.edict[i].word);
+      EXPECT_LE(general.cdict[i - 1].word, general.cdict[i].word);
+    }
+  }
+}
+
+TEST(Arrange, LeavesOutPairsThatAreNotChosen) {
+  const Vocabulary vocabulary = collect({entry("heat", "热, 加热"), entry("warm", "暖")});
+  const dictionary::GeneralDictionary general =
+      dictionary::arrange(vocabulary, {true, false, true});
+  EXPECT_EQ(general.edict.size(), 2U);
+  EXPECT_EQ(general.cdict.size(), 2U);
+}
+
+TEST(SubjectCollector, JoinsTheLinesOfAHeadword) {
+  dictionary::SubjectCollector collector;
+  collector.add(entry("zone", "[医] 带, 区(域)\\n[计] 区域\\n[医] 带, 区(域)\\n[医] 层"));
+  collector.add(entry("Acid", "[化] 酸"));
+  collector.add(entry("acid bath", "[化] 酸浴"));
+  collector.add(entry("acid", "[化] 酸性的"));
+  const dictionary::SubjectTables tables = std::move(collector).finish();
+  const auto& med = tables[static_cast<std::size_t>(Subject::kMedicine)];
+  ASSERT_EQ(med.size(), 1U);
+  EXPECT_EQ(med[0].word, u"zone");
+  EXPECT_EQ(med[0].meaning, u"带，区(域)；层");
+  const auto& chem = tables[static_cast<std::size_t>(Subject::kChemistry)];
+  ASSERT_EQ(chem.size(), 2U);
+  EXPECT_EQ(chem[0].word, u"Acid");
+  EXPECT_EQ(chem[0].meaning, u"酸；酸性的");
+  EXPECT_EQ(chem[1].word, u"acid bath");
+}
+
+}  // namespace
