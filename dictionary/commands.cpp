@@ -26,6 +26,7 @@ constexpr std::string_view kUsage =
     "that cannot be read and goes on. The exit code is 0 for success, 1 if the database could not\n"
     "be built, breaks a rule or has no such word, 2 for wrong arguments.\n";
 
+/// "0.8 %".
 std::string percentage(std::size_t part, std::size_t whole) {
   std::ostringstream text;
   const double share =
@@ -58,7 +59,7 @@ ExitCode runLookup(const std::string& file, const std::string& word, std::ostrea
   }
   for (const std::u16string& headword : result.headwords) out << text::toUtf8(headword) << '\n';
   std::string meaning = text::toUtf8(result.meaning);
-  std::erase(meaning, '\r');
+  std::erase(meaning, '\r');  // the window's lines end with CR LF, the console's with LF
   out << '\n' << meaning << '\n';
   return kSuccess;
 }

@@ -13,8 +13,9 @@ enum ExitCode : int {
   kMisused = 2,
 };
 
-/// Runs kkbuild with its arguments (without the program's own name, in UTF-8). Results go to `out`,
-/// progress and messages to `err`.
+/// Runs one command of kkbuild. `arguments` are in UTF-8, without the program's own name. Results
+/// go to `out`, progress and messages to `err`. A std::exception becomes a message
+/// and kFailed.
 ExitCode runCommand(const std::vector<std::string>& arguments, std::ostream& out,
                     std::ostream& err);
 

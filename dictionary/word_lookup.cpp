@@ -13,6 +13,7 @@
 namespace dictionary {
 namespace {
 
+/// The column "word" of all rows.
 std::vector<std::u16string> readHeadwords(data::RecordSet& rows) {
   std::vector<std::u16string> words;
   if (rows.empty()) return words;
@@ -22,6 +23,7 @@ std::vector<std::u16string> readHeadwords(data::RecordSet& rows) {
   return words;
 }
 
+/// Runs a query; its rows are in control.recordset() afterwards.
 void run(data::DataControl& control, const std::u16string& sql) {
   control.setRecordSource(sql);
   control.refresh();
@@ -40,6 +42,8 @@ LookupResult lookUpIn(const std::filesystem::path& database, const user::TypedTe
 
   std::u16string chosen = result.headwords.front();
   const std::u16string_view language = user::getEorC(chosen);
+  // Deliberate: the meaning begins with the headword as it is searched, apostrophes doubled,
+  // because the window shows it so.
   user::escapeQuote(chosen);
   run(control, lookup.findword(language, chosen, control));
   if (!control.recordset().empty()) {

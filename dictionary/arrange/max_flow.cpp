@@ -4,6 +4,12 @@
 #include <numeric>
 #include <tuple>
 
+// Dinic's algorithm: build the level graph by breadth-first search, then augment along its paths by
+// depth-first search until none is left (a blocking flow), and repeat until no sink is reached. An
+// edge is skipped for good in a phase once it has led to a dead end (nextEdge_). All capacities are
+// 1, so that a path moves one pair on each of its edges. The order of the edges, by value, decides
+// between equal solutions and so the bytes of the database: it must not depend on the machine.
+
 namespace dictionary {
 
 MaxFlow::MaxFlow(const std::vector<Pair>& pairs, const BlockPlan& english, const BlockPlan& chinese,

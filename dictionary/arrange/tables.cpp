@@ -42,6 +42,8 @@ void mergeEqual(std::vector<SubjectRow>& rows) {
 
 }  // namespace
 
+// The pairs are in the order of [edict] already. Sorting their indexes by Chinese headword gives
+// the order of [cdict], and with it both directions of every link.
 GeneralDictionary arrange(const Vocabulary& vocabulary, const std::vector<bool>& chosen) {
   std::vector<Pair> pairs;
   for (std::size_t i = 0; i < vocabulary.pairs.size(); ++i) {

@@ -11,6 +11,7 @@ RowInserter::RowInserter(sqlite3* connection, const std::string& sql)
 
 RowInserter& RowInserter::text(std::u16string_view value) {
   const std::string utf8 = text::toUtf8(value);
+  // SQLITE_TRANSIENT: SQLite copies the text, which ends with this function.
   data::check(connection_, sqlite3_bind_text(statement_.get(), ++bound_, utf8.data(),
                                              static_cast<int>(utf8.size()), SQLITE_TRANSIENT));
   return *this;

@@ -23,6 +23,7 @@ void createEmpty(const std::filesystem::path& file) {
   if (!stream) throw Failure("cannot write " + displayName(file));
 }
 
+/// Writes [edict] or [cdict]; rows are numbered from 1.
 void writeHeadwords(sqlite3* connection, const std::string& table,
                     const std::vector<std::u16string>& words,
                     const std::vector<HeadwordRow>& rows) {
@@ -33,6 +34,8 @@ void writeHeadwords(sqlite3* connection, const std::string& table,
   }
 }
 
+/// Writes the headword of each hundredth row. [edictidx] has no number column: the lookups read it
+/// in the text order.
 void writeEnglishIndex(sqlite3* connection, const DatabaseContent& content) {
   const std::size_t step = LookupLimits().blockRows;
   RowInserter inserter(connection, "insert into [edictidx] values (?)");
@@ -41,6 +44,7 @@ void writeEnglishIndex(sqlite3* connection, const DatabaseContent& content) {
   }
 }
 
+/// Writes the headword of each hundredth row with the number of its block, from 1.
 void writeChineseIndex(sqlite3* connection, const DatabaseContent& content) {
   const std::size_t step = LookupLimits().blockRows;
   RowInserter inserter(connection, "insert into [cdictidx] values (?, ?)");
@@ -50,6 +54,8 @@ void writeChineseIndex(sqlite3* connection, const DatabaseContent& content) {
   }
 }
 
+/// Writes a row of [Index] for each subject dictionary that has rows; all are shown, one is the
+/// default.
 void writeCatalogue(sqlite3* connection, const SubjectTables& subjects) {
   RowInserter inserter(connection, "insert into [Index] values (?, ?, ?, 1, ?)");
   const bool hasDefault = !subjects[static_cast<std::size_t>(kDefaultSubject)].empty();
@@ -63,6 +69,7 @@ void writeCatalogue(sqlite3* connection, const SubjectTables& subjects) {
   }
 }
 
+/// Creates and fills the table of each subject dictionary that has rows.
 void writeSubjects(sqlite3* connection, const SubjectTables& subjects) {
   for (std::size_t i = 0; i < kSubjectCount; ++i) {
     if (subjects[i].empty()) continue;
