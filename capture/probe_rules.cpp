@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "text/query_text.h"
-#include "text/trim.h"
+#include "text/strings.h"
 
 namespace capture {
 namespace {
@@ -65,7 +65,7 @@ bool opensPopup(std::u16string_view text) {
 namespace ScreenWord {
 
 std::u16string GetFirstWord(std::u16string_view text) {
-  const auto trimmed = user::trimBlanks(text);
+  const auto trimmed = text::trimBlanks(text);
   return std::u16string(trimmed.substr(0, trimmed.find(u' ')));
 }
 

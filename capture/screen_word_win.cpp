@@ -8,7 +8,7 @@
 #include "capture/probe_rules.h"
 #include "forms/geometry.h"
 #include "forms/registry.h"
-#include "text/trim.h"
+#include "text/strings.h"
 #include "win32/win32.h"
 
 namespace ScreenWord {
@@ -63,7 +63,7 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
 }
 
 std::u16string pendingWord(std::span<const char> buffer) {
-  return std::u16string(user::trimBlanks(win32::fromAnsi(capture::reportedText(buffer))));
+  return std::u16string(text::trimBlanks(win32::fromAnsi(capture::reportedText(buffer))));
 }
 
 void CatchWordAt(const POINT& point) {

@@ -5,8 +5,8 @@
 #include <optional>
 #include <utility>
 
-#include "text/ascii.h"
-#include "text/trim.h"
+#include "text/characters.h"
+#include "text/strings.h"
 
 namespace data {
 namespace {
@@ -33,7 +33,7 @@ struct Entry {
 std::optional<Entry> entryAt(std::u16string_view text, std::size_t start) {
   const std::size_t equals = text.find(u'=', start);
   if (equals == std::u16string_view::npos) return std::nullopt;
-  const std::u16string_view name = user::trimBlanks(text.substr(start, equals - start));
+  const std::u16string_view name = text::trimBlanks(text.substr(start, equals - start));
   const auto* key = std::find_if(kKeys.begin(), kKeys.end(), [&](const Key& known) {
     return std::equal(name.begin(), name.end(), known.name.begin(), known.name.end(),
                       [](char16_t a, char16_t b) { return text::lowerAscii(a) == b; });
@@ -58,7 +58,7 @@ ConnectionString parseConnectionString(std::u16string_view text) {
   const auto finish = [&](std::size_t end) {
     if (open) {
       result.*(open->key->value) =
-          user::trimBlanks(text.substr(open->valueStart, end - open->valueStart));
+          text::trimBlanks(text.substr(open->valueStart, end - open->valueStart));
     }
   };
   for (std::size_t start = 0;;) {

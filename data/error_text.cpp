@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "text/shorten.h"
+#include "text/strings.h"
 #include "text/utf.h"
 
 namespace data {

@@ -1,11 +1,11 @@
 #include "data/lookup_sql.h"
 
-#include "data/joined.h"
-#include "text/decimal.h"
+#include "text/strings.h"
 
 namespace data {
 
 using text::decimal;
+using text::joined;
 
 std::u16string englishListSql(Bounds bounds, std::u16string_view word) {
   return joined({u"select distinct top 75 edict.word as Word from [edict]", u"where edict.eid>=",

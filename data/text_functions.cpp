@@ -8,8 +8,7 @@
 #include <utility>
 
 #include "data/connection.h"
-#include "text/effort.h"
-#include "text/like_pattern.h"
+#include "text/like.h"
 #include "text/order.h"
 
 namespace data {
@@ -24,9 +23,9 @@ std::string_view viewOf(sqlite3_value* value) {
   return text == nullptr ? std::string_view{} : viewOf(text, sqlite3_value_bytes(value));
 }
 
-int collate(void* effort, int bytesA, const void* a, int bytesB, const void* b) {
+int collate(void* budget, int bytesA, const void* a, int bytesB, const void* b) {
   const auto steps = static_cast<std::size_t>(std::min(bytesA, bytesB));
-  if (!static_cast<text::Effort*>(effort)->spend(steps)) return 0;
+  if (!static_cast<text::StepBudget*>(budget)->consume(steps)) return 0;
   return text::compareUtf8(viewOf(a, bytesA), viewOf(b, bytesB));
 }
 
@@ -65,9 +64,9 @@ void like(sqlite3_context* context, int /*count*/, sqlite3_value** values) {
     sqlite3_result_error_nomem(context);
     return;
   }
-  text::Effort& effort = *static_cast<text::Effort*>(sqlite3_user_data(context));
-  const bool matches = effort.spend(read) && pattern->matches(text, effort);
-  if (effort.isGivenUp()) {
+  text::StepBudget& budget = *static_cast<text::StepBudget*>(sqlite3_user_data(context));
+  const bool matches = budget.consume(read) && pattern->matches(text, budget);
+  if (budget.exhausted()) {
     sqlite3_result_error_code(context, SQLITE_INTERRUPT);
     return;
   }
@@ -83,15 +82,15 @@ void refuseEscape(sqlite3_context* context, int /*count*/, sqlite3_value** /*val
 void registerTextFunctions(sqlite3* connection, std::function<bool()> isOverdue) {
   constexpr int kFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
   // The connection owns it from here on, also where defining the function fails.
-  text::Effort* effort = std::make_unique<text::Effort>(std::move(isOverdue)).release();
+  text::StepBudget* budget = std::make_unique<text::StepBudget>(std::move(isOverdue)).release();
   const auto destroy = [](void* owned) {
-    const std::unique_ptr<text::Effort> owner(static_cast<text::Effort*>(owned));
+    const std::unique_ptr<text::StepBudget> owner(static_cast<text::StepBudget*>(owned));
   };
-  check(connection, sqlite3_create_function_v2(connection, "like", 2, kFlags, effort, &like,
+  check(connection, sqlite3_create_function_v2(connection, "like", 2, kFlags, budget, &like,
                                                nullptr, nullptr, destroy));
   check(connection, sqlite3_create_function_v2(connection, "like", 3, kFlags, nullptr,
                                                &refuseEscape, nullptr, nullptr, nullptr));
-  check(connection, sqlite3_create_collation_v2(connection, kTextOrder, SQLITE_UTF8, effort,
+  check(connection, sqlite3_create_collation_v2(connection, kTextOrder, SQLITE_UTF8, budget,
                                                 &collate, nullptr));
 }
 

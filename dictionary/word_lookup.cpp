@@ -7,7 +7,6 @@
 #include "data/meaning_text.h"
 #include "dictionary/console.h"
 #include "text/query_text.h"
-#include "text/typed_text.h"
 #include "text/utf.h"
 
 namespace dictionary {

@@ -1,6 +1,6 @@
 #include "forms/box_text.h"
 
-#include "text/shorten.h"
+#include "text/strings.h"
 
 namespace forms {
 namespace {

@@ -4,7 +4,7 @@
 #include "lookup/layout.h"
 #include "settings/settings_file.h"
 #include "settings/settings_rules.h"
-#include "text/decimal.h"
+#include "text/strings.h"
 #include "text/utf.h"
 
 namespace {

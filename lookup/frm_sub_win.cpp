@@ -6,7 +6,6 @@
 #include "forms/geometry.h"
 #include "lookup/layout.h"
 #include "text/query_text.h"
-#include "text/typed_text.h"
 
 namespace {
 
@@ -157,7 +156,7 @@ void frmSub::txtOut_MouseUp(forms::Place place) {
 }
 
 void frmSub::mnuSearch_Click() {
-  txtInput.setText(user::onOneLine(txtOut.selText()));
+  txtInput.setText(text::onOneLine(txtOut.selText()));
   txtOut.select(txtOut.selStart(), 0);
 }
 

@@ -5,7 +5,7 @@
 #include "forms/registry.h"
 #include "query/frm_main.h"
 #include "query/input_font.h"
-#include "text/trim.h"
+#include "text/strings.h"
 
 namespace {
 
@@ -38,8 +38,8 @@ void frmSpc::Form_Activate() { ScreenWord::StopCapture(); }
 void frmSpc::Form_Unload() { ScreenWord::StartCapture(); }
 
 void frmSpc::cmdOK_Click() {
-  std::u16string e(user::trimBlanks(txtE.text()));
-  std::u16string c(user::trimBlanks(txtC.text()));
+  std::u16string e(text::trimBlanks(txtE.text()));
+  std::u16string c(text::trimBlanks(txtC.text()));
   if (e.empty() || c.empty()) {
     forms::showMessage(u"请在英文和中文的文本框里输入内容！", forms::MessageIcon::exclamation);
     return;

@@ -1,11 +1,11 @@
 #include "query/query_sql.h"
 
-#include "data/joined.h"
 #include "text/query_text.h"
+#include "text/strings.h"
 
 namespace query {
 
-using data::joined;
+using text::joined;
 
 Search makeQuerySql(std::u16string& text, std::u16string_view mode, std::u16string_view table) {
   text = user::convertWildcard(text);

@@ -2,19 +2,19 @@
 
 #include <limits>
 
-#include "text/trim.h"
+#include "text/strings.h"
 
 namespace user {
 
 std::u16string profileValue(int returned, std::u16string_view buffer,
                             std::u16string_view fallback) {
-  const auto trimmed = trimBlanks(buffer);
+  const auto trimmed = text::trimBlanks(buffer);
   return std::u16string(returned == 0 || trimmed.empty() ? fallback : trimmed);
 }
 
 std::optional<std::int16_t> toInteger16(std::u16string_view value) {
   using Limits = std::numeric_limits<std::int16_t>;
-  std::u16string_view digits = trimBlanks(value);
+  std::u16string_view digits = text::trimBlanks(value);
   const bool negative = digits.starts_with(u'-');
   if (negative || digits.starts_with(u'+')) digits.remove_prefix(1);
   if (digits.empty()) return std::nullopt;

@@ -1,7 +1,12 @@
-#include "text/ascii.h"
-#include "text/effort.h"
+// Greedy glob matching: on a mismatch the matcher backtracks to the last "%" only and has it take
+// one unit more. Whatever an earlier "%" might take, the last one can take as well, so that the
+// time is at most pattern length times text length.
+
+#include "text/like.h"
+
+#include "text/characters.h"
 #include "text/order.h"
-#include "text/units.h"
+#include "text/utf.h"
 
 namespace text {
 namespace {
@@ -9,15 +14,14 @@ namespace {
 constexpr char16_t kAnyRun = u'%';
 constexpr char16_t kAnyUnit = u'_';
 
-/// A pattern tried on a text from left to right. Where they part, only the last "%" takes more of
-/// the text: whatever an earlier one might take, the last can take as well.
+/// Matches a pattern against a text from left to right, both read as UTF-16 code units.
 template <typename Units>
 class Matcher {
  public:
-  Matcher(Units pattern, Units text, Effort& effort)
-      : pattern_(pattern), text_(text), effort_(effort) {}
+  Matcher(Units pattern, Units text, StepBudget& budget)
+      : pattern_(pattern), text_(text), budget_(budget) {}
 
-  /// Also false where the effort is given up.
+  /// Also false where the budget is exhausted.
   bool run() {
     while (inPattern_ < pattern_.size() || inText_ < text_.size()) {
       if (!step() && !lengthenRun()) {
@@ -61,14 +65,14 @@ class Matcher {
     if (!hasRun_ || runEnd_ == text_.size()) {
       return false;
     }
-    if (!effort_.spend(inPattern_ - follower_ + 1)) {
+    if (!budget_.consume(inPattern_ - follower_ + 1)) {
       return false;
     }
     runEnd_ += text_.at(runEnd_).length;
     return seekFollower();
   }
 
-  /// Lengthens the run as far as it must, and has the pattern go on behind it.
+  /// Lengthens the run to the next unit that may match what follows the "%", and goes on there.
   bool seekFollower() {
     const char16_t follower = follower_ < pattern_.size() ? pattern_.at(follower_).value : kAnyRun;
     if (follower != kAnyRun && follower != kAnyUnit) {
@@ -82,42 +86,42 @@ class Matcher {
     return true;
   }
 
-  /// The first place from `place` on where the text may have `wanted` in either case, or its end.
-  std::size_t seek(char16_t wanted, std::size_t place) const {
-    while (place < text_.size()) {
-      const Unit unit = text_.at(place);
+  /// Offset, from `offset` on, of the first unit that may be `wanted` in either case, or the end.
+  std::size_t seek(char16_t wanted, std::size_t offset) const {
+    while (offset < text_.size()) {
+      const Unit unit = text_.at(offset);
       if ((unit.value | kCaseBit) == (wanted | kCaseBit)) {
         break;
       }
-      place += unit.length;
+      offset += unit.length;
     }
-    return place;
+    return offset;
   }
 
   Units pattern_;
   Units text_;
-  Effort& effort_;  // spent where a run is lengthened: all else goes through each text once
+  StepBudget& budget_;  // consumed where a run is lengthened: all else goes through each text once
   std::size_t inPattern_ = 0;
   std::size_t inText_ = 0;
   bool hasRun_ = false;       // whether a "%" has been passed; the rest is about the last one
-  std::size_t follower_ = 0;  // where the pattern goes on behind it
+  std::size_t follower_ = 0;  // offset in the pattern of what follows it
   std::size_t runEnd_ = 0;    // what it takes of the text ends here
 };
 
 }  // namespace
 
 bool like(std::u16string_view pattern, std::u16string_view text) {
-  Effort unlimited;
+  StepBudget unlimited;
   return Matcher(Utf16Units(pattern), Utf16Units(text), unlimited).run();
 }
 
 bool likeUtf8(std::string_view pattern, std::string_view text) {
-  Effort unlimited;
+  StepBudget unlimited;
   return likeUtf8(pattern, text, unlimited);
 }
 
-bool likeUtf8(std::string_view pattern, std::string_view text, Effort& effort) {
-  return Matcher(Utf8Units(pattern), Utf8Units(text), effort).run();
+bool likeUtf8(std::string_view pattern, std::string_view text, StepBudget& budget) {
+  return Matcher(Utf8Units(pattern), Utf8Units(text), budget).run();
 }
 
 }  // namespace text

@@ -1,4 +1,6 @@
-#include "text/like_pattern.h"
+// How a fixed run of bytes is found in a text: a memmem by SWAR (SIMD within a register). The two
+// rarest bytes of the run are compared at eight offsets at once, in 64-bit words; only where both
+// may match is the whole run compared. Letters are compared with the case bit set on both sides.
 
 #include <algorithm>
 #include <bit>
@@ -8,9 +10,10 @@
 #include <utility>
 #include <vector>
 
-#include "text/ascii.h"
+#include "text/characters.h"
+#include "text/like.h"
 #include "text/order.h"
-#include "text/units.h"
+#include "text/utf.h"
 
 namespace text {
 namespace {
@@ -21,22 +24,22 @@ constexpr std::string_view kFrequentBytes = "\xE5\xE6\xE7\xE8\xE4\xE9 eiaotnrslc
 
 std::size_t rarity(char byte) { return std::min(kFrequentBytes.find(byte), kFrequentBytes.size()); }
 
-/// Probes are taken from so many bytes at the stretch's beginning: enough to be rare, and not so
-/// far from it that short texts would have no room for a step of eight places.
+/// Probes are taken from so many bytes at the run's beginning: enough to be rare, and not so far
+/// from it that short texts would have no room for a step of eight offsets.
 constexpr std::size_t kProbedBytes = 8;
 
-/// How many places of a text are looked at in one step.
-constexpr std::size_t kPlaces = sizeof(std::uint64_t);
+/// How many offsets of a text are compared in one step.
+constexpr std::size_t kOffsetsInStep = sizeof(std::uint64_t);
 
 constexpr std::uint64_t kLowBits = 0x0101010101010101;
 constexpr std::uint64_t kHighBits = kLowBits << 7;
 
 std::uint64_t eightTimes(char byte) { return kLowBits * static_cast<unsigned char>(byte); }
 
-std::uint64_t eightBytes(const char* place) {
-  std::uint64_t bytes = 0;
-  std::memcpy(&bytes, place, sizeof bytes);
-  return bytes;
+std::uint64_t eightBytes(const char* bytes) {
+  std::uint64_t word = 0;
+  std::memcpy(&word, bytes, sizeof word);
+  return word;
 }
 
 /// Marks the high bit of the lowest byte that is zero, and perhaps of some above it; 0 without one.
@@ -59,16 +62,16 @@ bool hasCapital(char16_t unit) {
 LikePattern::LikePattern(std::string_view pattern) : pattern_(pattern) {
   const Utf8Units units(pattern_);
   std::size_t start = 0;
-  std::size_t place = 0;
-  while (place < pattern_.size()) {
-    const Unit unit = units.at(place);
+  std::size_t offset = 0;
+  while (offset < pattern_.size()) {
+    const Unit unit = units.at(offset);
     if (!isFixed(unit.value)) {
-      offer(start, place - start);
-      start = place + unit.length;
+      offer(start, offset - start);
+      start = offset + unit.length;
     }
-    place += unit.length;
+    offset += unit.length;
   }
-  offer(start, place - start);
+  offer(start, offset - start);
   foldFixed();
   chooseProbes();
   const std::size_t runs = isAnchored_ ? 1 : 2;
@@ -88,13 +91,13 @@ void LikePattern::offer(std::size_t start, std::size_t length) {
 void LikePattern::foldFixed() {
   caseBits_.assign(fixed_.size(), '\0');
   const Utf8Units units(fixed_);
-  for (std::size_t place = 0; place < fixed_.size();) {
-    const Unit unit = units.at(place);
-    place += unit.length;
+  for (std::size_t offset = 0; offset < fixed_.size();) {
+    const Unit unit = units.at(offset);
+    offset += unit.length;
     if (!hasCapital(foldCase(unit.value))) continue;
-    char& last = fixed_[place - 1];
+    char& last = fixed_[offset - 1];
     last = static_cast<char>(last | kCaseBit);
-    caseBits_[place - 1] = kCaseBit;
+    caseBits_[offset - 1] = kCaseBit;
   }
 }
 
@@ -116,28 +119,27 @@ LikePattern::Probe LikePattern::probeOf(std::size_t offset) const {
   return {offset, eightTimes(fixed_[offset]), eightTimes(caseBits_[offset])};
 }
 
-bool LikePattern::matches(std::string_view text, Effort& effort) const {
+bool LikePattern::matches(std::string_view text, StepBudget& budget) const {
   if (text.size() < fixed_.size()) return false;
-  const bool found = isAnchored_ ? standsAt(text.data()) : fixed_.empty() || occursIn(text, effort);
+  const bool found = isAnchored_ ? startsAt(text.data()) : fixed_.empty() || occursIn(text, budget);
   if (!found || isWhole_) return found;
-  return rest_ ? rest_->matches(text.substr(fixed_.size()), effort)
-               : likeUtf8(pattern_, text, effort);
+  return rest_ ? rest_->matches(text.substr(fixed_.size()), budget)
+               : likeUtf8(pattern_, text, budget);
 }
 
-/// Whether the stretch stands anywhere in `text`, which is not shorter. Bytes may be compared as
-/// they are: a lead byte always begins a character, so that the bytes of whole characters are found
-/// as those characters only. Eight places are looked at in one step; the last step goes back over
-/// some of the one before.
-bool LikePattern::occursIn(std::string_view text, Effort& effort) const {
-  const std::size_t reach = std::max(rarest_.offset, second_.offset) + kPlaces;
+/// Whether the run occurs in `text`, which is not shorter. Bytes may be compared as they are: a
+/// lead byte always begins a character, so that the bytes of whole characters are found as those
+/// characters only. The last step overlaps the one before it.
+bool LikePattern::occursIn(std::string_view text, StepBudget& budget) const {
+  const std::size_t reach = std::max(rarest_.offset, second_.offset) + kOffsetsInStep;
   if (text.size() < reach) return occursInShort(text);
   const char* const lastStart = text.data() + (text.size() - fixed_.size());
   const char* const lastStep = text.data() + (text.size() - reach);
-  for (const char* step = text.data();; step = std::min(step + kPlaces, lastStep)) {
+  for (const char* step = text.data();; step = std::min(step + kOffsetsInStep, lastStep)) {
     for (std::uint64_t marks = candidatesAmong8(step); marks != 0; marks &= marks - 1) {
-      const char* const place = step + firstMarked(marks);
-      if (place <= lastStart && standsAt(place)) return true;
-      if (!effort.spend(fixed_.size())) return false;
+      const char* const candidate = step + firstMarked(marks);
+      if (candidate <= lastStart && startsAt(candidate)) return true;
+      if (!budget.consume(fixed_.size())) return false;
     }
     if (step == lastStep) return false;
   }
@@ -148,25 +150,25 @@ bool LikePattern::occursInShort(std::string_view text) const {
   const char* const end = text.data() + (text.size() - fixed_.size()) + 1;
   for (const char* place = text.data(); place != end; ++place) {
     const bool candidate = (place[rarest] | caseBits_[rarest]) == fixed_[rarest];
-    if (candidate && standsAt(place)) return true;
+    if (candidate && startsAt(place)) return true;
   }
   return false;
 }
 
-/// Marks those of the eight places from `place` on where the stretch may begin, by its two rarest
+/// Marks those of the eight offsets from `bytes` on at which the run may begin, by its two rarest
 /// bytes.
-std::uint64_t LikePattern::candidatesAmong8(const char* place) const {
+std::uint64_t LikePattern::candidatesAmong8(const char* bytes) const {
   const auto differences = [&](const Probe& probe) {
-    return (eightBytes(place + probe.offset) | probe.caseBits) ^ probe.wanted;
+    return (eightBytes(bytes + probe.offset) | probe.caseBits) ^ probe.wanted;
   };
   return zeroBytes(differences(rarest_) | differences(second_));
 }
 
-bool LikePattern::standsAt(const char* place) const {
+bool LikePattern::startsAt(const char* bytes) const {
   const char* const fixed = fixed_.data();
   const char* const caseBits = caseBits_.data();
   for (std::size_t i = 0; i < fixed_.size(); ++i) {
-    if ((place[i] | caseBits[i]) != fixed[i]) return false;
+    if ((bytes[i] | caseBits[i]) != fixed[i]) return false;
   }
   return true;
 }

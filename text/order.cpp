@@ -1,39 +1,39 @@
+// The order's Han ranks come from kPinyinOrder, which lists the characters by pinyin. At compile
+// time the list is inverted into a table that is indexed by character, so that comparing two texts
+// takes one table read for each character in which they differ.
+
 #include "text/order.h"
 
 #include <algorithm>
 #include <array>
 
+#include "text/characters.h"
 #include "text/pinyin_order.h"
-#include "text/units.h"
+#include "text/utf.h"
 
 namespace text {
 namespace {
-
-constexpr char16_t kFirstHan = 0x3400;
-constexpr char16_t kLastHan = 0x9FFF;
-constexpr char16_t kFirstCompatibility = 0xF900;
-constexpr char16_t kLastCompatibility = 0xFAFF;
-constexpr char16_t kHanZero = 0x3007;  // 〇, which stands apart from the other characters
 
 constexpr std::uint32_t kHanBase = 0x10000;
 constexpr std::uint16_t kNotHan = 0xFFFF;
 
 constexpr std::size_t kHanCount = kLastHan - kFirstHan + 1;
-constexpr std::size_t kCompatibilityCount = kLastCompatibility - kFirstCompatibility + 1;
-constexpr std::size_t kZeroPlace = kHanCount + kCompatibilityCount;
+constexpr std::size_t kCompatibilityCount = kLastCompatibilityHan - kFirstCompatibilityHan + 1;
+constexpr std::size_t kZeroIndex = kHanCount + kCompatibilityCount;
 
-/// Where a unit has its rank in the table of ranks; kZeroPlace + 1 for a unit without one.
-constexpr std::size_t placeOf(char16_t unit) {
+/// Index of a unit's rank in the table of ranks; kZeroIndex + 1 for a unit that is no Han
+/// character.
+constexpr std::size_t rankIndex(char16_t unit) {
   if (unit >= kFirstHan && unit <= kLastHan) {
     return std::size_t{unit} - kFirstHan;
   }
-  if (unit >= kFirstCompatibility && unit <= kLastCompatibility) {
-    return kHanCount + (std::size_t{unit} - kFirstCompatibility);
+  if (unit >= kFirstCompatibilityHan && unit <= kLastCompatibilityHan) {
+    return kHanCount + (std::size_t{unit} - kFirstCompatibilityHan);
   }
-  return unit == kHanZero ? kZeroPlace : kZeroPlace + 1;
+  return unit == kHanZero ? kZeroIndex : kZeroIndex + 1;
 }
 
-using Ranks = std::array<std::uint16_t, kZeroPlace + 2>;
+using Ranks = std::array<std::uint16_t, kZeroIndex + 2>;
 static_assert(kPinyinOrder.size() < kNotHan);
 
 constexpr Ranks makeRanks() {
@@ -43,7 +43,7 @@ constexpr Ranks makeRanks() {
   }
   std::uint16_t next = 0;
   for (const char16_t unit : kPinyinOrder) {
-    ranks[placeOf(unit)] = next++;
+    ranks[rankIndex(unit)] = next++;
   }
   return ranks;
 }
@@ -53,13 +53,13 @@ constexpr Ranks kRanks = makeRanks();
 
 template <typename Units>
 int compareUnits(Units a, Units b) {
-  std::size_t placeA = 0;
-  std::size_t placeB = 0;
-  while (placeA < a.size() && placeB < b.size()) {
-    const Unit unitA = a.at(placeA);
-    const Unit unitB = b.at(placeB);
-    placeA += unitA.length;
-    placeB += unitB.length;
+  std::size_t offsetA = 0;
+  std::size_t offsetB = 0;
+  while (offsetA < a.size() && offsetB < b.size()) {
+    const Unit unitA = a.at(offsetA);
+    const Unit unitB = b.at(offsetB);
+    offsetA += unitA.length;
+    offsetB += unitB.length;
     if (unitA.value == unitB.value) {
       continue;
     }
@@ -69,7 +69,7 @@ int compareUnits(Units a, Units b) {
       return weightA < weightB ? -1 : 1;
     }
   }
-  return static_cast<int>(placeA < a.size()) - static_cast<int>(placeB < b.size());
+  return static_cast<int>(offsetA < a.size()) - static_cast<int>(offsetB < b.size());
 }
 
 }  // namespace
@@ -78,7 +78,7 @@ std::uint32_t weight(char16_t unit) {
   if (unit < kHanZero) {
     return foldCase(unit);
   }
-  const std::uint16_t rank = kRanks[placeOf(unit)];
+  const std::uint16_t rank = kRanks[rankIndex(unit)];
   return rank == kNotHan ? unit : kHanBase + rank;
 }
 

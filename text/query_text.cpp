@@ -3,7 +3,16 @@
 #include <algorithm>
 #include <utility>
 
+#include "text/characters.h"
+#include "text/strings.h"
+
 namespace user {
+namespace {
+
+/// What English input may not begin with.
+constexpr std::u16string_view kWildcards = u"*_?%";
+
+}  // namespace
 
 std::u16string& escapeQuote(std::u16string& text) {
   constexpr char16_t kQuote = u'\'';
@@ -17,9 +26,21 @@ std::u16string& escapeQuote(std::u16string& text) {
 }
 
 std::u16string_view getEorC(std::u16string_view text) {
-  const bool chinese =
-      std::any_of(text.begin(), text.end(), [](char16_t unit) { return unit >= 256; });
-  return chinese ? kChinese : kEnglish;
+  return std::any_of(text.begin(), text.end(), text::isChinese) ? kChinese : kEnglish;
+}
+
+TypedText readTyped(std::u16string_view text) {
+  TypedText typed;
+  std::u16string word(text::trimBlanks(text));
+  if (word.empty()) return typed;
+  typed.language = getEorC(escapeQuote(word));
+  if (typed.language == kEnglish && kWildcards.find(word.front()) != std::u16string_view::npos) {
+    typed.kind = Typed::kRefused;
+    return typed;
+  }
+  typed.kind = Typed::kWord;
+  typed.word = std::move(word);
+  return typed;
 }
 
 std::u16string convertWildcard(std::u16string& text) {

@@ -20,6 +20,23 @@ std::u16string& escapeQuote(std::u16string& text);
 /// (also for the empty text).
 std::u16string_view getEorC(std::u16string_view text);
 
+/// What a typed text is for the quick lookup.
+enum class Typed : std::uint8_t {
+  kNothing,  ///< empty, or blanks only
+  kRefused,  ///< English that begins with a wildcard (* _ ? %)
+  kWord,     ///< to be looked up
+};
+
+/// A typed text, read.
+struct TypedText {
+  Typed kind = Typed::kNothing;
+  std::u16string word;           ///< without outer blanks, its quotes doubled; "" unless a kWord
+  std::u16string_view language;  ///< kEnglish or kChinese, as getEorC gives it for the word
+};
+
+/// Reads what was typed into the quick lookup window. Pure; the caller's text stays as it is.
+TypedText readTyped(std::u16string_view text);
+
 /// Turns the user's wildcards into those of LIKE. "?" becomes "_" in the caller's variable as well;
 /// "*" becomes "%" in the returned text only.
 std::u16string convertWildcard(std::u16string& text);

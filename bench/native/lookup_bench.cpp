@@ -17,8 +17,8 @@
 #include "data/connection_string.h"
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
-#include "text/decimal.h"
 #include "text/query_text.h"
+#include "text/strings.h"
 #include "text/utf.h"
 
 namespace {

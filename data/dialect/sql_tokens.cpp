@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "text/ascii.h"
+#include "text/characters.h"
 
 namespace data {
 namespace {

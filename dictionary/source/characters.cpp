@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "text/units.h"
+#include "text/utf.h"
 
 namespace dictionary {
 namespace {

@@ -10,7 +10,7 @@
 #include "dictionary/translation/names.h"
 #include "dictionary/translation/part_of_speech.h"
 #include "dictionary/translation/pieces.h"
-#include "text/trim.h"
+#include "text/strings.h"
 #include "text/utf.h"
 
 namespace dictionary {
@@ -165,7 +165,7 @@ LineHead readHead(std::u16string_view text, bool shortTags) {
     if (close == std::u16string_view::npos) return head;
 
     const std::u16string_view tag =
-        user::trimBlanks(text.substr(position + 1, close - position - 1));
+        text::trimBlanks(text.substr(position + 1, close - position - 1));
     const bool mayBeTag = kind == Bracket::kSquare && (shortTags || tag.size() > 1) &&
                           (tag.size() > 1 || (head.subjects & kNoShortTagsAfter) == 0);
     const SubjectSet subjects = mayBeTag ? subjectsOfTag(tag) : 0;

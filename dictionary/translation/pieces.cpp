@@ -7,7 +7,7 @@
 #include "dictionary/source/characters.h"
 #include "dictionary/translation/brackets.h"
 #include "dictionary/translation/part_of_speech.h"
-#include "text/trim.h"
+#include "text/strings.h"
 
 namespace dictionary {
 namespace {
@@ -92,7 +92,7 @@ std::vector<RawPiece> splitPieces(std::u16string_view text) {
   std::size_t begin = 0;
   char16_t before = 0;
   const auto finish = [&](std::size_t end) {
-    const std::u16string_view piece = user::trimBlanks(text.substr(begin, end - begin));
+    const std::u16string_view piece = text::trimBlanks(text.substr(begin, end - begin));
     if (!piece.empty()) pieces.push_back({piece, before});
   };
   for (std::size_t i = 0; i < text.size();) {

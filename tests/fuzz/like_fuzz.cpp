@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "tests/fuzz/fuzz_input.h"
-#include "text/like_pattern.h"
+#include "text/like.h"
 #include "text/order.h"
 #include "text/utf.h"
 

@@ -10,6 +10,7 @@
 #include "query/query_sql.h"
 #include "tests/unit/support/random_text.h"
 #include "tests/unit/support/sample_database.h"
+#include "text/like.h"
 #include "text/order.h"
 #include "text/query_text.h"
 #include "text/utf.h"

@@ -1,4 +1,4 @@
-#include "text/like_pattern.h"
+#include "text/like.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "tests/unit/support/random_text.h"
-#include "text/order.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "tests/unit/support/random_text.h"
-#include "text/like_pattern.h"
+#include "text/like.h"
 #include "text/order.h"
 #include "text/utf.h"
 

@@ -15,6 +15,9 @@ namespace {
 constexpr std::u16string_view kTyped = u"ab '?*_%é中！";
 constexpr int kRounds = 2000;
 
+using user::readTyped;
+using user::Typed;
+
 std::u16string escaped(std::u16string text) { return user::escapeQuote(text); }
 
 TEST(EscapeQuote, DoublesEveryQuote) {
@@ -214,6 +217,37 @@ TEST(DisplayLength, DependsOnTheLanguage) {
   EXPECT_EQ(user::displayLength(u"café"), 4);
   EXPECT_EQ(user::displayLength(u"中文"), 4);
   EXPECT_EQ(user::displayLength(u"中a"), 4);
+}
+
+TEST(ReadTyped, FindsNothingInBlanks) {
+  for (const std::u16string_view text : {u"", u" ", u"     "}) {
+    EXPECT_EQ(readTyped(text).kind, Typed::kNothing);
+    EXPECT_EQ(readTyped(text).word, u"");
+  }
+}
+
+TEST(ReadTyped, RefusesEnglishBehindAWildcard) {
+  for (const std::u16string_view text :
+       {u"?abc", u"*", u"_data", u"%abc", u"  ?x", u"%", u"?caf\u00E9"}) {
+    EXPECT_EQ(readTyped(text).kind, Typed::kRefused);
+    EXPECT_EQ(readTyped(text).word, u"");
+  }
+}
+
+TEST(ReadTyped, TakesWildcardsFurtherBackAndBeforeChinese) {
+  EXPECT_EQ(readTyped(u"a?bc").kind, Typed::kWord);
+  EXPECT_EQ(readTyped(u"da%").word, u"da%");
+  EXPECT_EQ(readTyped(u"?数").kind, Typed::kWord);
+  EXPECT_EQ(readTyped(u"*数").language, user::kChinese);
+}
+
+TEST(ReadTyped, TrimsBlanksAndDoublesQuotes) {
+  EXPECT_EQ(readTyped(u"  it's ").word, u"it''s");
+  EXPECT_EQ(readTyped(u"  it's ").language, user::kEnglish);
+  EXPECT_EQ(readTyped(u" 数据").word, u"数据");
+  EXPECT_EQ(readTyped(u" 数据").language, user::kChinese);
+  EXPECT_EQ(readTyped(u"'").word, u"''");
+  EXPECT_EQ(readTyped(u"\u3000").kind, Typed::kWord);
 }
 
 }  // namespace

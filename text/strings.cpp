@@ -1,12 +1,8 @@
-#include "text/shorten.h"
+#include "text/strings.h"
+
+#include "text/characters.h"
 
 namespace text {
-namespace {
-
-bool isHighSurrogate(char16_t unit) { return (unit & 0xFC00) == 0xD800; }
-bool isLowSurrogate(char16_t unit) { return (unit & 0xFC00) == 0xDC00; }
-
-}  // namespace
 
 std::u16string shortened(std::u16string_view whole, std::size_t longest) {
   if (whole.size() <= longest) return std::u16string(whole);
@@ -17,6 +13,17 @@ std::u16string shortened(std::u16string_view whole, std::size_t longest) {
   if (isLowSurrogate(end.front())) end.remove_prefix(1);
   std::u16string result(beginning);
   return result.append(u"…").append(end);
+}
+
+std::u16string onOneLine(std::u16string_view text) {
+  std::u16string line;
+  line.reserve(text.size());
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const bool carriageReturn = text[at] == u'\r';
+    line += carriageReturn || text[at] == u'\n' ? u' ' : text[at];
+    if (carriageReturn && at + 1 < text.size() && text[at + 1] == u'\n') ++at;
+  }
+  return line;
 }
 
 }  // namespace text
