@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "text/characters.h"
 
 namespace forms {
 namespace {
@@ -13,9 +14,6 @@ namespace {
 constexpr std::u16string_view kFace = u"NSimSun";
 constexpr int kPointsPerInch = 72;
 constexpr int kTenthsOfPoints = 105;
-
-/// Of a character that takes two columns the first unit to do so.
-constexpr char16_t kFirstWide = 256;
 
 /// Largest even size in pixels that is no larger than the wanted one: half of it is a column.
 int evenFontSize(int dpi) { return kTenthsOfPoints * dpi / (10 * kPointsPerInch) / 2 * 2; }
@@ -127,7 +125,7 @@ void ColumnTree::draw(const NMCUSTOMDRAW& drawing) const {
 
 void ColumnTree::drawText(HDC dc, const RECT& row, int left, std::u16string_view text) const {
   const auto widthOf = [this](char16_t unit) {
-    return unit < kFirstWide ? columnWidth_ : 2 * columnWidth_;
+    return text::isChinese(unit) ? 2 * columnWidth_ : columnWidth_;
   };
   while (!text.empty() && left + widthOf(text.front()) <= 0) {
     left += widthOf(text.front());

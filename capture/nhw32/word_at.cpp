@@ -1,5 +1,7 @@
 #include "capture/nhw32/word_at.h"
 
+#include "text/characters.h"
+
 namespace nhw32 {
 namespace {
 
@@ -21,15 +23,10 @@ bool isLatin(char16_t unit) {
          within(unit, u'\u1E00', u'\u1EFF') || within(unit, u'\u0300', u'\u036F');
 }
 
-bool isHan(char16_t unit) {
-  return within(unit, u'\u3400', u'\u9FFF') || within(unit, u'\uF900', u'\uFAFF') ||
-         unit == u'\u3007';
-}
-
 Kind kindOf(char16_t unit) {
   if (isJoint(unit)) return Kind::joint;
   if (isLatin(unit)) return Kind::latin;
-  return isHan(unit) ? Kind::han : Kind::other;
+  return text::isHan(unit) ? Kind::han : Kind::other;
 }
 
 Kind kindAt(std::u16string_view text, std::size_t index) {

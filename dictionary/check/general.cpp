@@ -7,14 +7,12 @@
 #include "dictionary/arrange/block_packing.h"
 #include "dictionary/source/characters.h"
 #include "dictionary/source/markup.h"
+#include "text/characters.h"
 #include "text/order.h"
 #include "text/utf.h"
 
 namespace dictionary {
 namespace {
-
-/// The lookups take a text with a character from here on for Chinese.
-constexpr char16_t kFirstChinese = 0x100;
 
 /// Checks that headwords ascend and that those that are equal in the text order are spelled alike.
 void checkOrder(const char* name, const HeadwordTable& table, Findings& findings) {
@@ -93,8 +91,7 @@ void checkHeadwordTexts(const char* name, const HeadwordTable& table, bool chine
   for (const HeadwordRun& run : headwordRuns(table)) {
     const std::u16string& word = table.words[run.first];
     const std::string place = rowName(name, run.first, word);
-    const bool isChinese =
-        std::ranges::any_of(word, [](char16_t unit) { return unit >= kFirstChinese; });
+    const bool isChinese = std::ranges::any_of(word, text::isChinese);
     if (isChinese != chinese) {
       findings.add(chinese ? Rule::kChineseHeadwords : Rule::kEnglishHeadwords, place);
     }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "text/characters.h"
 #include "text/utf.h"
 
 namespace dictionary {
@@ -26,7 +27,7 @@ bool isUtf8(std::string_view bytes) {
   return true;
 }
 
-bool isHan(char16_t unit) { return within(unit, 0x3400, 0x9FFF) || unit == 0x3007; }
+bool isHan(char16_t unit) { return text::isUnifiedHan(unit); }
 
 bool isAsciiLetter(char16_t unit) { return within(unit, u'a', u'z') || within(unit, u'A', u'Z'); }
 
