@@ -5,7 +5,7 @@
 #include "app/state.h"
 #include "capture/frm_screen_word.h"
 #include "capture/screen_word.h"
-#include "data/connection_string.h"
+#include "data/headword_lookup.h"
 #include "forms/geometry.h"
 #include "forms/message_box.h"
 #include "forms/registry.h"

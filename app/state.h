@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "data/headword_lookup.h"
+#include "data/index_words.h"
 
 /// What all windows share. Set at start-up; everything runs on the user-interface thread.
 namespace user {

@@ -13,7 +13,7 @@ namespace {
 constexpr COLORREF kHeadwordColor = RGB(255, 0, 0);
 constexpr COLORREF kMeaningColor = RGB(0, 0, 255);
 
-constexpr data::LookupRules kRules{.lambdaUpperKey = true, .chineseMeaningFindsBounds = true};
+constexpr data::LookupOptions kRules{.lambdaUpperKey = true, .chineseMeaningFindsBounds = true};
 
 forms::FormDesign design() {
   forms::FormDesign design;

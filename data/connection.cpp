@@ -2,11 +2,9 @@
 
 #include <sqlite3.h>
 
-#include <algorithm>
+#include <string_view>
 #include <utility>
 
-#include "data/dialect/sql_tokens.h"
-#include "data/error.h"
 #include "data/text_functions.h"
 
 namespace data {
@@ -28,7 +26,7 @@ constexpr Ceiling kCeilings[] = {
     {SQLITE_LIMIT_VDBE_OP, 25'000},
     {SQLITE_LIMIT_FUNCTION_ARG, 8},
     {SQLITE_LIMIT_ATTACHED, 0},
-    {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, kLongestPattern},
+    {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, kMaxPatternBytes},
     {SQLITE_LIMIT_VARIABLE_NUMBER, 8},
     {SQLITE_LIMIT_TRIGGER_DEPTH, 1},
     {SQLITE_LIMIT_WORKER_THREADS, 0},
@@ -49,6 +47,46 @@ void harden(sqlite3* connection) {
     sqlite3_limit(connection, ceiling.what, ceiling.limit);
   }
   execute(connection, "pragma cell_size_check=on");
+}
+
+bool startsWith(const char* name, std::string_view lowerCase) {
+  return sqlite3_strnicmp(name, lowerCase.data(), static_cast<int>(lowerCase.size())) == 0;
+}
+
+/// Whether `name` is none of those that the engine keeps for its schema and for table-valued
+/// functions.
+bool isOrdinaryTable(const char* name) {
+  return !startsWith(name, "sqlite_") && !startsWith(name, "pragma_") && !startsWith(name, "json_");
+}
+
+/// The engine calls this for each thing that a statement would do, while it is prepared. For
+/// SQLITE_READ the first detail
+/// names the table, for SQLITE_FUNCTION the second one names the function.
+int authorize(void* /*context*/, int action, const char* first, const char* second,
+              const char* /*database*/, const char* /*trigger*/) {
+  const auto allowIf = [](bool allowed) { return allowed ? SQLITE_OK : SQLITE_DENY; };
+  switch (action) {
+    case SQLITE_SELECT:
+      return SQLITE_OK;
+    case SQLITE_READ:
+      return allowIf(first != nullptr && isOrdinaryTable(first));
+    case SQLITE_FUNCTION:
+      return allowIf(second != nullptr && sqlite3_stricmp(second, "like") == 0);
+    default:
+      return SQLITE_DENY;
+  }
+}
+
+/// Whether `sql` holds a statement. SQLite itself skips comments, blanks and semicolons, and makes
+/// no statement of them; text that it cannot prepare is taken for one.
+bool holdsStatement(sqlite3* connection, const char* sql) {
+  while (*sql != '\0') {
+    sqlite3_stmt* prepared = nullptr;
+    const int result = sqlite3_prepare_v2(connection, sql, -1, &prepared, &sql);
+    const Statement owner(prepared);
+    if (result != SQLITE_OK || prepared != nullptr) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -74,12 +112,8 @@ Connection openConnection(const std::string& file, Access access,
   return connection;
 }
 
-void raise(sqlite3* connection) {
-  throw Error(sqlite3_extended_errcode(connection), sqlite3_errmsg(connection));
-}
-
-void check(sqlite3* connection, int result) {
-  if (result != SQLITE_OK) raise(connection);
+void allowReadingOnly(sqlite3* connection) {
+  check(connection, sqlite3_set_authorizer(connection, &authorize, nullptr));
 }
 
 Statement prepare(sqlite3* connection, const std::string& sql) {
@@ -93,11 +127,9 @@ Statement prepare(sqlite3* connection, const std::string& sql) {
   Statement statement(prepared);
   check(connection, result);
   if (!statement) throw Error(SQLITE_MISUSE, "SQL text without a statement");
-  const std::vector<Token> rest = tokenize(tail);
-  const bool single = std::all_of(rest.begin(), rest.end(), [](const Token& token) {
-    return token.kind == TokenKind::kComment || token.isSymbol(';');
-  });
-  if (!single) throw Error(SQLITE_ERROR, "SQL text with more than one statement");
+  if (holdsStatement(connection, tail)) {
+    throw Error(SQLITE_ERROR, "SQL text with more than one statement");
+  }
   return statement;
 }
 

@@ -5,9 +5,15 @@
 #include <memory>
 #include <string>
 
+#include "data/error.h"
+
 struct sqlite3;
 struct sqlite3_stmt;
 
+/// SQLite's handles and how they are opened. SQLite is built for one thread (SQLITE_THREADSAFE=0 in
+/// cmake/sqlite.cmake) and keeps state that all its connections share: everything in this folder
+/// that uses a database, here and in Database, RecordSet and DataControl, is to be called from one
+/// and the same thread of the process, whichever that is.
 namespace data {
 
 struct ConnectionCloser {
@@ -19,23 +25,22 @@ struct StatementCloser {
 using Connection = std::unique_ptr<sqlite3, ConnectionCloser>;
 using Statement = std::unique_ptr<sqlite3_stmt, StatementCloser>;
 
-enum class Access { kRead, kWrite };
-
-/// Opens an existing database file (path in UTF-8; never made anew, never taken for a URI) that may
-/// be damaged or ill-meant: nothing in it may run triggers, views or functions of doubt. The text
+/// Opens an existing database file (path in UTF-8; never created, never taken for a URI) that may
+/// be damaged or malicious: nothing in it may run triggers, views or unsafe functions. The text
 /// functions are registered, with `isOverdue` (see text_functions.h). An operation waits up to
 /// `lockWait` while others hold the file. Throws Error; a file that is no database is noticed by
 /// the first statement only.
 Connection openConnection(const std::string& file, Access access,
                           std::chrono::milliseconds lockWait, std::function<bool()> isOverdue = {});
 
-/// Throws the connection's last failure as Error.
-[[noreturn]] void raise(sqlite3* connection);
+/// Installs an authorizer that lets nothing but reading ordinary tables pass on a connection: no
+/// statement other than SELECT, no schema or virtual tables of the engine, no functions but LIKE,
+/// nothing recursive. Preparing anything else throws Error with SQLITE_AUTH, "not authorized".
+void allowReadingOnly(sqlite3* connection);
 
-/// Throws the connection's last failure unless `result` says that there was none.
-void check(sqlite3* connection, int result);
-
-/// Makes ready the one statement of `sql`. Throws Error, also for none and for more than one.
+/// Prepares the one statement of `sql`, in UTF-8. Throws Error, also where there is none
+/// (SQLITE_MISUSE) or another one follows it (SQLITE_ERROR). Comments, blanks and semicolons may
+/// follow it.
 Statement prepare(sqlite3* connection, const std::string& sql);
 
 /// Runs a statement that yields no rows, or whose rows do not matter. Throws Error.

@@ -5,23 +5,19 @@
 #include <optional>
 #include <utility>
 
-#include "data/error.h"
-#include "data/error_text.h"
-#include "data/read_only_rules.h"
-
 namespace data {
 namespace {
 
-/// The clock is looked at each time the engine has taken so many of its steps: some 0.1 ms.
-constexpr int kStepsBetweenLooks = 1000;
+/// The clock is read each time the engine has taken so many of its steps: some 0.1 ms.
+constexpr int kStepsBetweenPolls = 1000;
 
 /// Has the connection scan tables without an order of their own from the end, while it exists.
-class BackwardScan {
+class ScopedBackwardScan {
  public:
-  explicit BackwardScan(sqlite3* connection) : connection_(connection) { set(1); }
-  BackwardScan(const BackwardScan&) = delete;
-  BackwardScan& operator=(const BackwardScan&) = delete;
-  ~BackwardScan() { set(0); }
+  explicit ScopedBackwardScan(sqlite3* connection) : connection_(connection) { set(1); }
+  ScopedBackwardScan(const ScopedBackwardScan&) = delete;
+  ScopedBackwardScan& operator=(const ScopedBackwardScan&) = delete;
+  ~ScopedBackwardScan() { set(0); }
 
  private:
   void set(int on) const {
@@ -31,14 +27,14 @@ class BackwardScan {
 };
 
 /// Lifts allowReadingOnly from the connection while it exists.
-class AnythingAllowed {
+class ScopedUnrestricted {
  public:
-  explicit AnythingAllowed(sqlite3* connection) : connection_(connection) {
+  explicit ScopedUnrestricted(sqlite3* connection) : connection_(connection) {
     sqlite3_set_authorizer(connection_, nullptr, nullptr);
   }
-  AnythingAllowed(const AnythingAllowed&) = delete;
-  AnythingAllowed& operator=(const AnythingAllowed&) = delete;
-  ~AnythingAllowed() { allowReadingOnly(connection_); }
+  ScopedUnrestricted(const ScopedUnrestricted&) = delete;
+  ScopedUnrestricted& operator=(const ScopedUnrestricted&) = delete;
+  ~ScopedUnrestricted() { allowReadingOnly(connection_); }
 
  private:
   sqlite3* connection_;
@@ -82,16 +78,16 @@ Rows readRows(sqlite3* connection, const std::string& sql, std::size_t limit) {
 
 }  // namespace
 
-Database::Database(std::string file, Patience patience)
+Database::Database(std::string file, Timeouts timeouts)
     : file_(std::move(file)),
-      patience_(patience),
+      timeouts_(timeouts),
       connection_(describingFailures(file_, Access::kRead, [&] {
-        return openConnection(file_, Access::kRead, patience.lock, [this] { return isOverdue(); });
+        return openConnection(file_, Access::kRead, timeouts.lock, [this] { return isOverdue(); });
       })) {
-  sqlite3_hard_heap_limit64(kMostMemory);
+  sqlite3_hard_heap_limit64(kMaxMemory);
   allowReadingOnly(connection_.get());
   sqlite3_progress_handler(
-      connection_.get(), kStepsBetweenLooks,
+      connection_.get(), kStepsBetweenPolls,
       [](void* database) { return static_cast<const Database*>(database)->isOverdue() ? 1 : 0; },
       this);
 }
@@ -107,7 +103,7 @@ auto Database::run(Operation operation) {
 /// rolled back before the file can be read, which a connection for reading cannot do.
 template <typename Operation>
 auto Database::withRecovery(Operation operation) {
-  deadline_ = std::chrono::steady_clock::now() + patience_.query;
+  deadline_ = std::chrono::steady_clock::now() + timeouts_.query;
   try {
     return operation();
   } catch (const Error& error) {
@@ -120,17 +116,17 @@ auto Database::withRecovery(Operation operation) {
 void Database::setCacheKiB(int kibibytes) {
   run([&] {
     // No text of the windows may set anything; this one is our own.
-    const AnythingAllowed allowed(connection_.get());
+    const ScopedUnrestricted allowed(connection_.get());
     execute(connection_.get(), "pragma cache_size=-" + std::to_string(kibibytes));
   });
 }
 
 Rows Database::read(const std::string& sql, std::size_t limit, ScanOrder order) {
   return run([&] {
-    std::optional<BackwardScan> backward;
+    std::optional<ScopedBackwardScan> backward;
     if (order == ScanOrder::kBackward) backward.emplace(connection_.get());
     Rows rows = readRows(connection_.get(), sql, limit);
-    // What is overdue may have been sorted with texts taken for equal.
+    // The collation of an overdue query took texts for equal: its rows are wrong.
     if (isOverdue()) throw Error(SQLITE_INTERRUPT, sqlite3_errstr(SQLITE_INTERRUPT));
     return rows;
   });
@@ -147,7 +143,7 @@ bool Database::hasRowid(const std::string& table) {
 }
 
 void Database::rollBackJournal() const {
-  const Connection writer = openConnection(file_, Access::kWrite, patience_.lock);
+  const Connection writer = openConnection(file_, Access::kWrite, timeouts_.lock);
   execute(writer.get(), "select 1 from sqlite_master limit 1");
 }
 

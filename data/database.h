@@ -30,35 +30,36 @@ struct Rows {
 
 enum class ScanOrder { kForward, kBackward };
 
-/// How long an operation may take. With both used up and what it holds given back, it still ends
-/// before a user takes the window for frozen, which is after 5 s.
-struct Patience {
+/// How long an operation may take. After both and the release of what it holds it still ends before
+/// Windows takes the window for hung, which is after 5 s.
+struct Timeouts {
   std::chrono::milliseconds query{3500};  ///< a query that runs longer ends with an error
   std::chrono::milliseconds lock{1000};   ///< wait for other programs that hold the file
 };
 
 /// What the engine may take, in bytes: several times what pages in memory and sorted rows of the
 /// dictionary need.
-inline constexpr std::int64_t kMostMemory = std::int64_t{64} << 20U;
+inline constexpr std::int64_t kMaxMemory = std::int64_t{64} << 20U;
 
 /// Pages of the file that a connection for searches keeps in memory, in KiB: a search reads the
 /// largest subject dictionary (some 6 MB) from end to end, and the next one finds its pages there.
 inline constexpr int kSearchCacheKiB = 16384;
 
-/// A database file, open for reading only. Every operation runs its statement to the end of what is
-/// asked and closes it, so that nothing holds the file between operations. All operations throw
-/// Error with a description for the user. From the first one on the engine takes at most
-/// kMostMemory in this process; a query that needs more fails.
+/// A database file, open for reading only, for one thread (see connection.h). Every operation runs
+/// its statement to the end of what is asked and closes it, so that nothing holds the file between
+/// operations. All operations throw Error with a description for the user. From the first Database
+/// on the engine takes at most kMaxMemory in the whole process, connections opened otherwise
+/// included; a query that needs more fails with SQLITE_NOMEM.
 class Database {
  public:
   /// `file` is the path in UTF-8.
-  explicit Database(std::string file, Patience patience = {});
+  explicit Database(std::string file, Timeouts timeouts = {});
   Database(const Database&) = delete;
   Database& operator=(const Database&) = delete;
   ~Database() = default;
 
   [[nodiscard]] const std::string& file() const { return file_; }
-  [[nodiscard]] Patience patience() const { return patience_; }
+  [[nodiscard]] Timeouts timeouts() const { return timeouts_; }
 
   /// Keeps up to so many KiB of the file's pages in memory from here on, each from when it is first
   /// read; 256 otherwise.
@@ -81,7 +82,7 @@ class Database {
   void rollBackJournal() const;
 
   std::string file_;
-  Patience patience_;
+  Timeouts timeouts_;
   std::chrono::steady_clock::time_point deadline_;
   Connection connection_;
 };

@@ -3,8 +3,6 @@
 #include <limits>
 #include <stdexcept>
 
-#include "data/bound_limits.h"
-#include "data/wildcards.h"
 #include "text/order.h"
 #include "text/query_text.h"
 
@@ -36,8 +34,28 @@ RecordSet& rowsOf(DataControl& control, std::u16string_view sql) {
 
 }  // namespace
 
-HeadwordLookup::HeadwordLookup(const IndexWords& indexWords, LookupRules rules)
-    : indexWords_(indexWords), rules_(rules) {}
+IndexWords readIndexWords(DataControl& control) {
+  control.setRecordSource(kIndexQuery);
+  control.refresh();
+  return readIndexWords(control.recordset());
+}
+
+IndexWords readIndexWords(RecordSet& rows) {
+  const std::size_t count = rows.recordCount();
+  if (count > std::numeric_limits<std::int16_t>::max()) {
+    throw std::overflow_error("more index words than a 16-bit number can count");
+  }
+  IndexWords words;
+  words.push_back({});
+  for (rows.moveFirst(); !rows.endOfFile(); rows.moveNext()) {
+    words.push_back(text::toLower(rows.field(u"word").text));
+  }
+  words.shrink_to_fit();
+  return words;
+}
+
+HeadwordLookup::HeadwordLookup(const IndexWords& indexWords, LookupOptions options)
+    : indexWords_(indexWords), options_(options) {}
 
 void HeadwordLookup::getBound(std::u16string_view word, DataControl& control) {
   if (user::getEorC(word) == user::kEnglish) {
@@ -51,7 +69,7 @@ void HeadwordLookup::getBound(std::u16string_view word, DataControl& control) {
 void HeadwordLookup::getEnglishBound(std::u16string_view word) {
   const std::u16string low = text::toLower(withoutWildcards(word, u"0"));
   const std::u16string high =
-      rules_.lambdaUpperKey ? text::toLower(withoutWildcards(word, u"λ")) : low;
+      options_.lambdaUpperKey ? text::toLower(withoutWildcards(word, u"λ")) : low;
   const bool oneKey = high == low;
   for (std::size_t i = 1; i < indexWords_.size(); ++i) {
     const std::u16string_view indexWord = indexWords_[i];
@@ -102,10 +120,31 @@ std::u16string HeadwordLookup::makeStrSql(std::u16string_view EorC, std::u16stri
 
 std::u16string HeadwordLookup::findword(std::u16string_view EorC, std::u16string_view word,
                                         DataControl& control) {
-  if (EorC == user::kEnglish || rules_.chineseMeaningFindsBounds) getBound(word, control);
+  if (EorC == user::kEnglish || options_.chineseMeaningFindsBounds) getBound(word, control);
   if (EorC == user::kEnglish) return englishMeaningSql(bounds_, word);
   if (EorC == user::kChinese) return chineseMeaningSql(bounds_, word);
   return {};
+}
+
+std::vector<std::u16string> readMeanings(RecordSet& rows) {
+  std::vector<std::u16string> meanings;
+  meanings.reserve(rows.recordCount());
+  for (rows.moveFirst(); !rows.endOfFile(); rows.moveNext()) {
+    meanings.push_back(rows.field(u"Meaning").text);
+  }
+  return meanings;
+}
+
+MeaningText meaningLines(std::u16string_view escapedWord,
+                         const std::vector<std::u16string>& meanings) {
+  MeaningText text;
+  text.body.append(u" ").append(escapedWord).append(u"\r\n");
+  text.headLength = text.body.size();
+  for (std::size_t i = 0; i < meanings.size(); ++i) {
+    text.body.append(u" ").append(meanings[i]);
+    if (i + 1 < meanings.size()) text.body.append(u"；\r\n");
+  }
+  return text;
 }
 
 }  // namespace data

@@ -6,12 +6,11 @@
 #include <string_view>
 #include <vector>
 
-#include "data/data_control.h"
-
 namespace data {
 
-/// The shared index list: slot 0 empty, slot k the lower-cased headword of [edict] row k x 100. All
-/// words stand in one text, which takes less than half the memory of as many strings.
+/// The headword index of [edict] in memory: slot 0 is empty, slot k holds the lower-cased headword
+/// of row k * kBlockRows (lookup_sql.h). All words are kept in one text, which takes less than half
+/// the memory of as many strings. readIndexWords (headword_lookup.h) fills it.
 class IndexWords {
  public:
   IndexWords() = default;
@@ -46,14 +45,5 @@ class IndexWords {
   std::u16string words_;
   std::vector<std::uint32_t> ends_;  ///< where the word in each slot ends
 };
-
-/// The query for table [edictidx].
-inline constexpr std::u16string_view kIndexQuery = u"select word from edictidx order by word";
-
-/// Takes the rows of kIndexQuery into an index list. Throws std::overflow_error above 32,767 rows.
-IndexWords readIndexWords(RecordSet& rows);
-
-/// Runs kIndexQuery and reads its rows.
-IndexWords readIndexWords(DataControl& control);
 
 }  // namespace data

@@ -1,11 +1,16 @@
 #include "data/lookup_sql.h"
 
+#include "text/query_text.h"
 #include "text/strings.h"
 
 namespace data {
 
 using text::decimal;
 using text::joined;
+
+std::u16string withoutWildcards(std::u16string_view word, std::u16string_view replacement) {
+  return user::replaceStr(user::replaceStr(word, u"%", replacement), u"_", replacement);
+}
 
 std::u16string englishListSql(Bounds bounds, std::u16string_view word) {
   return joined({u"select distinct top 75 edict.word as Word from [edict]", u"where edict.eid>=",

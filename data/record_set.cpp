@@ -1,52 +1,166 @@
+// A plain scan of one table may yield many rows, so that only its first row is read at once, the
+// last one by a backward scan of its own when it is asked for, and all others when one of them is.
+// The rows of any other query are read at once.
+
 #include "data/record_set.h"
 
 #include <sqlite3.h>
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 
-#include "data/cursor.h"
-#include "data/error.h"
+#include "data/connection.h"
+#include "text/characters.h"
 #include "text/utf.h"
 
 namespace data {
+namespace {
 
-RecordSet::RecordSet() = default;
-RecordSet::RecordSet(std::unique_ptr<Cursor> cursor) : cursor_(std::move(cursor)) {}
-RecordSet::~RecordSet() = default;
-RecordSet::RecordSet(RecordSet&& other) noexcept = default;
-RecordSet& RecordSet::operator=(RecordSet&& other) noexcept = default;
+constexpr std::size_t kAllRows = std::numeric_limits<std::size_t>::max();
 
-bool RecordSet::empty() { return !cursor_ || cursor_->empty(); }
+Error misuse(const std::string& message) { return {SQLITE_MISUSE, message}; }
 
-std::size_t RecordSet::recordCount() { return cursor_ ? cursor_->count() : 0; }
+/// Whether a column's name in UTF-8 is `name` but for the case of ASCII letters. It is compared as
+/// it is: rows are read field by field, and a conversion of the name would cost as much as that.
+bool isName(std::string_view column, std::u16string_view name) {
+  const text::Utf8Units units(column);
+  std::size_t position = 0;
+  for (const char16_t wanted : name) {
+    if (position == units.size()) return false;
+    const text::Unit unit = units.at(position);
+    if (text::lowerAscii(unit.value) != text::lowerAscii(wanted)) return false;
+    position += unit.length;
+  }
+  return position == units.size();
+}
 
-bool RecordSet::endOfFile() { return !cursor_ || cursor_->atEnd(); }
+std::string quotedName(const std::string& name) {
+  std::string quoted = "\"";
+  for (const char c : name) quoted.append(c == '"' ? 2 : 1, c);
+  return quoted + '"';
+}
+
+/// One column of one row of a table, by the number that the engine gives the row.
+struct CellAddress {
+  std::string table;
+  std::string column;
+  std::int64_t rowid = 0;
+};
+
+void write(const std::string& file, const CellAddress& address, std::int64_t value,
+           std::chrono::milliseconds lockWait) {
+  const Connection connection = openConnection(file, Access::kWrite, lockWait);
+  execute(connection.get(), "pragma synchronous=full");
+  execute(connection.get(), "begin immediate");
+  execute(connection.get(), "update " + quotedName(address.table) + " set " +
+                                quotedName(address.column) + "=" + std::to_string(value) +
+                                " where rowid=" + std::to_string(address.rowid));
+  if (sqlite3_changes(connection.get()) != 1) {
+    throw Error(SQLITE_NOTFOUND, "row to be updated is not there any more");
+  }
+  execute(connection.get(), "commit");
+}
+
+}  // namespace
+
+RecordSet::RecordSet(std::shared_ptr<Database> database, std::string_view sql)
+    : database_(std::move(database)), query_(translate(sql)) {
+  withRowid_ = !query_.table.empty() && database_->hasRowid(query_.table);
+  if (query_.plainScan) {
+    rows_ = database_->read(this->sql(), 1);
+  } else {
+    readAll();
+  }
+  moveFirst();
+}
+
+std::size_t RecordSet::recordCount() {
+  readAll();
+  return rows_.count();
+}
 
 void RecordSet::moveFirst() {
-  if (cursor_) cursor_->moveFirst();
+  row_ = 0;
+  position_ = empty() ? Position::kEnd : Position::kRow;
 }
 
 void RecordSet::moveLast() {
-  if (cursor_) cursor_->moveLast();
+  if (empty()) return;
+  if (query_.plainScan && !rows_.complete) {
+    last_ = database_->read(sql(), 1, ScanOrder::kBackward);
+    row_ = 0;
+    position_ = last_.cells.empty() ? Position::kEnd : Position::kLast;
+  } else {
+    readAll();
+    row_ = rows_.count() - 1;
+    position_ = Position::kRow;
+  }
 }
 
-void RecordSet::moveNext() { cursor().moveNext(); }
+void RecordSet::moveNext() {
+  requireQuery();
+  if (position_ == Position::kEnd) throw misuse("no row behind the last one");
+  if (position_ == Position::kLast) {
+    position_ = Position::kEnd;
+    return;
+  }
+  ++row_;
+  if (row_ == rows_.count()) readAll();
+  if (row_ >= rows_.count()) position_ = Position::kEnd;
+}
 
-Field RecordSet::field(std::u16string_view name) { return cursor().field(text::toUtf8(name)); }
+Field RecordSet::field(std::u16string_view name) const { return field(columnNamed(name)); }
 
-Field RecordSet::field(std::size_t position) { return cursor().field(position); }
+Field RecordSet::field(std::size_t column) const {
+  requireQuery();
+  if (column >= ownColumns()) throw misuse("no column " + std::to_string(column));
+  const Cell& found = cell(column);
+  return {text::toUtf16(found.text), found.integer};
+}
 
 void RecordSet::update(std::u16string_view name, std::int64_t value) {
-  cursor().update(text::toUtf8(name), value);
+  const std::size_t column = columnNamed(name);
+  if (!withRowid_) throw misuse("rows of this query cannot be updated");
+  if (position_ == Position::kLast) {
+    readAll();
+    moveLast();
+  }
+  const CellAddress address{query_.table, rows_.columns[column], cell(ownColumns()).integer};
+  describingFailures(database_->file(), Access::kWrite,
+                     [&] { write(database_->file(), address, value, database_->timeouts().lock); });
+  rows_.cells[(row_ * rows_.columns.size()) + column] = {std::to_string(value), value};
 }
 
-void RecordSet::close() {
-  if (cursor_) cursor_->close();
+void RecordSet::readAll() {
+  if (!database_ || rows_.complete) return;
+  rows_ = database_->read(sql(), query_.top.value_or(kAllRows));
+  rows_.complete = true;
+  // Rows may have vanished since the first one was read.
+  if (position_ == Position::kRow && row_ >= rows_.count()) position_ = Position::kEnd;
 }
 
-Cursor& RecordSet::cursor() {
-  if (!cursor_) throw Error(SQLITE_MISUSE, "no query has been run");
-  return *cursor_;
+void RecordSet::requireQuery() const {
+  if (!database_) throw misuse("no query has been run");
+}
+
+const std::string& RecordSet::sql() const { return withRowid_ ? query_.sqlWithRowid : query_.sql; }
+
+std::size_t RecordSet::ownColumns() const { return rows_.columns.size() - (withRowid_ ? 1 : 0); }
+
+std::size_t RecordSet::columnNamed(std::u16string_view name) const {
+  requireQuery();
+  const auto own = rows_.columns.begin() + static_cast<std::ptrdiff_t>(ownColumns());
+  const auto found = std::find_if(rows_.columns.begin(), own,
+                                  [&](const std::string& column) { return isName(column, name); });
+  if (found == own) throw misuse("no column " + text::toUtf8(name));
+  return static_cast<std::size_t>(found - rows_.columns.begin());
+}
+
+const Cell& RecordSet::cell(std::size_t column) const {
+  if (position_ == Position::kEnd) throw misuse("no current row");
+  const Rows& rows = position_ == Position::kLast ? last_ : rows_;
+  return rows.cells[(row_ * rows.columns.size()) + column];
 }
 
 }  // namespace data

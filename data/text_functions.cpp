@@ -7,7 +7,7 @@
 #include <string_view>
 #include <utility>
 
-#include "data/connection.h"
+#include "data/error.h"
 #include "text/like.h"
 #include "text/order.h"
 
@@ -33,7 +33,7 @@ const text::LikePattern* keptPattern(sqlite3_context* context) {
   return static_cast<const text::LikePattern*>(sqlite3_get_auxdata(context, 0));
 }
 
-/// Makes a pattern ready for this call and, where it is the same for all rows, for the statement's
+/// Prepares a pattern for this call and, where it is the same for all rows, for the statement's
 /// further calls. Null without memory.
 const text::LikePattern* keepPattern(sqlite3_context* context, sqlite3_value* value) {
   auto pattern = std::make_unique<text::LikePattern>(viewOf(value));
@@ -53,7 +53,7 @@ void like(sqlite3_context* context, int /*count*/, sqlite3_value** values) {
   if (pattern == nullptr) {
     if (sqlite3_value_type(values[0]) == SQLITE_NULL) return;
     const int bytes = sqlite3_value_bytes(values[0]);
-    if (bytes > kLongestPattern) {
+    if (bytes > kMaxPatternBytes) {
       sqlite3_result_error(context, "LIKE pattern too complex", -1);
       return;
     }

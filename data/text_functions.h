@@ -12,13 +12,13 @@ namespace data {
 /// (text/order.h). LIKE ignores case the same way for every column.
 inline constexpr const char* kTextOrder = "lexilo";
 
-/// Longest pattern in bytes that LIKE takes, SQLite's own measure.
-inline constexpr int kLongestPattern = 50000;
+/// Longest pattern in bytes that LIKE takes: SQLite's own default.
+inline constexpr int kMaxPatternBytes = 50000;
 
-/// Teaches a connection the collation and LIKE. Whoever builds, reads or updates the dictionary
-/// does this right after opening it. `isOverdue` is asked now and then while they work: once it
-/// says yes, LIKE fails with SQLITE_INTERRUPT, and all texts compare as equal for the sake of a
-/// quick end of the statement, whose rows are worth nothing then. Throws Error.
+/// Registers the collation and LIKE on a connection. Whoever builds, reads or updates the
+/// dictionary does this right after opening it. `isOverdue` is polled while they work, by way of a
+/// text::StepBudget. After it returned true LIKE fails with SQLITE_INTERRUPT and the collation
+/// returns 0, so that the statement ends soon; the caller must discard its rows. Throws Error.
 void registerTextFunctions(sqlite3* connection, std::function<bool()> isOverdue = {});
 
 }  // namespace data

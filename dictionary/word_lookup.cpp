@@ -4,7 +4,6 @@
 #include "data/error.h"
 #include "data/headword_lookup.h"
 #include "data/index_words.h"
-#include "data/meaning_text.h"
 #include "dictionary/console.h"
 #include "text/query_text.h"
 #include "text/utf.h"
@@ -32,7 +31,7 @@ LookupResult lookUpIn(const std::filesystem::path& database, const user::TypedTe
   data::DataControl control;
   control.setConnectionString(u"Data Source=" + text::toUtf16(utf8Path(database)));
   const data::IndexWords index = data::readIndexWords(control);
-  data::HeadwordLookup lookup(index, data::LookupRules());
+  data::HeadwordLookup lookup(index, data::LookupOptions());
 
   LookupResult result;
   run(control, lookup.makeStrSql(typed.language, typed.word, control));

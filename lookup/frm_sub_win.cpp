@@ -32,7 +32,7 @@ constexpr int kHangingIndent = 180;
 
 }  // namespace
 
-frmSub::frmSub() : Form(design()), lookup_(user::IdxWords, data::LookupRules{}) {
+frmSub::frmSub() : Form(design()), lookup_(user::IdxWords, data::LookupOptions{}) {
   txtInput.setFont({u"宋体", 10.5});
   txtOut.setHangingIndent(kHangingIndent);
   txtInput.onChange = [this] { txtInput_Change(); };

@@ -14,7 +14,6 @@
 
 #include "bench/native/subject_searches.h"
 #include "bench/timings.h"
-#include "data/connection_string.h"
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
 #include "text/query_text.h"

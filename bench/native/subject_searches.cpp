@@ -8,7 +8,6 @@
 #include "bench/native/search_patterns.h"
 #include "bench/native/yardsticks.h"
 #include "bench/timings.h"
-#include "data/connection_string.h"
 #include "data/data_control.h"
 #include "data/database.h"
 #include "query/query_sql.h"

@@ -8,7 +8,6 @@
 
 #include "app/state.h"
 #include "bench/timings.h"
-#include "data/connection_string.h"
 #include "data/data_control.h"
 #include "forms/dispatcher.h"
 #include "forms/registry.h"

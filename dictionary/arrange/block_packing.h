@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "data/bound_limits.h"
+#include "data/lookup_sql.h"
 #include "dictionary/arrange/vocabulary.h"
 
 namespace dictionary {

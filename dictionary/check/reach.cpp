@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "data/bound_limits.h"
-#include "data/wildcards.h"
+#include "data/lookup_sql.h"
 #include "text/order.h"
 #include "text/query_text.h"
 

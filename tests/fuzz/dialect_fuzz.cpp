@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "data/connection_string.h"
+#include "data/data_control.h"
 #include "data/dialect/dialect.h"
 #include "data/dialect/sql_tokens.h"
 #include "tests/fuzz/fuzz_input.h"

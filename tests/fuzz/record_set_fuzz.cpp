@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "data/cursor.h"
 #include "data/error.h"
+#include "data/record_set.h"
 #include "tests/fuzz/fuzz_input.h"
 #include "tests/unit/support/sample_database.h"
 
@@ -34,13 +34,13 @@ class Subject {
     bytes_ = support::readFile(file_);
     using std::chrono::milliseconds;
     database_ = std::make_shared<data::Database>(
-        support::utf8Path(file_), data::Patience{milliseconds(100), milliseconds(0)});
+        support::utf8Path(file_), data::Timeouts{milliseconds(100), milliseconds(0)});
   }
 
   void run(std::string_view sql) const {
     try {
-      data::Cursor cursor(database_, sql);
-      walk(cursor, data::translate(sql));
+      data::RecordSet rows(database_, sql);
+      walk(rows, data::translate(sql));
     } catch (const data::Error&) {
       // A text that is no query of ours.
     }
@@ -49,19 +49,19 @@ class Subject {
   }
 
  private:
-  static void walk(data::Cursor& cursor, const data::Query& query) {
-    const bool empty = cursor.empty();
-    require(cursor.atEnd() == empty);
+  static void walk(data::RecordSet& rows, const data::Query& query) {
+    const bool empty = rows.empty();
+    require(rows.endOfFile() == empty);
     std::u16string last;
-    cursor.moveLast();
-    if (!empty) last = cursor.field(0).text;
-    const std::size_t count = cursor.count();
+    rows.moveLast();
+    if (!empty) last = rows.field(0).text;
+    const std::size_t count = rows.recordCount();
     require((count == 0) == empty);
     if (query.top) require(count <= *query.top);
-    cursor.moveFirst();
+    rows.moveFirst();
     std::size_t steps = 0;
-    for (std::u16string text; !cursor.atEnd(); cursor.moveNext()) {
-      text = cursor.field(0).text;
+    for (std::u16string text; !rows.endOfFile(); rows.moveNext()) {
+      text = rows.field(0).text;
       if (++steps == count) require(text == last);
     }
     require(steps == count);

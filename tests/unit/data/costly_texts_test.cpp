@@ -5,9 +5,9 @@
 #include <chrono>
 #include <memory>
 
-#include "data/cursor.h"
 #include "data/database.h"
 #include "data/error.h"
+#include "data/record_set.h"
 #include "query/query_sql.h"
 #include "tests/unit/support/hostile_texts.h"
 #include "tests/unit/support/sample_database.h"
@@ -37,14 +37,15 @@ class CostlyTexts : public testing::Test {
     sqlite3_memory_highwater(1);
     const auto start = std::chrono::steady_clock::now();
     try {
-      const data::Cursor rows(database_, text::toUtf8(query::specialSql(u"med", english, u"字")));
+      const data::RecordSet rows(database_,
+                                 text::toUtf8(query::specialSql(u"med", english, u"字")));
       ++answered_;
     } catch (const data::Error&) {
       ++refused_;
     }
     const auto took = std::chrono::steady_clock::now() - start;
     EXPECT_LT(took, kFrozen) << std::chrono::duration_cast<milliseconds>(took).count() << " ms";
-    EXPECT_LE(sqlite3_memory_highwater(0), data::kMostMemory);
+    EXPECT_LE(sqlite3_memory_highwater(0), data::kMaxMemory);
     EXPECT_GT(sqlite3_memory_highwater(0), 0);
   }
 

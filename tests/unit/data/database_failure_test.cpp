@@ -6,7 +6,6 @@
 
 #include "data/database.h"
 #include "data/error.h"
-#include "data/error_text.h"
 #include "tests/unit/support/file_layer.h"
 #include "tests/unit/support/plain_read.h"
 #include "tests/unit/support/sample_database.h"

@@ -7,7 +7,6 @@
 #include <chrono>
 
 #include "data/error.h"
-#include "data/error_text.h"
 #include "tests/unit/support/sample_database.h"
 
 namespace {
@@ -110,11 +109,14 @@ TEST_F(DatabaseTest, NamesWhatIsWrongWithAStatement) {
 
 TEST_F(DatabaseTest, RunsExactlyOneStatement) {
   EXPECT_EQ(failureOf("select a from t; select a from t"), "SQL text with more than one statement");
-  EXPECT_NE(failureOf("select a from t;;x"), "");
+  EXPECT_EQ(failureOf("select a from t;;x"), "SQL text with more than one statement");
+  EXPECT_EQ(failureOf("select a from t; /* */ delete from t"),
+            "SQL text with more than one statement");
   EXPECT_NE(failureOf(""), "");
   EXPECT_NE(failureOf(" -- nothing"), "");
   EXPECT_NE(failureOf(std::string("select a from t\0 where n=1", 26)), "");
   EXPECT_EQ(failureOf("select a from t; ; -- end"), "");
+  EXPECT_EQ(failureOf("select a from t;/* one */ ; /* two\n; select 1"), "");
 }
 
 TEST_F(DatabaseTest, RefusesAllButReading) {

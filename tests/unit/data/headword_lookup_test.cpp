@@ -15,16 +15,16 @@ using data::Bounds;
 using data::DataControl;
 using data::HeadwordLookup;
 using data::IndexWords;
-using data::LookupRules;
+using data::LookupOptions;
 using support::TempFolder;
 
-constexpr LookupRules kWindow{};
-constexpr LookupRules kPopup{.lambdaUpperKey = true, .chineseMeaningFindsBounds = true};
+constexpr LookupOptions kWindow{};
+constexpr LookupOptions kPopup{.lambdaUpperKey = true, .chineseMeaningFindsBounds = true};
 
 /// The bounds of English input; no database is asked.
-Bounds boundsOf(const IndexWords& words, LookupRules rules, std::u16string_view word) {
+Bounds boundsOf(const IndexWords& words, LookupOptions options, std::u16string_view word) {
   DataControl control;
-  HeadwordLookup lookup(words, rules);
+  HeadwordLookup lookup(words, options);
   lookup.getBound(word, control);
   return lookup.bounds();
 }

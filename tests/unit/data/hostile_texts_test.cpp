@@ -7,9 +7,9 @@
 #include <memory>
 #include <set>
 
-#include "data/cursor.h"
 #include "data/database.h"
 #include "data/lookup_sql.h"
+#include "data/record_set.h"
 #include "tests/unit/support/small_dictionary.h"
 #include "tests/unit/support/window_queries.h"
 #include "text/query_text.h"
@@ -30,7 +30,7 @@ class HostileTexts : public testing::Test {
     before_ = support::readFile(file_);
     dictionaryTexts_ = allTextsOf(support::smallDatabase());
     database_ = std::make_shared<data::Database>(support::utf8Path(file_),
-                                                 data::Patience{kPatience, milliseconds(1000)});
+                                                 data::Timeouts{kPatience, milliseconds(1000)});
   }
 
   /// Runs what a box makes of a text, which must end in time with rows of the dictionary or with an
@@ -38,7 +38,7 @@ class HostileTexts : public testing::Test {
   void run(const std::u16string& sql, std::size_t columns = 2) {
     const auto start = std::chrono::steady_clock::now();
     try {
-      data::RecordSet rows(std::make_unique<data::Cursor>(database_, text::toUtf8(sql)));
+      data::RecordSet rows(database_, text::toUtf8(sql));
       ASSERT_LE(rows.recordCount(), 200U);
       for (; !rows.endOfFile(); rows.moveNext()) {
         for (std::size_t i = 0; i < columns; ++i) expectDictionaryText(rows.field(i).text);

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "data/error.h"
+#include "data/headword_lookup.h"
 #include "tests/unit/support/sample_database.h"
 
 namespace {

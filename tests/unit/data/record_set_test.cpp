@@ -4,7 +4,6 @@
 
 #include <memory>
 
-#include "data/cursor.h"
 #include "data/database.h"
 #include "data/error.h"
 #include "tests/unit/support/sample_database.h"
@@ -37,9 +36,7 @@ class RecordSetTest : public testing::Test {
     database_ = std::make_shared<data::Database>(support::utf8Path(file_));
   }
 
-  RecordSet rows(std::string_view sql) {
-    return RecordSet(std::make_unique<data::Cursor>(database_, sql));
-  }
+  RecordSet rows(std::string_view sql) { return RecordSet(database_, sql); }
 
   TempFolder folder_;
   std::filesystem::path file_ = folder_.file(u"kk.dat");

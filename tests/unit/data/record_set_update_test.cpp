@@ -4,10 +4,9 @@
 #include <chrono>
 #include <memory>
 
-#include "data/cursor.h"
 #include "data/database.h"
 #include "data/error.h"
-#include "data/error_text.h"
+#include "data/record_set.h"
 #include "tests/unit/support/sample_database.h"
 #include "tests/unit/support/unprivileged.h"
 
@@ -35,12 +34,10 @@ class RecordSetUpdateTest : public testing::Test {
 
   void open(std::chrono::milliseconds lock) {
     database_ = std::make_shared<data::Database>(
-        support::utf8Path(file_), data::Patience{std::chrono::milliseconds(5000), lock});
+        support::utf8Path(file_), data::Timeouts{std::chrono::milliseconds(5000), lock});
   }
 
-  RecordSet rows(std::string_view sql) {
-    return RecordSet(std::make_unique<data::Cursor>(database_, sql));
-  }
+  RecordSet rows(std::string_view sql) { return RecordSet(database_, sql); }
 
   std::int64_t stored(const std::string& sql) { return support::Writer(file_).number(sql); }
 
@@ -105,7 +102,7 @@ TEST_F(RecordSetUpdateTest, LeavesNoOtherFileBehind) {
 TEST_F(RecordSetUpdateTest, IsNotHinderedByOurOwnReading) {
   RecordSet scan = rows("select * from twins");
   auto other = std::make_shared<data::Database>(support::utf8Path(file_));
-  RecordSet elsewhere(std::make_unique<data::Cursor>(other, "select * from [Index]"));
+  RecordSet elsewhere(other, "select * from [Index]");
   RecordSet set = rows(kSettingsQuery);
   const auto start = std::chrono::steady_clock::now();
   for (int i = 0; i < 3; ++i) {

@@ -5,8 +5,8 @@
 #include <memory>
 #include <set>
 
-#include "data/cursor.h"
 #include "data/database.h"
+#include "data/record_set.h"
 #include "tests/unit/support/file_layer.h"
 #include "tests/unit/support/small_dictionary.h"
 #include "tests/unit/support/sound_database.h"
@@ -91,9 +91,8 @@ TEST_F(DefaultFlag, ARowNumberThatDoesNotExistLeavesNoDefault) {
 TEST_F(DefaultFlag, ALockedFileFailsWithNothingChanged) {
   const auto database = std::make_shared<data::Database>(
       support::utf8Path(file_),
-      data::Patience{std::chrono::milliseconds(5000), std::chrono::milliseconds(50)});
-  data::RecordSet rows(
-      std::make_unique<data::Cursor>(database, text::toUtf8(query::kAllDictionaries)));
+      data::Timeouts{std::chrono::milliseconds(5000), std::chrono::milliseconds(50)});
+  data::RecordSet rows(database, text::toUtf8(query::kAllDictionaries));
   support::Writer other(file_);
   other.run("begin immediate");
   try {

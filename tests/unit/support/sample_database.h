@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "data/connection_string.h"
 #include "data/data_control.h"
 #include "data/text_functions.h"
 #include "tests/unit/support/temp_folder.h"

@@ -1,5 +1,6 @@
 #include "tests/windows/support/dictionary.h"
-#include "data/connection_string.h"
+#include "data/data_control.h"
+#include "data/headword_lookup.h"
 
 #include "app/state.h"
 #include "win32/program.h"

@@ -2,7 +2,7 @@
 
 #include "app/state.h"
 #include "capture/screen_word.h"
-#include "data/connection_string.h"
+#include "data/data_control.h"
 #include "query/frm_main.h"
 #include "tests/program/harness/controls.h"
 #include "tests/windows/support/capture_state.h"

@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "data/cursor.h"
+#include "data/record_set.h"
 #include "tests/unit/support/sample_database.h"
 
 namespace {
@@ -55,7 +55,7 @@ std::vector<std::u16string> found(const std::shared_ptr<data::Database>& databas
                                   std::string_view pattern) {
   std::string sql = "select id from ";
   sql.append(table).append(" where ").append(sign).append("word like ").append(pattern);
-  data::RecordSet rows(std::make_unique<data::Cursor>(database, sql + " order by id"));
+  data::RecordSet rows(database, sql + " order by id");
   return support::column(rows, u"id");
 }
 

@@ -66,7 +66,7 @@ TEST(BoundStep, EqualsThatOfTheLookups) {
   data::DataControl control;
   control.setConnectionString(support::connectionStringFor(support::smallDatabase()));
   const data::IndexWords index = data::readIndexWords(control);
-  data::HeadwordLookup lookup(index, data::LookupRules());
+  data::HeadwordLookup lookup(index, data::LookupOptions());
   Words words;
   for (std::size_t slot = 1; slot < index.size(); ++slot) words.emplace_back(index[slot]);
   const EnglishBoundStep english(std::move(words));

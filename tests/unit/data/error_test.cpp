@@ -1,4 +1,4 @@
-#include "data/error_text.h"
+#include "data/error.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -104,7 +104,7 @@ TEST(ErrorText, QuotesLongWordsOfTheEngineOnOneLine) {
   const std::string words = text.substr(text.rfind("\n\n") + 2);
   EXPECT_TRUE(words.starts_with("near \"词  词  ")) << words;
   EXPECT_TRUE(words.ends_with("  \": syntax error")) << words;
-  EXPECT_EQ(text::toUtf16(words).size(), data::kLongestShownEngineText);
+  EXPECT_EQ(text::toUtf16(words).size(), data::kMaxShownEngineText);
   EXPECT_EQ(words.find_first_of("\r\n"), std::string::npos);
 }
 

@@ -1,4 +1,4 @@
-#include "data/error_text.h"
+#include "data/error.h"
 
 #include <sqlite3.h>
 
@@ -96,7 +96,7 @@ Explanation explain(Access access, const Error& error) {
 
 /// The engine's message on one line: it may quote line ends that were typed.
 std::u16string shownEngineText(const Error& error) {
-  std::u16string line = text::shortened(text::toUtf16(error.engineText()), kLongestShownEngineText);
+  std::u16string line = text::shortened(text::toUtf16(error.engineText()), kMaxShownEngineText);
   std::replace_if(
       line.begin(), line.end(), [](char16_t unit) { return unit < u' '; }, u' ');
   return line;
@@ -104,10 +104,18 @@ std::u16string shownEngineText(const Error& error) {
 
 }  // namespace
 
+void raise(sqlite3* connection) {
+  throw Error(sqlite3_extended_errcode(connection), sqlite3_errmsg(connection));
+}
+
+void check(sqlite3* connection, int result) {
+  if (result != SQLITE_OK) raise(connection);
+}
+
 std::string failureText(const std::string& file, Access access, const Error& error) {
   const Explanation explanation = explain(access, error);
   std::u16string whole(explanation.problem);
-  whole.append(u"\n").append(text::shortened(text::toUtf16(file), kLongestShownPath));
+  whole.append(u"\n").append(text::shortened(text::toUtf16(file), kMaxShownPath));
   whole.append(u"\n").append(explanation.remedy);
   whole.append(u"\n\n").append(shownEngineText(error));
   return text::toUtf8(whole);
