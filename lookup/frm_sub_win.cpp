@@ -1,11 +1,16 @@
 #include "lookup/frm_sub.h"
 
+#include <stdexcept>
+
 #include "app/state.h"
 #include "capture/screen_word.h"
 #include "forms/clipboard.h"
 #include "forms/geometry.h"
 #include "lookup/layout.h"
+#include "settings/settings_file.h"
 #include "text/query_text.h"
+#include "text/strings.h"
+#include "text/utf.h"
 
 namespace {
 
@@ -22,13 +27,25 @@ forms::FormDesign design() {
 }
 
 constexpr std::u16string_view kFirstWord = u"a";
-constexpr int kMostListed = 100;
+constexpr int kMaxListed = 100;
 
 /// The splitter is one pixel wide; the mouse takes hold of it from three more on each side.
 constexpr int kSplitterMargin = 45;
 
 /// Sets the wrapped part of a meaning off from the next one.
 constexpr int kHangingIndent = 180;
+
+/// The sizes that are kept in the settings file.
+const std::u16string kSection(user::kSettingsSection);
+const std::u16string kWindowWidth = u"WindowWidth";
+const std::u16string kWindowHeight = u"WindowHeight";
+const std::u16string kTreeWidth = u"TreeWidth";
+
+std::runtime_error unusable(const std::u16string& key, const std::u16string& value,
+                            const std::u16string& file) {
+  return std::runtime_error(
+      text::toUtf8(u"设置文件中 " + key + u" 的值“" + value + u"”无法使用：" + file));
+}
 
 }  // namespace
 
@@ -72,7 +89,7 @@ void frmSub::wireKeys() {
 }
 
 void frmSub::Form_Load() {
-  MaxCount = kMostListed;
+  MaxCount = kMaxListed;
   Adodc1.setConnectionString(user::ConnectionString);
   const std::u16string sql = makeStrSql(user::getEorC(kFirstWord), kFirstWord);
   Query(sql, Adodc1, TreeView1);
@@ -172,4 +189,36 @@ void frmSub::Image1_MouseMove() {
 void frmSub::Image1_MouseDown() {
   showSplitterPointer();
   Image1.beginDrag();
+}
+
+void frmSub::readSizes() {
+  settingsPath_ = user::settingsFile();
+  const int windowWidth = readSize(kWindowWidth, 3500);
+  const int windowHeight = readSize(kWindowHeight, 3200);
+  const int treeWidth = readSize(kTreeWidth, 2000);
+  if (!lookup::leavesRoomForPane({windowWidth, windowHeight}, treeWidth)) {
+    throw unusable(kTreeWidth, text::decimal(treeWidth), settingsPath_);
+  }
+  // Deliberate: height and width one after the other, each of which raises Resize.
+  setSize(width(), windowHeight);
+  setSize(windowWidth, height());
+  TreeView1.setWidth(treeWidth);
+}
+
+int frmSub::readSize(const std::u16string& key, int fallback) const {
+  const std::u16string value = user::getINIProfileString(kSection, key, {}, settingsPath_);
+  if (value.empty() || value == settingsPath_) return fallback;
+  const auto size = user::toInteger16(value);
+  if (!size || *size < 0) throw unusable(key, value, settingsPath_);
+  return *size;
+}
+
+void frmSub::writeSizes() const {
+  // Loading that failed before the sizes were read must not replace those that are stored.
+  if (settingsPath_.empty()) return;
+  user::WriteINIProfileString(kSection, kWindowWidth, text::decimal(width()), settingsPath_);
+  user::WriteINIProfileString(kSection, kWindowHeight, text::decimal(height()), settingsPath_);
+  // A window that was narrowed may have left its list too wide for it.
+  const int treeWidth = lookup::widthToKeep({width(), height()}, TreeView1.width());
+  user::WriteINIProfileString(kSection, kTreeWidth, text::decimal(treeWidth), settingsPath_);
 }

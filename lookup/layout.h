@@ -2,8 +2,8 @@
 
 #include "forms/geometry.h"
 
-/// Where the widgets of the quick lookup window go. All lengths in twips; W and H are the window's
-/// Width and Height as the forms count them.
+/// Where the widgets of the quick lookup window go. All lengths in twips of the window's
+/// DPI; widths and heights of windows as the forms count them. All functions are pure.
 namespace lookup {
 
 struct Size {

@@ -4,9 +4,11 @@
 
 #include <array>
 
-#include "settings/settings_rules.h"
-#include "settings/win32_profile.h"
 #include "win32/handles.h"
+
+// Deliberate: declared and never called. kernel32 exports no such function; integer values are
+// always read as text.
+extern "C" UINT WINAPI GetPriviteProfileIntA(LPCSTR section, LPCSTR key, INT fallback, LPCSTR file);
 
 namespace user {
 namespace {
@@ -16,7 +18,8 @@ void freeTaskMemory(wchar_t* memory) { CoTaskMemFree(memory); }
 /// Memory that the shell allocated.
 using TaskMemory = win32::Owned<wchar_t*, freeTaskMemory>;
 
-/// Whether this user can write `file`, which may not exist yet; one made for the test goes again.
+/// Whether this user can write `file`, which may not exist yet; one created for the test is
+/// deleted.
 bool canWrite(const std::u16string& file) {
   const bool existed = GetFileAttributesW(win32::wide(file)) != INVALID_FILE_ATTRIBUTES;
   {

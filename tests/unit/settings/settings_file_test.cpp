@@ -1,4 +1,4 @@
-#include "settings/settings_rules.h"
+#include "settings/settings_file.h"
 
 #include <gtest/gtest.h>
 
