@@ -3,7 +3,27 @@
 #include "data/data_control.h"
 #include "forms/form.h"
 #include "forms/text_box.h"
-#include "query/default_list.h"
+#include "forms/tree_view.h"
+
+namespace query {
+
+/// The list in which the default dictionary is highlighted. With no default no node is highlighted,
+/// not even while the list has the focus; the arrow keys, Home and End then enter it at its ends.
+class DefaultList : public forms::TreeView {
+ public:
+  using TreeView::TreeView;
+
+  /// Highlights node `number`, or none for 0.
+  void show(std::size_t number);
+
+ protected:
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  bool enter(WPARAM key);
+};
+
+}  // namespace query
 
 /// 字典设置: lists all subject dictionaries and makes the one that is clicked the default.
 class frmdictSetting : public forms::Form {

@@ -4,10 +4,10 @@
 #include "app/state.h"
 #include "capture/screen_word.h"
 #include "forms/registry.h"
-#include "query/default_flag.h"
+#include "query/catalogue.h"
 #include "query/frm_main.h"
 #include "query/layout.h"
-#include "query/query_sql.h"
+#include "query/subject_search.h"
 
 namespace {
 
@@ -17,8 +17,8 @@ forms::FormDesign design() {
   design.caption = u"字典设置";
   design.width = query::kSettingsWidth;
   design.height = query::kSettingsHeight;
-  design.leastWidth = query::kSettingsLeastWidth;
-  design.leastHeight = query::kSettingsLeastHeight;
+  design.leastWidth = query::kSettingsMinWidth;
+  design.leastHeight = query::kSettingsMinHeight;
   design.iconResource = forms::kProgramIcon;
   return design;
 }
@@ -75,3 +75,33 @@ void frmdictSetting::loadRecords(data::DataControl& recordSource, std::u16string
   recordSource.setRecordSource(sql);
   recordSource.refresh();
 }
+
+namespace query {
+
+void DefaultList::show(std::size_t number) {
+  if (number != 0) {
+    select(number);
+  } else {
+    send(TVM_SELECTITEM, TVGN_CARET, 0);
+  }
+}
+
+LRESULT DefaultList::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_KEYDOWN && enter(wParam)) return 0;
+  if (message != WM_SETFOCUS || selected() != 0) {
+    return TreeView::handleMessage(message, wParam, lParam);
+  }
+  // The control highlights its first node when it gets the focus.
+  const LRESULT result = TreeView::handleMessage(message, wParam, lParam);
+  show(0);
+  return result;
+}
+
+bool DefaultList::enter(WPARAM key) {
+  const bool enters = key == VK_DOWN || key == VK_UP || key == VK_HOME || key == VK_END;
+  if (!enters || count() == 0 || selected() != 0) return false;
+  select(key == VK_END ? count() : 1);
+  return true;
+}
+
+}  // namespace query

@@ -1,5 +1,7 @@
 #include "query/frm_main.h"
 
+#include <optional>
+
 #include "app/resources/resource_ids.h"
 #include "app/state.h"
 #include "capture/screen_word.h"
@@ -8,15 +10,17 @@
 #include "forms/geometry.h"
 #include "forms/message_box.h"
 #include "forms/registry.h"
+#include "query/catalogue.h"
 #include "query/frm_spc.h"
-#include "query/input_font.h"
 #include "query/layout.h"
-#include "query/query_sql.h"
+#include "query/subject_search.h"
 
 namespace {
 
-constexpr std::int16_t kMostEasy = 100;
-constexpr std::int16_t kMostComplex = 200;
+/// Rows that the searches list at most, as their SQL texts ask for.
+constexpr std::int16_t kMaxEasyRows = 100;
+constexpr std::int16_t kMaxComplexRows = 200;
+constexpr std::int16_t kMaxSpecialRows = 200;
 
 forms::FormDesign design() {
   forms::FormDesign design;
@@ -24,8 +28,8 @@ forms::FormDesign design() {
   design.caption = u" 多功能查询 V1.3";
   design.width = query::kOpeningWidth;
   design.height = query::kOpeningHeight;
-  design.leastWidth = query::kLeastWidth;
-  design.leastHeight = query::kLeastHeight;
+  design.leastWidth = query::kMinWidth;
+  design.leastHeight = query::kMinHeight;
   design.iconResource = forms::kProgramIcon;
   return design;
 }
@@ -102,12 +106,14 @@ void frmMain::TreeView2_Copy(std::size_t node) {
   forms::setClipboardText(handle(), TreeView2.text(node));
 }
 
-void frmMain::cmdOK_Click() try { search(query::kEasy, kMostEasy); } catch (const std::exception&) {
+void frmMain::cmdOK_Click() try {
+  search(query::kEasy, kMaxEasyRows);
+} catch (const std::exception&) {
   tellUnexpectedError();
 }
 
 void frmMain::Command1_Click() try {
-  search(query::kComplex, kMostComplex);
+  search(query::kComplex, kMaxComplexRows);
 } catch (const std::exception&) {
   tellUnexpectedError();
 }
@@ -154,4 +160,55 @@ void frmMain::iniTree() {
     curTable = tableNames.front();
     TreeView1.select(1);
   }
+}
+
+std::u16string frmMain::makeQuerySql(std::u16string& text, std::u16string_view mode) {
+  query::Search search = query::makeQuerySql(text, mode, curTable);
+  curField = search.column;
+  return std::move(search.sql);
+}
+
+void frmMain::runQuery(data::DataControl& recordSource, std::u16string_view sql) {
+  recordSource.setRecordSource(sql);
+  recordSource.refresh();
+  if (recordSource.recordset().recordCount() == 0) {
+    forms::showMessage(u"Sorry，没有该词条！", forms::MessageIcon::information);
+  }
+}
+
+void frmMain::MakeTree(data::DataControl& recordSource, forms::TreeView& tree,
+                       std::int16_t maxRows) try {
+  const std::size_t nodeCount = tree.count();
+  std::optional<forms::TreeView::RepaintHeld> held(tree);
+  data::RecordSet& rows = recordSource.recordset();
+  if (rows.empty()) {
+    for (std::size_t node = 1; node <= nodeCount; ++node) tree.setText(node, {});
+    return;
+  }
+  const std::int16_t width = query::sampleWidth(rows);
+  rows.moveFirst();
+  std::size_t written = 0;
+  for (int i = 1; i <= maxRows && !rows.endOfFile(); ++i) {
+    const std::u16string line = query::resultLine(rows, width);
+    if (written < nodeCount) {
+      tree.setText(written + 1, line);
+    } else {
+      tree.add(line);
+    }
+    rows.moveNext();
+    ++written;
+  }
+  tree.refresh();
+  for (std::size_t surplus = written; surplus < nodeCount; ++surplus) tree.remove(written + 1);
+  // Not while the repaint is held: the control may not know yet how far it scrolls.
+  held.reset();
+  tree.scrollToBeginning();
+} catch (const std::exception&) {
+  // The lines already written stay.
+}
+
+void frmMain::SpcSearch(std::u16string& englishText, std::u16string& chineseText) {
+  runQuery(Adodc1, query::specialSql(curTable, englishText, chineseText));
+  MakeTree(Adodc1, TreeView2, kMaxSpecialRows);
+  txtInput.setText(query::specialInput(englishText, chineseText));
 }

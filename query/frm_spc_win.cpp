@@ -4,7 +4,6 @@
 #include "forms/message_box.h"
 #include "forms/registry.h"
 #include "query/frm_main.h"
-#include "query/input_font.h"
 #include "text/strings.h"
 
 namespace {

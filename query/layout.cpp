@@ -20,8 +20,8 @@ constexpr int kHintHeight = 660;
 }  // namespace
 
 Layout layOut(int width, int height) {
-  const int right = std::max(width, kLeastWidth) - forms::kFrameWidth - kMargin;
-  const int bottom = std::max(height, kLeastHeight) - forms::kFrameHeight - kMargin;
+  const int right = std::max(width, kMinWidth) - forms::kFrameWidth - kMargin;
+  const int bottom = std::max(height, kMinHeight) - forms::kFrameHeight - kMargin;
   const auto button = [&](int fromRight) {
     const int left = right - (fromRight * (kButtonWidth + kMargin)) - kButtonWidth;
     return Box{left, kMargin, kButtonWidth, kRowHeight};
@@ -46,8 +46,8 @@ Layout layOut(int width, int height) {
 }
 
 SettingsLayout layOutSettings(int width, int height) {
-  const int right = std::max(width, kSettingsLeastWidth) - forms::kFrameWidth - kMargin;
-  const int bottom = std::max(height, kSettingsLeastHeight) - forms::kFrameHeight - kMargin;
+  const int right = std::max(width, kSettingsMinWidth) - forms::kFrameWidth - kMargin;
+  const int bottom = std::max(height, kSettingsMinHeight) - forms::kFrameHeight - kMargin;
   const Box hint{kMargin, bottom - kHintHeight, right - kMargin, kHintHeight};
   return {{kMargin, kMargin, hint.width, hint.top - kMargin - kMargin}, hint};
 }

@@ -2,8 +2,8 @@
 
 #include "forms/geometry.h"
 
-/// Where the widgets of the windows that can be resized go. All lengths in twips; W and H are the
-/// window's Width and Height as the forms count them.
+/// Where the widgets of the windows that can be resized go. All lengths in twips of the window's
+/// DPI; widths and heights of windows as the forms count them.
 namespace query {
 
 using Box = forms::WidgetBox;
@@ -13,8 +13,8 @@ inline constexpr int kOpeningWidth = 10500;
 inline constexpr int kOpeningHeight = 7200;
 
 /// The smallest size in which every widget can be used.
-inline constexpr int kLeastWidth = 6600;
-inline constexpr int kLeastHeight = 3600;
+inline constexpr int kMinWidth = 6600;
+inline constexpr int kMinHeight = 3600;
 
 /// Places of its widgets. The input box, the results and the height of both trees follow the
 /// window; below the smallest size nothing shrinks any more.
@@ -33,8 +33,8 @@ Layout layOut(int width, int height);
 /// Sizes of the settings window: it opens with room for all dictionaries.
 inline constexpr int kSettingsWidth = 4620;
 inline constexpr int kSettingsHeight = 7800;
-inline constexpr int kSettingsLeastWidth = 3000;
-inline constexpr int kSettingsLeastHeight = 3000;
+inline constexpr int kSettingsMinWidth = 3000;
+inline constexpr int kSettingsMinHeight = 3000;
 
 /// Places of its widgets: the list, and the hint below it.
 struct SettingsLayout {

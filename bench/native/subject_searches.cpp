@@ -10,7 +10,7 @@
 #include "bench/timings.h"
 #include "data/data_control.h"
 #include "data/database.h"
-#include "query/query_sql.h"
+#include "query/subject_search.h"
 #include "text/query_text.h"
 #include "text/utf.h"
 

@@ -8,7 +8,7 @@
 #include "data/database.h"
 #include "data/error.h"
 #include "data/record_set.h"
-#include "query/query_sql.h"
+#include "query/subject_search.h"
 #include "tests/unit/support/hostile_texts.h"
 #include "tests/unit/support/sample_database.h"
 #include "text/utf.h"

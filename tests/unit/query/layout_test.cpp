@@ -39,7 +39,7 @@ void expectSound(int width, int height) {
 }
 
 TEST(QueryLayout, IsSoundInEverySize) {
-  expectSound(query::kLeastWidth, query::kLeastHeight);
+  expectSound(query::kMinWidth, query::kMinHeight);
   expectSound(query::kOpeningWidth, query::kOpeningHeight);
   expectSound(forms::kMaxSize, forms::kMaxSize);
 }
@@ -62,7 +62,7 @@ TEST(QueryLayout, TheResultsTakeWhatTheWindowGains) {
 }
 
 TEST(QueryLayout, BelowTheSmallestSizeNothingShrinks) {
-  const Layout least = layOut(query::kLeastWidth, query::kLeastHeight);
+  const Layout least = layOut(query::kMinWidth, query::kMinHeight);
   EXPECT_EQ(boxes(layOut(0, 0)), boxes(least));
 }
 
@@ -75,7 +75,7 @@ TEST(QueryLayout, TheSettingsListTakesWhatItsWindowGains) {
   EXPECT_FALSE(overlap(after.dictionaries, after.hint));
   EXPECT_LE(bottomOf(after.hint), 6000 - forms::kFrameHeight);
   EXPECT_EQ(query::layOutSettings(0, 0),
-            query::layOutSettings(query::kSettingsLeastWidth, query::kSettingsLeastHeight));
+            query::layOutSettings(query::kSettingsMinWidth, query::kSettingsMinHeight));
 }
 
 }  // namespace

@@ -1,165 +1,164 @@
+#include "query/subject_search.h"
+
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <ostream>
-#include <string>
-#include <string_view>
-#include <vector>
+#include <stdexcept>
 
-#include "dictionary/database/schema.h"
-#include "query/query_sql.h"
-#include "tests/unit/support/random_text.h"
+#include "query/catalogue.h"
 #include "tests/unit/support/sample_database.h"
-#include "text/like.h"
-#include "text/order.h"
-#include "text/query_text.h"
-#include "text/utf.h"
 
 namespace {
 
-/// One line of a result: what is searched, and its other side.
-struct Line {
-  std::u16string word;
-  std::u16string meaning;
+using query::makeQuerySql;
 
-  bool operator==(const Line&) const = default;
-};
-
-void PrintTo(const Line& line, std::ostream* out) {
-  *out << text::toUtf8(line.word) << " = " << text::toUtf8(line.meaning);
+std::u16string sqlFor(std::u16string text, std::u16string_view mode) {
+  return makeQuerySql(text, mode, u"T").sql;
 }
 
-constexpr std::u16string_view kEnglish = u"aAbBcz '-(5é";
-constexpr std::u16string_view kChinese = u"心性病热做(A1 、";
+TEST(QuerySql, EasySearchesForTheBeginning) {
+  EXPECT_EQ(sqlFor(u"heart", query::kEasy),
+            u"select top 100 word,meaning from T where word like 'heart%' order by word");
+}
 
-/// A subject dictionary of made-up rows, few texts of which differ much, and searches in it by
-/// the windows' SQL texts and by trying every row.
-class SubjectSearch : public testing::Test {
+TEST(QuerySql, ComplexSearchesForAPart) {
+  EXPECT_EQ(sqlFor(u"heart", query::kComplex),
+            u"select top 200 word,meaning from T where word like '%heart%' order by word");
+}
+
+TEST(QuerySql, ChineseTextIsSoughtAmongTheMeanings) {
+  EXPECT_EQ(sqlFor(u"心", query::kEasy),
+            u"select top 100 word as meaning,meaning as word from T where meaning like '心%'"
+            u" order by meaning");
+  EXPECT_EQ(sqlFor(u"心", query::kComplex),
+            u"select top 200 word as meaning,meaning as word from T where meaning like '%心%'"
+            u" order by meaning");
+}
+
+TEST(QuerySql, OneChineseCharacterIsEnough) {
+  std::u16string text = u"ab中";
+  EXPECT_EQ(makeQuerySql(text, query::kEasy, u"T").column, u"meaning");
+  text = u"café";
+  EXPECT_EQ(makeQuerySql(text, query::kEasy, u"T").column, u"word");
+}
+
+TEST(QuerySql, TheUsersWildcardsBecomeThoseOfLike) {
+  EXPECT_EQ(sqlFor(u"a*b?", query::kEasy),
+            u"select top 100 word,meaning from T where word like 'a%b_%' order by word");
+}
+
+TEST(QuerySql, QuotesAreDoubled) {
+  EXPECT_EQ(sqlFor(u"it's", query::kEasy),
+            u"select top 100 word,meaning from T where word like 'it''s%' order by word");
+}
+
+TEST(QuerySql, TheCallersTextIsRewritten) {
+  std::u16string text = u"a*b?'";
+  static_cast<void>(makeQuerySql(text, query::kEasy, u"T"));
+  EXPECT_EQ(text, u"a%b_''");
+}
+
+TEST(QuerySql, BlanksAreSearchedAsTyped) {
+  EXPECT_EQ(sqlFor(u"  ", query::kEasy),
+            u"select top 100 word,meaning from T where word like '  %' order by word");
+}
+
+TEST(QuerySql, AnotherModeHasNoText) {
+  std::u16string text = u"心?";
+  const query::Search search = makeQuerySql(text, u"easy", u"T");
+  EXPECT_EQ(search.sql, u"");
+  EXPECT_EQ(search.column, u"meaning");
+  EXPECT_EQ(text, u"心_");
+}
+
+TEST(QuerySql, SpecialTakesBothTextsAsTheyAre) {
+  EXPECT_EQ(query::specialSql(u"T", u"heat", u"热"),
+            u"select top 200 word,meaning from T where  word like '%heat%' and meaning like"
+            u" '%热%'");
+  EXPECT_EQ(query::specialSql(u"T", u"it's*", u"?"),
+            u"select top 200 word,meaning from T where  word like '%it's*%' and meaning like"
+            u" '%?%'");
+}
+
+TEST(QuerySql, SpecialWithoutADictionaryNamesNoTable) {
+  EXPECT_EQ(query::specialSql(u"", u"a", u"的"),
+            u"select top 200 word,meaning from  where  word like '%a%' and meaning like '%的%'");
+}
+
+TEST(QuerySql, SpecialIsRecordedInTheInputBox) {
+  EXPECT_EQ(query::specialInput(u"heat", u"热"), u"特殊查询 heat\uFF1A热");
+}
+
+TEST(QuerySql, TheCatalogueQueriesKeepTheirBlanks) {
+  EXPECT_EQ(query::kShownDictionaries, u"select * from  [Index]  where Isshow = 1 order by Cname");
+  EXPECT_EQ(query::kAllDictionaries, u"select * from [index] order by Cname");
+}
+
+using query::lineWidth;
+
+/// The rows of a dictionary with these words; the meaning of each is "m".
+class ResultLines : public testing::Test {
  protected:
-  static constexpr std::size_t kRows = 3000;
-
-  SubjectSearch() {
-    makeRows();
-    support::makeDatabase(file_, "create table med" + std::string(dictionary::kSubjectColumns));
-    support::Writer writer(file_);
-    writer.run("begin");
-    for (const Line& row : rows_) {
-      writer.run("insert into med values ('" + quoted(row.word) + "','" + quoted(row.meaning) +
-                 "')");
-    }
-    writer.run("commit");
-    control_.setConnectionString(support::connectionStringFor(file_));
+  data::DataControl with(const std::vector<std::string>& words) {
+    std::string sql = "create table t (word text collate lexilo, meaning text collate lexilo)";
+    for (const std::string& word : words) sql += ";insert into t values ('" + word + "','m')";
+    std::filesystem::remove(file_);
+    support::makeDatabase(file_, sql);
+    return support::opened(file_, u"select word,meaning from t");
+  }
+  std::int16_t widthOf(const std::vector<std::string>& words) {
+    data::DataControl control = with(words);
+    return query::sampleWidth(control.recordset());
   }
 
-  /// Rows in the order of their words, which all differ; their meanings repeat.
-  void makeRows() {
-    while (rows_.size() < kRows) {
-      const std::size_t wanted = rows_.size() + kRows / 4;
-      while (rows_.size() < wanted) {
-        rows_.push_back({random_.from(kEnglish, 9), random_.from(kChinese, 5)});
-      }
-      const auto compare = [](const Line& a, const Line& b) {
-        return text::compare(a.word, b.word) < 0;
-      };
-      const auto same = [](const Line& a, const Line& b) { return text::equal(a.word, b.word); };
-      std::ranges::stable_sort(rows_, compare);
-      rows_.erase(std::unique(rows_.begin(), rows_.end(), same), rows_.end());
-    }
-  }
-
-  static std::string quoted(std::u16string text) { return text::toUtf8(user::escapeQuote(text)); }
-
-  /// A pattern that a search takes for English or for Chinese.
-  std::u16string typed(bool english) {
-    while (true) {
-      std::u16string text = pattern(english);
-      if ((user::getEorC(text) == user::kEnglish) == english) return text;
-    }
-  }
-
-  /// A pattern, typed or copied from a row, perhaps with wildcards and capitals of its own.
-  std::u16string pattern(bool english) {
-    const Line& row = rows_[random_.below(rows_.size())];
-    std::u16string text = english ? row.word : row.meaning;
-    if (random_.below(4) == 0) text = random_.from(english ? kEnglish : kChinese, 4);
-    text = text.substr(random_.below(text.size() + 1), random_.below(8));
-    for (char16_t& unit : text) {
-      if (random_.below(6) == 0) unit = u"%_Zb"[random_.below(4)];
-    }
-    return text;
-  }
-
-  /// The rows whose searched side is like `pattern`, in the order of that side; of those that are
-  /// alike there, in the order of their words.
-  [[nodiscard]] std::vector<Line> tried(bool english, const std::u16string& pattern,
-                                        std::size_t limit) const {
-    std::vector<Line> lines;
-    for (const Line& row : rows_) {
-      const Line line = english ? row : Line{row.meaning, row.word};
-      if (text::like(pattern, line.word)) lines.push_back(line);
-    }
-    std::ranges::stable_sort(
-        lines, [](const Line& a, const Line& b) { return text::compare(a.word, b.word) < 0; });
-    lines.resize(std::min(lines.size(), limit));
-    return lines;
-  }
-
-  std::vector<Line> searched(const std::u16string& sql) {
-    control_.setRecordSource(sql);
-    control_.refresh();
-    data::RecordSet& found = control_.recordset();
-    std::vector<Line> lines;
-    for (found.moveFirst(); !found.endOfFile(); found.moveNext()) {
-      lines.push_back({found.field(u"word").text, found.field(u"Meaning").text});
-    }
-    return lines;
-  }
-
-  void expectSameLines(bool english, std::u16string_view mode, std::size_t limit) {
-    std::size_t lines = 0;
-    for (int round = 0; round < 400; ++round) {
-      std::u16string text = typed(english);
-      const std::u16string like = (mode == query::kComplex ? u"%" : u"") + text + u"%";
-      const std::vector<Line> found = searched(query::makeQuerySql(text, mode, u"med").sql);
-      ASSERT_EQ(found, tried(english, like, limit)) << text::toUtf8(like);
-      lines += found.size();
-    }
-    EXPECT_GT(lines, 5000U);  // most patterns are found
-  }
-
-  RandomText random_{77};
-  std::vector<Line> rows_;
   support::TempFolder folder_;
   std::filesystem::path file_ = folder_.file(u"kk.dat");
-  data::DataControl control_;
 };
 
-TEST_F(SubjectSearch, FindsEnglishByBeginning) { expectSameLines(true, query::kEasy, 100); }
+TEST(LineWidth, IsTheMeanAndTen) { EXPECT_EQ(lineWidth(12, 3), 14); }
 
-TEST_F(SubjectSearch, FindsEnglishByPart) { expectSameLines(true, query::kComplex, 200); }
+TEST(LineWidth, RoundsToTheNearest) {
+  EXPECT_EQ(lineWidth(13, 3), 14);
+  EXPECT_EQ(lineWidth(14, 3), 15);
+  EXPECT_EQ(lineWidth(0, 5), 10);
+}
 
-TEST_F(SubjectSearch, FindsChineseByBeginning) { expectSameLines(false, query::kEasy, 100); }
+TEST(LineWidth, RoundsHalvesToEven) {
+  EXPECT_EQ(lineWidth(5, 2), 12);
+  EXPECT_EQ(lineWidth(7, 2), 14);
+  EXPECT_EQ(lineWidth(45, 10), 14);
+  EXPECT_EQ(lineWidth(55, 10), 16);
+}
 
-TEST_F(SubjectSearch, FindsChineseByPart) { expectSameLines(false, query::kComplex, 200); }
+TEST(LineWidth, HasSixteenBits) {
+  EXPECT_EQ(lineWidth(32757, 1), 32767);
+  EXPECT_THROW(static_cast<void>(lineWidth(32758, 1)), std::overflow_error);
+}
 
-TEST_F(SubjectSearch, FindsTwoFragmentsInTheOrderOfTheWords) {
-  std::size_t lines = 0;
-  for (int round = 0; round < 400; ++round) {
-    std::u16string english = pattern(true);
-    std::u16string chinese = pattern(false);
-    std::erase(english, u'\'');
-    const std::vector<Line> found = searched(query::specialSql(u"med", english, chinese));
-    std::vector<Line> expected;
-    for (const Line& row : rows_) {
-      if (text::like(u"%" + english + u"%", row.word) &&
-          text::like(u"%" + chinese + u"%", row.meaning) && expected.size() < 200) {
-        expected.push_back(row);
-      }
-    }
-    ASSERT_EQ(found, expected) << text::toUtf8(english) << " / " << text::toUtf8(chinese);
-    lines += found.size();
-  }
-  EXPECT_GT(lines, 5000U);
+TEST_F(ResultLines, FewerThanTenRowsAreAllSampled) {
+  EXPECT_EQ(widthOf({"abcd", "ab"}), 13);
+  EXPECT_EQ(widthOf({"abc"}), 13);
+}
+
+TEST_F(ResultLines, TheEleventhRowDoesNotCount) {
+  std::vector<std::string> words(10, "ab");
+  words.emplace_back("a very long word that would move the mean");
+  EXPECT_EQ(widthOf(words), 12);
+  words.insert(words.begin() + 9, words.back());
+  words.erase(words.begin());
+  EXPECT_GT(widthOf(words), 12);
+}
+
+TEST_F(ResultLines, ChineseWordsCountTwoForEveryUnit) {
+  EXPECT_EQ(widthOf({"中文"}), 14);
+  EXPECT_EQ(widthOf({"中a"}), 14);
+}
+
+TEST_F(ResultLines, ALineIsThePaddedWordAndTheMeaning) {
+  data::DataControl control = with({"cat", "a word longer than the column"});
+  data::RecordSet& rows = control.recordset();
+  EXPECT_EQ(query::resultLine(rows, 6), u"cat   m");
+  rows.moveNext();
+  EXPECT_EQ(query::resultLine(rows, 6), u"a word longer than the column  m");
 }
 
 }  // namespace

@@ -7,8 +7,8 @@
 #include "data/error.h"
 #include "data/index_words.h"
 #include "data/lookup_sql.h"
-#include "query/default_flag.h"
-#include "query/query_sql.h"
+#include "query/catalogue.h"
+#include "query/subject_search.h"
 #include "tests/unit/support/sample_database.h"
 #include "text/utf.h"
 

@@ -75,8 +75,8 @@ TEST_F(FrmMainLayout, TheUserCannotMakeItUselesslySmall) {
   open();
   MINMAXINFO limits{};
   SendMessageW(form().handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
-  EXPECT_GE(limits.ptMinTrackSize.x, forms::toPixels(query::kLeastWidth, 96) - 10);
-  EXPECT_GE(limits.ptMinTrackSize.y, forms::toPixels(query::kLeastHeight, 96) - 10);
+  EXPECT_GE(limits.ptMinTrackSize.x, forms::toPixels(query::kMinWidth, 96) - 10);
+  EXPECT_GE(limits.ptMinTrackSize.y, forms::toPixels(query::kMinHeight, 96) - 10);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "query/default_flag.h"
+#include "query/catalogue.h"
 
 #include <gtest/gtest.h>
 

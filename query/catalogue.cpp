@@ -1,4 +1,4 @@
-#include "query/default_flag.h"
+#include "query/catalogue.h"
 
 #include "data/record_set.h"
 
