@@ -1,6 +1,6 @@
 #pragma once
 
-#include "capture/probe_rules.h"
+#include "capture/probe.h"
 #include "forms/form.h"
 
 /// The probe strip: a band of pure blue that covers a few rows of a window for a moment, so that

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "capture/popup_rules.h"
+#include "capture/popup.h"
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
 #include "forms/form.h"

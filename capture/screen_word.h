@@ -6,7 +6,8 @@
 #include "win32/win32.h"
 
 /// Screen word capture: what drives the screen-text service, and the switches that every other
-/// window of the program calls.
+/// window of the program calls. Everything here is to be called on the user-interface thread. The
+/// functions are beside the form that they drive, in frm_screen_word_win.cpp.
 namespace ScreenWord {
 
 /// The last word that the service reported, trimmed; "" when none is pending.

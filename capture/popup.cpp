@@ -1,4 +1,4 @@
-#include "capture/popup_rules.h"
+#include "capture/popup.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "capture/probe_rules.h"
+#include "capture/probe.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "capture/probe_rules.h"
+#include "capture/probe.h"
 
 #include <algorithm>
 #include <array>
@@ -10,7 +10,7 @@
 namespace capture {
 namespace {
 
-/// Longer names that contain a shorter one stand here for the windows that they are meant for.
+/// Deliberate: some names contain a shorter one of the list; each names the windows that it is for.
 constexpr std::array<std::string_view, 17> kTextWindows = {
     "ttyGrab",
     "AVL_AVView",
