@@ -17,7 +17,8 @@ std::u16string browserPath(const std::u16string& systemDirectory);
 /// started.
 void openInBrowser(std::u16string_view page);
 
-/// Opens the help page; a message where the browser cannot be started.
+/// Opens the help page, or shows a message where the browser cannot be started. Throws nothing but
+/// std::bad_alloc.
 void showHelp();
 
 }  // namespace app

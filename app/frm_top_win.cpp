@@ -77,6 +77,7 @@ void frmTop::start() {
   setSize(width(), TopHeight);
   setForeColor(RGB(0, 0, 255));
   Get_Windows_Rect();
+  // Deliberate: the size once more.
   setSize(width(), TopHeight);
   user::ConnectionString = data::connectionString(win32::applicationFolder() + u"\\kk.dat");
   Adodc1.setConnectionString(user::ConnectionString);
@@ -86,6 +87,7 @@ void frmTop::start() {
   cmdMouse.setPicture(cmdMouseYes.picture());
   cmdMouse.setToolTip(u"允许鼠标取词");
   auto& host = forms::single<frmScreenWord>();
+  // Deliberate: shown twice, before and after its timers start.
   host.show();
   ScreenWord::StartCapture();
   host.show();
@@ -109,6 +111,7 @@ void frmTop::Form_LostFocus() {
   ScreenWord::StartCapture();
 }
 
+// Deliberate: cmdMain opens the quick lookup window frmSub, and cmdSub opens frmMain.
 void frmTop::cmdMain_Click() { forms::single<frmSub>().show(); }
 
 void frmTop::cmdSub_Click() { forms::single<frmMain>().show(); }
@@ -150,6 +153,8 @@ void frmTop::Image1_MouseMove() {
 
 void frmTop::Image1_MouseDown() {
   Timer1.setEnabled(true);
+  // Deliberate: only the timer arms a drag, after the first press. The first drag starts with no
+  // offset, so that the toolbar jumps to the pointer.
   if (IsDragArmed) {
     DragOffsetX = forms::subtract(CursorPos.x, WindowRect.left);
     DragOffsetY = forms::subtract(CursorPos.y, WindowRect.top);

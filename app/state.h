@@ -4,7 +4,8 @@
 
 #include "data/index_words.h"
 
-/// What all windows share. Set at start-up; everything runs on the user-interface thread.
+/// What all windows share. Set at start-up; to be used on the user-interface thread only. Includes
+/// nothing but the types that it holds, since every window includes it.
 namespace user {
 
 /// Names kk.dat for every data control.

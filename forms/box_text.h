@@ -7,7 +7,7 @@
 namespace forms {
 
 /// Longest text of a message box, in UTF-16 code units. The longest description of a database error
-/// (data/error_text.h: a path of 260 units, 160 units of the engine's words, and some 100 of its
+/// (data/error.h: a path of 260 units, 160 units of the engine's words, and some 100 of its
 /// own) is whole, and even 600 Han characters are 30 lines where a box is as narrow as 20 of them.
 inline constexpr std::size_t kLongestBoxText = 600;
 
