@@ -42,7 +42,7 @@ class ServiceHost {
  private:
   const UINT report_ = RegisterWindowMessageA(nhw32::kMessageName);
   HWND window_;
-  nhw32::Service service_{nhw32::makeRouter};
+  nhw32::Service service_{nhw32::makeWindowReader, report_};
 };
 
 }  // namespace bench

@@ -4,21 +4,22 @@
 
 #include <cstdint>
 
-/// The screen-text service: tells which word lies under a point of the screen, in whatever program.
-/// Only the thread that owns the host window calls it, and no call waits for another program.
+/// The screen-text service: finds the word under a point of the screen, in any program. To be
+/// called by the thread that owns the host window only; no function throws or waits for another
+/// process.
 namespace nhw32 {
 
 /// Values of BL_SetFlag32's flag.
 inline constexpr std::uint32_t kArm = 1000;
 inline constexpr std::uint32_t kDisarm = 1002;
 
-/// Name under which RegisterWindowMessage gives the number of the message that announces a word.
+/// RegisterWindowMessage name of the message that announces a word.
 inline constexpr char kMessageName[] = "BL_HASSTRING";
 
-/// Puts the service into its capturing state; does nothing where it is in it already.
+/// Starts the service; does nothing if it is started.
 void SetNHW32();
 
-/// Takes it out of that state; what was armed is forgotten.
+/// Stops the service and cancels the question that is armed.
 void ResetNHW32();
 
 /// kArm: has the word at the point (x, y) looked for, in pixels of the screen as a program that is
@@ -33,5 +34,10 @@ void BL_SetFlag32(std::uint32_t flag, HWND window, std::int16_t x, std::int16_t 
 /// the screen into `word` (may be null). The buffer holds `size` bytes and one more for the NUL;
 /// the text is in the ANSI code page and cut to fit at a whole character.
 void BL_GetText32(char* buffer, std::int32_t size, RECT* word);
+
+class Service;
+
+/// Returns the service that these functions use; for tests.
+Service& service();
 
 }  // namespace nhw32

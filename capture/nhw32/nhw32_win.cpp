@@ -2,24 +2,25 @@
 
 #include <algorithm>
 
-#include "capture/nhw32/ansi_word.h"
 #include "capture/nhw32/router.h"
 #include "capture/nhw32/service.h"
+#include "capture/nhw32/word_text.h"
 
 namespace nhw32 {
 namespace {
 
-/// Of one character; accented letters that the code page lacks become the nearest it has.
+/// Converts one character. Best fit: an accented letter that is missing from the code page becomes
+/// the plain one.
 std::optional<std::string> toAnsi(std::u16string_view character) {
   std::string bytes(8, '\0');
-  // UTF-8, which has them all, takes no such question.
-  BOOL lacking = FALSE;
-  BOOL* const asked = GetACP() == CP_UTF8 ? nullptr : &lacking;
+  // The parameter must be null for UTF-8, which has every character.
+  BOOL missing = FALSE;
+  BOOL* const usedDefault = GetACP() == CP_UTF8 ? nullptr : &missing;
   const int length =
       WideCharToMultiByte(CP_ACP, 0, reinterpret_cast<const wchar_t*>(character.data()),
                           static_cast<int>(character.size()), bytes.data(),
-                          static_cast<int>(bytes.size()), nullptr, asked);
-  if (length == 0 || lacking != FALSE) return std::nullopt;
+                          static_cast<int>(bytes.size()), nullptr, usedDefault);
+  if (length == 0 || missing != FALSE) return std::nullopt;
   bytes.resize(static_cast<std::size_t>(length));
   return bytes;
 }
@@ -27,7 +28,7 @@ std::optional<std::string> toAnsi(std::u16string_view character) {
 }  // namespace
 
 Service& service() {
-  static Service instance(makeRouter);
+  static Service instance(makeWindowReader, RegisterWindowMessageA(kMessageName));
   return instance;
 }
 

@@ -2,12 +2,13 @@
 
 #include <memory>
 
-#include "capture/nhw32/text_provider.h"
+#include "capture/nhw32/reader.h"
 
 namespace nhw32 {
 
-/// Asks every window in the way that its class is known for, and leaves those alone that keep
-/// running out of time.
-std::unique_ptr<TextProvider> makeRouter();
+/// Returns the reader for all windows: it chooses the kind of reader by the window's class
+/// (readerKindFor) for each question and backs off from windows that keep timing out (Backoff). To
+/// be made, used and destroyed by one thread, which has to be per-monitor DPI aware.
+std::unique_ptr<WordReader> makeWindowReader();
 
 }  // namespace nhw32

@@ -1,41 +1,42 @@
 #include "capture/nhw32/router.h"
 
-#include "capture/nhw32/choose_way.h"
-#include "capture/nhw32/controls/control_question.h"
-#include "capture/nhw32/controls/edit_provider.h"
-#include "capture/nhw32/controls/rich_edit_provider.h"
-#include "capture/nhw32/patient_provider.h"
-#include "capture/nhw32/uia/automation_provider.h"
+#include "capture/nhw32/controls/readers.h"
+#include "capture/nhw32/controls/target_window.h"
+#include "capture/nhw32/policy.h"
+#include "capture/nhw32/uia/client.h"
 
 namespace nhw32 {
 namespace {
 
-class Router : public TextProvider {
+/// Chooses the reader by the window's class. A window that has the class name of a text control but
+/// no lines is no text control, and is read by UI Automation.
+class WindowReader : public WordReader {
  public:
   Answer wordAt(const Question& question) override try {
-    return providerFor(question.window).wordAt(question);
-  } catch (const NoAnswer& silence) {
-    return {.outcome = silence.outcome(), .word = {}};
+    auto* const window = reinterpret_cast<HWND>(question.window);
+    switch (readerKindFor(classNameOf(window), realClassOf(window))) {
+      case ReaderKind::edit:
+        if (hasLines(question.window)) return editWordAt(question);
+        break;
+      case ReaderKind::richEdit:
+        if (hasLines(question.window)) return richEditWordAt(question);
+        break;
+      case ReaderKind::uia:
+        break;
+    }
+    return uia_->wordAt(question);
+  } catch (const NoAnswer& failure) {
+    return {.outcome = failure.outcome(), .word = {}};
   }
 
  private:
-  TextProvider& providerFor(WindowId window) {
-    auto* const handle = reinterpret_cast<HWND>(window);
-    const Way way = wayFor(classNameOf(handle), realClassOf(handle));
-    if (way == Way::automation || !hasLines(window)) return *automation_;
-    if (way == Way::richEdit) return richEdit_;
-    return edit_;
-  }
-
-  EditProvider edit_;
-  RichEditProvider richEdit_;
-  std::unique_ptr<TextProvider> automation_ = makeAutomationProvider();
+  std::unique_ptr<WordReader> uia_ = makeUiaReader();
 };
 
 }  // namespace
 
-std::unique_ptr<TextProvider> makeRouter() {
-  return std::make_unique<PatientProvider>(std::make_unique<Router>());
+std::unique_ptr<WordReader> makeWindowReader() {
+  return std::make_unique<BackoffReader>(std::make_unique<WindowReader>());
 }
 
 }  // namespace nhw32

@@ -7,48 +7,57 @@
 #include <functional>
 #include <memory>
 
-#include "capture/nhw32/request_desk.h"
+#include "capture/nhw32/mailbox.h"
 
 namespace nhw32 {
 
-/// Makes the way in which a worker asks; called on the worker's own thread.
-using ProviderFactory = std::function<std::unique_ptr<TextProvider>()>;
+/// Makes the reader of a worker; called on the worker's own thread.
+using ReaderFactory = std::function<std::unique_ptr<WordReader>()>;
 
-/// What stands behind the operations of nhw32.h, with any way to ask.
+/// The service behind the operations of nhw32.h, with any reader. One worker thread reads the
+/// words; the member functions are for the thread that owns the host window, and none of them waits
+/// for the worker or for another process.
 class Service {
  public:
-  explicit Service(ProviderFactory factory);
+  /// `message` is the registered message that is posted to the host when a word was found.
+  Service(ReaderFactory factory, UINT message);
   ~Service() { stop(); }
   Service(const Service&) = delete;
   Service& operator=(const Service&) = delete;
 
+  /// Begins to accept questions. Does nothing if started already.
   void start();
+  /// Cancels everything and lets the worker end as soon as its window has answered.
   void stop();
+  /// Asks for the word at `point` (physical screen pixels). `host` is posted the message once it
+  /// was found. Does nothing if the service is not started.
   void arm(HWND host, POINT point);
+  /// Cancels the question that is armed and removes its message from the host's queue. If the
+  /// message was taken from the queue already, the word stays until the next arm or disarm.
   void disarm();
-  /// Whether a question stands: armed and not disarmed since.
+  /// Returns whether a question was armed and not disarmed since.
   [[nodiscard]] bool armed() const;
-  /// The announced word, if there is one and the user has not turned to another window since it was
-  /// asked for: a slow answer must not turn up over what is read by then.
+  /// Returns the word that was found, or nullopt if there is none or another window has come to the
+  /// foreground since the question was armed: a late word must not appear over that window.
   [[nodiscard]] std::optional<Word> word() const;
 
-  /// Threads at work, those included that were sent away and are still waiting for a window.
+  /// Returns the number of worker threads, including those that are to end but still wait for a
+  /// window.
   [[nodiscard]] int workers() const { return *workers_; }
 
  private:
-  /// Starts the worker with the first question; until then its stack takes no memory. false where
-  /// there is no thread to be had.
+  /// Starts the worker with the first question; until then its stack takes no memory. Returns false
+  /// if no thread can be created.
   bool ensureWorker();
   void startWorker();
 
-  ProviderFactory factory_;
+  ReaderFactory factory_;
+  UINT message_;
   std::shared_ptr<std::atomic<int>> workers_ = std::make_shared<std::atomic<int>>(0);
-  std::shared_ptr<RequestDesk> desk_;  ///< shared with the worker, which may outlive us; or null
-  HWND foreground_ = nullptr;          ///< when the question was armed
+  std::shared_ptr<ProbeMailbox>
+      mailbox_;                ///< shared with the worker, which may outlive us; or null
+  HWND foreground_ = nullptr;  ///< when the question was armed
   bool started_ = false;
 };
-
-/// The one behind the operations of nhw32.h.
-Service& service();
 
 }  // namespace nhw32

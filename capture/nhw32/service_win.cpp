@@ -2,8 +2,7 @@
 
 #include <system_error>
 #include <thread>
-
-#include "capture/nhw32/nhw32.h"
+#include <utility>
 
 namespace nhw32 {
 namespace {
@@ -12,17 +11,17 @@ HWND windowOf(WindowId id) { return reinterpret_cast<HWND>(id); }
 
 WindowId idOf(HWND window) { return reinterpret_cast<WindowId>(window); }
 
-/// Counts a thread for as long as it lives.
-class Counted {
+/// Counts a thread until the end of the scope.
+class ScopedCount {
  public:
-  explicit Counted(std::shared_ptr<std::atomic<int>> count) : count_(std::move(count)) {
+  explicit ScopedCount(std::shared_ptr<std::atomic<int>> count) : count_(std::move(count)) {
     ++*count_;
   }
-  Counted(Counted&&) noexcept = default;
-  Counted& operator=(Counted&&) = delete;
-  Counted(const Counted&) = delete;
-  Counted& operator=(const Counted&) = delete;
-  ~Counted() {
+  ScopedCount(ScopedCount&&) noexcept = default;
+  ScopedCount& operator=(ScopedCount&&) = delete;
+  ScopedCount(const ScopedCount&) = delete;
+  ScopedCount& operator=(const ScopedCount&) = delete;
+  ~ScopedCount() {
     if (count_ != nullptr) --*count_;
   }
 
@@ -30,22 +29,23 @@ class Counted {
   std::shared_ptr<std::atomic<int>> count_;
 };
 
-Answer answerOf(TextProvider& provider, const Question& question) {
+Answer answerOf(WordReader& reader, const Question& question) {
   try {
-    return provider.wordAt(question);
+    return reader.wordAt(question);
   } catch (const std::exception&) {
     return {};
   }
 }
 
-/// The worker's life. It counts pixels as the screen does.
-void work(RequestDesk& desk, const ProviderFactory& factory) {
+/// The worker's thread function. Coordinates are physical pixels.
+void work(ProbeMailbox& mailbox, const ReaderFactory& factory) {
   SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
-  const std::unique_ptr<TextProvider> provider = factory();
-  while (const auto question = desk.take()) desk.deliver(answerOf(*provider, *question));
+  const std::unique_ptr<WordReader> reader = factory();
+  while (const auto question = mailbox.take()) mailbox.deliver(answerOf(*reader, *question));
 }
 
-/// Takes the message out of the host's queue. Messages that other threads send are not let in.
+/// Removes the message from the host's queue; returns whether it was there. Without dispatching
+/// messages that other threads have sent.
 bool takeBack(HWND host, UINT message) {
   MSG taken;
   return PeekMessageW(&taken, host, message, message, PM_REMOVE | PM_NOYIELD | PM_QS_POSTMESSAGE) !=
@@ -54,25 +54,26 @@ bool takeBack(HWND host, UINT message) {
 
 }  // namespace
 
-Service::Service(ProviderFactory factory) : factory_(std::move(factory)) {}
+Service::Service(ReaderFactory factory, UINT message)
+    : factory_(std::move(factory)), message_(message) {}
 
 void Service::start() { started_ = true; }
 
 bool Service::ensureWorker() {
-  if (desk_ == nullptr || !desk_->reopen()) startWorker();
-  return desk_ != nullptr;
+  if (mailbox_ == nullptr || !mailbox_->reopen()) startWorker();
+  return mailbox_ != nullptr;
 }
 
 void Service::startWorker() {
-  const UINT message = RegisterWindowMessageA(kMessageName);
-  desk_ = std::make_shared<RequestDesk>(
-      [message](WindowId host) { return PostMessageW(windowOf(host), message, 0, 0) != FALSE; });
+  mailbox_ = std::make_shared<ProbeMailbox>([message = message_](WindowId host) {
+    return PostMessageW(windowOf(host), message, 0, 0) != FALSE;
+  });
   try {
-    std::thread([desk = desk_, factory = factory_, counted = Counted(workers_)] {
-      work(*desk, factory);
+    std::thread([mailbox = mailbox_, factory = factory_, counted = ScopedCount(workers_)] {
+      work(*mailbox, factory);
     }).detach();
   } catch (const std::system_error&) {
-    desk_.reset();  // no thread to be had now; the next question tries again
+    mailbox_.reset();  // no thread can be created now; the next question tries again
   }
 }
 
@@ -80,7 +81,7 @@ void Service::stop() {
   if (!started_) return;
   disarm();
   started_ = false;
-  if (desk_ != nullptr) desk_->close();
+  if (mailbox_ != nullptr) mailbox_->close();
 }
 
 void Service::arm(HWND host, POINT point) {
@@ -89,21 +90,22 @@ void Service::arm(HWND host, POINT point) {
   foreground_ = GetForegroundWindow();
   const HWND target = WindowFromPoint(point);
   if (target != nullptr) {
-    desk_->arm({idOf(target), {static_cast<int>(point.x), static_cast<int>(point.y)}}, idOf(host));
+    mailbox_->arm({idOf(target), {static_cast<int>(point.x), static_cast<int>(point.y)}},
+                  idOf(host));
   }
 }
 
 void Service::disarm() {
-  if (!started_ || desk_ == nullptr) return;
-  const auto host = desk_->disarm();
-  if (host && takeBack(windowOf(*host), RegisterWindowMessageA(kMessageName))) desk_->withdraw();
+  if (!started_ || mailbox_ == nullptr) return;
+  const auto host = mailbox_->disarm();
+  if (host && takeBack(windowOf(*host), message_)) mailbox_->withdraw();
 }
 
-bool Service::armed() const { return started_ && desk_ != nullptr && desk_->armed(); }
+bool Service::armed() const { return started_ && mailbox_ != nullptr && mailbox_->armed(); }
 
 std::optional<Word> Service::word() const {
-  const bool asked = started_ && desk_ != nullptr && GetForegroundWindow() == foreground_;
-  return asked ? desk_->word() : std::nullopt;
+  const bool asked = started_ && mailbox_ != nullptr && GetForegroundWindow() == foreground_;
+  return asked ? mailbox_->word() : std::nullopt;
 }
 
 }  // namespace nhw32

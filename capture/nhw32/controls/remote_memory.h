@@ -7,8 +7,9 @@
 
 namespace nhw32 {
 
-/// Memory in the program of a window, for messages whose structures a control reads there. Every
-/// operation that fails throws NoAnswer.
+/// Memory allocated in the process of a window, for messages that take the address of a structure.
+/// Freed by the destructor. Every operation that fails throws NoAnswer(refused): the process may be
+/// protected from us or have ended.
 class RemoteMemory {
  public:
   RemoteMemory(HWND window, std::size_t size);
@@ -16,14 +17,14 @@ class RemoteMemory {
   RemoteMemory(const RemoteMemory&) = delete;
   RemoteMemory& operator=(const RemoteMemory&) = delete;
 
-  /// The address of byte `offset` as the other program knows it.
+  /// Returns the address of byte `offset` in the other process.
   [[nodiscard]] std::uint64_t address(std::size_t offset) const;
   [[nodiscard]] bool inProgramOf32Bits() const;
 
   void write(std::size_t offset, const void* from, std::size_t size) const;
   void read(std::size_t offset, void* to, std::size_t size) const;
 
-  /// Leaves the memory to the other program for good: it may still be going to use it.
+  /// Leaves the memory allocated for good, for a control that may still use it.
   void abandon() { address_ = nullptr; }
 
  private:

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <array>
 
-#include "capture/nhw32/silence.h"
+#include "capture/nhw32/policy.h"
 
 namespace nhw32 {
 namespace {
 
-using ClassName = std::array<wchar_t, 257>;  // the system's limit is 256 characters
+using ClassName = std::array<wchar_t, 257>;  // class names have at most 256 characters
 
 ScreenBox outerBoxOf(HWND window) {
   RECT rect{};
@@ -46,7 +46,7 @@ LRESULT TargetWindow::ask(UINT message, WPARAM wParam, LPARAM lParam) const {
   SetLastError(0);
   if (SendMessageTimeoutW(window_, message, wParam, lParam, SMTO_ABORTIFHUNG | SMTO_BLOCK, time,
                           &answer) == 0) {
-    throw NoAnswer(outcomeOfSilence(GetLastError()));
+    throw NoAnswer(outcomeOfSendTimeout(GetLastError()));
   }
   return static_cast<LRESULT>(answer);
 }
@@ -69,7 +69,7 @@ std::u16string realClassOf(HWND window) {
 
 WindowScale scaleOf(HWND window) {
   WindowScale scale{.onScreen = outerBoxOf(window), .forTarget = {}};
-  const TargetAwareness awareness(window);
+  const ScopedTargetAwareness awareness(window);
   scale.forTarget = outerBoxOf(window);
   return scale;
 }
@@ -103,5 +103,41 @@ ScreenBox inClientArea(HWND window, const ScreenBox& box) {
 }
 
 int dpiOf(HWND window) { return static_cast<int>(GetDpiForWindow(window)); }
+
+std::optional<ScreenBox> caretIn(HWND window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  if (GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) == FALSE ||
+      info.hwndCaret != window || info.rcCaret.bottom <= info.rcCaret.top) {
+    return std::nullopt;
+  }
+  return boxOf(info.rcCaret);
+}
+
+bool hasLines(WindowId window) { return TargetWindow(window).ask(EM_GETLINECOUNT) > 0; }
+
+Answer answerOfControl(const Question& question,
+                       const std::function<std::optional<PlacedWord>(
+                           const TargetWindow& target, ScreenPoint clientPoint)>& read) try {
+  const TargetWindow target(question.window);
+  if (!target.visible()) return {};
+  target.refusePasswords();
+  const WindowScale scale = scaleOf(target.handle());
+  const ScopedTargetAwareness awareness(target.handle());
+  const ScreenPoint asked = toTarget(scale, question.point);
+  const ScreenPoint point = toClient(target.handle(), asked);
+  if (!inClientArea(target.handle(), point)) return {};
+  const auto word = read(target, point);
+  // The window may have been closed, moved or resized meanwhile.
+  if (!word || !target.visible() || toClient(target.handle(), asked) != point ||
+      !inClientArea(target.handle(), point)) {
+    return {};
+  }
+  const ScreenBox box = inClientArea(target.handle(), word->box);
+  return {.outcome = Outcome::word,
+          .word = {word->text, toScreen(scale, fromClient(target.handle(), box))}};
+} catch (const NoAnswer& failure) {
+  return {.outcome = failure.outcome(), .word = {}};
+}
 
 }  // namespace nhw32

@@ -3,11 +3,11 @@
 #include <memory>
 
 #include "tests/windows/support/automation_stand_in.h"
+#include "tests/windows/support/uia_stubs.h"
 
 namespace wintest {
 namespace {
 
-using nhw32::TextEnd;
 using nhw32::TextUnit;
 
 SAFEARRAY* arrayOf(const std::vector<double>& numbers) {
@@ -46,12 +46,12 @@ SAFEARRAY* arrayFor(Rectangles kind, std::vector<double> numbers) {
   return nullptr;
 }
 
-class Range : public Counted<nhw32::AutomationTextRange> {
+class Range : public Counted<UiaTextRangeStub> {
  public:
   Range(AutomationStandIn& standIn, std::size_t begin, std::size_t end)
       : Counted(standIn), begin_(begin), end_(end) {}
 
-  HRESULT STDMETHODCALLTYPE Clone(nhw32::AutomationTextRange** copy) override {
+  HRESULT STDMETHODCALLTYPE Clone(nhw32::IUIAutomationTextRange** copy) override {
     return in_.call("Clone", [&] { return makeStandInRange(in_, begin_, end_, copy); });
   }
 
@@ -89,8 +89,8 @@ class Range : public Counted<nhw32::AutomationTextRange> {
     });
   }
 
-  HRESULT STDMETHODCALLTYPE MoveEndpointByUnit(TextEnd end, TextUnit /*unit*/, int count,
-                                               int* moved) override {
+  HRESULT STDMETHODCALLTYPE MoveEndpointByUnit(nhw32::TextPatternRangeEndpoint end,
+                                               TextUnit /*unit*/, int count, int* moved) override {
     return in_.call("MoveEndpointByUnit", [&] {
       *moved = step(at(end), count);
       keepOrder(end);
@@ -98,8 +98,9 @@ class Range : public Counted<nhw32::AutomationTextRange> {
     });
   }
 
-  HRESULT STDMETHODCALLTYPE MoveEndpointByRange(TextEnd end, nhw32::AutomationTextRange* other,
-                                                TextEnd otherEnd) override {
+  HRESULT STDMETHODCALLTYPE MoveEndpointByRange(nhw32::TextPatternRangeEndpoint end,
+                                                nhw32::IUIAutomationTextRange* other,
+                                                nhw32::TextPatternRangeEndpoint otherEnd) override {
     return in_.call("MoveEndpointByRange", [&] {
       at(end) = dynamic_cast<Range&>(*other).at(otherEnd);
       keepOrder(end);
@@ -110,10 +111,12 @@ class Range : public Counted<nhw32::AutomationTextRange> {
  private:
   [[nodiscard]] const std::u16string& text() const { return in_.plan.text; }
 
-  std::size_t& at(TextEnd end) { return end == TextEnd::start ? begin_ : end_; }
+  std::size_t& at(nhw32::TextPatternRangeEndpoint end) {
+    return end == nhw32::TextPatternRangeEndpoint_Start ? begin_ : end_;
+  }
 
-  void keepOrder(TextEnd moved) {
-    if (begin_ > end_) (moved == TextEnd::start ? end_ : begin_) = at(moved);
+  void keepOrder(nhw32::TextPatternRangeEndpoint moved) {
+    if (begin_ > end_) (moved == nhw32::TextPatternRangeEndpoint_Start ? end_ : begin_) = at(moved);
   }
 
   /// Whether a unit of the text begins at `index`.
@@ -155,7 +158,7 @@ class Range : public Counted<nhw32::AutomationTextRange> {
 }  // namespace
 
 HRESULT makeStandInRange(AutomationStandIn& standIn, std::size_t begin, std::size_t end,
-                         nhw32::AutomationTextRange** range) {
+                         nhw32::IUIAutomationTextRange** range) {
   *range = std::make_unique<Range>(standIn, begin, end).release();
   return S_OK;
 }

@@ -4,15 +4,17 @@
 #include <memory>
 #include <stdexcept>
 
+#include "tests/windows/support/uia_stubs.h"
+
 namespace wintest {
 namespace {
 
-class Pattern : public Counted<nhw32::AutomationTextPattern> {
+class FakePattern : public Counted<UiaTextPatternStub> {
  public:
   using Counted::Counted;
 
   HRESULT STDMETHODCALLTYPE RangeFromPoint(POINT point,
-                                           nhw32::AutomationTextRange** range) override {
+                                           nhw32::IUIAutomationTextRange** range) override {
     return in_.call("RangeFromPoint", [&] {
       const std::size_t index = grid::nearest(in_.plan.text, point);
       return makeStandInRange(in_, index, index, range);
@@ -20,22 +22,22 @@ class Pattern : public Counted<nhw32::AutomationTextPattern> {
   }
 };
 
-class Element : public Counted<nhw32::AutomationElement> {
+class FakeElement : public Counted<UiaElementStub> {
  public:
-  Element(AutomationStandIn& standIn, std::size_t index) : Counted(standIn), index_(index) {}
+  FakeElement(AutomationStandIn& standIn, std::size_t index) : Counted(standIn), index_(index) {}
 
   [[nodiscard]] std::size_t index() const { return index_; }
 
   HRESULT STDMETHODCALLTYPE GetCurrentPropertyValue(int property, VARIANT* value) override {
     return in_.call("GetCurrentPropertyValue", [&] {
       const ElementPlan& plan = in_.plan.elements.at(index_);
-      if (property == nhw32::kPasswordProperty) {
+      if (property == UIA_IsPasswordPropertyId) {
         value->vt = plan.passwordType;
         value->boolVal = plan.password ? VARIANT_TRUE : VARIANT_FALSE;
-      } else if (property == nhw32::kProcessIdProperty) {
+      } else if (property == UIA_ProcessIdPropertyId) {
         value->vt = VT_I4;
         value->lVal = static_cast<LONG>(plan.process);
-      } else if (property == nhw32::kNativeWindowHandleProperty) {
+      } else if (property == UIA_NativeWindowHandlePropertyId) {
         value->vt = VT_I4;
         value->lVal = static_cast<LONG>(reinterpret_cast<LONG_PTR>(plan.window));
       } else {
@@ -47,11 +49,11 @@ class Element : public Counted<nhw32::AutomationElement> {
 
   HRESULT STDMETHODCALLTYPE GetCurrentPatternAs(int pattern, REFIID iid, void** result) override {
     return in_.call("GetCurrentPatternAs", [&] {
-      if (pattern != nhw32::kTextPattern || !IsEqualIID(iid, nhw32::kAutomationTextPatternId)) {
+      if (pattern != UIA_TextPatternId || !IsEqualIID(iid, nhw32::IID_IUIAutomationTextPattern)) {
         return E_INVALIDARG;
       }
       *result =
-          in_.plan.elements.at(index_).text ? std::make_unique<Pattern>(in_).release() : nullptr;
+          in_.plan.elements.at(index_).text ? std::make_unique<FakePattern>(in_).release() : nullptr;
       return S_OK;
     });
   }
@@ -61,40 +63,37 @@ class Element : public Counted<nhw32::AutomationElement> {
 };
 
 HRESULT giveElement(AutomationStandIn& standIn, std::size_t index,
-                    nhw32::AutomationElement** element) {
+                    nhw32::IUIAutomationElement** element) {
   *element = index < standIn.plan.elements.size()
-                 ? std::make_unique<Element>(standIn, index).release()
+                 ? std::make_unique<FakeElement>(standIn, index).release()
                  : nullptr;
   return S_OK;
 }
 
-class Walker : public Counted<nhw32::AutomationTreeWalker> {
+class FakeWalker : public Counted<UiaTreeWalkerStub> {
  public:
   using Counted::Counted;
 
-  HRESULT STDMETHODCALLTYPE GetParentElement(nhw32::AutomationElement* element,
-                                             nhw32::AutomationElement** parent) override {
+  HRESULT STDMETHODCALLTYPE GetParentElement(nhw32::IUIAutomationElement* element,
+                                             nhw32::IUIAutomationElement** parent) override {
     return in_.call("GetParentElement", [&] {
-      return giveElement(in_, dynamic_cast<Element&>(*element).index() + 1, parent);
+      return giveElement(in_, dynamic_cast<FakeElement&>(*element).index() + 1, parent);
     });
   }
 };
 
-class Client : public Counted<nhw32::AutomationClient2> {
+class FakeClient : public Counted<UiaClientStub> {
  public:
   using Counted::Counted;
 
-  HRESULT STDMETHODCALLTYPE ElementFromHandle(HWND /*window*/,
-                                              nhw32::AutomationElement** /*element*/) override {
-    return E_NOTIMPL;
-  }
   HRESULT STDMETHODCALLTYPE ElementFromPoint(POINT /*point*/,
-                                             nhw32::AutomationElement** element) override {
+                                             nhw32::IUIAutomationElement** element) override {
     return in_.call("ElementFromPoint", [&] { return giveElement(in_, 0, element); });
   }
-  HRESULT STDMETHODCALLTYPE get_ControlViewWalker(nhw32::AutomationTreeWalker** walker) override {
+  HRESULT STDMETHODCALLTYPE
+  get_ControlViewWalker(nhw32::IUIAutomationTreeWalker** walker) override {
     return in_.call("get_ControlViewWalker", [&] {
-      *walker = std::make_unique<Walker>(in_).release();
+      *walker = std::make_unique<FakeWalker>(in_).release();
       return S_OK;
     });
   }
@@ -123,8 +122,8 @@ HRESULT AutomationStandIn::fail() const {
   return plan.trouble->result;
 }
 
-HRESULT makeStandIn(AutomationStandIn& standIn, nhw32::AutomationClient2** client) {
-  *client = std::make_unique<Client>(standIn).release();
+HRESULT makeStandIn(AutomationStandIn& standIn, nhw32::IUIAutomation2** client) {
+  *client = std::make_unique<FakeClient>(standIn).release();
   return S_OK;
 }
 

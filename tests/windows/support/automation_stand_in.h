@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "capture/nhw32/text_provider.h"
-#include "capture/nhw32/uia/automation_interfaces.h"
+#include "capture/nhw32/reader.h"
+#include "capture/nhw32/uia/uia_interfaces.h"
 
 /// A program that UI Automation tells of, made up: a column of elements, one of which may hold a
 /// text, and the objects through which it is asked.
@@ -84,11 +84,11 @@ struct AutomationStandIn {
 };
 
 /// A client of it, with one reference.
-HRESULT makeStandIn(AutomationStandIn& standIn, nhw32::AutomationClient2** client);
+HRESULT makeStandIn(AutomationStandIn& standIn, nhw32::IUIAutomation2** client);
 
 /// A range of its text.
 HRESULT makeStandInRange(AutomationStandIn& standIn, std::size_t begin, std::size_t end,
-                         nhw32::AutomationTextRange** range);
+                         nhw32::IUIAutomationTextRange** range);
 
 /// Counts references for an object of the stand-in.
 template <class Interface>

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "capture/nhw32/uia/automation_provider.h"
+#include "capture/nhw32/uia/client.h"
 #include "tests/windows/support/automation_stand_in.h"
 
 namespace wintest {
@@ -31,7 +31,7 @@ class AutomationTest : public ::testing::Test {
   void SetUp() override { ASSERT_NE(window_.get(), nullptr); }
 
   void TearDown() override {
-    provider_.reset();
+    reader_.reset();
     EXPECT_EQ(standIn_.log.live, 0) << "references that were never given back";
   }
 
@@ -42,7 +42,7 @@ class AutomationTest : public ::testing::Test {
   }
 
   nhw32::Answer ask(nhw32::ScreenPoint point) {
-    return provider_->wordAt({reinterpret_cast<nhw32::WindowId>(window_.get()), point});
+    return reader_->wordAt({reinterpret_cast<nhw32::WindowId>(window_.get()), point});
   }
 
   nhw32::Outcome outcome(nhw32::ScreenPoint point) { return ask(point).outcome; }
@@ -61,14 +61,14 @@ class AutomationTest : public ::testing::Test {
   }
 
   /// The system of the stand-in.
-  nhw32::AutomationSystem system() {
-    return {[this](nhw32::AutomationClient2** client) { return makeStandIn(standIn_, client); },
+  nhw32::UiaSystem system() {
+    return {[this](nhw32::IUIAutomation2** client) { return makeStandIn(standIn_, client); },
             [this] { return standIn_.log.now; }};
   }
 
   TestWindow window_ = makeWindow();
   AutomationStandIn standIn_;
-  std::unique_ptr<nhw32::TextProvider> provider_ = nhw32::makeAutomationProvider(system());
+  std::unique_ptr<nhw32::WordReader> reader_ = nhw32::makeUiaReader(system());
 };
 
 }  // namespace wintest

@@ -82,8 +82,8 @@ std::optional<RECT> characterCell(HWND control, std::size_t position) {
 nhw32::Answer answerTo(const nhw32::Question& question) {
   nhw32::Answer answer;
   for (int tries = 0; tries < 20; ++tries) {
-    // A new one, whose patience is not at its end.
-    answer = nhw32::makeRouter()->wordAt(question);
+    // A new one, which backs off from no window yet.
+    answer = nhw32::makeWindowReader()->wordAt(question);
     if (answer.outcome != nhw32::Outcome::outOfTime) break;
   }
   return answer;

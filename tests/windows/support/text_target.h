@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "capture/nhw32/text_provider.h"
+#include "capture/nhw32/reader.h"
 #include "tests/program/harness/threaded_window.h"
 
 namespace wintest {

@@ -8,7 +8,7 @@
 #include <chrono>
 
 #include "capture/nhw32/nhw32.h"
-#include "capture/nhw32/patience.h"
+#include "capture/nhw32/policy.h"
 #include "capture/nhw32/router.h"
 #include "capture/nhw32/service.h"
 #include "tests/program/harness/find.h"
@@ -81,7 +81,7 @@ class Nhw32Hanging : public ::testing::Test {
 TEST_F(Nhw32Hanging, AQuestionEndsInTimeAndTheWindowIsLeftAloneForAWhile) {
   for (const wchar_t* className : {L"EDIT", L"RichEdit20W"}) {
     Hanging target(className);
-    const auto router = nhw32::makeRouter();
+    const auto router = nhw32::makeWindowReader();
     ASSERT_EQ(answerTo(target.question()).word.text, u"stubborn");
     target.hang(true);
     for (int i = 0; i < 3; ++i) {
@@ -105,7 +105,8 @@ TEST_F(Nhw32Hanging, AControlThatTakesItsTimeMayStillUseTheMemoryItWasGiven) {
                    message == EM_GETRECT ? ES_AUTOHSCROLL : ES_MULTILINE | ES_AUTOVSCROLL);
     for (int round = 0; round < 3; ++round) {
       target.hang(true);
-      EXPECT_EQ(nhw32::makeRouter()->wordAt(target.question()).outcome, nhw32::Outcome::outOfTime);
+      EXPECT_EQ(nhw32::makeWindowReader()->wordAt(target.question()).outcome,
+                nhw32::Outcome::outOfTime);
       target.hang(false);
       EXPECT_EQ(answerTo(target.question()).word.text, u"stubborn");
     }
@@ -121,7 +122,7 @@ TEST_F(Nhw32Hanging, ProbingNeverWaits) {
     Hanging target;
     ASSERT_EQ(host_.wordAt(target.place()), "stubborn");
     target.hang(true);
-    for (int probe = 0; probe < nhw32::Patience::kChances; ++probe) {
+    for (int probe = 0; probe < nhw32::Backoff::kMaxTimeouts; ++probe) {
       probing.measure([&] {
         host_.probe(target.place());
         nhw32::SetNHW32();
@@ -155,7 +156,7 @@ TEST_F(Nhw32Hanging, StartingAndStoppingTwoHundredTimesLeavesNoThreads) {
 }
 
 /// Takes its time, fails, or answers at once.
-class Stubborn : public nhw32::TextProvider {
+class Stubborn : public nhw32::WordReader {
  public:
   nhw32::Answer wordAt(const nhw32::Question& question) override {
     ++asked;
@@ -169,7 +170,8 @@ class Stubborn : public nhw32::TextProvider {
 
 TEST_F(Nhw32Hanging, AWaySlowerThanTheProbesIsHeardAndAFailingOneDoesNoHarm) {
   Stubborn::asked = 0;
-  nhw32::Service service([] { return std::make_unique<Stubborn>(); });
+  nhw32::Service service([] { return std::make_unique<Stubborn>(); },
+                         RegisterWindowMessageA(nhw32::kMessageName));
   service.start();
   const auto probe = [&](POINT point) {
     service.disarm();

@@ -4,7 +4,7 @@
 #include <chrono>
 
 #include "capture/nhw32/nhw32.h"
-#include "capture/nhw32/patience.h"
+#include "capture/nhw32/policy.h"
 #include "capture/nhw32/service.h"
 #include "tests/program/harness/find.h"
 #include "tests/program/harness/stopped.h"
@@ -103,7 +103,7 @@ TEST_P(Nhw32Programs, AStoppedProgramHoldsNobodyUpAndLivesOn) {
   {
     const harness::Stopped stopped(program.mark());
     HoldUps probing;
-    for (int probe = 0; probe < nhw32::Patience::kChances; ++probe) {
+    for (int probe = 0; probe < nhw32::Backoff::kMaxTimeouts; ++probe) {
       probing.measure([&] { host.probe(point); });
       passTime(60);
     }

@@ -1,0 +1,71 @@
+#include "capture/nhw32/policy.h"
+
+#include <algorithm>
+#include <array>
+
+namespace nhw32 {
+namespace {
+
+/// Visual Basic registers its text boxes, which are edit controls, under names of its own.
+constexpr std::array<std::u16string_view, 4> kEditClasses{u"Edit", u"ThunderRT6TextBox",
+                                                          u"ThunderRT5TextBox", u"ThunderTextBox"};
+
+// winerror.h, which the builds for other systems do not have.
+constexpr std::uint32_t kErrorSuccess = 0;
+constexpr std::uint32_t kErrorTimeout = 1460;
+
+constexpr char16_t lower(char16_t unit) {
+  return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
+}
+
+bool isEdit(std::u16string_view name) {
+  return std::ranges::any_of(kEditClasses, [&](std::u16string_view known) {
+    return std::ranges::equal(known, name, {}, lower, lower);
+  });
+}
+
+}  // namespace
+
+ReaderKind readerKindFor(std::u16string_view className, std::u16string_view realClassName) {
+  if (isEdit(realClassName) || isEdit(className)) return ReaderKind::edit;
+  const bool rich = className.find(u"RichEdit") != std::u16string_view::npos;
+  return rich ? ReaderKind::richEdit : ReaderKind::uia;
+}
+
+Outcome outcomeOfSendTimeout(std::uint32_t lastError) {
+  return lastError == kErrorTimeout || lastError == kErrorSuccess ? Outcome::outOfTime
+                                                                  : Outcome::refused;
+}
+
+bool Backoff::mayAsk(WindowId window, Time now) const {
+  const auto record = std::ranges::find(records_, window, &Record::window);
+  return record == records_.end() || now >= record->until;
+}
+
+void Backoff::note(WindowId window, Outcome outcome, Time now) {
+  if (outcome == Outcome::refused) return;
+  Record record{.window = window};
+  if (const auto old = std::ranges::find(records_, window, &Record::window);
+      old != records_.end()) {
+    record = *old;
+    records_.erase(old);
+  }
+  // Any other outcome is an answer in time: without a record the window starts afresh.
+  if (outcome != Outcome::outOfTime) return;
+  ++record.timeouts;
+  if (record.timeouts >= kMaxTimeouts) {
+    record.delay = std::clamp<std::chrono::seconds>(2 * record.delay, kMinDelay, kMaxDelay);
+    record.until = now + record.delay;
+  }
+  if (records_.size() == kMaxWindows) records_.erase(records_.begin());
+  records_.push_back(record);
+}
+
+Answer BackoffReader::wordAt(const Question& question) {
+  if (!backoff_.mayAsk(question.window, clock_())) return {};
+  Answer answer = reader_->wordAt(question);
+  backoff_.note(question.window, answer.outcome, clock_());
+  return answer;
+}
+
+}  // namespace nhw32

@@ -1,0 +1,100 @@
+#include "capture/nhw32/uia/client.h"
+
+#include <objbase.h>
+
+#include <optional>
+#include <utility>
+
+#include "capture/nhw32/uia/com.h"
+#include "capture/nhw32/uia/geometry.h"
+#include "capture/nhw32/uia/text.h"
+
+namespace nhw32 {
+namespace {
+
+HRESULT createClient(REFCLSID clientClass, IUIAutomation2** client) {
+  return CoCreateInstance(clientClass, nullptr, CLSCTX_INPROC_SERVER, IID_IUIAutomation2,
+                          reinterpret_cast<void**>(client));
+}
+
+HRESULT makeSystemClient(IUIAutomation2** client) {
+  const HRESULT result = createClient(CLSID_CUIAutomation8, client);
+  return SUCCEEDED(result) ? result : createClient(CLSID_CUIAutomation, client);
+}
+
+/// Sets the limits of time; a client that does not take them is not used, since its own are 2 and
+/// 20 seconds.
+bool prepare(IUIAutomation2& client) {
+  const auto limit = static_cast<DWORD>(kUiaCallTime.count());
+  return SUCCEEDED(client.put_AutoSetFocus(FALSE)) &&
+         SUCCEEDED(client.put_ConnectionTimeout(limit)) &&
+         SUCCEEDED(client.put_TransactionTimeout(limit));
+}
+
+/// Returns the window's rectangle on the screen, nullopt if it is hidden or has gone.
+std::optional<ScreenBox> placeOf(HWND window) {
+  RECT place{};
+  if (!IsWindowVisible(window) || !GetWindowRect(window, &place)) return std::nullopt;
+  return ScreenBox{static_cast<int>(place.left), static_cast<int>(place.top),
+                   static_cast<int>(place.right), static_cast<int>(place.bottom)};
+}
+
+class UiaReader : public WordReader {
+ public:
+  explicit UiaReader(UiaSystem system) : system_(std::move(system)) {}
+
+  Answer wordAt(const Question& question) override {
+    try {
+      return haveClient() ? ask(question) : Answer{};
+    } catch (...) {
+      return {};
+    }
+  }
+
+ private:
+  bool haveClient() {
+    if (client_) return true;
+    const auto now = system_.now();
+    if (!retry_.due(now)) return false;
+    // Noted first, since makeClient may throw.
+    retry_.failed(now);
+    if (!com_) com_.emplace();
+    if (!com_->ready()) return false;
+    ComPtr<IUIAutomation2> client;
+    if (FAILED(system_.makeClient(client.GetAddressOf())) || !client || !prepare(*client.Get()))
+      return false;
+    client_ = std::move(client);
+    return true;
+  }
+
+  Answer ask(const Question& question) {
+    auto* const window = reinterpret_cast<HWND>(question.window);
+    const auto place = placeOf(window);
+    if (!place) return {};
+    UiaCalls calls(system_.now);
+    const auto pattern = textPatternAt(*client_.Get(), question, calls);
+    if (pattern) {
+      auto word = wordUnder(*pattern.Get(), question.point, calls);
+      // The window may have been closed, moved or resized meanwhile.
+      if (word && placeOf(window) == place) return {Outcome::word, std::move(*word)};
+    }
+    return {calls.outOfTime() ? Outcome::outOfTime : Outcome::none, {}};
+  }
+
+  UiaSystem system_;
+  Retry retry_{kClientRetryDelay};
+  std::optional<ScopedCom> com_;
+  ComPtr<IUIAutomation2> client_;  // declared last: released before COM ends
+};
+
+}  // namespace
+
+std::unique_ptr<WordReader> makeUiaReader() {
+  return makeUiaReader({makeSystemClient, std::chrono::steady_clock::now});
+}
+
+std::unique_ptr<WordReader> makeUiaReader(UiaSystem system) {
+  return std::make_unique<UiaReader>(std::move(system));
+}
+
+}  // namespace nhw32

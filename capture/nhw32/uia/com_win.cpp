@@ -1,0 +1,35 @@
+#include "capture/nhw32/uia/com.h"
+
+#include <objbase.h>
+
+namespace nhw32 {
+
+UniqueDoubleArray::~UniqueDoubleArray() {
+  if (locked_) SafeArrayUnaccessData(array_);
+  SafeArrayDestroy(array_);
+}
+
+std::span<const double> UniqueDoubleArray::values() {
+  VARTYPE type = VT_EMPTY;
+  LONG first = 0;
+  LONG last = -1;
+  void* data = nullptr;
+  if (locked_ || array_ == nullptr || SafeArrayGetDim(array_) != 1 ||
+      FAILED(SafeArrayGetVartype(array_, &type)) || type != VT_R8 ||
+      FAILED(SafeArrayGetLBound(array_, 1, &first)) ||
+      FAILED(SafeArrayGetUBound(array_, 1, &last)) || last < first ||
+      FAILED(SafeArrayAccessData(array_, &data))) {
+    return {};
+  }
+  locked_ = true;
+  const auto count = static_cast<std::size_t>(static_cast<long long>(last) - first + 1);
+  return {static_cast<const double*>(data), count};
+}
+
+ScopedCom::ScopedCom() : ready_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED))) {}
+
+ScopedCom::~ScopedCom() {
+  if (ready_) CoUninitialize();
+}
+
+}  // namespace nhw32

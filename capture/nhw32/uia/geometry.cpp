@@ -1,0 +1,66 @@
+#include "capture/nhw32/uia/geometry.h"
+
+#include <cmath>
+
+#include "capture/nhw32/word_text.h"
+
+namespace nhw32 {
+namespace {
+
+constexpr std::size_t kNumbers = 4;
+/// Beyond every arrangement of monitors, and convertible to int.
+constexpr double kMaxCoordinate = 1e6;
+
+struct Rectangle {
+  double left;
+  double top;
+  double width;
+  double height;
+};
+
+/// Also false for NaN.
+bool onScreen(const Rectangle& r) {
+  return std::abs(r.left) <= kMaxCoordinate && std::abs(r.top) <= kMaxCoordinate && r.width >= 0 &&
+         r.width <= kMaxCoordinate && r.height >= 0 && r.height <= kMaxCoordinate;
+}
+
+bool holds(const Rectangle& r, ScreenPoint point) {
+  const double x = point.x + 0.5;
+  const double y = point.y + 0.5;
+  return x >= r.left && x < r.left + r.width && y >= r.top && y < r.top + r.height;
+}
+
+ScreenBox inPixels(const Rectangle& r) {
+  return {static_cast<int>(std::floor(r.left)), static_cast<int>(std::floor(r.top)),
+          static_cast<int>(std::ceil(r.left + r.width)),
+          static_cast<int>(std::ceil(r.top + r.height))};
+}
+
+bool isBlank(char16_t unit) {
+  constexpr char16_t kNoBreakSpace = u'\u00A0';
+  constexpr char16_t kIdeographicSpace = u'\u3000';
+  return unit <= u' ' || unit == kNoBreakSpace || unit == kIdeographicSpace;
+}
+
+}  // namespace
+
+std::optional<ScreenBox> boxUnder(std::span<const double> rectangles, ScreenPoint point) {
+  if (rectangles.size() % kNumbers != 0) return std::nullopt;
+  for (; !rectangles.empty(); rectangles = rectangles.subspan(kNumbers)) {
+    const Rectangle next{rectangles[0], rectangles[1], rectangles[2], rectangles[3]};
+    if (!onScreen(next)) return std::nullopt;
+    if (holds(next, point)) return inPixels(next);
+  }
+  return std::nullopt;
+}
+
+bool isOneCharacter(std::u16string_view text) { return text.size() == 1 || text.size() == 2; }
+
+std::u16string_view onlyWord(std::u16string_view text) {
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  const auto word = wordAt(text, 0);
+  return word == Range{0, text.size()} ? text : std::u16string_view{};
+}
+
+}  // namespace nhw32

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "capture/nhw32/reader.h"
+
+/// The portable part of reading by UI Automation: its rectangles, texts and retries.
+namespace nhw32 {
+
+/// Returns the first of `rectangles` that contains the centre of the pixel `point`, rounded
+/// outwards to whole pixels. Each consists of four numbers: left, top, width, height in physical
+/// screen pixels. Returns nullopt if none does, if the count is not a multiple of four, or if a
+/// rectangle before the match is invalid (not finite, negative size, beyond 1,000,000 pixels).
+std::optional<ScreenBox> boxUnder(std::span<const double> rectangles, ScreenPoint point);
+
+/// Returns whether `text` is as long as one character: a code unit, a surrogate pair or a CR LF.
+bool isOneCharacter(std::u16string_view text);
+
+/// Returns the word if `text` is one word with optional blanks around it, otherwise "".
+std::u16string_view onlyWord(std::u16string_view text);
+
+/// Delays further attempts after a failure.
+class Retry {
+ public:
+  using Time = std::chrono::steady_clock::time_point;
+
+  explicit Retry(std::chrono::milliseconds pause) : pause_(pause) {}
+
+  [[nodiscard]] bool due(Time now) const { return !failed_ || now - *failed_ >= pause_; }
+  void failed(Time now) { failed_ = now; }
+
+ private:
+  std::chrono::milliseconds pause_;
+  std::optional<Time> failed_;
+};
+
+}  // namespace nhw32

@@ -1,0 +1,183 @@
+#include "capture/nhw32/policy.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string_view>
+#include <vector>
+
+namespace nhw32 {
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::minutes;
+using std::chrono::seconds;
+
+constexpr Backoff::Time kStart{};
+
+/// Lets `window` run out of time `times` times.
+void fail(Backoff& backoff, WindowId window, int times, Backoff::Time now) {
+  for (int i = 0; i < times; ++i) backoff.note(window, Outcome::outOfTime, now);
+}
+
+TEST(Backoff, AllowsTwoTimeouts) {
+  Backoff backoff;
+  fail(backoff, 1, 2, kStart);
+  EXPECT_TRUE(backoff.mayAsk(1, kStart));
+  EXPECT_TRUE(backoff.mayAsk(2, kStart));
+}
+
+TEST(Backoff, StartsAtFiveSecondsAfterThreeTimeoutsInARow) {
+  Backoff backoff;
+  fail(backoff, 1, 3, kStart);
+  EXPECT_FALSE(backoff.mayAsk(1, kStart));
+  EXPECT_FALSE(backoff.mayAsk(1, kStart + seconds(5) - milliseconds(1)));
+  EXPECT_TRUE(backoff.mayAsk(1, kStart + seconds(5)));
+  EXPECT_TRUE(backoff.mayAsk(2, kStart));
+}
+
+TEST(Backoff, IsResetByAnAnswerInTime) {
+  for (const Outcome outcome : {Outcome::word, Outcome::none}) {
+    Backoff backoff;
+    fail(backoff, 1, 2, kStart);
+    backoff.note(1, outcome, kStart);
+    fail(backoff, 1, 2, kStart);
+    EXPECT_TRUE(backoff.mayAsk(1, kStart));
+    fail(backoff, 1, 4, kStart);
+    backoff.note(1, outcome, kStart);
+    EXPECT_TRUE(backoff.mayAsk(1, kStart));
+    fail(backoff, 1, 3, kStart);
+    EXPECT_TRUE(backoff.mayAsk(1, kStart + seconds(5))) << "the delay started at its minimum again";
+  }
+}
+
+TEST(Backoff, IsNotChangedByARefusal) {
+  Backoff backoff;
+  fail(backoff, 1, 2, kStart);
+  backoff.note(1, Outcome::refused, kStart);
+  EXPECT_TRUE(backoff.mayAsk(1, kStart));
+  fail(backoff, 1, 1, kStart);
+  backoff.note(1, Outcome::refused, kStart);
+  EXPECT_FALSE(backoff.mayAsk(1, kStart));
+  for (int i = 0; i < 5; ++i) backoff.note(2, Outcome::refused, kStart);
+  EXPECT_TRUE(backoff.mayAsk(2, kStart));
+}
+
+TEST(Backoff, DoublesTheDelayUpToFiveMinutes) {
+  Backoff backoff;
+  Backoff::Time now = kStart;
+  fail(backoff, 1, 2, now);
+  for (const int rest : {5, 10, 20, 40, 80, 160, 300, 300, 300}) {
+    fail(backoff, 1, 1, now);
+    EXPECT_FALSE(backoff.mayAsk(1, now + seconds(rest) - milliseconds(1))) << rest;
+    EXPECT_TRUE(backoff.mayAsk(1, now + seconds(rest))) << rest;
+    now += seconds(rest);
+  }
+}
+
+TEST(Backoff, RemembersSixtyFourWindows) {
+  Backoff backoff;
+  for (WindowId window = 1; window <= 65; ++window) fail(backoff, window, 3, kStart);
+  EXPECT_TRUE(backoff.mayAsk(1, kStart));
+  for (WindowId window = 2; window <= 65; ++window) EXPECT_FALSE(backoff.mayAsk(window, kStart));
+  fail(backoff, 2, 1, kStart);
+  fail(backoff, 66, 3, kStart);
+  EXPECT_FALSE(backoff.mayAsk(2, kStart)) << "it was noted later than window 3";
+  EXPECT_TRUE(backoff.mayAsk(3, kStart));
+}
+
+Question about(WindowId window) { return {.window = window, .point = {}}; }
+
+class Silent : public WordReader {
+ public:
+  Answer wordAt(const Question& question) override {
+    asked_.push_back(question.window);
+    return {.outcome = question.window == 1 ? Outcome::outOfTime : Outcome::word, .word = {}};
+  }
+  std::vector<WindowId> asked_;
+};
+
+TEST(BackoffReader, DoesNotAskAWindowThatKeepsTimingOut) {
+  auto silent = std::make_unique<Silent>();
+  auto& asked = silent->asked_;
+  Backoff::Time now = kStart;
+  BackoffReader reader(std::move(silent), [&] { return now; });
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::outOfTime);
+  EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::none);
+  EXPECT_EQ(reader.wordAt(about(2)).outcome, Outcome::word);
+  EXPECT_EQ(asked, (std::vector<WindowId>{1, 1, 1, 2}));
+  now += seconds(5);
+  EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::outOfTime);
+  EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::none);
+}
+
+TEST(ReaderKindFor, KnowsTheClassesThatAreProbed) {
+  const std::map<std::u16string_view, ReaderKind> kinds{
+      {u"ttyGrab", ReaderKind::uia},
+      {u"AVL_AVView", ReaderKind::uia},
+      {u"tty", ReaderKind::uia},
+      {u"_WwG", ReaderKind::uia},
+      {u"ConsoleWindowClass", ReaderKind::uia},
+      {u"EXCEL6", ReaderKind::uia},
+      {u"EXCEL7", ReaderKind::uia},
+      {u"EXCEL<", ReaderKind::uia},
+      {u"ThunderRT6TextBox", ReaderKind::edit},
+      {u"ThunderRT5TextBox", ReaderKind::edit},
+      {u"ThunderTextBox", ReaderKind::edit},
+      {u"HTML_Internet Explorer", ReaderKind::uia},
+      {u"RichEdit20W", ReaderKind::richEdit},
+      {u"RichEdit20A", ReaderKind::richEdit},
+      {u"RichEdit", ReaderKind::richEdit},
+      {u"Internet Explorer_Server", ReaderKind::uia},
+      {u"Edit", ReaderKind::edit},
+  };
+  EXPECT_EQ(kinds.size(), 17U);
+  for (const auto& [name, kind] : kinds) {
+    EXPECT_EQ(readerKindFor(name, name), kind);
+  }
+}
+
+TEST(ReaderKindFor, FindsRichEditAnywhereInTheName) {
+  for (const std::u16string_view name : {u"TRichEdit", u"RichEdit20W.1", u"RichEditD2DPT"}) {
+    EXPECT_EQ(readerKindFor(name, name), ReaderKind::richEdit);
+  }
+}
+
+TEST(ReaderKindFor, TakesEditControlsByTheirRealClass) {
+  for (const std::u16string_view name : {u"TMyEditor", u"TLogEdit", u"Edit0", u"TRichEdit"}) {
+    for (const std::u16string_view real : {u"Edit", u"EDIT", u"edit"}) {
+      EXPECT_EQ(readerKindFor(name, real), ReaderKind::edit);
+    }
+  }
+  for (const std::u16string_view name : {u"TMyEditor", u"TLogEdit", u"Edit0", u"MyEdit"}) {
+    for (const std::u16string_view real :
+         {name, std::u16string_view(u"RichEdit20W"), std::u16string_view()}) {
+      EXPECT_EQ(readerKindFor(name, real), ReaderKind::uia);
+    }
+  }
+}
+
+TEST(ReaderKindFor, ComparesTheWholeNameWithoutARealClass) {
+  for (const std::u16string_view name : {u"Edit", u"EDIT", u"edit", u"ThunderRT6TextBox"}) {
+    EXPECT_EQ(readerKindFor(name, u""), ReaderKind::edit);
+  }
+  EXPECT_EQ(readerKindFor(u"MyThunderTextBox", u"MyThunderTextBox"), ReaderKind::uia);
+  EXPECT_EQ(readerKindFor(u"Richedit", u"Richedit"), ReaderKind::uia);
+  EXPECT_EQ(readerKindFor(u"", u""), ReaderKind::uia);
+}
+
+TEST(SendTimeout, MapsErrorTimeoutToOutOfTime) {
+  EXPECT_EQ(outcomeOfSendTimeout(1460), Outcome::outOfTime);  // ERROR_TIMEOUT
+}
+
+TEST(SendTimeout, MapsNoErrorOfAHungWindowToOutOfTime) {
+  EXPECT_EQ(outcomeOfSendTimeout(0), Outcome::outOfTime);
+}
+
+TEST(SendTimeout, MapsOtherErrorsToRefused) {
+  EXPECT_EQ(outcomeOfSendTimeout(5), Outcome::refused);     // ERROR_ACCESS_DENIED
+  EXPECT_EQ(outcomeOfSendTimeout(1400), Outcome::refused);  // ERROR_INVALID_WINDOW_HANDLE
+}
+
+}  // namespace
+}  // namespace nhw32

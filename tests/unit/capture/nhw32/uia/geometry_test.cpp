@@ -1,0 +1,95 @@
+#include "capture/nhw32/uia/geometry.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <vector>
+
+namespace {
+
+using nhw32::boxUnder;
+using nhw32::ScreenBox;
+using namespace std::chrono_literals;
+
+TEST(BoxUnder, HoldsItsFirstPixelsAndNotThoseBehindIt) {
+  const std::vector<double> box{10, 20, 30, 5};
+  const ScreenBox whole{10, 20, 40, 25};
+  EXPECT_EQ(boxUnder(box, {10, 20}), whole);
+  EXPECT_EQ(boxUnder(box, {39, 24}), whole);
+  for (const auto& beside : {nhw32::ScreenPoint{9, 20}, {10, 19}, {40, 24}, {39, 25}}) {
+    EXPECT_EQ(boxUnder(box, beside), std::nullopt) << beside.x << ", " << beside.y;
+  }
+}
+
+TEST(BoxUnder, TakesTheRectangleThatHoldsThePoint) {
+  const std::vector<double> boxes{500, 0, 100, 20, 0, 20, 40, 20};
+  EXPECT_EQ(boxUnder(boxes, {510, 5}), (ScreenBox{500, 0, 600, 20}));
+  EXPECT_EQ(boxUnder(boxes, {5, 25}), (ScreenBox{0, 20, 40, 40}));
+  EXPECT_EQ(boxUnder(boxes, {300, 25}), std::nullopt);
+}
+
+TEST(BoxUnder, WorksLeftOfAndAboveThePrimaryMonitor) {
+  EXPECT_EQ(boxUnder(std::vector<double>{-1900, -500, 20, 10}, {-1890, -495}),
+            (ScreenBox{-1900, -500, -1880, -490}));
+}
+
+TEST(BoxUnder, ReachesOutToWholePixels) {
+  const std::vector<double> box{10.4, 20.6, 5.2, 5.2};
+  EXPECT_EQ(boxUnder(box, {12, 22}), (ScreenBox{10, 20, 16, 26}));
+  EXPECT_TRUE(boxUnder(box, {10, 22}));
+  EXPECT_FALSE(boxUnder(box, {12, 20}));
+}
+
+TEST(BoxUnder, RefusesWhatIsNoRectangleOfAScreen) {
+  constexpr double kInfinite = std::numeric_limits<double>::infinity();
+  constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+  for (const std::vector<double>& numbers : {std::vector<double>{},
+                                             {0},
+                                             {0, 0, 50},
+                                             {0, 0, 50, 50, 1},
+                                             {0, 0, -50, 50},
+                                             {0, 0, 50, -50},
+                                             {-kInfinite, 0, kInfinite, 50},
+                                             {0, 0, kInfinite, 50},
+                                             {0, 0, 50, kNoNumber},
+                                             {kNoNumber, 0, 50, 50},
+                                             {0, -2e6, 50, 4e6},
+                                             {0, 0, 0, 50}}) {
+    EXPECT_EQ(boxUnder(numbers, {5, 5}), std::nullopt) << numbers.size();
+  }
+}
+
+TEST(OneCharacter, IsAUnitAPairOrALineEnd) {
+  EXPECT_FALSE(nhw32::isOneCharacter(u""));
+  EXPECT_TRUE(nhw32::isOneCharacter(u"a"));
+  EXPECT_TRUE(nhw32::isOneCharacter(u"\U0001F600"));
+  EXPECT_TRUE(nhw32::isOneCharacter(u"\r\n"));
+  EXPECT_FALSE(nhw32::isOneCharacter(u"abc"));
+}
+
+TEST(OnlyWord, StandsBetweenBlanks) {
+  EXPECT_EQ(nhw32::onlyWord(u"word"), u"word");
+  EXPECT_EQ(nhw32::onlyWord(u"\t word\u3000\u00A0\r\n"), u"word");
+  EXPECT_EQ(nhw32::onlyWord(u"well-known "), u"well-known");
+  EXPECT_EQ(nhw32::onlyWord(u" 中文"), u"中文");
+}
+
+TEST(OnlyWord, IsNoneAmongOthers) {
+  for (const auto* text : {u"", u"  ", u"two words", u"word.", u"(word", u"42", u"word中文"}) {
+    EXPECT_TRUE(nhw32::onlyWord(text).empty());
+  }
+}
+
+TEST(Retry, IsDueAtFirstAndAfterThePause) {
+  nhw32::Retry retry(60s);
+  const nhw32::Retry::Time start{};
+  EXPECT_TRUE(retry.due(start));
+  retry.failed(start);
+  EXPECT_FALSE(retry.due(start));
+  EXPECT_FALSE(retry.due(start + 59'999ms));
+  EXPECT_TRUE(retry.due(start + 60s));
+  retry.failed(start + 60s);
+  EXPECT_FALSE(retry.due(start + 119s));
+}
+
+}  // namespace

@@ -1,0 +1,111 @@
+#include <set>
+#include <string>
+#include <utility>
+
+#include "tests/windows/support/automation_test.h"
+#include "tests/windows/support/heap_blocks.h"
+
+namespace wintest {
+namespace {
+
+using nhw32::Outcome;
+
+/// A text two elements above the pointer, asked at a place that takes every kind of call.
+class AutomationFailureTest : public AutomationTest {
+ protected:
+  AutomationFailureTest() {
+    plan().elements.resize(3);
+    plan().elements.back().text = true;
+    plan().text = u"one hello two";
+  }
+
+  /// The calls of a question that is answered.
+  std::vector<std::string> callsOfAnAnswer() {
+    log().calls.clear();
+    EXPECT_EQ(wordAt(kPoint), u"hello");
+    return std::exchange(log().calls, {});
+  }
+
+  /// Asks once for each call that there is, with trouble at that call.
+  void troubleAtEachCall(Trouble trouble, Outcome expected) {
+    const auto calls = callsOfAnAnswer();
+    ASSERT_GT(calls.size(), 20U);
+    for (trouble.call = 0; trouble.call < calls.size(); ++trouble.call) {
+      log().calls.clear();
+      plan().trouble = trouble;
+      EXPECT_EQ(outcome(kPoint), expected) << trouble.call << " " << calls[trouble.call];
+      EXPECT_EQ(log().calls.size(), trouble.call + 1) << "went on after " << calls[trouble.call];
+      EXPECT_EQ(log().live, 1) << "all but the client is given back";
+      plan().trouble.reset();
+      EXPECT_EQ(wordAt(kPoint), u"hello");
+    }
+  }
+
+  const nhw32::ScreenPoint kPoint = grid::at(0, 6, 8);
+};
+
+TEST_F(AutomationFailureTest, AFailureOfAnyCallIsNoWord) {
+  troubleAtEachCall({.result = E_FAIL}, Outcome::none);
+}
+
+TEST_F(AutomationFailureTest, AnElementThatVanishesIsNoWord) {
+  troubleAtEachCall({.result = nhw32::UIA_E_ELEMENTNOTAVAILABLE}, Outcome::none);
+}
+
+TEST_F(AutomationFailureTest, AnExceptionInAnyCallIsNoWord) {
+  troubleAtEachCall({.throws = true}, Outcome::none);
+}
+
+TEST_F(AutomationFailureTest, ACallThatRanOutOfTimeEndsTheQuestion) {
+  troubleAtEachCall({.result = nhw32::UIA_E_TIMEOUT}, Outcome::outOfTime);
+}
+
+TEST_F(AutomationFailureTest, SuccessWithoutAResultIsNoWord) {
+  const std::set<std::string> needed = {
+      "ElementFromPoint", "get_ControlViewWalker", "GetParentElement", "RangeFromPoint", "Clone",
+      "GetText"};
+  const auto calls = callsOfAnAnswer();
+  for (std::size_t i = 0; i < calls.size(); ++i) {
+    if (!needed.contains(calls[i])) continue;
+    log().calls.clear();
+    plan().trouble = Trouble{.call = i, .result = S_OK};
+    EXPECT_EQ(outcome(kPoint), Outcome::none) << i << " " << calls[i];
+  }
+}
+
+TEST_F(AutomationFailureTest, SuccessWithoutAnAnswerIsNoWrongWord) {
+  const auto calls = callsOfAnAnswer();
+  for (std::size_t i = 0; i < calls.size(); ++i) {
+    // An end that does not move looks like the end of the text.
+    if (calls[i] == "MoveEndpointByUnit") continue;
+    log().calls.clear();
+    plan().trouble = Trouble{.call = i, .result = S_OK};
+    const auto word = wordAt(kPoint);
+    EXPECT_TRUE(word.empty() || word == u"hello") << i << " " << calls[i];
+  }
+}
+
+TEST_F(AutomationFailureTest, RectanglesThatMakeNoSenseAreNone) {
+  for (const auto kind : {Rectangles::nothing, Rectangles::none, Rectangles::odd,
+                          Rectangles::integers, Rectangles::twoDimensions, Rectangles::infinite}) {
+    plan().rectangles = kind;
+    EXPECT_EQ(outcome(kPoint), Outcome::none) << static_cast<int>(kind);
+  }
+  EXPECT_EQ(standIn_.times("GetText"), 0U);
+}
+
+TEST_F(AutomationFailureTest, LeavesNoMemoryBehind) {
+  constexpr std::size_t kQuestions = 300;
+  for (int i = 0; i < 50; ++i) callsOfAnAnswer();
+  const std::size_t before = heapBlocks();
+  for (std::size_t i = 0; i < kQuestions; ++i) callsOfAnAnswer();
+  plan().rectangles = Rectangles::twoDimensions;
+  for (std::size_t i = 0; i < kQuestions; ++i) {
+    EXPECT_EQ(outcome(kPoint), Outcome::none);
+    log().calls.clear();
+  }
+  EXPECT_LT(heapBlocks(), before + kQuestions / 2);
+}
+
+}  // namespace
+}  // namespace wintest

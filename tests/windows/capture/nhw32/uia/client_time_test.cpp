@@ -1,0 +1,122 @@
+#include <objbase.h>
+
+#include <string>
+#include <thread>
+
+#include "tests/windows/support/automation_test.h"
+
+namespace wintest {
+namespace {
+
+using nhw32::Outcome;
+using namespace std::chrono_literals;
+
+class AutomationTimeTest : public AutomationTest {
+ protected:
+  AutomationTimeTest() { showText(u"one hello two"); }
+
+  const nhw32::ScreenPoint kPoint = grid::at(0, 6);
+};
+
+TEST_F(AutomationTimeTest, TellsTheClientHowLongACallMayTake) {
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+  EXPECT_EQ(log().connectionLimit, 200U);
+  EXPECT_EQ(log().transactionLimit, 200U);
+  EXPECT_FALSE(log().takesFocus);
+}
+
+TEST_F(AutomationTimeTest, HearsASlowProgramOut) {
+  plan().perCall = 10ms;
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+}
+
+TEST_F(AutomationTimeTest, GivesUpWhenAnotherCallCouldEndTooLate) {
+  for (const auto perCall : {16ms, 30ms, 100ms, 200ms}) {
+    plan().perCall = perCall;
+    const auto start = log().now;
+    EXPECT_EQ(outcome(kPoint), Outcome::outOfTime) << perCall.count();
+    EXPECT_GT(log().now - start, 300ms);
+    EXPECT_LE(log().now - start, 500ms) << perCall.count();
+  }
+}
+
+TEST_F(AutomationTimeTest, TakesTheAnswerOfTheLastCallHoweverLate) {
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+  const std::size_t last = log().calls.size();
+  log().calls.clear();
+  plan().onCall = [&] {
+    if (log().calls.size() == last) log().now += 450ms;
+  };
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+}
+
+TEST_F(AutomationTimeTest, EndsInTimeByTheClockAsWell) {
+  reader_ =
+      nhw32::makeUiaReader({system().makeClient, [] { return std::chrono::steady_clock::now(); }});
+  plan().onCall = [] { Sleep(60); };
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(outcome(kPoint), Outcome::outOfTime);
+  const auto took = std::chrono::steady_clock::now() - start;
+  EXPECT_GT(took, 300ms);
+  EXPECT_LT(took, 900ms) << "500 ms, and what a busy machine adds";
+  EXPECT_LE(log().calls.size(), 6U);
+}
+
+TEST_F(AutomationTimeTest, TriesSeldomWhereThereIsNoClient) {
+  int tries = 0;
+  HRESULT result = REGDB_E_CLASSNOTREG;
+  reader_ = nhw32::makeUiaReader({[&](nhw32::IUIAutomation2** client) {
+                                    ++tries;
+                                    return FAILED(result) ? result : makeStandIn(standIn_, client);
+                                  },
+                                  system().now});
+  for (int i = 0; i < 100; ++i) {
+    EXPECT_EQ(outcome(kPoint), Outcome::none);
+    log().now += 100ms;
+  }
+  EXPECT_EQ(tries, 1);
+
+  result = S_OK;
+  EXPECT_EQ(outcome(kPoint), Outcome::none);
+  log().now += 50s;
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+  EXPECT_EQ(tries, 2);
+}
+
+TEST_F(AutomationTimeTest, AsksNothingWithoutLimits) {
+  plan().limits = E_NOTIMPL;
+  EXPECT_EQ(outcome(kPoint), Outcome::none);
+  EXPECT_TRUE(log().calls.empty());
+  EXPECT_EQ(log().live, 0);
+}
+
+TEST_F(AutomationTimeTest, StandsAClientThatIsNotThereOrThrows) {
+  reader_ = nhw32::makeUiaReader({[](nhw32::IUIAutomation2**) { return S_OK; }, system().now});
+  EXPECT_EQ(outcome(kPoint), Outcome::none);
+  reader_ = nhw32::makeUiaReader(
+      {[](nhw32::IUIAutomation2**) -> HRESULT { throw std::bad_alloc(); }, system().now});
+  EXPECT_EQ(outcome(kPoint), Outcome::none);
+}
+
+TEST_F(AutomationTimeTest, AsksNothingOnAThreadThatTakesMessagesForCom) {
+  Outcome seen = Outcome::word;
+  std::thread([&] {
+    const HRESULT result = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    seen = outcome(kPoint);
+    reader_.reset();
+    if (SUCCEEDED(result)) CoUninitialize();
+  }).join();
+  EXPECT_EQ(seen, Outcome::none);
+  EXPECT_TRUE(log().calls.empty());
+}
+
+TEST_F(AutomationTimeTest, TheSystemsOwnFindsNoWordInAWindowWithoutText) {
+  reader_ = nhw32::makeUiaReader();
+  const auto start = std::chrono::steady_clock::now();
+  for (int i = 0; i < 20; ++i) EXPECT_EQ(outcome({-20000, -20000}), Outcome::none);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 2s);
+}
+
+}  // namespace
+}  // namespace wintest
