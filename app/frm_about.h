@@ -3,8 +3,7 @@
 #include "app/browser.h"
 #include "forms/button.h"
 #include "forms/form.h"
-#include "forms/label.h"
-#include "forms/separator.h"
+#include "forms/static_controls.h"
 
 /// 关于, the about box: what the program is, where its data comes from, whom to ask.
 class frmAbout : public forms::Form {

@@ -5,9 +5,9 @@
 #include "app/resources/resource_ids.h"
 #include "data/data_control.h"
 #include "forms/button.h"
+#include "forms/drag_handle.h"
 #include "forms/form.h"
-#include "forms/image.h"
-#include "forms/label.h"
+#include "forms/static_controls.h"
 #include "forms/timer.h"
 
 /// The floating toolbar, the program's first window; loading it is the program's start.
@@ -15,7 +15,7 @@ class frmTop : public forms::Form {
  public:
   frmTop();
 
-  forms::Image Image1{*this, forms::Image::Look::grip, {0, 0, 180, 375}};
+  forms::DragHandle Image1{*this, forms::DragHandle::Look::grip, {0, 0, 180, 375}};
   forms::Button cmdMain{*this, forms::Picture(IDI_QUICK_LOOKUP), {180, 0, 375, 375}};
   forms::Button cmdSub{*this, forms::Picture(IDI_MULTI_QUERY), {555, 0, 375, 375}};
   forms::Button cmdDictSetting{*this, forms::Picture(IDI_DICT_SETTINGS), {930, 0, 375, 375}};

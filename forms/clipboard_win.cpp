@@ -3,7 +3,7 @@
 #include <new>
 #include <stdexcept>
 
-#include "forms/line_ends.h"
+#include "forms/text_lines.h"
 #include "win32/handles.h"
 #include "win32/win32.h"
 

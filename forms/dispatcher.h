@@ -8,8 +8,9 @@
 
 namespace forms {
 
-/// Runs work from the message loop, modal loops included: posted functions and timer ticks. Lives
-/// on the user-interface thread, behind a message-only window.
+/// Runs posted functions and timer ticks from the message loop, modal loops included, by way of a
+/// message-only window. User-interface thread only. The first instance() throws std::runtime_error
+/// if that window cannot be created.
 class Dispatcher {
  public:
   static Dispatcher& instance();
@@ -39,7 +40,7 @@ class Dispatcher {
   UINT_PTR lastTimer_ = 0;
 };
 
-/// Lets every message that waits be handled, and returns.
+/// Handles every message that is in the queue, and returns.
 void doEvents();
 
 /// The message loop; ends with WM_QUIT and returns its code.

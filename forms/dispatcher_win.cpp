@@ -1,7 +1,7 @@
 #include "forms/dispatcher.h"
 
+#include "forms/exception_barrier.h"
 #include "forms/form.h"
-#include "forms/guard.h"
 #include "forms/registry.h"
 #include "win32/win32.h"
 

@@ -14,7 +14,8 @@ struct Font {
   bool fixedPitch = false;  ///< where the face is missing, one of fixed pitch takes its place
 };
 
-/// The system's font of `font` for `dpi`. Throws std::runtime_error.
+/// Creates the system's font object for `font` at `dpi`. Throws std::runtime_error if Windows
+/// cannot create it.
 win32::OwnedFont makeFont(const Font& font, int dpi);
 
 }  // namespace forms

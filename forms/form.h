@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/guard.h"
+#include "forms/event.h"
 #include "forms/placement.h"
 #include "forms/widget.h"
 #include "win32/win32.h"
@@ -20,7 +20,7 @@ enum class Frame {
 /// Resource number of the program's own icon: the first, which Explorer takes too.
 inline constexpr int kProgramIcon = 1;
 
-/// What a form is made of. Sizes in twips, as Width and Height count them.
+/// What a form is made of. Sizes are outer sizes in twips at the form's DPI (see Form::width).
 struct FormDesign {
   std::u16string name;  ///< "frmSub"; its window class is "Lexilo.frmSub"
   std::u16string caption;
@@ -40,9 +40,12 @@ struct FormDesign {
 };
 
 /// A top-level window. A form exists once: forms::single<F>() loads it on the first reference,
-/// unload() ends it, and the next reference loads it anew.
+/// unload() ends it, and the next reference loads it anew. Twips are those of the form's DPI (1440
+/// to an inch, 15 to a pixel at 96 DPI). User-interface thread only. Handlers run inside the
+/// exception barrier: what they throw is reported and never leaves a function of this class.
 class Form {
  public:
+  /// Creates the window, hidden. Throws std::runtime_error if Windows cannot create it.
   explicit Form(const FormDesign& design);
   virtual ~Form();
   Form(const Form&) = delete;
@@ -52,6 +55,7 @@ class Form {
   static Form* of(HWND window);
 
   [[nodiscard]] HWND handle() const { return handle_; }
+  /// The DPI of the monitor that the form is on.
   [[nodiscard]] int dpi() const { return dpi_; }
   [[nodiscard]] Rank rank() const;
 
@@ -65,17 +69,22 @@ class Form {
   void load();
   /// Shows the form and gives it the focus; one that is open comes to the front, restored.
   void show(Form* owner = nullptr);
+  /// Hides the form; it stays loaded and raises no event.
   void hide();
   /// Unloads the forms it owns, then runs Form_Unload, then ends the window.
   void unload();
   [[nodiscard]] bool isUnloading() const { return unloading_; }
 
-  /// Outer size in twips: a caption window's is its client size plus 120 x 405.
+  /// Outer size in twips: the client size plus 120 x 405 for a form with a caption, whatever the
+  /// real frame takes. While minimised, the size before.
   [[nodiscard]] int width() const { return width_; }
   [[nodiscard]] int height() const { return height_; }
+  /// Sets the outer size in twips; each is limited to 0..32,767. Raises Form_Resize.
   void setSize(int width, int height);
+  /// The top left corner on the virtual screen: screen pixels converted to twips at the form's DPI.
   [[nodiscard]] int left() const;
   [[nodiscard]] int top() const;
+  /// Moves the form to that point, in the same twips.
   void setPosition(int left, int top);
   /// The outer rectangle in screen pixels.
   [[nodiscard]] PixelBox place() const;
@@ -98,21 +107,24 @@ class Form {
   /// sizes and activates nothing.
   void bringToTop();
 
-  /// The widget under a screen point, or nullptr; `except` is looked through.
+  /// Returns the visible widget under a point in screen pixels, or nullptr; `except` is ignored.
   [[nodiscard]] Widget* widgetAt(POINT screen, const Widget* except = nullptr) const;
 
-  /// The widget of this form that a control belongs to; nullptr for any other window.
+  /// Returns the widget of this form that `control` belongs to; nullptr for any other window.
   [[nodiscard]] Widget* widgetOf(HWND control) const;
 
-  /// The widget that takes the mouse at a screen point beside it, or nullptr.
+  /// Returns the widget that takes the mouse at a point beside it (screen pixels), or nullptr.
   [[nodiscard]] Widget* grabberAt(POINT screen) const;
 
+  /// For the constructor and destructor of Widget; the form does not own its widgets.
   void addWidget(Widget& widget);
   void removeWidget(Widget& widget);
+  /// For Widget::setToolTip; "" removes the tool tip.
   void setToolTip(Widget& widget, const std::u16string& text);
   /// Hides the tool tip that is shown.
   void hideToolTip() const;
 
+  /// For settleFocus: run Form_Activate and Form_LostFocus inside the barrier.
   void raiseActivate() noexcept;
   void raiseLostFocus() noexcept;
   /// Part of the form was painted; its own pictures count as the form.

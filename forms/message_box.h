@@ -1,13 +1,19 @@
 #pragma once
 
+#include <exception>
 #include <string>
 
 namespace forms {
 
 enum class MessageIcon { none, critical, exclamation, information };
 
-/// Shows a modal box with an OK button. It is owned by our active window, holds all windows of the
-/// program, and counts as no move of the focus. `title` may be empty.
+/// Shows a modal message box with an OK button and returns when it is closed. It is owned by our
+/// active window, disables all windows of the program, and raises no focus events. `title` may be
+/// empty.
 void showMessage(const std::u16string& text, MessageIcon icon, const std::u16string& title = {});
+
+/// The program's handler of uncaught errors: a message box with the error's description, the
+/// critical icon and no title. For setErrorHandler.
+void showErrorBox(const std::exception_ptr& error);
 
 }  // namespace forms

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "forms/exception_barrier.h"
 #include "forms/focus.h"
 #include "win32/win32.h"
 
@@ -22,23 +23,24 @@ UINT iconFlag(MessageIcon icon) {
   return 0;
 }
 
-/// Holds every window of this thread but the box's owner, which the box holds itself.
-class OtherWindowsHeld {
+/// Disables every window of this thread until the end of the scope, except the box's owner, which
+/// the box disables itself.
+class ScopedOtherWindowsDisabled {
  public:
-  explicit OtherWindowsHeld(HWND owner) : owner_(owner) {
+  explicit ScopedOtherWindowsDisabled(HWND owner) : owner_(owner) {
     EnumThreadWindows(
         GetCurrentThreadId(),
         [](HWND window, LPARAM self) {
-          reinterpret_cast<OtherWindowsHeld*>(self)->hold(window);
+          reinterpret_cast<ScopedOtherWindowsDisabled*>(self)->hold(window);
           return TRUE;
         },
         reinterpret_cast<LPARAM>(this));
   }
-  ~OtherWindowsHeld() {
+  ~ScopedOtherWindowsDisabled() {
     for (HWND window : held_) EnableWindow(window, TRUE);
   }
-  OtherWindowsHeld(const OtherWindowsHeld&) = delete;
-  OtherWindowsHeld& operator=(const OtherWindowsHeld&) = delete;
+  ScopedOtherWindowsDisabled(const ScopedOtherWindowsDisabled&) = delete;
+  ScopedOtherWindowsDisabled& operator=(const ScopedOtherWindowsDisabled&) = delete;
 
  private:
   void hold(HWND window) {
@@ -56,10 +58,14 @@ class OtherWindowsHeld {
 void showMessage(const std::u16string& text, MessageIcon icon, const std::u16string& title) {
   const HWND owner = GetActiveWindow();
   const FocusHeld focusHeld;
-  const OtherWindowsHeld othersHeld(owner);
+  const ScopedOtherWindowsDisabled othersHeld(owner);
   // Our windows are topmost: a box that is not would open below them.
   MessageBoxW(owner, win32::wide(text), win32::wide(title),
               MB_OK | MB_TOPMOST | MB_SETFOREGROUND | iconFlag(icon));
+}
+
+void showErrorBox(const std::exception_ptr& error) {
+  showMessage(describe(error), MessageIcon::critical);
 }
 
 }  // namespace forms

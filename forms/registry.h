@@ -9,16 +9,22 @@
 
 namespace forms {
 
-/// The forms that are loaded, each once, addressed by its class.
+/// Owns the forms that are loaded, at most one of each class. User-interface thread only.
 class Registry {
  public:
   static Registry& instance();
 
+  /// Returns the loaded form of a class, otherwise nullptr.
   [[nodiscard]] Form* find(std::type_index type) const;
+  /// Takes ownership of a form; there must be none of that class.
   Form& add(std::type_index type, std::unique_ptr<Form> form);
-  /// Forgets a form whose window has gone; the object goes once no handler runs any more.
+  /// Removes a form whose window was destroyed (called by Form); the object lives until purge,
+  /// since one of its handlers may be running.
   void retire(const Form& form);
+  /// Destroys the removed forms if no handler is running. Called by the message loop after each
+  /// message.
   void purge();
+  /// Returns the loaded forms whose owner window is `owner`.
   [[nodiscard]] std::vector<Form*> ownedBy(const Form& owner) const;
   [[nodiscard]] std::vector<Form*> all() const;
 
@@ -27,7 +33,8 @@ class Registry {
   std::vector<std::unique_ptr<Form>> retired_;
 };
 
-/// The form of class `F`, loaded first where it is not.
+/// Returns the form of class `F`; creates and loads it first if it is not loaded. Throws what the
+/// constructor of `F` throws; an error in Form_Load is reported instead.
 template <class F>
 F& single() {
   Registry& registry = Registry::instance();
@@ -37,6 +44,7 @@ F& single() {
   return static_cast<F&>(form);
 }
 
+/// Returns whether the form of class `F` is loaded; never loads it.
 template <class F>
 bool isLoaded() {
   return Registry::instance().find(typeid(F)) != nullptr;

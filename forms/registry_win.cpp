@@ -1,6 +1,6 @@
 #include "forms/registry.h"
 
-#include "forms/guard.h"
+#include "forms/exception_barrier.h"
 
 namespace forms {
 
@@ -28,7 +28,7 @@ void Registry::retire(const Form& form) {
 }
 
 void Registry::purge() {
-  if (HandlerRunning::depth() == 0) retired_.clear();
+  if (ScopedHandler::depth() == 0) retired_.clear();
 }
 
 std::vector<Form*> Registry::ownedBy(const Form& owner) const {

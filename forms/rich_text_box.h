@@ -1,6 +1,5 @@
 #pragma once
 
-#include "forms/repaint_held.h"
 #include "forms/widget.h"
 
 namespace forms {

@@ -5,8 +5,8 @@
 #include "forms/clipboard.h"
 #include "forms/form.h"
 #include "forms/geometry.h"
-#include "forms/text_positions.h"
-#include "forms/window_text.h"
+#include "forms/text_lines.h"
+#include "forms/widget.h"
 #include "win32/win32.h"
 
 namespace forms {

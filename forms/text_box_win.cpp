@@ -1,6 +1,6 @@
 #include "forms/text_box.h"
 
-#include "forms/window_text.h"
+#include "forms/widget.h"
 
 namespace forms {
 namespace {

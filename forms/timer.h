@@ -1,13 +1,15 @@
 #pragma once
 
-#include "forms/guard.h"
+#include "forms/event.h"
 #include "win32/win32.h"
 
 namespace forms {
 
 class Form;
 
-/// Periodic event of a form, until the form unloads. Times in ms.
+/// Raises an event periodically while enabled, until its form unloads. Intervals in milliseconds;
+/// below 10 Windows uses 10. The event comes from the message loop, also that of a menu or message
+/// box.
 class Timer {
  public:
   explicit Timer(Form& form, int interval = 0, bool enabled = false);

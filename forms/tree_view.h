@@ -3,19 +3,20 @@
 #include <vector>
 
 #include "forms/picture.h"
-#include "forms/repaint_held.h"
 #include "forms/widget.h"
 #include "win32/handles.h"
 
 namespace forms {
 
 /// A flat list of nodes, numbered from 1. It keeps the nodes' texts itself and lets the control ask
-/// for them: new texts cost one repaint, however many they are.
+/// for them: new texts cost one repaint, however many they are. Functions that take a number throw
+/// std::out_of_range if there is no such node.
 class TreeView : public Widget {
  public:
   TreeView(Form& form, const WidgetBox& box);
 
   [[nodiscard]] std::size_t count() const { return nodes_.size(); }
+  /// Adds a node at the end.
   void add(const std::u16string& text);
   void remove(std::size_t number);
   void clear();

@@ -4,31 +4,35 @@
 #include <string>
 #include <unordered_map>
 
+#include "forms/event.h"
 #include "forms/font.h"
 #include "forms/geometry.h"
-#include "forms/guard.h"
 #include "win32/win32.h"
 
 namespace forms {
 
 class Form;
 
-/// A place in a widget or form, in twips from its top left corner.
+/// A point in a widget or form, in twips at the form's DPI, from the top left corner of its client
+/// area.
 struct Place {
   int x = 0;
   int y = 0;
 };
 
-/// What a widget is made of: the system's control behind it.
+/// The system control of a widget: its window class and styles, WS_CHILD and WS_VISIBLE excepted.
 struct ControlKind {
   const wchar_t* className = nullptr;
   DWORD style = 0;
   DWORD exStyle = 0;
 };
 
-/// One of the system's controls, owned by a form, with its geometry in twips and its events.
+/// A system control on a form, usually a member of the form's class. Its geometry is in twips at
+/// the form's DPI, relative to the form's client area; 15 twips are a pixel at 96 DPI.
+/// User-interface thread only. A handler that throws is reported by the exception barrier.
 class Widget {
  public:
+  /// Creates the control, visible. Throws std::runtime_error if Windows cannot create it.
   Widget(Form& form, const ControlKind& kind, const WidgetBox& box,
          const std::u16string& caption = {});
   virtual ~Widget();
@@ -43,13 +47,19 @@ class Widget {
   [[nodiscard]] int top() const { return box_.top; }
   [[nodiscard]] int width() const { return box_.width; }
   [[nodiscard]] int height() const { return box_.height; }
+  /// Moves and sizes the control. The edges are rounded to pixels, so that neighbours stay
+  /// adjacent.
   void move(const WidgetBox& box);
   void setWidth(int width);
 
+  /// Never activates a window.
   void setVisible(bool visible);
   void setEnabled(bool enabled);
+  /// Moves the focus here and raises the focus events before it returns.
   void setFocus();
+  /// Throws std::runtime_error if the font cannot be created; the old one is kept then.
   void setFont(Font font);
+  /// Sets the tool tip; for a control without a text it becomes the accessible name too.
   void setToolTip(const std::u16string& text);
   [[nodiscard]] const std::u16string& toolTip() const { return toolTip_; }
 
@@ -65,12 +75,12 @@ class Widget {
   /// order never see a key that stands here.
   std::unordered_map<WPARAM, std::function<void()>> onKeyDown;
 
-  /// What the form passes on of WM_COMMAND and WM_NOTIFY.
+  /// Handle WM_COMMAND (its notification code) and WM_NOTIFY, which the form passes on.
   virtual void command(WORD code);
   virtual LRESULT notify(const NMHDR& header);
-  /// Called after the form moved to a monitor of another resolution.
+  /// Called after the form's DPI has changed.
   virtual void rescale();
-  /// Whether the mouse at a screen point is this widget's although the point lies beside it.
+  /// Returns whether the widget takes the mouse at a point beside it, in screen pixels.
   [[nodiscard]] virtual bool grabs(POINT /*screen*/) const { return false; }
 
  protected:
@@ -96,6 +106,43 @@ class Widget {
   Font font_;
   win32::OwnedFont systemFont_;
   std::u16string toolTip_;
+};
+
+/// Returns the whole text of a window of this thread.
+std::u16string windowText(HWND window);
+
+/// Suppresses the repainting of a widget until the end of the scope, which invalidates all of it.
+/// Does nothing to a hidden widget, which WM_SETREDRAW would show. The widget must not be shown or
+/// hidden meanwhile.
+class RepaintHeld {
+ public:
+  explicit RepaintHeld(const Widget& widget)
+      : window_(widget.handle()),
+        visible_((GetWindowLongPtrW(window_, GWL_STYLE) & WS_VISIBLE) != 0) {
+    if (visible_) setRedraw(FALSE);
+  }
+  ~RepaintHeld() {
+    if (!visible_) return;
+    setRedraw(TRUE);
+    // The frame as well: a scroll bar that came or went meanwhile stands there. These are the flags
+    // that WM_SETREDRAW's documentation asks for.
+    RedrawWindow(window_, nullptr, nullptr,
+                 RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
+  }
+  RepaintHeld(const RepaintHeld&) = delete;
+  RepaintHeld& operator=(const RepaintHeld&) = delete;
+
+ private:
+  // A control that keeps a flag of its own for WM_SETREDRAW (the tree view) holds back its items
+  // only: once the flag is set again it draws its scroll bars, which then are drawn a second time
+  // with the frame. DefWindowProc takes WS_VISIBLE away and with it all drawing.
+  void setRedraw(BOOL redraw) const {
+    SendMessageW(window_, WM_SETREDRAW, static_cast<WPARAM>(redraw), 0);
+    DefWindowProcW(window_, WM_SETREDRAW, static_cast<WPARAM>(redraw), 0);
+  }
+
+  HWND window_;
+  bool visible_;
 };
 
 }  // namespace forms

@@ -178,4 +178,10 @@ void Widget::rescale() {
   applyBox();
 }
 
+std::u16string windowText(HWND window) {
+  std::wstring buffer(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+  const int length = GetWindowTextW(window, buffer.data(), static_cast<int>(buffer.size()));
+  return win32::fromWide({buffer.data(), static_cast<std::size_t>(length)});
+}
+
 }  // namespace forms

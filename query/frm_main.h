@@ -10,7 +10,7 @@
 #include "forms/column_tree.h"
 #include "forms/font.h"
 #include "forms/form.h"
-#include "forms/label.h"
+#include "forms/static_controls.h"
 #include "forms/text_box.h"
 #include "forms/tree_view.h"
 

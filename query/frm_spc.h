@@ -2,7 +2,7 @@
 
 #include "forms/button.h"
 #include "forms/form.h"
-#include "forms/label.h"
+#include "forms/static_controls.h"
 #include "forms/text_box.h"
 
 /// 特殊查询: asks for an English and a Chinese fragment and hands both to frmMain.

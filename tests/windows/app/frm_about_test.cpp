@@ -1,7 +1,7 @@
 #include "app/frm_about.h"
 
 #include "capture/screen_word.h"
-#include "forms/window_text.h"
+#include "forms/widget.h"
 #include "tests/windows/support/frm_top_test.h"
 
 namespace wintest {

@@ -1,4 +1,4 @@
-#include "forms/repaint_held.h"
+#include "forms/widget.h"
 
 #include "forms/column_tree.h"
 #include "forms/rich_text_box.h"

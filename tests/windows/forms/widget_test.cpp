@@ -1,6 +1,6 @@
 #include "forms/widget.h"
 
-#include "forms/label.h"
+#include "forms/static_controls.h"
 #include "tests/windows/support/window_test.h"
 
 namespace wintest {

@@ -1,4 +1,4 @@
-#include "forms/window_text.h"
+#include "forms/widget.h"
 #include "tests/windows/support/frm_sub_test.h"
 
 namespace wintest {

@@ -1,4 +1,4 @@
-#include "forms/window_text.h"
+#include "forms/widget.h"
 #include "tests/windows/support/box_looks.h"
 #include "tests/windows/support/query_test.h"
 

@@ -1,6 +1,6 @@
 #include "query/frm_spc.h"
 
-#include "forms/window_text.h"
+#include "forms/widget.h"
 #include "tests/windows/support/box_looks.h"
 #include "tests/windows/support/query_test.h"
 

@@ -52,8 +52,8 @@ class FakeElement : public Counted<UiaElementStub> {
       if (pattern != UIA_TextPatternId || !IsEqualIID(iid, nhw32::IID_IUIAutomationTextPattern)) {
         return E_INVALIDARG;
       }
-      *result =
-          in_.plan.elements.at(index_).text ? std::make_unique<FakePattern>(in_).release() : nullptr;
+      *result = in_.plan.elements.at(index_).text ? std::make_unique<FakePattern>(in_).release()
+                                                  : nullptr;
       return S_OK;
     });
   }

@@ -1,6 +1,6 @@
 #include "tests/windows/support/message_boxes.h"
 
-#include "forms/window_text.h"
+#include "forms/widget.h"
 
 namespace wintest {
 namespace {

@@ -1,4 +1,4 @@
-#include "forms/text_positions.h"
+#include "forms/text_lines.h"
 
 #include <algorithm>
 
@@ -10,6 +10,21 @@ bool isLineEnd(std::u16string_view text, std::size_t at) {
 }
 
 }  // namespace
+
+std::u16string withWindowsLineEnds(std::u16string_view text) {
+  std::u16string lines;
+  lines.reserve(text.size());
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const bool carriageReturn = text[at] == u'\r';
+    if (!carriageReturn && text[at] != u'\n') {
+      lines += text[at];
+      continue;
+    }
+    lines += u"\r\n";
+    if (carriageReturn && at + 1 < text.size() && text[at + 1] == u'\n') ++at;
+  }
+  return lines;
+}
 
 std::u16string withFirmBlanks(std::u16string_view text) {
   std::u16string firm(text);

@@ -1,4 +1,4 @@
-#include "forms/image.h"
+#include "forms/drag_handle.h"
 
 #include "forms/form.h"
 #include "forms/geometry.h"
@@ -27,10 +27,10 @@ void drawGrip(HDC dc, const RECT& client, COLORREF color, int dpi) {
 
 }  // namespace
 
-Image::Image(Form& form, Look look, const WidgetBox& box)
+DragHandle::DragHandle(Form& form, Look look, const WidgetBox& box)
     : Widget(form, {L"STATIC", SS_NOTIFY | WS_CLIPSIBLINGS, 0}, box), look_(look) {}
 
-LRESULT Image::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT DragHandle::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   // Whoever drags twice in quick succession means two drags.
   if (message == WM_LBUTTONDBLCLK) message = WM_LBUTTONDOWN;
   if (message == WM_RBUTTONDBLCLK) message = WM_RBUTTONDOWN;
@@ -66,7 +66,7 @@ LRESULT Image::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return Widget::handleMessage(message, wParam, lParam);
 }
 
-bool Image::grabs(POINT screen) const {
+bool DragHandle::grabs(POINT screen) const {
   if (grabMargin_ == 0 || dragged_ || !IsWindowVisible(handle())) return false;
   RECT rect{};
   GetWindowRect(handle(), &rect);
@@ -74,7 +74,7 @@ bool Image::grabs(POINT screen) const {
   return PtInRect(&rect, screen) != FALSE;
 }
 
-void Image::paint() const {
+void DragHandle::paint() const {
   PAINTSTRUCT paint;
   HDC dc = BeginPaint(handle(), &paint);
   RECT client{};
@@ -85,7 +85,7 @@ void Image::paint() const {
   form().raisePaint();
 }
 
-void Image::beginDrag() {
+void DragHandle::beginDrag() {
   dragged_ = true;
   // Where the button went down, not where the pointer has got to since.
   const DWORD pressed = GetMessagePos();
@@ -94,19 +94,19 @@ void Image::beginDrag() {
   InvalidateRect(handle(), nullptr, FALSE);
 }
 
-void Image::cancelDrag() {
+void DragHandle::cancelDrag() {
   if (!std::exchange(dragged_, false)) return;
   InvalidateRect(handle(), nullptr, FALSE);
   onDragEnded.raise();
 }
 
-void Image::follow(POINT screen) {
+void DragHandle::follow(POINT screen) {
   ScreenToClient(form().handle(), &screen);
   SetWindowPos(handle(), nullptr, screen.x, toPixels(top(), form().dpi()), 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void Image::drop(POINT screen) {
+void DragHandle::drop(POINT screen) {
   // A press that did not move is no drag, wherever beside the line it took hold.
   const bool moved = screen.x != dragStart_.x || screen.y != dragStart_.y;
   Widget* target = moved ? form().widgetAt(screen, this) : nullptr;

@@ -4,19 +4,19 @@
 
 namespace forms {
 
-/// A plain surface that answers the mouse: a handle to drag a window by, or a splitter.
-class Image : public Widget {
+/// A plain surface for dragging with the mouse: the grip of a window, or a splitter.
+class DragHandle : public Widget {
  public:
   enum class Look { grip, line };
-  Image(Form& form, Look look, const WidgetBox& box);
+  DragHandle(Form& form, Look look, const WidgetBox& box);
 
-  /// Lets the mouse take hold up to `twips` left and right of the widget too: a splitter's line is
-  /// too thin to be hit.
+  /// Makes the mouse take hold up to `twips` (form's DPI) left and right of the widget too: a
+  /// splitter's line is too thin to be hit.
   void setGrabMargin(int twips) { grabMargin_ = twips; }
   [[nodiscard]] bool grabs(POINT screen) const override;
 
-  /// Starts a drag of this widget, which follows the pointer from left to right. Releasing the
-  /// button drops it on the widget below the pointer, whose onDragDrop hears of it.
+  /// Starts a drag: the widget follows the pointer horizontally. Releasing the
+  /// button drops it on the widget below the pointer, whose onDragDrop is raised.
   void beginDrag();
   /// Ends a drag without a drop.
   void cancelDrag();

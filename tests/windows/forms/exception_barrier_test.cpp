@@ -1,7 +1,7 @@
 #include <stdexcept>
 
 #include "forms/button.h"
-#include "forms/guard.h"
+#include "forms/exception_barrier.h"
 #include "forms/message_box.h"
 #include "forms/timer.h"
 #include "tests/windows/support/other_program.h"
@@ -10,7 +10,7 @@
 namespace wintest {
 namespace {
 
-class Guard : public WindowTest {};
+class ExceptionBarrier : public WindowTest {};
 
 /// A form whose box fails on every change.
 class FailingForm : public FormA {
@@ -20,7 +20,7 @@ class FailingForm : public FormA {
   }
 };
 
-TEST_F(Guard, AnUncaughtErrorIsShownWithItsOwnDescription) {
+TEST_F(ExceptionBarrier, AnUncaughtErrorIsShownWithItsOwnDescription) {
   auto& form = opened<FailingForm>();
   form.first.setText(u"x");
   const auto seen = boxes.take();
@@ -31,7 +31,20 @@ TEST_F(Guard, AnUncaughtErrorIsShownWithItsOwnDescription) {
   EXPECT_EQ(seen[0].owner, form.handle());
 }
 
-TEST_F(Guard, TheLongestDescriptionFitsTheScreen) {
+TEST_F(ExceptionBarrier, PassesUncaughtErrorsToTheErrorHandlerAndDropsThoseThatItCauses) {
+  static int reports;
+  reports = 0;
+  forms::setErrorHandler([](const std::exception_ptr&) {
+    ++reports;
+    forms::guard([] { throw std::runtime_error("while reporting"); });
+  });
+  forms::guard([] { throw std::runtime_error("x"); });
+  forms::setErrorHandler(forms::showErrorBox);
+  EXPECT_EQ(reports, 1);
+  EXPECT_TRUE(boxes.take().empty());
+}
+
+TEST_F(ExceptionBarrier, TheLongestDescriptionFitsTheScreen) {
   auto& form = opened<FormA>();
   for (const std::string& unit : {std::string("x"), std::string("W"), std::string("词")}) {
     RECT box{};
@@ -56,17 +69,17 @@ TEST_F(Guard, TheLongestDescriptionFitsTheScreen) {
   }
 }
 
-TEST_F(Guard, TheProgramGoesOnWithItsDataIntact) {
+TEST_F(ExceptionBarrier, TheProgramGoesOnWithItsDataIntact) {
   auto& form = opened<FailingForm>();
   form.first.setText(u"kept");
   EXPECT_EQ(boxes.take().size(), 1U);
   EXPECT_EQ(form.first.text(), u"kept");
-  EXPECT_EQ(forms::HandlerRunning::depth(), 0);
+  EXPECT_EQ(forms::ScopedHandler::depth(), 0);
   form.first.setText(u"again");
   EXPECT_EQ(boxes.take().size(), 1U);
 }
 
-TEST_F(Guard, OneBoxAtATimeWhateverElseFails) {
+TEST_F(ExceptionBarrier, OneBoxAtATimeWhateverElseFails) {
   auto& form = opened<FailingForm>();
   forms::Timer timer(form, 10, true);
   int ticks = 0;
@@ -96,7 +109,7 @@ TEST_F(Guard, OneBoxAtATimeWhateverElseFails) {
   EXPECT_EQ(boxes.take().size(), 1U);
 }
 
-TEST_F(Guard, AnErrorInATimerReachesIt) {
+TEST_F(ExceptionBarrier, AnErrorInATimerReachesIt) {
   auto& form = opened<FormA>();
   forms::Timer timer(form, 10, true);
   timer.onTimer = [&] {
@@ -107,7 +120,7 @@ TEST_F(Guard, AnErrorInATimerReachesIt) {
   EXPECT_EQ(boxes.take()[0].text, u"Overflow");
 }
 
-TEST_F(Guard, WhatIsNoExceptionHasADescriptionToo) {
+TEST_F(ExceptionBarrier, WhatIsNoExceptionHasADescriptionToo) {
   auto& form = opened<FormA>();
   form.first.onChange = [] { throw 42; };
   form.first.setText(u"x");
@@ -115,7 +128,7 @@ TEST_F(Guard, WhatIsNoExceptionHasADescriptionToo) {
   EXPECT_FALSE(boxes.take()[0].text.empty());
 }
 
-TEST_F(Guard, WithoutAnActiveWindowTheBoxComesAllTheSame) {
+TEST_F(ExceptionBarrier, WithoutAnActiveWindowTheBoxComesAllTheSame) {
   auto& form = opened<FormA>();
   OtherProgram other;
   other.activate();
@@ -126,7 +139,7 @@ TEST_F(Guard, WithoutAnActiveWindowTheBoxComesAllTheSame) {
   EXPECT_TRUE(IsWindowEnabled(form.handle()));
 }
 
-using MessageBoxTest = Guard;
+using MessageBoxTest = ExceptionBarrier;
 
 TEST_F(MessageBoxTest, HoldsEveryWindowOfTheProgram) {
   auto& owner = opened<FormA>();

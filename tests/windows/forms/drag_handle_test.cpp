@@ -1,6 +1,6 @@
-#include "forms/image.h"
+#include "forms/drag_handle.h"
 
-#include "forms/label.h"
+#include "forms/static_controls.h"
 #include "tests/windows/support/window_test.h"
 
 namespace wintest {
@@ -21,7 +21,7 @@ class SplitForm : public FormA {
       note("second", source, at);
     };
   }
-  forms::Image splitter{*this, forms::Image::Look::line, {1530, 300, 20, 2000}};
+  forms::DragHandle splitter{*this, forms::DragHandle::Look::line, {1530, 300, 20, 2000}};
   std::vector<std::string> drops;
   forms::Place place;
   int ended = 0;
@@ -34,7 +34,7 @@ class SplitForm : public FormA {
   }
 };
 
-class ImageTest : public WindowTest {
+class DragHandleTest : public WindowTest {
  protected:
   static SplitForm& form() { return forms::single<SplitForm>(); }
 
@@ -52,7 +52,7 @@ class ImageTest : public WindowTest {
   }
 };
 
-TEST_F(ImageTest, IsDroppedOnTheWidgetBelowThePointer) {
+TEST_F(DragHandleTest, IsDroppedOnTheWidgetBelowThePointer) {
   opened<SplitForm>();
   dragTo(inWidget(form().second, 600, 900));
   input::releaseLeft();
@@ -63,7 +63,7 @@ TEST_F(ImageTest, IsDroppedOnTheWidgetBelowThePointer) {
   EXPECT_FALSE(form().splitter.isDragged());
 }
 
-TEST_F(ImageTest, CanBeDroppedToTheLeftAsWell) {
+TEST_F(DragHandleTest, CanBeDroppedToTheLeftAsWell) {
   opened<SplitForm>();
   dragTo(inWidget(form().first, 450, 150));
   input::releaseLeft();
@@ -72,7 +72,7 @@ TEST_F(ImageTest, CanBeDroppedToTheLeftAsWell) {
   EXPECT_EQ(form().place.x, 450);
 }
 
-TEST_F(ImageTest, FollowsThePointerFromLeftToRight) {
+TEST_F(DragHandleTest, FollowsThePointerFromLeftToRight) {
   opened<SplitForm>();
   const RECT before = rectOf(form().splitter.handle());
   const POINT point = inWidget(form().second, 600, 900);
@@ -83,7 +83,7 @@ TEST_F(ImageTest, FollowsThePointerFromLeftToRight) {
   ended();
 }
 
-TEST_F(ImageTest, DroppedElsewhereNothingHears) {
+TEST_F(DragHandleTest, DroppedElsewhereNothingHears) {
   opened<SplitForm>();
   RECT client{};
   GetClientRect(form().handle(), &client);
@@ -95,7 +95,7 @@ TEST_F(ImageTest, DroppedElsewhereNothingHears) {
   EXPECT_EQ(form().drops, std::vector<std::string>{});
 }
 
-TEST_F(ImageTest, DroppedOutsideTheFormNothingHears) {
+TEST_F(DragHandleTest, DroppedOutsideTheFormNothingHears) {
   opened<SplitForm>();
   dragTo(kNowhere);
   input::releaseLeft();
@@ -103,7 +103,7 @@ TEST_F(ImageTest, DroppedOutsideTheFormNothingHears) {
   EXPECT_EQ(form().drops, std::vector<std::string>{});
 }
 
-TEST_F(ImageTest, APressWithoutAMoveDropsNothing) {
+TEST_F(DragHandleTest, APressWithoutAMoveDropsNothing) {
   opened<SplitForm>();
   dragTo(centreOf(form().splitter));
   input::releaseLeft();
@@ -111,7 +111,7 @@ TEST_F(ImageTest, APressWithoutAMoveDropsNothing) {
   EXPECT_EQ(form().drops, std::vector<std::string>{});
 }
 
-TEST_F(ImageTest, LosingTheMouseEndsTheDragWithoutADrop) {
+TEST_F(DragHandleTest, LosingTheMouseEndsTheDragWithoutADrop) {
   opened<SplitForm>();
   dragTo(inWidget(form().second, 600, 900));
   ReleaseCapture();
@@ -123,7 +123,7 @@ TEST_F(ImageTest, LosingTheMouseEndsTheDragWithoutADrop) {
   EXPECT_EQ(form().ended, 1);
 }
 
-TEST_F(ImageTest, ALineTakesHoldAFewPixelsBesideItself) {
+TEST_F(DragHandleTest, ALineTakesHoldAFewPixelsBesideItself) {
   opened<SplitForm>();
   const RECT line = rectOf(form().splitter.handle());
   const POINT beside{line.left - 2, (line.top + line.bottom) / 2};

@@ -1,16 +1,20 @@
-#include "forms/guard.h"
+#include "forms/exception_barrier.h"
 
 #include "forms/box_text.h"
-#include "forms/message_box.h"
 #include "text/utf.h"
 #include "win32/win32.h"
 
 namespace forms {
 namespace {
 
-bool& boxIsUp() {
-  static bool up = false;
-  return up;
+ErrorHandler& errorHandler() {
+  static ErrorHandler handler = nullptr;
+  return handler;
+}
+
+bool& reporting() {
+  static bool now = false;
+  return now;
 }
 
 int& runningHandlers() {
@@ -20,11 +24,11 @@ int& runningHandlers() {
 
 }  // namespace
 
-HandlerRunning::HandlerRunning() { ++runningHandlers(); }
+ScopedHandler::ScopedHandler() { ++runningHandlers(); }
 
-HandlerRunning::~HandlerRunning() { --runningHandlers(); }
+ScopedHandler::~ScopedHandler() { --runningHandlers(); }
 
-int HandlerRunning::depth() { return runningHandlers(); }
+int ScopedHandler::depth() { return runningHandlers(); }
 
 std::u16string describe(const std::exception_ptr& error) {
   try {
@@ -36,16 +40,22 @@ std::u16string describe(const std::exception_ptr& error) {
   }
 }
 
+void setErrorHandler(ErrorHandler handler) { errorHandler() = handler; }
+
 void reportUncaught(const std::exception_ptr& error) noexcept {
-  if (boxIsUp()) return;
-  boxIsUp() = true;
+  if (reporting()) return;
+  reporting() = true;
   try {
-    showMessage(describe(error), MessageIcon::critical);
+    if (errorHandler() != nullptr) {
+      errorHandler()(error);
+    } else {
+      MessageBeep(MB_ICONERROR);
+    }
   } catch (...) {
     // Not even memory for the text: the program goes on, which is all that is asked here.
     MessageBeep(MB_ICONERROR);
   }
-  boxIsUp() = false;
+  reporting() = false;
 }
 
 }  // namespace forms
