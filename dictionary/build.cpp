@@ -8,9 +8,8 @@
 #include "dictionary/arrange/block_packing.h"
 #include "dictionary/arrange/tables.h"
 #include "dictionary/arrange/vocabulary.h"
-#include "dictionary/console.h"
-#include "dictionary/database/publish.h"
-#include "dictionary/database/writer.h"
+#include "dictionary/check/check.h"
+#include "dictionary/database/temporary_file.h"
 #include "dictionary/report.h"
 #include "dictionary/source/csv_reader.h"
 
@@ -113,6 +112,22 @@ void Builder::reportCost() {
 }
 
 }  // namespace
+
+void publishDatabase(const DatabaseContent& content, const std::filesystem::path& target,
+                     std::ostream& log, Progress& progress) {
+  const TemporaryFile temporary(target);
+  writeDatabase(content, temporary.path());
+  progress.report("database written");
+  const CheckResult check = checkDatabase(temporary.path());
+  if (!check.findings.empty()) {
+    check.findings.print(log);
+    throw Failure("the new database breaks the rules above; " + displayName(target) +
+                  " stays as it was");
+  }
+  progress.report("database checked");
+  temporary.replace(target);
+  progress.report(displayName(target) + " is ready");
+}
 
 void buildDatabase(const std::filesystem::path& source, const std::filesystem::path& target,
                    std::ostream& log) {

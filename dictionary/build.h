@@ -3,6 +3,9 @@
 #include <filesystem>
 #include <ostream>
 
+#include "dictionary/console.h"
+#include "dictionary/database/writer.h"
+
 namespace dictionary {
 
 /// Builds the database `target` from the CSV file `source`. Bad lines, progress and a final report
@@ -11,5 +14,11 @@ namespace dictionary {
 /// The same source gives the same bytes. Throws Failure; the target is unchanged then.
 void buildDatabase(const std::filesystem::path& source, const std::filesystem::path& target,
                    std::ostream& log);
+
+/// Writes the content to a temporary file beside `target`, checks it by every rule, and renames it
+/// to `target`. Broken rules go to `log`, the steps to `progress`. Throws Failure, also if a rule
+/// is broken; the target is unchanged then.
+void publishDatabase(const DatabaseContent& content, const std::filesystem::path& target,
+                     std::ostream& log, Progress& progress);
 
 }  // namespace dictionary

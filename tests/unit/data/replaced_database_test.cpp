@@ -7,7 +7,7 @@
 #include "dictionary/build.h"
 #include "dictionary/check/check.h"
 #include "dictionary/console.h"
-#include "dictionary/database/publish.h"
+#include "dictionary/database/temporary_file.h"
 #include "tests/unit/support/file_layer.h"
 #include "tests/unit/support/plain_read.h"
 #include "tests/unit/support/small_dictionary.h"

@@ -9,7 +9,6 @@
 
 #include "dictionary/check/check.h"
 #include "dictionary/console.h"
-#include "dictionary/database/publish.h"
 #include "tests/unit/support/sample_database.h"
 #include "tests/unit/support/small_dictionary.h"
 #include "tests/unit/support/temp_folder.h"

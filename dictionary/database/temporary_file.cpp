@@ -1,9 +1,9 @@
-#include "dictionary/database/publish.h"
+#include "dictionary/database/temporary_file.h"
 
 #include <array>
 #include <system_error>
 
-#include "dictionary/check/check.h"
+#include "dictionary/console.h"
 
 namespace dictionary {
 namespace {
@@ -82,22 +82,6 @@ void TemporaryFile::replace(const std::filesystem::path& target) const {
   std::filesystem::rename(path_, target, error);
   if (error) fail(target, error);
   companions.setReplaced();
-}
-
-void publishDatabase(const DatabaseContent& content, const std::filesystem::path& target,
-                     std::ostream& log, Progress& progress) {
-  const TemporaryFile temporary(target);
-  writeDatabase(content, temporary.path());
-  progress.report("database written");
-  const CheckResult check = checkDatabase(temporary.path());
-  if (!check.findings.empty()) {
-    check.findings.print(log);
-    throw Failure("the new database breaks the rules above; " + displayName(target) +
-                  " stays as it was");
-  }
-  progress.report("database checked");
-  temporary.replace(target);
-  progress.report(displayName(target) + " is ready");
 }
 
 }  // namespace dictionary

@@ -1,10 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <ostream>
-
-#include "dictionary/console.h"
-#include "dictionary/database/writer.h"
 
 namespace dictionary {
 
@@ -26,11 +22,5 @@ class TemporaryFile {
  private:
   std::filesystem::path path_;
 };
-
-/// Writes the content to a temporary file beside `target`, checks it by every rule, and renames it
-/// to `target`. Broken rules go to `log`, the steps to `progress`. Throws Failure, also if a rule
-/// is broken; the target is unchanged then.
-void publishDatabase(const DatabaseContent& content, const std::filesystem::path& target,
-                     std::ostream& log, Progress& progress);
 
 }  // namespace dictionary
