@@ -9,14 +9,19 @@ namespace forms {
 class Label : public Widget {
  public:
   /// `box` in twips of the form's client area; throws like Widget.
-  Label(Form& form, const std::u16string& caption, const WidgetBox& box);
+  Label(Form& form, const std::u16string& caption, const WidgetBox& box)
+      : Widget(form, {L"STATIC", SS_LEFT | kMouseEvents | SS_NOPREFIX, 0}, box, caption) {}
+
+ private:
+  /// Without it STATIC answers WM_NCHITTEST with HTTRANSPARENT, and the form gets the mouse.
+  static constexpr DWORD kMouseEvents = SS_NOTIFY;
 };
 
 /// A horizontal etched line between two groups of widgets.
 class Separator : public Widget {
  public:
   /// `box` in twips of the form's client area; throws like Widget.
-  Separator(Form& form, const WidgetBox& box);
+  Separator(Form& form, const WidgetBox& box) : Widget(form, {L"STATIC", SS_ETCHEDHORZ, 0}, box) {}
 };
 
 }  // namespace forms
