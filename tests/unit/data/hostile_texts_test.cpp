@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <memory>
 #include <set>
 
@@ -36,7 +37,8 @@ class HostileTexts : public testing::Test {
   /// Runs what a box makes of a text, which must end in time with rows of the dictionary or with an
   /// error.
   void run(const std::u16string& sql, std::size_t columns = 2) {
-    const auto start = std::chrono::steady_clock::now();
+    // Processor time where the C library counts that: a busy machine is not the engine's fault.
+    const std::clock_t start = std::clock();
     try {
       data::RecordSet rows(database_, text::toUtf8(sql));
       ASSERT_LE(rows.recordCount(), 200U);
@@ -47,9 +49,8 @@ class HostileTexts : public testing::Test {
     } catch (const data::Error&) {
       ++refused_;
     }
-    const auto took = std::chrono::steady_clock::now() - start;
-    EXPECT_LT(took, kPatience + milliseconds(1500))
-        << std::chrono::duration_cast<milliseconds>(took).count() << " ms";
+    const milliseconds took((std::clock() - start) * 1000 / CLOCKS_PER_SEC);
+    EXPECT_LT(took, kPatience + milliseconds(1500)) << took.count() << " ms";
   }
 
   void expectDictionaryText(const std::u16string& value) {
