@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "capture/nhw32/nhw32.h"
-#include "capture/nhw32/router.h"
+#include "capture/nhw32/reader.h"
 #include "capture/nhw32/service.h"
 #include "tests/program/harness/wait.h"
 

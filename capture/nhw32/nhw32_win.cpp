@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "capture/nhw32/router.h"
+#include "capture/nhw32/reader.h"
 #include "capture/nhw32/service.h"
 #include "capture/nhw32/word_text.h"
 

@@ -1,4 +1,4 @@
-#include "capture/nhw32/router.h"
+#include "capture/nhw32/reader.h"
 
 #include "capture/nhw32/controls/readers.h"
 #include "capture/nhw32/controls/target_window.h"

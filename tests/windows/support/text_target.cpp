@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "capture/nhw32/router.h"
+#include "capture/nhw32/reader.h"
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/find.h"
 #include "tests/windows/support/pump.h"

@@ -9,7 +9,7 @@
 
 #include "capture/nhw32/nhw32.h"
 #include "capture/nhw32/policy.h"
-#include "capture/nhw32/router.h"
+#include "capture/nhw32/reader.h"
 #include "capture/nhw32/service.h"
 #include "tests/program/harness/find.h"
 #include "tests/windows/support/heap_blocks.h"
