@@ -116,14 +116,19 @@ std::u16string windowText(HWND window);
 /// hidden meanwhile.
 class RepaintHeld {
  public:
-  explicit RepaintHeld(const Widget& widget)
-      : window_(widget.handle()),
-        visible_((GetWindowLongPtrW(window_, GWL_STYLE) & WS_VISIBLE) != 0) {
-    if (visible_) setRedraw(FALSE);
+  explicit RepaintHeld(const Widget& widget) : window_(widget.handle()), visible_(isVisible()) {
+    if (!visible_) return;
+    SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
+    // DefWindowProc takes WS_VISIBLE away and with it all drawing. A control that keeps a flag of
+    // its own instead (the tree view) would draw its scroll bars as soon as that flag is set again,
+    // and a second time with the frame.
+    keepsOwnFlag_ = isVisible();
+    if (keepsOwnFlag_) DefWindowProcW(window_, WM_SETREDRAW, FALSE, 0);
   }
   ~RepaintHeld() {
     if (!visible_) return;
-    setRedraw(TRUE);
+    SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
+    if (keepsOwnFlag_) DefWindowProcW(window_, WM_SETREDRAW, TRUE, 0);
     // The frame as well: a scroll bar that came or went meanwhile stands there. These are the flags
     // that WM_SETREDRAW's documentation asks for.
     RedrawWindow(window_, nullptr, nullptr,
@@ -133,16 +138,13 @@ class RepaintHeld {
   RepaintHeld& operator=(const RepaintHeld&) = delete;
 
  private:
-  // A control that keeps a flag of its own for WM_SETREDRAW (the tree view) holds back its items
-  // only: once the flag is set again it draws its scroll bars, which then are drawn a second time
-  // with the frame. DefWindowProc takes WS_VISIBLE away and with it all drawing.
-  void setRedraw(BOOL redraw) const {
-    SendMessageW(window_, WM_SETREDRAW, static_cast<WPARAM>(redraw), 0);
-    DefWindowProcW(window_, WM_SETREDRAW, static_cast<WPARAM>(redraw), 0);
+  [[nodiscard]] bool isVisible() const {
+    return (GetWindowLongPtrW(window_, GWL_STYLE) & WS_VISIBLE) != 0;
   }
 
   HWND window_;
   bool visible_;
+  bool keepsOwnFlag_ = false;
 };
 
 }  // namespace forms
