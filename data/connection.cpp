@@ -60,8 +60,7 @@ bool isOrdinaryTable(const char* name) {
 }
 
 /// The engine calls this for each thing that a statement would do, while it is prepared. For
-/// SQLITE_READ the first detail
-/// names the table, for SQLITE_FUNCTION the second one names the function.
+/// SQLITE_READ `first` names the table, for SQLITE_FUNCTION `second` names the function.
 int authorize(void* /*context*/, int action, const char* first, const char* second,
               const char* /*database*/, const char* /*trigger*/) {
   const auto allowIf = [](bool allowed) { return allowed ? SQLITE_OK : SQLITE_DENY; };

@@ -128,12 +128,14 @@ function sizeFaults() {
   return faults;
 }
 
-/** What ARCHITECTURE.md puts between backticks and looks like a place in the repository exists. */
+/** What looks like a place in the repository, in sentences and drawings, exists. */
 function architectureFaults() {
   const page = join(root, 'ARCHITECTURE.md');
   const text = existsSync(page) ? readFileSync(page, 'utf8') : '';
-  const places = [...text.matchAll(/`([\w./-]+\/[\w./-]*|(?!x(?:_win)?\.)[\w-]+\.(?:h|cpp|md|sh|mjs|cmake))`/g)]
-    .map((match) => match[1]);
+  const places = [
+    ...text.matchAll(/(?<![\w/.])[a-z]\w*\/[\w./-]*\w\/?|(?<![\w/.])[a-z]\w*\/(?!\S)/g),
+    ...text.matchAll(/\b(?!x(?:_win)?\.)\w+\.(?:h|cpp|md|sh|mjs|cmake)\b/g),
+  ].map(([place]) => place).filter((place) => place.includes('/') || !text.includes(`/${place}`));
   if (places.length === 0) return ['ARCHITECTURE.md names no files'];
   return places.filter((place) => !existsSync(join(root, place)))
     .map((place) => `ARCHITECTURE.md names ${place}, which does not exist`);
