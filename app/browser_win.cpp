@@ -16,7 +16,7 @@ void showHelp() {
   try {
     openInBrowser(win32::applicationFolder() + u"\\help\\help.htm");
   } catch (const std::exception&) {
-    forms::showMessage(u"未找到帮助文件！", forms::MessageIcon::critical);
+    forms::showMessage(u"未找到帮助文件！", forms::MessageIcon::kCritical);
   }
 }
 

@@ -8,7 +8,7 @@ forms::FormDesign design() {
   forms::FormDesign design;
   design.name = u"frmAbout";
   design.caption = u"关于";
-  design.frame = forms::Frame::fixed;
+  design.frame = forms::Frame::kFixed;
   design.width = 6360;
   design.height = 4965;
   design.iconResource = forms::kProgramIcon;

@@ -16,7 +16,7 @@ namespace {
 forms::FormDesign design() {
   forms::FormDesign design;
   design.name = u"frmMenu";
-  design.frame = forms::Frame::borderless;
+  design.frame = forms::Frame::kBorderless;
   design.neverActive = true;
   return design;
 }

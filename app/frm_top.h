@@ -15,7 +15,7 @@ class frmTop : public forms::Form {
  public:
   frmTop();
 
-  forms::DragHandle Image1{*this, forms::DragHandle::Look::grip, {0, 0, 180, 375}};
+  forms::DragHandle Image1{*this, forms::DragHandle::Look::kGrip, {0, 0, 180, 375}};
   forms::Button cmdMain{*this, forms::Picture(IDI_QUICK_LOOKUP), {180, 0, 375, 375}};
   forms::Button cmdSub{*this, forms::Picture(IDI_MULTI_QUERY), {555, 0, 375, 375}};
   forms::Button cmdDictSetting{*this, forms::Picture(IDI_DICT_SETTINGS), {930, 0, 375, 375}};

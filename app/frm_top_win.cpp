@@ -24,7 +24,7 @@ forms::FormDesign design() {
   forms::FormDesign design;
   design.name = u"frmTop";
   design.caption = u"Lexilo";
-  design.frame = forms::Frame::borderless;
+  design.frame = forms::Frame::kBorderless;
   design.width = 2325;
   design.height = kDesignHeight;
   design.topmost = true;
@@ -62,7 +62,7 @@ void frmTop::Form_Load() {
   try {
     start();
   } catch (...) {
-    forms::showMessage(forms::describe(std::current_exception()), forms::MessageIcon::none,
+    forms::showMessage(forms::describe(std::current_exception()), forms::MessageIcon::kNone,
                        u"Lexilo");
   }
 }

@@ -12,7 +12,7 @@ forms::FormDesign design() {
   forms::FormDesign design;
   design.name = u"frmScreen";
   design.caption = u"Form2";
-  design.frame = forms::Frame::borderless;
+  design.frame = forms::Frame::kBorderless;
   design.neverActive = true;
   return design;
 }

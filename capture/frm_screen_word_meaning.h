@@ -16,7 +16,7 @@ class frmScreenWordMeaning : public forms::Form {
  public:
   frmScreenWordMeaning();
 
-  forms::RichTextBox txtOut{*this, {0, 0, 3375, 1335}, forms::RichTextBox::Look::toolTip};
+  forms::RichTextBox txtOut{*this, {0, 0, 3375, 1335}, forms::RichTextBox::Look::kToolTip};
   forms::Timer Timer1{*this, 20, true};
   data::DataControl Adodc1;
 

@@ -19,7 +19,7 @@ forms::FormDesign design() {
   forms::FormDesign design;
   design.name = u"frmScreenWordMeaning";
   design.caption = u"Form2";
-  design.frame = forms::Frame::borderless;
+  design.frame = forms::Frame::kBorderless;
   design.width = 3345;
   design.height = 1320;
   design.neverActive = true;

@@ -20,7 +20,7 @@ forms::FormDesign design() {
   forms::FormDesign design;
   design.name = u"frmScreenWord";
   design.caption = u"Form2";
-  design.frame = forms::Frame::borderless;
+  design.frame = forms::Frame::kBorderless;
   design.width = 2940;
   design.height = 1695;
   design.neverActive = true;

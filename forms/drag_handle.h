@@ -7,7 +7,7 @@ namespace forms {
 /// A plain surface for dragging with the mouse: the grip of a window, or a splitter.
 class DragHandle : public Widget {
  public:
-  enum class Look { grip, line };
+  enum class Look { kGrip, kLine };
   DragHandle(Form& form, Look look, const WidgetBox& box);
 
   /// Makes the mouse take hold up to `twips` (form's DPI) left and right of the widget too: a

@@ -80,7 +80,7 @@ void DragHandle::paint() const {
   RECT client{};
   GetClientRect(handle(), &client);
   FillRect(dc, &client, GetSysColorBrush(dragged_ ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
-  if (look_ == Look::grip) drawGrip(dc, client, form().foreColor(), form().dpi());
+  if (look_ == Look::kGrip) drawGrip(dc, client, form().foreColor(), form().dpi());
   EndPaint(handle(), &paint);
   form().raisePaint();
 }

@@ -11,10 +11,10 @@
 namespace forms {
 
 enum class Frame {
-  borderless,
-  sizable,
-  fixed,
-  dialog,  ///< fixed, for a form that is shown with an owner
+  kBorderless,
+  kSizable,
+  kFixed,
+  kDialog,  ///< fixed, for a form that is shown with an owner
 };
 
 /// Resource number of the program's own icon: the first, which Explorer takes too.
@@ -24,7 +24,7 @@ inline constexpr int kProgramIcon = 1;
 struct FormDesign {
   std::u16string name;  ///< "frmSub"; its window class is "Lexilo.frmSub"
   std::u16string caption;
-  Frame frame = Frame::sizable;
+  Frame frame = Frame::kSizable;
   int width = 0;
   int height = 0;
   int leastWidth = 0;  ///< the user cannot make a sizable form smaller

@@ -205,7 +205,7 @@ void Form::adjustPlacement(WINDOWPOS& position) const {
 }
 
 void Form::limitTracking(MINMAXINFO& limits) const {
-  if (design_.frame != Frame::sizable) return;
+  if (design_.frame != Frame::kSizable) return;
   const SIZE largest = outerPixels(kMaxSize, kMaxSize);
   limits.ptMaxTrackSize = {largest.cx, largest.cy};
   limits.ptMaxSize = {std::min(limits.ptMaxSize.x, largest.cx),

@@ -14,15 +14,15 @@ namespace {
 
 DWORD styleOf(const FormDesign& design) {
   switch (design.frame) {
-    case Frame::sizable:
+    case Frame::kSizable:
       return WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
-    case Frame::fixed:
+    case Frame::kFixed:
       return WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
-    case Frame::dialog:
+    case Frame::kDialog:
       // As the system's own dialogs: an owned window of another kind is not one to which every
       // window manager gives the keyboard.
       return WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
-    case Frame::borderless:
+    case Frame::kBorderless:
       break;
   }
   return WS_POPUP | WS_CLIPCHILDREN;
@@ -32,7 +32,7 @@ DWORD exStyleOf(const FormDesign& design) {
   DWORD style = design.topmost ? WS_EX_TOPMOST : 0;
   if (design.neverActive) style |= WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW;
   if (!design.taskbarButton) style |= WS_EX_TOOLWINDOW;
-  if (design.frame == Frame::dialog) style |= WS_EX_DLGMODALFRAME;
+  if (design.frame == Frame::kDialog) style |= WS_EX_DLGMODALFRAME;
   return style;
 }
 
@@ -109,9 +109,9 @@ Form* Form::of(HWND window) {
 }
 
 Rank Form::rank() const {
-  if (design_.neverActive) return Rank::notice;
-  if (!design_.topmost) return Rank::window;
-  return design_.floating ? Rank::floating : Rank::bar;
+  if (design_.neverActive) return Rank::kNotice;
+  if (!design_.topmost) return Rank::kWindow;
+  return design_.floating ? Rank::kFloating : Rank::kBar;
 }
 
 void Form::load() {
@@ -151,9 +151,9 @@ void Form::unload() {
   Registry::instance().retire(*this);
 }
 
-int Form::frameWidth() const { return design_.frame == Frame::borderless ? 0 : kFrameWidth; }
+int Form::frameWidth() const { return design_.frame == Frame::kBorderless ? 0 : kFrameWidth; }
 
-int Form::frameHeight() const { return design_.frame == Frame::borderless ? 0 : kFrameHeight; }
+int Form::frameHeight() const { return design_.frame == Frame::kBorderless ? 0 : kFrameHeight; }
 
 SIZE Form::outerPixels(int width, int height, int dpi) const {
   const SIZE frame = win32::frameOf(styleOf(design_), exStyleOf(design_), dpi);
@@ -206,8 +206,8 @@ void Form::centre() {
   const PixelBox work = toBox(win32::monitorOf(handle_).work);
   const PixelBox middle = centred(place(), work, work);
   // Beside all of them; failing that, where at least the smaller ones do not lie on it.
-  for (const Rank lowest : {Rank::floating, Rank::bar}) {
-    if (const auto free = placeBeside(middle, work, placesKeptOnTop(lowest, Rank::bar))) {
+  for (const Rank lowest : {Rank::kFloating, Rank::kBar}) {
+    if (const auto free = placeBeside(middle, work, placesKeptOnTop(lowest, Rank::kBar))) {
       setPlace(*free);
       return;
     }

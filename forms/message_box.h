@@ -5,7 +5,7 @@
 
 namespace forms {
 
-enum class MessageIcon { none, critical, exclamation, information };
+enum class MessageIcon { kNone, kCritical, kExclamation, kInformation };
 
 /// Shows a modal message box with an OK button and returns when it is closed. It is owned by our
 /// active window, disables all windows of the program, and raises no focus events. `title` may be

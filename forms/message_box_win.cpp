@@ -11,13 +11,13 @@ namespace {
 
 UINT iconFlag(MessageIcon icon) {
   switch (icon) {
-    case MessageIcon::critical:
+    case MessageIcon::kCritical:
       return MB_ICONERROR;
-    case MessageIcon::exclamation:
+    case MessageIcon::kExclamation:
       return MB_ICONEXCLAMATION;
-    case MessageIcon::information:
+    case MessageIcon::kInformation:
       return MB_ICONINFORMATION;
-    case MessageIcon::none:
+    case MessageIcon::kNone:
       break;
   }
   return 0;
@@ -65,7 +65,7 @@ void showMessage(const std::u16string& text, MessageIcon icon, const std::u16str
 }
 
 void showErrorBox(const std::exception_ptr& error) {
-  showMessage(describe(error), MessageIcon::critical);
+  showMessage(describe(error), MessageIcon::kCritical);
 }
 
 }  // namespace forms

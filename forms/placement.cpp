@@ -66,14 +66,14 @@ Raise raised(std::span<const std::optional<Rank>> stack, std::optional<std::size
   for (std::size_t i = 0; i < stack.size(); ++i) {
     if (isHigher(stack[i])) higher = i + 1;
   }
-  if (!self) return {Raise::Where::top};
+  if (!self) return {Raise::Where::kTop};
   if (higher <= *self && std::ranges::all_of(stack.first(*self), isHigher)) {
-    return {Raise::Where::stays};
+    return {Raise::Where::kStays};
   }
   const bool clear =
       std::ranges::all_of(stack.first(higher), [](const auto& one) { return one.has_value(); });
-  if (higher == 0 || !clear) return {Raise::Where::top};
-  return {Raise::Where::behind, higher - 1};
+  if (higher == 0 || !clear) return {Raise::Where::kTop};
+  return {Raise::Where::kBehind, higher - 1};
 }
 
 }  // namespace forms

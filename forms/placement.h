@@ -34,20 +34,20 @@ std::optional<PixelBox> placeBeside(const PixelBox& wanted, const PixelBox& work
 
 /// Which of our topmost windows lies above which.
 enum class Rank {
-  floating,  ///< below all others of ours
-  window,    ///< an ordinary window that is topmost for the time being
-  bar,       ///< above every window
-  notice,    ///< above all of them: popups, menus, message boxes
+  kFloating,  ///< below all others of ours
+  kWindow,    ///< an ordinary window that is topmost for the time being
+  kBar,       ///< above every window
+  kNotice,    ///< above all of them: popups, menus, message boxes
 };
 
 /// Where a window goes that is brought to the top.
 struct Raise {
   enum class Where {
-    stays,   ///< it is in its place already
-    top,     ///< above all windows; what is to stay above it has to follow
-    behind,  ///< behind the window of index `behind`
+    kStays,   ///< it is in its place already
+    kTop,     ///< above all windows; what is to stay above it has to follow
+    kBehind,  ///< behind the window of index `behind`
   };
-  Where where = Where::top;
+  Where where = Where::kTop;
   std::size_t behind = 0;
   bool operator==(const Raise&) const = default;
 };

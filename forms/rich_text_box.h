@@ -9,11 +9,12 @@ namespace forms {
 class RichTextBox : public Widget {
  public:
   enum class Look {
-    pane,     ///< a sunken part of a window
-    toolTip,  ///< all of a window that looks like a tool tip: its colours, a thin edge, no tab stop
+    kPane,     ///< a sunken part of a window
+    kToolTip,  ///< all of a window that looks like a tool tip: its colours, a thin edge, no tab
+               ///< stop
   };
 
-  RichTextBox(Form& form, const WidgetBox& box, Look look = Look::pane);
+  RichTextBox(Form& form, const WidgetBox& box, Look look = Look::kPane);
 
   /// Replaces the text; all of it takes the default colour, nothing is selected.
   void setText(const std::u16string& text);

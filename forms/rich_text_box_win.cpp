@@ -28,7 +28,7 @@ constexpr DWORD kStyle = ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_NOHIDE
 constexpr int kToolTipMargin = 60;
 
 ControlKind kindOf(RichTextBox::Look look) {
-  if (look == RichTextBox::Look::toolTip) return {richEditClass(), kStyle | WS_BORDER, 0};
+  if (look == RichTextBox::Look::kToolTip) return {richEditClass(), kStyle | WS_BORDER, 0};
   return {richEditClass(), kStyle | WS_TABSTOP, WS_EX_CLIENTEDGE};
 }
 
@@ -47,7 +47,7 @@ wchar_t* givenText(UINT message, WPARAM wParam, LPARAM lParam) {
 RichTextBox::RichTextBox(Form& form, const WidgetBox& box, Look look)
     : Widget(form, kindOf(look), box), look_(look) {
   send(EM_SETUNDOLIMIT, 0);
-  if (look == Look::toolTip) {
+  if (look == Look::kToolTip) {
     send(EM_SETBKGNDCOLOR, FALSE, static_cast<LPARAM>(GetSysColor(COLOR_INFOBK)));
     keepMargins();
   } else {
@@ -159,7 +159,7 @@ LRESULT RichTextBox::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_SIZE: {
       const LRESULT result = Widget::handleMessage(message, wParam, lParam);
-      if (look_ == Look::toolTip) keepMargins();
+      if (look_ == Look::kToolTip) keepMargins();
       return result;
     }
     default:

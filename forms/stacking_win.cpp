@@ -49,7 +49,7 @@ HWND rootOwner(HWND window) {
 
 Rank rankOf(HWND window) {
   const Form* form = Form::of(window);
-  return form == nullptr ? Rank::notice : form->rank();
+  return form == nullptr ? Rank::kNotice : form->rank();
 }
 
 /// The topmost windows that concern a form, as raised() takes them.
@@ -83,7 +83,7 @@ Stack stackAround(const Form& form) {
 }
 
 bool isCoveredByFloating(const Form& form) {
-  return std::ranges::any_of(placesKeptOnTop(Rank::floating, Rank::floating),
+  return std::ranges::any_of(placesKeptOnTop(Rank::kFloating, Rank::kFloating),
                              [&](const PixelBox& place) { return meet(place, form.place()); });
 }
 
@@ -177,7 +177,7 @@ bool hasForeignWindowManager() {
 
 void raiseBarsAbove(const Form& floating) {
   for (Form* bar : Registry::instance().all()) {
-    if (bar->rank() != Rank::bar || !isShown(*bar) || !meet(bar->place(), floating.place()) ||
+    if (bar->rank() != Rank::kBar || !isShown(*bar) || !meet(bar->place(), floating.place()) ||
         Form::isRaisingHeld()) {
       continue;
     }
@@ -200,11 +200,11 @@ std::optional<HWND> insertAfter(const Form& form) {
   const Stack stack = stackAround(form);
   const Raise raise = raised(stack.ranks, stack.self, form.rank());
   switch (raise.where) {
-    case Raise::Where::stays:
+    case Raise::Where::kStays:
       return std::nullopt;
-    case Raise::Where::behind:
+    case Raise::Where::kBehind:
       return stack.windows[raise.behind];
-    case Raise::Where::top:
+    case Raise::Where::kTop:
       break;
   }
   return HWND_TOPMOST;
@@ -245,7 +245,7 @@ void stackingMayHaveChanged() {
 }
 
 void barsMayBeCovered(const Form& form) {
-  if (form.rank() != Rank::floating || !hasForeignWindowManager()) return;
+  if (form.rank() != Rank::kFloating || !hasForeignWindowManager()) return;
   // Once the window manager has had the time for it.
   constexpr UINT kItsTime = 100;  // ms
   static UINT_PTR timer = 0;
@@ -261,8 +261,8 @@ void barsMayBeCovered(const Form& form) {
 void settleStacking() {
   HWND active = GetActiveWindow();
   for (Form* form : Registry::instance().all()) {
-    if (form->rank() == Rank::floating && isShown(*form)) raiseWhatIsAbove(*form);
-    if (form->rank() != Rank::window || GetWindow(form->handle(), GW_OWNER) != nullptr) continue;
+    if (form->rank() == Rank::kFloating && isShown(*form)) raiseWhatIsAbove(*form);
+    if (form->rank() != Rank::kWindow || GetWindow(form->handle(), GW_OWNER) != nullptr) continue;
     const bool isActive = active != nullptr && rootOwner(active) == form->handle();
     const bool wanted = isActive && isShown(*form) && wouldBeCovered(*form);
     if (wanted && form->isRaisedForNow()) {

@@ -8,11 +8,11 @@ namespace forms {
 class TextBox : public Widget {
  public:
   enum class Look {
-    line,
-    note,  ///< wraps its text and cannot be typed into
+    kLine,
+    kNote,  ///< wraps its text and cannot be typed into
   };
 
-  TextBox(Form& form, const WidgetBox& box, Look look = Look::line);
+  TextBox(Form& form, const WidgetBox& box, Look look = Look::kLine);
 
   [[nodiscard]] std::u16string text() const;
   /// Raises onChange like typing does.

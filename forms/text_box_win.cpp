@@ -6,7 +6,7 @@ namespace forms {
 namespace {
 
 DWORD styleOf(TextBox::Look look) {
-  return look == TextBox::Look::line ? ES_AUTOHSCROLL : ES_MULTILINE | ES_READONLY;
+  return look == TextBox::Look::kLine ? ES_AUTOHSCROLL : ES_MULTILINE | ES_READONLY;
 }
 
 }  // namespace
@@ -32,7 +32,7 @@ LRESULT TextBox::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const LRESULT result = Widget::handleMessage(message, wParam, lParam);
   // A box of several lines would keep Tab, Enter and Esc for itself.
   constexpr LRESULT kKeysOfTyping = DLGC_WANTALLKEYS | DLGC_WANTTAB;
-  const bool note = message == WM_GETDLGCODE && look_ == Look::note;
+  const bool note = message == WM_GETDLGCODE && look_ == Look::kNote;
   return note ? result & ~kKeysOfTyping : result;
 }
 

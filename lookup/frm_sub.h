@@ -24,7 +24,7 @@ class frmSub : public forms::Form {
   forms::TextBox txtInput{*this, {750, 120, 1750, 330}};
   forms::Button cmdExit{*this, u"退出", {2600, 120, 750, 330}};
   forms::TreeView TreeView1{*this, {30, 600, 2000, 2200}};
-  forms::DragHandle Image1{*this, forms::DragHandle::Look::line, {2030, 600, 20, 2200}};
+  forms::DragHandle Image1{*this, forms::DragHandle::Look::kLine, {2030, 600, 20, 2200}};
   forms::RichTextBox txtOut{*this, {2050, 600, 1300, 2200}};
   data::DataControl Adodc1;
   forms::PopupMenu mnuOper{u"菜单操作"};

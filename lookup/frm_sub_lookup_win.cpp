@@ -57,7 +57,7 @@ void frmSub::fillList(data::DataControl& control, forms::TreeView& list) try {
 std::u16string frmSub::findword(std::u16string_view EorC, std::u16string_view word) try {
   return lookup_.findword(EorC, word, Adodc1);
 } catch (const std::exception&) {
-  forms::showMessage(u"查词出错！", forms::MessageIcon::critical);
+  forms::showMessage(u"查词出错！", forms::MessageIcon::kCritical);
   return {};
 }
 
@@ -71,7 +71,7 @@ std::u16string frmSub::showMeaning(std::u16string& word, data::DataControl& cont
   return txtOut.text();
 } catch (const std::exception&) {
   control.recordset().close();
-  forms::showMessage(u"显示词义出错！", forms::MessageIcon::critical);
+  forms::showMessage(u"显示词义出错！", forms::MessageIcon::kCritical);
   return {};
 }
 

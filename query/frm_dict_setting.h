@@ -31,7 +31,7 @@ class frmdictSetting : public forms::Form {
   frmdictSetting();
 
   query::DefaultList TreeView2{*this, {}};
-  forms::TextBox Text3{*this, {}, forms::TextBox::Look::note};
+  forms::TextBox Text3{*this, {}, forms::TextBox::Look::kNote};
   data::DataControl Adodc1;
 
  private:

@@ -35,11 +35,11 @@ forms::FormDesign design() {
 }
 
 void tellToChooseDictionary() {
-  forms::showMessage(u"请选择字典！", forms::MessageIcon::exclamation);
+  forms::showMessage(u"请选择字典！", forms::MessageIcon::kExclamation);
 }
 
 void tellUnexpectedError() {
-  forms::showMessage(u"出现异常错误，请重新启动程序或安装程序！", forms::MessageIcon::critical);
+  forms::showMessage(u"出现异常错误，请重新启动程序或安装程序！", forms::MessageIcon::kCritical);
 }
 
 }  // namespace
@@ -123,7 +123,7 @@ void frmMain::cmdSpc_Click() { forms::single<frmSpc>().show(this); }
 void frmMain::search(std::u16string_view mode, std::int16_t maxRows) {
   std::u16string text = txtInput.text();
   if (text.empty()) {
-    forms::showMessage(u"查询条件不为空！", forms::MessageIcon::exclamation);
+    forms::showMessage(u"查询条件不为空！", forms::MessageIcon::kExclamation);
     return;
   }
   if (curTable.empty()) {
@@ -172,7 +172,7 @@ void frmMain::runQuery(data::DataControl& recordSource, std::u16string_view sql)
   recordSource.setRecordSource(sql);
   recordSource.refresh();
   if (recordSource.recordset().recordCount() == 0) {
-    forms::showMessage(u"Sorry，没有该词条！", forms::MessageIcon::information);
+    forms::showMessage(u"Sorry，没有该词条！", forms::MessageIcon::kInformation);
   }
 }
 

@@ -12,7 +12,7 @@ forms::FormDesign design() {
   forms::FormDesign design;
   design.name = u"frmSpc";
   design.caption = u"特殊查询";
-  design.frame = forms::Frame::dialog;
+  design.frame = forms::Frame::kDialog;
   design.width = 4140;
   design.height = 2175;
   design.iconResource = forms::kProgramIcon;
@@ -40,7 +40,7 @@ void frmSpc::cmdOK_Click() {
   std::u16string e(text::trimBlanks(txtE.text()));
   std::u16string c(text::trimBlanks(txtC.text()));
   if (e.empty() || c.empty()) {
-    forms::showMessage(u"请在英文和中文的文本框里输入内容！", forms::MessageIcon::exclamation);
+    forms::showMessage(u"请在英文和中文的文本框里输入内容！", forms::MessageIcon::kExclamation);
     return;
   }
   forms::single<frmMain>().SpcSearch(e, c);

@@ -112,7 +112,7 @@ void measureLoad(const Page& page, const harness::Lexilo& lexilo) {
   printLoad("  over a blank of Notepad", loadOver(lexilo.process()), 3);
   moveAway(popup);
   printLoad("  over the desktop", loadOver(lexilo.process()), 1);
-  lexilo.click(harness::ToolbarButton::capture);
+  lexilo.click(harness::ToolbarButton::kCapture);
   harness::input::moveTo(page.blank());
   printLoad("  over a blank of Notepad, capture off", loadOver(lexilo.process()), 0.5);
 }

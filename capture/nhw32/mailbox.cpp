@@ -7,7 +7,7 @@ namespace nhw32 {
 void ProbeMailbox::arm(const Question& question, WindowId host) {
   {
     const std::scoped_lock lock(mutex_);
-    state_ = State::armed;
+    state_ = State::kArmed;
     host_ = host;
     word_ = {};
     inWorkMayBeAdopted_ = inWorkMayBeAdopted_ && inWork_ == question;
@@ -21,27 +21,27 @@ std::optional<WindowId> ProbeMailbox::disarm() {
   const std::scoped_lock lock(mutex_);
   waiting_.reset();
   inWorkCounts_ = false;
-  const bool announced = state_ == State::announced;
-  state_ = announced ? State::fetched : State::idle;
+  const bool announced = state_ == State::kAnnounced;
+  state_ = announced ? State::kFetched : State::kIdle;
   if (!announced) word_ = {};
   return announced ? std::optional(host_) : std::nullopt;
 }
 
 void ProbeMailbox::withdraw() {
   const std::scoped_lock lock(mutex_);
-  if (state_ != State::fetched) return;
-  state_ = State::idle;
+  if (state_ != State::kFetched) return;
+  state_ = State::kIdle;
   word_ = {};
 }
 
 bool ProbeMailbox::armed() const {
   const std::scoped_lock lock(mutex_);
-  return state_ == State::armed || state_ == State::announced;
+  return state_ == State::kArmed || state_ == State::kAnnounced;
 }
 
 std::optional<Word> ProbeMailbox::word() const {
   const std::scoped_lock lock(mutex_);
-  const bool there = state_ == State::announced || state_ == State::fetched;
+  const bool there = state_ == State::kAnnounced || state_ == State::kFetched;
   return there ? std::optional(word_) : std::nullopt;
 }
 
@@ -63,9 +63,9 @@ void ProbeMailbox::deliver(const Answer& answer) {
   const bool counts = std::exchange(inWorkCounts_, false);
   inWork_.reset();
   inWorkMayBeAdopted_ = false;
-  if (!counts || answer.outcome != Outcome::word) return;
+  if (!counts || answer.outcome != Outcome::kWord) return;
   word_ = answer.word;
-  state_ = announce_(host_) ? State::announced : State::idle;
+  state_ = announce_(host_) ? State::kAnnounced : State::kIdle;
 }
 
 void ProbeMailbox::close() {
@@ -75,7 +75,7 @@ void ProbeMailbox::close() {
     waiting_.reset();
     inWorkCounts_ = false;
     inWorkMayBeAdopted_ = false;
-    state_ = State::idle;
+    state_ = State::kIdle;
     word_ = {};
   }
   changed_.notify_one();

@@ -55,12 +55,12 @@ class ProbeMailbox {
   bool reopen();
 
  private:
-  enum class State { idle, armed, announced, fetched };
+  enum class State { kIdle, kArmed, kAnnounced, kFetched };
 
   const Announce announce_;
   mutable std::mutex mutex_;
   std::condition_variable changed_;
-  State state_ = State::idle;
+  State state_ = State::kIdle;
   WindowId host_ = 0;
   std::optional<Question> waiting_;
   std::optional<Question> inWork_;

@@ -27,14 +27,14 @@ bool isEdit(std::u16string_view name) {
 }  // namespace
 
 ReaderKind readerKindFor(std::u16string_view className, std::u16string_view realClassName) {
-  if (isEdit(realClassName) || isEdit(className)) return ReaderKind::edit;
+  if (isEdit(realClassName) || isEdit(className)) return ReaderKind::kEdit;
   const bool rich = className.find(u"RichEdit") != std::u16string_view::npos;
-  return rich ? ReaderKind::richEdit : ReaderKind::uia;
+  return rich ? ReaderKind::kRichEdit : ReaderKind::kUia;
 }
 
 Outcome outcomeOfSendTimeout(std::uint32_t lastError) {
-  return lastError == kErrorTimeout || lastError == kErrorSuccess ? Outcome::outOfTime
-                                                                  : Outcome::refused;
+  return lastError == kErrorTimeout || lastError == kErrorSuccess ? Outcome::kOutOfTime
+                                                                  : Outcome::kRefused;
 }
 
 bool Backoff::mayAsk(WindowId window, Time now) const {
@@ -43,7 +43,7 @@ bool Backoff::mayAsk(WindowId window, Time now) const {
 }
 
 void Backoff::note(WindowId window, Outcome outcome, Time now) {
-  if (outcome == Outcome::refused) return;
+  if (outcome == Outcome::kRefused) return;
   Record record{.window = window};
   if (const auto old = std::ranges::find(records_, window, &Record::window);
       old != records_.end()) {
@@ -51,7 +51,7 @@ void Backoff::note(WindowId window, Outcome outcome, Time now) {
     records_.erase(old);
   }
   // Any other outcome is an answer in time: without a record the window starts afresh.
-  if (outcome != Outcome::outOfTime) return;
+  if (outcome != Outcome::kOutOfTime) return;
   ++record.timeouts;
   if (record.timeouts >= kMaxTimeouts) {
     record.delay = std::clamp<std::chrono::seconds>(2 * record.delay, kMinDelay, kMaxDelay);

@@ -16,7 +16,7 @@ namespace nhw32 {
 
 /// The kinds of reader: by the messages of edit controls, by those of rich edit controls, by UI
 /// Automation.
-enum class ReaderKind { edit, richEdit, uia };
+enum class ReaderKind { kEdit, kRichEdit, kUia };
 
 /// Returns the reader for a window by its class name and its real class name (RealGetWindowClass:
 /// the system class that the window's class was derived from; may be empty).
@@ -62,7 +62,7 @@ class Backoff {
 };
 
 /// Passes questions on to another reader, except for windows that are backed off, which it answers
-/// with Outcome::none.
+/// with Outcome::kNone.
 class BackoffReader : public WordReader {
  public:
   explicit BackoffReader(std::unique_ptr<WordReader> reader,

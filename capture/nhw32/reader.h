@@ -46,15 +46,15 @@ struct Word {
 
 /// How asking a window ended.
 enum class Outcome {
-  word,       ///< the word was found
-  none,       ///< there is no word, or the window does not support reading
-  refused,    ///< the window may not be asked, or no longer exists
-  outOfTime,  ///< the window did not answer in time
+  kWord,       ///< the word was found
+  kNone,       ///< there is no word, or the window does not support reading
+  kRefused,    ///< the window may not be asked, or no longer exists
+  kOutOfTime,  ///< the window did not answer in time
 };
 
 struct Answer {
-  Outcome outcome = Outcome::none;
-  Word word;  ///< only for Outcome::word
+  Outcome outcome = Outcome::kNone;
+  Word word;  ///< only for Outcome::kWord
 };
 
 /// Reads words from windows of any program. Made, used and destroyed by one worker thread.
@@ -62,7 +62,7 @@ class WordReader {
  public:
   virtual ~WordReader() = default;
   /// Returns the word under the question's point. Errors of the window are reported by the outcome;
-  /// the caller treats an exception as Outcome::none. Returns within the reader's own time limit.
+  /// the caller treats an exception as Outcome::kNone. Returns within the reader's own time limit.
   virtual Answer wordAt(const Question& question) = 0;
 };
 

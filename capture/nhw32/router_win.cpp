@@ -15,13 +15,13 @@ class WindowReader : public WordReader {
   Answer wordAt(const Question& question) override try {
     auto* const window = reinterpret_cast<HWND>(question.window);
     switch (readerKindFor(classNameOf(window), realClassOf(window))) {
-      case ReaderKind::edit:
+      case ReaderKind::kEdit:
         if (hasLines(question.window)) return editWordAt(question);
         break;
-      case ReaderKind::richEdit:
+      case ReaderKind::kRichEdit:
         if (hasLines(question.window)) return richEditWordAt(question);
         break;
-      case ReaderKind::uia:
+      case ReaderKind::kUia:
         break;
     }
     return uia_->wordAt(question);

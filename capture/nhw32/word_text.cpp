@@ -5,7 +5,7 @@
 namespace nhw32 {
 namespace {
 
-enum class Kind { other, latin, han, joint };
+enum class Kind { kOther, kLatin, kHan, kJoint };
 
 bool within(char16_t unit, char16_t first, char16_t last) { return unit >= first && unit <= last; }
 
@@ -24,25 +24,25 @@ bool isLatin(char16_t unit) {
 }
 
 Kind kindOf(char16_t unit) {
-  if (isJoint(unit)) return Kind::joint;
-  if (isLatin(unit)) return Kind::latin;
-  return text::isHan(unit) ? Kind::han : Kind::other;
+  if (isJoint(unit)) return Kind::kJoint;
+  if (isLatin(unit)) return Kind::kLatin;
+  return text::isHan(unit) ? Kind::kHan : Kind::kOther;
 }
 
 Kind kindAt(std::u16string_view text, std::size_t index) {
-  return index < text.size() ? kindOf(text[index]) : Kind::other;
+  return index < text.size() ? kindOf(text[index]) : Kind::kOther;
 }
 
 /// Whether the character at `index` belongs to a word of Latin letters. At index 0, `index - 1`
 /// wraps to SIZE_MAX, which kindAt treats as past the end.
 bool inLatinWord(std::u16string_view text, std::size_t index) {
   const Kind kind = kindAt(text, index);
-  return kind == Kind::latin || (kind == Kind::joint && kindAt(text, index - 1) == Kind::latin &&
-                                 kindAt(text, index + 1) == Kind::latin);
+  return kind == Kind::kLatin || (kind == Kind::kJoint && kindAt(text, index - 1) == Kind::kLatin &&
+                                  kindAt(text, index + 1) == Kind::kLatin);
 }
 
 bool inHanWord(std::u16string_view text, std::size_t index) {
-  return kindAt(text, index) == Kind::han;
+  return kindAt(text, index) == Kind::kHan;
 }
 
 /// Extends a range from `index` in both directions while the characters belong to the word.

@@ -100,7 +100,7 @@ TEST_F(Capture, WindowsThatDoNotAnswerHoldNothingUp) {
     for (LONG top = 300; top < 300 + 60 * kWindows; top += 60) {
       input::moveTo({310, top + 8});
       answers.of(toolbar, Milliseconds{250});
-      presses.push_back(timeToPress(lexilo.button(ToolbarButton::capture)));
+      presses.push_back(timeToPress(lexilo.button(ToolbarButton::kCapture)));
     }
     EXPECT_FALSE(popup.isUp());
     input::moveTo({610, 308});
@@ -128,7 +128,7 @@ TEST_F(Capture, AStoppedProgramKeepsNobodyWaiting) {
     Answers answers;
     answers.of(lexilo.toolbar(), Milliseconds{400});
     EXPECT_FALSE(popup.isUp());
-    const Milliseconds press = timeToPress(lexilo.button(ToolbarButton::capture));
+    const Milliseconds press = timeToPress(lexilo.button(ToolbarButton::kCapture));
     return prompt(answers, usual) && press <= kAnswerTime;
   };
   EXPECT_TRUE(promptAtLeastOnce(measure));
@@ -143,7 +143,7 @@ TEST_F(Capture, AStoppedProgramIsReadAgainOnceItGoesOn) {
     const Stopped stopped("program-to-be-stopped");
     input::moveTo({place.x + 3, place.y + 6});
     EXPECT_TRUE(popup.staysAway(400));
-    lexilo.click(ToolbarButton::quickLookup);
+    lexilo.click(ToolbarButton::kQuickLookup);
     const QuickLookup window(lexilo.process());
     window.close();
   }

@@ -211,9 +211,9 @@ TEST_F(Capture, SwitchedOffItReadsNothingUntilSwitchedOnAgain) {
   notepad.setText(L"database kernel network");
   const auto toggle = [&](bool byMenu) {
     if (byMenu) {
-      lexilo.choose(MenuItem::capture);
+      lexilo.choose(MenuItem::kCapture);
     } else {
-      lexilo.click(ToolbarButton::capture);
+      lexilo.click(ToolbarButton::kCapture);
     }
   };
   for (const bool byMenu : {false, true}) {

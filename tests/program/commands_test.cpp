@@ -26,30 +26,30 @@ class Commands : public ::testing::Test {
 };
 
 TEST_F(Commands, TheMenuOpensEveryWindow) {
-  lexilo.choose(MenuItem::multiFunction);
+  lexilo.choose(MenuItem::kMultiFunction);
   waitForForm(lexilo.process(), L"frmMain");
-  lexilo.choose(MenuItem::quickLookup);
+  lexilo.choose(MenuItem::kQuickLookup);
   waitForForm(lexilo.process(), L"frmSub");
-  lexilo.choose(MenuItem::dictionarySettings);
+  lexilo.choose(MenuItem::kDictionarySettings);
   waitForForm(lexilo.process(), L"frmdictSetting");
-  lexilo.choose(MenuItem::about);
+  lexilo.choose(MenuItem::kAbout);
   waitForForm(lexilo.process(), L"frmAbout");
   // Open ones come to the front again.
-  lexilo.choose(MenuItem::multiFunction);
+  lexilo.choose(MenuItem::kMultiFunction);
   waitForForm(lexilo.process(), L"frmMain");
 }
 
 TEST_F(Commands, TheButtonsOpenTheSameWindows) {
-  lexilo.click(ToolbarButton::multiFunction);
+  lexilo.click(ToolbarButton::kMultiFunction);
   HWND window = waitForForm(lexilo.process(), L"frmMain");
-  lexilo.click(ToolbarButton::dictionarySettings);
+  lexilo.click(ToolbarButton::kDictionarySettings);
   waitForForm(lexilo.process(), L"frmdictSetting");
-  lexilo.choose(MenuItem::multiFunction);
+  lexilo.choose(MenuItem::kMultiFunction);
   EXPECT_EQ(waitForForm(lexilo.process(), L"frmMain"), window);
 }
 
 TEST_F(Commands, TheAboutBoxSaysWhatItIsAndCloses) {
-  lexilo.choose(MenuItem::about);
+  lexilo.choose(MenuItem::kAbout);
   HWND box = waitForForm(lexilo.process(), L"frmAbout");
   saveScreenshot("build/shots/about.png");
   std::wstring said;
@@ -68,13 +68,13 @@ TEST_F(Commands, TheAboutBoxSaysWhatItIsAndCloses) {
 TEST_F(Commands, TheMenusHelpStartsTheBrowserWithThePageThatIsThere) {
   const auto help = AppFolder::withFullDictionary().path() / "help" / "help.htm";
   ASSERT_TRUE(std::filesystem::exists(help));
-  lexilo.choose(MenuItem::help);
+  lexilo.choose(MenuItem::kHelp);
   const Browser browser;
   browser.waitForAddress(L"file://" + help.wstring());
 }
 
 TEST_F(Commands, TheWebSiteIsOpenedInTheBrowser) {
-  lexilo.choose(MenuItem::homePage);
+  lexilo.choose(MenuItem::kHomePage);
   const Browser browser;
   browser.waitForAddress(L"" LEXILO_HOME_PAGE);
 }
@@ -83,7 +83,7 @@ TEST(CommandsElsewhere, HelpFromAFolderWithBlanksIsTheStatedPage) {
   const AppFolder folder = AppFolder::withSmallDictionary(L"my programs and Lexilo 1.3");
   const Lexilo lexilo(folder);
   lexilo.waitUntilSeen();
-  lexilo.choose(MenuItem::help);
+  lexilo.choose(MenuItem::kHelp);
   const Browser browser;
   browser.waitForAddress(L"file://" + (folder.path() / L"help" / L"help.htm").wstring());
 }
@@ -116,7 +116,7 @@ RECT differenceOf(const std::vector<COLORREF>& one, const std::vector<COLORREF>&
 TEST_F(Commands, TheMenuShowsByItsCheckMarkWhetherCaptureIsOn) {
   SIZE size{};
   const std::vector<COLORREF> on = lookOf(lexilo, size);
-  lexilo.click(ToolbarButton::capture);
+  lexilo.click(ToolbarButton::kCapture);
   const std::vector<COLORREF> off = lookOf(lexilo, size);
   ASSERT_EQ(on.size(), off.size());
   const RECT mark = differenceOf(on, off, size.cx);
@@ -125,9 +125,9 @@ TEST_F(Commands, TheMenuShowsByItsCheckMarkWhetherCaptureIsOn) {
   EXPECT_LT(mark.right, size.cx / 3);
   EXPECT_GT(mark.top, size.cy / 6);
   EXPECT_LT(mark.bottom, size.cy * 2 / 5);
-  lexilo.click(ToolbarButton::capture);
+  lexilo.click(ToolbarButton::kCapture);
   EXPECT_EQ(lookOf(lexilo, size), on);
-  lexilo.choose(MenuItem::capture);
+  lexilo.choose(MenuItem::kCapture);
   waitFor("the menu to close", [&] { return !popup_menu::isOpen(lexilo.process()); });
   EXPECT_EQ(lookOf(lexilo, size), off);
 }
@@ -164,11 +164,11 @@ TEST_F(Commands, ExitUnloadsNoWindow) {
 TEST_F(Commands, ExitEndsItAtOnceWithEveryWindowOpen) {
   const MultiQuery main(lexilo);
   const SpecialQuery dialog(lexilo.process(), main);
-  lexilo.click(ToolbarButton::dictionarySettings);
+  lexilo.click(ToolbarButton::kDictionarySettings);
   waitForForm(lexilo.process(), L"frmdictSetting");
-  lexilo.choose(MenuItem::quickLookup);
+  lexilo.choose(MenuItem::kQuickLookup);
   waitForForm(lexilo.process(), L"frmSub");
-  lexilo.choose(MenuItem::about);
+  lexilo.choose(MenuItem::kAbout);
   waitForForm(lexilo.process(), L"frmAbout");
   EXPECT_EQ(lexilo.exit(), 0U);
 }

@@ -75,7 +75,7 @@ void useAndEnd(const AppFolder& folder) {
   lexilo.waitUntilSeen();
   insist(
       "the window", lexilo,
-      [&] { input::click(centreOf(rectOf(lexilo.button(ToolbarButton::quickLookup)))); },
+      [&] { input::click(centreOf(rectOf(lexilo.button(ToolbarButton::kQuickLookup)))); },
       [&] { return QuickLookup::find(lexilo.process()) != nullptr; });
   // Messages may lie before it and come up at any moment, so that it need not be in front.
   const QuickLookup window(QuickLookup::find(lexilo.process()));
@@ -155,7 +155,7 @@ TEST_F(BrokenDatabase, WithoutTheTableOfTheMeanings) {
   folder.renameTables("cdict", "cdicu");
   const Lexilo lexilo(folder);
   lexilo.waitUntilSeen();
-  lexilo.click(ToolbarButton::quickLookup);
+  lexilo.click(ToolbarButton::kQuickLookup);
   const ShownMessage box = waitForMessageBox(lexilo.process());
   EXPECT_EQ(box.text, L"显示词义出错！");
   EXPECT_TRUE(box.criticalIcon);

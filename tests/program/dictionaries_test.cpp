@@ -319,7 +319,7 @@ TEST_F(OwnDictionaries, WithoutAShownOneTheUserIsAskedToChoose) {
   change("update [Index] set Isshow=0");
   const Lexilo lexilo(folder);
   lexilo.waitUntilSeen();
-  lexilo.click(ToolbarButton::multiFunction);
+  lexilo.click(ToolbarButton::kMultiFunction);
   const ShownMessage box = waitForMessageBox(lexilo.process());
   EXPECT_EQ(box.text, L"请选择字典！");
   box.answer();
@@ -355,12 +355,12 @@ TEST_F(OwnDictionaries, AMissingCatalogueIsToldByBothWindows) {
   change("drop table [Index]");
   const Lexilo lexilo(folder);
   lexilo.waitUntilSeen();
-  lexilo.click(ToolbarButton::multiFunction);
+  lexilo.click(ToolbarButton::kMultiFunction);
   const ShownMessage box = waitForMessageBox(lexilo.process());
   EXPECT_EQ(box.text, L"出现异常错误，请重新启动程序或安装程序！");
   box.answer();
   waitForForm(lexilo.process(), L"frmMain");
-  lexilo.click(ToolbarButton::dictionarySettings);
+  lexilo.click(ToolbarButton::kDictionarySettings);
   const ShownMessage other = waitForMessageBox(lexilo.process());
   EXPECT_TRUE(other.criticalIcon);
   EXPECT_NE(other.text.find(L"ndex"), other.text.npos);

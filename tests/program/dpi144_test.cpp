@@ -184,7 +184,7 @@ TEST_F(Dpi144, TheDictionaryWindowsAndTheAboutBoxHoldAllTheirWidgets) {
   saveScreenshot("build/shots/dictionary-settings-144dpi.png");
   expectAllInside(settings.window());
   settings.close();
-  lexilo.choose(MenuItem::about);
+  lexilo.choose(MenuItem::kAbout);
   HWND about = waitForForm(lexilo.process(), L"frmAbout");
   saveScreenshot("build/shots/about-144dpi.png");
   expectAllInside(about);

@@ -152,7 +152,7 @@ TEST_F(SizesKept, MinimisingSavesNothingSmall) {
   const QuickLookup window = lexilo.openQuickLookupAtA();
   const Sizes before = sizesOf(window);
   minimise(window);
-  lexilo.click(ToolbarButton::quickLookup);
+  lexilo.click(ToolbarButton::kQuickLookup);
   waitFor("the window to be back", [&] { return IsIconic(window.window()) == FALSE; });
   waitFor("the old size", [&] { return sizesOf(window) == before; });
   minimise(window);
@@ -207,7 +207,7 @@ TEST_F(SizesKept, ASizeThatIsNoNumberIsToldAndReplacedAtClosing) {
   settings::write(L"WindowWidth", L"wide");
   const Lexilo lexilo(AppFolder::withFullDictionary());
   lexilo.waitUntilSeen();
-  lexilo.click(ToolbarButton::quickLookup);
+  lexilo.click(ToolbarButton::kQuickLookup);
   const ShownMessage box = waitForMessageBox(lexilo.process());
   EXPECT_FALSE(box.text.empty());
   EXPECT_TRUE(box.criticalIcon);

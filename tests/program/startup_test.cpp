@@ -104,7 +104,7 @@ TEST_F(Startup, WithoutADictionaryItSaysSoAndGoesOn) {
 TEST_F(Startup, WithoutADictionaryTheQuickLookupWindowStillOpensAndCloses) {
   const Lexilo lexilo(AppFolder::withoutDictionary());
   waitForMessageBox(lexilo.process()).answer();
-  lexilo.click(ToolbarButton::quickLookup);
+  lexilo.click(ToolbarButton::kQuickLookup);
   waitForMessageBox(lexilo.process()).answer();
   const QuickLookup window(lexilo.process());
   window.type(L"data");

@@ -91,7 +91,7 @@ TEST_F(Toolbar, ItsMenuOpensBelowItsLeftEnd) {
 }
 
 TEST_F(Toolbar, ItsMenuOpensTheQuickLookupWindow) {
-  lexilo.choose(MenuItem::quickLookup);
+  lexilo.choose(MenuItem::kQuickLookup);
   const QuickLookup window(lexilo.process());
   waitFor("the first words", [&] { return !window.words().empty(); });
 }
@@ -111,7 +111,7 @@ void expectTwoPictures(const Lexilo& lexilo, const std::function<void()>& toggle
   // The pointer must not rest on the button: that changes its look as well.
   const auto look = [&] {
     input::moveTo({200, 800});
-    return screenPixels(rectOf(lexilo.button(ToolbarButton::capture)));
+    return screenPixels(rectOf(lexilo.button(ToolbarButton::kCapture)));
   };
   const auto settle = [&] {
     std::vector<COLORREF> last = look();
@@ -134,19 +134,19 @@ void expectTwoPictures(const Lexilo& lexilo, const std::function<void()>& toggle
 }
 
 TEST_F(Toolbar, ItsCaptureButtonTogglesItsPicture) {
-  expectTwoPictures(lexilo, [&] { lexilo.click(ToolbarButton::capture); });
+  expectTwoPictures(lexilo, [&] { lexilo.click(ToolbarButton::kCapture); });
   saveScreenshot("build/shots/capture.png");
 }
 
 TEST_F(Toolbar, ItsMenuTogglesTheSamePicture) {
   expectTwoPictures(lexilo, [&] {
-    lexilo.choose(MenuItem::capture);
+    lexilo.choose(MenuItem::kCapture);
     waitFor("the menu to close", [&] { return !popup_menu::isOpen(lexilo.process()); });
   });
 }
 
 TEST_F(Toolbar, DoesNotCloseByAltF4) {
-  lexilo.click(ToolbarButton::capture);
+  lexilo.click(ToolbarButton::kCapture);
   input::key(VK_F4, {VK_MENU});
   EXPECT_TRUE(neverWithin(500, [&] { return !lexilo.process().running(); }));
   EXPECT_TRUE(IsWindowVisible(toolbar));
@@ -185,7 +185,7 @@ class NoBrowser {
 
 TEST_F(Toolbar, ItsHelpButtonSaysWhenThereIsNoBrowser) {
   const NoBrowser none;
-  lexilo.click(ToolbarButton::help);
+  lexilo.click(ToolbarButton::kHelp);
   const ShownMessage box = waitForMessageBox(lexilo.process());
   EXPECT_EQ(box.text, L"未找到帮助文件！");
   EXPECT_TRUE(box.criticalIcon);
@@ -196,7 +196,7 @@ TEST_F(Toolbar, ItsHelpButtonSaysWhenThereIsNoBrowser) {
 
 TEST_F(Toolbar, ItsMenuSaysWhenThereIsNoBrowserForTheHomePage) {
   const NoBrowser none;
-  lexilo.choose(MenuItem::homePage);
+  lexilo.choose(MenuItem::kHomePage);
   const ShownMessage box = waitForMessageBox(lexilo.process());
   EXPECT_EQ(box.title, L"");
   EXPECT_TRUE(box.criticalIcon);
@@ -207,7 +207,7 @@ TEST_F(Toolbar, ItsMenuSaysWhenThereIsNoBrowserForTheHomePage) {
 TEST_F(Toolbar, ItsHelpButtonStartsTheBrowserWithThePageThatIsThere) {
   const auto help = AppFolder::withFullDictionary().path() / L"help" / L"help.htm";
   ASSERT_TRUE(std::filesystem::exists(help));
-  lexilo.click(ToolbarButton::help);
+  lexilo.click(ToolbarButton::kHelp);
   const Browser browser;
   browser.waitForAddress(L"file://" + help.wstring());
 }

@@ -67,7 +67,7 @@ TEST_F(WindowsTogether, TheDictionarySettingsAreSeen) {
 }
 
 TEST_F(WindowsTogether, TheAboutBoxIsSeen) {
-  lexilo.choose(MenuItem::about);
+  lexilo.choose(MenuItem::kAbout);
   EXPECT_TRUE(staysSeen(waitForForm(lexilo.process(), L"frmAbout")));
 }
 

@@ -16,7 +16,7 @@ std::vector<std::byte> textRangeBytes(Bitness bitness, std::int32_t begin, std::
   std::vector<std::byte> bytes;
   append(bytes, static_cast<std::uint32_t>(begin), 4);
   append(bytes, static_cast<std::uint32_t>(end), 4);
-  append(bytes, textAddress, bitness == Bitness::bits64 ? 8 : 4);
+  append(bytes, textAddress, bitness == Bitness::kBits64 ? 8 : 4);
   return bytes;
 }
 

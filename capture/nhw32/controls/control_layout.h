@@ -16,7 +16,7 @@ constexpr std::size_t expandLow16(std::size_t base, std::uint16_t low) {
 }
 
 /// The pointer size of a target's process.
-enum class Bitness { bits32, bits64 };
+enum class Bitness { kBits32, kBits64 };
 
 /// Returns the bytes of a TEXTRANGE, which EM_GETTEXTRANGE reads, as the target's process lays it
 /// out: first and last position (32 bits each), then the address of the text buffer.

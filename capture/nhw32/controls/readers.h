@@ -6,7 +6,7 @@ namespace nhw32 {
 
 /// Returns the word under the question's point in an edit control of any program, read by window
 /// messages within TargetWindow::kQuestionTime. Password fields are refused. Errors are reported by
-/// the outcome. For windows of ReaderKind::edit that have lines (hasLines).
+/// the outcome. For windows of ReaderKind::kEdit that have lines (hasLines).
 Answer editWordAt(const Question& question);
 
 /// The same for a rich edit control. Its messages take addresses of structures, which are therefore

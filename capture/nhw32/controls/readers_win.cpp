@@ -35,7 +35,7 @@ class EditText : public ControlText {
 
   std::size_t positionNear(ScreenPoint point) override {
     const LRESULT packed = target_.ask(EM_CHARFROMPOS, 0, MAKELPARAM(point.x, point.y));
-    if (isNone(packed)) throw NoAnswer(Outcome::none);
+    if (isNone(packed)) throw NoAnswer(Outcome::kNone);
     // The first visible line; in a single line the first visible character.
     const std::size_t visible = number(target_.ask(EM_GETFIRSTVISIBLELINE));
     if (!multiline_) return expandLow16(visible, LOWORD(packed));
@@ -43,7 +43,7 @@ class EditText : public ControlText {
     // In a longer line the low 16 bits do not identify a character.
     constexpr std::size_t kMaxLine = 0xFFFF;
     if (!start || number(target_.ask(EM_LINELENGTH, *start)) > kMaxLine) {
-      throw NoAnswer(Outcome::none);
+      throw NoAnswer(Outcome::kNone);
     }
     return expandLow16(*start, LOWORD(packed));
   }
@@ -99,7 +99,7 @@ class EditText : public ControlText {
     try {
       return target_.ask(message, wParam, reinterpret_cast<LPARAM>(memory.get()));
     } catch (const NoAnswer& failure) {
-      if (failure.outcome() == Outcome::outOfTime && target_.isOurs()) {
+      if (failure.outcome() == Outcome::kOutOfTime && target_.isOurs()) {
         static_cast<void>(memory.release());
       }
       throw;
@@ -138,7 +138,7 @@ class RichEditText : public ControlText {
     const std::size_t begin = position > reach ? position - reach : 0;
     const std::size_t end = std::min(position + reach, length());
     if (begin >= end) return {};
-    const auto bitness = memory_.inProgramOf32Bits() ? Bitness::bits32 : Bitness::bits64;
+    const auto bitness = memory_.inProgramOf32Bits() ? Bitness::kBits32 : Bitness::kBits64;
     auto bytes = textRangeBytes(bitness, static_cast<std::int32_t>(begin),
                                 static_cast<std::int32_t>(end), memory_.address(kText));
     bytes.resize(kMemory, kUnwritten);
@@ -182,7 +182,7 @@ class RichEditText : public ControlText {
     try {
       return target_.ask(message, wParam, lParam);
     } catch (const NoAnswer& failure) {
-      if (failure.outcome() == Outcome::outOfTime) memory_.abandon();
+      if (failure.outcome() == Outcome::kOutOfTime) memory_.abandon();
       throw;
     }
   }
@@ -219,7 +219,7 @@ class RichEditText : public ControlText {
   /// Returns a position or count; throws NoAnswer for a negative one.
   static std::size_t number(LRESULT answer) {
     const auto value = static_cast<std::int32_t>(answer);
-    if (value < 0) throw NoAnswer(Outcome::none);
+    if (value < 0) throw NoAnswer(Outcome::kNone);
     return static_cast<std::size_t>(value);
   }
 

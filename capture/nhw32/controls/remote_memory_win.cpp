@@ -16,10 +16,10 @@ HANDLE openProgramOf(HWND window) {
 }  // namespace
 
 RemoteMemory::RemoteMemory(HWND window, std::size_t size) : process_(openProgramOf(window)) {
-  if (!process_) throw NoAnswer(Outcome::refused);
+  if (!process_) throw NoAnswer(Outcome::kRefused);
   address_ = static_cast<std::byte*>(
       VirtualAllocEx(process_.get(), nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE));
-  if (address_ == nullptr) throw NoAnswer(Outcome::refused);
+  if (address_ == nullptr) throw NoAnswer(Outcome::kRefused);
 }
 
 RemoteMemory::~RemoteMemory() {
@@ -32,19 +32,19 @@ std::uint64_t RemoteMemory::address(std::size_t offset) const {
 
 bool RemoteMemory::inProgramOf32Bits() const {
   BOOL wow64 = FALSE;
-  if (IsWow64Process(process_.get(), &wow64) == FALSE) throw NoAnswer(Outcome::refused);
+  if (IsWow64Process(process_.get(), &wow64) == FALSE) throw NoAnswer(Outcome::kRefused);
   return wow64 != FALSE;
 }
 
 void RemoteMemory::write(std::size_t offset, const void* from, std::size_t size) const {
   if (WriteProcessMemory(process_.get(), address_ + offset, from, size, nullptr) == FALSE) {
-    throw NoAnswer(Outcome::refused);
+    throw NoAnswer(Outcome::kRefused);
   }
 }
 
 void RemoteMemory::read(std::size_t offset, void* to, std::size_t size) const {
   if (ReadProcessMemory(process_.get(), address_ + offset, to, size, nullptr) == FALSE) {
-    throw NoAnswer(Outcome::refused);
+    throw NoAnswer(Outcome::kRefused);
   }
 }
 

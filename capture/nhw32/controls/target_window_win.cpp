@@ -40,7 +40,7 @@ bool TargetWindow::isOurs() const {
 LRESULT TargetWindow::ask(UINT message, WPARAM wParam, LPARAM lParam) const {
   const auto left =
       std::chrono::ceil<std::chrono::milliseconds>(deadline_ - std::chrono::steady_clock::now());
-  if (left.count() <= 0) throw NoAnswer(Outcome::outOfTime);
+  if (left.count() <= 0) throw NoAnswer(Outcome::kOutOfTime);
   const auto time = static_cast<UINT>(std::min(left, kMessageTime).count());
   DWORD_PTR answer = 0;
   SetLastError(0);
@@ -52,7 +52,7 @@ LRESULT TargetWindow::ask(UINT message, WPARAM wParam, LPARAM lParam) const {
 }
 
 void TargetWindow::refusePasswords() const {
-  if ((style() & ES_PASSWORD) != 0 || ask(EM_GETPASSWORDCHAR) != 0) throw NoAnswer(Outcome::none);
+  if ((style() & ES_PASSWORD) != 0 || ask(EM_GETPASSWORDCHAR) != 0) throw NoAnswer(Outcome::kNone);
 }
 
 std::u16string classNameOf(HWND window) {
@@ -134,7 +134,7 @@ Answer answerOfControl(const Question& question,
     return {};
   }
   const ScreenBox box = inClientArea(target.handle(), word->box);
-  return {.outcome = Outcome::word,
+  return {.outcome = Outcome::kWord,
           .word = {word->text, toScreen(scale, fromClient(target.handle(), box))}};
 } catch (const NoAnswer& failure) {
   return {.outcome = failure.outcome(), .word = {}};

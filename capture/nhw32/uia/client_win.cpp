@@ -76,9 +76,9 @@ class UiaReader : public WordReader {
     if (pattern) {
       auto word = wordUnder(*pattern.Get(), question.point, calls);
       // The window may have been closed, moved or resized meanwhile.
-      if (word && placeOf(window) == place) return {Outcome::word, std::move(*word)};
+      if (word && placeOf(window) == place) return {Outcome::kWord, std::move(*word)};
     }
-    return {calls.outOfTime() ? Outcome::outOfTime : Outcome::none, {}};
+    return {calls.outOfTime() ? Outcome::kOutOfTime : Outcome::kNone, {}};
   }
 
   UiaSystem system_;

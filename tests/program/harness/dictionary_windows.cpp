@@ -84,7 +84,7 @@ HWND buttonOf(HWND window, const std::wstring& caption) {
 }
 
 MultiQuery::MultiQuery(const Lexilo& lexilo)
-    : window_(opened(lexilo, ToolbarButton::multiFunction, L"frmMain")),
+    : window_(opened(lexilo, ToolbarButton::kMultiFunction, L"frmMain")),
       input_(waitForChild(window_, L"Edit")),
       dictionaries_(treesOf(window_).front()),
       results_(treesOf(window_).back()) {}
@@ -145,7 +145,7 @@ void SpecialQuery::cancel() const {
 }
 
 DictionarySettings::DictionarySettings(const Lexilo& lexilo)
-    : window_(opened(lexilo, ToolbarButton::dictionarySettings, L"frmdictSetting")),
+    : window_(opened(lexilo, ToolbarButton::kDictionarySettings, L"frmdictSetting")),
       list_(treesOf(window_).front()) {}
 
 std::vector<std::wstring> DictionarySettings::names() const { return treeTexts(list_); }

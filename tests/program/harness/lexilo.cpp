@@ -18,7 +18,7 @@ HWND Lexilo::toolbar() const {
 
 HWND Lexilo::waitUntilPainted() const {
   HWND window = toolbar();
-  const RECT rect = rectOf(button(ToolbarButton::quickLookup));
+  const RECT rect = rectOf(button(ToolbarButton::kQuickLookup));
   waitFor("the toolbar to be painted", [&] {
     const std::vector<COLORREF> pixels = screenPixels(rect);
     return std::ranges::adjacent_find(pixels, std::not_equal_to{}) != pixels.end();
@@ -48,7 +48,7 @@ HWND Lexilo::button(ToolbarButton button) const {
 void Lexilo::click(ToolbarButton button) const { clickButton(this->button(button)); }
 
 QuickLookup Lexilo::openQuickLookup() const {
-  click(ToolbarButton::quickLookup);
+  click(ToolbarButton::kQuickLookup);
   return QuickLookup(process_);
 }
 
@@ -64,7 +64,7 @@ QuickLookup Lexilo::openQuickLookupAtA() const {
 }
 
 HWND Lexilo::dropMenu() const {
-  click(ToolbarButton::menu);
+  click(ToolbarButton::kMenu);
   return popup_menu::waitForMenu(process_);
 }
 

@@ -10,18 +10,25 @@
 namespace harness {
 
 /// The toolbar's buttons, from left to right.
-enum class ToolbarButton { quickLookup, multiFunction, dictionarySettings, capture, help, menu };
+enum class ToolbarButton {
+  kQuickLookup,
+  kMultiFunction,
+  kDictionarySettings,
+  kCapture,
+  kHelp,
+  kMenu
+};
 
 /// The items of the toolbar's menu, in steps of the Down key from above the first; negative ones in
 /// steps of the Up key from below the last. Separators are no steps.
 enum class MenuItem {
-  multiFunction = 1,
-  quickLookup = 2,
-  capture = 3,
-  dictionarySettings = 4,
-  help = 5,
-  about = 6,
-  homePage = 7,
+  kMultiFunction = 1,
+  kQuickLookup = 2,
+  kCapture = 3,
+  kDictionarySettings = 4,
+  kHelp = 5,
+  kAbout = 6,
+  kHomePage = 7,
   exit = -1
 };
 

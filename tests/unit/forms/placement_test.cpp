@@ -125,38 +125,40 @@ using Stack = std::vector<std::optional<Rank>>;
 constexpr std::nullopt_t kOther = std::nullopt;
 
 TEST(Raised, GoesBehindTheLastOfAHigherRank) {
-  const Stack stack{Rank::floating, Rank::notice, Rank::bar, Rank::window};
-  EXPECT_EQ(raised(stack, 0, Rank::floating), (Raise{Raise::Where::behind, 3}));
-  EXPECT_EQ(raised(Stack{Rank::notice, Rank::floating, Rank::bar}, 2, Rank::bar),
-            (Raise{Raise::Where::behind, 0}));
+  const Stack stack{Rank::kFloating, Rank::kNotice, Rank::kBar, Rank::kWindow};
+  EXPECT_EQ(raised(stack, 0, Rank::kFloating), (Raise{Raise::Where::kBehind, 3}));
+  EXPECT_EQ(raised(Stack{Rank::kNotice, Rank::kFloating, Rank::kBar}, 2, Rank::kBar),
+            (Raise{Raise::Where::kBehind, 0}));
 }
 
 TEST(Raised, StaysWhereItIsInItsPlace) {
-  EXPECT_EQ(raised(Stack{Rank::bar, Rank::floating}, 1, Rank::floating).where, Raise::Where::stays);
-  EXPECT_EQ(raised(Stack{Rank::bar, Rank::floating, kOther}, 1, Rank::floating).where,
-            Raise::Where::stays);
-  EXPECT_EQ(raised(Stack{Rank::bar, Rank::floating}, 0, Rank::bar).where, Raise::Where::stays);
+  EXPECT_EQ(raised(Stack{Rank::kBar, Rank::kFloating}, 1, Rank::kFloating).where,
+            Raise::Where::kStays);
+  EXPECT_EQ(raised(Stack{Rank::kBar, Rank::kFloating, kOther}, 1, Rank::kFloating).where,
+            Raise::Where::kStays);
+  EXPECT_EQ(raised(Stack{Rank::kBar, Rank::kFloating}, 0, Rank::kBar).where, Raise::Where::kStays);
 }
 
 TEST(Raised, GoesToTheTopWithoutAnyOfAHigherRank) {
-  EXPECT_EQ(raised(Stack{kOther, Rank::floating}, 1, Rank::floating).where, Raise::Where::top);
-  EXPECT_EQ(raised(Stack{Rank::floating, Rank::bar}, 1, Rank::bar).where, Raise::Where::top);
+  EXPECT_EQ(raised(Stack{kOther, Rank::kFloating}, 1, Rank::kFloating).where, Raise::Where::kTop);
+  EXPECT_EQ(raised(Stack{Rank::kFloating, Rank::kBar}, 1, Rank::kBar).where, Raise::Where::kTop);
 }
 
 TEST(Raised, GoesToTheTopWhereThoseOfAHigherRankLieBelowAnotherProgram) {
-  EXPECT_EQ(raised(Stack{kOther, Rank::bar, Rank::floating}, 2, Rank::floating).where,
-            Raise::Where::top);
-  EXPECT_EQ(raised(Stack{Rank::bar, kOther, Rank::window, Rank::floating}, 3, Rank::floating).where,
-            Raise::Where::top);
+  EXPECT_EQ(raised(Stack{kOther, Rank::kBar, Rank::kFloating}, 2, Rank::kFloating).where,
+            Raise::Where::kTop);
+  EXPECT_EQ(
+      raised(Stack{Rank::kBar, kOther, Rank::kWindow, Rank::kFloating}, 3, Rank::kFloating).where,
+      Raise::Where::kTop);
 }
 
 TEST(Raised, GoesBehindThoseThatLieAboveAnotherProgram) {
-  EXPECT_EQ(raised(Stack{Rank::bar, kOther, Rank::floating}, 2, Rank::floating),
-            (Raise{Raise::Where::behind, 0}));
+  EXPECT_EQ(raised(Stack{Rank::kBar, kOther, Rank::kFloating}, 2, Rank::kFloating),
+            (Raise{Raise::Where::kBehind, 0}));
 }
 
 TEST(Raised, GoesToTheTopWhereItIsNotTopmostYet) {
-  EXPECT_EQ(raised(Stack{Rank::bar}, std::nullopt, Rank::floating).where, Raise::Where::top);
+  EXPECT_EQ(raised(Stack{Rank::kBar}, std::nullopt, Rank::kFloating).where, Raise::Where::kTop);
 }
 
 }  // namespace

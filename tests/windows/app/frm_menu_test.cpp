@@ -188,7 +188,7 @@ TEST_F(FrmMenu, HelpWithoutABrowserIsTold) {
   ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
   const auto seen = boxes.take();
   EXPECT_EQ(seen[0].text, u"未找到帮助文件！");
-  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].icon, Icon::kError);
 }
 
 TEST_F(FrmMenu, TheWebSiteStartsTheBrowserWithItsAddress) {
@@ -208,7 +208,7 @@ TEST_F(FrmMenu, TheWebSiteWithoutABrowserIsAnUncaughtError) {
   chooseFromMenu(kWebSite);
   ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
   const auto seen = boxes.take();
-  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].icon, Icon::kError);
   EXPECT_EQ(seen[0].title, u"");
   EXPECT_FALSE(seen[0].text.empty());
   EXPECT_NE(seen[0].text, u"未找到帮助文件！");

@@ -74,7 +74,7 @@ TEST_F(FrmTopStart, AnIndexBeyond16BitsIsAnUncaughtError) {
   ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
   const auto seen = boxes.take();
   EXPECT_FALSE(seen[0].text.empty());
-  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].icon, Icon::kError);
   EXPECT_EQ(seen[0].title, u"");
   EXPECT_TRUE(user::IdxWords.empty());
   // The error ends the tick before its last step, and no later tick loads the index again.
@@ -99,7 +99,7 @@ TEST_F(FrmTopStart, AMissingDatabaseIsToldOnceAndTheToolbarStays) {
   frmTop& form = top();
   ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
   const auto seen = boxes.take();
-  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].icon, Icon::kError);
   EXPECT_EQ(seen[0].title, u"");
   EXPECT_EQ(seen[0].text,
             u"找不到词典文件，或者无法打开它：\n" + win32::applicationFolder() +
@@ -162,7 +162,7 @@ TEST_F(FrmTopStart, AnErrorOnTheWayIsToldAndWhatWasDoneStays) {
   UnregisterClassW(L"Lexilo.frmScreenWord", GetModuleHandleW(nullptr));
   ASSERT_EQ(seen.size(), 1U);
   EXPECT_FALSE(seen[0].text.empty());
-  EXPECT_EQ(seen[0].icon, Icon::none);
+  EXPECT_EQ(seen[0].icon, Icon::kNone);
   EXPECT_EQ(seen[0].title, u"Lexilo");
   EXPECT_TRUE(IsWindowVisible(form.handle()));
   EXPECT_FALSE(user::BrowserPath.empty());

@@ -80,7 +80,7 @@ TEST_F(FrmTop, HelpWithoutABrowserIsTold) {
   ASSERT_TRUE(eventually([this] { return boxes.count() == 1; }));
   const auto seen = boxes.take();
   EXPECT_EQ(seen[0].text, u"未找到帮助文件！");
-  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].icon, Icon::kError);
   EXPECT_EQ(seen[0].title, u"");
 }
 

@@ -153,7 +153,7 @@ class CaptureSoak : public CaptureTest {
 
 TEST_F(CaptureSoak, TwoThousandCapturesLeaveNothingBehind) {
   const PlainWindow edit(L"Edit", {200, 720, 900, 800}, L"data bit datum it's");
-  const TextProgram program(TextProgram::Kind::wordPad, u"data bit datum it's");
+  const TextProgram program(TextProgram::Kind::kWordPad, u"data bit datum it's");
   const auto inRichEdit = [&](LONG index) {
     const POINT corner = harness::richTextPosition(program.control(), index);
     return POINT{corner.x + 4, corner.y + 6};

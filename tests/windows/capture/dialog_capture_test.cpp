@@ -40,7 +40,7 @@ forms::Form& shown() {
 }
 
 /// Where the focus is before the dialog opens, and goes back to.
-enum class Back { inputBox, tree, quickLookupBox };
+enum class Back { kInputBox, kTree, kQuickLookupBox };
 
 class DialogCapture : public QueryTest,
                       public ::testing::WithParamInterface<std::tuple<Closing, Back>> {
@@ -108,13 +108,13 @@ class DialogCapture : public QueryTest,
 TEST_P(DialogCapture, RestsInItAndThenFollowsTheFocus) {
   const auto& [closing, back] = GetParam();
   open();
-  if (back == Back::quickLookupBox) opened<frmSub>();
-  if (back == Back::tree) form().TreeView1.setFocus();
-  HWND before = back == Back::quickLookupBox ? forms::single<frmSub>().txtInput.handle()
-                : back == Back::tree         ? form().TreeView1.handle()
-                                             : form().txtInput.handle();
+  if (back == Back::kQuickLookupBox) opened<frmSub>();
+  if (back == Back::kTree) form().TreeView1.setFocus();
+  HWND before = back == Back::kQuickLookupBox ? forms::single<frmSub>().txtInput.handle()
+                : back == Back::kTree         ? form().TreeView1.handle()
+                                              : form().txtInput.handle();
   ASSERT_TRUE(eventually([&] { return GetFocus() == before; }));
-  EXPECT_TRUE(back == Back::tree ? runs() : rests());
+  EXPECT_TRUE(back == Back::kTree ? runs() : rests());
 
   const forms::Form& dialog = closing.open();
   awaitActive(dialog);
@@ -130,7 +130,7 @@ TEST_P(DialogCapture, RestsInItAndThenFollowsTheFocus) {
       [&] { return !closing.isOpen(); }));
   static_cast<void>(boxes.take());  // what a search without hits says
   // The dialog's owner comes to the front behind it, even from behind another window.
-  awaitActive(back == Back::quickLookupBox ? lastingFront() : form());
+  awaitActive(back == Back::kQuickLookupBox ? lastingFront() : form());
   HWND focus = GetFocus();
   const bool typing =
       focus == form().txtInput.handle() ||
@@ -139,23 +139,23 @@ TEST_P(DialogCapture, RestsInItAndThenFollowsTheFocus) {
   EXPECT_TRUE(allAlong([&] { return captureRuns() != typing; }, 40));
   // The button that opens the special search takes the focus first, as buttons do.
   const bool byButton = std::string_view(closing.name).starts_with("Special");
-  if (back != Back::quickLookupBox) {
+  if (back != Back::kQuickLookupBox) {
     EXPECT_EQ(focus, byButton ? form().cmdSpc.handle() : before);
   }
 }
 
 std::string nameOf(const ::testing::TestParamInfo<DialogCapture::ParamType>& info) {
   const Back back = std::get<Back>(info.param);
-  return std::string(std::get<Closing>(info.param).name) + (back == Back::inputBox ? "ToTheInputBox"
-                                                            : back == Back::tree
-                                                                ? "ToTheTree"
-                                                                : "ToTheQuickLookup");
+  return std::string(std::get<Closing>(info.param).name) +
+         (back == Back::kInputBox ? "ToTheInputBox"
+          : back == Back::kTree   ? "ToTheTree"
+                                  : "ToTheQuickLookup");
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryWay, DialogCapture,
                          ::testing::Combine(::testing::ValuesIn(DialogCapture::closings()),
-                                            ::testing::Values(Back::inputBox, Back::tree,
-                                                              Back::quickLookupBox)),
+                                            ::testing::Values(Back::kInputBox, Back::kTree,
+                                                              Back::kQuickLookupBox)),
                          nameOf);
 
 }  // namespace

@@ -21,7 +21,7 @@ class SplitForm : public FormA {
       note("second", source, at);
     };
   }
-  forms::DragHandle splitter{*this, forms::DragHandle::Look::line, {1530, 300, 20, 2000}};
+  forms::DragHandle splitter{*this, forms::DragHandle::Look::kLine, {1530, 300, 20, 2000}};
   std::vector<std::string> drops;
   forms::Place place;
   int ended = 0;

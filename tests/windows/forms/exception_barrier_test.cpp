@@ -27,7 +27,7 @@ TEST_F(ExceptionBarrier, AnUncaughtErrorIsShownWithItsOwnDescription) {
   ASSERT_EQ(seen.size(), 1U);
   EXPECT_EQ(seen[0].text, u"数据库已损坏");
   EXPECT_EQ(seen[0].title, u"");
-  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].icon, Icon::kError);
   EXPECT_EQ(seen[0].owner, form.handle());
 }
 
@@ -152,7 +152,7 @@ TEST_F(MessageBoxTest, HoldsEveryWindowOfTheProgram) {
   boxes.whileUp([&](HWND) {
     held = IsWindowEnabled(owner.handle()) == FALSE && IsWindowEnabled(other.handle()) == FALSE;
   });
-  forms::showMessage(u"查询条件不为空！", forms::MessageIcon::exclamation);
+  forms::showMessage(u"查询条件不为空！", forms::MessageIcon::kExclamation);
   EXPECT_TRUE(held);
   EXPECT_TRUE(IsWindowEnabled(owner.handle()));
   EXPECT_TRUE(IsWindowEnabled(other.handle()));
@@ -167,7 +167,7 @@ TEST_F(MessageBoxTest, LeavesAWindowDisabledThatWasSo) {
   forms::single<FormA>().show();
   awaitActive(forms::single<FormA>());
   EnableWindow(other.handle(), FALSE);
-  forms::showMessage(u"…", forms::MessageIcon::none);
+  forms::showMessage(u"…", forms::MessageIcon::kNone);
   EXPECT_EQ(boxes.take().size(), 1U);
   EXPECT_FALSE(IsWindowEnabled(other.handle()));
   EnableWindow(other.handle(), TRUE);
@@ -175,16 +175,16 @@ TEST_F(MessageBoxTest, LeavesAWindowDisabledThatWasSo) {
 
 TEST_F(MessageBoxTest, ShowsTextTitleAndIconAsAsked) {
   opened<FormA>();
-  forms::showMessage(u"一", forms::MessageIcon::critical);
-  forms::showMessage(u"二", forms::MessageIcon::exclamation);
-  forms::showMessage(u"三", forms::MessageIcon::information);
-  forms::showMessage(u"四", forms::MessageIcon::none, u"Lexilo");
+  forms::showMessage(u"一", forms::MessageIcon::kCritical);
+  forms::showMessage(u"二", forms::MessageIcon::kExclamation);
+  forms::showMessage(u"三", forms::MessageIcon::kInformation);
+  forms::showMessage(u"四", forms::MessageIcon::kNone, u"Lexilo");
   const auto seen = boxes.take();
   ASSERT_EQ(seen.size(), 4U);
-  EXPECT_EQ(seen[0].icon, Icon::error);
-  EXPECT_EQ(seen[1].icon, Icon::warning);
-  EXPECT_EQ(seen[2].icon, Icon::information);
-  EXPECT_EQ(seen[3].icon, Icon::none);
+  EXPECT_EQ(seen[0].icon, Icon::kError);
+  EXPECT_EQ(seen[1].icon, Icon::kWarning);
+  EXPECT_EQ(seen[2].icon, Icon::kInformation);
+  EXPECT_EQ(seen[3].icon, Icon::kNone);
   EXPECT_EQ(seen[0].title, u"");
   EXPECT_EQ(seen[3].title, u"Lexilo");
   EXPECT_EQ(seen[1].text, u"二");
@@ -195,7 +195,7 @@ TEST_F(MessageBoxTest, StandsAboveOurTopmostWindows) {
   opened<FormA>();
   bool above = false;
   boxes.whileUp([&](HWND box) { above = isTopmost(box); });
-  forms::showMessage(u"…", forms::MessageIcon::none);
+  forms::showMessage(u"…", forms::MessageIcon::kNone);
   EXPECT_EQ(boxes.take().size(), 1U);
   EXPECT_TRUE(above);
 }
@@ -209,7 +209,7 @@ TEST_F(MessageBoxTest, ClosesByTheKeyboard) {
     input::key(VK_RETURN);
     return true;
   });
-  forms::showMessage(u"…", forms::MessageIcon::none);
+  forms::showMessage(u"…", forms::MessageIcon::kNone);
   EXPECT_TRUE(user.done());
   EXPECT_EQ(boxes.take().size(), 1U);
   EXPECT_TRUE(eventually([&] { return GetFocus() == form.first.handle(); }));

@@ -8,7 +8,7 @@ class FormDpi : public WindowTest {
   // Borderless: the frame that the system draws follows the real monitor. Never active: the window
   // manager lets it alone.
   FormDpi() {
-    plan<'A'>().design.frame = forms::Frame::borderless;
+    plan<'A'>().design.frame = forms::Frame::kBorderless;
     plan<'A'>().design.neverActive = true;
   }
 

@@ -77,7 +77,7 @@ TEST_F(FormFocus, AMessageBoxIsNoMoveOfTheFocus) {
   events().clear();
   bool quiet = false;
   boxes.whileUp([&](HWND) { quiet = allAlong([] { return events().empty(); }, 60); });
-  forms::showMessage(u"请选择字典！", forms::MessageIcon::exclamation);
+  forms::showMessage(u"请选择字典！", forms::MessageIcon::kExclamation);
   EXPECT_EQ(boxes.take().size(), 1U);
   EXPECT_TRUE(quiet);
   ASSERT_TRUE(eventually([&] { return GetFocus() == form.first.handle(); }));
@@ -96,7 +96,7 @@ TEST_F(FormFocus, WhatMovedWhileABoxWasUpIsToldAfterwards) {
     other.show();
     quiet = allAlong([] { return times("A.LostFocus") + times("B.Activate") == 0; }, 60);
   });
-  forms::showMessage(u"…", forms::MessageIcon::none);
+  forms::showMessage(u"…", forms::MessageIcon::kNone);
   EXPECT_EQ(boxes.take().size(), 1U);
   EXPECT_TRUE(quiet);
   awaitActive(other);
@@ -111,7 +111,7 @@ TEST_F(FormFocus, AFormThatIsUnloadedWhileABoxIsUpHearsNothingMore) {
   opened<FormB>();
   events().clear();
   boxes.whileUp([&](HWND) { form.unload(); });
-  forms::showMessage(u"…", forms::MessageIcon::none);
+  forms::showMessage(u"…", forms::MessageIcon::kNone);
   EXPECT_EQ(boxes.take().size(), 1U);
   passTime(50);
   EXPECT_EQ(times("A.Unload"), 1);

@@ -85,7 +85,7 @@ TEST_F(FormOpening, AnErrorWhileLoadingIsShownAndTheFormStays) {
   const auto seen = boxes.take();
   ASSERT_EQ(seen.size(), 1U);
   EXPECT_EQ(seen[0].text, u"加载失败");
-  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].icon, Icon::kError);
   EXPECT_EQ(seen[0].title, u"");
   EXPECT_TRUE(IsWindowVisible(form.handle()));
   EXPECT_EQ(&forms::single<FormA>(), &form);

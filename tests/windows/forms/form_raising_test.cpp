@@ -41,7 +41,7 @@ TEST_F(FormRaising, MovesAndSizesNothing) {
 
 TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenShown) {
   plan<'A'>().design.neverActive = true;
-  plan<'A'>().design.frame = forms::Frame::borderless;
+  plan<'A'>().design.frame = forms::Frame::kBorderless;
   other.activate();
   auto& form = forms::single<FormA>();
   form.show();
@@ -54,7 +54,7 @@ TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenShown) {
 
 TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenClicked) {
   plan<'A'>().design.neverActive = true;
-  plan<'A'>().design.frame = forms::Frame::borderless;
+  plan<'A'>().design.frame = forms::Frame::kBorderless;
   other.activate();
   auto& form = forms::single<FormA>();
   form.setPosition(6000, 1500);

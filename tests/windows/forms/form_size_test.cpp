@@ -8,7 +8,7 @@ class FormSize : public WindowTest {
   /// Takes the form out of the window manager's hand, which may answer one size while the next is
   /// set.
   static void notManaged() {
-    plan<'A'>().design.frame = forms::Frame::borderless;
+    plan<'A'>().design.frame = forms::Frame::kBorderless;
     plan<'A'>().design.neverActive = true;
   }
 };
@@ -27,7 +27,7 @@ TEST_F(FormSize, IsTheClientSizeAndAFrameOf120By405Twips) {
 }
 
 TEST_F(FormSize, ABorderlessFormHasNoFrame) {
-  plan<'A'>().design.frame = forms::Frame::borderless;
+  plan<'A'>().design.frame = forms::Frame::kBorderless;
   auto& form = opened<FormA>();
   form.setSize(1500, 750);
   EXPECT_EQ(clientOf(form).cx, 100);

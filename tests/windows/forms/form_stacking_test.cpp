@@ -17,7 +17,7 @@ class FormStacking : public WindowTest {
     plan<'A'>().paint = [] { a().bringToTop(); };
     plan<'B'>().load = [] { b().centre(); };
     plan<'C'>().design.topmost = true;
-    plan<'C'>().design.frame = forms::Frame::borderless;
+    plan<'C'>().design.frame = forms::Frame::kBorderless;
     plan<'C'>().design.width = 1500;
     plan<'C'>().design.height = 375;
     plan<'C'>().paint = [] { c().bringToTop(); };
@@ -147,7 +147,7 @@ TEST_F(FormStacking, ADialogAndItsOwnerAreBothSeen) {
   auto& floating = openLargeA();
   auto& window = opened<FormB>();
   plan<'C'>().design = plainDesign('C');
-  plan<'C'>().design.frame = forms::Frame::dialog;
+  plan<'C'>().design.frame = forms::Frame::kDialog;
   plan<'C'>().design.width = 2000;
   plan<'C'>().design.height = 1200;
   plan<'C'>().load = [] { c().centre(b()); };
@@ -171,7 +171,7 @@ TEST_F(FormStacking, AMessageBoxIsSeenWhole) {
     ownerAbove = isAbove(window.handle(), floating.handle());
     seen = isSeenWhole(box, {&floating});
   });
-  forms::showMessage(u"没有该词条", forms::MessageIcon::information);
+  forms::showMessage(u"没有该词条", forms::MessageIcon::kInformation);
   EXPECT_TRUE(seen);
   EXPECT_TRUE(ownerAbove);
   EXPECT_EQ(boxes.take().size(), 1U);
@@ -190,7 +190,7 @@ TEST_F(FormStacking, AMessageBoxStaysOnTopWhileTheUserTurnsToAnotherProgram) {
     boxOnTop = isTopmost(box) && isAbove(box, a().handle());
     SetForegroundWindow(box);
   });
-  forms::showMessage(u"没有该词条", forms::MessageIcon::information);
+  forms::showMessage(u"没有该词条", forms::MessageIcon::kInformation);
   EXPECT_TRUE(boxOnTop);
   EXPECT_EQ(boxes.take().size(), 1U);
   EXPECT_TRUE(eventually([&] { return isAbove(window.handle(), a().handle()); }));

@@ -11,7 +11,7 @@ namespace {
 class HeldForm : public FormA {
  public:
   forms::RichTextBox pane{*this, {150, 1000, 1800, 1200}};
-  forms::RichTextBox note{*this, {150, 2300, 1800, 1800}, forms::RichTextBox::Look::toolTip};
+  forms::RichTextBox note{*this, {150, 2300, 1800, 1800}, forms::RichTextBox::Look::kToolTip};
   forms::TreeView tree{*this, {2100, 1000, 1800, 1200}};
   forms::ColumnTree columns{*this, {4050, 1000, 1800, 1200}};
 };

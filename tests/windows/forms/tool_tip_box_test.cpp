@@ -11,7 +11,7 @@ constexpr std::u16string_view kHead = u"enzyme\r\n";
 
 class ToolTipForm : public FormA {
  public:
-  forms::RichTextBox box{*this, {0, 0, 2500, 900}, forms::RichTextBox::Look::toolTip};
+  forms::RichTextBox box{*this, {0, 0, 2500, 900}, forms::RichTextBox::Look::kToolTip};
 };
 
 class ToolTipBox : public WindowTest {

@@ -71,7 +71,7 @@ TEST_F(FrmSubLoading, AMissingDatabaseIsToldAndTheWindowStays) {
   frmSub& form = open();
   const auto seen = boxes.take();
   ASSERT_EQ(seen.size(), 1U);
-  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].icon, Icon::kError);
   EXPECT_EQ(seen[0].title, u"");
   EXPECT_FALSE(seen[0].text.empty());
   EXPECT_TRUE(IsWindowVisible(form.handle()));

@@ -103,7 +103,7 @@ TEST_F(FrmSubMeaning, AFailedQueryIsTold) {
   const auto seen = boxes.take();
   ASSERT_EQ(seen.size(), 1U);
   EXPECT_EQ(seen[0].text, u"显示词义出错！");
-  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].icon, Icon::kError);
   EXPECT_EQ(seen[0].title, u"");
   EXPECT_EQ(form.txtOut.text(), before);
 }
@@ -119,7 +119,7 @@ TEST_F(FrmSubMeaning, AFailedSearchForTheBoundsIsTold) {
   const auto seen = boxes.take();
   ASSERT_EQ(seen.size(), 1U);
   EXPECT_EQ(seen[0].text, u"查词出错！");
-  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].icon, Icon::kError);
   EXPECT_EQ(seen[0].title, u"");
   EXPECT_EQ(form.txtOut.text(), pane);
   show(u"data");

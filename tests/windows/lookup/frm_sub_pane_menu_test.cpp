@@ -131,7 +131,7 @@ TEST_F(FrmSubPaneMenu, ABusyClipboardIsToldAfterAMoment) {
   const auto seen = boxes.take();
   ASSERT_EQ(seen.size(), 1U);
   EXPECT_NE(seen[0].text.find(u"剪贴板"), seen[0].text.npos);
-  EXPECT_EQ(seen[0].icon, Icon::error);
+  EXPECT_EQ(seen[0].icon, Icon::kError);
 }
 
 TEST_F(FrmSubPaneMenu, EscAndAClickElsewhereChangeNothing) {

@@ -52,7 +52,7 @@ class FrmSubSettings : public FrmSubTest {
         3500, 3200, 2000);
     const auto seen = boxes.take();
     ASSERT_EQ(seen.size(), 1U);
-    EXPECT_EQ(seen[0].icon, Icon::error);
+    EXPECT_EQ(seen[0].icon, Icon::kError);
     EXPECT_EQ(seen[0].title, u"");
     EXPECT_EQ(list(), expectedList(u"a"));
     close();

@@ -58,7 +58,7 @@ TEST_F(FrmMainCapture, AMessageDoesNotWakeIt) {
   boxes.whileUp([&](HWND) { restedMeanwhile = allAlong([] { return !captureRuns(); }, 60); });
   form().txtInput.setFocus();
   input::key(VK_RETURN);
-  expectBox(u"查询条件不为空！", Icon::warning);
+  expectBox(u"查询条件不为空！", Icon::kWarning);
   EXPECT_TRUE(restedMeanwhile);
   EXPECT_TRUE(rests());
 }

@@ -82,13 +82,13 @@ TEST_F(FrmMainLoading, OfSeveralDefaultsTheLastWins) {
 TEST_F(FrmMainLoading, WithNoDictionaryShownItSaysSoAndSearchesDoToo) {
   store("update [Index] set Isshow=0");
   forms::single<frmMain>();
-  expectBox(kChoose, Icon::warning);
+  expectBox(kChoose, Icon::kWarning);
   open();
   EXPECT_EQ(textsOf(form().TreeView1), Texts{});
   easy(u"a");
-  expectBox(kChoose, Icon::warning);
+  expectBox(kChoose, Icon::kWarning);
   complex(u"a");
-  expectBox(kChoose, Icon::warning);
+  expectBox(kChoose, Icon::kWarning);
 }
 
 TEST_F(FrmMainLoading, FilledAgainItFollowsTheDefault) {
@@ -104,7 +104,7 @@ TEST_F(FrmMainLoading, FilledAgainWithNoneShownItKeepsItsTable) {
   open();
   store("update [Index] set Isshow=0");
   form().iniTree();
-  expectBox(kChoose, Icon::warning);
+  expectBox(kChoose, Icon::kWarning);
   EXPECT_EQ(form().TreeView1.count(), 0U);
   EXPECT_EQ(form().selectedTable(), u"med");
   easy(u"liver");
@@ -114,17 +114,17 @@ TEST_F(FrmMainLoading, FilledAgainWithNoneShownItKeepsItsTable) {
 TEST_F(FrmMainLoading, WithoutACatalogueItSaysSoAndStays) {
   store("drop table [Index]");
   forms::single<frmMain>();
-  expectBox(kUnexpected, Icon::error);
+  expectBox(kUnexpected, Icon::kError);
   open();
   EXPECT_TRUE(user::MainOpen);
   easy(u"a");
-  expectBox(kChoose, Icon::warning);
+  expectBox(kChoose, Icon::kWarning);
 }
 
 TEST_F(FrmMainLoading, WithoutADatabaseItSaysSoAndStays) {
   user::ConnectionString = u"Provider=x;Data Source=C:\\no such folder\\kk.dat;";
   forms::single<frmMain>();
-  expectBox(kUnexpected, Icon::error);
+  expectBox(kUnexpected, Icon::kError);
   open();
 }
 

@@ -68,9 +68,9 @@ TEST_F(FrmMainSearching, AQuoteIsAnOrdinaryCharacter) {
 TEST_F(FrmMainSearching, NothingTypedIsTold) {
   easy(u"liver");
   easy(u"");
-  expectBox(u"查询条件不为空！", Icon::warning);
+  expectBox(u"查询条件不为空！", Icon::kWarning);
   complex(u"");
-  expectBox(u"查询条件不为空！", Icon::warning);
+  expectBox(u"查询条件不为空！", Icon::kWarning);
   EXPECT_EQ(lines().size(), 1U);
 }
 
@@ -78,13 +78,13 @@ TEST_F(FrmMainSearching, BlanksAreSearchedAsTyped) {
   complex(u" ");
   EXPECT_EQ(lines(), (Texts{u"heart beat          心搏"}));
   easy(u" ");
-  expectBox(kNothing, Icon::information);
+  expectBox(kNothing, Icon::kInformation);
 }
 
 TEST_F(FrmMainSearching, NothingFoundIsToldAndLeavesTheNodesEmpty) {
   easy(u"heart");
   easy(u"zzz");
-  expectBox(kNothing, Icon::information);
+  expectBox(kNothing, Icon::kInformation);
   EXPECT_EQ(lines(), Texts(3));
   easy(u"liver");
   EXPECT_EQ(lines(), (Texts{u"liver          肝"}));
@@ -121,9 +121,9 @@ TEST_F(FrmMainSearching, AMissingTableIsToldAndTheLinesStay) {
   const Texts before = lines();
   store("drop table med");
   easy(u"liver");
-  expectBox(kUnexpected, Icon::error);
+  expectBox(kUnexpected, Icon::kError);
   complex(u"liver");
-  expectBox(kUnexpected, Icon::error);
+  expectBox(kUnexpected, Icon::kError);
   EXPECT_EQ(lines(), before);
   choose(1);
   easy(u"heat");

@@ -109,7 +109,7 @@ TEST_F(FrmSpc, AnEmptyBoxIsToldAndNothingIsSearched) {
            {u"heat", u""}, {u"", u"热"}, {u"   ", u"  "}, {u"", u""}}) {
     fill(english, chinese);
     press(dialog().cmdOK);
-    expectBox(kBothBoxes, Icon::warning);
+    expectBox(kBothBoxes, Icon::kWarning);
     EXPECT_TRUE(forms::isLoaded<frmSpc>());
   }
   EXPECT_EQ(sql(), before);
@@ -120,7 +120,7 @@ TEST_F(FrmSpc, NothingFoundIsToldAndRecordedAllTheSame) {
   openBoth();
   fill(u"zzz", u"热");
   press(dialog().cmdOK);
-  expectBox(kNothing, Icon::information);
+  expectBox(kNothing, Icon::kInformation);
   EXPECT_TRUE(closed());
   EXPECT_EQ(form().txtInput.text(), u"特殊查询 zzz：热");
 }
@@ -129,7 +129,7 @@ TEST_F(FrmSpc, StarsAndQuestionMarksAreNoWildcards) {
   openBoth();
   fill(u"h*t", u"心");
   press(dialog().cmdOK);
-  expectBox(kNothing, Icon::information);
+  expectBox(kNothing, Icon::kInformation);
   press(form().cmdSpc);
   fill(u"h%t b_a", u"心");
   press(dialog().cmdOK);
@@ -198,7 +198,7 @@ TEST_F(FrmSpc, AQuoteBeforeThousandsOfCharactersFitsTheScreen) {
 TEST_F(FrmSpc, WithoutADictionaryTheSearchFails) {
   store("update [Index] set Isshow=0");
   forms::single<frmMain>();
-  expectBox(kChoose, Icon::warning);
+  expectBox(kChoose, Icon::kWarning);
   openBoth();
   fill(u"heart", u"心");
   press(dialog().cmdOK);

@@ -26,20 +26,20 @@ SAFEARRAY* arrayWithTwoDimensions() {
 
 SAFEARRAY* arrayFor(Rectangles kind, std::vector<double> numbers) {
   switch (kind) {
-    case Rectangles::right:
+    case Rectangles::kRight:
       return arrayOf(numbers);
-    case Rectangles::nothing:
+    case Rectangles::kNothing:
       return nullptr;
-    case Rectangles::none:
+    case Rectangles::kNone:
       return arrayOf({});
-    case Rectangles::odd:
+    case Rectangles::kOdd:
       numbers.push_back(1);
       return arrayOf(numbers);
-    case Rectangles::integers:
+    case Rectangles::kIntegers:
       return SafeArrayCreateVector(VT_I4, 0, 4);
-    case Rectangles::twoDimensions:
+    case Rectangles::kTwoDimensions:
       return arrayWithTwoDimensions();
-    case Rectangles::infinite:
+    case Rectangles::kInfinite:
       return arrayOf({-std::numeric_limits<double>::infinity(), 0,
                       std::numeric_limits<double>::infinity(), 4000});
   }
@@ -123,11 +123,11 @@ class Range : public Counted<UiaTextRangeStub> {
   [[nodiscard]] bool isEdge(std::size_t index) const {
     if (index == 0 || index >= text().size()) return true;
     switch (in_.plan.units) {
-      case Units::characters:
+      case Units::kCharacters:
         return text()[index] < 0xDC00 || text()[index] > 0xDFFF;
-      case Units::words:
+      case Units::kWords:
         return text()[index - 1] == u' ' && text()[index] != u' ';
-      case Units::all:
+      case Units::kAll:
         break;
     }
     return false;

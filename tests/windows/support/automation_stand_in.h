@@ -32,17 +32,17 @@ struct Trouble {
 };
 
 /// What the text counts as a character.
-enum class Units { characters, words, all };
+enum class Units { kCharacters, kWords, kAll };
 
 /// What GetBoundingRectangles leaves.
-enum class Rectangles { right, nothing, none, odd, integers, twoDimensions, infinite };
+enum class Rectangles { kRight, kNothing, kNone, kOdd, kIntegers, kTwoDimensions, kInfinite };
 
 struct AutomationPlan {
   /// The element under every point and its ancestors.
   std::vector<ElementPlan> elements = std::vector<ElementPlan>(1);
   std::u16string text;
-  Units units = Units::characters;
-  Rectangles rectangles = Rectangles::right;
+  Units units = Units::kCharacters;
+  Rectangles rectangles = Rectangles::kRight;
   bool keepsToLength = true;  ///< GetText cuts its text as it is told to
   std::optional<Trouble> trouble;
   std::chrono::milliseconds perCall{0};

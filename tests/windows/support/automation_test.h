@@ -50,7 +50,7 @@ class AutomationTest : public ::testing::Test {
   /// The word there, empty where there is none.
   std::u16string wordAt(nhw32::ScreenPoint point) {
     const auto answer = ask(point);
-    return answer.outcome == nhw32::Outcome::word ? answer.word.text : std::u16string();
+    return answer.outcome == nhw32::Outcome::kWord ? answer.word.text : std::u16string();
   }
 
   AutomationPlan& plan() { return standIn_.plan; }

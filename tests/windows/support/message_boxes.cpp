@@ -24,12 +24,12 @@ Icon iconOf(HWND box) {
     if ((GetWindowLongPtrW(part, GWL_STYLE) & SS_TYPEMASK) != SS_ICON) continue;
     icon = reinterpret_cast<HICON>(SendMessageW(part, STM_GETICON, 0, 0));
   }
-  if (icon == nullptr) return Icon::none;
+  if (icon == nullptr) return Icon::kNone;
   // The system shares its own icons: one handle each.
-  if (icon == LoadIconW(nullptr, IDI_ERROR)) return Icon::error;
-  if (icon == LoadIconW(nullptr, IDI_WARNING)) return Icon::warning;
-  if (icon == LoadIconW(nullptr, IDI_INFORMATION)) return Icon::information;
-  return Icon::other;
+  if (icon == LoadIconW(nullptr, IDI_ERROR)) return Icon::kError;
+  if (icon == LoadIconW(nullptr, IDI_WARNING)) return Icon::kWarning;
+  if (icon == LoadIconW(nullptr, IDI_INFORMATION)) return Icon::kInformation;
+  return Icon::kOther;
 }
 
 }  // namespace

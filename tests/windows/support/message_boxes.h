@@ -9,13 +9,13 @@
 
 namespace wintest {
 
-enum class Icon { none, error, warning, information, other };
+enum class Icon { kNone, kError, kWarning, kInformation, kOther };
 
 /// What a message box said.
 struct SeenBox {
   std::u16string title;
   std::u16string text;
-  Icon icon = Icon::none;
+  Icon icon = Icon::kNone;
   HWND owner = nullptr;
 };
 

@@ -116,7 +116,7 @@ class QueryTest : public WindowTest {
     ASSERT_TRUE(eventually([this] { return boxes.count() >= 1; }));
     const auto seen = boxes.take();
     ASSERT_EQ(seen.size(), 1U);
-    EXPECT_EQ(seen[0].icon, Icon::error);
+    EXPECT_EQ(seen[0].icon, Icon::kError);
     EXPECT_EQ(seen[0].title, u"");
     const std::u16string head = problem + u"\n" + win32::applicationFolder() + u"\\kk.dat\n请";
     EXPECT_TRUE(seen[0].text.starts_with(head)) << text::toUtf8(seen[0].text);

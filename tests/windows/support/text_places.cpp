@@ -60,7 +60,7 @@ int rowsTold(HWND control, std::size_t position) {
   const POINT corner = *characterCorner(control, position);
   const LONG bottom = harness::clientRectOf(control).bottom;
   const auto told = [&](LONG y) {
-    return answerTo(questionAt(control, {corner.x + 1, y})).outcome == nhw32::Outcome::word;
+    return answerTo(questionAt(control, {corner.x + 1, y})).outcome == nhw32::Outcome::kWord;
   };
   LONG y = corner.y;
   while (y < bottom && told(y)) ++y;

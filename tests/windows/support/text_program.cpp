@@ -29,7 +29,7 @@ std::wstring fileFor(const std::string& mark) {
 }
 
 std::wstring programOf(TextProgram::Kind kind) {
-  return kind == TextProgram::Kind::notepad
+  return kind == TextProgram::Kind::kNotepad
              ? L"C:\\windows\\system32\\notepad.exe"
              : L"C:\\Program Files\\Windows NT\\Accessories\\wordpad.exe";
 }
@@ -42,12 +42,12 @@ TextProgram::TextProgram(Kind kind, const std::u16string& text)
       window_(harness::waitFor("the program's window",
                                [&] {
                                  return harness::findWindow({.process = process_.id(),
-                                                             .className = kind == Kind::notepad
+                                                             .className = kind == Kind::kNotepad
                                                                               ? L"Notepad"
                                                                               : L"WORDPADTOP",
                                                              .title = {}});
                                })),
-      control_(harness::waitForChild(window_, kind == Kind::notepad ? L"Edit" : L"RichEdit20W")) {
+      control_(harness::waitForChild(window_, kind == Kind::kNotepad ? L"Edit" : L"RichEdit20W")) {
   // Programs set out their windows, and window managers place them, in their own time.
   process_.waitForInputIdle();
   constexpr RECT kPlace{200, 100, 900, 700};

@@ -11,7 +11,7 @@ namespace wintest {
 /// A program of the system's with a text, above all other windows.
 class TextProgram {
  public:
-  enum class Kind { notepad, wordPad };
+  enum class Kind { kNotepad, kWordPad };
 
   TextProgram(Kind kind, const std::u16string& text);
   ~TextProgram();

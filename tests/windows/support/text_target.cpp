@@ -84,7 +84,7 @@ nhw32::Answer answerTo(const nhw32::Question& question) {
   for (int tries = 0; tries < 20; ++tries) {
     // A new one, which backs off from no window yet.
     answer = nhw32::makeWindowReader()->wordAt(question);
-    if (answer.outcome != nhw32::Outcome::outOfTime) break;
+    if (answer.outcome != nhw32::Outcome::kOutOfTime) break;
   }
   return answer;
 }

@@ -17,7 +17,7 @@ constexpr int kRounds = 10'000;
 
 /// The answer to a question, the `number`th that was taken: the one in its text, the other as the
 /// left edge of its place.
-Answer answerTo(const Question& question, int number, Outcome outcome = Outcome::word) {
+Answer answerTo(const Question& question, int number, Outcome outcome = Outcome::kWord) {
   const std::string text = "word at " + std::to_string(question.point.x) + " in window " +
                            std::to_string(question.window);
   return {.outcome = outcome,
@@ -65,7 +65,7 @@ void work(ProbeMailbox& mailbox, unsigned seed, std::atomic<int>& taken) {
     const int number = ++taken;
     dawdle(random);
     const bool found = random() % 8 != 0;
-    mailbox.deliver(answerTo(*question, number, found ? Outcome::word : Outcome::none));
+    mailbox.deliver(answerTo(*question, number, found ? Outcome::kWord : Outcome::kNone));
   }
 }
 

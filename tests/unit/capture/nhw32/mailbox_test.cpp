@@ -13,7 +13,7 @@ constexpr Question kThere{.window = 1, .point = {11, 20}};
 constexpr Question kOtherWindow{.window = 2, .point = {10, 20}};
 
 Answer wordAnswer(const std::u16string& text) {
-  return {.outcome = Outcome::word, .word = {.text = text, .box = {1, 2, 3, 4}}};
+  return {.outcome = Outcome::kWord, .word = {.text = text, .box = {1, 2, 3, 4}}};
 }
 
 class MailboxTest : public ::testing::Test {
@@ -66,7 +66,7 @@ TEST_F(MailboxTest, WithdrawKeepsTheArmedQuestion) {
 }
 
 TEST_F(MailboxTest, AnnouncesNothingWithoutAWord) {
-  for (const Outcome outcome : {Outcome::none, Outcome::refused, Outcome::outOfTime}) {
+  for (const Outcome outcome : {Outcome::kNone, Outcome::kRefused, Outcome::kOutOfTime}) {
     mailbox_.arm(kHere, kHost);
     mailbox_.take();
     mailbox_.deliver({.outcome = outcome, .word = {}});

@@ -17,7 +17,7 @@ constexpr Backoff::Time kStart{};
 
 /// Lets `window` run out of time `times` times.
 void fail(Backoff& backoff, WindowId window, int times, Backoff::Time now) {
-  for (int i = 0; i < times; ++i) backoff.note(window, Outcome::outOfTime, now);
+  for (int i = 0; i < times; ++i) backoff.note(window, Outcome::kOutOfTime, now);
 }
 
 TEST(Backoff, AllowsTwoTimeouts) {
@@ -37,7 +37,7 @@ TEST(Backoff, StartsAtFiveSecondsAfterThreeTimeoutsInARow) {
 }
 
 TEST(Backoff, IsResetByAnAnswerInTime) {
-  for (const Outcome outcome : {Outcome::word, Outcome::none}) {
+  for (const Outcome outcome : {Outcome::kWord, Outcome::kNone}) {
     Backoff backoff;
     fail(backoff, 1, 2, kStart);
     backoff.note(1, outcome, kStart);
@@ -54,12 +54,12 @@ TEST(Backoff, IsResetByAnAnswerInTime) {
 TEST(Backoff, IsNotChangedByARefusal) {
   Backoff backoff;
   fail(backoff, 1, 2, kStart);
-  backoff.note(1, Outcome::refused, kStart);
+  backoff.note(1, Outcome::kRefused, kStart);
   EXPECT_TRUE(backoff.mayAsk(1, kStart));
   fail(backoff, 1, 1, kStart);
-  backoff.note(1, Outcome::refused, kStart);
+  backoff.note(1, Outcome::kRefused, kStart);
   EXPECT_FALSE(backoff.mayAsk(1, kStart));
-  for (int i = 0; i < 5; ++i) backoff.note(2, Outcome::refused, kStart);
+  for (int i = 0; i < 5; ++i) backoff.note(2, Outcome::kRefused, kStart);
   EXPECT_TRUE(backoff.mayAsk(2, kStart));
 }
 
@@ -92,7 +92,7 @@ class Silent : public WordReader {
  public:
   Answer wordAt(const Question& question) override {
     asked_.push_back(question.window);
-    return {.outcome = question.window == 1 ? Outcome::outOfTime : Outcome::word, .word = {}};
+    return {.outcome = question.window == 1 ? Outcome::kOutOfTime : Outcome::kWord, .word = {}};
   }
   std::vector<WindowId> asked_;
 };
@@ -102,34 +102,34 @@ TEST(BackoffReader, DoesNotAskAWindowThatKeepsTimingOut) {
   auto& asked = silent->asked_;
   Backoff::Time now = kStart;
   BackoffReader reader(std::move(silent), [&] { return now; });
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::outOfTime);
-  EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::none);
-  EXPECT_EQ(reader.wordAt(about(2)).outcome, Outcome::word);
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::kOutOfTime);
+  EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::kNone);
+  EXPECT_EQ(reader.wordAt(about(2)).outcome, Outcome::kWord);
   EXPECT_EQ(asked, (std::vector<WindowId>{1, 1, 1, 2}));
   now += seconds(5);
-  EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::outOfTime);
-  EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::none);
+  EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::kOutOfTime);
+  EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::kNone);
 }
 
 TEST(ReaderKindFor, KnowsTheClassesThatAreProbed) {
   const std::map<std::u16string_view, ReaderKind> kinds{
-      {u"ttyGrab", ReaderKind::uia},
-      {u"AVL_AVView", ReaderKind::uia},
-      {u"tty", ReaderKind::uia},
-      {u"_WwG", ReaderKind::uia},
-      {u"ConsoleWindowClass", ReaderKind::uia},
-      {u"EXCEL6", ReaderKind::uia},
-      {u"EXCEL7", ReaderKind::uia},
-      {u"EXCEL<", ReaderKind::uia},
-      {u"ThunderRT6TextBox", ReaderKind::edit},
-      {u"ThunderRT5TextBox", ReaderKind::edit},
-      {u"ThunderTextBox", ReaderKind::edit},
-      {u"HTML_Internet Explorer", ReaderKind::uia},
-      {u"RichEdit20W", ReaderKind::richEdit},
-      {u"RichEdit20A", ReaderKind::richEdit},
-      {u"RichEdit", ReaderKind::richEdit},
-      {u"Internet Explorer_Server", ReaderKind::uia},
-      {u"Edit", ReaderKind::edit},
+      {u"ttyGrab", ReaderKind::kUia},
+      {u"AVL_AVView", ReaderKind::kUia},
+      {u"tty", ReaderKind::kUia},
+      {u"_WwG", ReaderKind::kUia},
+      {u"ConsoleWindowClass", ReaderKind::kUia},
+      {u"EXCEL6", ReaderKind::kUia},
+      {u"EXCEL7", ReaderKind::kUia},
+      {u"EXCEL<", ReaderKind::kUia},
+      {u"ThunderRT6TextBox", ReaderKind::kEdit},
+      {u"ThunderRT5TextBox", ReaderKind::kEdit},
+      {u"ThunderTextBox", ReaderKind::kEdit},
+      {u"HTML_Internet Explorer", ReaderKind::kUia},
+      {u"RichEdit20W", ReaderKind::kRichEdit},
+      {u"RichEdit20A", ReaderKind::kRichEdit},
+      {u"RichEdit", ReaderKind::kRichEdit},
+      {u"Internet Explorer_Server", ReaderKind::kUia},
+      {u"Edit", ReaderKind::kEdit},
   };
   EXPECT_EQ(kinds.size(), 17U);
   for (const auto& [name, kind] : kinds) {
@@ -139,44 +139,44 @@ TEST(ReaderKindFor, KnowsTheClassesThatAreProbed) {
 
 TEST(ReaderKindFor, FindsRichEditAnywhereInTheName) {
   for (const std::u16string_view name : {u"TRichEdit", u"RichEdit20W.1", u"RichEditD2DPT"}) {
-    EXPECT_EQ(readerKindFor(name, name), ReaderKind::richEdit);
+    EXPECT_EQ(readerKindFor(name, name), ReaderKind::kRichEdit);
   }
 }
 
 TEST(ReaderKindFor, TakesEditControlsByTheirRealClass) {
   for (const std::u16string_view name : {u"TMyEditor", u"TLogEdit", u"Edit0", u"TRichEdit"}) {
     for (const std::u16string_view real : {u"Edit", u"EDIT", u"edit"}) {
-      EXPECT_EQ(readerKindFor(name, real), ReaderKind::edit);
+      EXPECT_EQ(readerKindFor(name, real), ReaderKind::kEdit);
     }
   }
   for (const std::u16string_view name : {u"TMyEditor", u"TLogEdit", u"Edit0", u"MyEdit"}) {
     for (const std::u16string_view real :
          {name, std::u16string_view(u"RichEdit20W"), std::u16string_view()}) {
-      EXPECT_EQ(readerKindFor(name, real), ReaderKind::uia);
+      EXPECT_EQ(readerKindFor(name, real), ReaderKind::kUia);
     }
   }
 }
 
 TEST(ReaderKindFor, ComparesTheWholeNameWithoutARealClass) {
   for (const std::u16string_view name : {u"Edit", u"EDIT", u"edit", u"ThunderRT6TextBox"}) {
-    EXPECT_EQ(readerKindFor(name, u""), ReaderKind::edit);
+    EXPECT_EQ(readerKindFor(name, u""), ReaderKind::kEdit);
   }
-  EXPECT_EQ(readerKindFor(u"MyThunderTextBox", u"MyThunderTextBox"), ReaderKind::uia);
-  EXPECT_EQ(readerKindFor(u"Richedit", u"Richedit"), ReaderKind::uia);
-  EXPECT_EQ(readerKindFor(u"", u""), ReaderKind::uia);
+  EXPECT_EQ(readerKindFor(u"MyThunderTextBox", u"MyThunderTextBox"), ReaderKind::kUia);
+  EXPECT_EQ(readerKindFor(u"Richedit", u"Richedit"), ReaderKind::kUia);
+  EXPECT_EQ(readerKindFor(u"", u""), ReaderKind::kUia);
 }
 
 TEST(SendTimeout, MapsErrorTimeoutToOutOfTime) {
-  EXPECT_EQ(outcomeOfSendTimeout(1460), Outcome::outOfTime);  // ERROR_TIMEOUT
+  EXPECT_EQ(outcomeOfSendTimeout(1460), Outcome::kOutOfTime);  // ERROR_TIMEOUT
 }
 
 TEST(SendTimeout, MapsNoErrorOfAHungWindowToOutOfTime) {
-  EXPECT_EQ(outcomeOfSendTimeout(0), Outcome::outOfTime);
+  EXPECT_EQ(outcomeOfSendTimeout(0), Outcome::kOutOfTime);
 }
 
 TEST(SendTimeout, MapsOtherErrorsToRefused) {
-  EXPECT_EQ(outcomeOfSendTimeout(5), Outcome::refused);     // ERROR_ACCESS_DENIED
-  EXPECT_EQ(outcomeOfSendTimeout(1400), Outcome::refused);  // ERROR_INVALID_WINDOW_HANDLE
+  EXPECT_EQ(outcomeOfSendTimeout(5), Outcome::kRefused);     // ERROR_ACCESS_DENIED
+  EXPECT_EQ(outcomeOfSendTimeout(1400), Outcome::kRefused);  // ERROR_INVALID_WINDOW_HANDLE
 }
 
 }  // namespace

@@ -86,12 +86,12 @@ TEST_F(Nhw32Hanging, AQuestionEndsInTimeAndTheWindowIsLeftAloneForAWhile) {
     target.hang(true);
     for (int i = 0; i < 3; ++i) {
       const auto begin = steady_clock::now();
-      EXPECT_EQ(router->wordAt(target.question()).outcome, nhw32::Outcome::outOfTime);
+      EXPECT_EQ(router->wordAt(target.question()).outcome, nhw32::Outcome::kOutOfTime);
       EXPECT_LE(steady_clock::now() - begin, kQuestionTime);
     }
-    EXPECT_EQ(router->wordAt(target.question()).outcome, nhw32::Outcome::none);
+    EXPECT_EQ(router->wordAt(target.question()).outcome, nhw32::Outcome::kNone);
     target.hang(false);
-    EXPECT_EQ(router->wordAt(target.question()).outcome, nhw32::Outcome::none);
+    EXPECT_EQ(router->wordAt(target.question()).outcome, nhw32::Outcome::kNone);
     EXPECT_EQ(answerTo(target.question()).word.text, u"stubborn");
   }
 }
@@ -106,7 +106,7 @@ TEST_F(Nhw32Hanging, AControlThatTakesItsTimeMayStillUseTheMemoryItWasGiven) {
     for (int round = 0; round < 3; ++round) {
       target.hang(true);
       EXPECT_EQ(nhw32::makeWindowReader()->wordAt(target.question()).outcome,
-                nhw32::Outcome::outOfTime);
+                nhw32::Outcome::kOutOfTime);
       target.hang(false);
       EXPECT_EQ(answerTo(target.question()).word.text, u"stubborn");
     }
@@ -162,7 +162,7 @@ class Stubborn : public nhw32::WordReader {
     ++asked;
     if (question.point.x < 100) throw std::runtime_error("fails");
     Sleep(question.point.x < 200 ? 250 : 0);
-    return {.outcome = nhw32::Outcome::word,
+    return {.outcome = nhw32::Outcome::kWord,
             .word = {.text = question.point.x < 200 ? u"slow" : u"quick", .box = {}}};
   }
   static inline std::atomic<int> asked = 0;

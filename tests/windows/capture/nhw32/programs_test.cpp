@@ -43,14 +43,15 @@ class Nhw32Programs : public ::testing::TestWithParam<TextProgram::Kind> {
  protected:
   static PageDesign design(std::size_t length) {
     return {.length = length,
-            .lineEnd = GetParam() == TextProgram::Kind::notepad ? u"\r\n" : u"\r"};
+            .lineEnd = GetParam() == TextProgram::Kind::kNotepad ? u"\r\n" : u"\r"};
   }
 };
 
 INSTANTIATE_TEST_SUITE_P(OfTheSystem, Nhw32Programs,
-                         ::testing::Values(TextProgram::Kind::notepad, TextProgram::Kind::wordPad),
+                         ::testing::Values(TextProgram::Kind::kNotepad,
+                                           TextProgram::Kind::kWordPad),
                          [](const auto& kind) {
-                           return kind.param == TextProgram::Kind::notepad ? "Notepad" : "WordPad";
+                           return kind.param == TextProgram::Kind::kNotepad ? "Notepad" : "WordPad";
                          });
 
 TEST_P(Nhw32Programs, TheServiceTellsTheWordAtTwoHundredPlaces) {
@@ -63,7 +64,8 @@ TEST_P(Nhw32Programs, TheServiceTellsTheWordAtTwoHundredPlaces) {
     // What is no word is asked for directly: nothing would tell when to stop waiting for it.
     const std::u16string& word = page.words[place.position];
     if (word.empty()) {
-      EXPECT_EQ(answerTo(questionAt(program.control(), place.point)).outcome, nhw32::Outcome::none);
+      EXPECT_EQ(answerTo(questionAt(program.control(), place.point)).outcome,
+                nhw32::Outcome::kNone);
     } else {
       ASSERT_EQ(host.wordAt(place.point), ansi(word)) << "at character " << place.position;
     }
@@ -141,11 +143,11 @@ void forbidOpening(HANDLE process) {
 }
 
 TEST(Nhw32Refusal, AProgramThatMayNotBeOpenedGivesNoWordOfItsRichEditControl) {
-  const TextProgram program(TextProgram::Kind::wordPad, u"guarded words");
+  const TextProgram program(TextProgram::Kind::kWordPad, u"guarded words");
   const nhw32::Question question = questionAbout(program.control(), 3);
   ASSERT_EQ(answerTo(question).word.text, u"guarded");
   forbidOpening(program.process().handle());
-  EXPECT_EQ(answerTo(question).outcome, nhw32::Outcome::refused);
+  EXPECT_EQ(answerTo(question).outcome, nhw32::Outcome::kRefused);
 }
 
 TEST_P(Nhw32Programs, AProgramThatDiesGivesNoWord) {
@@ -153,7 +155,7 @@ TEST_P(Nhw32Programs, AProgramThatDiesGivesNoWord) {
   const nhw32::Question question = questionAbout(program.control(), 3);
   ASSERT_EQ(answerTo(question).word.text, u"mortal");
   program.process().kill();
-  EXPECT_EQ(answerTo(question).outcome, nhw32::Outcome::none);
+  EXPECT_EQ(answerTo(question).outcome, nhw32::Outcome::kNone);
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ milliseconds timeUntilSilence(HWND control) {
     while (steady_clock::now() - begin < std::chrono::seconds(5))
       static_cast<void>(target.ask(kSlow));
   } catch (const nhw32::NoAnswer& silence) {
-    EXPECT_EQ(silence.outcome(), nhw32::Outcome::outOfTime);
+    EXPECT_EQ(silence.outcome(), nhw32::Outcome::kOutOfTime);
   }
   return std::chrono::duration_cast<milliseconds>(steady_clock::now() - begin);
 }

@@ -34,12 +34,12 @@ std::vector<int> numbers(const std::vector<std::byte>& bytes) {
 }
 
 TEST(TextRangeBytes, FollowTheBitnessOfTheTarget) {
-  EXPECT_EQ(numbers(textRangeBytes(Bitness::bits64, 1, 0x1234, 0x1122334455667788)),
+  EXPECT_EQ(numbers(textRangeBytes(Bitness::kBits64, 1, 0x1234, 0x1122334455667788)),
             (std::vector<int>{1, 0, 0, 0, 0x34, 0x12, 0, 0, 0x88, 0x77, 0x66, 0x55, 0x44, 0x33,
                               0x22, 0x11}));
-  EXPECT_EQ(numbers(textRangeBytes(Bitness::bits32, 1, 0x1234, 0x55667788)),
+  EXPECT_EQ(numbers(textRangeBytes(Bitness::kBits32, 1, 0x1234, 0x55667788)),
             (std::vector<int>{1, 0, 0, 0, 0x34, 0x12, 0, 0, 0x88, 0x77, 0x66, 0x55}));
-  EXPECT_EQ(numbers(textRangeBytes(Bitness::bits32, 0, -1, 0)),
+  EXPECT_EQ(numbers(textRangeBytes(Bitness::kBits32, 0, -1, 0)),
             (std::vector<int>{0, 0, 0, 0, 0xFF, 0xFF, 0xFF, 0xFF, 0, 0, 0, 0}));
 }
 

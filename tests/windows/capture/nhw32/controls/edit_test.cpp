@@ -28,8 +28,8 @@ class Nhw32Edit : public ::testing::Test {
   /// "" where there is none.
   std::u16string wordAt(const TextTarget& /*target*/, const nhw32::Question& question) {
     const nhw32::Answer answer = answerTo(question);
-    EXPECT_NE(answer.outcome, Outcome::outOfTime);
-    return answer.outcome == Outcome::word ? answer.word.text : u"";
+    EXPECT_NE(answer.outcome, Outcome::kOutOfTime);
+    return answer.outcome == Outcome::kWord ? answer.word.text : u"";
   }
 
   /// Compares the words at `count` random places in sight with those of the page.
@@ -198,7 +198,7 @@ TEST_F(Nhw32Edit, TheBoxOfAWordEndsWithTheClientArea) {
   const TextTarget target({.size = {420, 9}}, u"The catalyst");
   const RECT client = harness::clientRectOf(target.control());
   const auto answer = answerTo(questionAt(target.control(), {client.left + 8, client.top + 5}));
-  ASSERT_EQ(answer.outcome, Outcome::word);
+  ASSERT_EQ(answer.outcome, Outcome::kWord);
   EXPECT_EQ(answer.word.box.bottom, client.bottom);
 }
 
@@ -245,7 +245,7 @@ TEST_F(Nhw32Edit, NothingWhereTheWindowIsHiddenOrGone) {
     ShowWindow(target.window(), SW_HIDE);
     EXPECT_EQ(wordAt(target, question), u"");
   }
-  EXPECT_EQ(answerTo(question).outcome, Outcome::none);
+  EXPECT_EQ(answerTo(question).outcome, Outcome::kNone);
 }
 
 /// What befalls a control right after its text was read.

@@ -22,8 +22,8 @@ class Nhw32RichEdit : public ::testing::Test {
  protected:
   std::u16string wordAt(const nhw32::Question& question) {
     const nhw32::Answer answer = answerTo(question);
-    EXPECT_NE(answer.outcome, Outcome::outOfTime);
-    return answer.outcome == Outcome::word ? answer.word.text : u"";
+    EXPECT_NE(answer.outcome, Outcome::kOutOfTime);
+    return answer.outcome == Outcome::kWord ? answer.word.text : u"";
   }
 
   std::u16string wordAtPoint(const TextTarget& target, POINT point) {

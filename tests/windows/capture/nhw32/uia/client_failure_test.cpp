@@ -45,19 +45,19 @@ class AutomationFailureTest : public AutomationTest {
 };
 
 TEST_F(AutomationFailureTest, AFailureOfAnyCallIsNoWord) {
-  troubleAtEachCall({.result = E_FAIL}, Outcome::none);
+  troubleAtEachCall({.result = E_FAIL}, Outcome::kNone);
 }
 
 TEST_F(AutomationFailureTest, AnElementThatVanishesIsNoWord) {
-  troubleAtEachCall({.result = nhw32::UIA_E_ELEMENTNOTAVAILABLE}, Outcome::none);
+  troubleAtEachCall({.result = nhw32::UIA_E_ELEMENTNOTAVAILABLE}, Outcome::kNone);
 }
 
 TEST_F(AutomationFailureTest, AnExceptionInAnyCallIsNoWord) {
-  troubleAtEachCall({.throws = true}, Outcome::none);
+  troubleAtEachCall({.throws = true}, Outcome::kNone);
 }
 
 TEST_F(AutomationFailureTest, ACallThatRanOutOfTimeEndsTheQuestion) {
-  troubleAtEachCall({.result = nhw32::UIA_E_TIMEOUT}, Outcome::outOfTime);
+  troubleAtEachCall({.result = nhw32::UIA_E_TIMEOUT}, Outcome::kOutOfTime);
 }
 
 TEST_F(AutomationFailureTest, SuccessWithoutAResultIsNoWord) {
@@ -69,7 +69,7 @@ TEST_F(AutomationFailureTest, SuccessWithoutAResultIsNoWord) {
     if (!needed.contains(calls[i])) continue;
     log().calls.clear();
     plan().trouble = Trouble{.call = i, .result = S_OK};
-    EXPECT_EQ(outcome(kPoint), Outcome::none) << i << " " << calls[i];
+    EXPECT_EQ(outcome(kPoint), Outcome::kNone) << i << " " << calls[i];
   }
 }
 
@@ -86,10 +86,11 @@ TEST_F(AutomationFailureTest, SuccessWithoutAnAnswerIsNoWrongWord) {
 }
 
 TEST_F(AutomationFailureTest, RectanglesThatMakeNoSenseAreNone) {
-  for (const auto kind : {Rectangles::nothing, Rectangles::none, Rectangles::odd,
-                          Rectangles::integers, Rectangles::twoDimensions, Rectangles::infinite}) {
+  for (const auto kind :
+       {Rectangles::kNothing, Rectangles::kNone, Rectangles::kOdd, Rectangles::kIntegers,
+        Rectangles::kTwoDimensions, Rectangles::kInfinite}) {
     plan().rectangles = kind;
-    EXPECT_EQ(outcome(kPoint), Outcome::none) << static_cast<int>(kind);
+    EXPECT_EQ(outcome(kPoint), Outcome::kNone) << static_cast<int>(kind);
   }
   EXPECT_EQ(standIn_.times("GetText"), 0U);
 }
@@ -99,9 +100,9 @@ TEST_F(AutomationFailureTest, LeavesNoMemoryBehind) {
   for (int i = 0; i < 50; ++i) callsOfAnAnswer();
   const std::size_t before = heapBlocks();
   for (std::size_t i = 0; i < kQuestions; ++i) callsOfAnAnswer();
-  plan().rectangles = Rectangles::twoDimensions;
+  plan().rectangles = Rectangles::kTwoDimensions;
   for (std::size_t i = 0; i < kQuestions; ++i) {
-    EXPECT_EQ(outcome(kPoint), Outcome::none);
+    EXPECT_EQ(outcome(kPoint), Outcome::kNone);
     log().calls.clear();
   }
   EXPECT_LT(heapBlocks(), before + kQuestions / 2);

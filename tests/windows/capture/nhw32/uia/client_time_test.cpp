@@ -34,7 +34,7 @@ TEST_F(AutomationTimeTest, GivesUpWhenAnotherCallCouldEndTooLate) {
   for (const auto perCall : {16ms, 30ms, 100ms, 200ms}) {
     plan().perCall = perCall;
     const auto start = log().now;
-    EXPECT_EQ(outcome(kPoint), Outcome::outOfTime) << perCall.count();
+    EXPECT_EQ(outcome(kPoint), Outcome::kOutOfTime) << perCall.count();
     EXPECT_GT(log().now - start, 300ms);
     EXPECT_LE(log().now - start, 500ms) << perCall.count();
   }
@@ -55,7 +55,7 @@ TEST_F(AutomationTimeTest, EndsInTimeByTheClockAsWell) {
       nhw32::makeUiaReader({system().makeClient, [] { return std::chrono::steady_clock::now(); }});
   plan().onCall = [] { Sleep(60); };
   const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(outcome(kPoint), Outcome::outOfTime);
+  EXPECT_EQ(outcome(kPoint), Outcome::kOutOfTime);
   const auto took = std::chrono::steady_clock::now() - start;
   EXPECT_GT(took, 300ms);
   EXPECT_LT(took, 900ms) << "500 ms, and what a busy machine adds";
@@ -71,13 +71,13 @@ TEST_F(AutomationTimeTest, TriesSeldomWhereThereIsNoClient) {
                                   },
                                   system().now});
   for (int i = 0; i < 100; ++i) {
-    EXPECT_EQ(outcome(kPoint), Outcome::none);
+    EXPECT_EQ(outcome(kPoint), Outcome::kNone);
     log().now += 100ms;
   }
   EXPECT_EQ(tries, 1);
 
   result = S_OK;
-  EXPECT_EQ(outcome(kPoint), Outcome::none);
+  EXPECT_EQ(outcome(kPoint), Outcome::kNone);
   log().now += 50s;
   EXPECT_EQ(wordAt(kPoint), u"hello");
   EXPECT_EQ(wordAt(kPoint), u"hello");
@@ -86,35 +86,35 @@ TEST_F(AutomationTimeTest, TriesSeldomWhereThereIsNoClient) {
 
 TEST_F(AutomationTimeTest, AsksNothingWithoutLimits) {
   plan().limits = E_NOTIMPL;
-  EXPECT_EQ(outcome(kPoint), Outcome::none);
+  EXPECT_EQ(outcome(kPoint), Outcome::kNone);
   EXPECT_TRUE(log().calls.empty());
   EXPECT_EQ(log().live, 0);
 }
 
 TEST_F(AutomationTimeTest, StandsAClientThatIsNotThereOrThrows) {
   reader_ = nhw32::makeUiaReader({[](nhw32::IUIAutomation2**) { return S_OK; }, system().now});
-  EXPECT_EQ(outcome(kPoint), Outcome::none);
+  EXPECT_EQ(outcome(kPoint), Outcome::kNone);
   reader_ = nhw32::makeUiaReader(
       {[](nhw32::IUIAutomation2**) -> HRESULT { throw std::bad_alloc(); }, system().now});
-  EXPECT_EQ(outcome(kPoint), Outcome::none);
+  EXPECT_EQ(outcome(kPoint), Outcome::kNone);
 }
 
 TEST_F(AutomationTimeTest, AsksNothingOnAThreadThatTakesMessagesForCom) {
-  Outcome seen = Outcome::word;
+  Outcome seen = Outcome::kWord;
   std::thread([&] {
     const HRESULT result = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     seen = outcome(kPoint);
     reader_.reset();
     if (SUCCEEDED(result)) CoUninitialize();
   }).join();
-  EXPECT_EQ(seen, Outcome::none);
+  EXPECT_EQ(seen, Outcome::kNone);
   EXPECT_TRUE(log().calls.empty());
 }
 
 TEST_F(AutomationTimeTest, TheSystemsOwnFindsNoWordInAWindowWithoutText) {
   reader_ = nhw32::makeUiaReader();
   const auto start = std::chrono::steady_clock::now();
-  for (int i = 0; i < 20; ++i) EXPECT_EQ(outcome({-20000, -20000}), Outcome::none);
+  for (int i = 0; i < 20; ++i) EXPECT_EQ(outcome({-20000, -20000}), Outcome::kNone);
   EXPECT_LT(std::chrono::steady_clock::now() - start, 2s);
 }
 

@@ -20,14 +20,14 @@ class AutomationElementTest : public AutomationTest {
 TEST_F(AutomationElementTest, FindsNoneWhereNoElementHasText) {
   plan().text = u"word";
   plan().elements.assign(4, {});
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
   EXPECT_EQ(standIn_.times("GetCurrentPatternAs"), 4U);
   EXPECT_TRUE(nothingRead());
 }
 
 TEST_F(AutomationElementTest, FindsNoneWhereThereIsNoElement) {
   plan().elements.clear();
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
 }
 
 TEST_F(AutomationElementTest, LooksForTextInTenAncestors) {
@@ -37,7 +37,7 @@ TEST_F(AutomationElementTest, LooksForTextInTenAncestors) {
   }
   log().calls.clear();
   showTextAbove(11);
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
   EXPECT_EQ(standIn_.times("GetParentElement"), 10U);
 }
 
@@ -51,7 +51,7 @@ TEST_F(AutomationElementTest, StopsAtTheNearestText) {
 TEST_F(AutomationElementTest, NeverReadsAPasswordField) {
   showText(u"secret");
   plan().elements[0].password = true;
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
   EXPECT_TRUE(nothingRead());
   EXPECT_EQ(log().calls.size(), 2U);
 }
@@ -60,7 +60,7 @@ TEST_F(AutomationElementTest, NeverReadsInsideAPasswordField) {
   for (const std::size_t password : {1U, 2U, 3U}) {
     showTextAbove(3);
     plan().elements[password].password = true;
-    EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none) << password;
+    EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone) << password;
     EXPECT_TRUE(nothingRead());
   }
 }
@@ -68,21 +68,21 @@ TEST_F(AutomationElementTest, NeverReadsInsideAPasswordField) {
 TEST_F(AutomationElementTest, ReadsNothingWhereItIsNotKnownWhetherItIsAPassword) {
   showText(u"secret");
   plan().elements[0].passwordType = VT_EMPTY;
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
   plan().elements[0].passwordType = VT_I4;
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
   EXPECT_TRUE(nothingRead());
 }
 
 TEST_F(AutomationElementTest, LeavesAnotherProgramsWindowOverTheOneAskedAlone) {
   showText(u"word");
   plan().elements[0].process = GetCurrentProcessId() + 4;
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
   plan().elements[0].window = GetDesktopWindow();
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
   const auto other = makeWindow();
   plan().elements[0].window = other.get();
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
   EXPECT_TRUE(nothingRead());
 }
 
@@ -99,7 +99,7 @@ TEST_F(AutomationElementTest, TakesAnotherProcessInTheSameWindow) {
 TEST_F(AutomationElementTest, AsksNothingOfAHiddenWindow) {
   showText(u"word");
   ShowWindow(window_.get(), SW_HIDE);
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
   EXPECT_TRUE(log().calls.empty());
 }
 
@@ -111,13 +111,13 @@ TEST_F(AutomationElementTest, FindsNoneInAWindowThatHidesOrGoesMeanwhile) {
   plan().onCall = [&] {
     if (log().calls.size() == last) ShowWindow(window_.get(), SW_HIDE);
   };
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
 
   ShowWindow(window_.get(), SW_SHOWNOACTIVATE);
   log().calls.clear();
   log().unitsRead = 0;
   plan().onCall = [&] { window_.reset(); };
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
   EXPECT_TRUE(nothingRead());
 }
 
@@ -133,7 +133,7 @@ TEST_F(AutomationElementTest, FindsNoneInAWindowThatShrinksOrMovesMeanwhile) {
                      SWP_NOZORDER | SWP_NOACTIVATE);
       }
     };
-    EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+    EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
     EXPECT_EQ(log().calls.size(), last);
     EXPECT_EQ(wordAt(grid::at(0, 1)), u"word");
   }

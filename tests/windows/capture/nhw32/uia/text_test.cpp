@@ -15,7 +15,7 @@ TEST_F(AutomationTextTest, FindsTheWordUnderEveryPixelOfIt) {
   for (int column = 4; column < 9; ++column) {
     for (int right = 0; right < grid::kWidth; ++right) {
       const auto answer = ask(grid::at(0, column, right));
-      ASSERT_EQ(answer.outcome, Outcome::word) << column << " + " << right;
+      ASSERT_EQ(answer.outcome, Outcome::kWord) << column << " + " << right;
       ASSERT_EQ(answer.word.text, u"hello") << column << " + " << right;
       ASSERT_EQ(answer.word.box, grid::box(0, 4, 5));
     }
@@ -26,7 +26,7 @@ TEST_F(AutomationTextTest, FindsNoneOnBlanksAndOtherCharacters) {
   showText(u"one  two, 42 \t.");
   for (const int column : {3, 4, 8, 9, 10, 11, 12, 13, 14}) {
     for (const int right : {0, 4, 5, 9}) {
-      EXPECT_EQ(outcome(grid::at(0, column, right)), Outcome::none) << column << " + " << right;
+      EXPECT_EQ(outcome(grid::at(0, column, right)), Outcome::kNone) << column << " + " << right;
     }
   }
 }
@@ -37,7 +37,7 @@ TEST_F(AutomationTextTest, TakesNoNearestWordThatIsNotUnderThePoint) {
       grid::at(0, -1), grid::at(-1, 0), grid::at(0, 5),   grid::at(0, 5, 0), grid::at(0, 300),
       grid::at(2, 0),  grid::at(1, 6),  grid::at(50, 50), {-30000, -30000},  grid::at(0, -1, 9)};
   for (const auto& point : besides) {
-    EXPECT_EQ(outcome(point), Outcome::none) << point.x << ", " << point.y;
+    EXPECT_EQ(outcome(point), Outcome::kNone) << point.x << ", " << point.y;
   }
   EXPECT_EQ(wordAt(grid::at(0, 4, 9)), u"first");
   EXPECT_EQ(wordAt(grid::at(1, 0, 0)), u"second");
@@ -74,21 +74,21 @@ TEST_F(AutomationTextTest, StandsCharactersOfTwoUnits) {
   showText(u"\U0001F600word\U0001F600 \U0001F600");
   EXPECT_EQ(wordAt(grid::at(0, 2)), u"word");
   EXPECT_EQ(wordAt(grid::at(0, 5)), u"word");
-  EXPECT_EQ(outcome(grid::at(0, 0)), Outcome::none);
-  EXPECT_EQ(outcome(grid::at(0, 9)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 0)), Outcome::kNone);
+  EXPECT_EQ(outcome(grid::at(0, 9)), Outcome::kNone);
 }
 
 TEST_F(AutomationTextTest, MakesDoWithUnitsThatAreWords) {
   showText(u"one hello  two");
-  plan().units = Units::words;
+  plan().units = Units::kWords;
   EXPECT_EQ(wordAt(grid::at(0, 6)), u"hello");
   EXPECT_EQ(wordAt(grid::at(0, 13)), u"two");
 }
 
 TEST_F(AutomationTextTest, FindsNoneInUnitsThatHoldMoreThanAWord) {
   showText(u"one hello two");
-  plan().units = Units::all;
-  EXPECT_EQ(outcome(grid::at(0, 6)), Outcome::none);
+  plan().units = Units::kAll;
+  EXPECT_EQ(outcome(grid::at(0, 6)), Outcome::kNone);
   showText(u" hello ");
   EXPECT_EQ(wordAt(grid::at(0, 3)), u"hello");
 }
@@ -102,15 +102,15 @@ TEST_F(AutomationTextTest, ReadsOfAMegabyteOnlyWhatLiesAround) {
   EXPECT_LE(log().unitsRead, kMost);
 
   log().unitsRead = 0;
-  plan().units = Units::all;
-  EXPECT_EQ(outcome(grid::at(30'000, 6)), Outcome::none);
+  plan().units = Units::kAll;
+  EXPECT_EQ(outcome(grid::at(30'000, 6)), Outcome::kNone);
   EXPECT_LE(log().unitsRead, kMost);
 
   // One that hands out all of it whatever it is told.
   plan().keepsToLength = false;
-  EXPECT_EQ(outcome(grid::at(30'000, 6)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(30'000, 6)), Outcome::kNone);
   showText(u"word" + std::u16string(90'000, u' '));
-  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
   plan().text.resize(250);
   EXPECT_EQ(wordAt(grid::at(0, 1)), u"word");
 }
@@ -120,13 +120,13 @@ TEST_F(AutomationTextTest, FindsNoneInARunLongerThanWordsAre) {
   EXPECT_EQ(wordAt(grid::at(0, 0)), std::u16string(128, u'a'));
   EXPECT_EQ(wordAt(grid::at(0, 127)), std::u16string(128, u'a'));
   for (const int column : {129, 193, 257}) {
-    EXPECT_EQ(outcome(grid::at(0, column)), Outcome::none) << column;
+    EXPECT_EQ(outcome(grid::at(0, column)), Outcome::kNone) << column;
   }
 }
 
 TEST_F(AutomationTextTest, FindsNoneInAnEmptyText) {
   showText(u"");
-  EXPECT_EQ(outcome(grid::at(0, 0)), Outcome::none);
+  EXPECT_EQ(outcome(grid::at(0, 0)), Outcome::kNone);
   EXPECT_EQ(standIn_.times("GetText"), 0U);
 }
 
