@@ -5,7 +5,7 @@
 #include "app/frm_top.h"
 #include "app/state.h"
 #include "capture/screen_word.h"
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "lookup/frm_sub.h"
 #include "query/frm_dict_setting.h"
 #include "query/frm_main.h"
@@ -52,19 +52,19 @@ void frmMenu::Form_GotFocus() { ScreenWord::StopCapture(); }
 void frmMenu::Form_LostFocus() { ScreenWord::StartCapture(); }
 
 void frmMenu::mnu_dgn_Click() {
-  forms::single<frmMain>().show();
+  forms::form<frmMain>().show();
   user::MainOpen = true;
 }
 
-void frmMenu::mnu_kscx_Click() { forms::single<frmSub>().show(); }
+void frmMenu::mnu_kscx_Click() { forms::form<frmSub>().show(); }
 
-void frmMenu::mnuMouse_Click() { forms::single<frmTop>().cmdMouse_Click(); }
+void frmMenu::mnuMouse_Click() { forms::form<frmTop>().cmdMouse_Click(); }
 
-void frmMenu::mnu_zdsz_Click() { forms::single<frmdictSetting>().show(); }
+void frmMenu::mnu_zdsz_Click() { forms::form<frmdictSetting>().show(); }
 
 void frmMenu::mnu_help_Click() { app::showHelp(); }
 
-void frmMenu::mnu_about_Click() { forms::single<frmAbout>().show(); }
+void frmMenu::mnu_about_Click() { forms::form<frmAbout>().show(); }
 
 void frmMenu::mnu_fwwz_Click() { app::openInBrowser(app::kHomePage); }
 

@@ -7,8 +7,8 @@
 #include "capture/screen_word.h"
 #include "data/headword_lookup.h"
 #include "forms/geometry.h"
+#include "forms/loaded_forms.h"
 #include "forms/message_box.h"
-#include "forms/registry.h"
 #include "lookup/frm_sub.h"
 #include "query/frm_dict_setting.h"
 #include "query/frm_main.h"
@@ -48,9 +48,9 @@ frmTop::frmTop() : Form(design()) {
   cmdHelp.onClick = [this] { cmdHelp_Click(); };
   Command1.onClick = [this] { Command1_Click(); };
   Timer1.onTimer = [this] { Timer1_Timer(); };
-  Image1.onMouseMove = [this](forms::Place) { Image1_MouseMove(); };
-  Image1.onMouseDown = [this](forms::Place) { Image1_MouseDown(); };
-  Image1.onMouseUp = [this](forms::Place) { Image1_MouseUp(); };
+  Image1.onMouseMove = [this](forms::TwipPoint) { Image1_MouseMove(); };
+  Image1.onMouseDown = [this](forms::TwipPoint) { Image1_MouseDown(); };
+  Image1.onMouseUp = [this](forms::TwipPoint) { Image1_MouseUp(); };
   Image1.onCaptureLost = [this] {
     if (IsDragging) Image1_MouseUp();
   };
@@ -86,7 +86,7 @@ void frmTop::start() {
   user::BrowserPath = app::browserPath(user::systemDirectory());
   cmdMouse.setPicture(cmdMouseYes.picture());
   cmdMouse.setToolTip(u"允许鼠标取词");
-  auto& host = forms::single<frmScreenWord>();
+  auto& host = forms::form<frmScreenWord>();
   // Deliberate: shown twice, before and after its timers start.
   host.show();
   ScreenWord::StartCapture();
@@ -112,29 +112,29 @@ void frmTop::Form_LostFocus() {
 }
 
 // Deliberate: cmdMain opens the quick lookup window frmSub, and cmdSub opens frmMain.
-void frmTop::cmdMain_Click() { forms::single<frmSub>().show(); }
+void frmTop::cmdMain_Click() { forms::form<frmSub>().show(); }
 
-void frmTop::cmdSub_Click() { forms::single<frmMain>().show(); }
+void frmTop::cmdSub_Click() { forms::form<frmMain>().show(); }
 
-void frmTop::cmdDictSetting_Click() { forms::single<frmdictSetting>().show(); }
+void frmTop::cmdDictSetting_Click() { forms::form<frmdictSetting>().show(); }
 
 void frmTop::cmdHelp_Click() { app::showHelp(); }
 
 void frmTop::Command1_Click() {
   POINT corner{0, forms::toPixels(TopHeight - 30, dpi())};
   ClientToScreen(handle(), &corner);
-  forms::single<frmMenu>().popUp(*this, corner, Command1);
+  forms::form<frmMenu>().popUp(*this, corner, Command1);
 }
 
 void frmTop::cmdMouse_Click() {
   if (cmdMouse.picture() == cmdMouseYes.picture()) {
     showCapture(false);
     ScreenWord::StopCapture();
-    forms::single<frmMenu>().checkMouse(false);
+    forms::form<frmMenu>().checkMouse(false);
   } else {
     showCapture(true);
     ScreenWord::StartCapture();
-    forms::single<frmMenu>().checkMouse(true);
+    forms::form<frmMenu>().checkMouse(true);
   }
 }
 

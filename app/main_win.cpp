@@ -1,8 +1,8 @@
 #include "app/frm_top.h"
 #include "forms/dispatcher.h"
 #include "forms/exception_barrier.h"
+#include "forms/loaded_forms.h"
 #include "forms/message_box.h"
-#include "forms/registry.h"
 
 /// The toolbar is the start object: loading it starts the program. The exit command ends it.
 int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*commandLine*/,
@@ -10,7 +10,7 @@ int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*comm
   // Whatever loads a library by its plain name finds it in the system directory or not at all.
   SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
   forms::setErrorHandler(forms::showErrorBox);
-  forms::guard([] { forms::single<frmTop>(); });
+  forms::guard([] { forms::form<frmTop>(); });
   if (!forms::isLoaded<frmTop>()) return 1;
   return forms::runMessageLoop();
 }

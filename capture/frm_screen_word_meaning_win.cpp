@@ -91,7 +91,7 @@ void frmScreenWordMeaning::lookUp(std::u16string_view escapedWord, data::DataCon
 
 void frmScreenWordMeaning::write(const capture::PopupText& text) {
   const auto head = static_cast<std::size_t>(text.headLength);
-  const forms::RichTextBox::RepaintHeld held(txtOut);
+  const forms::ScopedRepaintHold held(txtOut);
   txtOut.setText(text.body);
   txtOut.select(0, head);
   txtOut.setSelColor(kHeadwordColor);

@@ -10,7 +10,7 @@
 #include "capture/probe.h"
 #include "capture/screen_word.h"
 #include "forms/geometry.h"
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "text/strings.h"
 #include "win32/win32.h"
 
@@ -38,7 +38,7 @@ LONG_PTR setProcedure(HWND window, WNDPROC procedure) {
 frmScreenWordMeaning& loadedPopup() {
   constexpr int kMaxTries = 10;
   for (int tries = 0; tries < kMaxTries; ++tries) {
-    auto& popup = forms::single<frmScreenWordMeaning>();
+    auto& popup = forms::form<frmScreenWordMeaning>();
     if (forms::isLoaded<frmScreenWordMeaning>()) return popup;
   }
   throw std::runtime_error("the pointer does not rest");
@@ -135,11 +135,11 @@ class ScopedStrip {
   ScopedStrip& operator=(const ScopedStrip&) = delete;
 
  private:
-  frmScreen& strip_ = forms::single<frmScreen>();
+  frmScreen& strip_ = forms::form<frmScreen>();
 };
 
 void setCapture(bool enabled) {
-  auto& host = forms::single<frmScreenWord>();
+  auto& host = forms::form<frmScreenWord>();
   host.timScreenWord1.setEnabled(enabled);
   host.timScreenWord2.setEnabled(enabled);
   host.Timer1.setEnabled(enabled);

@@ -9,14 +9,14 @@ constexpr std::u16string_view kBlanks = u" \t\r\n";
 
 /// Length of the first line of a word that is too long for one.
 std::size_t firstLine(std::u16string_view word) {
-  const std::size_t separator = word.substr(0, kLongestBoxWord).find_last_of(u"\\/");
+  const std::size_t separator = word.substr(0, kMaxBoxWord).find_last_of(u"\\/");
   if (separator != std::u16string_view::npos) return separator + 1;
-  const bool cutsPair = (word[kLongestBoxWord] & 0xFC00) == 0xDC00;
-  return kLongestBoxWord - (cutsPair ? 1 : 0);
+  const bool cutsPair = (word[kMaxBoxWord] & 0xFC00) == 0xDC00;
+  return kMaxBoxWord - (cutsPair ? 1 : 0);
 }
 
 void appendWord(std::u16string& fitted, std::u16string_view word) {
-  while (word.size() > kLongestBoxWord) {
+  while (word.size() > kMaxBoxWord) {
     const std::size_t length = firstLine(word);
     fitted.append(word.substr(0, length)).append(u"\n");
     word.remove_prefix(length);
@@ -27,7 +27,7 @@ void appendWord(std::u16string& fitted, std::u16string_view word) {
 }  // namespace
 
 std::u16string fittedToBox(std::u16string_view text) {
-  const std::u16string whole = text::shortened(text, kLongestBoxText);
+  const std::u16string whole = text::shortened(text, kMaxBoxText);
   std::u16string fitted;
   std::size_t start = 0;
   for (std::size_t blank = 0;

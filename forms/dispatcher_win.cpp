@@ -2,7 +2,7 @@
 
 #include "forms/exception_barrier.h"
 #include "forms/form.h"
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "win32/win32.h"
 
 namespace forms {
@@ -17,7 +17,7 @@ void dispatch(MSG& message) {
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }
-  Registry::instance().purge();
+  LoadedForms::instance().purge();
 }
 
 }  // namespace

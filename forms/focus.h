@@ -11,22 +11,22 @@ class Widget;
 
 /// Tells that the system moved the focus or the activation; the events follow from the message
 /// loop, before any further input.
-void focusMayHaveMoved();
+void postFocusCheck();
 
 /// Raises the events that are due, now.
-void settleFocus();
+void raisePendingFocusEvents();
 
 /// Takes a window that goes away out of the account; it hears of no loss.
 void forgetFocus(const Form& form);
 void forgetFocus(const Widget& widget);
 
 /// While one lives, the focus counts as resting where it was: a message box is up.
-class FocusHeld {
+class ScopedFocusHold {
  public:
-  FocusHeld();
-  ~FocusHeld();
-  FocusHeld(const FocusHeld&) = delete;
-  FocusHeld& operator=(const FocusHeld&) = delete;
+  ScopedFocusHold();
+  ~ScopedFocusHold();
+  ScopedFocusHold(const ScopedFocusHold&) = delete;
+  ScopedFocusHold& operator=(const ScopedFocusHold&) = delete;
 };
 
 bool isFocusHeld();

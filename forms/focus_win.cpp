@@ -9,7 +9,7 @@ namespace forms {
 namespace {
 
 /// Where the focus rests as far as the windows have been told.
-struct Account {
+struct FocusState {
   Form* form = nullptr;
   Widget* widget = nullptr;
   int holds = 0;
@@ -17,13 +17,13 @@ struct Account {
   bool posted = false;
 };
 
-Account& account() {
-  static Account instance;
+FocusState& focusState() {
+  static FocusState instance;
   return instance;
 }
 
 /// Brings the account one event nearer to what is; false when they agree.
-bool settleOneStep(Account& known) {
+bool settleOneStep(FocusState& known) {
   Form* form = Form::of(GetActiveWindow());
   Widget* widget = form == nullptr ? nullptr : form->widgetOf(GetFocus());
 
@@ -50,45 +50,45 @@ bool settleOneStep(Account& known) {
 
 }  // namespace
 
-void focusMayHaveMoved() {
-  Account& known = account();
+void postFocusCheck() {
+  FocusState& known = focusState();
   if (known.posted) return;
   known.posted = Dispatcher::instance().post([] {
-    account().posted = false;
-    settleFocus();
+    focusState().posted = false;
+    raisePendingFocusEvents();
   });
 }
 
-void settleFocus() {
-  Account& known = account();
+void raisePendingFocusEvents() {
+  FocusState& known = focusState();
   if (known.holds > 0 || known.settling) return;
   known.settling = true;
   // A handler may move the focus again; two that chase it between them must not hang the program.
-  constexpr int kMostEvents = 64;
-  for (int events = 0; events < kMostEvents && known.holds == 0 && settleOneStep(known); ++events) {
+  constexpr int kMaxEvents = 64;
+  for (int events = 0; events < kMaxEvents && known.holds == 0 && settleOneStep(known); ++events) {
   }
   known.settling = false;
 }
 
 void forgetFocus(const Form& form) {
-  Account& known = account();
+  FocusState& known = focusState();
   if (known.form == &form) known.form = nullptr;
 }
 
 void forgetFocus(const Widget& widget) {
-  Account& known = account();
+  FocusState& known = focusState();
   if (known.widget == &widget) known.widget = nullptr;
 }
 
-bool isFocusHeld() { return account().holds > 0; }
+bool isFocusHeld() { return focusState().holds > 0; }
 
-FocusHeld::FocusHeld() { ++account().holds; }
+ScopedFocusHold::ScopedFocusHold() { ++focusState().holds; }
 
-FocusHeld::~FocusHeld() {
-  --account().holds;
+ScopedFocusHold::~ScopedFocusHold() {
+  --focusState().holds;
   guard([] {
-    focusMayHaveMoved();
-    stackingMayHaveChanged();
+    postFocusCheck();
+    postStackingCheck();
   });
 }
 

@@ -39,7 +39,7 @@ struct FormDesign {
   int background = COLOR_BTNFACE;  ///< a system colour
 };
 
-/// A top-level window. A form exists once: forms::single<F>() loads it on the first reference,
+/// A top-level window. A form exists once: forms::form<F>() loads it on the first reference,
 /// unload() ends it, and the next reference loads it anew. Twips are those of the form's DPI (1440
 /// to an inch, 15 to a pixel at 96 DPI). User-interface thread only. Handlers run inside the
 /// exception barrier: what they throw is reported and never leaves a function of this class.
@@ -59,7 +59,7 @@ class Form {
   [[nodiscard]] int dpi() const { return dpi_; }
   [[nodiscard]] Rank rank() const;
 
-  /// Whether an ordinary form was made topmost while it is active (see settleStacking).
+  /// Whether an ordinary form was made topmost while it is active (see updateStacking).
   [[nodiscard]] bool isRaisedForNow() const { return raisedForNow_; }
   void setRaisedForNow(bool raised) { raisedForNow_ = raised; }
   /// Whether a message box or a menu is open, above which no form is raised.
@@ -124,13 +124,13 @@ class Form {
   /// Hides the tool tip that is shown.
   void hideToolTip() const;
 
-  /// For settleFocus: run Form_Activate and Form_LostFocus inside the barrier.
+  /// For raisePendingFocusEvents: run Form_Activate and Form_LostFocus inside the barrier.
   void raiseActivate() noexcept;
   void raiseLostFocus() noexcept;
   /// Part of the form was painted; its own pictures count as the form.
   void raisePaint() noexcept;
 
-  Event<Place> onMouseMove;
+  Event<TwipPoint> onMouseMove;
   /// Enter and Esc, where the widget with the focus has no use for them itself.
   Event<> onEnter;
   Event<> onEscape;

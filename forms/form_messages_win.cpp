@@ -3,7 +3,7 @@
 #include "forms/focus.h"
 #include "forms/form.h"
 #include "forms/geometry.h"
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "forms/stacking.h"
 #include "win32/monitor.h"
 
@@ -48,15 +48,15 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         giveFocusBack();
         barsMayBeCovered(*this);
       }
-      focusMayHaveMoved();
-      stackingMayHaveChanged();
+      postFocusCheck();
+      postStackingCheck();
       return 0;
     case WM_SETFOCUS:
       giveFocusBack();
-      focusMayHaveMoved();
+      postFocusCheck();
       return 0;
     case WM_KILLFOCUS:
-      focusMayHaveMoved();
+      postFocusCheck();
       return 0;
     case WM_MOUSEACTIVATE:
       if (design_.neverActive) return MA_NOACTIVATE;
@@ -69,7 +69,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         raiseWhatIsAbove(*this);
       }
       // Not for capture's windows, which come and go ten times a second.
-      if (!design_.neverActive) stackingMayHaveChanged();
+      if (!design_.neverActive) postStackingCheck();
       break;
     case WM_GETMINMAXINFO:
       limitTracking(*reinterpret_cast<MINMAXINFO*>(lParam));
@@ -125,7 +125,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void Form::command(WORD code, HWND control, WORD id) const {
-  settleFocus();
+  raisePendingFocusEvents();
   if (Widget* widget = widgetOf(control)) {
     widget->command(code);
     return;

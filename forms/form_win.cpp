@@ -4,7 +4,7 @@
 
 #include "forms/focus.h"
 #include "forms/geometry.h"
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "forms/stacking.h"
 #include "win32/monitor.h"
 #include "win32/win32.h"
@@ -134,21 +134,21 @@ void Form::show(Form* owner) {
   }
   ShowWindow(handle_, isMinimised() ? SW_RESTORE : SW_SHOW);
   SetForegroundWindow(handle_);
-  settleFocus();
-  settleStacking();
+  raisePendingFocusEvents();
+  updateStacking();
 }
 
 void Form::hide() { ShowWindow(handle_, SW_HIDE); }
 
 void Form::unload() {
   if (unloading_) return;
-  for (Form* owned : Registry::instance().ownedBy(*this)) owned->unload();
+  for (Form* owned : LoadedForms::instance().ownedBy(*this)) owned->unload();
   unloading_ = true;
   guard([this] { Form_Unload(); });
   for (const Widget* widget : widgets_) forgetFocus(*widget);
   forgetFocus(*this);
   DestroyWindow(handle_);
-  Registry::instance().retire(*this);
+  LoadedForms::instance().retire(*this);
 }
 
 int Form::frameWidth() const { return design_.frame == Frame::kBorderless ? 0 : kFrameWidth; }

@@ -57,7 +57,7 @@ class ScopedOtherWindowsDisabled {
 
 void showMessage(const std::u16string& text, MessageIcon icon, const std::u16string& title) {
   const HWND owner = GetActiveWindow();
-  const FocusHeld focusHeld;
+  const ScopedFocusHold focusHeld;
   const ScopedOtherWindowsDisabled othersHeld(owner);
   // Our windows are topmost: a box that is not would open below them.
   MessageBoxW(owner, win32::wide(text), win32::wide(title),

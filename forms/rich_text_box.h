@@ -30,13 +30,11 @@ class RichTextBox : public Widget {
   /// from now on.
   void setHangingIndent(int twips);
 
-  using RepaintHeld = forms::RepaintHeld;
-
  protected:
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  [[nodiscard]] Place caretPlace() const;
+  [[nodiscard]] TwipPoint caretPlace() const;
   void copy() const;
   void keepMargins();
 

@@ -112,7 +112,7 @@ void RichTextBox::setSelColor(COLORREF color) {
   send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
 }
 
-Place RichTextBox::caretPlace() const {
+TwipPoint RichTextBox::caretPlace() const {
   CHARRANGE range{};
   send(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
   POINTL point{};

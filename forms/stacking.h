@@ -22,8 +22,8 @@ std::optional<HWND> insertAfter(const Form& form);
 void raiseWhatIsAbove(const Form& form);
 
 /// Tells that the activation, or the place or visibility of one of our windows, may have changed;
-/// settleStacking follows from the message loop.
-void stackingMayHaveChanged();
+/// updateStacking follows from the message loop.
+void postStackingCheck();
 
 /// Tells that the user has activated, maximised or clicked a form. Under Wine the X11 window
 /// manager raises what the user clicks without telling Wine, in whose own Z order the bars are
@@ -33,7 +33,7 @@ void barsMayBeCovered(const Form& form);
 /// Makes an ordinary form topmost while it, or a window that it owns, is active and a floating form
 /// lies where it would cover it. Takes it down again once that is over, behind the window of
 /// another program that is active by then.
-void settleStacking();
+void updateStacking();
 
 /// The places, in screen pixels, of our topmost forms of the ranks `lowest` to `highest` that can
 /// be seen: what lies there below them is covered.

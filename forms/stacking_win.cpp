@@ -8,7 +8,7 @@
 #include "forms/dispatcher.h"
 #include "forms/focus.h"
 #include "forms/form.h"
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 
 namespace forms {
 namespace {
@@ -89,7 +89,7 @@ bool isCoveredByFloating(const Form& form) {
 
 /// Whether `form`, or a form that it owns, would be covered.
 bool wouldBeCovered(const Form& form) {
-  const std::vector<Form*> owned = Registry::instance().ownedBy(form);
+  const std::vector<Form*> owned = LoadedForms::instance().ownedBy(form);
   return isCoveredByFloating(form) || std::ranges::any_of(owned, [](const Form* dialog) {
            return isShown(*dialog) && isCoveredByFloating(*dialog);
          });
@@ -142,14 +142,14 @@ HWND behindWhom(HWND front) {
 /// for as long as the session is locked.
 void settleSoon(bool goOn) {
   constexpr UINT kMoment = 20;  // ms
-  constexpr int kMostTries = 50;
+  constexpr int kMaxTries = 50;
   static UINT_PTR timer = 0;
   static int tries = 0;
   if (!goOn) tries = 0;
-  if (!goOn || timer != 0 || ++tries > kMostTries) return;
+  if (!goOn || timer != 0 || ++tries > kMaxTries) return;
   timer = Dispatcher::instance().startTimer(kMoment, [] {
     Dispatcher::instance().stopTimer(std::exchange(timer, 0));
-    settleStacking();
+    updateStacking();
   });
 }
 
@@ -176,7 +176,7 @@ bool hasForeignWindowManager() {
 }
 
 void raiseBarsAbove(const Form& floating) {
-  for (Form* bar : Registry::instance().all()) {
+  for (Form* bar : LoadedForms::instance().all()) {
     if (bar->rank() != Rank::kBar || !isShown(*bar) || !meet(bar->place(), floating.place()) ||
         Form::isRaisingHeld()) {
       continue;
@@ -227,7 +227,7 @@ void raiseWhatIsAbove(const Form& form) {
 
 std::vector<PixelBox> placesKeptOnTop(Rank lowest, Rank highest) {
   std::vector<PixelBox> places;
-  for (const Form* form : Registry::instance().all()) {
+  for (const Form* form : LoadedForms::instance().all()) {
     const Rank rank = form->rank();
     if (isTopmost(form->handle()) && rank >= lowest && rank <= highest && isShown(*form)) {
       places.push_back(form->place());
@@ -236,11 +236,11 @@ std::vector<PixelBox> placesKeptOnTop(Rank lowest, Rank highest) {
   return places;
 }
 
-void stackingMayHaveChanged() {
+void postStackingCheck() {
   if (isPosted()) return;
   isPosted() = Dispatcher::instance().post([] {
     isPosted() = false;
-    settleStacking();
+    updateStacking();
   });
 }
 
@@ -258,9 +258,9 @@ void barsMayBeCovered(const Form& form) {
   });
 }
 
-void settleStacking() {
+void updateStacking() {
   HWND active = GetActiveWindow();
-  for (Form* form : Registry::instance().all()) {
+  for (Form* form : LoadedForms::instance().all()) {
     if (form->rank() == Rank::kFloating && isShown(*form)) raiseWhatIsAbove(*form);
     if (form->rank() != Rank::kWindow || GetWindow(form->handle(), GW_OWNER) != nullptr) continue;
     const bool isActive = active != nullptr && rootOwner(active) == form->handle();

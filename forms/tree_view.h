@@ -51,8 +51,6 @@ class TreeView : public Widget {
   LRESULT notify(const NMHDR& header) override;
   void rescale() override;
 
-  using RepaintHeld = forms::RepaintHeld;
-
  protected:
   /// `scrolling` is the style that says in which directions the view scrolls.
   TreeView(Form& form, const WidgetBox& box, DWORD scrolling);

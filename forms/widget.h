@@ -15,7 +15,7 @@ class Form;
 
 /// A point in a widget or form, in twips at the form's DPI, from the top left corner of its client
 /// area.
-struct Place {
+struct TwipPoint {
   int x = 0;
   int y = 0;
 };
@@ -65,12 +65,12 @@ class Widget {
 
   Event<> onGotFocus;
   Event<> onLostFocus;
-  Event<Place> onMouseMove;
-  Event<Place> onMouseDown;  ///< any button
-  Event<Place> onMouseUp;    ///< any button
-  Event<Place> onRightMouseUp;
+  Event<TwipPoint> onMouseMove;
+  Event<TwipPoint> onMouseDown;  ///< any button
+  Event<TwipPoint> onMouseUp;    ///< any button
+  Event<TwipPoint> onRightMouseUp;
   /// Another widget was dropped here.
-  Event<Widget&, Place> onDragDrop;
+  Event<Widget&, TwipPoint> onDragDrop;
   /// Handlers by virtual-key code, for keys pressed without Ctrl or Alt; the control and the tab
   /// order never see a key that stands here.
   std::unordered_map<WPARAM, std::function<void()>> onKeyDown;
@@ -88,7 +88,7 @@ class Widget {
   LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
     return SendMessageW(handle_, message, wParam, lParam);
   }
-  [[nodiscard]] Place placeOf(LPARAM lParam) const;
+  [[nodiscard]] TwipPoint pointOf(LPARAM lParam) const;
 
  private:
   static LRESULT CALLBACK widgetProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -114,9 +114,10 @@ std::u16string windowText(HWND window);
 /// Suppresses the repainting of a widget until the end of the scope, which invalidates all of it.
 /// Does nothing to a hidden widget, which WM_SETREDRAW would show. The widget must not be shown or
 /// hidden meanwhile.
-class RepaintHeld {
+class ScopedRepaintHold {
  public:
-  explicit RepaintHeld(const Widget& widget) : window_(widget.handle()), visible_(isVisible()) {
+  explicit ScopedRepaintHold(const Widget& widget)
+      : window_(widget.handle()), visible_(isVisible()) {
     if (!visible_) return;
     SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
     // DefWindowProc takes WS_VISIBLE away and with it all drawing. A control that keeps a flag of
@@ -125,7 +126,7 @@ class RepaintHeld {
     keepsOwnFlag_ = isVisible();
     if (keepsOwnFlag_) DefWindowProcW(window_, WM_SETREDRAW, FALSE, 0);
   }
-  ~RepaintHeld() {
+  ~ScopedRepaintHold() {
     if (!visible_) return;
     SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
     if (keepsOwnFlag_) DefWindowProcW(window_, WM_SETREDRAW, TRUE, 0);
@@ -134,8 +135,8 @@ class RepaintHeld {
     RedrawWindow(window_, nullptr, nullptr,
                  RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
   }
-  RepaintHeld(const RepaintHeld&) = delete;
-  RepaintHeld& operator=(const RepaintHeld&) = delete;
+  ScopedRepaintHold(const ScopedRepaintHold&) = delete;
+  ScopedRepaintHold& operator=(const ScopedRepaintHold&) = delete;
 
  private:
   [[nodiscard]] bool isVisible() const {

@@ -50,7 +50,7 @@ LRESULT Widget::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
-      focusMayHaveMoved();
+      postFocusCheck();
       break;
     case WM_NCHITTEST:
       // The mouse goes to the form then, which hands it to the one that grabs it.
@@ -72,7 +72,7 @@ LRESULT Widget::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (takesKey(message, wParam)) {
         const auto handler = onKeyDown.find(wParam)->second;
         dropCharacterOf(wParam);
-        settleFocus();
+        raisePendingFocusEvents();
         guard(handler);
         return 0;
       }
@@ -99,27 +99,27 @@ bool Widget::takesKey(UINT message, WPARAM wParam) const {
 void Widget::raiseMouseEvents(UINT message, LPARAM lParam) {
   switch (message) {
     case WM_MOUSEMOVE:
-      onMouseMove.raise(placeOf(lParam));
+      onMouseMove.raise(pointOf(lParam));
       break;
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:
-      settleFocus();
+      raisePendingFocusEvents();
       barsMayBeCovered(form_);
-      onMouseDown.raise(placeOf(lParam));
+      onMouseDown.raise(pointOf(lParam));
       break;
     case WM_LBUTTONUP:
     case WM_RBUTTONUP:
     case WM_MBUTTONUP:
-      onMouseUp.raise(placeOf(lParam));
-      if (message == WM_RBUTTONUP) onRightMouseUp.raise(placeOf(lParam));
+      onMouseUp.raise(pointOf(lParam));
+      if (message == WM_RBUTTONUP) onRightMouseUp.raise(pointOf(lParam));
       break;
     default:
       break;
   }
 }
 
-Place Widget::placeOf(LPARAM lParam) const {
+TwipPoint Widget::pointOf(LPARAM lParam) const {
   return {toTwips(GET_X_LPARAM(lParam), form_.dpi()), toTwips(GET_Y_LPARAM(lParam), form_.dpi())};
 }
 
@@ -151,7 +151,7 @@ void Widget::setEnabled(bool enabled) { EnableWindow(handle_, enabled ? TRUE : F
 
 void Widget::setFocus() {
   SetFocus(handle_);
-  settleFocus();
+  raisePendingFocusEvents();
 }
 
 void Widget::setFont(Font font) {

@@ -57,9 +57,9 @@ class frmSub : public forms::Form {
   void txtInput_LostFocus();
   void cmdExit_Click();
   void TreeView1_NodeClick(std::size_t node);
-  void TreeView1_DragDrop(const forms::Widget& source, forms::Place place);
-  void txtOut_DragDrop(const forms::Widget& source, forms::Place place);
-  void txtOut_MouseUp(forms::Place place);
+  void TreeView1_DragDrop(const forms::Widget& source, forms::TwipPoint place);
+  void txtOut_DragDrop(const forms::Widget& source, forms::TwipPoint place);
+  void txtOut_MouseUp(forms::TwipPoint place);
   void Image1_MouseMove();
   void Image1_MouseDown();
   void mnuSearch_Click();

@@ -28,7 +28,7 @@ void frmSub::fillList(data::DataControl& control, forms::TreeView& list) try {
   const std::size_t shown = list.count();
   const std::size_t filled = std::min(rows.recordCount(), static_cast<std::size_t>(MaxCount));
   // New texts alone are one repaint anyway, and cheaper than switching repainting off and on.
-  std::optional<forms::TreeView::RepaintHeld> held;
+  std::optional<forms::ScopedRepaintHold> held;
   if (filled != shown) held.emplace(list);
   rows.moveFirst();
   for (std::size_t node = 1; node <= filled; ++node) {
@@ -76,7 +76,7 @@ std::u16string frmSub::showMeaning(std::u16string& word, data::DataControl& cont
 }
 
 void frmSub::showText(const data::MeaningText& text) {
-  const forms::RichTextBox::RepaintHeld held(txtOut);
+  const forms::ScopedRepaintHold held(txtOut);
   txtOut.setText(text.body);
   txtOut.select(0, text.headLength);
   txtOut.setSelColor(kHeadwordColor);

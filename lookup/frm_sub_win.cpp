@@ -64,23 +64,23 @@ frmSub::frmSub() : Form(design()), lookup_(user::IdxWords, data::LookupOptions{}
 }
 
 void frmSub::wireMouse() {
-  const auto showOwnPointer = [this](forms::Place) { setMousePointer(nullptr); };
+  const auto showOwnPointer = [this](forms::TwipPoint) { setMousePointer(nullptr); };
   onMouseMove = showOwnPointer;
   for (forms::Widget* widget :
        std::initializer_list<forms::Widget*>{&Label1, &txtInput, &cmdExit, &TreeView1, &txtOut}) {
     widget->onMouseMove = showOwnPointer;
   }
   Image1.setGrabMargin(kSplitterMargin);
-  Image1.onMouseMove = [this](forms::Place) { Image1_MouseMove(); };
-  Image1.onMouseDown = [this](forms::Place) { Image1_MouseDown(); };
+  Image1.onMouseMove = [this](forms::TwipPoint) { Image1_MouseMove(); };
+  Image1.onMouseDown = [this](forms::TwipPoint) { Image1_MouseDown(); };
   Image1.onDragEnded = [this] { placeListAndPane(); };
-  TreeView1.onDragDrop = [this](forms::Widget& source, forms::Place place) {
+  TreeView1.onDragDrop = [this](forms::Widget& source, forms::TwipPoint place) {
     TreeView1_DragDrop(source, place);
   };
-  txtOut.onDragDrop = [this](forms::Widget& source, forms::Place place) {
+  txtOut.onDragDrop = [this](forms::Widget& source, forms::TwipPoint place) {
     txtOut_DragDrop(source, place);
   };
-  txtOut.onRightMouseUp = [this](forms::Place place) { txtOut_MouseUp(place); };
+  txtOut.onRightMouseUp = [this](forms::TwipPoint place) { txtOut_MouseUp(place); };
 }
 
 void frmSub::wireKeys() {
@@ -151,19 +151,19 @@ void frmSub::TreeView1_NodeClick(std::size_t node) {
   showMeaning(word, Adodc1);
 }
 
-void frmSub::TreeView1_DragDrop(const forms::Widget& source, forms::Place place) {
+void frmSub::TreeView1_DragDrop(const forms::Widget& source, forms::TwipPoint place) {
   if (&source != &Image1) return;
   TreeView1.setWidth(lookup::widthAfterDropOnList(place.x));
   placeListAndPane();
 }
 
-void frmSub::txtOut_DragDrop(const forms::Widget& source, forms::Place place) {
+void frmSub::txtOut_DragDrop(const forms::Widget& source, forms::TwipPoint place) {
   if (&source != &Image1) return;
   TreeView1.setWidth(lookup::widthAfterDropOnPane(width(), TreeView1.width(), place.x));
   placeListAndPane();
 }
 
-void frmSub::txtOut_MouseUp(forms::Place place) {
+void frmSub::txtOut_MouseUp(forms::TwipPoint place) {
   const bool selected = txtOut.selLength() != 0;
   mnuOper.item(mnuSearch_).enabled = selected;
   mnuOper.item(mnuCopy_).enabled = selected;

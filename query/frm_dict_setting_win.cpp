@@ -3,7 +3,7 @@
 #include "app/resources/resource_ids.h"
 #include "app/state.h"
 #include "capture/screen_word.h"
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "query/catalogue.h"
 #include "query/frm_main.h"
 #include "query/layout.h"
@@ -38,7 +38,7 @@ void frmdictSetting::Form_Load() {
   centre();
   Adodc1.setConnectionString(user::ConnectionString);
   loadRecords(Adodc1, query::kAllDictionaries);
-  const forms::TreeView::RepaintHeld held(TreeView2);
+  const forms::ScopedRepaintHold held(TreeView2);
   TreeView2.clear();
   data::RecordSet& rows = Adodc1.recordset();
   const std::size_t count = rows.recordCount();
@@ -60,7 +60,7 @@ void frmdictSetting::Form_Activate() { ScreenWord::StopCapture(); }
 
 void frmdictSetting::Form_Unload() {
   ScreenWord::StartCapture();
-  if (user::MainOpen) forms::single<frmMain>().iniTree();
+  if (user::MainOpen) forms::form<frmMain>().iniTree();
 }
 
 void frmdictSetting::TreeView2_NodeClick(std::size_t node) try {

@@ -8,8 +8,8 @@
 #include "data/database.h"
 #include "forms/clipboard.h"
 #include "forms/geometry.h"
+#include "forms/loaded_forms.h"
 #include "forms/message_box.h"
-#include "forms/registry.h"
 #include "query/catalogue.h"
 #include "query/frm_spc.h"
 #include "query/layout.h"
@@ -118,7 +118,7 @@ void frmMain::Command1_Click() try {
   tellUnexpectedError();
 }
 
-void frmMain::cmdSpc_Click() { forms::single<frmSpc>().show(this); }
+void frmMain::cmdSpc_Click() { forms::form<frmSpc>().show(this); }
 
 void frmMain::search(std::u16string_view mode, std::int16_t maxRows) {
   std::u16string text = txtInput.text();
@@ -143,7 +143,7 @@ void frmMain::iniTree() {
     tellToChooseDictionary();
     return;
   }
-  const forms::TreeView::RepaintHeld held(TreeView1);
+  const forms::ScopedRepaintHold held(TreeView1);
   tableNames.assign(rows.recordCount(), {});
   curTable.clear();
   rows.moveFirst();
@@ -179,7 +179,7 @@ void frmMain::runQuery(data::DataControl& recordSource, std::u16string_view sql)
 void frmMain::MakeTree(data::DataControl& recordSource, forms::TreeView& tree,
                        std::int16_t maxRows) try {
   const std::size_t nodeCount = tree.count();
-  std::optional<forms::TreeView::RepaintHeld> held(tree);
+  std::optional<forms::ScopedRepaintHold> held(tree);
   data::RecordSet& rows = recordSource.recordset();
   if (rows.empty()) {
     for (std::size_t node = 1; node <= nodeCount; ++node) tree.setText(node, {});

@@ -1,8 +1,8 @@
 #include "query/frm_spc.h"
 
 #include "capture/screen_word.h"
+#include "forms/loaded_forms.h"
 #include "forms/message_box.h"
-#include "forms/registry.h"
 #include "query/frm_main.h"
 #include "text/strings.h"
 
@@ -30,7 +30,7 @@ frmSpc::frmSpc() : Form(design()) {
   onEscape = [this] { cmdCancel_Click(); };
 }
 
-void frmSpc::Form_Load() { centre(forms::single<frmMain>()); }
+void frmSpc::Form_Load() { centre(forms::form<frmMain>()); }
 
 void frmSpc::Form_Activate() { ScreenWord::StopCapture(); }
 
@@ -43,7 +43,7 @@ void frmSpc::cmdOK_Click() {
     forms::showMessage(u"请在英文和中文的文本框里输入内容！", forms::MessageIcon::kExclamation);
     return;
   }
-  forms::single<frmMain>().SpcSearch(e, c);
+  forms::form<frmMain>().SpcSearch(e, c);
   unload();
 }
 

@@ -10,7 +10,7 @@
 #include "bench/timings.h"
 #include "data/data_control.h"
 #include "forms/dispatcher.h"
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "query/frm_main.h"
 #include "query/frm_spc.h"
 
@@ -104,7 +104,7 @@ void timePress(frmMain& form, const forms::Button& button, Search& times) {
 void searchForBoth(frmMain& form, Search& times) {
   for (const auto& [english, chinese] : fragments()) {
     press(form.cmdSpc);
-    auto& dialog = forms::single<frmSpc>();
+    auto& dialog = forms::form<frmSpc>();
     dialog.txtE.setText(english);
     dialog.txtC.setText(chinese);
     forms::doEvents();
@@ -124,7 +124,7 @@ void search(frmMain& form, const forms::Button& button, const std::vector<std::u
 
 int run(const std::u16string& database) {
   user::ConnectionString = data::connectionString(database);
-  auto& form = forms::single<frmMain>();
+  auto& form = forms::form<frmMain>();
   form.show();
   forms::doEvents();
   if (form.selectedTable() != u"med") {

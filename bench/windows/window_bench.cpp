@@ -9,7 +9,7 @@
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
 #include "forms/dispatcher.h"
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "lookup/frm_sub.h"
 
 /// What a keystroke costs in the quick lookup window, until its list and pane are painted; beside
@@ -103,7 +103,7 @@ int run(const std::u16string& database) {
 
   Timings echoEnglish("English letter, a bare text box");
   Timings echoChinese("Chinese character, a bare text box");
-  auto& echo = forms::single<EchoForm>();
+  auto& echo = forms::form<EchoForm>();
   echo.show();
   forms::doEvents();
   typeEcho(echo, english, echoEnglish);
@@ -112,7 +112,7 @@ int run(const std::u16string& database) {
 
   Keystroke lookupEnglish("English letter");
   Keystroke lookupChinese("Chinese character");
-  auto& form = forms::single<frmSub>();
+  auto& form = forms::form<frmSub>();
   form.show();
   forms::doEvents();
   typeLookup(form, english, lookupEnglish);

@@ -13,7 +13,7 @@ namespace harness {
 namespace {
 
 /// No headword is near this long.
-constexpr int kLongestText = 512;
+constexpr int kMaxText = 512;
 
 HTREEITEM nextItem(HWND tree, WPARAM relation, HTREEITEM from) {
   return reinterpret_cast<HTREEITEM>(
@@ -34,13 +34,13 @@ std::wstring itemText(HWND tree, HTREEITEM item, const RemoteMemory& memory) {
   question.mask = TVIF_TEXT | TVIF_HANDLE;
   question.hItem = item;
   question.pszText = static_cast<wchar_t*>(memory.at(sizeof question));
-  question.cchTextMax = kLongestText;
+  question.cchTextMax = kMaxText;
   memory.put(question);
   send(tree, TVM_GETITEMW, 0, memory.parameter());
   // The control may have put the address of a text of its own in place of ours.
   const auto answer = memory.get<TVITEMW>();
   if (answer.pszText != question.pszText) throw Failure("a node's text lies elsewhere");
-  std::wstring text(kLongestText, L'\0');
+  std::wstring text(kMaxText, L'\0');
   memory.read(text.data(), text.size() * sizeof(wchar_t), sizeof question);
   text.resize(text.find(L'\0'));
   return text;
@@ -49,7 +49,7 @@ std::wstring itemText(HWND tree, HTREEITEM item, const RemoteMemory& memory) {
 }  // namespace
 
 std::vector<std::wstring> treeTexts(HWND tree) {
-  const RemoteMemory memory(tree, sizeof(TVITEMW) + (kLongestText * sizeof(wchar_t)));
+  const RemoteMemory memory(tree, sizeof(TVITEMW) + (kMaxText * sizeof(wchar_t)));
   std::vector<std::wstring> texts;
   for (HTREEITEM item : treeItems(tree)) texts.push_back(itemText(tree, item, memory));
   return texts;

@@ -9,7 +9,7 @@ namespace {
 
 class FrmAbout : public FrmTopTest {
  protected:
-  static frmAbout& about() { return forms::single<frmAbout>(); }
+  static frmAbout& about() { return forms::form<frmAbout>(); }
   static std::u16string textOf(const forms::Widget& widget) {
     return forms::windowText(widget.handle());
   }

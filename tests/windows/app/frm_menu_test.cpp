@@ -54,7 +54,7 @@ TEST_F(FrmMenu, IsNeverShownItself) {
 
 TEST_F(FrmMenu, StaysAboveAWindowThatIsPainted) {
   start();
-  frmSub& other = forms::single<frmSub>();
+  frmSub& other = forms::form<frmSub>();
   other.show();
   awaitActive(other);
   const RECT toolbar = rectOf(top().handle());
@@ -166,7 +166,7 @@ TEST_F(FrmMenu, QuickLookupOpensItsWindowAndChangesNoSharedFlag) {
   start();
   chooseFromMenu(kQuickLookup);
   ASSERT_TRUE(forms::isLoaded<frmSub>());
-  awaitActive(forms::single<frmSub>());
+  awaitActive(forms::form<frmSub>());
   EXPECT_FALSE(user::MainOpen);
 }
 

@@ -21,14 +21,13 @@ class FrmMenuWindows : public FrmTopTest {
                     "insert into edictidx values ('a')") {}
   ~FrmMenuWindows() override {
     unloadAll();
-    forms::Registry::instance().purge();
+    forms::LoadedForms::instance().purge();
   }
 
   template <class F>
   static bool opens() {
-    return eventually([] {
-      return forms::isLoaded<F>() && GetForegroundWindow() == forms::single<F>().handle();
-    });
+    return eventually(
+        [] { return forms::isLoaded<F>() && GetForegroundWindow() == forms::form<F>().handle(); });
   }
 
  private:
@@ -58,7 +57,7 @@ TEST_F(FrmMenuWindows, TheFourthOpensTheSettings) {
   ASSERT_TRUE(opens<frmdictSetting>());
   EXPECT_FALSE(user::MainOpen);
   EXPECT_TRUE(eventually([] { return !captureRuns(); }));
-  forms::single<frmdictSetting>().unload();
+  forms::form<frmdictSetting>().unload();
   EXPECT_TRUE(captureRuns());
 }
 
@@ -67,7 +66,7 @@ TEST_F(FrmMenuWindows, TheSixthOpensTheAboutBox) {
   chooseFromMenu(kAbout);
   ASSERT_TRUE(opens<frmAbout>());
   EXPECT_TRUE(eventually([] { return !captureRuns(); }));
-  forms::single<frmAbout>().unload();
+  forms::form<frmAbout>().unload();
   EXPECT_TRUE(captureRuns());
 }
 
@@ -89,7 +88,7 @@ TEST_F(FrmMenuWindows, CaptureRestsInTheSettingsThatTheToolbarOpens) {
   ASSERT_TRUE(opens<frmdictSetting>());
   EXPECT_TRUE(eventually([] { return !captureRuns(); }));
   EXPECT_TRUE(allAlong([] { return !captureRuns(); }, 40));
-  forms::single<frmdictSetting>().unload();
+  forms::form<frmdictSetting>().unload();
   EXPECT_TRUE(captureRuns());
 }
 

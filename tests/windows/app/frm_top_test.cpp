@@ -38,7 +38,7 @@ TEST_F(FrmTop, TheFirstButtonOpensTheQuickLookupWindow) {
   start();
   input::click(centreOf(top().cmdMain));
   ASSERT_TRUE(eventually([] { return forms::isLoaded<frmSub>(); }));
-  awaitActive(forms::single<frmSub>());
+  awaitActive(forms::form<frmSub>());
   EXPECT_TRUE(IsWindowVisible(top().handle()));
 }
 
@@ -64,13 +64,13 @@ TEST_F(FrmTop, IgnoresAltF4AndHasNoCloseBox) {
 
 TEST_F(FrmTop, UnloadingItUnloadsNothingElse) {
   start();
-  forms::single<frmSub>().show();
+  forms::form<frmSub>().show();
   top().unload();
   forms::doEvents();
   EXPECT_FALSE(forms::isLoaded<frmTop>());
   EXPECT_TRUE(forms::isLoaded<frmSub>());
   EXPECT_TRUE(forms::isLoaded<frmScreenWord>());
-  EXPECT_TRUE(IsWindowVisible(forms::single<frmSub>().handle()));
+  EXPECT_TRUE(IsWindowVisible(forms::form<frmSub>().handle()));
 }
 
 TEST_F(FrmTop, HelpWithoutABrowserIsTold) {
@@ -118,15 +118,15 @@ TEST_F(FrmTop, TheMenuDropsDownJustBelowTheButtons) {
 
 TEST_F(FrmTop, TypingElsewhereIsNotDisturbedByAHundredRepaintsOfOurWindows) {
   start();
-  forms::single<frmSub>().show();
-  awaitActive(forms::single<frmSub>());
+  forms::form<frmSub>().show();
+  awaitActive(forms::form<frmSub>());
   OtherProgram other;
   other.activate();
   std::u16string expected;
   for (int i = 0; i < 100; ++i) {
     input::type(i % 2 == 0 ? L"x" : L"词");
     expected += i % 2 == 0 ? u'x' : u'词';
-    for (HWND window : {top().handle(), forms::single<frmSub>().handle()}) {
+    for (HWND window : {top().handle(), forms::form<frmSub>().handle()}) {
       RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     }
     forms::doEvents();

@@ -10,7 +10,7 @@
 #include <span>
 #include <vector>
 
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "tests/program/harness/controls.h"
 #include "tests/windows/support/capture_test.h"
 #include "tests/windows/support/text_program.h"
@@ -123,7 +123,7 @@ std::size_t committedBy(HANDLE process) {
 
 /// With the forms that have gone let go of, whose objects are kept until the next event.
 Held held() {
-  forms::Registry::instance().purge();
+  forms::LoadedForms::instance().purge();
   return {heapBytes(), gdiObjects(), threads(), handlesOf(GetCurrentProcessId())};
 }
 

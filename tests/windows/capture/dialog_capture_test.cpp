@@ -24,17 +24,17 @@ std::ostream& operator<<(std::ostream& out, const Closing& closing) { return out
 
 template <class F>
 void closeBox() {
-  SendMessageW(forms::single<F>().handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
+  SendMessageW(forms::form<F>().handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
 }
 
 template <class F>
 void pressAltF4() {
-  PostMessageW(forms::single<F>().handle(), WM_SYSKEYDOWN, VK_F4, 1 << 29);
+  PostMessageW(forms::form<F>().handle(), WM_SYSKEYDOWN, VK_F4, 1 << 29);
 }
 
 template <class F>
 forms::Form& shown() {
-  auto& form = forms::single<F>();
+  auto& form = forms::form<F>();
   form.show();
   return form;
 }
@@ -52,8 +52,7 @@ class DialogCapture : public QueryTest,
     const auto settings = forms::isLoaded<frmdictSetting>;
     const auto special = forms::isLoaded<frmSpc>;
     return {
-        {"AboutByItsButton", shown<frmAbout>, [] { press(forms::single<frmAbout>().cmdOK); },
-         about},
+        {"AboutByItsButton", shown<frmAbout>, [] { press(forms::form<frmAbout>().cmdOK); }, about},
         {"AboutByEnter", shown<frmAbout>, enter, about},
         {"AboutByEsc", shown<frmAbout>, escape, about},
         {"AboutByItsCloseBox", shown<frmAbout>, closeBox<frmAbout>, about},
@@ -69,8 +68,7 @@ class DialogCapture : public QueryTest,
            input::key(VK_RETURN);
          },
          special},
-        {"SpecialByCancel", shownSpecial, [] { press(forms::single<frmSpc>().cmdCancel); },
-         special},
+        {"SpecialByCancel", shownSpecial, [] { press(forms::form<frmSpc>().cmdCancel); }, special},
         {"SpecialByEsc", shownSpecial, escape, special},
         {"SpecialByItsCloseBox", shownSpecial, closeBox<frmSpc>, special},
         {"SpecialByAltF4", shownSpecial, pressAltF4<frmSpc>, special},
@@ -80,15 +78,15 @@ class DialogCapture : public QueryTest,
  protected:
   static forms::Form& shownSpecial() {
     press(form().cmdSpc);
-    return forms::single<frmSpc>();
+    return forms::form<frmSpc>();
   }
   static void fill(const char16_t* chinese) {
-    forms::single<frmSpc>().txtE.setText(u"heart");
-    forms::single<frmSpc>().txtC.setText(chinese);
+    forms::form<frmSpc>().txtE.setText(u"heart");
+    forms::form<frmSpc>().txtC.setText(chinese);
   }
   static void search(const char16_t* chinese) {
     fill(chinese);
-    press(forms::single<frmSpc>().cmdOK);
+    press(forms::form<frmSpc>().cmdOK);
   }
 
   /// The window of ours that comes to the front and stays there: the window manager may show
@@ -110,7 +108,7 @@ TEST_P(DialogCapture, RestsInItAndThenFollowsTheFocus) {
   open();
   if (back == Back::kQuickLookupBox) opened<frmSub>();
   if (back == Back::kTree) form().TreeView1.setFocus();
-  HWND before = back == Back::kQuickLookupBox ? forms::single<frmSub>().txtInput.handle()
+  HWND before = back == Back::kQuickLookupBox ? forms::form<frmSub>().txtInput.handle()
                 : back == Back::kTree         ? form().TreeView1.handle()
                                               : form().txtInput.handle();
   ASSERT_TRUE(eventually([&] { return GetFocus() == before; }));
@@ -134,7 +132,7 @@ TEST_P(DialogCapture, RestsInItAndThenFollowsTheFocus) {
   HWND focus = GetFocus();
   const bool typing =
       focus == form().txtInput.handle() ||
-      (forms::isLoaded<frmSub>() && focus == forms::single<frmSub>().txtInput.handle());
+      (forms::isLoaded<frmSub>() && focus == forms::form<frmSub>().txtInput.handle());
   EXPECT_TRUE(typing ? rests() : runs());
   EXPECT_TRUE(allAlong([&] { return captureRuns() != typing; }, 40));
   // The button that opens the special search takes the focus first, as buttons do.

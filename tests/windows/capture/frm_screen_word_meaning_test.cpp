@@ -1,4 +1,4 @@
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "tests/program/harness/controls.h"
 #include "tests/program/harness/find.h"
 #include "tests/windows/support/capture_test.h"
@@ -163,7 +163,7 @@ TEST_F(FrmScreenWordMeaning, SeveralLinesOfMeaningsWidenAndHeightenIt) {
   EXPECT_EQ(popup().txtOut.box().width, 6000);
   // Its connection would keep the file from being put back.
   popup().unload();
-  forms::Registry::instance().purge();
+  forms::LoadedForms::instance().purge();
 }
 
 TEST_F(FrmScreenWordMeaning, AHeadwordTooLongForItsWidthLeavesItHidden) {

@@ -1,7 +1,7 @@
 #include "capture/nhw32/nhw32.h"
 #include "capture/nhw32/service.h"
 #include "forms/dispatcher.h"
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "tests/program/harness/find.h"
 #include "tests/windows/support/capture_test.h"
 #include "tests/windows/support/shown_watch.h"

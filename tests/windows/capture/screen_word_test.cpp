@@ -4,7 +4,7 @@
 
 #include "capture/nhw32/nhw32.h"
 #include "capture/nhw32/service.h"
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "tests/program/harness/find.h"
 #include "tests/windows/support/capture_test.h"
 #include "tests/windows/support/window_everywhere.h"
@@ -161,7 +161,7 @@ TEST_F(ScreenWordTest, APointBeyondSixteenBitsEndsTheProbeAndTheStripGoesBack) {
 }
 
 TEST_F(ScreenWordTest, TheStripIsPureBlueAndNeverActive) {
-  auto& strip = forms::single<frmScreen>();
+  auto& strip = forms::form<frmScreen>();
   EXPECT_EQ(rectOf(strip.handle()).left, -667);
   EXPECT_EQ(rectOf(strip.handle()).top, -667);
   EXPECT_TRUE(refusesActivation(strip.handle()));
@@ -174,7 +174,7 @@ TEST_F(ScreenWordTest, TheStripIsPureBlueAndNeverActive) {
 }
 
 TEST_F(ScreenWordTest, AMonitorAtTheStripsRestingPlaceHidesIt) {
-  auto& strip = forms::single<frmScreen>();
+  auto& strip = forms::form<frmScreen>();
   strip.cover({300, 400, 50, 5});
   ASSERT_TRUE(IsWindowVisible(strip.handle()));
   strip.uncover();
@@ -250,7 +250,7 @@ TEST_F(ScreenWordTest, OfAClassNameSixtyThreeCharactersAreRead) {
 }
 
 TEST_F(ScreenWordTest, TheStripsCaptionIsTheDesigns) {
-  EXPECT_EQ(harness::textOf(forms::single<frmScreen>().handle()), L"Form2");
+  EXPECT_EQ(harness::textOf(forms::form<frmScreen>().handle()), L"Form2");
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ class ColumnTreeTest : public WindowTest {
     opened<ColumnForm>();
     tree().setFocus();
   }
-  static forms::ColumnTree& tree() { return forms::single<ColumnForm>().tree; }
+  static forms::ColumnTree& tree() { return forms::form<ColumnForm>().tree; }
   /// Leaves no row highlighted, so that all are dark on light.
   static void deselect() { SendMessageW(tree().handle(), TVM_SELECTITEM, TVGN_CARET, 0); }
 
@@ -71,7 +71,7 @@ TEST_F(ColumnTreeTest, ColumnsStayStraightAtAnotherResolution) {
   tree().add(std::u16string(10, u'汉') + u"M");
   const int before = tree().columnWidth();
   const RECT suggested{40, 40, 1000, 700};
-  SendMessageW(forms::single<ColumnForm>().handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
+  SendMessageW(forms::form<ColumnForm>().handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
                reinterpret_cast<LPARAM>(&suggested));
   deselect();
   EXPECT_GT(tree().columnWidth(), before);
@@ -109,7 +109,7 @@ TEST_F(ColumnTreeTest, TheWidestOfManyTextsSaysHowFarItScrolls) {
   for (int i = 0; i < 50; ++i) tree().add(u"short");
   EXPECT_FALSE(scrolls());
   const auto fill = [](std::size_t widest, std::size_t characters) {
-    const forms::TreeView::RepaintHeld held(tree());
+    const forms::ScopedRepaintHold held(tree());
     for (std::size_t row = 1; row <= tree().count(); ++row) tree().setText(row, u"short");
     tree().setText(widest, std::u16string(characters, u'词'));
   };
@@ -141,7 +141,7 @@ TEST_F(ColumnTreeTest, ItScrollsAsFarAtAnotherResolution) {
   tree().add(u"short");
   tree().add(std::u16string(200, u'词'));
   const RECT suggested{40, 40, 1000, 700};
-  SendMessageW(forms::single<ColumnForm>().handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
+  SendMessageW(forms::form<ColumnForm>().handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
                reinterpret_cast<LPARAM>(&suggested));
   forms::doEvents();
   EXPECT_GE(scrolling(SB_HORZ).nMax, 200 * 2 * tree().columnWidth());
@@ -154,7 +154,7 @@ TEST_F(ColumnTreeTest, NewTextsLeaveTheFirstRowOnTop) {
   for (int i = 0; i < 50; ++i) tree().add(u"short");
   tree().select(50);
   {
-    const forms::TreeView::RepaintHeld held(tree());
+    const forms::ScopedRepaintHold held(tree());
     for (std::size_t row = 1; row <= tree().count(); ++row) tree().setText(row, u"something wider");
     tree().scrollToBeginning();
   }

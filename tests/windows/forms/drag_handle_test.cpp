@@ -12,22 +12,22 @@ class SplitForm : public FormA {
   SplitForm() {
     first.move({30, 300, 1500, 2000});
     second.move({1550, 300, 1500, 2000});
-    splitter.onMouseDown = [this](forms::Place) { splitter.beginDrag(); };
+    splitter.onMouseDown = [this](forms::TwipPoint) { splitter.beginDrag(); };
     splitter.onDragEnded = [this] { ++ended; };
-    first.onDragDrop = [this](forms::Widget& source, forms::Place at) {
+    first.onDragDrop = [this](forms::Widget& source, forms::TwipPoint at) {
       note("first", source, at);
     };
-    second.onDragDrop = [this](forms::Widget& source, forms::Place at) {
+    second.onDragDrop = [this](forms::Widget& source, forms::TwipPoint at) {
       note("second", source, at);
     };
   }
   forms::DragHandle splitter{*this, forms::DragHandle::Look::kLine, {1530, 300, 20, 2000}};
   std::vector<std::string> drops;
-  forms::Place place;
+  forms::TwipPoint place;
   int ended = 0;
 
  private:
-  void note(const char* target, const forms::Widget& source, forms::Place at) {
+  void note(const char* target, const forms::Widget& source, forms::TwipPoint at) {
     EXPECT_EQ(&source, &splitter);
     drops.emplace_back(target);
     place = at;
@@ -36,7 +36,7 @@ class SplitForm : public FormA {
 
 class DragHandleTest : public WindowTest {
  protected:
-  static SplitForm& form() { return forms::single<SplitForm>(); }
+  static SplitForm& form() { return forms::form<SplitForm>(); }
 
   /// Presses on the splitter and moves to a point, without letting go.
   static void dragTo(POINT point) {

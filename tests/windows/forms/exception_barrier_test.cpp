@@ -143,7 +143,7 @@ using MessageBoxTest = ExceptionBarrier;
 
 TEST_F(MessageBoxTest, HoldsEveryWindowOfTheProgram) {
   auto& owner = opened<FormA>();
-  auto& other = forms::single<FormB>();
+  auto& other = forms::form<FormB>();
   other.show();
   awaitActive(other);
   owner.show();
@@ -164,8 +164,8 @@ TEST_F(MessageBoxTest, HoldsEveryWindowOfTheProgram) {
 TEST_F(MessageBoxTest, LeavesAWindowDisabledThatWasSo) {
   opened<FormA>();
   auto& other = opened<FormB>();
-  forms::single<FormA>().show();
-  awaitActive(forms::single<FormA>());
+  forms::form<FormA>().show();
+  awaitActive(forms::form<FormA>());
   EnableWindow(other.handle(), FALSE);
   forms::showMessage(u"…", forms::MessageIcon::kNone);
   EXPECT_EQ(boxes.take().size(), 1U);

@@ -13,7 +13,7 @@ class FormDpi : public WindowTest {
   }
 
   static FormA& shown() {
-    auto& form = forms::single<FormA>();
+    auto& form = forms::form<FormA>();
     form.show();
     forms::doEvents();
     return form;
@@ -95,8 +95,8 @@ TEST_F(FormDpi, TellsTheSystemTheSizeItWillHave) {
 TEST_F(FormDpi, PlacesUnderTheMouseAreTwips) {
   auto& form = shown();
   moveToMonitorOf(144, form);
-  forms::Place place;
-  form.first.onMouseMove = [&](forms::Place at) { place = at; };
+  forms::TwipPoint place;
+  form.first.onMouseMove = [&](forms::TwipPoint at) { place = at; };
   SendMessageW(form.first.handle(), WM_MOUSEMOVE, 0, MAKELPARAM(30, 15));
   EXPECT_EQ(place.x, 300);
   EXPECT_EQ(place.y, 150);

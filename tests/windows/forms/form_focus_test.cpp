@@ -89,7 +89,7 @@ TEST_F(FormFocus, AMessageBoxIsNoMoveOfTheFocus) {
 TEST_F(FormFocus, WhatMovedWhileABoxWasUpIsToldAfterwards) {
   opened<FormA>();
   ASSERT_TRUE(reached(4));
-  auto& other = forms::single<FormB>();
+  auto& other = forms::form<FormB>();
   events().clear();
   bool quiet = false;
   boxes.whileUp([&](HWND) {
@@ -122,7 +122,7 @@ TEST_F(FormFocus, AClickOnAButtonIsHandledAfterTheEventsOfItsFocus) {
   auto& form = opened<FormA>();
   ASSERT_TRUE(reached(4));
   events().clear();
-  form.second.onMouseDown = [](forms::Place) { events().emplace_back("MouseDown"); };
+  form.second.onMouseDown = [](forms::TwipPoint) { events().emplace_back("MouseDown"); };
   input::click(centreOf(form.second));
   ASSERT_TRUE(reached(3));
   passTime(20);
@@ -131,7 +131,7 @@ TEST_F(FormFocus, AClickOnAButtonIsHandledAfterTheEventsOfItsFocus) {
 }
 
 TEST_F(FormFocus, AFormThatMovesTheFocusInActivateIsTold) {
-  plan<'A'>().activate = [] { forms::single<FormA>().second.setFocus(); };
+  plan<'A'>().activate = [] { forms::form<FormA>().second.setFocus(); };
   opened<FormA>();
   ASSERT_TRUE(eventually([] { return times("A.second.GotFocus") == 1; }));
   EXPECT_EQ(times("A.first.GotFocus"), 0);

@@ -17,27 +17,27 @@ TEST_F(FormOpening, RaisesItsEventsInOrder) {
 
 TEST_F(FormOpening, LoadsOnTheFirstReferenceOnly) {
   EXPECT_FALSE(forms::isLoaded<FormA>());
-  auto& form = forms::single<FormA>();
+  auto& form = forms::form<FormA>();
   EXPECT_TRUE(forms::isLoaded<FormA>());
-  EXPECT_EQ(&forms::single<FormA>(), &form);
+  EXPECT_EQ(&forms::form<FormA>(), &form);
   EXPECT_EQ(events(), Events{"A.Load"});
   EXPECT_FALSE(IsWindowVisible(form.handle()));
 }
 
 TEST_F(FormOpening, FindsItselfBehindItsWindow) {
-  auto& form = forms::single<FormA>();
+  auto& form = forms::form<FormA>();
   EXPECT_EQ(forms::Form::of(form.handle()), &form);
   EXPECT_EQ(forms::Form::of(form.first.handle()), nullptr);
   EXPECT_EQ(forms::Form::of(GetDesktopWindow()), nullptr);
   EXPECT_EQ(forms::Form::of(nullptr), nullptr);
   EXPECT_EQ(form.widgetOf(form.first.handle()), &form.first);
   EXPECT_EQ(form.widgetOf(form.handle()), nullptr);
-  EXPECT_EQ(form.widgetOf(forms::single<FormB>().first.handle()), nullptr);
+  EXPECT_EQ(form.widgetOf(forms::form<FormB>().first.handle()), nullptr);
   EXPECT_EQ(form.widgetOf(nullptr), nullptr);
 }
 
 TEST_F(FormOpening, ShowsWhatLoadingPrepared) {
-  plan<'A'>().load = [] { forms::single<FormA>().first.setText(u"ready"); };
+  plan<'A'>().load = [] { forms::form<FormA>().first.setText(u"ready"); };
   EXPECT_EQ(opened<FormA>().first.text(), u"ready");
 }
 
@@ -88,19 +88,19 @@ TEST_F(FormOpening, AnErrorWhileLoadingIsShownAndTheFormStays) {
   EXPECT_EQ(seen[0].icon, Icon::kError);
   EXPECT_EQ(seen[0].title, u"");
   EXPECT_TRUE(IsWindowVisible(form.handle()));
-  EXPECT_EQ(&forms::single<FormA>(), &form);
+  EXPECT_EQ(&forms::form<FormA>(), &form);
 }
 
 TEST_F(FormOpening, GivesAnOwnedFormItsOwner) {
   auto& owner = opened<FormA>();
-  auto& owned = forms::single<FormB>();
+  auto& owned = forms::form<FormB>();
   owned.show(&owner);
   awaitActive(owned);
   EXPECT_EQ(GetWindow(owned.handle(), GW_OWNER), owner.handle());
 }
 
 TEST_F(FormOpening, AFormCanOpenAnotherWhileItLoads) {
-  plan<'A'>().load = [] { forms::single<FormB>(); };
+  plan<'A'>().load = [] { forms::form<FormB>(); };
   opened<FormA>();
   ASSERT_TRUE(eventually([] { return events().size() >= 5; }));
   events().resize(5);

@@ -43,7 +43,7 @@ TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenShown) {
   plan<'A'>().design.neverActive = true;
   plan<'A'>().design.frame = forms::Frame::kBorderless;
   other.activate();
-  auto& form = forms::single<FormA>();
+  auto& form = forms::form<FormA>();
   form.show();
   EXPECT_TRUE(IsWindowVisible(form.handle()));
   EXPECT_TRUE(otherKeepsTheFocus());
@@ -56,7 +56,7 @@ TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenClicked) {
   plan<'A'>().design.neverActive = true;
   plan<'A'>().design.frame = forms::Frame::kBorderless;
   other.activate();
-  auto& form = forms::single<FormA>();
+  auto& form = forms::form<FormA>();
   form.setPosition(6000, 1500);
   form.show();
   input::click(centreOf(rectOf(form.handle())));
@@ -66,7 +66,7 @@ TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenClicked) {
 
 TEST_F(FormRaising, ANeverActiveFormHasNoTaskbarButton) {
   plan<'A'>().design.neverActive = true;
-  HWND window = forms::single<FormA>().handle();
+  HWND window = forms::form<FormA>().handle();
   EXPECT_TRUE(isToolWindow(window));
   EXPECT_TRUE(refusesActivation(window));
 }
@@ -80,7 +80,7 @@ TEST_F(FormRaising, AFormWithoutTaskbarButtonIsAToolWindowThatTakesTheFocus) {
 
 TEST_F(FormRaising, TypingIsNotDisturbedByAHundredRepaints) {
   plan<'A'>().design.topmost = true;
-  plan<'A'>().paint = [] { forms::single<FormA>().bringToTop(); };
+  plan<'A'>().paint = [] { forms::form<FormA>().bringToTop(); };
   auto& form = opened<FormA>();
   other.activate();
   for (int i = 0; i < 100; ++i) {

@@ -37,7 +37,7 @@ TEST_F(FormSize, ABorderlessFormHasNoFrame) {
 
 TEST_F(FormSize, KeepsTheTwipsThatWereSetWhateverThePixels) {
   notManaged();
-  auto& form = forms::single<FormA>();
+  auto& form = forms::form<FormA>();
   form.show();
   for (int width = 3600; width < 3620; ++width) {
     form.setSize(width, 2900);
@@ -60,7 +60,7 @@ TEST_F(FormSize, TakesTheUsersPixelsAsTwips) {
 
 TEST_F(FormSize, ComesBackToTheTwipsThatWereSet) {
   notManaged();
-  auto& form = forms::single<FormA>();
+  auto& form = forms::form<FormA>();
   form.show();
   form.setSize(5003, 4006);
   const RECT rect = rectOf(form.handle());
@@ -75,7 +75,7 @@ TEST_F(FormSize, ComesBackToTheTwipsThatWereSet) {
 
 TEST_F(FormSize, RaisesResizeOnlyOnceShown) {
   notManaged();
-  auto& form = forms::single<FormA>();
+  auto& form = forms::form<FormA>();
   form.setSize(6000, 4000);
   form.setSize(7000, 5000);
   EXPECT_EQ(events(), Events{"A.Load"});
@@ -102,7 +102,7 @@ TEST_F(FormSize, StopsAt32767Twips) {
 }
 
 TEST_F(FormSize, IsNeverNegative) {
-  auto& form = forms::single<FormA>();
+  auto& form = forms::form<FormA>();
   form.setSize(-5, 0);
   EXPECT_EQ(form.width(), 0);
   EXPECT_EQ(form.height(), 0);

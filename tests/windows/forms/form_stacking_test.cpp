@@ -23,9 +23,9 @@ class FormStacking : public WindowTest {
     plan<'C'>().paint = [] { c().bringToTop(); };
   }
 
-  static FormA& a() { return forms::single<FormA>(); }
-  static FormB& b() { return forms::single<FormB>(); }
-  static FormC& c() { return forms::single<FormC>(); }
+  static FormA& a() { return forms::form<FormA>(); }
+  static FormB& b() { return forms::form<FormB>(); }
+  static FormC& c() { return forms::form<FormC>(); }
 
   /// Opens A in the middle of the screen, so large that B finds no place beside it.
   FormA& openLargeA() {

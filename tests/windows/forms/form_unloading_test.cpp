@@ -26,7 +26,7 @@ TEST_F(FormUnloading, RunsUnloadBeforeTheWindowGoes) {
 
 TEST_F(FormUnloading, TheNextReferenceLoadsItAnew) {
   opened<FormA>().first.setText(u"old");
-  forms::single<FormA>().unload();
+  forms::form<FormA>().unload();
   forms::doEvents();
   events().clear();
   EXPECT_EQ(opened<FormA>().first.text(), u"");
@@ -61,7 +61,7 @@ TEST_F(FormUnloading, AFormWithoutCloseBoxIgnoresAltF4AndClose) {
 TEST_F(FormUnloading, TheEndOfTheSessionUnloadsEveryForm) {
   plan<'A'>().design.closable = false;
   opened<FormA>();
-  const HWND window = forms::single<FormA>().handle();
+  const HWND window = forms::form<FormA>().handle();
   EXPECT_TRUE(SendMessageW(window, WM_QUERYENDSESSION, 0, 0));
   EXPECT_TRUE(IsWindow(window));
   SendMessageW(window, WM_ENDSESSION, FALSE, 0);
@@ -73,9 +73,9 @@ TEST_F(FormUnloading, TheEndOfTheSessionUnloadsEveryForm) {
 
 TEST_F(FormUnloading, AnOwnersFormsAreUnloadedFirstAndOnce) {
   auto& owner = opened<FormA>();
-  auto& owned = forms::single<FormB>();
+  auto& owned = forms::form<FormB>();
   owned.show(&owner);
-  auto& ownedByOwned = forms::single<FormC>();
+  auto& ownedByOwned = forms::form<FormC>();
   ownedByOwned.show(&owned);
   awaitActive(ownedByOwned);
   events().clear();
@@ -126,12 +126,12 @@ TEST_F(FormUnloading, AFormCanBeOpenedAgainFromTheHandlerThatUnloadsIt) {
   auto& form = opened<FormA>();
   form.first.onChange = [&] {
     form.unload();
-    forms::single<FormA>().show();
+    forms::form<FormA>().show();
   };
   form.first.setText(u"again");
   ASSERT_TRUE(eventually([] { return times("A.gone") == 1; }));
   EXPECT_TRUE(forms::isLoaded<FormA>());
-  EXPECT_TRUE(IsWindowVisible(forms::single<FormA>().handle()));
+  EXPECT_TRUE(IsWindowVisible(forms::form<FormA>().handle()));
 }
 
 TEST_F(FormUnloading, AWindowThatGoesHearsOfNoLossOfFocus) {

@@ -25,7 +25,7 @@ class PopupMenuTest : public WindowTest {
       act(window);
       return true;
     });
-    const auto* chosen = menu.choose(forms::single<FormA>(), {500, 300});
+    const auto* chosen = menu.choose(forms::form<FormA>(), {500, 300});
     EXPECT_TRUE(user.done());
     return chosen;
   }

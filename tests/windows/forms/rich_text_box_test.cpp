@@ -22,7 +22,7 @@ class PaneForm : public FormA {
 
 class RichTextBoxTest : public WindowTest {
  protected:
-  static forms::RichTextBox& pane() { return forms::single<PaneForm>().pane; }
+  static forms::RichTextBox& pane() { return forms::form<PaneForm>().pane; }
   static std::vector<COLORREF> colours() { return harness::richTextColours(pane().handle()); }
 };
 
@@ -213,7 +213,7 @@ TEST_F(RichTextBoxTest, CtrlASelectsAll) {
 TEST_F(RichTextBoxTest, TheRightButtonAndTheMenuKeyRaiseTheirEvent) {
   opened<PaneForm>();
   int raised = 0;
-  pane().onRightMouseUp = [&](forms::Place) { ++raised; };
+  pane().onRightMouseUp = [&](forms::TwipPoint) { ++raised; };
   input::rightClick(centreOf(pane()));
   ASSERT_TRUE(eventually([&] { return raised == 1; }));
   pane().setFocus();
@@ -225,7 +225,7 @@ TEST_F(RichTextBoxTest, TheRightButtonAndTheMenuKeyRaiseTheirEvent) {
 TEST_F(RichTextBoxTest, HoldsItsRepaintAndThenShowsWhatChanged) {
   opened<PaneForm>();
   {
-    const forms::RichTextBox::RepaintHeld held(pane());
+    const forms::ScopedRepaintHold held(pane());
     pane().setText(u"quiet");
   }
   EXPECT_TRUE(GetUpdateRect(pane().handle(), nullptr, FALSE));

@@ -7,7 +7,7 @@ namespace {
 
 class TextBoxTest : public WindowTest {
  protected:
-  static forms::TextBox& box() { return forms::single<FormA>().first; }
+  static forms::TextBox& box() { return forms::form<FormA>().first; }
 
   /// The texts that the box held at its changes.
   std::vector<std::u16string> changes;
@@ -80,13 +80,13 @@ TEST_F(TextBoxTest, TellsTheMouse) {
   int moves = 0;
   int downs = 0;
   int ups = 0;
-  forms::Place place;
-  box().onMouseMove = [&](forms::Place) { ++moves; };
-  box().onMouseDown = [&](forms::Place at) {
+  forms::TwipPoint place;
+  box().onMouseMove = [&](forms::TwipPoint) { ++moves; };
+  box().onMouseDown = [&](forms::TwipPoint at) {
     ++downs;
     place = at;
   };
-  box().onMouseUp = [&](forms::Place) { ++ups; };
+  box().onMouseUp = [&](forms::TwipPoint) { ++ups; };
   input::click(inWidget(box(), 600, 150));
   ASSERT_TRUE(eventually([&] { return ups == 1; }));
   EXPECT_EQ(downs, 1);

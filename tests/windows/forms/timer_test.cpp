@@ -11,7 +11,7 @@ class TimerTest : public WindowTest {
 };
 
 TEST_F(TimerTest, TicksAtItsInterval) {
-  forms::Timer timer(forms::single<FormA>());
+  forms::Timer timer(forms::form<FormA>());
   timer.onTimer = [this] { ++ticks; };
   timer.setInterval(20);
   timer.setEnabled(true);
@@ -21,8 +21,8 @@ TEST_F(TimerTest, TicksAtItsInterval) {
 }
 
 TEST_F(TimerTest, NeitherDisabledNorWithoutIntervalDoesItTick) {
-  forms::Timer disabled(forms::single<FormA>(), 10);
-  forms::Timer noInterval(forms::single<FormA>(), 0, true);
+  forms::Timer disabled(forms::form<FormA>(), 10);
+  forms::Timer noInterval(forms::form<FormA>(), 0, true);
   disabled.onTimer = noInterval.onTimer = [this] { ++ticks; };
   EXPECT_FALSE(disabled.enabled());
   EXPECT_TRUE(noInterval.enabled());
@@ -30,14 +30,14 @@ TEST_F(TimerTest, NeitherDisabledNorWithoutIntervalDoesItTick) {
 }
 
 TEST_F(TimerTest, AnIntervalStartsOneThatIsEnabled) {
-  forms::Timer timer(forms::single<FormA>(), 0, true);
+  forms::Timer timer(forms::form<FormA>(), 0, true);
   timer.onTimer = [this] { ++ticks; };
   timer.setInterval(10);
   EXPECT_TRUE(eventually([this] { return ticks >= 2; }));
 }
 
 TEST_F(TimerTest, EnablingTwiceDoesNotStartItOver) {
-  forms::Timer timer(forms::single<FormA>(), 100, true);
+  forms::Timer timer(forms::form<FormA>(), 100, true);
   timer.onTimer = [this] { ++ticks; };
   const ULONGLONG start = GetTickCount64();
   while (ticks == 0 && GetTickCount64() - start < 2'000) {
@@ -48,7 +48,7 @@ TEST_F(TimerTest, EnablingTwiceDoesNotStartItOver) {
 }
 
 TEST_F(TimerTest, StopsInItsOwnTick) {
-  forms::Timer timer(forms::single<FormA>(), 10, true);
+  forms::Timer timer(forms::form<FormA>(), 10, true);
   timer.onTimer = [&] {
     ++ticks;
     timer.setEnabled(false);
@@ -59,7 +59,7 @@ TEST_F(TimerTest, StopsInItsOwnTick) {
 }
 
 TEST_F(TimerTest, ATickThatWaitedWhenItWasStoppedIsNotRaised) {
-  forms::Timer timer(forms::single<FormA>(), 10, true);
+  forms::Timer timer(forms::form<FormA>(), 10, true);
   timer.onTimer = [this] { ++ticks; };
   // Long enough without a message loop for a tick to wait.
   Sleep(40);
@@ -96,8 +96,8 @@ TEST_F(TimerTest, TicksWhileAMessageBoxIsUp) {
 }
 
 TEST_F(TimerTest, TwoTimersDoNotDisturbEachOther) {
-  forms::Timer fast(forms::single<FormA>(), 10, true);
-  forms::Timer slow(forms::single<FormA>(), 50, true);
+  forms::Timer fast(forms::form<FormA>(), 10, true);
+  forms::Timer slow(forms::form<FormA>(), 50, true);
   int slowTicks = 0;
   fast.onTimer = [this] { ++ticks; };
   slow.onTimer = [&] { ++slowTicks; };

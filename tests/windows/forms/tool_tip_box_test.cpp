@@ -25,7 +25,7 @@ class ToolTipBox : public WindowTest {
     forms::doEvents();
   }
 
-  static forms::RichTextBox& box() { return forms::single<ToolTipForm>().box; }
+  static forms::RichTextBox& box() { return forms::form<ToolTipForm>().box; }
 
   static LRESULT lines() { return SendMessageW(box().handle(), EM_GETLINECOUNT, 0, 0); }
 

@@ -29,7 +29,7 @@ class TreeViewChoosing : public WindowTest {
     tree().select(1);
     tree().setFocus();
   }
-  static PictureForm& form() { return forms::single<PictureForm>(); }
+  static PictureForm& form() { return forms::form<PictureForm>(); }
   static forms::TreeView& tree() { return form().tree; }
   static RECT nodeRect(int number) {
     return harness::treeNodeRect(tree().handle(), number - 1).value_or(RECT{});

@@ -20,7 +20,7 @@ class TreeViewTest : public WindowTest {
   TreeViewTest() { plan<'A'>().design.height = 6000; }
 
   void fill(int count) {
-    const forms::TreeView::RepaintHeld held(tree());
+    const forms::ScopedRepaintHold held(tree());
     for (int i = 1; i <= count; ++i) tree().add(word(i));
   }
   static std::u16string word(int number) {
@@ -36,8 +36,8 @@ class TreeViewTest : public WindowTest {
     }
     return texts;
   }
-  forms::TreeView& tree() { return forms::single<TreeForm>().tree; }
-  std::vector<std::size_t>& chosen() { return forms::single<TreeForm>().chosen; }
+  forms::TreeView& tree() { return forms::form<TreeForm>().tree; }
+  std::vector<std::size_t>& chosen() { return forms::form<TreeForm>().chosen; }
 
   /// The middle of a node's text on the screen.
   POINT nodePoint(int number) {
@@ -131,7 +131,7 @@ TEST_F(TreeViewTest, SelectingBringsTheNodeIntoView) {
 TEST_F(TreeViewTest, TheFocusReachingTheTreeIsNoChoice) {
   open();
   fill(5);
-  forms::single<TreeForm>().first.setFocus();
+  forms::form<TreeForm>().first.setFocus();
   tree().setFocus();
   passTime(30);
   EXPECT_EQ(chosen(), std::vector<std::size_t>{});

@@ -65,7 +65,7 @@ TEST_F(WidgetTest, ALabelTakesNoFocusButTellsTheMouse) {
   };
   auto& form = opened<LabelForm>();
   int moves = 0;
-  form.label.onMouseMove = [&](forms::Place) { ++moves; };
+  form.label.onMouseMove = [&](forms::TwipPoint) { ++moves; };
   input::click(centreOf(form.label));
   EXPECT_TRUE(eventually([&] { return moves > 0; }));
   EXPECT_EQ(GetFocus(), form.first.handle());
@@ -102,7 +102,7 @@ TEST_F(WidgetTest, ThePointersShapeIsTheFormsWhereItIsSet) {
 TEST_F(WidgetTest, TheMouseOverTheFormIsTheForms) {
   auto& form = opened<FormA>();
   int moves = 0;
-  form.onMouseMove = [&](forms::Place) { ++moves; };
+  form.onMouseMove = [&](forms::TwipPoint) { ++moves; };
   POINT empty{5, 5};
   ClientToScreen(form.handle(), &empty);
   input::moveTo(empty);

@@ -90,7 +90,7 @@ TEST_F(FrmSubCapture, AMessageBoxDoesNotWakeIt) {
 }
 
 TEST_F(FrmSubCapture, TheToolbarThatLosesTheFocusToTheBoxDoesNotWakeIt) {
-  auto& top = forms::single<frmTop>();
+  auto& top = forms::form<frmTop>();
   awaitActive(top);
   ASSERT_TRUE(eventually([] { return user::IdxWords.size() > 1; }));
   open();

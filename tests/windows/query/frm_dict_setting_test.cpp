@@ -8,7 +8,7 @@ namespace {
 
 class FrmDictSetting : public QueryTest {
  protected:
-  static frmdictSetting& settings() { return forms::single<frmdictSetting>(); }
+  static frmdictSetting& settings() { return forms::form<frmdictSetting>(); }
 
   frmdictSetting& openSettings() {
     auto& window = opened<frmdictSetting>();
@@ -218,7 +218,7 @@ TEST_F(FrmDictSetting, AFailingQueryWindowIsAnUncaughtError) {
 
 TEST_F(FrmDictSetting, WithoutACatalogueTheFileIsToldToBeIncomplete) {
   store("drop table [Index]");
-  forms::single<frmdictSetting>();
+  forms::form<frmdictSetting>();
   expectDatabaseBox(kIncomplete, u"no such table: index");
   opened<frmdictSetting>();
   EXPECT_EQ(settings().TreeView2.count(), 0U);

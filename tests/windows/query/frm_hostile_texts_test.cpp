@@ -37,10 +37,10 @@ class FrmHostileTexts : public QueryTest {
 
   static void special(const std::u16string& english, const std::u16string& chinese) {
     press(form().cmdSpc);
-    forms::single<frmSpc>().txtE.setText(english);
-    forms::single<frmSpc>().txtC.setText(chinese);
-    press(forms::single<frmSpc>().cmdOK);
-    if (forms::isLoaded<frmSpc>()) forms::single<frmSpc>().unload();
+    forms::form<frmSpc>().txtE.setText(english);
+    forms::form<frmSpc>().txtC.setText(chinese);
+    press(forms::form<frmSpc>().cmdOK);
+    if (forms::isLoaded<frmSpc>()) forms::form<frmSpc>().unload();
   }
 
  private:

@@ -68,7 +68,7 @@ TEST_F(FrmMainCapture, RestsInTheSpecialSearchAndFollowsTheBoxAfterwards) {
   form().cmdSpc.setFocus();
   ASSERT_TRUE(runs());
   press(form().cmdSpc);
-  awaitActive(forms::single<frmSpc>());
+  awaitActive(forms::form<frmSpc>());
   EXPECT_TRUE(rests());
   input::key(VK_ESCAPE);
   ASSERT_TRUE(eventually([] { return !forms::isLoaded<frmSpc>(); }));

@@ -81,7 +81,7 @@ TEST_F(FrmMainLoading, OfSeveralDefaultsTheLastWins) {
 
 TEST_F(FrmMainLoading, WithNoDictionaryShownItSaysSoAndSearchesDoToo) {
   store("update [Index] set Isshow=0");
-  forms::single<frmMain>();
+  forms::form<frmMain>();
   expectBox(kChoose, Icon::kWarning);
   open();
   EXPECT_EQ(textsOf(form().TreeView1), Texts{});
@@ -113,7 +113,7 @@ TEST_F(FrmMainLoading, FilledAgainWithNoneShownItKeepsItsTable) {
 
 TEST_F(FrmMainLoading, WithoutACatalogueItSaysSoAndStays) {
   store("drop table [Index]");
-  forms::single<frmMain>();
+  forms::form<frmMain>();
   expectBox(kUnexpected, Icon::kError);
   open();
   EXPECT_TRUE(user::MainOpen);
@@ -123,7 +123,7 @@ TEST_F(FrmMainLoading, WithoutACatalogueItSaysSoAndStays) {
 
 TEST_F(FrmMainLoading, WithoutADatabaseItSaysSoAndStays) {
   user::ConnectionString = u"Provider=x;Data Source=C:\\no such folder\\kk.dat;";
-  forms::single<frmMain>();
+  forms::form<frmMain>();
   expectBox(kUnexpected, Icon::kError);
   open();
 }
@@ -132,7 +132,7 @@ TEST_F(FrmMainLoading, ShowingItAgainBringsTheSameWindow) {
   frmMain& window = open();
   easy(u"liver");
   window.show();
-  EXPECT_EQ(&forms::single<frmMain>(), &window);
+  EXPECT_EQ(&forms::form<frmMain>(), &window);
   EXPECT_EQ(lines().size(), 1U);
 }
 

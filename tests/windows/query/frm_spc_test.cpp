@@ -12,7 +12,7 @@ class FrmSpc : public QueryTest {
   static constexpr const char16_t* kBothBoxes = u"请在英文和中文的文本框里输入内容！";
   static constexpr const char16_t* kRefused = u"无法在词典文件中执行这次查询：";
 
-  static frmSpc& dialog() { return forms::single<frmSpc>(); }
+  static frmSpc& dialog() { return forms::form<frmSpc>(); }
 
   /// Opens both windows by the button and waits until the dialog has the focus.
   void openBoth() {
@@ -197,7 +197,7 @@ TEST_F(FrmSpc, AQuoteBeforeThousandsOfCharactersFitsTheScreen) {
 
 TEST_F(FrmSpc, WithoutADictionaryTheSearchFails) {
   store("update [Index] set Isshow=0");
-  forms::single<frmMain>();
+  forms::form<frmMain>();
   expectBox(kChoose, Icon::kWarning);
   openBoth();
   fill(u"heart", u"心");

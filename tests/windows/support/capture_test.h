@@ -26,8 +26,8 @@ class CaptureTest : public WindowTest {
     ScreenWord::strScreenWord.clear();
   }
 
-  static frmScreenWord& host() { return forms::single<frmScreenWord>(); }
-  static frmScreenWordMeaning& popup() { return forms::single<frmScreenWordMeaning>(); }
+  static frmScreenWord& host() { return forms::form<frmScreenWord>(); }
+  static frmScreenWordMeaning& popup() { return forms::form<frmScreenWordMeaning>(); }
   static bool popupIsUp() {
     return forms::isLoaded<frmScreenWordMeaning>() && IsWindowVisible(popup().handle()) != FALSE;
   }

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/form.h"
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 #include "forms/text_box.h"
 
 namespace wintest {

@@ -22,7 +22,7 @@ class FrmSubTest : public WindowTest {
   }
   ~FrmSubTest() override { harness::settings::clear(); }
 
-  static frmSub& sub() { return forms::single<frmSub>(); }
+  static frmSub& sub() { return forms::form<frmSub>(); }
 
   /// Shows it and waits until its input box has the focus.
   frmSub& open() {

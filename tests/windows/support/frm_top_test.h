@@ -21,9 +21,9 @@ class FrmTopTest : public WindowTest {
     user::MainOpen = true;
   }
 
-  static frmTop& top() { return forms::single<frmTop>(); }
-  static frmMenu& menu() { return forms::single<frmMenu>(); }
-  static frmScreenWord& host() { return forms::single<frmScreenWord>(); }
+  static frmTop& top() { return forms::form<frmTop>(); }
+  static frmMenu& menu() { return forms::form<frmMenu>(); }
+  static frmScreenWord& host() { return forms::form<frmScreenWord>(); }
 
   /// Starts it and waits until it has the foreground and the index is there.
   frmTop& start() {

@@ -47,7 +47,7 @@ class QueryTest : public WindowTest {
   ~QueryTest() override {
     unloadAll();
     // Its file cannot be replaced while a form that has gone still holds it.
-    forms::Registry::instance().purge();
+    forms::LoadedForms::instance().purge();
   }
 
   /// Changes the database behind the program's back.
@@ -56,7 +56,7 @@ class QueryTest : public WindowTest {
     return support::Writer(besideProgram()).number(sql);
   }
 
-  static frmMain& form() { return forms::single<frmMain>(); }
+  static frmMain& form() { return forms::form<frmMain>(); }
 
   /// Shows it and waits until its input box has the focus.
   frmMain& open() {

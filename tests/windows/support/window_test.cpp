@@ -41,7 +41,7 @@ void unloadAll() {
   }
   forms::doEvents();
   // Their objects too: one that is kept keeps its database open.
-  forms::Registry::instance().purge();
+  forms::LoadedForms::instance().purge();
 }
 
 WindowTest::WindowTest()

@@ -22,7 +22,7 @@ class WindowTest : public ::testing::Test {
   /// Shows a form and waits until it has the foreground and all events of its opening are raised.
   template <class F>
   F& opened() {
-    auto& form = forms::single<F>();
+    auto& form = forms::form<F>();
     form.show();
     awaitActive(form);
     return form;

@@ -1,24 +1,24 @@
-#include "forms/registry.h"
+#include "forms/loaded_forms.h"
 
 #include "forms/exception_barrier.h"
 
 namespace forms {
 
-Registry& Registry::instance() {
-  static Registry registry;
-  return registry;
+LoadedForms& LoadedForms::instance() {
+  static LoadedForms forms;
+  return forms;
 }
 
-Form* Registry::find(std::type_index type) const {
+Form* LoadedForms::find(std::type_index type) const {
   const auto found = forms_.find(type);
   return found == forms_.end() ? nullptr : found->second.get();
 }
 
-Form& Registry::add(std::type_index type, std::unique_ptr<Form> form) {
+Form& LoadedForms::add(std::type_index type, std::unique_ptr<Form> form) {
   return *forms_.emplace(type, std::move(form)).first->second;
 }
 
-void Registry::retire(const Form& form) {
+void LoadedForms::retire(const Form& form) {
   for (auto entry = forms_.begin(); entry != forms_.end(); ++entry) {
     if (entry->second.get() != &form) continue;
     retired_.push_back(std::move(entry->second));
@@ -27,11 +27,11 @@ void Registry::retire(const Form& form) {
   }
 }
 
-void Registry::purge() {
+void LoadedForms::purge() {
   if (ScopedHandler::depth() == 0) retired_.clear();
 }
 
-std::vector<Form*> Registry::ownedBy(const Form& owner) const {
+std::vector<Form*> LoadedForms::ownedBy(const Form& owner) const {
   std::vector<Form*> owned;
   for (const auto& [type, form] : forms_) {
     if (GetWindow(form->handle(), GW_OWNER) == owner.handle()) owned.push_back(form.get());
@@ -39,7 +39,7 @@ std::vector<Form*> Registry::ownedBy(const Form& owner) const {
   return owned;
 }
 
-std::vector<Form*> Registry::all() const {
+std::vector<Form*> LoadedForms::all() const {
   std::vector<Form*> all;
   for (const auto& [type, form] : forms_) all.push_back(form.get());
   return all;

@@ -17,17 +17,17 @@ class HeldForm : public FormA {
 };
 
 /// Controls whose scroll bars come and go while they hold back their repaint.
-class RepaintHeldTest : public WindowTest {
+class ScopedRepaintHoldTest : public WindowTest {
  protected:
-  RepaintHeldTest() {
+  ScopedRepaintHoldTest() {
     plan<'A'>().design.width = 6300;
     plan<'A'>().design.height = 4800;
     opened<HeldForm>();
   }
-  static HeldForm& form() { return forms::single<HeldForm>(); }
+  static HeldForm& form() { return forms::form<HeldForm>(); }
 
   static void fill(forms::TreeView& tree, std::size_t count, const std::u16string& text) {
-    const forms::RepaintHeld held(tree);
+    const forms::ScopedRepaintHold held(tree);
     while (tree.count() > count) tree.remove(tree.count());
     for (std::size_t node = 1; node <= tree.count(); ++node) tree.setText(node, text);
     while (tree.count() < count) tree.add(text);
@@ -39,7 +39,7 @@ class RepaintHeldTest : public WindowTest {
   }
 };
 
-TEST_F(RepaintHeldTest, ARichTextBoxPaintsABarThatComesOrGoes) {
+TEST_F(ScopedRepaintHoldTest, ARichTextBoxPaintsABarThatComesOrGoes) {
   const std::u16string few(u"word\r\nmeaning that is long");
   std::u16string many = few;
   for (int i = 0; i < 30; ++i) many += u"\r\nmeaning";
@@ -47,7 +47,7 @@ TEST_F(RepaintHeldTest, ARichTextBoxPaintsABarThatComesOrGoes) {
     for (const std::u16string* text :
          std::initializer_list<const std::u16string*>{&few, &many, &few}) {
       {
-        const forms::RepaintHeld held(*box);
+        const forms::ScopedRepaintHold held(*box);
         box->setText(*text);
       }
       expectPainted(*box, WS_VSCROLL, text == &many);
@@ -55,7 +55,7 @@ TEST_F(RepaintHeldTest, ARichTextBoxPaintsABarThatComesOrGoes) {
   }
 }
 
-TEST_F(RepaintHeldTest, ATreePaintsABarThatComesOrGoes) {
+TEST_F(ScopedRepaintHoldTest, ATreePaintsABarThatComesOrGoes) {
   fill(form().tree, 2, u"a word that is longer than the tree is wide");
   expectPainted(form().tree, WS_VSCROLL, false);
   fill(form().tree, 60, u"a word that is longer than the tree is wide");
@@ -64,19 +64,19 @@ TEST_F(RepaintHeldTest, ATreePaintsABarThatComesOrGoes) {
   expectPainted(form().tree, WS_VSCROLL, false);
 }
 
-TEST_F(RepaintHeldTest, AHiddenControlStaysHidden) {
+TEST_F(ScopedRepaintHoldTest, AHiddenControlStaysHidden) {
   for (const forms::Widget* widget :
        std::initializer_list<const forms::Widget*>{&form().pane, &form().tree, &form().columns}) {
     ShowWindow(widget->handle(), SW_HIDE);
-    { const forms::RepaintHeld held(*widget); }
+    { const forms::ScopedRepaintHold held(*widget); }
     EXPECT_FALSE(IsWindowVisible(widget->handle()));
     ShowWindow(widget->handle(), SW_SHOWNA);
-    { const forms::RepaintHeld held(*widget); }
+    { const forms::ScopedRepaintHold held(*widget); }
     EXPECT_TRUE(IsWindowVisible(widget->handle()));
   }
 }
 
-TEST_F(RepaintHeldTest, ATreeOfColumnsPaintsBothBarsThatComeOrGo) {
+TEST_F(ScopedRepaintHoldTest, ATreeOfColumnsPaintsBothBarsThatComeOrGo) {
   forms::ColumnTree& tree = form().columns;
   const std::u16string wide(100, u'x');
   fill(tree, 2, u"short");

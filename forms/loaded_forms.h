@@ -10,9 +10,9 @@
 namespace forms {
 
 /// Owns the forms that are loaded, at most one of each class. User-interface thread only.
-class Registry {
+class LoadedForms {
  public:
-  static Registry& instance();
+  static LoadedForms& instance();
 
   /// Returns the loaded form of a class, otherwise nullptr.
   [[nodiscard]] Form* find(std::type_index type) const;
@@ -36,18 +36,18 @@ class Registry {
 /// Returns the form of class `F`; creates and loads it first if it is not loaded. Throws what the
 /// constructor of `F` throws; an error in Form_Load is reported instead.
 template <class F>
-F& single() {
-  Registry& registry = Registry::instance();
-  if (Form* loaded = registry.find(typeid(F))) return static_cast<F&>(*loaded);
-  Form& form = registry.add(typeid(F), std::make_unique<F>());
-  form.load();
-  return static_cast<F&>(form);
+F& form() {
+  LoadedForms& forms = LoadedForms::instance();
+  if (Form* loaded = forms.find(typeid(F))) return static_cast<F&>(*loaded);
+  Form& added = forms.add(typeid(F), std::make_unique<F>());
+  added.load();
+  return static_cast<F&>(added);
 }
 
 /// Returns whether the form of class `F` is loaded; never loads it.
 template <class F>
 bool isLoaded() {
-  return Registry::instance().find(typeid(F)) != nullptr;
+  return LoadedForms::instance().find(typeid(F)) != nullptr;
 }
 
 }  // namespace forms
