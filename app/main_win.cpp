@@ -1,5 +1,4 @@
 #include "app/frm_top.h"
-#include "forms/dispatcher.h"
 #include "forms/exception_barrier.h"
 #include "forms/loaded_forms.h"
 #include "forms/message_box.h"

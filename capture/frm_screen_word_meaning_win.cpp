@@ -4,7 +4,7 @@
 
 #include "app/state.h"
 #include "capture/screen_word.h"
-#include "forms/dispatcher.h"
+#include "forms/loaded_forms.h"
 #include "text/query_text.h"
 #include "win32/monitor.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/picture.h"
+#include "forms/graphics.h"
 #include "forms/widget.h"
 
 namespace forms {
@@ -8,8 +8,8 @@ namespace forms {
 /// A push button with a caption or a picture.
 class Button : public Widget {
  public:
-  Button(Form& form, const std::u16string& caption, const WidgetBox& box);
-  Button(Form& form, const Picture& picture, const WidgetBox& box);
+  Button(WidgetHost& form, const std::u16string& caption, const WidgetBox& box);
+  Button(WidgetHost& form, const Picture& picture, const WidgetBox& box);
 
   /// Shows `picture`; the button's name for screen readers is its tool tip.
   void setPicture(const Picture& picture);

@@ -1,16 +1,15 @@
 #include "forms/button.h"
 
-#include "forms/form.h"
 #include "forms/geometry.h"
 
 namespace forms {
 
-Button::Button(Form& form, const std::u16string& caption, const WidgetBox& box)
+Button::Button(WidgetHost& form, const std::u16string& caption, const WidgetBox& box)
     : Widget(form, {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0}, box, caption) {
   onKeyDown[VK_RETURN] = [this] { send(BM_CLICK); };
 }
 
-Button::Button(Form& form, const Picture& picture, const WidgetBox& box)
+Button::Button(WidgetHost& form, const Picture& picture, const WidgetBox& box)
     : Widget(form, {L"BUTTON", BS_PUSHBUTTON | BS_ICON | WS_TABSTOP, 0}, box) {
   onKeyDown[VK_RETURN] = [this] { send(BM_CLICK); };
   setPicture(picture);

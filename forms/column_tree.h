@@ -9,7 +9,7 @@ namespace forms {
 /// the left and right keys scroll as well.
 class ColumnTree : public TreeView {
  public:
-  ColumnTree(Form& form, const WidgetBox& box);
+  ColumnTree(WidgetHost& form, const WidgetBox& box);
 
   void setText(std::size_t number, const std::u16string& text) override;
 

@@ -4,7 +4,6 @@
 #include <cstring>
 #include <vector>
 
-#include "forms/form.h"
 #include "text/characters.h"
 
 namespace forms {
@@ -64,7 +63,8 @@ RowColors colorsOf(bool selected, bool focused) {
 
 }  // namespace
 
-ColumnTree::ColumnTree(Form& form, const WidgetBox& box) : TreeView(form, box, TVS_NOTOOLTIPS) {
+ColumnTree::ColumnTree(WidgetHost& form, const WidgetBox& box)
+    : TreeView(form, box, TVS_NOTOOLTIPS) {
   onKeyDown[VK_LEFT] = [this] { send(WM_HSCROLL, SB_LINELEFT); };
   onKeyDown[VK_RIGHT] = [this] { send(WM_HSCROLL, SB_LINERIGHT); };
   makeFonts();

@@ -8,9 +8,10 @@
 
 namespace forms {
 
-/// Runs posted functions and timer ticks from the message loop, modal loops included, by way of a
-/// message-only window. User-interface thread only. The first instance() throws std::runtime_error
-/// if that window cannot be created.
+/// Runs posted functions and timer ticks from the message loop, by way of a message-only window:
+/// the modal loops of menus, message boxes and window moves dispatch its messages too.
+/// User-interface thread only. The first instance() throws std::runtime_error if that window cannot
+/// be created.
 class Dispatcher {
  public:
   static Dispatcher& instance();
@@ -18,13 +19,15 @@ class Dispatcher {
   Dispatcher(const Dispatcher&) = delete;
   Dispatcher& operator=(const Dispatcher&) = delete;
 
-  /// Runs `work` guarded, soon, ahead of pending input; in the order posted. false where the system
-  /// takes no more messages; the work then waits for the next one that it takes.
+  /// Runs `work` inside the exception barrier from the message loop, before pending input and in
+  /// the order posted. Returns false if the message queue is full; `work` then runs with the next
+  /// one that is posted.
   bool post(std::function<void()> work);
 
-  /// Calls `tick` every `milliseconds` (at least 10: the system's own floor) until stopped. The
-  /// returned number names the timer.
+  /// Calls `tick` inside the exception barrier every `milliseconds` (Windows takes less than 10,
+  /// USER_TIMER_MINIMUM, as 10) until the timer is stopped. Returns the number to stop it by.
   UINT_PTR startTimer(UINT milliseconds, std::function<void()> tick);
+  /// Stops a timer; a tick that is already in the queue is dropped. Ignores an unknown number.
   void stopTimer(UINT_PTR id);
 
  private:
@@ -39,11 +42,5 @@ class Dispatcher {
   std::unordered_map<UINT_PTR, std::function<void()>> timers_;
   UINT_PTR lastTimer_ = 0;
 };
-
-/// Handles every message that is in the queue, and returns.
-void doEvents();
-
-/// The message loop; ends with WM_QUIT and returns its code.
-int runMessageLoop();
 
 }  // namespace forms

@@ -1,8 +1,6 @@
 #include "forms/dispatcher.h"
 
 #include "forms/exception_barrier.h"
-#include "forms/form.h"
-#include "forms/loaded_forms.h"
 #include "win32/win32.h"
 
 namespace forms {
@@ -10,15 +8,6 @@ namespace {
 
 constexpr wchar_t kClassName[] = L"Lexilo.Dispatcher";
 constexpr UINT kRunPosted = WM_APP;
-
-void dispatch(MSG& message) {
-  Form* form = Form::of(GetAncestor(message.hwnd, GA_ROOT));
-  if (form == nullptr || !IsDialogMessageW(form->handle(), &message)) {
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-  }
-  LoadedForms::instance().purge();
-}
 
 }  // namespace
 
@@ -86,23 +75,6 @@ void Dispatcher::tick(UINT_PTR id) {
   if (found == timers_.end()) return;
   const auto handler = found->second;
   guard(handler);
-}
-
-void doEvents() {
-  MSG message;
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-    if (message.message == WM_QUIT) {
-      PostQuitMessage(static_cast<int>(message.wParam));
-      return;
-    }
-    dispatch(message);
-  }
-}
-
-int runMessageLoop() {
-  MSG message;
-  while (GetMessageW(&message, nullptr, 0, 0) > 0) dispatch(message);
-  return static_cast<int>(message.wParam);
 }
 
 }  // namespace forms

@@ -8,7 +8,7 @@ namespace forms {
 class DragHandle : public Widget {
  public:
   enum class Look { kGrip, kLine };
-  DragHandle(Form& form, Look look, const WidgetBox& box);
+  DragHandle(WidgetHost& form, Look look, const WidgetBox& box);
 
   /// Makes the mouse take hold up to `twips` (form's DPI) left and right of the widget too: a
   /// splitter's line is too thin to be hit.

@@ -1,6 +1,5 @@
 #include "forms/drag_handle.h"
 
-#include "forms/form.h"
 #include "forms/geometry.h"
 
 namespace forms {
@@ -27,7 +26,7 @@ void drawGrip(HDC dc, const RECT& client, COLORREF color, int dpi) {
 
 }  // namespace
 
-DragHandle::DragHandle(Form& form, Look look, const WidgetBox& box)
+DragHandle::DragHandle(WidgetHost& form, Look look, const WidgetBox& box)
     : Widget(form, {L"STATIC", SS_NOTIFY | WS_CLIPSIBLINGS, 0}, box), look_(look) {}
 
 LRESULT DragHandle::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

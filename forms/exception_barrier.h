@@ -8,7 +8,7 @@
 /// only.
 namespace forms {
 
-/// Returns the error's own description, cut and wrapped to fit a message box (see box_text.h).
+/// Returns the error's own description, cut and wrapped to fit a message box (see text_lines.h).
 std::u16string describe(const std::exception_ptr& error);
 
 /// Reports an error that a handler let out; may throw.

@@ -1,6 +1,6 @@
 #include "forms/exception_barrier.h"
 
-#include "forms/box_text.h"
+#include "forms/text_lines.h"
 #include "text/utf.h"
 #include "win32/win32.h"
 

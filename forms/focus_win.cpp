@@ -1,19 +1,20 @@
 #include "forms/focus.h"
 
-#include "forms/dispatcher.h"
-#include "forms/form.h"
-#include "forms/stacking.h"
-#include "forms/widget.h"
+#include <utility>
 
+#include "forms/dispatcher.h"
+#include "forms/exception_barrier.h"
+
+// The focus that the windows have heard of is compared with the one that Windows has, one event at
+// a time: a handler may move the focus, and what is due next depends on where it is then.
 namespace forms {
 namespace {
 
-/// Where the focus rests as far as the windows have been told.
 struct FocusState {
-  Form* form = nullptr;
-  Widget* widget = nullptr;
+  FocusLocation (*locate)() = nullptr;
+  FocusLocation heard;  // the last events said that it is here
   int holds = 0;
-  bool settling = false;
+  bool raising = false;
   bool posted = false;
 };
 
@@ -22,27 +23,26 @@ FocusState& focusState() {
   return instance;
 }
 
-/// Brings the account one event nearer to what is; false when they agree.
-bool settleOneStep(FocusState& known) {
-  Form* form = Form::of(GetActiveWindow());
-  Widget* widget = form == nullptr ? nullptr : form->widgetOf(GetFocus());
-
-  if (known.widget != nullptr && known.widget != widget) {
-    std::exchange(known.widget, nullptr)->onLostFocus.raise();
+/// Raises the next event that is due. Returns false if there is none.
+bool raiseNextEvent(FocusState& state) {
+  const FocusLocation now = state.locate();
+  FocusLocation& heard = state.heard;
+  if (heard.widget != nullptr && heard.widget != now.widget) {
+    std::exchange(heard.widget, nullptr)->raiseLostFocus();
     return true;
   }
-  if (known.form != nullptr && known.form != form) {
-    std::exchange(known.form, nullptr)->raiseLostFocus();
+  if (heard.form != nullptr && heard.form != now.form) {
+    std::exchange(heard.form, nullptr)->raiseLostFocus();
     return true;
   }
-  if (form != known.form) {
-    known.form = form;
-    form->raiseActivate();
+  if (now.form != heard.form) {
+    heard.form = now.form;
+    now.form->raiseGotFocus();
     return true;
   }
-  if (widget != known.widget) {
-    known.widget = widget;
-    widget->onGotFocus.raise();
+  if (now.widget != heard.widget) {
+    heard.widget = now.widget;
+    now.widget->raiseGotFocus();
     return true;
   }
   return false;
@@ -50,34 +50,35 @@ bool settleOneStep(FocusState& known) {
 
 }  // namespace
 
+FocusTarget::~FocusTarget() { forgetFocus(*this); }
+
+void setFocusLocator(FocusLocation (*locator)()) { focusState().locate = locator; }
+
 void postFocusCheck() {
-  FocusState& known = focusState();
-  if (known.posted) return;
-  known.posted = Dispatcher::instance().post([] {
+  FocusState& state = focusState();
+  if (state.posted) return;
+  state.posted = Dispatcher::instance().post([] {
     focusState().posted = false;
     raisePendingFocusEvents();
   });
 }
 
 void raisePendingFocusEvents() {
-  FocusState& known = focusState();
-  if (known.holds > 0 || known.settling) return;
-  known.settling = true;
-  // A handler may move the focus again; two that chase it between them must not hang the program.
+  FocusState& state = focusState();
+  if (state.holds > 0 || state.raising || state.locate == nullptr) return;
+  state.raising = true;
+  // Two handlers that each take the focus back must not hang the program. One move of the focus is
+  // four events at most.
   constexpr int kMaxEvents = 64;
-  for (int events = 0; events < kMaxEvents && known.holds == 0 && settleOneStep(known); ++events) {
+  for (int events = 0; events < kMaxEvents && state.holds == 0 && raiseNextEvent(state); ++events) {
   }
-  known.settling = false;
+  state.raising = false;
 }
 
-void forgetFocus(const Form& form) {
-  FocusState& known = focusState();
-  if (known.form == &form) known.form = nullptr;
-}
-
-void forgetFocus(const Widget& widget) {
-  FocusState& known = focusState();
-  if (known.widget == &widget) known.widget = nullptr;
+void forgetFocus(const FocusTarget& target) {
+  FocusLocation& heard = focusState().heard;
+  if (heard.form == &target) heard.form = nullptr;
+  if (heard.widget == &target) heard.widget = nullptr;
 }
 
 bool isFocusHeld() { return focusState().holds > 0; }
@@ -86,10 +87,7 @@ ScopedFocusHold::ScopedFocusHold() { ++focusState().holds; }
 
 ScopedFocusHold::~ScopedFocusHold() {
   --focusState().holds;
-  guard([] {
-    postFocusCheck();
-    postStackingCheck();
-  });
+  guard([] { postFocusCheck(); });
 }
 
 }  // namespace forms

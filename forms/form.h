@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "forms/event.h"
 #include "forms/placement.h"
@@ -40,46 +39,38 @@ struct FormDesign {
 };
 
 /// A top-level window. A form exists once: forms::form<F>() loads it on the first reference,
-/// unload() ends it, and the next reference loads it anew. Twips are those of the form's DPI (1440
-/// to an inch, 15 to a pixel at 96 DPI). User-interface thread only. Handlers run inside the
-/// exception barrier: what they throw is reported and never leaves a function of this class.
-class Form {
+/// unload() ends it, and the next reference loads it anew. Events of opening, in this order: Load,
+/// Resize, Activate, GotFocus of a widget. Twips are those of the form's DPI (1440 to an inch, 15
+/// to a pixel at 96 DPI). User-interface thread only. Handlers run inside the exception barrier:
+/// what they throw is reported and never leaves a function of this class.
+class Form : public WidgetHost {
  public:
   /// Creates the window, hidden. Throws std::runtime_error if Windows cannot create it.
   explicit Form(const FormDesign& design);
-  virtual ~Form();
-  Form(const Form&) = delete;
-  Form& operator=(const Form&) = delete;
+  ~Form() override;
 
-  /// The form behind a top-level window; nullptr for windows that are none of ours.
+  /// Returns the form whose window is `window`; nullptr for any other window.
   static Form* of(HWND window);
-
-  [[nodiscard]] HWND handle() const { return handle_; }
-  /// The DPI of the monitor that the form is on.
-  [[nodiscard]] int dpi() const { return dpi_; }
-  [[nodiscard]] Rank rank() const;
-
-  /// Whether an ordinary form was made topmost while it is active (see updateStacking).
-  [[nodiscard]] bool isRaisedForNow() const { return raisedForNow_; }
-  void setRaisedForNow(bool raised) { raisedForNow_ = raised; }
-  /// Whether a message box or a menu is open, above which no form is raised.
-  static bool isRaisingHeld();
 
   /// Runs Form_Load. An error that it lets out is shown; the form stays as far as it got.
   void load();
-  /// Shows the form and gives it the focus; one that is open comes to the front, restored.
+  /// Shows the form and gives it the focus; one that is open comes to the front, restored. With
+  /// `owner` it stays above that form and is unloaded with it.
   void show(Form* owner = nullptr);
   /// Hides the form; it stays loaded and raises no event.
   void hide();
-  /// Unloads the forms it owns, then runs Form_Unload, then ends the window.
+  /// Unloads the forms it owns, then runs Form_Unload, then destroys the window. Does nothing if it
+  /// is unloading already.
   void unload();
   [[nodiscard]] bool isUnloading() const { return unloading_; }
+  /// Last event of unload(), after the window was destroyed; for the owner of the object.
+  Event<> onUnloaded;
 
-  /// Outer size in twips: the client size plus 120 x 405 for a form with a caption, whatever the
-  /// real frame takes. While minimised, the size before.
+  /// Outer size in twips: the client size plus kFrameWidth x kFrameHeight for a form with a
+  /// caption, whatever the real frame takes. While minimised, the size before.
   [[nodiscard]] int width() const { return width_; }
   [[nodiscard]] int height() const { return height_; }
-  /// Sets the outer size in twips; each is limited to 0..32,767. Raises Form_Resize.
+  /// Sets the outer size in twips; each is limited to 0..kMaxSize. Raises Form_Resize.
   void setSize(int width, int height);
   /// The top left corner on the virtual screen: screen pixels converted to twips at the form's DPI.
   [[nodiscard]] int left() const;
@@ -94,42 +85,21 @@ class Form {
   /// The same in the middle of its monitor; where topmost forms of ours lie there, beside them as
   /// far as there is room.
   void centre();
-  [[nodiscard]] bool isMinimised() const { return IsIconic(handle_) != FALSE; }
+  [[nodiscard]] bool isMinimised() const { return IsIconic(handle()) != FALSE; }
 
-  /// The pointer's shape over the whole form; nullptr is each widget's own.
+  /// Sets the pointer's shape over the whole form, an IDC_ constant; nullptr is each widget's own.
   void setMousePointer(const wchar_t* systemCursor);
 
-  /// The colour that the form's own drawings take.
-  void setForeColor(COLORREF color) { foreColor_ = color; }
-  [[nodiscard]] COLORREF foreColor() const { return foreColor_; }
-
-  /// Puts the form above all other windows but those of ours that are to stay above it; moves,
-  /// sizes and activates nothing.
+  /// Raises the form above all windows but those of ours that are to stay above it; moves, sizes
+  /// and activates nothing (see forms::bringToTop).
   void bringToTop();
 
-  /// Returns the visible widget under a point in screen pixels, or nullptr; `except` is ignored.
-  [[nodiscard]] Widget* widgetAt(POINT screen, const Widget* except = nullptr) const;
+  /// Run Form_Activate, Form_LostFocus and, once it was loaded, Form_Paint.
+  void raiseGotFocus() noexcept override;
+  void raiseLostFocus() noexcept override;
+  void raisePaint() noexcept override;
 
-  /// Returns the widget of this form that `control` belongs to; nullptr for any other window.
-  [[nodiscard]] Widget* widgetOf(HWND control) const;
-
-  /// Returns the widget that takes the mouse at a point beside it (screen pixels), or nullptr.
-  [[nodiscard]] Widget* grabberAt(POINT screen) const;
-
-  /// For the constructor and destructor of Widget; the form does not own its widgets.
-  void addWidget(Widget& widget);
-  void removeWidget(Widget& widget);
-  /// For Widget::setToolTip; "" removes the tool tip.
-  void setToolTip(Widget& widget, const std::u16string& text);
-  /// Hides the tool tip that is shown.
-  void hideToolTip() const;
-
-  /// For raisePendingFocusEvents: run Form_Activate and Form_LostFocus inside the barrier.
-  void raiseActivate() noexcept;
-  void raiseLostFocus() noexcept;
-  /// Part of the form was painted; its own pictures count as the form.
-  void raisePaint() noexcept;
-
+  /// The mouse moved over the form itself.
   Event<TwipPoint> onMouseMove;
   /// Enter and Esc, where the widget with the focus has no use for them itself.
   Event<> onEnter;
@@ -147,35 +117,26 @@ class Form {
 
  private:
   static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static FocusLocation locateFocus();
   void createWindow();
   void showIcons();
-  void createToolTip();
   void takeClientSize();
   void resized();
   void paint();
   void giveFocusBack();
   void rescale(int dpi, const RECT& suggested);
   void command(WORD code, HWND control, WORD id) const;
-  bool passToGrabber(UINT message, WPARAM wParam, LPARAM lParam);
+  bool passToGrabber(UINT message, WPARAM wParam, LPARAM lParam) const;
   void limitTracking(MINMAXINFO& limits) const;
-  void adjustPlacement(WINDOWPOS& position) const;
   void setPlace(const PixelBox& place);
+  /// Converts an outer size in twips to the real window's outer size in pixels.
   [[nodiscard]] SIZE outerPixels(int width, int height, int dpi) const;
-  [[nodiscard]] SIZE outerPixels(int width, int height) const {
-    return outerPixels(width, height, dpi_);
-  }
-  [[nodiscard]] int frameWidth() const;
-  [[nodiscard]] int frameHeight() const;
 
   FormDesign design_;
-  HWND handle_ = nullptr;
-  HWND toolTip_ = nullptr;
-  HWND lastFocus_ = nullptr;
+  HWND lastFocus_ = nullptr;  // the control that had the focus when the form was deactivated
   win32::OwnedIcon bigIcon_;
   win32::OwnedIcon smallIcon_;
   HCURSOR mousePointer_ = nullptr;
-  COLORREF foreColor_ = 0;
-  int dpi_ = 96;
   int width_ = 0;
   int height_ = 0;
   SIZE sizeSet_{};           // what setSize was last given, twips
@@ -183,8 +144,6 @@ class Form {
   bool loaded_ = false;
   bool shown_ = false;
   bool unloading_ = false;
-  bool raisedForNow_ = false;
-  std::vector<Widget*> widgets_;
 };
 
 }  // namespace forms

@@ -1,9 +1,6 @@
-#include <algorithm>
-
 #include "forms/focus.h"
 #include "forms/form.h"
 #include "forms/geometry.h"
-#include "forms/loaded_forms.h"
 #include "forms/stacking.h"
 #include "win32/monitor.h"
 
@@ -36,7 +33,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       } else if (shown_) {
         resized();
       }
-      if (wParam == SIZE_MAXIMIZED) barsMayBeCovered(*this);
+      if (wParam == SIZE_MAXIMIZED) barsMayBeCovered(handle_);
       return 0;
     case WM_PAINT:
       paint();
@@ -46,7 +43,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         if (HWND focus = GetFocus(); IsChild(handle_, focus)) lastFocus_ = focus;
       } else if (HIWORD(wParam) == 0) {
         giveFocusBack();
-        barsMayBeCovered(*this);
+        barsMayBeCovered(handle_);
       }
       postFocusCheck();
       postStackingCheck();
@@ -62,11 +59,11 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (design_.neverActive) return MA_NOACTIVATE;
       break;
     case WM_WINDOWPOSCHANGING:
-      adjustPlacement(*reinterpret_cast<WINDOWPOS*>(lParam));
+      adjustPlacement(handle_, *reinterpret_cast<WINDOWPOS*>(lParam));
       break;
     case WM_WINDOWPOSCHANGED:
       if (design_.floating && (reinterpret_cast<WINDOWPOS*>(lParam)->flags & SWP_NOZORDER) == 0) {
-        raiseWhatIsAbove(*this);
+        raiseWhatIsAbove(handle_);
       }
       // Not for capture's windows, which come and go ten times a second.
       if (!design_.neverActive) postStackingCheck();
@@ -82,7 +79,8 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       *reinterpret_cast<SIZE*>(lParam) = outerPixels(width_, height_, static_cast<int>(wParam));
       return TRUE;
     case WM_SYSCOLORCHANGE:
-      for (const Widget* widget : widgets_) SendMessageW(widget->handle(), message, wParam, lParam);
+      for (const Widget* widget : widgets())
+        SendMessageW(widget->handle(), message, wParam, lParam);
       return 0;
     case WM_SETCURSOR:
       if (mousePointer_ != nullptr && LOWORD(lParam) == HTCLIENT) {
@@ -94,7 +92,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:
-      barsMayBeCovered(*this);
+      barsMayBeCovered(handle_);
       passToGrabber(message, wParam, lParam);
       return 0;
     case WM_MOUSEMOVE:
@@ -135,7 +133,7 @@ void Form::command(WORD code, HWND control, WORD id) const {
   if (id == IDCANCEL) onEscape.raise();
 }
 
-bool Form::passToGrabber(UINT message, WPARAM wParam, LPARAM lParam) {
+bool Form::passToGrabber(UINT message, WPARAM wParam, LPARAM lParam) const {
   POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
   ClientToScreen(handle_, &point);
   Widget* grabber = grabberAt(point);
@@ -163,25 +161,6 @@ void Form::resized() {
   guard([this] { Form_Resize(); });
 }
 
-void Form::takeClientSize() {
-  RECT client{};
-  GetClientRect(handle_, &client);
-  // A size that was set in twips stays as it was set where it gave just these pixels, and is that
-  // again when the window comes back to them: maximising and restoring changes no size.
-  const auto take = [&](int pixels, int frame, LONG set, int& twips) {
-    const auto gives = [&](int size) {
-      return toPixels(std::max(size - frame, 0), dpi_) == pixels;
-    };
-    if (gives(set)) {
-      twips = set;
-    } else if (!gives(twips)) {
-      twips = std::min(toTwips(pixels, dpi_) + frame, kMaxSize);
-    }
-  };
-  take(client.right, frameWidth(), sizeSet_.cx, width_);
-  take(client.bottom, frameHeight(), sizeSet_.cy, height_);
-}
-
 void Form::giveFocusBack() {
   if (isMinimised()) return;
   const bool usable = IsChild(handle_, lastFocus_) != FALSE &&
@@ -190,39 +169,14 @@ void Form::giveFocusBack() {
   if (target != nullptr) SetFocus(target);
 }
 
-void Form::adjustPlacement(WINDOWPOS& position) const {
-  const bool reordered = (position.flags & SWP_NOZORDER) == 0;
-  const bool raisedAboveAll = reordered && position.hwndInsertAfter == HWND_TOPMOST;
-  if (design_.neverActive || (design_.topmost && raisedAboveAll)) position.flags |= SWP_NOACTIVATE;
-  if (design_.neverActive || !design_.topmost) return;
-  // The system itself uses HWND_TOP when the user activates the window.
-  if (!raisedAboveAll && !(reordered && position.hwndInsertAfter == HWND_TOP)) return;
-  if (const auto after = insertAfter(*this)) {
-    position.hwndInsertAfter = *after;
-  } else {
-    position.flags |= SWP_NOZORDER;
-  }
-}
-
-void Form::limitTracking(MINMAXINFO& limits) const {
-  if (design_.frame != Frame::kSizable) return;
-  const SIZE largest = outerPixels(kMaxSize, kMaxSize);
-  limits.ptMaxTrackSize = {largest.cx, largest.cy};
-  limits.ptMaxSize = {std::min(limits.ptMaxSize.x, largest.cx),
-                      std::min(limits.ptMaxSize.y, largest.cy)};
-  if (design_.leastWidth == 0) return;
-  const SIZE least = outerPixels(design_.leastWidth, design_.leastHeight);
-  limits.ptMinTrackSize = {least.cx, least.cy};
-}
-
 void Form::rescale(int dpi, const RECT& suggested) {
   dpi_ = dpi;
   resizedFor_ = {-1, -1};
   showIcons();
-  for (Widget* widget : widgets_) widget->rescale();
+  for (Widget* widget : widgets()) widget->rescale();
   const SIZE outer = IsZoomed(handle_) != FALSE
                          ? SIZE{suggested.right - suggested.left, suggested.bottom - suggested.top}
-                         : outerPixels(width_, height_);
+                         : outerPixels(width_, height_, dpi_);
   SetWindowPos(handle_, nullptr, suggested.left, suggested.top, outer.cx, outer.cy,
                SWP_NOZORDER | SWP_NOACTIVATE);
 }

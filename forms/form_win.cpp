@@ -1,10 +1,11 @@
 #include "forms/form.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "forms/focus.h"
 #include "forms/geometry.h"
-#include "forms/loaded_forms.h"
 #include "forms/stacking.h"
 #include "win32/monitor.h"
 #include "win32/win32.h"
@@ -36,15 +37,39 @@ DWORD exStyleOf(const FormDesign& design) {
   return style;
 }
 
-PixelBox toBox(const RECT& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
-
-/// Whether this thread shows a menu, its own or a control's.
-bool isMenuOpen() {
-  GUITHREADINFO info{};
-  info.cbSize = sizeof info;
-  GetGUIThreadInfo(GetCurrentThreadId(), &info);
-  return (info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0;
+Rank rankOf(const FormDesign& design) {
+  if (design.neverActive) return Rank::kNotice;
+  if (!design.topmost) return Rank::kWindow;
+  return design.floating ? Rank::kFloating : Rank::kBar;
 }
+
+/// What the layouts take a form's frame for, in twips.
+SIZE designFrameOf(const FormDesign& design) {
+  if (design.frame == Frame::kBorderless) return {};
+  return {kFrameWidth, kFrameHeight};
+}
+
+/// Returns the forms whose owner window is `owner`.
+std::vector<Form*> formsOwnedBy(HWND owner) {
+  struct Search {
+    HWND owner;
+    std::vector<Form*> found;
+  } search{owner, {}};
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM context) {
+        auto& wanted = *reinterpret_cast<Search*>(context);
+        Form* form = Form::of(window);
+        if (form != nullptr && GetWindow(window, GW_OWNER) == wanted.owner) {
+          wanted.found.push_back(form);
+        }
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+PixelBox toBox(const RECT& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 
 win32::OwnedIcon loadIcon(int resource, int systemMetric, int dpi) {
   const int size = GetSystemMetricsForDpi(systemMetric, static_cast<UINT>(dpi));
@@ -55,13 +80,15 @@ win32::OwnedIcon loadIcon(int resource, int systemMetric, int dpi) {
 }  // namespace
 
 Form::Form(const FormDesign& design) : design_(design) {
+  setFocusLocator(&locateFocus);
   createWindow();
   setSize(design_.width, design_.height);
 }
 
 Form::~Form() {
-  forgetFocus(*this);
-  if (handle_ != nullptr) DestroyWindow(std::exchange(handle_, nullptr));
+  if (handle_ == nullptr) return;
+  removeFromStack(handle_);
+  DestroyWindow(std::exchange(handle_, nullptr));
 }
 
 void Form::createWindow() {
@@ -82,6 +109,7 @@ void Form::createWindow() {
     win32::throwLastError();
   }
   dpi_ = static_cast<int>(GetDpiForWindow(handle_));
+  addToStack(handle_, rankOf(design_));
   showIcons();
 }
 
@@ -93,25 +121,12 @@ void Form::showIcons() {
   SendMessageW(handle_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(smallIcon_.get()));
 }
 
-void Form::createToolTip() {
-  toolTip_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
-                             WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
-                             CW_USEDEFAULT, CW_USEDEFAULT, handle_, nullptr,
-                             GetModuleHandleW(nullptr), nullptr);
-}
-
 Form* Form::of(HWND window) {
   if (window == nullptr || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId() ||
       GetClassLongPtrW(window, GCLP_WNDPROC) != reinterpret_cast<ULONG_PTR>(&windowProc)) {
     return nullptr;
   }
   return reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-}
-
-Rank Form::rank() const {
-  if (design_.neverActive) return Rank::kNotice;
-  if (!design_.topmost) return Rank::kWindow;
-  return design_.floating ? Rank::kFloating : Rank::kBar;
 }
 
 void Form::load() {
@@ -142,30 +157,47 @@ void Form::hide() { ShowWindow(handle_, SW_HIDE); }
 
 void Form::unload() {
   if (unloading_) return;
-  for (Form* owned : LoadedForms::instance().ownedBy(*this)) owned->unload();
+  for (Form* owned : formsOwnedBy(handle_)) owned->unload();
   unloading_ = true;
   guard([this] { Form_Unload(); });
-  for (const Widget* widget : widgets_) forgetFocus(*widget);
+  for (const Widget* widget : widgets()) forgetFocus(*widget);
   forgetFocus(*this);
+  removeFromStack(handle_);
   DestroyWindow(handle_);
-  LoadedForms::instance().retire(*this);
+  onUnloaded.raise();
 }
 
-int Form::frameWidth() const { return design_.frame == Frame::kBorderless ? 0 : kFrameWidth; }
-
-int Form::frameHeight() const { return design_.frame == Frame::kBorderless ? 0 : kFrameHeight; }
-
 SIZE Form::outerPixels(int width, int height, int dpi) const {
-  const SIZE frame = win32::frameOf(styleOf(design_), exStyleOf(design_), dpi);
-  return {toPixels(std::max(width - frameWidth(), 0), dpi) + frame.cx,
-          toPixels(std::max(height - frameHeight(), 0), dpi) + frame.cy};
+  const SIZE inDesign = designFrameOf(design_);
+  const SIZE real = win32::frameOf(styleOf(design_), exStyleOf(design_), dpi);
+  return {clientPixels(width, inDesign.cx, dpi) + real.cx,
+          clientPixels(height, inDesign.cy, dpi) + real.cy};
+}
+
+void Form::takeClientSize() {
+  const SIZE frame = designFrameOf(design_);
+  RECT client{};
+  GetClientRect(handle_, &client);
+  width_ = outerTwips(client.right, frame.cx, dpi_, sizeSet_.cx, width_);
+  height_ = outerTwips(client.bottom, frame.cy, dpi_, sizeSet_.cy, height_);
+}
+
+void Form::limitTracking(MINMAXINFO& limits) const {
+  if (design_.frame != Frame::kSizable) return;
+  const SIZE largest = outerPixels(kMaxSize, kMaxSize, dpi_);
+  limits.ptMaxTrackSize = {largest.cx, largest.cy};
+  limits.ptMaxSize = {std::min(limits.ptMaxSize.x, largest.cx),
+                      std::min(limits.ptMaxSize.y, largest.cy)};
+  if (design_.leastWidth == 0) return;
+  const SIZE least = outerPixels(design_.leastWidth, design_.leastHeight, dpi_);
+  limits.ptMinTrackSize = {least.cx, least.cy};
 }
 
 void Form::setSize(int width, int height) {
   width_ = std::clamp(width, 0, kMaxSize);
   height_ = std::clamp(height, 0, kMaxSize);
   sizeSet_ = {width_, height_};
-  const SIZE outer = outerPixels(width_, height_);
+  const SIZE outer = outerPixels(width_, height_, dpi_);
   SetWindowPos(handle_, nullptr, 0, 0, outer.cx, outer.cy,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -218,8 +250,8 @@ void Form::centre() {
 void Form::setMousePointer(const wchar_t* systemCursor) {
   HCURSOR pointer = systemCursor == nullptr ? nullptr : LoadCursorW(nullptr, systemCursor);
   if (std::exchange(mousePointer_, pointer) == pointer) return;
-  // The system asks for a shape before it tells of a move: without this the old one would stay
-  // until the next move.
+  // Windows asks for a shape when the pointer moves: without this the old one would stay until
+  // then.
   POINT place{};
   GetCursorPos(&place);
   HWND under = WindowFromPoint(place);
@@ -229,59 +261,14 @@ void Form::setMousePointer(const wchar_t* systemCursor) {
                MAKELPARAM(part, WM_MOUSEMOVE));
 }
 
-bool Form::isRaisingHeld() { return isFocusHeld() || isMenuOpen(); }
+void Form::bringToTop() { forms::bringToTop(handle_); }
 
-void Form::bringToTop() {
-  if (isRaisingHeld()) return;
-  SetWindowPos(handle_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+FocusLocation Form::locateFocus() {
+  Form* form = of(GetActiveWindow());
+  return {form, form == nullptr ? nullptr : form->widgetOf(GetFocus())};
 }
 
-Widget* Form::widgetAt(POINT screen, const Widget* except) const {
-  for (Widget* widget : widgets_) {
-    RECT rect{};
-    GetWindowRect(widget->handle(), &rect);
-    if (widget != except && IsWindowVisible(widget->handle()) && PtInRect(&rect, screen)) {
-      return widget;
-    }
-  }
-  return nullptr;
-}
-
-Widget* Form::widgetOf(HWND control) const {
-  const auto found = std::find_if(widgets_.begin(), widgets_.end(), [=](const Widget* widget) {
-    return control != nullptr && widget->handle() == control;
-  });
-  return found == widgets_.end() ? nullptr : *found;
-}
-
-Widget* Form::grabberAt(POINT screen) const {
-  const auto found = std::find_if(widgets_.begin(), widgets_.end(),
-                                  [&](const Widget* widget) { return widget->grabs(screen); });
-  return found == widgets_.end() ? nullptr : *found;
-}
-
-void Form::addWidget(Widget& widget) { widgets_.push_back(&widget); }
-
-void Form::removeWidget(Widget& widget) { std::erase(widgets_, &widget); }
-
-void Form::setToolTip(Widget& widget, const std::u16string& text) {
-  // Not before one is needed.
-  if (toolTip_ == nullptr) createToolTip();
-  TOOLINFOW tool{};
-  tool.cbSize = sizeof tool;
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-  tool.hwnd = handle_;
-  tool.uId = reinterpret_cast<UINT_PTR>(widget.handle());
-  SendMessageW(toolTip_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-  tool.lpszText = const_cast<wchar_t*>(win32::wide(text));
-  if (!text.empty()) SendMessageW(toolTip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-}
-
-void Form::hideToolTip() const {
-  if (toolTip_ != nullptr) SendMessageW(toolTip_, TTM_POP, 0, 0);
-}
-
-void Form::raiseActivate() noexcept {
+void Form::raiseGotFocus() noexcept {
   guard([this] { Form_Activate(); });
 }
 

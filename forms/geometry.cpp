@@ -1,5 +1,6 @@
 #include "forms/geometry.h"
 
+#include <algorithm>
 #include <limits>
 #include <stdexcept>
 
@@ -17,6 +18,17 @@ int scale(int value, int numerator, int denominator) {
 int toPixels(int twips, int dpi) { return scale(twips, dpi, kTwipsPerInch); }
 
 int toTwips(int pixels, int dpi) { return scale(pixels, kTwipsPerInch, dpi); }
+
+int clientPixels(int outer, int frame, int dpi) {
+  return toPixels(std::max(outer - frame, 0), dpi);
+}
+
+int outerTwips(int pixels, int frame, int dpi, int set, int before) {
+  for (const int known : {set, before}) {
+    if (clientPixels(known, frame, dpi) == pixels) return known;
+  }
+  return std::min(toTwips(pixels, dpi) + frame, kMaxSize);
+}
 
 std::int16_t toInt16(std::int64_t value) {
   if (value < std::numeric_limits<std::int16_t>::min() ||

@@ -34,6 +34,16 @@ int toPixels(int twips, int dpi);
 /// Nearest twip at `dpi`, halves away from zero.
 int toTwips(int pixels, int dpi);
 
+/// Returns the client size in pixels at `dpi` that an outer size of `outer` twips has, less the
+/// `frame` twips that the layouts take the frame for; at least 0.
+int clientPixels(int outer, int frame, int dpi);
+
+/// Returns the outer size in twips of a form whose client area has `pixels` at `dpi`, at most
+/// kMaxSize. `set` and `before` are the outer sizes that were last set and last known: the first of
+/// them that has just these pixels is returned unchanged, so that maximising and restoring, which
+/// go through pixels, change no size.
+int outerTwips(int pixels, int frame, int dpi, int set, int before);
+
 /// `value` as a 16-bit signed number. Throws std::overflow_error with the message "Overflow"
 /// outside -32768..32767.
 std::int16_t toInt16(std::int64_t value);

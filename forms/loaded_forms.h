@@ -7,28 +7,27 @@
 
 #include "forms/form.h"
 
+/// The forms that are loaded, and the message loop that serves them. User-interface thread only.
 namespace forms {
 
-/// Owns the forms that are loaded, at most one of each class. User-interface thread only.
+/// Owns the forms that are loaded, at most one of each class.
 class LoadedForms {
  public:
   static LoadedForms& instance();
 
   /// Returns the loaded form of a class, otherwise nullptr.
   [[nodiscard]] Form* find(std::type_index type) const;
-  /// Takes ownership of a form; there must be none of that class.
+  /// Takes ownership of a form; there must be none of that class. Once its window is destroyed the
+  /// form is no longer found; the object lives until purge, since one of its handlers may be
+  /// running.
   Form& add(std::type_index type, std::unique_ptr<Form> form);
-  /// Removes a form whose window was destroyed (called by Form); the object lives until purge,
-  /// since one of its handlers may be running.
-  void retire(const Form& form);
-  /// Destroys the removed forms if no handler is running. Called by the message loop after each
-  /// message.
+  /// Destroys the forms whose windows were destroyed, if no handler is running. Called by the
+  /// message loop after each message.
   void purge();
-  /// Returns the loaded forms whose owner window is `owner`.
-  [[nodiscard]] std::vector<Form*> ownedBy(const Form& owner) const;
-  [[nodiscard]] std::vector<Form*> all() const;
 
  private:
+  void retire(std::type_index type);
+
   std::unordered_map<std::type_index, std::unique_ptr<Form>> forms_;
   std::vector<std::unique_ptr<Form>> retired_;
 };
@@ -49,5 +48,11 @@ template <class F>
 bool isLoaded() {
   return LoadedForms::instance().find(typeid(F)) != nullptr;
 }
+
+/// Handles every message that is in the queue, and returns. Leaves WM_QUIT to the message loop.
+void doEvents();
+
+/// Runs the message loop until WM_QUIT and returns its exit code.
+int runMessageLoop();
 
 }  // namespace forms

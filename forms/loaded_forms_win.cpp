@@ -3,6 +3,19 @@
 #include "forms/exception_barrier.h"
 
 namespace forms {
+namespace {
+
+/// IsDialogMessage gives forms the keys of dialogs: Tab, arrows, Enter and Esc.
+void dispatch(MSG& message) {
+  const Form* form = Form::of(GetAncestor(message.hwnd, GA_ROOT));
+  if (form == nullptr || !IsDialogMessageW(form->handle(), &message)) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  LoadedForms::instance().purge();
+}
+
+}  // namespace
 
 LoadedForms& LoadedForms::instance() {
   static LoadedForms forms;
@@ -15,34 +28,35 @@ Form* LoadedForms::find(std::type_index type) const {
 }
 
 Form& LoadedForms::add(std::type_index type, std::unique_ptr<Form> form) {
+  form->onUnloaded = [this, type] { retire(type); };
   return *forms_.emplace(type, std::move(form)).first->second;
 }
 
-void LoadedForms::retire(const Form& form) {
-  for (auto entry = forms_.begin(); entry != forms_.end(); ++entry) {
-    if (entry->second.get() != &form) continue;
-    retired_.push_back(std::move(entry->second));
-    forms_.erase(entry);
-    return;
-  }
+void LoadedForms::retire(std::type_index type) {
+  const auto found = forms_.find(type);
+  retired_.push_back(std::move(found->second));
+  forms_.erase(found);
 }
 
 void LoadedForms::purge() {
   if (ScopedHandler::depth() == 0) retired_.clear();
 }
 
-std::vector<Form*> LoadedForms::ownedBy(const Form& owner) const {
-  std::vector<Form*> owned;
-  for (const auto& [type, form] : forms_) {
-    if (GetWindow(form->handle(), GW_OWNER) == owner.handle()) owned.push_back(form.get());
+void doEvents() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    dispatch(message);
   }
-  return owned;
 }
 
-std::vector<Form*> LoadedForms::all() const {
-  std::vector<Form*> all;
-  for (const auto& [type, form] : forms_) all.push_back(form.get());
-  return all;
+int runMessageLoop() {
+  MSG message;
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) dispatch(message);
+  return static_cast<int>(message.wParam);
 }
 
 }  // namespace forms

@@ -4,6 +4,7 @@
 
 #include "forms/exception_barrier.h"
 #include "forms/focus.h"
+#include "forms/stacking.h"
 #include "win32/win32.h"
 
 namespace forms {
@@ -56,12 +57,16 @@ class ScopedOtherWindowsDisabled {
 }  // namespace
 
 void showMessage(const std::u16string& text, MessageIcon icon, const std::u16string& title) {
-  const HWND owner = GetActiveWindow();
-  const ScopedFocusHold focusHeld;
-  const ScopedOtherWindowsDisabled othersHeld(owner);
-  // Our windows are topmost: a box that is not would open below them.
-  MessageBoxW(owner, win32::wide(text), win32::wide(title),
-              MB_OK | MB_TOPMOST | MB_SETFOREGROUND | iconFlag(icon));
+  {
+    const HWND owner = GetActiveWindow();
+    const ScopedFocusHold focusHeld;
+    const ScopedOtherWindowsDisabled othersDisabled(owner);
+    // Our windows are topmost: a box that is not would open below them.
+    MessageBoxW(owner, win32::wide(text), win32::wide(title),
+                MB_OK | MB_TOPMOST | MB_SETFOREGROUND | iconFlag(icon));
+  }
+  // No window was raised above the box while it was open.
+  postStackingCheck();
 }
 
 void showErrorBox(const std::exception_ptr& error) {

@@ -14,7 +14,7 @@ class RichTextBox : public Widget {
                ///< stop
   };
 
-  RichTextBox(Form& form, const WidgetBox& box, Look look = Look::kPane);
+  RichTextBox(WidgetHost& form, const WidgetBox& box, Look look = Look::kPane);
 
   /// Replaces the text; all of it takes the default colour, nothing is selected.
   void setText(const std::u16string& text);

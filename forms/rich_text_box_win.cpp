@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "forms/clipboard.h"
-#include "forms/form.h"
 #include "forms/geometry.h"
 #include "forms/text_lines.h"
 #include "forms/widget.h"
@@ -44,7 +43,7 @@ wchar_t* givenText(UINT message, WPARAM wParam, LPARAM lParam) {
 
 }  // namespace
 
-RichTextBox::RichTextBox(Form& form, const WidgetBox& box, Look look)
+RichTextBox::RichTextBox(WidgetHost& form, const WidgetBox& box, Look look)
     : Widget(form, kindOf(look), box), look_(look) {
   send(EM_SETUNDOLIMIT, 0);
   if (look == Look::kToolTip) {

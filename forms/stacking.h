@@ -1,42 +1,52 @@
 #pragma once
 
-#include <optional>
 #include <vector>
 
 #include "forms/placement.h"
 #include "win32/win32.h"
 
-/// The order of our own windows where they meet those that stay on top. All on the user-interface
-/// thread.
+/// The Z order of our own top-level windows where they meet those that stay on top. Windows knows
+/// two levels, ordinary and topmost; our topmost windows have ranks among them (see Rank), which
+/// these functions restore whenever Windows, or another topmost program, puts a window above the
+/// others. Nothing here activates a window. User-interface thread only.
 namespace forms {
 
-class Form;
+/// Has a top-level window of this thread take part, with its rank. It must be removed before its
+/// handle becomes invalid. Top-level windows that were not added, such as message boxes and tool
+/// tips, rank as notices.
+void addToStack(HWND window, Rank rank);
+void removeFromStack(HWND window);
 
-/// The window behind which `form`, a topmost one, goes when it is brought to the top: the lowest of
-/// our topmost windows that are to stay above it. HWND_TOPMOST where there is none, or where it
-/// lies below a window of another program; nullopt where the form is in its place already.
-std::optional<HWND> insertAfter(const Form& form);
+/// Brings a window to the top: above all others but those of ours that rank higher. Moves, sizes
+/// and activates nothing. Does nothing while a message box or a menu is open, above which nothing
+/// is raised.
+void bringToTop(HWND window);
 
-/// Brings those of our topmost windows to the top that are to stay above `form` and no longer do:
-/// the system puts a window that it activates above all others.
-void raiseWhatIsAbove(const Form& form);
+/// Corrects the Z order and activation that a WM_WINDOWPOSCHANGING of an added window asks for: a
+/// window brought to the top stops below those that rank higher, and is not activated by that.
+void adjustPlacement(HWND window, WINDOWPOS& position);
 
-/// Tells that the activation, or the place or visibility of one of our windows, may have changed;
+/// Brings those topmost windows of ours to the top that rank higher than `window` and lie below it:
+/// Windows puts a window that it activates above all others.
+void raiseWhatIsAbove(HWND window);
+
+/// Call when the activation, or the place or visibility of one of our windows, may have changed:
 /// updateStacking follows from the message loop.
 void postStackingCheck();
 
-/// Tells that the user has activated, maximised or clicked a form. Under Wine the X11 window
-/// manager raises what the user clicks without telling Wine, in whose own Z order the bars are
-/// still above a floating form: there the bars that meet it are raised again in a moment.
-void barsMayBeCovered(const Form& form);
-
-/// Makes an ordinary form topmost while it, or a window that it owns, is active and a floating form
-/// lies where it would cover it. Takes it down again once that is over, behind the window of
-/// another program that is active by then.
+/// Makes an ordinary window topmost while it, or a window that it owns, is active and a floating
+/// window would cover it. Makes it ordinary again afterwards, below the window of another program
+/// that is active by then.
 void updateStacking();
 
-/// The places, in screen pixels, of our topmost forms of the ranks `lowest` to `highest` that can
-/// be seen: what lies there below them is covered.
+/// Call when the user has activated, maximised or clicked a window. Under Wine an X11 window
+/// manager raises what the user clicks without telling Wine, in whose own Z order the bars are
+/// still above a floating window: the bars that meet it are raised again after 100 ms. Does nothing
+/// on Windows.
+void barsMayBeCovered(HWND window);
+
+/// Returns the places, in screen pixels, of our visible topmost windows of the ranks `lowest` to
+/// `highest`: what lies there below them is covered.
 std::vector<PixelBox> placesKeptOnTop(Rank lowest, Rank highest);
 
 }  // namespace forms

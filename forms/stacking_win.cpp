@@ -7,11 +7,35 @@
 
 #include "forms/dispatcher.h"
 #include "forms/focus.h"
-#include "forms/form.h"
-#include "forms/loaded_forms.h"
 
+// The windows of this thread that were added are kept in a list; everything else is read from the
+// system when it is needed. Decisions are pure functions of placement.h. Corrections happen at
+// three moments: in WM_WINDOWPOSCHANGING (adjustPlacement), after a floating window has moved in
+// the Z order (raiseWhatIsAbove), and from the message loop after anything else (updateStacking).
 namespace forms {
 namespace {
+
+/// A window that takes part.
+struct StackedWindow {
+  HWND handle = nullptr;
+  Rank rank = Rank::kWindow;
+  bool raisedForNow = false;  ///< an ordinary window that is topmost while it is active
+};
+
+std::vector<StackedWindow>& stackedWindows() {
+  static std::vector<StackedWindow> windows;
+  return windows;
+}
+
+StackedWindow* find(HWND window) {
+  const auto found = std::ranges::find(stackedWindows(), window, &StackedWindow::handle);
+  return found == stackedWindows().end() ? nullptr : &*found;
+}
+
+Rank rankOf(HWND window) {
+  const StackedWindow* known = find(window);
+  return known == nullptr ? Rank::kNotice : known->rank;
+}
 
 constexpr UINT kOrderOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
 
@@ -25,9 +49,24 @@ bool isOurs(HWND window) {
   return GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();
 }
 
-bool isShown(const Form& form) {
-  return IsWindowVisible(form.handle()) != FALSE && !form.isMinimised();
+bool isShown(HWND window) { return IsWindowVisible(window) != FALSE && IsIconic(window) == FALSE; }
+
+PixelBox placeOf(HWND window) {
+  RECT rect{};
+  GetWindowRect(window, &rect);
+  return {rect.left, rect.top, rect.right, rect.bottom};
 }
+
+/// Whether this thread shows a menu, its own or a control's.
+bool isMenuOpen() {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  GetGUIThreadInfo(GetCurrentThreadId(), &info);
+  return (info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0;
+}
+
+/// Whether a message box or a menu is open, above which no window is raised.
+bool isRaisingHeld() { return isFocusHeld() || isMenuOpen(); }
 
 /// Whether a user can see a window where nothing covers it. The shell keeps some of its own windows
 /// "visible" without showing them (cloaked).
@@ -47,20 +86,15 @@ HWND rootOwner(HWND window) {
   return window;
 }
 
-Rank rankOf(HWND window) {
-  const Form* form = Form::of(window);
-  return form == nullptr ? Rank::kNotice : form->rank();
-}
-
-/// The topmost windows that concern a form, as raised() takes them.
+/// The topmost windows that concern one of ours, as raised() takes them.
 struct Stack {
   std::vector<HWND> windows;
   std::vector<std::optional<Rank>> ranks;
   std::optional<std::size_t> self;
 };
 
-/// Windows that `form` owns are left out: the system itself keeps them above it.
-Stack stackAround(const Form& form) {
+/// Windows that `self` owns are left out: the system itself keeps them above it.
+Stack stackAround(HWND self) {
   // GetWindow in a loop may go round in circles when windows are moved meanwhile.
   constexpr int kMaxSteps = 1'000;
   Stack stack;
@@ -69,10 +103,9 @@ Stack stackAround(const Form& form) {
     HWND next = GetWindow(window, GW_HWNDNEXT);
     if (canBeSeen(window)) {
       if (!isTopmost(window)) break;
-      const bool self = window == form.handle();
       const bool ours = isOurs(window);
-      if (self) stack.self = stack.windows.size();
-      if (!ours || self || rootOwner(window) != form.handle()) {
+      if (window == self) stack.self = stack.windows.size();
+      if (!ours || window == self || rootOwner(window) != self) {
         stack.windows.push_back(window);
         stack.ranks.push_back(ours ? std::optional(rankOf(window)) : std::nullopt);
       }
@@ -82,37 +115,40 @@ Stack stackAround(const Form& form) {
   return stack;
 }
 
-bool isCoveredByFloating(const Form& form) {
-  return std::ranges::any_of(placesKeptOnTop(Rank::kFloating, Rank::kFloating),
-                             [&](const PixelBox& place) { return meet(place, form.place()); });
+bool isCoveredByFloating(HWND window) {
+  return std::ranges::any_of(
+      placesKeptOnTop(Rank::kFloating, Rank::kFloating),
+      [place = placeOf(window)](const PixelBox& floating) { return meet(floating, place); });
 }
 
-/// Whether `form`, or a form that it owns, would be covered.
-bool wouldBeCovered(const Form& form) {
-  const std::vector<Form*> owned = LoadedForms::instance().ownedBy(form);
-  return isCoveredByFloating(form) || std::ranges::any_of(owned, [](const Form* dialog) {
-           return isShown(*dialog) && isCoveredByFloating(*dialog);
-         });
+/// Whether `window`, or a dialog that it owns, would be covered.
+bool wouldBeCovered(HWND window) {
+  return std::ranges::any_of(stackedWindows(), [window](const StackedWindow& other) {
+    const bool dialog = GetWindow(other.handle, GW_OWNER) == window && isShown(other.handle);
+    return (other.handle == window || dialog) && isCoveredByFloating(other.handle);
+  });
 }
 
-void raise(Form& form) {
-  form.setRaisedForNow(true);
-  putBehind(form.handle(), HWND_TOPMOST);
-  raiseWhatIsAbove(form);
+void raise(StackedWindow& window) {
+  window.raisedForNow = true;
+  HWND handle = window.handle;
+  putBehind(handle, HWND_TOPMOST);
+  raiseWhatIsAbove(handle);
 }
 
-/// The topmost windows of ours that `form` owns and that are no forms: its message box.
-std::vector<HWND> boxesOf(const Form& form) {
+/// Returns the visible topmost windows that `owner` owns and that were not added: its message box,
+/// its tool tip.
+std::vector<HWND> boxesOf(HWND owner) {
   struct Search {
     HWND owner;
     std::vector<HWND> found;
-  } search{form.handle(), {}};
+  } search{owner, {}};
   EnumThreadWindows(
       GetCurrentThreadId(),
       [](HWND window, LPARAM context) {
         auto& wanted = *reinterpret_cast<Search*>(context);
         if (window != wanted.owner && rootOwner(window) == wanted.owner &&
-            IsWindowVisible(window) != FALSE && isTopmost(window) && Form::of(window) == nullptr) {
+            IsWindowVisible(window) != FALSE && isTopmost(window) && find(window) == nullptr) {
           wanted.found.push_back(window);
         }
         return TRUE;
@@ -128,9 +164,9 @@ bool isDesktop(HWND window) {
   return window == GetShellWindow() || className == L"Progman" || className == L"WorkerW";
 }
 
-/// The window behind which `form` goes when another one, `front`, has taken its place. The desktop
-/// lies behind all others anyway, and a dialog is not parted from the window that it belongs to.
-HWND behindWhom(HWND front) {
+/// Returns the window below which one goes when another, `front`, has taken its place. The desktop
+/// lies below all others anyway, and a dialog is not parted from the window that it belongs to.
+HWND belowWhich(HWND front) {
   for (HWND owner = GetWindow(front, GW_OWNER); owner != nullptr && IsWindowVisible(owner) != FALSE;
        owner = GetWindow(front, GW_OWNER)) {
     front = owner;
@@ -138,32 +174,33 @@ HWND behindWhom(HWND front) {
   return isTopmost(front) || isDesktop(front) ? HWND_NOTOPMOST : front;
 }
 
-/// Settles once more in a moment, at most some fifty times in a row: the foreground may be nobody's
-/// for as long as the session is locked.
-void settleSoon(bool goOn) {
-  constexpr UINT kMoment = 20;  // ms
+/// Runs updateStacking once more in 20 ms, at most 50 times in a row: no window may be in the
+/// foreground for as long as the session is locked. `again` false ends the row.
+void updateSoon(bool again) {
+  constexpr UINT kInterval = 20;  // ms
   constexpr int kMaxTries = 50;
   static UINT_PTR timer = 0;
   static int tries = 0;
-  if (!goOn) tries = 0;
-  if (!goOn || timer != 0 || ++tries > kMaxTries) return;
-  timer = Dispatcher::instance().startTimer(kMoment, [] {
+  if (!again) tries = 0;
+  if (!again || timer != 0 || ++tries > kMaxTries) return;
+  timer = Dispatcher::instance().startTimer(kInterval, [] {
     Dispatcher::instance().stopTimer(std::exchange(timer, 0));
     updateStacking();
   });
 }
 
-void lower(Form& form, bool isActive) {
+void lower(StackedWindow& window, bool isActive) {
   HWND front = GetForegroundWindow();
-  const bool frontIsOurs = front != nullptr && rootOwner(front) == form.handle();
-  // Nobody has taken its place yet: behind whom it goes is not known.
+  const bool frontIsOurs = front != nullptr && rootOwner(front) == window.handle;
+  // No other window has taken its place yet, so it is not known below which one it goes.
   const bool unknown = !isActive && (front == nullptr || frontIsOurs);
-  settleSoon(unknown);
+  updateSoon(unknown);
   if (unknown) return;
-  form.setRaisedForNow(false);
-  // The system takes what it owns along; a message box has to stay where it can be seen.
-  const std::vector<HWND> boxes = boxesOf(form);
-  putBehind(form.handle(), frontIsOurs ? HWND_NOTOPMOST : behindWhom(front));
+  window.raisedForNow = false;
+  HWND handle = window.handle;
+  // SetWindowPos takes owned windows along; a message box has to stay where it can be seen.
+  const std::vector<HWND> boxes = boxesOf(handle);
+  putBehind(handle, frontIsOurs ? HWND_NOTOPMOST : belowWhich(front));
   for (HWND box : boxes) putBehind(box, HWND_TOPMOST);
 }
 
@@ -175,17 +212,27 @@ bool hasForeignWindowManager() {
   return wine;
 }
 
-void raiseBarsAbove(const Form& floating) {
-  for (Form* bar : LoadedForms::instance().all()) {
-    if (bar->rank() != Rank::kBar || !isShown(*bar) || !meet(bar->place(), floating.place()) ||
-        Form::isRaisingHeld()) {
+/// Hides the tool tip of `owner`, if it shows one.
+void hideToolTip(HWND owner) {
+  for (HWND box : boxesOf(owner)) {
+    wchar_t name[32] = L"";
+    GetClassNameW(box, name, static_cast<int>(std::size(name)));
+    if (std::wstring_view(name) == TOOLTIPS_CLASSW) SendMessageW(box, TTM_POP, 0, 0);
+  }
+}
+
+void raiseBarsAbove(HWND floating) {
+  // A copy: the messages that this sends may add and remove windows.
+  for (const auto& [bar, rank, raisedForNow] : std::vector(stackedWindows())) {
+    if (rank != Rank::kBar || !isShown(bar) || !meet(placeOf(bar), placeOf(floating)) ||
+        isRaisingHeld()) {
       continue;
     }
-    // Having been below, the bar goes to the top in fact, as long as no tool tip of its own keeps
-    // it from being the topmost.
-    bar->hideToolTip();
-    putBehind(bar->handle(), floating.handle());
-    bar->bringToTop();
+    // A bar that Wine takes for the topmost is not raised in the X11 order unless it was below
+    // before; a tool tip of its own above it would keep it from the top.
+    hideToolTip(bar);
+    putBehind(bar, floating);
+    bringToTop(bar);
   }
 }
 
@@ -194,11 +241,12 @@ bool& isPosted() {
   return posted;
 }
 
-}  // namespace
-
-std::optional<HWND> insertAfter(const Form& form) {
-  const Stack stack = stackAround(form);
-  const Raise raise = raised(stack.ranks, stack.self, form.rank());
+/// Returns the window below which `window`, a topmost one, goes when it is brought to the top: the
+/// lowest of our topmost windows that rank higher. HWND_TOPMOST if there is none, or if it lies
+/// below a window of another program; nullopt if `window` is in its place already.
+std::optional<HWND> insertAfter(HWND window) {
+  const Stack stack = stackAround(window);
+  const Raise raise = raised(stack.ranks, stack.self, rankOf(window));
   switch (raise.where) {
     case Raise::Where::kStays:
       return std::nullopt;
@@ -210,27 +258,58 @@ std::optional<HWND> insertAfter(const Form& form) {
   return HWND_TOPMOST;
 }
 
-void raiseWhatIsAbove(const Form& form) {
-  const Stack stack = stackAround(form);
+}  // namespace
+
+void addToStack(HWND window, Rank rank) { stackedWindows().push_back({window, rank}); }
+
+void removeFromStack(HWND window) {
+  std::erase_if(stackedWindows(), [=](const StackedWindow& one) { return one.handle == window; });
+}
+
+void bringToTop(HWND window) {
+  if (isRaisingHeld()) return;
+  // Without SWP_NOACTIVATE, which adjustPlacement adds.
+  SetWindowPos(window, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+}
+
+void adjustPlacement(HWND window, WINDOWPOS& position) {
+  const Rank rank = rankOf(window);
+  const bool staysOnTop = rank == Rank::kBar || rank == Rank::kFloating;
+  const bool reordered = (position.flags & SWP_NOZORDER) == 0;
+  const bool raisedAboveAll = reordered && position.hwndInsertAfter == HWND_TOPMOST;
+  if (rank == Rank::kNotice || (staysOnTop && raisedAboveAll)) position.flags |= SWP_NOACTIVATE;
+  if (!staysOnTop) return;
+  // The system itself uses HWND_TOP when the user activates the window.
+  if (!raisedAboveAll && !(reordered && position.hwndInsertAfter == HWND_TOP)) return;
+  if (const auto after = insertAfter(window)) {
+    position.hwndInsertAfter = *after;
+  } else {
+    position.flags |= SWP_NOZORDER;
+  }
+}
+
+void raiseWhatIsAbove(HWND window) {
+  const Rank own = rankOf(window);
+  const Stack stack = stackAround(window);
   std::vector<std::pair<Rank, HWND>> higher;
   bool below = false;
   for (std::size_t i = 0; i < stack.windows.size(); ++i) {
-    if (!stack.ranks[i] || *stack.ranks[i] <= form.rank()) continue;
+    if (!stack.ranks[i] || *stack.ranks[i] <= own) continue;
     higher.emplace_back(*stack.ranks[i], stack.windows[i]);
     below = below || (stack.self && i > *stack.self);
   }
   if (!below) return;
   std::ranges::stable_sort(higher, std::greater(), &std::pair<Rank, HWND>::first);
   HWND after = HWND_TOPMOST;
-  for (const auto& [rank, window] : higher) putBehind(window, std::exchange(after, window));
+  for (const auto& [rank, one] : higher) putBehind(one, std::exchange(after, one));
 }
 
 std::vector<PixelBox> placesKeptOnTop(Rank lowest, Rank highest) {
   std::vector<PixelBox> places;
-  for (const Form* form : LoadedForms::instance().all()) {
-    const Rank rank = form->rank();
-    if (isTopmost(form->handle()) && rank >= lowest && rank <= highest && isShown(*form)) {
-      places.push_back(form->place());
+  for (const StackedWindow& window : stackedWindows()) {
+    if (isTopmost(window.handle) && window.rank >= lowest && window.rank <= highest &&
+        isShown(window.handle)) {
+      places.push_back(placeOf(window.handle));
     }
   }
   return places;
@@ -244,33 +323,34 @@ void postStackingCheck() {
   });
 }
 
-void barsMayBeCovered(const Form& form) {
-  if (form.rank() != Rank::kFloating || !hasForeignWindowManager()) return;
-  // Once the window manager has had the time for it.
-  constexpr UINT kItsTime = 100;  // ms
+void barsMayBeCovered(HWND window) {
+  if (rankOf(window) != Rank::kFloating || !hasForeignWindowManager()) return;
+  // Long enough for the window manager to act on the click.
+  constexpr UINT kDelay = 100;  // ms
   static UINT_PTR timer = 0;
   if (timer != 0) Dispatcher::instance().stopTimer(timer);
-  timer = Dispatcher::instance().startTimer(kItsTime, [window = form.handle()] {
+  timer = Dispatcher::instance().startTimer(kDelay, [window] {
     Dispatcher::instance().stopTimer(std::exchange(timer, 0));
-    if (const Form* floating = Form::of(window); floating != nullptr && isShown(*floating)) {
-      raiseBarsAbove(*floating);
-    }
+    if (find(window) != nullptr && isShown(window)) raiseBarsAbove(window);
   });
 }
 
 void updateStacking() {
   HWND active = GetActiveWindow();
-  for (Form* form : LoadedForms::instance().all()) {
-    if (form->rank() == Rank::kFloating && isShown(*form)) raiseWhatIsAbove(*form);
-    if (form->rank() != Rank::kWindow || GetWindow(form->handle(), GW_OWNER) != nullptr) continue;
-    const bool isActive = active != nullptr && rootOwner(active) == form->handle();
-    const bool wanted = isActive && isShown(*form) && wouldBeCovered(*form);
-    if (wanted && form->isRaisedForNow()) {
-      raiseWhatIsAbove(*form);
+  // A copy, and looked up again: the messages that this sends may add and remove windows.
+  for (const auto [handle, rank, was] : std::vector(stackedWindows())) {
+    StackedWindow* window = find(handle);
+    if (window == nullptr) continue;
+    if (rank == Rank::kFloating && isShown(handle)) raiseWhatIsAbove(handle);
+    if (rank != Rank::kWindow || GetWindow(handle, GW_OWNER) != nullptr) continue;
+    const bool isActive = active != nullptr && rootOwner(active) == handle;
+    const bool wanted = isActive && isShown(handle) && wouldBeCovered(handle);
+    if (wanted && window->raisedForNow) {
+      raiseWhatIsAbove(handle);
     } else if (wanted) {
-      raise(*form);
-    } else if (form->isRaisedForNow()) {
-      lower(*form, isActive);
+      raise(*window);
+    } else if (window->raisedForNow) {
+      lower(*window, isActive);
     }
   }
 }

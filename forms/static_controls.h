@@ -9,7 +9,7 @@ namespace forms {
 class Label : public Widget {
  public:
   /// `box` in twips of the form's client area; throws like Widget.
-  Label(Form& form, const std::u16string& caption, const WidgetBox& box)
+  Label(WidgetHost& form, const std::u16string& caption, const WidgetBox& box)
       : Widget(form, {L"STATIC", SS_LEFT | kMouseEvents | SS_NOPREFIX, 0}, box, caption) {}
 
  private:
@@ -21,7 +21,8 @@ class Label : public Widget {
 class Separator : public Widget {
  public:
   /// `box` in twips of the form's client area; throws like Widget.
-  Separator(Form& form, const WidgetBox& box) : Widget(form, {L"STATIC", SS_ETCHEDHORZ, 0}, box) {}
+  Separator(WidgetHost& form, const WidgetBox& box)
+      : Widget(form, {L"STATIC", SS_ETCHEDHORZ, 0}, box) {}
 };
 
 }  // namespace forms

@@ -12,7 +12,7 @@ class TextBox : public Widget {
     kNote,  ///< wraps its text and cannot be typed into
   };
 
-  TextBox(Form& form, const WidgetBox& box, Look look = Look::kLine);
+  TextBox(WidgetHost& form, const WidgetBox& box, Look look = Look::kLine);
 
   [[nodiscard]] std::u16string text() const;
   /// Raises onChange like typing does.

@@ -11,7 +11,7 @@ DWORD styleOf(TextBox::Look look) {
 
 }  // namespace
 
-TextBox::TextBox(Form& form, const WidgetBox& box, Look look)
+TextBox::TextBox(WidgetHost& form, const WidgetBox& box, Look look)
     : Widget(form, {L"EDIT", styleOf(look) | WS_TABSTOP, WS_EX_CLIENTEDGE}, box), look_(look) {}
 
 std::u16string TextBox::text() const { return windowText(handle()); }

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "forms/picture.h"
+#include "forms/graphics.h"
 #include "forms/widget.h"
 #include "win32/handles.h"
 
@@ -13,7 +13,7 @@ namespace forms {
 /// std::out_of_range if there is no such node.
 class TreeView : public Widget {
  public:
-  TreeView(Form& form, const WidgetBox& box);
+  TreeView(WidgetHost& form, const WidgetBox& box);
 
   [[nodiscard]] std::size_t count() const { return nodes_.size(); }
   /// Adds a node at the end.
@@ -53,7 +53,7 @@ class TreeView : public Widget {
 
  protected:
   /// `scrolling` is the style that says in which directions the view scrolls.
-  TreeView(Form& form, const WidgetBox& box, DWORD scrolling);
+  TreeView(WidgetHost& form, const WidgetBox& box, DWORD scrolling);
 
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   [[nodiscard]] std::size_t numberOf(HTREEITEM item) const;

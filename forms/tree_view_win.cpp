@@ -2,14 +2,13 @@
 
 #include <algorithm>
 
-#include "forms/form.h"
 #include "forms/geometry.h"
 
 namespace forms {
 
-TreeView::TreeView(Form& form, const WidgetBox& box) : TreeView(form, box, TVS_NOHSCROLL) {}
+TreeView::TreeView(WidgetHost& form, const WidgetBox& box) : TreeView(form, box, TVS_NOHSCROLL) {}
 
-TreeView::TreeView(Form& form, const WidgetBox& box, DWORD scrolling)
+TreeView::TreeView(WidgetHost& form, const WidgetBox& box, DWORD scrolling)
     : Widget(form,
              {WC_TREEVIEWW,
               TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_FULLROWSELECT | WS_TABSTOP | scrolling,

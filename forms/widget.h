@@ -3,15 +3,17 @@
 #include <functional>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "forms/event.h"
-#include "forms/font.h"
+#include "forms/focus.h"
 #include "forms/geometry.h"
+#include "forms/graphics.h"
 #include "win32/win32.h"
 
 namespace forms {
 
-class Form;
+class Widget;
 
 /// A point in a widget or form, in twips at the form's DPI, from the top left corner of its client
 /// area.
@@ -27,20 +29,61 @@ struct ControlKind {
   DWORD exStyle = 0;
 };
 
+/// The part of a form that its widgets need: its window, its DPI, and the list of its widgets with
+/// their tool tips. Does not own the widgets. User-interface thread only.
+class WidgetHost : public FocusTarget {
+ public:
+  /// The form's window; nullptr after it was destroyed.
+  [[nodiscard]] HWND handle() const { return handle_; }
+  /// The DPI of the monitor that the form is on.
+  [[nodiscard]] int dpi() const { return dpi_; }
+
+  /// The colour that the form's own drawings take.
+  void setForeColor(COLORREF color) { foreColor_ = color; }
+  [[nodiscard]] COLORREF foreColor() const { return foreColor_; }
+  /// Call when part of the form was painted; a drawing of its own, such as a grip, counts as part
+  /// of the form.
+  virtual void raisePaint() noexcept = 0;
+
+  /// Returns the visible widget under a point in screen pixels, or nullptr; `except` is ignored.
+  [[nodiscard]] Widget* widgetAt(POINT screen, const Widget* except = nullptr) const;
+  /// Returns the widget whose control is `control`; nullptr for any other window.
+  [[nodiscard]] Widget* widgetOf(HWND control) const;
+  /// Returns the widget that takes the mouse at a point beside it (screen pixels), or nullptr.
+  [[nodiscard]] Widget* grabberAt(POINT screen) const;
+
+  /// For the constructor and destructor of Widget.
+  void addWidget(Widget& widget);
+  void removeWidget(Widget& widget);
+  /// For Widget::setToolTip; "" removes the tool tip.
+  void setToolTip(const Widget& widget, const std::u16string& text);
+
+ protected:
+  [[nodiscard]] const std::vector<Widget*>& widgets() const { return widgets_; }
+
+  HWND handle_ = nullptr;
+  int dpi_ = 96;
+
+ private:
+  void createToolTip();
+
+  COLORREF foreColor_ = 0;
+  std::vector<Widget*> widgets_;
+  HWND toolTip_ = nullptr;  // owned by the form's window, which destroys it
+};
+
 /// A system control on a form, usually a member of the form's class. Its geometry is in twips at
 /// the form's DPI, relative to the form's client area; 15 twips are a pixel at 96 DPI.
 /// User-interface thread only. A handler that throws is reported by the exception barrier.
-class Widget {
+class Widget : public FocusTarget {
  public:
   /// Creates the control, visible. Throws std::runtime_error if Windows cannot create it.
-  Widget(Form& form, const ControlKind& kind, const WidgetBox& box,
+  Widget(WidgetHost& form, const ControlKind& kind, const WidgetBox& box,
          const std::u16string& caption = {});
-  virtual ~Widget();
-  Widget(const Widget&) = delete;
-  Widget& operator=(const Widget&) = delete;
+  ~Widget() override;
 
   [[nodiscard]] HWND handle() const { return handle_; }
-  [[nodiscard]] Form& form() const { return form_; }
+  [[nodiscard]] WidgetHost& form() const { return form_; }
 
   [[nodiscard]] const WidgetBox& box() const { return box_; }
   [[nodiscard]] int left() const { return box_.left; }
@@ -83,6 +126,9 @@ class Widget {
   /// Returns whether the widget takes the mouse at a point beside it, in screen pixels.
   [[nodiscard]] virtual bool grabs(POINT /*screen*/) const { return false; }
 
+  void raiseGotFocus() noexcept override { onGotFocus.raise(); }
+  void raiseLostFocus() noexcept override { onLostFocus.raise(); }
+
  protected:
   virtual LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
@@ -99,7 +145,7 @@ class Widget {
   void dropCharacterOf(WPARAM key) const;
   void applyBox();
 
-  Form& form_;
+  WidgetHost& form_;
   HWND handle_ = nullptr;
   WNDPROC controlProc_ = nullptr;  // the control's own
   WidgetBox box_;
@@ -116,32 +162,13 @@ std::u16string windowText(HWND window);
 /// hidden meanwhile.
 class ScopedRepaintHold {
  public:
-  explicit ScopedRepaintHold(const Widget& widget)
-      : window_(widget.handle()), visible_(isVisible()) {
-    if (!visible_) return;
-    SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
-    // DefWindowProc takes WS_VISIBLE away and with it all drawing. A control that keeps a flag of
-    // its own instead (the tree view) would draw its scroll bars as soon as that flag is set again,
-    // and a second time with the frame.
-    keepsOwnFlag_ = isVisible();
-    if (keepsOwnFlag_) DefWindowProcW(window_, WM_SETREDRAW, FALSE, 0);
-  }
-  ~ScopedRepaintHold() {
-    if (!visible_) return;
-    SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
-    if (keepsOwnFlag_) DefWindowProcW(window_, WM_SETREDRAW, TRUE, 0);
-    // The frame as well: a scroll bar that came or went meanwhile stands there. These are the flags
-    // that WM_SETREDRAW's documentation asks for.
-    RedrawWindow(window_, nullptr, nullptr,
-                 RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
-  }
+  explicit ScopedRepaintHold(const Widget& widget);
+  ~ScopedRepaintHold();
   ScopedRepaintHold(const ScopedRepaintHold&) = delete;
   ScopedRepaintHold& operator=(const ScopedRepaintHold&) = delete;
 
  private:
-  [[nodiscard]] bool isVisible() const {
-    return (GetWindowLongPtrW(window_, GWL_STYLE) & WS_VISIBLE) != 0;
-  }
+  [[nodiscard]] bool isVisible() const;
 
   HWND window_;
   bool visible_;

@@ -1,14 +1,62 @@
 #include "forms/widget.h"
 
+#include <algorithm>
+
 #include "forms/focus.h"
-#include "forms/form.h"
 #include "forms/geometry.h"
 #include "forms/stacking.h"
 #include "win32/win32.h"
 
 namespace forms {
 
-Widget::Widget(Form& form, const ControlKind& kind, const WidgetBox& box,
+Widget* WidgetHost::widgetAt(POINT screen, const Widget* except) const {
+  const auto found = std::ranges::find_if(widgets_, [&](const Widget* widget) {
+    RECT rect{};
+    GetWindowRect(widget->handle(), &rect);
+    return widget != except && IsWindowVisible(widget->handle()) && PtInRect(&rect, screen);
+  });
+  return found == widgets_.end() ? nullptr : *found;
+}
+
+Widget* WidgetHost::widgetOf(HWND control) const {
+  const auto found = std::ranges::find_if(widgets_, [=](const Widget* widget) {
+    return control != nullptr && widget->handle() == control;
+  });
+  return found == widgets_.end() ? nullptr : *found;
+}
+
+Widget* WidgetHost::grabberAt(POINT screen) const {
+  const auto found =
+      std::ranges::find_if(widgets_, [&](const Widget* widget) { return widget->grabs(screen); });
+  return found == widgets_.end() ? nullptr : *found;
+}
+
+void WidgetHost::addWidget(Widget& widget) { widgets_.push_back(&widget); }
+
+void WidgetHost::removeWidget(Widget& widget) { std::erase(widgets_, &widget); }
+
+void WidgetHost::createToolTip() {
+  toolTip_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
+                             WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
+                             CW_USEDEFAULT, CW_USEDEFAULT, handle_, nullptr,
+                             GetModuleHandleW(nullptr), nullptr);
+}
+
+void WidgetHost::setToolTip(const Widget& widget, const std::u16string& text) {
+  // Not before one is needed: under Wine 8 SetWindowPos(HWND_TOPMOST) fails on a window that owns a
+  // tool tip window.
+  if (toolTip_ == nullptr) createToolTip();
+  TOOLINFOW tool{};
+  tool.cbSize = sizeof tool;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = handle_;
+  tool.uId = reinterpret_cast<UINT_PTR>(widget.handle());
+  SendMessageW(toolTip_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  tool.lpszText = const_cast<wchar_t*>(win32::wide(text));
+  if (!text.empty()) SendMessageW(toolTip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+Widget::Widget(WidgetHost& form, const ControlKind& kind, const WidgetBox& box,
                const std::u16string& caption)
     : form_(form), box_(box) {
   handle_ = CreateWindowExW(kind.exStyle, kind.className, win32::wide(caption),
@@ -28,7 +76,6 @@ Widget::Widget(Form& form, const ControlKind& kind, const WidgetBox& box,
 }
 
 Widget::~Widget() {
-  forgetFocus(*this);
   form_.removeWidget(*this);
   if (handle_ != nullptr) {
     DestroyWindow(handle_);
@@ -105,7 +152,7 @@ void Widget::raiseMouseEvents(UINT message, LPARAM lParam) {
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:
       raisePendingFocusEvents();
-      barsMayBeCovered(form_);
+      barsMayBeCovered(form_.handle());
       onMouseDown.raise(pointOf(lParam));
       break;
     case WM_LBUTTONUP:
@@ -182,6 +229,30 @@ std::u16string windowText(HWND window) {
   std::wstring buffer(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
   const int length = GetWindowTextW(window, buffer.data(), static_cast<int>(buffer.size()));
   return win32::fromWide({buffer.data(), static_cast<std::size_t>(length)});
+}
+
+ScopedRepaintHold::ScopedRepaintHold(const Widget& widget)
+    : window_(widget.handle()), visible_(isVisible()) {
+  if (!visible_) return;
+  SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
+  // DefWindowProc takes WS_VISIBLE away and with it all drawing. A control that keeps a flag of its
+  // own instead (the tree view) would draw its scroll bars as soon as that flag is set again, and a
+  // second time with the frame.
+  keepsOwnFlag_ = isVisible();
+  if (keepsOwnFlag_) DefWindowProcW(window_, WM_SETREDRAW, FALSE, 0);
+}
+
+ScopedRepaintHold::~ScopedRepaintHold() {
+  if (!visible_) return;
+  SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
+  if (keepsOwnFlag_) DefWindowProcW(window_, WM_SETREDRAW, TRUE, 0);
+  // The frame as well: a scroll bar that came or went meanwhile is part of it. These are the flags
+  // that WM_SETREDRAW's documentation asks for.
+  RedrawWindow(window_, nullptr, nullptr, RDW_ERASE | RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+bool ScopedRepaintHold::isVisible() const {
+  return (GetWindowLongPtrW(window_, GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
 }  // namespace forms

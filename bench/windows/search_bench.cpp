@@ -9,7 +9,6 @@
 #include "app/state.h"
 #include "bench/timings.h"
 #include "data/data_control.h"
-#include "forms/dispatcher.h"
 #include "forms/loaded_forms.h"
 #include "query/frm_main.h"
 #include "query/frm_spc.h"

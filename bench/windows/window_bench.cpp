@@ -8,7 +8,6 @@
 #include "bench/windows/sample_words.h"
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
-#include "forms/dispatcher.h"
 #include "forms/loaded_forms.h"
 #include "lookup/frm_sub.h"
 

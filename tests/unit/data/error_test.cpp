@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <set>
 
-#include "forms/box_text.h"
+#include "forms/text_lines.h"
 #include "text/utf.h"
 
 namespace {

@@ -53,6 +53,26 @@ TEST(Geometry, LargeNumbersDoNotOverflowOnTheWay) {
   EXPECT_EQ(toTwips(-10'000'000, 144), -100'000'000);
 }
 
+TEST(OuterTwips, AreTheClientSizeAndTheFrame) {
+  EXPECT_EQ(forms::clientPixels(8415, 120, 96), 553);
+  EXPECT_EQ(forms::clientPixels(100, 120, 96), 0);
+  EXPECT_EQ(forms::outerTwips(553, 120, 96, 0, 0), 8415);
+  EXPECT_EQ(forms::outerTwips(553, 0, 96, 0, 0), 8295);
+}
+
+TEST(OuterTwips, KeepAKnownSizeOfTheSamePixels) {
+  ASSERT_EQ(forms::clientPixels(8417, 120, 96), 553);
+  ASSERT_EQ(forms::clientPixels(8410, 120, 96), 553);
+  EXPECT_EQ(forms::outerTwips(553, 120, 96, 8417, 8410), 8417);
+  EXPECT_EQ(forms::outerTwips(553, 120, 96, 3000, 8410), 8410);
+  EXPECT_EQ(forms::outerTwips(554, 120, 96, 8417, 8410), 8430);
+}
+
+TEST(OuterTwips, EndAtTheLargestSize) {
+  EXPECT_EQ(forms::outerTwips(3000, 120, 96, 0, 0), forms::kMaxSize);
+  EXPECT_EQ(forms::clientPixels(forms::kMaxSize, 120, 96), 2176);
+}
+
 TEST(SixteenBits, HoldWhatFits) {
   EXPECT_EQ(forms::toInt16(0), 0);
   EXPECT_EQ(forms::toInt16(32767), 32767);

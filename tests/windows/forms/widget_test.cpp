@@ -9,7 +9,7 @@ namespace {
 class WidgetTest : public WindowTest {
  protected:
   /// The tool tip window of a form, or null.
-  static HWND toolTipOf(const forms::Form& form) {
+  static HWND toolTipOf(const forms::WidgetHost& form) {
     HWND tip = nullptr;
     while ((tip = FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
       if (GetWindow(tip, GW_OWNER) == form.handle()) return tip;

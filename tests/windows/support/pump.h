@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "forms/dispatcher.h"
+#include "forms/loaded_forms.h"
 
 /// Waiting while messages are handled, as the program's own loop handles them.
 namespace wintest {

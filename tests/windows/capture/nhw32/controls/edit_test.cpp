@@ -3,7 +3,7 @@
 #include <atomic>
 
 #include "capture/nhw32/controls/target_window.h"
-#include "forms/font.h"
+#include "forms/graphics.h"
 #include "tests/program/harness/find.h"
 #include "tests/windows/support/text_places.h"
 #include "tests/windows/support/text_target.h"

@@ -1,8 +1,10 @@
-#include "forms/font.h"
-#include "win32/win32.h"
+#include "forms/graphics.h"
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+
+#include "win32/win32.h"
 
 namespace forms {
 namespace {
@@ -34,6 +36,26 @@ win32::OwnedFont makeFont(const Font& font, int dpi) {
   win32::OwnedFont made(CreateFontIndirectW(&description));
   if (!made) win32::throwLastError();
   return made;
+}
+
+struct Picture::Drawings {
+  int resource = 0;
+  std::map<int, win32::OwnedIcon> bySize;
+};
+
+Picture::Picture(int iconResource) : drawings_(std::make_shared<Drawings>()) {
+  drawings_->resource = iconResource;
+}
+
+HICON Picture::icon(int size) const {
+  if (drawings_ == nullptr) return nullptr;
+  win32::OwnedIcon& icon = drawings_->bySize[size];
+  if (!icon) {
+    icon = win32::OwnedIcon(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr),
+                                                          MAKEINTRESOURCEW(drawings_->resource),
+                                                          IMAGE_ICON, size, size, 0)));
+  }
+  return icon.get();
 }
 
 }  // namespace forms
