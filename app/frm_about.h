@@ -1,9 +1,18 @@
 #pragma once
 
-#include "app/browser.h"
+#include <string>
+#include <string_view>
+
 #include "forms/button.h"
 #include "forms/form.h"
 #include "forms/static_controls.h"
+
+namespace app {
+
+/// The home page's address; set when the program is built.
+inline constexpr std::u16string_view kHomePageAddress = u"" LEXILO_HOME_PAGE;
+
+}  // namespace app
 
 /// 关于, the about box: what the program is, where its data comes from, whom to ask.
 class frmAbout : public forms::Form {
@@ -22,9 +31,10 @@ class frmAbout : public forms::Form {
       {300, 1200, 5640, 1290}};
   forms::Label Label5{*this, u"Special Designed for Specialist！", {300, 2580, 5640, 270}};
   forms::Separator Line2{*this, {300, 2940, 5640, 30}};
-  forms::Label lblDisclaimer{*this,
-                             u"联系方式：\r\nLexilo 开发者\r\n" + std::u16string(app::kHomePage),
-                             {300, 3060, 5640, 780}};
+  forms::Label lblDisclaimer{
+      *this,
+      u"联系方式：\r\nLexilo 开发者\r\n" + std::u16string(app::kHomePageAddress),
+      {300, 3060, 5640, 780}};
   forms::Label Label6{*this,
                       u"本程序以 MIT 许可发布；所用组件及其许可见随附的 THIRD_PARTY.md。",
                       {300, 3900, 4200, 540}};

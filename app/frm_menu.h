@@ -10,24 +10,20 @@ class frmMenu : public forms::Form {
 
   forms::PopupMenu mnu_file{u"file"};
 
-  /// Drops the menu down at a screen point and runs the chosen item. While the menu is open this
-  /// form counts as having the focus.
+  /// The item mnuMouse (鼠标取词) was chosen: the toolbar, which shows the state, switches capture.
+  forms::Event<> onMouse;
+
+  /// Drops the menu down with its top left corner at a screen point and runs the chosen command;
+  /// `opener` is the button on `owner` that opened it (see PopupMenu::choose). While the menu is
+  /// open this form counts as having the focus, which suspends capture.
   void popUp(const forms::Form& owner, POINT screen, const forms::Widget& opener);
 
-  /// The check mark of "鼠标取词".
+  /// Sets the check mark of mnuMouse.
   void checkMouse(bool checked);
 
  private:
   void Form_GotFocus();
   void Form_LostFocus() override;
-  void mnu_dgn_Click();
-  void mnu_kscx_Click();
-  void mnuMouse_Click();
-  void mnu_zdsz_Click();
-  void mnu_help_Click();
-  void mnu_about_Click();
-  void mnu_fwwz_Click();
-  void mnu_exit_Click();
 
-  std::size_t mnuMouse_ = 0;
+  std::size_t mnuMouse_ = 0;  // its index in mnu_file
 };

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "app/commands.h"
 #include "app/resources/resource_ids.h"
 #include "data/data_control.h"
 #include "forms/button.h"
@@ -16,11 +17,11 @@ class frmTop : public forms::Form {
   frmTop();
 
   forms::DragHandle Image1{*this, forms::DragHandle::Look::kGrip, {0, 0, 180, 375}};
-  forms::Button cmdMain{*this, forms::Picture(IDI_QUICK_LOOKUP), {180, 0, 375, 375}};
-  forms::Button cmdSub{*this, forms::Picture(IDI_MULTI_QUERY), {555, 0, 375, 375}};
-  forms::Button cmdDictSetting{*this, forms::Picture(IDI_DICT_SETTINGS), {930, 0, 375, 375}};
+  forms::Button cmdMain{*this, forms::Picture(app::kQuickLookup.icon), {180, 0, 375, 375}};
+  forms::Button cmdSub{*this, forms::Picture(app::kMultiQuery.icon), {555, 0, 375, 375}};
+  forms::Button cmdDictSetting{*this, forms::Picture(app::kDictSettings.icon), {930, 0, 375, 375}};
   forms::Button cmdMouse{*this, forms::Picture(), {1305, 0, 375, 375}};
-  forms::Button cmdHelp{*this, forms::Picture(IDI_HELP_PAGE), {1680, 0, 375, 375}};
+  forms::Button cmdHelp{*this, forms::Picture(app::kHelp.icon), {1680, 0, 375, 375}};
   forms::Label Picture1{*this, u"", {2055, 0, 30, 375}};
   forms::Button Command1{*this, forms::Picture(IDI_MENU_ARROW), {2085, 0, 240, 375}};
   forms::Button cmdMouseYes{*this, forms::Picture(IDI_CAPTURE_ON), {}};

@@ -1,6 +1,5 @@
 #include "app/frm_top.h"
 
-#include "app/browser.h"
 #include "app/frm_menu.h"
 #include "app/state.h"
 #include "capture/frm_screen_word.h"
@@ -9,9 +8,6 @@
 #include "forms/geometry.h"
 #include "forms/loaded_forms.h"
 #include "forms/message_box.h"
-#include "lookup/frm_sub.h"
-#include "query/frm_dict_setting.h"
-#include "query/frm_main.h"
 #include "settings/settings_file.h"
 #include "win32/monitor.h"
 #include "win32/program.h"
@@ -38,9 +34,9 @@ forms::FormDesign design() {
 frmTop::frmTop() : Form(design()) {
   cmdMouseYes.setVisible(false);
   cmdMouseNot.setVisible(false);
-  cmdMain.setToolTip(u"快速查询");
-  cmdSub.setToolTip(u"多功能查询");
-  cmdDictSetting.setToolTip(u"查询设置");
+  cmdMain.setToolTip(std::u16string(app::kQuickLookup.toolTip));
+  cmdSub.setToolTip(std::u16string(app::kMultiQuery.toolTip));
+  cmdDictSetting.setToolTip(std::u16string(app::kDictSettings.toolTip));
   cmdMain.onClick = [this] { cmdMain_Click(); };
   cmdSub.onClick = [this] { cmdSub_Click(); };
   cmdDictSetting.onClick = [this] { cmdDictSetting_Click(); };
@@ -112,18 +108,20 @@ void frmTop::Form_LostFocus() {
 }
 
 // Deliberate: cmdMain opens the quick lookup window frmSub, and cmdSub opens frmMain.
-void frmTop::cmdMain_Click() { forms::form<frmSub>().show(); }
+void frmTop::cmdMain_Click() { app::kQuickLookup.run(); }
 
-void frmTop::cmdSub_Click() { forms::form<frmMain>().show(); }
+void frmTop::cmdSub_Click() { app::kMultiQuery.run(); }
 
-void frmTop::cmdDictSetting_Click() { forms::form<frmdictSetting>().show(); }
+void frmTop::cmdDictSetting_Click() { app::kDictSettings.run(); }
 
-void frmTop::cmdHelp_Click() { app::showHelp(); }
+void frmTop::cmdHelp_Click() { app::kHelp.run(); }
 
 void frmTop::Command1_Click() {
   POINT corner{0, forms::toPixels(TopHeight - 30, dpi())};
   ClientToScreen(handle(), &corner);
-  forms::form<frmMenu>().popUp(*this, corner, Command1);
+  auto& menu = forms::form<frmMenu>();
+  menu.onMouse = [this] { cmdMouse_Click(); };
+  menu.popUp(*this, corner, Command1);
 }
 
 void frmTop::cmdMouse_Click() {

@@ -27,7 +27,7 @@ TEST_F(FrmAbout, SaysWhatTheProgramIsAndWhereItsDataComesFrom) {
             std::u16string::npos);
   EXPECT_EQ(textOf(about().Label5), u"Special Designed for Specialist！");
   EXPECT_EQ(textOf(about().lblDisclaimer).find(u"联系方式："), 0U);
-  EXPECT_NE(textOf(about().lblDisclaimer).find(app::kHomePage), std::u16string::npos);
+  EXPECT_NE(textOf(about().lblDisclaimer).find(app::kHomePageAddress), std::u16string::npos);
   EXPECT_FALSE(textOf(about().Label6).empty());
 }
 

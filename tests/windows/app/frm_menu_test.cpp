@@ -1,4 +1,4 @@
-#include "app/browser.h"
+#include "app/frm_about.h"
 #include "capture/screen_word.h"
 #include "lookup/frm_sub.h"
 #include "tests/windows/support/frm_top_test.h"
@@ -198,7 +198,7 @@ TEST_F(FrmMenu, TheWebSiteStartsTheBrowserWithItsAddress) {
   const StartedBrowser browser = awaitBrowser();
   EXPECT_EQ(browser.program, user::BrowserPath) << "another program was started";
   EXPECT_EQ(browser.name, user::BrowserPath);
-  EXPECT_EQ(browser.page, app::kHomePage);
+  EXPECT_EQ(browser.page, app::kHomePageAddress);
   EXPECT_EQ(browser.show, SW_SHOWNORMAL);
 }
 

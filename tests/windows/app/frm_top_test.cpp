@@ -1,5 +1,5 @@
 #include "tests/windows/support/frm_top_test.h"
-#include "app/browser.h"
+#include "app/commands.h"
 #include "lookup/frm_sub.h"
 #include "tests/windows/support/other_program.h"
 #include "tests/windows/support/started_page.h"

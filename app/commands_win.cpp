@@ -1,0 +1,66 @@
+#include "app/commands.h"
+
+#include <array>
+
+#include "app/frm_about.h"
+#include "app/resources/resource_ids.h"
+#include "app/state.h"
+#include "forms/loaded_forms.h"
+#include "forms/message_box.h"
+#include "lookup/frm_sub.h"
+#include "query/frm_dict_setting.h"
+#include "query/frm_main.h"
+#include "win32/program.h"
+
+namespace app {
+namespace {
+
+template <class F>
+void show() {
+  forms::form<F>().show();
+}
+
+void showMultiQuery() {
+  show<frmMain>();
+  // Deliberate: also if frmMain was open already, which sets it itself when it is loaded.
+  user::MainOpen = true;
+}
+
+void showHelp() {
+  try {
+    openInBrowser(win32::applicationFolder() + u"\\help\\help.htm");
+  } catch (const std::exception&) {
+    forms::showMessage(u"未找到帮助文件！", forms::MessageIcon::kCritical);
+  }
+}
+
+// Deliberate: without a message of its own, unlike the help page; an error is an uncaught one.
+void openHomePage() { openInBrowser(kHomePageAddress); }
+
+constexpr const Command* kSeparator = nullptr;
+
+}  // namespace
+
+const Command kMultiQuery{u"多功能查询", u"多功能查询", IDI_MULTI_QUERY, showMultiQuery};
+const Command kQuickLookup{u"快速查询", u"快速查询", IDI_QUICK_LOOKUP, show<frmSub>};
+const Command kCapture{u"鼠标取词", {}, 0, nullptr};
+const Command kDictSettings{u"字典设置", u"查询设置", IDI_DICT_SETTINGS, show<frmdictSetting>};
+const Command kHelp{u"帮助", {}, IDI_HELP_PAGE, showHelp};
+const Command kAbout{u"关于", {}, 0, show<frmAbout>};
+const Command kHomePage{u"访问我们的网站", {}, 0, openHomePage};
+const Command kExit{u"退出", {}, 0, win32::endProgram};
+
+std::span<const Command* const> menuCommands() {
+  static constexpr std::array<const Command*, 11> kMenu{
+      &kMultiQuery, &kQuickLookup, &kCapture,  kSeparator, &kDictSettings, kSeparator,
+      &kHelp,       &kAbout,       &kHomePage, kSeparator, &kExit};
+  return kMenu;
+}
+
+std::u16string browserPath(const std::u16string& systemDirectory) {
+  return systemDirectory.substr(0, 1) + u":\\Program Files\\Internet Explorer\\IEXPLORE.EXE";
+}
+
+void openInBrowser(std::u16string_view page) { win32::startProgram(user::BrowserPath, page); }
+
+}  // namespace app
