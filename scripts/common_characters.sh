@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Writes tests/unit/support/common_characters.h to standard output: the 6,763 characters of GB 2312, which
+# Writes tests/support/data/common_characters.h to standard output: the 6,763 characters of GB 2312, which
 # stand in its rows 16 to 87 (first bytes 0xB0 to 0xF7, second bytes 0xA1 to 0xFE).
 set -euo pipefail
 

@@ -12,18 +12,18 @@
 #include "bench/timings.h"
 #include "bench/windows/processor_time.h"
 #include "bench/windows/service_host.h"
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/lexilo.h"
-#include "tests/program/harness/meaning_popup.h"
-#include "tests/program/harness/notepad.h"
-#include "tests/program/harness/word_page.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/english_page.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/lexilo.h"
+#include "tests/support/process/meaning_popup.h"
+#include "tests/support/process/notepad.h"
 
 namespace {
 
 using bench::Timings;
-using harness::MeaningPopup;
-using harness::Notepad;
+using support::MeaningPopup;
+using support::Notepad;
 
 constexpr int kWords = 300;
 constexpr DWORD kRest = 30'000;  // ms
@@ -39,13 +39,13 @@ class Page {
   /// A place in some word.
   POINT anyWord() {
     const auto& word = page_.words()[random_() % page_.words().size()];
-    const POINT place = harness::editPosition(notepad_.edit(), word.start);
+    const POINT place = support::editPosition(notepad_.edit(), word.start);
     return {place.x + 3, place.y + 6};
   }
 
   /// A place below the last line.
   [[nodiscard]] POINT blank() const {
-    const RECT client = harness::clientRectOf(notepad_.edit());
+    const RECT client = support::clientRectOf(notepad_.edit());
     return {(client.left + client.right) / 2, client.bottom - 20};
   }
 
@@ -54,24 +54,24 @@ class Page {
 
  private:
   const Notepad notepad_;
-  const harness::WordPage page_{4, 25, 60};
+  const support::EnglishPage page_{4, 25, 60};
   std::minstd_rand random_{5};
 };
 
 void moveAway(const MeaningPopup& popup) {
-  harness::input::moveTo(harness::kAwayFromTexts);
+  support::input::moveTo(support::kAwayFromTexts);
   popup.waitUntilClosed();
 }
 
 /// Asks a window on and on until it is told to stop.
 void askOnAndOn(const std::stop_token& stop, HWND window, Timings& answers) {
   while (!stop.stop_requested()) {
-    answers.time([&] { harness::send(window, WM_NULL); });
+    answers.time([&] { support::send(window, WM_NULL); });
     Sleep(2);
   }
 }
 
-void measureWords(Page& page, const harness::Lexilo& lexilo, Timings& popups, Timings& answers) {
+void measureWords(Page& page, const support::Lexilo& lexilo, Timings& popups, Timings& answers) {
   const MeaningPopup popup(lexilo.process());
   const std::jthread asking([&, toolbar = lexilo.toolbar()](const std::stop_token& stop) {
     askOnAndOn(stop, toolbar, answers);
@@ -80,7 +80,7 @@ void measureWords(Page& page, const harness::Lexilo& lexilo, Timings& popups, Ti
     const POINT place = page.anyWord();
     page.waitAnyPartOfAProbe();
     SetCursorPos(place.x, place.y);
-    popups.time([&] { harness::waitFor("the popup", [&] { return popup.isUp(); }); });
+    popups.time([&] { support::waitFor("the popup", [&] { return popup.isUp(); }); });
     moveAway(popup);
   }
 }
@@ -99,26 +99,26 @@ void printLoad(const char* what, double share, double aim) {
               share > aim ? "MISSED" : "met");
 }
 
-double loadOver(const harness::Process& process) {
+double loadOver(const support::Process& process) {
   const double before = bench::processorTime(process.id());
   Sleep(kRest);
   return (bench::processorTime(process.id()) - before) * 100 / kRest;
 }
 
-void measureLoad(const Page& page, const harness::Lexilo& lexilo) {
+void measureLoad(const Page& page, const support::Lexilo& lexilo) {
   std::printf("\nLexilo's processor time over %lu s, the pointer at rest\n", kRest / 1000);
   const MeaningPopup popup(lexilo.process());
-  harness::input::moveTo(page.blank());
+  support::input::moveTo(page.blank());
   printLoad("  over a blank of Notepad", loadOver(lexilo.process()), 3);
   moveAway(popup);
   printLoad("  over the desktop", loadOver(lexilo.process()), 1);
-  lexilo.click(harness::ToolbarButton::kCapture);
-  harness::input::moveTo(page.blank());
+  lexilo.click(support::ToolbarButton::kCapture);
+  support::input::moveTo(page.blank());
   printLoad("  over a blank of Notepad, capture off", loadOver(lexilo.process()), 0.5);
 }
 
 void measure() {
-  harness::input::moveTo(harness::kAwayFromTexts);
+  support::input::moveTo(support::kAwayFromTexts);
   Page page;
   Timings popups("pointer at rest to popup");
   popups.aimAt(160, 260);
@@ -126,7 +126,7 @@ void measure() {
   Timings answers("toolbar kept from answering meanwhile");
   answers.aimAtLongest(50);
   measureService(page, service);
-  const harness::Lexilo lexilo(harness::AppFolder::withFullDictionary());
+  const support::Lexilo lexilo(support::AppFolder::withFullDictionary());
   lexilo.waitUntilSeen();
   measureWords(page, lexilo, popups, answers);
   Timings::printHeading("words under the pointer, ms");

@@ -13,16 +13,16 @@
 #include "bench/windows/process_memory.h"
 #include "bench/windows/sample_words.h"
 #include "data/data_control.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/lexilo.h"
-#include "tests/program/harness/text.h"
-#include "tests/program/harness/text_box.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/lexilo.h"
+#include "tests/support/process/text.h"
+#include "tests/support/process/text_box.h"
 
 namespace {
 
 using bench::Memory;
 using bench::ProcessBelow;
-using harness::QuickLookup;
+using support::QuickLookup;
 
 constexpr int kStarts = 3;
 constexpr std::size_t kLookups = 1000;
@@ -44,8 +44,8 @@ struct Start {
 };
 
 Memory bareWindowMemory(const std::wstring& program) {
-  const harness::Process process(program);
-  harness::waitForWindow({.process = process.id(), .className = L"Lexilo.BareWindow", .title = {}});
+  const support::Process process(program);
+  support::waitForWindow({.process = process.id(), .className = L"Lexilo.BareWindow", .title = {}});
   return ProcessBelow(program).settledMemory();
 }
 
@@ -53,7 +53,7 @@ Memory bareWindowMemory(const std::wstring& program) {
 /// that they lead to may begin before them, so that the pane does not tell when it is there.
 std::vector<std::wstring> headwords(const std::u16string& table, std::minstd_rand& random) {
   data::DataControl control;
-  const std::wstring database = harness::AppFolder::withFullDictionary().database().wstring();
+  const std::wstring database = support::AppFolder::withFullDictionary().database().wstring();
   control.setConnectionString(u"Data Source=" + std::u16string(database.begin(), database.end()));
   std::vector<std::wstring> words;
   for (const std::u16string& word : bench::sampleWords(control, table, kLookups)) {
@@ -78,7 +78,7 @@ std::vector<std::wstring> wordsToLookUp() {
 }
 
 void setText(HWND box, const std::wstring& text) {
-  harness::send(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+  support::send(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
 /// Looks words up in the quick lookup window, each until its meaning is shown.
@@ -86,7 +86,7 @@ class Typist {
  public:
   Typist(QuickLookup window, std::vector<std::wstring> words)
       : window_(window), words_(std::move(words)) {
-    harness::takeKeyboard(window_.input());
+    support::takeKeyboard(window_.input());
   }
 
   /// Goes on until `count` lookups were made in all, or a few more.
@@ -107,11 +107,11 @@ class Typist {
   void typeLetters(const std::wstring& word) {
     setText(window_.input(), L"");
     for (std::size_t length = 1; length <= word.size(); ++length) {
-      harness::input::type(word.substr(length - 1, 1));
+      support::input::type(word.substr(length - 1, 1));
       ++lookups_;
       const std::wstring typed = word.substr(0, length);
       // One thread looks up and answers: the box holds the letter once it is looked up.
-      harness::waitFor("a letter of " + harness::utf8(word),
+      support::waitFor("a letter of " + support::utf8(word),
                        [&] { return window_.typed() == typed; });
     }
   }
@@ -125,8 +125,8 @@ class Typist {
 Start measureStart(const std::wstring& bareWindow, const std::vector<std::wstring>& words) {
   Start start;
   start.bareWindow = bareWindowMemory(bareWindow);
-  const harness::AppFolder folder = harness::AppFolder::withFullDictionary();
-  const harness::Lexilo lexilo(folder);
+  const support::AppFolder folder = support::AppFolder::withFullDictionary();
+  const support::Lexilo lexilo(folder);
   lexilo.waitUntilSeen();
   const ProcessBelow process(folder.program());
   start.started = process.settledMemory();

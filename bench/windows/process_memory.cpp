@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "tests/program/harness/text.h"
-#include "tests/program/harness/wait.h"
+#include "tests/support/process/text.h"
+#include "tests/support/wait.h"
 
 namespace bench {
 namespace fs = std::filesystem;
@@ -42,10 +42,10 @@ std::vector<fs::path> processesThatMapped(const std::string& file) {
 // Wine gives programs numbers of its own, so the process is found by what it runs: Wine maps the
 // beginning of a program file.
 ProcessBelow::ProcessBelow(const fs::path& program) {
-  const std::string file = harness::utf8(program.generic_wstring()).substr(sizeof "Z:" - 1);
+  const std::string file = support::utf8(program.generic_wstring()).substr(sizeof "Z:" - 1);
   const std::vector<fs::path> found = processesThatMapped(file);
   if (found.size() != 1) {
-    throw harness::Failure(std::to_string(found.size()) + " processes run " + file +
+    throw support::Failure(std::to_string(found.size()) + " processes run " + file +
                            ", not the one that was started");
   }
   folder_ = found.front();
@@ -61,7 +61,7 @@ Memory ProcessBelow::memory() const {
     if (fields >> name >> value) kilobytes[name] = value;
   }
   if (kilobytes["Rss:"] <= 0) {
-    throw harness::Failure("no memory in " + harness::utf8(folder_.wstring()));
+    throw support::Failure("no memory in " + support::utf8(folder_.wstring()));
   }
   return {.resident = kilobytes["Rss:"],
           .proportional = kilobytes["Pss:"],
@@ -72,11 +72,13 @@ Memory ProcessBelow::settledMemory() const {
   constexpr DWORD kLongEnough = 500;  // ms without a change worth the name
   constexpr double kChange = 64;      // KiB
   Memory last = memory();
-  harness::waitFor("a process to settle", [&] {
-    return harness::neverWithin(kLongEnough, [&] {
-      const Memory before = std::exchange(last, memory());
-      return std::abs(last.resident - before.resident) >= kChange;
-    });
+  support::waitFor("a process to settle", [&] {
+    return support::never(
+        [&] {
+          const Memory before = std::exchange(last, memory());
+          return std::abs(last.resident - before.resident) >= kChange;
+        },
+        kLongEnough);
   });
   return last;
 }

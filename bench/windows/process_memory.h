@@ -14,12 +14,12 @@ struct Memory {
 /// A running program as the machine below Wine sees it.
 class ProcessBelow {
  public:
-  /// The process that runs this program file. Throws harness::Failure where none does, or more than
+  /// The process that runs this program file. Throws support::Failure where none does, or more than
   /// one.
   explicit ProcessBelow(const std::filesystem::path& program);
 
   /// Waits until the process has stopped taking or giving back memory, and returns what it has.
-  /// Throws harness::Failure when that takes longer than ten seconds.
+  /// Throws support::Failure when that takes longer than ten seconds.
   [[nodiscard]] Memory settledMemory() const;
 
  private:

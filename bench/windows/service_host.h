@@ -5,7 +5,7 @@
 #include "capture/nhw32/nhw32.h"
 #include "capture/nhw32/reader.h"
 #include "capture/nhw32/service.h"
-#include "tests/program/harness/wait.h"
+#include "tests/support/wait.h"
 
 namespace bench {
 
@@ -28,7 +28,7 @@ class ServiceHost {
   /// is asked for again every 100 ms, as the program does. Throws Failure.
   void waitForWordAt(POINT point) {
     constexpr DWORD kProbeTime = 100;
-    const ULONGLONG deadline = GetTickCount64() + harness::kPatience;
+    const ULONGLONG deadline = GetTickCount64() + support::kDefaultTimeout;
     do {
       service_.disarm();
       service_.arm(window_, point);
@@ -36,7 +36,7 @@ class ServiceHost {
       MSG message;
       if (PeekMessageW(&message, window_, report_, report_, PM_REMOVE) != FALSE) return;
     } while (GetTickCount64() < deadline);
-    throw harness::Failure("the service reports no word");
+    throw support::Failure("the service reports no word");
   }
 
  private:

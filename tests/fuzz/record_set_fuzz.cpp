@@ -10,7 +10,7 @@
 #include "data/error.h"
 #include "data/record_set.h"
 #include "tests/fuzz/fuzz_input.h"
-#include "tests/unit/support/sample_database.h"
+#include "tests/support/data/sample_database.h"
 
 namespace {
 

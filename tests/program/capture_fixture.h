@@ -2,13 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/lexilo.h"
-#include "tests/program/harness/meaning_popup.h"
-#include "tests/program/harness/notepad.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/lexilo.h"
+#include "tests/support/process/meaning_popup.h"
+#include "tests/support/process/notepad.h"
 
-namespace harness {
+namespace support {
 
 /// Where the programs whose words are read stand.
 inline constexpr RECT kPage{40, 120, 840, 720};
@@ -39,4 +39,4 @@ class Capture : public ::testing::Test {
   const MeaningPopup popup{lexilo.process()};
 };
 
-}  // namespace harness
+}  // namespace support

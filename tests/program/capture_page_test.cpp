@@ -4,15 +4,15 @@
 #include <random>
 
 #include "tests/program/capture_fixture.h"
-#include "tests/program/harness/text.h"
-#include "tests/program/harness/word_pad.h"
-#include "tests/program/harness/word_page.h"
+#include "tests/support/process/english_page.h"
+#include "tests/support/process/text.h"
+#include "tests/support/process/word_pad.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 /// Rests the pointer on 200 words of a page and counts those whose popup names them.
-int wordsRead(const MeaningPopup& popup, const WordPage& page, const RECT& visible,
+int wordsRead(const MeaningPopup& popup, const EnglishPage& page, const RECT& visible,
               const std::function<POINT(LONG)>& position, const std::function<LONG(int)>& count) {
   std::minstd_rand random(7);
   int read = 0;
@@ -42,7 +42,7 @@ int wordsRead(const MeaningPopup& popup, const WordPage& page, const RECT& visib
 TEST_F(Capture, TwoHundredWordsOfAPageInNotepad) {
   const Notepad notepad;
   notepad.place(kPage);
-  const WordPage page(1, 60, 70);
+  const EnglishPage page(1, 60, 70);
   notepad.setText(page.text());
   RECT visible = clientRectOf(notepad.edit());
   InflateRect(&visible, -10, -20);
@@ -55,7 +55,7 @@ TEST_F(Capture, TwoHundredWordsOfAPageInNotepad) {
 TEST_F(Capture, TwoHundredWordsOfAPageInWordPad) {
   const WordPad wordPad;
   wordPad.place(kPage);
-  const WordPage page(2, 60, 70);
+  const EnglishPage page(2, 60, 70);
   wordPad.setText(page.text());
   RECT visible = clientRectOf(wordPad.edit());
   InflateRect(&visible, -10, -20);
@@ -73,7 +73,7 @@ TEST_F(Capture, TwoHundredWordsOfAPageInWordPad) {
 TEST_F(Capture, AWordDeepInALongTextIsRead) {
   const Notepad notepad;
   notepad.place(kPage);
-  const WordPage page(3, 5000, 75);
+  const EnglishPage page(3, 5000, 75);
   ASSERT_GT(page.text().size(), 380'000U);
   notepad.setText(page.text());
   for (const std::size_t number : {page.words().size() / 2, page.words().size() - 30}) {
@@ -88,4 +88,4 @@ TEST_F(Capture, AWordDeepInALongTextIsRead) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

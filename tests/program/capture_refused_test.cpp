@@ -1,9 +1,9 @@
 // Places where pointing must not open anything.
 #include "tests/program/capture_fixture.h"
-#include "tests/program/harness/text.h"
-#include "tests/program/harness/text_window.h"
+#include "tests/support/process/text.h"
+#include "tests/support/process/text_window.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 TEST_F(Capture, OneLetterAndChineseOpenNothing) {
@@ -76,4 +76,4 @@ TEST_F(Capture, AMenuIsNotProbed) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

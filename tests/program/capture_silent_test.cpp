@@ -8,12 +8,12 @@
 #include <vector>
 
 #include "tests/program/capture_fixture.h"
-#include "tests/program/harness/button.h"
-#include "tests/program/harness/stopped.h"
-#include "tests/program/harness/text.h"
-#include "tests/program/harness/text_window.h"
+#include "tests/support/process/button.h"
+#include "tests/support/process/suspended_process.h"
+#include "tests/support/process/text.h"
+#include "tests/support/process/text_window.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 using Milliseconds = std::chrono::duration<double, std::milli>;
@@ -122,7 +122,7 @@ TEST_F(Capture, AStoppedProgramKeepsNobodyWaiting) {
     const POINT place = editPosition(notepad.edit(), 2);
     Answers usual;
     usual.of(lexilo.toolbar(), Milliseconds{400});
-    const Stopped stopped(utf8(name));
+    const SuspendedProcess stopped(utf8(name));
     input::moveTo({place.x + 3, place.y + 6});
     // As long as it has chances; afterwards it is left alone.
     Answers answers;
@@ -140,7 +140,7 @@ TEST_F(Capture, AStoppedProgramIsReadAgainOnceItGoesOn) {
   notepad.place(kPage);
   {
     const POINT place = editPosition(notepad.edit(), 2);
-    const Stopped stopped("program-to-be-stopped");
+    const SuspendedProcess stopped("program-to-be-stopped");
     input::moveTo({place.x + 3, place.y + 6});
     EXPECT_TRUE(popup.staysAway(400));
     lexilo.click(ToolbarButton::kQuickLookup);
@@ -165,4 +165,4 @@ TEST_F(Capture, AStoppedProgramIsReadAgainOnceItGoesOn) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

@@ -5,13 +5,13 @@
 #include <utility>
 
 #include "tests/program/capture_fixture.h"
-#include "tests/program/harness/clipboard.h"
-#include "tests/program/harness/screen.h"
-#include "tests/program/harness/text.h"
-#include "tests/program/harness/text_window.h"
-#include "tests/program/harness/word_pad.h"
+#include "tests/support/process/clipboard.h"
+#include "tests/support/process/screen.h"
+#include "tests/support/process/text.h"
+#include "tests/support/process/text_window.h"
+#include "tests/support/process/word_pad.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 TEST_F(Capture, AWordInNotepadIsRead) {
@@ -92,7 +92,7 @@ TEST_F(Capture, MovingOnClosesThePopupAndReadsTheNextWord) {
   POINT pointer{};
   GetCursorPos(&pointer);
   input::moveTo({pointer.x + 5, pointer.y});
-  EXPECT_TRUE(neverWithin(300, [&] { return !popup.isUp(); }));
+  EXPECT_TRUE(never([&] { return !popup.isUp(); }, 300));
   input::moveTo({pointer.x, pointer.y + 400});
   popup.waitUntilClosed();
   restOn(notepad, 11);
@@ -230,4 +230,4 @@ TEST_F(Capture, SwitchedOffItReadsNothingUntilSwitchedOnAgain) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

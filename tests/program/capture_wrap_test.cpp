@@ -4,7 +4,7 @@
 
 #include "tests/program/capture_fixture.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 /// Of the menu item that switches the wrapping of lines in Wine's Notepad.
@@ -51,4 +51,4 @@ TEST_F(Capture, AWordOnAWrappedLineIsRead) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

@@ -6,16 +6,16 @@
 #include <utility>
 #include <vector>
 
-#include "tests/program/harness/browser.h"
-#include "tests/program/harness/button.h"
-#include "tests/program/harness/dictionary_windows.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/message_box.h"
-#include "tests/program/harness/popup_menu.h"
-#include "tests/program/harness/screen.h"
-#include "tests/program/harness/settings.h"
+#include "tests/support/process/browser.h"
+#include "tests/support/process/button.h"
+#include "tests/support/process/dictionary_windows.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/message_box.h"
+#include "tests/support/process/popup_menu.h"
+#include "tests/support/process/screen.h"
+#include "tests/support/process/settings.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 class Commands : public ::testing::Test {
@@ -174,4 +174,4 @@ TEST_F(Commands, ExitEndsItAtOnceWithEveryWindowOpen) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

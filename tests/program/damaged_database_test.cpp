@@ -5,14 +5,14 @@
 #include <fstream>
 #include <optional>
 
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/dictionary_windows.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/lexilo.h"
-#include "tests/program/harness/message_box.h"
-#include "tests/program/harness/screen.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/dictionary_windows.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/lexilo.h"
+#include "tests/support/process/message_box.h"
+#include "tests/support/process/screen.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 namespace fs = std::filesystem;
@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 void answerMessages(const Lexilo& lexilo) {
   for (int boxes = 0; boxes < 20; ++boxes) {
     std::optional<ShownMessage> box;
-    if (neverWithin(50, [&] { return (box = findMessageBox(lexilo.process())).has_value(); })) {
+    if (never([&] { return (box = findMessageBox(lexilo.process())).has_value(); }, 50)) {
       return;
     }
     EXPECT_FALSE(box->text.empty());
@@ -37,7 +37,7 @@ void insist(const std::string& what, const Lexilo& lexilo, Act act, Done done) {
     answerMessages(lexilo);
     if (done()) return true;
     act();
-    return !neverWithin(kReactionTime, done);
+    return eventually(done, kReactionTime);
   });
   answerMessages(lexilo);
 }
@@ -219,4 +219,4 @@ TEST_F(WriteProtectedDatabase, ChoosingADefaultTellsWhatToDo) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

@@ -4,17 +4,17 @@
 #include <algorithm>
 #include <functional>
 
-#include "tests/program/harness/clipboard.h"
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/dictionary_windows.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/message_box.h"
-#include "tests/program/harness/screen.h"
-#include "tests/program/harness/text.h"
-#include "tests/program/harness/text_box.h"
-#include "tests/unit/support/sample_database.h"
+#include "tests/support/data/sample_database.h"
+#include "tests/support/process/clipboard.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/dictionary_windows.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/message_box.h"
+#include "tests/support/process/screen.h"
+#include "tests/support/process/text.h"
+#include "tests/support/process/text_box.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 class Dictionaries : public ::testing::Test {
@@ -202,9 +202,9 @@ TEST_F(Dictionaries, ALineIsCopiedByTheKeys) {
 /// The same with a database that may be changed.
 class OwnDictionaries : public ::testing::Test {
  protected:
-  void change(const std::string& sql) { support::Writer(folder.database()).run(sql); }
+  void change(const std::string& sql) { Writer(folder.database()).run(sql); }
   std::int64_t number(const std::string& sql) {
-    support::Writer reader(folder.database());
+    Writer reader(folder.database());
     reader.run("pragma busy_timeout=5000");  // Lexilo may be writing
     return reader.number(sql);
   }
@@ -257,8 +257,8 @@ TEST_F(OwnDictionaries, OnlySpaceAndReturnChooseTheDefaultByKeys) {
   const std::wstring before = settings.chosen();
   input::key(VK_DOWN);
   waitFor("the highlight to move", [&] { return settings.chosen() != before; });
-  EXPECT_TRUE(neverWithin(
-      300, [&] { return number("select [default] from [Index] where TableName='med'") != 1; }));
+  EXPECT_TRUE(never(
+      [&] { return number("select [default] from [Index] where TableName='med'") != 1; }, 300));
   input::key(VK_SPACE);
   waitFor("the flag", [&] {
     return number("select [default] from [Index] where TableName='med'") == 0 && defaults() == 1;
@@ -369,4 +369,4 @@ TEST_F(OwnDictionaries, AMissingCatalogueIsToldByBothWindows) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

@@ -4,19 +4,19 @@
 #include <memory>
 
 #include "forms/geometry.h"
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/dictionary_windows.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/lexilo.h"
-#include "tests/program/harness/meaning_popup.h"
-#include "tests/program/harness/notepad.h"
-#include "tests/program/harness/popup_menu.h"
-#include "tests/program/harness/screen.h"
-#include "tests/program/harness/settings.h"
-#include "tests/program/harness/text.h"
-#include "tests/program/harness/text_window.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/dictionary_windows.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/lexilo.h"
+#include "tests/support/process/meaning_popup.h"
+#include "tests/support/process/notepad.h"
+#include "tests/support/process/popup_menu.h"
+#include "tests/support/process/screen.h"
+#include "tests/support/process/settings.h"
+#include "tests/support/process/text.h"
+#include "tests/support/process/text_window.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 constexpr int kDpi = 144;
@@ -133,7 +133,7 @@ TEST_F(Dpi144, ThePopupIsLargerAsWell) {
   EXPECT_TRUE(EqualRect(&box, &rect)) << "the text box fills the popup";
   saveScreenshot("build/shots/popup-144dpi.png");
   input::moveTo({pointer.x + 5, pointer.y});
-  EXPECT_TRUE(neverWithin(200, [&] { return !popup.isUp(); }));
+  EXPECT_TRUE(never([&] { return !popup.isUp(); }, 200));
   input::moveTo({pointer.x + 6, pointer.y});
   popup.waitUntilClosed();
 }
@@ -191,4 +191,4 @@ TEST_F(Dpi144, TheDictionaryWindowsAndTheAboutBoxHoldAllTheirWidgets) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

@@ -4,17 +4,17 @@
 #include <utility>
 #include <vector>
 
-#include "tests/program/harness/clipboard.h"
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/cover.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/lexilo.h"
-#include "tests/program/harness/notepad.h"
-#include "tests/program/harness/popup_menu.h"
-#include "tests/program/harness/screen.h"
-#include "tests/program/harness/text_box.h"
+#include "tests/support/process/clipboard.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/lexilo.h"
+#include "tests/support/process/notepad.h"
+#include "tests/support/process/overlay_window.h"
+#include "tests/support/process/popup_menu.h"
+#include "tests/support/process/screen.h"
+#include "tests/support/process/text_box.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 class Lookup : public ::testing::Test {
@@ -181,7 +181,7 @@ TEST_F(Lookup, ATextBehindTheLastWordLeavesTheListAsItWas) {
   window.lookUp(L"data");
   const std::vector<std::wstring> words = window.words();
   window.type(L"~~");
-  EXPECT_TRUE(neverWithin(300, [&] { return window.words() != words; }));
+  EXPECT_TRUE(never([&] { return window.words() != words; }, 300));
   EXPECT_EQ(window.headword(), L"data");
 }
 
@@ -239,7 +239,7 @@ TEST_F(Lookup, WithoutASelectionThePanesMenuDoesNothing) {
   popup_menu::waitForMenu(lexilo.process());
   saveScreenshot("build/shots/pane-menu-disabled.png");
   popup_menu::choose(2);
-  EXPECT_TRUE(neverWithin(200, [] { return clipboardText() != L"before"; }));
+  EXPECT_TRUE(never([] { return clipboardText() != L"before"; }, 200));
   if (popup_menu::isOpen(lexilo.process())) popup_menu::dismiss(lexilo.process());
   EXPECT_EQ(window.typed(), L"data");
 }
@@ -276,7 +276,7 @@ TEST_F(Lookup, RepaintingDoesNotDisturbTypingIntoAnotherProgram) {
 
 TEST_F(Lookup, ComesBackAboveAllOthersWheneverItPaints) {
   const RECT rect = clientRectOf(window.window());
-  const Cover cover({rect.left, rect.top, rect.right, rect.top + 100});
+  const OverlayWindow cover({rect.left, rect.top, rect.right, rect.top + 100});
   const POINT covered{rect.left + 20, rect.top + 5};
   waitFor("the window to be covered", [&] { return topWindowAt(covered) == cover.window(); });
   repaint(window.window());
@@ -292,4 +292,4 @@ TEST_F(Lookup, OpenedAgainItStartsAtTheLetterA) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

@@ -4,12 +4,12 @@
 #include <string>
 
 #include "forms/geometry.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/lexilo.h"
-#include "tests/program/harness/message_box.h"
-#include "tests/program/harness/settings.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/lexilo.h"
+#include "tests/support/process/message_box.h"
+#include "tests/support/process/settings.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 /// Sizes in twips, as the settings keep them.
@@ -100,7 +100,7 @@ void minimise(const QuickLookup& window) {
     try {
       runBelow("xdotool search --onlyvisible --name '^速查 V1.3$' windowminimize");
     } catch (const Failure&) {
-      tellOnceMore("the display to know the window");
+      reportRetry("the display to know the window");
     }
   };
   actUntil("the window to be minimised", command,
@@ -219,4 +219,4 @@ TEST_F(SizesKept, ASizeThatIsNoNumberIsToldAndReplacedAtClosing) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

@@ -4,14 +4,14 @@
 #include <filesystem>
 
 #include "forms/geometry.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/lexilo.h"
-#include "tests/program/harness/message_box.h"
-#include "tests/program/harness/notepad.h"
-#include "tests/program/harness/popup_menu.h"
-#include "tests/program/harness/screen.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/lexilo.h"
+#include "tests/support/process/message_box.h"
+#include "tests/support/process/notepad.h"
+#include "tests/support/process/popup_menu.h"
+#include "tests/support/process/screen.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 class Startup : public ::testing::Test {};
@@ -34,9 +34,12 @@ TEST_F(Startup, ASecondInstanceEndsWithoutAWindow) {
   const Lexilo first(folder);
   first.waitUntilSeen();
   const Lexilo second(folder);
-  const bool windowless = neverWithin(1'000, [&] {
-    return findWindow({.process = second.process().id(), .className = {}, .title = {}}) != nullptr;
-  });
+  const bool windowless = never(
+      [&] {
+        return findWindow({.process = second.process().id(), .className = {}, .title = {}}) !=
+               nullptr;
+      },
+      1'000);
   EXPECT_TRUE(windowless);
   EXPECT_EQ(second.process().waitForExit(), 0U);
   EXPECT_TRUE(first.process().running());
@@ -69,7 +72,7 @@ TEST_F(Startup, LooksUpEnglishAlsoWhenTheToolbarLosesTheFocusAtOnce) {
   static_cast<void>(lexilo.toolbar());
   waitFor("Notepad to be in front", [&] {
     input::click(text);
-    return !neverWithin(kReactionTime, [&] { return GetForegroundWindow() == notepad.window(); });
+    return eventually([&] { return GetForegroundWindow() == notepad.window(); }, kReactionTime);
   });
   lexilo.waitUntilSeen();
   const QuickLookup window = lexilo.openQuickLookupAtA();
@@ -116,4 +119,4 @@ TEST_F(Startup, WithoutADictionaryTheQuickLookupWindowStillOpensAndCloses) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

@@ -6,16 +6,16 @@
 #include <utility>
 
 #include "forms/geometry.h"
-#include "tests/program/harness/browser.h"
-#include "tests/program/harness/cover.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/lexilo.h"
-#include "tests/program/harness/message_box.h"
-#include "tests/program/harness/notepad.h"
-#include "tests/program/harness/popup_menu.h"
-#include "tests/program/harness/screen.h"
+#include "tests/support/process/browser.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/lexilo.h"
+#include "tests/support/process/message_box.h"
+#include "tests/support/process/notepad.h"
+#include "tests/support/process/overlay_window.h"
+#include "tests/support/process/popup_menu.h"
+#include "tests/support/process/screen.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 class Toolbar : public ::testing::Test {
@@ -72,7 +72,7 @@ TEST_F(Toolbar, KeepsItsSizeWhenDragged) {
 
 TEST_F(Toolbar, ComesBackAboveAllOthersWheneverItPaints) {
   const RECT rect = rectOf(toolbar);
-  const Cover cover({rect.left, rect.top, rect.left + 60, rect.bottom});
+  const OverlayWindow cover({rect.left, rect.top, rect.left + 60, rect.bottom});
   const POINT covered{rect.left + 20, rect.top + 5};
   waitFor("the toolbar to be covered", [&] { return topWindowAt(covered) == cover.window(); });
   repaint(toolbar);
@@ -148,7 +148,7 @@ TEST_F(Toolbar, ItsMenuTogglesTheSamePicture) {
 TEST_F(Toolbar, DoesNotCloseByAltF4) {
   lexilo.click(ToolbarButton::kCapture);
   input::key(VK_F4, {VK_MENU});
-  EXPECT_TRUE(neverWithin(500, [&] { return !lexilo.process().running(); }));
+  EXPECT_TRUE(never([&] { return !lexilo.process().running(); }, 500));
   EXPECT_TRUE(IsWindowVisible(toolbar));
 }
 
@@ -213,4 +213,4 @@ TEST_F(Toolbar, ItsHelpButtonStartsTheBrowserWithThePageThatIsThere) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

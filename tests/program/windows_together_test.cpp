@@ -3,14 +3,14 @@
 
 #include <algorithm>
 
-#include "tests/program/harness/button.h"
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/dictionary_windows.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/message_box.h"
-#include "tests/program/harness/screen.h"
+#include "tests/support/process/button.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/dictionary_windows.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/message_box.h"
+#include "tests/support/process/screen.h"
 
-namespace harness {
+namespace support {
 namespace {
 
 constexpr RECT kMiddle{260, 200, 1020, 800};  ///< leaves no room beside it for the query window
@@ -146,4 +146,4 @@ TEST_F(WindowsTogether, TheKeyboardStaysInTheSpecialQueryAfterItsWarning) {
 }
 
 }  // namespace
-}  // namespace harness
+}  // namespace support

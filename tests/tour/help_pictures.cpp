@@ -9,22 +9,22 @@
 #include <span>
 #include <string>
 
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/dictionary_windows.h"
-#include "tests/program/harness/input.h"
-#include "tests/program/harness/meaning_popup.h"
-#include "tests/program/harness/notepad.h"
-#include "tests/program/harness/popup_menu.h"
-#include "tests/program/harness/screen.h"
-#include "tests/program/harness/settings.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/dictionary_windows.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/meaning_popup.h"
+#include "tests/support/process/notepad.h"
+#include "tests/support/process/popup_menu.h"
+#include "tests/support/process/screen.h"
+#include "tests/support/process/settings.h"
 
 namespace {
 
-using namespace harness;
+using namespace support;
 
-class Photographer {
+class ScreenshotOnFailure {
  public:
-  explicit Photographer(std::string folder) : folder_(std::move(folder)) {}
+  explicit ScreenshotOnFailure(std::string folder) : folder_(std::move(folder)) {}
 
   void takeAll() const {
     settings::clear();
@@ -84,7 +84,7 @@ class Photographer {
     const POINT place = editPosition(notepad.edit(), 18);
     input::moveTo({place.x + 3, place.y + 6});
     (void)popup.waitFor(L"catalyst");
-    Sleep(kReactionTime);
+    passTime(kReactionTime);
     takeWindow(notepad.window(), "popup");
     input::moveTo(kAwayFromTexts);
     popup.waitUntilClosed();
@@ -117,7 +117,7 @@ int main(int argc, char** argv) {
     return EXIT_FAILURE;
   }
   try {
-    Photographer(arguments[1]).takeAll();
+    ScreenshotOnFailure(arguments[1]).takeAll();
     return EXIT_SUCCESS;
   } catch (const std::exception& error) {
     std::printf("error: %s\n", error.what());

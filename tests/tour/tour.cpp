@@ -9,13 +9,13 @@
 #include <span>
 #include <string>
 
-#include "tests/program/harness/lexilo.h"
-#include "tests/program/harness/screen.h"
-#include "tests/program/harness/text.h"
+#include "tests/support/process/lexilo.h"
+#include "tests/support/process/screen.h"
+#include "tests/support/process/text.h"
 
 namespace {
 
-using namespace harness;
+using namespace support;
 
 class Tour {
  public:

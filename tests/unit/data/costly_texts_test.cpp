@@ -9,8 +9,8 @@
 #include "data/error.h"
 #include "data/record_set.h"
 #include "query/subject_search.h"
-#include "tests/unit/support/hostile_texts.h"
-#include "tests/unit/support/sample_database.h"
+#include "tests/support/data/hostile_texts.h"
+#include "tests/support/data/sample_database.h"
 #include "text/utf.h"
 
 namespace {

@@ -6,9 +6,9 @@
 
 #include "data/database.h"
 #include "data/error.h"
-#include "tests/unit/support/file_layer.h"
-#include "tests/unit/support/plain_read.h"
-#include "tests/unit/support/sample_database.h"
+#include "tests/support/data/file_layer.h"
+#include "tests/support/data/plain_read.h"
+#include "tests/support/data/sample_database.h"
 
 namespace {
 

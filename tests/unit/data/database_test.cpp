@@ -7,7 +7,7 @@
 #include <chrono>
 
 #include "data/error.h"
-#include "tests/unit/support/sample_database.h"
+#include "tests/support/data/sample_database.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <limits>
 #include <stdexcept>
 
-#include "tests/unit/support/sample_database.h"
-#include "tests/unit/support/statement_watch.h"
+#include "tests/support/data/sample_database.h"
+#include "tests/support/data/statement_watch.h"
 #include "text/query_text.h"
 
 namespace {

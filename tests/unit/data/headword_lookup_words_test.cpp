@@ -4,7 +4,7 @@
 #include <set>
 
 #include "data/headword_lookup.h"
-#include "tests/unit/support/sample_dictionary.h"
+#include "tests/support/data/sample_dictionary.h"
 #include "text/order.h"
 #include "text/query_text.h"
 

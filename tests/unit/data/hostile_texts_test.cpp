@@ -1,4 +1,4 @@
-#include "tests/unit/support/hostile_texts.h"
+#include "tests/support/data/hostile_texts.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +11,8 @@
 #include "data/database.h"
 #include "data/lookup_sql.h"
 #include "data/record_set.h"
-#include "tests/unit/support/small_dictionary.h"
-#include "tests/unit/support/window_queries.h"
+#include "tests/support/data/small_dictionary.h"
+#include "tests/support/data/window_queries.h"
 #include "text/query_text.h"
 
 namespace {

@@ -6,7 +6,7 @@
 
 #include "data/error.h"
 #include "data/headword_lookup.h"
-#include "tests/unit/support/sample_database.h"
+#include "tests/support/data/sample_database.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "data/database.h"
 #include "data/error.h"
-#include "tests/unit/support/sample_database.h"
+#include "tests/support/data/sample_database.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include "data/database.h"
 #include "data/error.h"
 #include "data/record_set.h"
-#include "tests/unit/support/sample_database.h"
-#include "tests/unit/support/unprivileged.h"
+#include "tests/support/data/sample_database.h"
+#include "tests/support/data/unprivileged.h"
 
 namespace {
 

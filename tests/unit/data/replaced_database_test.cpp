@@ -8,10 +8,10 @@
 #include "dictionary/check/check.h"
 #include "dictionary/console.h"
 #include "dictionary/database/temporary_file.h"
-#include "tests/unit/support/file_layer.h"
-#include "tests/unit/support/plain_read.h"
-#include "tests/unit/support/small_dictionary.h"
-#include "tests/unit/support/window_queries.h"
+#include "tests/support/data/file_layer.h"
+#include "tests/support/data/plain_read.h"
+#include "tests/support/data/small_dictionary.h"
+#include "tests/support/data/window_queries.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 #include <filesystem>
 #include <fstream>
 
-#include "tests/unit/support/sample_dictionary.h"
-#include "tests/unit/support/small_dictionary.h"
-#include "tests/unit/support/unprivileged.h"
+#include "tests/support/data/sample_dictionary.h"
+#include "tests/support/data/small_dictionary.h"
+#include "tests/support/data/unprivileged.h"
 
 namespace {
 

@@ -9,10 +9,10 @@
 #include <utility>
 #include <vector>
 
-#include "tests/unit/support/file_layer.h"
-#include "tests/unit/support/small_dictionary.h"
-#include "tests/unit/support/sound_database.h"
-#include "tests/unit/support/window_queries.h"
+#include "tests/support/data/file_layer.h"
+#include "tests/support/data/small_dictionary.h"
+#include "tests/support/data/valid_database.h"
+#include "tests/support/data/window_queries.h"
 
 namespace {
 
@@ -88,7 +88,7 @@ TEST(DefaultFlagKilled, AtAnyMomentEveryWindowReadsAndTheNextClickRepairs) {
     // The catalogue and the head of the file, which counts the changes.
     EXPECT_LE(changedPages(before, support::readFile(file)), 2U);
     EXPECT_EQ(catalogue(file), dictionaries);
-    if (kills % 15 == 0) support::expectSoundButForTheDefault(file);
+    if (kills % 15 == 0) support::expectValidExceptDefault(file);
     stored = 1 + ((node + 3) % kDictionaries);
     support::clickDictionary(file, stored);
     EXPECT_EQ(support::storedDefaults(file), std::vector<std::size_t>{stored});

@@ -8,8 +8,8 @@
 
 #include "dictionary/database/schema.h"
 #include "query/subject_search.h"
-#include "tests/unit/support/random_text.h"
-#include "tests/unit/support/sample_database.h"
+#include "tests/support/data/random_text.h"
+#include "tests/support/data/sample_database.h"
 #include "text/like.h"
 #include "text/order.h"
 #include "text/query_text.h"

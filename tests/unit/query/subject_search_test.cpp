@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "query/catalogue.h"
-#include "tests/unit/support/sample_database.h"
+#include "tests/support/data/sample_database.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "tests/unit/support/random_text.h"
+#include "tests/support/data/random_text.h"
 #include "text/like.h"
 #include "text/order.h"
 #include "text/utf.h"

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "tests/unit/support/common_characters.h"
-#include "tests/unit/support/random_text.h"
+#include "tests/support/data/common_characters.h"
+#include "tests/support/data/random_text.h"
 #include "text/utf.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "tests/unit/support/random_text.h"
+#include "tests/support/data/random_text.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 
 #include "capture/screen_word.h"
 #include "forms/widget.h"
-#include "tests/windows/support/frm_top_test.h"
+#include "tests/support/window/frm_top_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmAbout : public FrmTopTest {
@@ -66,7 +66,7 @@ TEST_F(FrmAbout, EveryTextFits) {
 
 TEST_F(FrmAbout, ItsButtonEnterAndEscCloseIt) {
   opened<frmAbout>();
-  input::click(centreOf(about().cmdOK));
+  injected::click(centreOf(about().cmdOK));
   EXPECT_TRUE(closed());
   for (const WORD key : std::initializer_list<WORD>{VK_RETURN, VK_ESCAPE, VK_SPACE}) {
     opened<frmAbout>();
@@ -95,4 +95,4 @@ TEST_F(FrmAbout, OpensWhollyOnTheScreenAndHoldsNoOtherWindow) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

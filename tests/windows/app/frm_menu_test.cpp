@@ -1,11 +1,11 @@
 #include "app/frm_about.h"
 #include "capture/screen_word.h"
 #include "lookup/frm_sub.h"
-#include "tests/windows/support/frm_top_test.h"
-#include "tests/windows/support/started_page.h"
+#include "tests/support/window/frm_top_test.h"
+#include "tests/support/window/started_browser.h"
 #include "win32/program.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 // Numbers of the items without the separators, as the Down key counts them.
@@ -93,7 +93,7 @@ TEST_F(FrmMenu, CaptureRestsAndRunsAsWellWhenTheKeysOpenIt) {
     top().Command1.setFocus();
     ASSERT_TRUE(eventually([] { return captureRuns(); }));
     bool rested = false;
-    const Watcher user([&] {
+    const ModalPoller user([&] {
       if (openMenu() == nullptr) return false;
       rested = !captureRuns();
       input::key(VK_ESCAPE);
@@ -117,14 +117,14 @@ TEST_F(FrmMenu, CaptureRunsAfterwardsEvenIfItWasSwitchedOff) {
 
 TEST_F(FrmMenu, AClickElsewhereClosesItLikeEsc) {
   start();
-  withMenu([](HWND) { input::click(kNowhere); });
+  withMenu([](HWND) { injected::click(kNowhere); });
   EXPECT_TRUE(eventually([] { return captureRuns(); }));
 }
 
 TEST_F(FrmMenu, TheButtonThatOpenedItClosesIt) {
   start();
-  withMenu([](HWND) { input::click(centreOf(top().Command1)); });
-  EXPECT_TRUE(allAlong([] { return openMenu() == nullptr; }, 100));
+  withMenu([](HWND) { injected::click(centreOf(top().Command1)); });
+  EXPECT_TRUE(always([] { return openMenu() == nullptr; }, 100));
   EXPECT_TRUE(captureRuns());
   // And opens it again.
   bool opened = false;
@@ -174,7 +174,7 @@ TEST_F(FrmMenu, HelpIsTheToolbars) {
   start();
   useAsBrowser();
   chooseFromMenu(kHelp);
-  const StartedBrowser browser = awaitBrowser();
+  const StartedBrowser browser = waitForBrowser();
   EXPECT_EQ(browser.program, user::BrowserPath) << "another program was started";
   EXPECT_EQ(browser.name, user::BrowserPath);
   EXPECT_EQ(browser.page, win32::applicationFolder() + u"\\help\\help.htm");
@@ -195,7 +195,7 @@ TEST_F(FrmMenu, TheWebSiteStartsTheBrowserWithItsAddress) {
   start();
   useAsBrowser();
   chooseFromMenu(kWebSite);
-  const StartedBrowser browser = awaitBrowser();
+  const StartedBrowser browser = waitForBrowser();
   EXPECT_EQ(browser.program, user::BrowserPath) << "another program was started";
   EXPECT_EQ(browser.name, user::BrowserPath);
   EXPECT_EQ(browser.page, app::kHomePageAddress);
@@ -219,4 +219,4 @@ TEST_F(FrmMenu, TheWebSiteWithoutABrowserIsAnUncaughtError) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -2,10 +2,10 @@
 #include "app/frm_about.h"
 #include "query/frm_dict_setting.h"
 #include "query/frm_main.h"
-#include "tests/windows/support/frm_top_test.h"
-#include "tests/windows/support/query_test.h"
+#include "tests/support/window/frm_top_test.h"
+#include "tests/support/window/query_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 // Numbers of the items without the separators, as the Down key counts them.
@@ -87,10 +87,10 @@ TEST_F(FrmMenuWindows, CaptureRestsInTheSettingsThatTheToolbarOpens) {
   click(top().cmdDictSetting);
   ASSERT_TRUE(opens<frmdictSetting>());
   EXPECT_TRUE(eventually([] { return !captureRuns(); }));
-  EXPECT_TRUE(allAlong([] { return !captureRuns(); }, 40));
+  EXPECT_TRUE(always([] { return !captureRuns(); }, 40));
   forms::form<frmdictSetting>().unload();
   EXPECT_TRUE(captureRuns());
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

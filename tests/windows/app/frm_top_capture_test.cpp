@@ -1,8 +1,8 @@
 #include "capture/screen_word.h"
-#include "tests/windows/support/frm_top_test.h"
-#include "tests/windows/support/other_program.h"
+#include "tests/support/window/frm_top_test.h"
+#include "tests/support/window/other_program.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmTopCapture : public FrmTopTest {};
@@ -40,7 +40,7 @@ TEST_F(FrmTopCapture, MovingAmongTheButtonsIsNoLossOfFocus) {
   click(top().cmdMouse);
   input::key(VK_TAB);
   input::key(VK_TAB);
-  EXPECT_TRUE(allAlong([] { return !captureRuns(); }, 60));
+  EXPECT_TRUE(always([] { return !captureRuns(); }, 60));
 }
 
 TEST_F(FrmTopCapture, LosingTheFocusStopsTheDragTimer) {
@@ -67,4 +67,4 @@ TEST_F(FrmTopCapture, TheSwitchesLoadTheHostAndMayBeRepeated) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,6 +1,6 @@
-#include "tests/windows/support/frm_top_test.h"
+#include "tests/support/window/frm_top_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmTopDrag : public FrmTopTest {
@@ -15,18 +15,18 @@ class FrmTopDrag : public FrmTopTest {
 
   /// Presses at a place of the handle and holds until the timer has ticked.
   static void grip(int dx, int dy) {
-    input::moveTo({corner().x + dx, corner().y + dy});
+    injected::moveTo({corner().x + dx, corner().y + dy});
     passTime(20);
-    input::pressLeft();
+    injected::pressLeft();
     ASSERT_TRUE(eventually([] { return top().Timer1.enabled(); }));
     passTime(60);
   }
   static void moveTo(LONG x, LONG y) {
-    input::moveTo({x, y});
+    injected::moveTo({x, y});
     passTime(10);
   }
   static void letGo() {
-    input::releaseLeft();
+    injected::releaseLeft();
     ASSERT_TRUE(eventually([] { return !top().Timer1.enabled(); }));
   }
 };
@@ -86,9 +86,9 @@ TEST_F(FrmTopDrag, LosingTheMouseEndsIt) {
   ASSERT_TRUE(eventually([] { return !top().Timer1.enabled(); }));
   moveTo(600, 400);
   EXPECT_TRUE(cornerAt(400, 300));
-  input::releaseLeft();
+  injected::releaseLeft();
   passTime(30);
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,8 +1,8 @@
-#include "tests/windows/support/frm_top_test.h"
-#include "tests/windows/support/other_program.h"
+#include "tests/support/window/frm_top_test.h"
+#include "tests/support/window/other_program.h"
 #include "win32/program.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmTopStart : public FrmTopTest {};
@@ -32,7 +32,7 @@ TEST_F(FrmTopStart, LoadsTheIndexOnlyWithTheFirstTick) {
 
 TEST_F(FrmTopStart, TheIndexIsThatOfTheDatabase) {
   start();
-  const auto rows = sampleDictionary().ordered(&support::SampleDictionary::Pair::english);
+  const auto rows = sampleDictionary().ordered(&SampleDictionary::Pair::english);
   ASSERT_EQ(user::IdxWords.size(), (rows.size() / 100) + 1);
   EXPECT_EQ(user::IdxWords[0], u"");
   for (std::size_t slot = 1; slot < user::IdxWords.size(); ++slot) {
@@ -79,7 +79,7 @@ TEST_F(FrmTopStart, AnIndexBeyond16BitsIsAnUncaughtError) {
   EXPECT_TRUE(user::IdxWords.empty());
   // The error ends the tick before its last step, and no later tick loads the index again.
   EXPECT_TRUE(form.Timer1.enabled());
-  EXPECT_TRUE(allAlong([this] { return boxes.count() == 0; }, 60));
+  EXPECT_TRUE(always([this] { return boxes.count() == 0; }, 60));
   EXPECT_TRUE(user::IdxWords.empty());
   unloadAll();
 }
@@ -107,7 +107,7 @@ TEST_F(FrmTopStart, AMissingDatabaseIsToldOnceAndTheToolbarStays) {
                 u"如果它不见了，请重新解压或重新安装 Lexilo。"
                 u"\n\nunable to open database file");
   EXPECT_TRUE(IsWindowVisible(form.handle()));
-  EXPECT_TRUE(allAlong([this] { return boxes.count() == 0; }, 60));
+  EXPECT_TRUE(always([this] { return boxes.count() == 0; }, 60));
   EXPECT_FALSE(std::filesystem::exists(besideProgram()));
   unloadAll();
 }
@@ -143,7 +143,7 @@ TEST_F(FrmTopStart, TheHostOfCaptureIsLoadedAndHidden) {
 
 TEST_F(FrmTopStart, KeepsTheFocusThroughIt) {
   frmTop& form = start();
-  EXPECT_TRUE(allAlong([&] { return GetActiveWindow() == form.handle(); }, 60));
+  EXPECT_TRUE(always([&] { return GetActiveWindow() == form.handle(); }, 60));
 }
 
 TEST_F(FrmTopStart, AnErrorOnTheWayIsToldAndWhatWasDoneStays) {
@@ -170,4 +170,4 @@ TEST_F(FrmTopStart, AnErrorOnTheWayIsToldAndWhatWasDoneStays) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

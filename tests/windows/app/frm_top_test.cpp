@@ -1,11 +1,11 @@
-#include "tests/windows/support/frm_top_test.h"
+#include "tests/support/window/frm_top_test.h"
 #include "app/commands.h"
 #include "lookup/frm_sub.h"
-#include "tests/windows/support/other_program.h"
-#include "tests/windows/support/started_page.h"
+#include "tests/support/window/other_program.h"
+#include "tests/support/window/started_browser.h"
 #include "win32/program.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmTop : public FrmTopTest {};
@@ -36,7 +36,7 @@ TEST_F(FrmTop, EveryButtonHasAPictureAndTheTwoThatHoldOneAreHidden) {
 
 TEST_F(FrmTop, TheFirstButtonOpensTheQuickLookupWindow) {
   start();
-  input::click(centreOf(top().cmdMain));
+  injected::click(centreOf(top().cmdMain));
   ASSERT_TRUE(eventually([] { return forms::isLoaded<frmSub>(); }));
   awaitActive(forms::form<frmSub>());
   EXPECT_TRUE(IsWindowVisible(top().handle()));
@@ -50,7 +50,7 @@ TEST_F(FrmTop, StaysAboveOtherWindowsWithEveryPaintAndTakesNoFocus) {
   ASSERT_TRUE(isAbove(other.window(), form.handle()));
   RedrawWindow(form.handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
   EXPECT_TRUE(eventually([&] { return isAbove(form.handle(), other.window()); }));
-  EXPECT_TRUE(allAlong([&] { return other.isForeground(); }, 60));
+  EXPECT_TRUE(always([&] { return other.isForeground(); }, 60));
 }
 
 TEST_F(FrmTop, IgnoresAltF4AndHasNoCloseBox) {
@@ -58,7 +58,7 @@ TEST_F(FrmTop, IgnoresAltF4AndHasNoCloseBox) {
   const HWND window = form.handle();
   input::key(VK_F4, {VK_MENU});
   SendMessageW(window, WM_CLOSE, 0, 0);
-  EXPECT_TRUE(allAlong([&] { return IsWindow(window) && forms::isLoaded<frmTop>(); }, 80));
+  EXPECT_TRUE(always([&] { return IsWindow(window) && forms::isLoaded<frmTop>(); }, 80));
   EXPECT_EQ(GetWindowLongPtrW(window, GWL_STYLE) & (WS_SYSMENU | WS_CAPTION), 0);
 }
 
@@ -88,7 +88,7 @@ TEST_F(FrmTop, HelpStartsTheBrowserWithThePage) {
   start();
   useAsBrowser();
   click(top().cmdHelp);
-  const StartedBrowser browser = awaitBrowser();
+  const StartedBrowser browser = waitForBrowser();
   EXPECT_EQ(browser.program, user::BrowserPath) << "another program was started";
   EXPECT_EQ(browser.name, user::BrowserPath);
   EXPECT_EQ(browser.page, win32::applicationFolder() + u"\\help\\help.htm");
@@ -98,7 +98,7 @@ TEST_F(FrmTop, APageWhosePathHasBlanksReachesTheBrowserAsItStands) {
   useAsBrowser();
   const std::u16string page = u"C:\\My Programs\\Lexilo 1.3\\help\\help.htm";
   app::openInBrowser(page);
-  const StartedBrowser browser = awaitBrowser();
+  const StartedBrowser browser = waitForBrowser();
   EXPECT_EQ(browser.program, user::BrowserPath);
   EXPECT_EQ(browser.name, user::BrowserPath);
   EXPECT_EQ(browser.page, page);
@@ -136,4 +136,4 @@ TEST_F(FrmTop, TypingElsewhereIsNotDisturbedByAHundredRepaintsOfOurWindows) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

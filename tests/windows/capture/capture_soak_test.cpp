@@ -11,11 +11,11 @@
 #include <vector>
 
 #include "forms/loaded_forms.h"
-#include "tests/program/harness/controls.h"
-#include "tests/windows/support/capture_test.h"
-#include "tests/windows/support/text_program.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/window/capture_test.h"
+#include "tests/support/window/system_editor.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 /// What a process holds that a user would miss sooner or later.
@@ -127,7 +127,7 @@ Held held() {
   return {heapBytes(), gdiObjects(), threads(), handlesOf(GetCurrentProcessId())};
 }
 
-HeldByOther heldBy(const TextProgram& program) {
+HeldByOther heldBy(const SystemEditor& program) {
   return {committedBy(program.process().handle()), handlesOf(program.process().id())};
 }
 
@@ -153,9 +153,9 @@ class CaptureSoak : public CaptureTest {
 
 TEST_F(CaptureSoak, TwoThousandCapturesLeaveNothingBehind) {
   const PlainWindow edit(L"Edit", {200, 720, 900, 800}, L"data bit datum it's");
-  const TextProgram program(TextProgram::Kind::kWordPad, u"data bit datum it's");
+  const SystemEditor program(SystemEditor::Kind::kWordPad, u"data bit datum it's");
   const auto inRichEdit = [&](LONG index) {
-    const POINT corner = harness::richTextPosition(program.control(), index);
+    const POINT corner = richTextPosition(program.control(), index);
     return POINT{corner.x + 4, corner.y + 6};
   };
   const std::array plain{wordPoint(edit.handle(), 0), wordPoint(edit.handle(), 5)};
@@ -188,4 +188,4 @@ TEST_F(CaptureSoak, TwoThousandCapturesLeaveNothingBehind) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

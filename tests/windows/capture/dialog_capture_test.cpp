@@ -7,9 +7,9 @@
 #include "lookup/frm_sub.h"
 #include "query/frm_dict_setting.h"
 #include "query/frm_spc.h"
-#include "tests/windows/support/query_test.h"
+#include "tests/support/window/query_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 /// One way of opening a dialog and closing it.
@@ -96,7 +96,7 @@ class DialogCapture : public QueryTest,
     EXPECT_TRUE(eventually([&] {
       front = GetForegroundWindow();
       return forms::Form::of(front) != nullptr &&
-             allAlong([&] { return GetForegroundWindow() == front; }, 50);
+             always([&] { return GetForegroundWindow() == front; }, 50);
     }));
     const forms::Form* form = forms::Form::of(front);
     return form != nullptr ? *form : QueryTest::form();
@@ -117,15 +117,16 @@ TEST_P(DialogCapture, RestsInItAndThenFollowsTheFocus) {
   const forms::Form& dialog = closing.open();
   awaitActive(dialog);
   EXPECT_TRUE(rests());
-  EXPECT_TRUE(allAlong([] { return !captureRuns(); }, 40));
+  EXPECT_TRUE(always([] { return !captureRuns(); }, 40));
 
   // Keys go where the window manager has the front.
-  ASSERT_TRUE(untilItLasts(
+  actUntil(
+      "a dialog to close",
       [&] {
         awaitActive(dialog);
         closing.close();
       },
-      [&] { return !closing.isOpen(); }));
+      [&] { return !closing.isOpen(); }, kLastingWindow);
   static_cast<void>(boxes.take());  // what a search without hits says
   // The dialog's owner comes to the front behind it, even from behind another window.
   awaitActive(back == Back::kQuickLookupBox ? lastingFront() : form());
@@ -134,7 +135,7 @@ TEST_P(DialogCapture, RestsInItAndThenFollowsTheFocus) {
       focus == form().txtInput.handle() ||
       (forms::isLoaded<frmSub>() && focus == forms::form<frmSub>().txtInput.handle());
   EXPECT_TRUE(typing ? rests() : runs());
-  EXPECT_TRUE(allAlong([&] { return captureRuns() != typing; }, 40));
+  EXPECT_TRUE(always([&] { return captureRuns() != typing; }, 40));
   // The button that opens the special search takes the focus first, as buttons do.
   const bool byButton = std::string_view(closing.name).starts_with("Special");
   if (back != Back::kQuickLookupBox) {
@@ -157,4 +158,4 @@ INSTANTIATE_TEST_SUITE_P(EveryWay, DialogCapture,
                          nameOf);
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,11 +1,11 @@
 #include "forms/loaded_forms.h"
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/find.h"
-#include "tests/windows/support/capture_test.h"
-#include "tests/windows/support/other_program.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/find.h"
+#include "tests/support/window/capture_test.h"
+#include "tests/support/window/other_program.h"
 #include "win32/monitor.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 constexpr COLORREF kRed = RGB(255, 0, 0);
@@ -14,7 +14,7 @@ constexpr POINT kPointer{300, 400};
 
 class FrmScreenWordMeaning : public CaptureTest {
  protected:
-  FrmScreenWordMeaning() { input::moveTo(kPointer); }
+  FrmScreenWordMeaning() { injected::moveTo(kPointer); }
 
   static std::u16string show(std::u16string word) {
     auto& form = popup();
@@ -42,7 +42,7 @@ TEST_F(FrmScreenWordMeaning, OpensAsDesigned) {
   EXPECT_EQ(box.top, 0);
   EXPECT_EQ(box.width, 3375);
   EXPECT_EQ(box.height, 1335);
-  EXPECT_EQ(harness::textOf(form.handle()), L"Form2");
+  EXPECT_EQ(textOf(form.handle()), L"Form2");
   EXPECT_FALSE(IsWindowVisible(form.handle()));
 }
 
@@ -67,7 +67,7 @@ TEST_F(FrmScreenWordMeaning, TheHeadwordIsRedAndTheMeaningsAreBlue) {
   EXPECT_EQ(text, u"bit\r\n比特；位；一点");
   std::vector<COLORREF> expected(4, kRed);
   expected.resize(text.size() - 1, kBlue);
-  EXPECT_EQ(harness::richTextColours(popup().txtOut.handle()), expected);
+  EXPECT_EQ(richTextColours(popup().txtOut.handle()), expected);
   EXPECT_EQ(popup().txtOut.selStart(), 0U);
   EXPECT_EQ(popup().txtOut.selLength(), 0U);
 }
@@ -81,7 +81,7 @@ TEST_F(FrmScreenWordMeaning, AWordWithoutRowsIsTriedWithoutItsLastCharacter) {
 TEST_F(FrmScreenWordMeaning, SaysInBlueThatNothingWasFound) {
   EXPECT_EQ(show(u"nosuchword"), u"nosuchword\r\n<没找到>");
   EXPECT_TRUE(popupIsUp());
-  const auto colours = harness::richTextColours(popup().txtOut.handle());
+  const auto colours = richTextColours(popup().txtOut.handle());
   EXPECT_EQ(colours.front(), kRed);
   EXPECT_EQ(colours.back(), kBlue);
 }
@@ -189,7 +189,7 @@ TEST_F(FrmScreenWordMeaning, AMissingDatabaseEndsSilently) {
 
 TEST_F(FrmScreenWordMeaning, WhileHiddenItLiesWhollyOnThePointersMonitor) {
   const RECT screen = win32::monitorAt(kPointer).bounds;
-  input::moveTo({screen.right - 5, screen.bottom - 5});
+  injected::moveTo({screen.right - 5, screen.bottom - 5});
   const RECT rect = rectOf(popup().handle());
   RECT common{};
   EXPECT_TRUE(IntersectRect(&common, &rect, &screen));
@@ -198,7 +198,7 @@ TEST_F(FrmScreenWordMeaning, WhileHiddenItLiesWhollyOnThePointersMonitor) {
 
 TEST_F(FrmScreenWordMeaning, NearTheRightEdgeItEnds30PixelsBeforeIt) {
   const RECT screen = win32::monitorAt(kPointer).bounds;
-  input::moveTo({screen.right - 40, 400});
+  injected::moveTo({screen.right - 40, 400});
   show(u"data");
   // The last third of a pixel that the width has may go to either side.
   EXPECT_NEAR(rectOf(popup().handle()).right, screen.right - 30, 1);
@@ -206,7 +206,7 @@ TEST_F(FrmScreenWordMeaning, NearTheRightEdgeItEnds30PixelsBeforeIt) {
 
 TEST_F(FrmScreenWordMeaning, NearTheBottomItReachesBelowTheScreen) {
   const RECT screen = win32::monitorAt(kPointer).bounds;
-  input::moveTo({300, screen.bottom - 20});
+  injected::moveTo({300, screen.bottom - 20});
   show(u"data");
   EXPECT_EQ(rectOf(popup().handle()).top, screen.bottom - 10);
 }
@@ -232,11 +232,11 @@ TEST_F(FrmScreenWordMeaning, TakesNoFocusAndNoKeys) {
   EXPECT_TRUE(eventually([&] { return other.text() == u"typed on"; }));
   EXPECT_TRUE(other.isForeground());
   // A click may leave the desktop in the foreground on a display of its own, never one of ours.
-  input::click({rectOf(popup().handle()).left + 20, rectOf(popup().handle()).top + 20});
+  injected::click({rectOf(popup().handle()).left + 20, rectOf(popup().handle()).top + 20});
   const auto oursIsNot = [] {
     return GetWindowThreadProcessId(GetForegroundWindow(), nullptr) != GetCurrentThreadId();
   };
-  EXPECT_TRUE(allAlong(oursIsNot, 200));
+  EXPECT_TRUE(always(oursIsNot, 200));
   EXPECT_EQ(
       SendMessageW(popup().handle(), WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(popup().handle()),
                    MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN)),
@@ -245,16 +245,16 @@ TEST_F(FrmScreenWordMeaning, TakesNoFocusAndNoKeys) {
 
 TEST_F(FrmScreenWordMeaning, FivePixelsAreNoMove) {
   show(u"data");
-  input::moveTo({kPointer.x + 5, kPointer.y - 5});
-  EXPECT_TRUE(allAlong([] { return popupIsUp(); }, 120));
+  injected::moveTo({kPointer.x + 5, kPointer.y - 5});
+  EXPECT_TRUE(always([] { return popupIsUp(); }, 120));
 }
 
 TEST_F(FrmScreenWordMeaning, SixPixelsCloseItAndCaptureGoesOn) {
   for (const POINT move : {POINT{6, 0}, POINT{-6, 0}, POINT{0, 6}, POINT{0, -6}}) {
-    input::moveTo(kPointer);
+    injected::moveTo(kPointer);
     ScreenWord::StopCapture();
     show(u"data");
-    input::moveTo({kPointer.x + move.x, kPointer.y + move.y});
+    injected::moveTo({kPointer.x + move.x, kPointer.y + move.y});
     EXPECT_TRUE(eventually([] { return !forms::isLoaded<frmScreenWordMeaning>(); }));
     EXPECT_TRUE(captureRuns());
   }
@@ -262,9 +262,9 @@ TEST_F(FrmScreenWordMeaning, SixPixelsCloseItAndCaptureGoesOn) {
 
 TEST_F(FrmScreenWordMeaning, MovingOntoItClosesItToo) {
   show(u"data");
-  input::moveTo({rectOf(popup().handle()).left + 20, rectOf(popup().handle()).top + 20});
+  injected::moveTo({rectOf(popup().handle()).left + 20, rectOf(popup().handle()).top + 20});
   EXPECT_TRUE(eventually([] { return !forms::isLoaded<frmScreenWordMeaning>(); }));
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

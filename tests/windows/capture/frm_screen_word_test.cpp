@@ -2,12 +2,12 @@
 #include "capture/nhw32/service.h"
 #include "forms/dispatcher.h"
 #include "forms/loaded_forms.h"
-#include "tests/program/harness/find.h"
-#include "tests/windows/support/capture_test.h"
-#include "tests/windows/support/shown_watch.h"
-#include "tests/windows/support/window_everywhere.h"
+#include "tests/support/process/find.h"
+#include "tests/support/window/capture_test.h"
+#include "tests/support/window/show_counter.h"
+#include "tests/support/window/window_everywhere.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmScreenWord : public CaptureTest {
@@ -102,7 +102,7 @@ TEST_F(FrmScreenWord, LoadingReadiesItsDataControl) {
 }
 
 TEST_F(FrmScreenWord, LooksAsDesigned) {
-  EXPECT_EQ(harness::textOf(host().handle()), L"Form2");
+  EXPECT_EQ(textOf(host().handle()), L"Form2");
   // It is never painted on the screen, so that its class tells its colour.
   const auto brush =
       reinterpret_cast<HBRUSH>(GetClassLongPtrW(host().handle(), GCLP_HBRBACKGROUND));
@@ -112,7 +112,7 @@ TEST_F(FrmScreenWord, LooksAsDesigned) {
 
 TEST_F(FrmScreenWord, EveryProbeStartsTheServiceAnew) {
   const PlainWindow edit(L"Edit", {200, 300, 900, 400}, L"some data here");
-  input::moveTo(wordPoint(edit.handle(), 6));
+  injected::moveTo(wordPoint(edit.handle(), 6));
   nhw32::ResetNHW32();
   ScreenWord::StartCapture();
   EXPECT_TRUE(eventually([] { return popupIsUp(); }));
@@ -128,7 +128,7 @@ TEST_F(FrmScreenWord, HandsTheFirstWordToThePopup) {
 TEST_F(FrmScreenWord, RestsWhileThePopupIsUp) {
   report(u"data");
   ASSERT_TRUE(eventually([] { return popupIsUp(); }));
-  EXPECT_TRUE(allAlong([] { return !captureRuns() && popupIsUp(); }, 150));
+  EXPECT_TRUE(always([] { return !captureRuns() && popupIsUp(); }, 150));
   EXPECT_FALSE(host().timScreenWord2.enabled());
 }
 
@@ -143,7 +143,7 @@ TEST_F(FrmScreenWord, TheNextWordDoesNotReplaceThePopup) {
 TEST_F(FrmScreenWord, NeitherOneLetterNorChineseOpensThePopup) {
   for (const char16_t* word : {u"a", u"词典", u"data词"}) {
     report(word);
-    EXPECT_TRUE(allAlong([] { return !forms::isLoaded<frmScreenWordMeaning>(); }, 60));
+    EXPECT_TRUE(always([] { return !forms::isLoaded<frmScreenWordMeaning>(); }, 60));
     // The next probe forgets it.
     EXPECT_TRUE(eventually([] { return ScreenWord::strScreenWord.empty(); }));
     EXPECT_TRUE(captureRuns());
@@ -159,7 +159,7 @@ TEST_F(FrmScreenWord, EveryProbeStopsTheThirdTimer) {
 
 TEST_F(FrmScreenWord, APointerThatRestsOnAWordReadsIt) {
   const PlainWindow edit(L"Edit", {200, 300, 900, 400}, L"some data here");
-  input::moveTo(wordPoint(edit.handle(), 6));
+  injected::moveTo(wordPoint(edit.handle(), 6));
   ScreenWord::StartCapture();
   ASSERT_TRUE(eventually([] { return popupIsUp(); }));
   EXPECT_EQ(popup().txtOut.text(), u"data\r\n数据");
@@ -183,10 +183,10 @@ TEST_F(FrmScreenWord, AWordIsHandedOverOnceAlthoughThePopupHandlesEventsWhileItO
   ScreenWord::strScreenWord = u"data";
   // Runs while the popup opens, and takes so long that ticks are due behind it.
   forms::Dispatcher::instance().post([] { Sleep(40); });
-  const ShownWatch watch(L"Lexilo.frmScreenWordMeaning");
+  const ShowCounter watch(L"Lexilo.frmScreenWordMeaning");
   host().Timer1.onTimer.raise();
   EXPECT_TRUE(popupIsUp());
-  EXPECT_EQ(ShownWatch::times(), 1);
+  EXPECT_EQ(ShowCounter::times(), 1);
   EXPECT_FALSE(captureRuns());
 }
 
@@ -196,7 +196,7 @@ TEST_F(FrmScreenWord, APopupThatThePointerLeavesWhileItOpensIsLoadedAgain) {
   HWND first = nullptr;
   forms::Dispatcher::instance().post([&] {
     first = popup().handle();
-    input::moveTo({kNowhere.x - 100, kNowhere.y});
+    injected::moveTo({kNowhere.x - 100, kNowhere.y});
     Sleep(60);
   });
   host().Timer1.onTimer.raise();
@@ -206,14 +206,14 @@ TEST_F(FrmScreenWord, APopupThatThePointerLeavesWhileItOpensIsLoadedAgain) {
   EXPECT_FALSE(captureRuns());
   EXPECT_EQ(ScreenWord::strScreenWord, u"");
   // It is the one that starts capture again.
-  input::moveTo(kNowhere);
+  injected::moveTo(kNowhere);
   EXPECT_TRUE(eventually([] { return !forms::isLoaded<frmScreenWordMeaning>(); }));
   EXPECT_TRUE(captureRuns());
 }
 
 TEST_F(FrmScreenWord, NoProbeArmsTheServiceWhileAPopupOpens) {
   const PlainWindow edit(L"Edit", {200, 300, 900, 400}, L"some data here");
-  input::moveTo(wordPoint(edit.handle(), 6));
+  injected::moveTo(wordPoint(edit.handle(), 6));
   ScreenWord::StartCapture();
   ScreenWord::strScreenWord = u"bit";
   bool armed = true;
@@ -254,10 +254,10 @@ TEST_F(FrmScreenWord, AFailingLookupStopsCaptureUntilThePointerMoves) {
   EXPECT_TRUE(eventually([] { return !captureRuns(); }));
   EXPECT_FALSE(popupIsUp());
   EXPECT_EQ(boxes.count(), 0U);
-  input::moveTo({kNowhere.x - 10, kNowhere.y});
+  injected::moveTo({kNowhere.x - 10, kNowhere.y});
   EXPECT_TRUE(eventually([] { return !forms::isLoaded<frmScreenWordMeaning>(); }));
   EXPECT_TRUE(captureRuns());
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

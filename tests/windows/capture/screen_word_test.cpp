@@ -5,11 +5,11 @@
 #include "capture/nhw32/nhw32.h"
 #include "capture/nhw32/service.h"
 #include "forms/loaded_forms.h"
-#include "tests/program/harness/find.h"
-#include "tests/windows/support/capture_test.h"
-#include "tests/windows/support/window_everywhere.h"
+#include "tests/support/process/find.h"
+#include "tests/support/window/capture_test.h"
+#include "tests/support/window/window_everywhere.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 constexpr RECT kPlace{200, 300, 900, 400};
@@ -34,7 +34,7 @@ class ScreenWordTest : public CaptureTest {
 
   /// Waits for the report of a word, which stays in the queue.
   static bool aReportWaits() {
-    const ULONGLONG deadline = GetTickCount64() + kPatience;
+    const ULONGLONG deadline = GetTickCount64() + kDefaultTimeout;
     while (GetTickCount64() < deadline) {
       MSG report;
       if (PeekMessageW(&report, host().handle(), ScreenWord::MsgHasString, ScreenWord::MsgHasString,
@@ -47,9 +47,9 @@ class ScreenWordTest : public CaptureTest {
   }
 
   static Probe probe(POINT point) {
-    const StripWatch watch;
+    const StripRecorder watch;
     ScreenWord::CatchWordAt(point);
-    return {!StripWatch::places().empty(), nhw32::service().armed()};
+    return {!StripRecorder::places().empty(), nhw32::service().armed()};
   }
 };
 
@@ -86,7 +86,7 @@ TEST_F(ScreenWordTest, AProbeElsewhereForgetsTheOneBefore) {
   ScreenWord::CatchWordAt(wordPoint(edit.handle(), 6));
   ASSERT_TRUE(aReportWaits()) << "a report that must not arrive";
   ScreenWord::CatchWordAt({890, 390});
-  EXPECT_TRUE(allAlong([] { return ScreenWord::strScreenWord.empty(); }, 150));
+  EXPECT_TRUE(always([] { return ScreenWord::strScreenWord.empty(); }, 150));
 }
 
 TEST_F(ScreenWordTest, AWindowThatIsNotProbedLeavesTheLastProbeAsItIs) {
@@ -115,9 +115,9 @@ TEST_F(ScreenWordTest, AWindowWhoseClassMerelyContainsEditIsProbed) {
 
 TEST_F(ScreenWordTest, TheStripCoversTheRowsAboveThePointAndGoesOffTheDesktop) {
   const PlainWindow window(plainClass(L"TMyEditor"), kPlace);
-  const StripWatch watch;
+  const StripRecorder watch;
   ScreenWord::CatchWordAt({300, 350});
-  const auto& places = StripWatch::places();
+  const auto& places = StripRecorder::places();
   ASSERT_GE(places.size(), 2U);
   const auto shown = std::find_if(places.begin(), places.end(), [](const auto& place) {
     return place.shown && place.rect.left == 196 && place.rect.top == 345;
@@ -134,9 +134,9 @@ TEST_F(ScreenWordTest, TheStripCoversTheRowsAboveThePointAndGoesOffTheDesktop) {
 
 TEST_F(ScreenWordTest, TheStripBegins200PixelsLeftOfAPointFarInside) {
   const PlainWindow window(plainClass(L"TMyEditor"), kPlace);
-  const StripWatch watch;
+  const StripRecorder watch;
   ScreenWord::CatchWordAt({700, 350});
-  const auto& places = StripWatch::places();
+  const auto& places = StripRecorder::places();
   EXPECT_TRUE(std::any_of(places.begin(), places.end(), [](const auto& place) {
     return place.shown && place.rect.left == 500 && place.rect.right == 1192;
   }));
@@ -147,12 +147,12 @@ TEST_F(ScreenWordTest, APointBeyondSixteenBitsEndsTheProbeAndTheStripGoesBack) {
   const POINT last{32'767, 350};
   const POINT beyond{32'768, 350};
   const WindowEverywhere everywhere(window.handle());
-  const StripWatch watch;
+  const StripRecorder watch;
   ScreenWord::CatchWordAt(last);
   EXPECT_TRUE(nhw32::service().armed());
   EXPECT_THROW(ScreenWord::CatchWordAt(beyond), std::overflow_error);
   EXPECT_FALSE(nhw32::service().armed()) << "what was armed before is disarmed";
-  const auto& places = StripWatch::places();
+  const auto& places = StripRecorder::places();
   EXPECT_TRUE(std::any_of(places.begin(), places.end(), [](const auto& place) {
     return place.shown && place.rect.left == 32'696 && place.rect.top == 345;
   }));
@@ -224,7 +224,7 @@ TEST_F(ScreenWordTest, AWordThatIsPendingIsHandedOverWhenCaptureRunsAgain) {
   ScreenWord::StartCapture();
   ScreenWord::strScreenWord = u"data";
   ScreenWord::StopCapture();
-  EXPECT_TRUE(allAlong([] { return !popupIsUp(); }, 60));
+  EXPECT_TRUE(always([] { return !popupIsUp(); }, 60));
   ScreenWord::StartCapture();
   EXPECT_TRUE(eventually([] { return popupIsUp(); }));
 }
@@ -235,9 +235,9 @@ TEST_F(ScreenWordTest, AWordThatComesAfterTheUserTurnedToAnotherWindowIsDropped)
   ASSERT_TRUE(aReportWaits()) << "a report that must come to nothing";
   opened<FormA>();
   ScreenWord::StopCapture();
-  EXPECT_TRUE(allAlong([] { return ScreenWord::strScreenWord.empty(); }, 150));
+  EXPECT_TRUE(always([] { return ScreenWord::strScreenWord.empty(); }, 150));
   ScreenWord::StartCapture();
-  EXPECT_TRUE(allAlong([] { return !forms::isLoaded<frmScreenWordMeaning>(); }, 100));
+  EXPECT_TRUE(always([] { return !forms::isLoaded<frmScreenWordMeaning>(); }, 100));
 }
 
 TEST_F(ScreenWordTest, OfAClassNameSixtyThreeCharactersAreRead) {
@@ -250,8 +250,8 @@ TEST_F(ScreenWordTest, OfAClassNameSixtyThreeCharactersAreRead) {
 }
 
 TEST_F(ScreenWordTest, TheStripsCaptionIsTheDesigns) {
-  EXPECT_EQ(harness::textOf(forms::form<frmScreen>().handle()), L"Form2");
+  EXPECT_EQ(textOf(forms::form<frmScreen>().handle()), L"Form2");
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

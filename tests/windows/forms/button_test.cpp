@@ -1,9 +1,9 @@
 #include "forms/button.h"
 
 #include "app/resources/resource_ids.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class ButtonForm : public FormA {
@@ -22,22 +22,22 @@ class ButtonTest : public WindowTest {};
 
 TEST_F(ButtonTest, AClickOfTheMouse) {
   auto& form = opened<ButtonForm>();
-  input::click(centreOf(form.plain));
+  injected::click(centreOf(form.plain));
   ASSERT_TRUE(eventually([&] { return form.clicks == 1; }));
-  input::click(centreOf(form.pictured));
+  injected::click(centreOf(form.pictured));
   ASSERT_TRUE(eventually([&] { return form.pictureClicks == 1; }));
   EXPECT_EQ(form.clicks, 1);
 }
 
 TEST_F(ButtonTest, LettingGoElsewhereIsNoClick) {
   auto& form = opened<ButtonForm>();
-  input::moveTo(centreOf(form.plain));
-  input::pressLeft();
+  injected::moveTo(centreOf(form.plain));
+  injected::pressLeft();
   passTime(20);
-  input::moveTo(centreOf(form.second));
+  injected::moveTo(centreOf(form.second));
   passTime(20);
-  input::releaseLeft();
-  EXPECT_TRUE(allAlong([&] { return form.clicks == 0; }, 50));
+  injected::releaseLeft();
+  EXPECT_TRUE(always([&] { return form.clicks == 0; }, 50));
 }
 
 TEST_F(ButtonTest, EnterAndSpace) {
@@ -47,7 +47,7 @@ TEST_F(ButtonTest, EnterAndSpace) {
   ASSERT_TRUE(eventually([&] { return form.clicks == 1; }));
   input::key(VK_SPACE);
   ASSERT_TRUE(eventually([&] { return form.clicks == 2; }));
-  EXPECT_TRUE(allAlong([&] { return form.clicks == 2; }, 40));
+  EXPECT_TRUE(always([&] { return form.clicks == 2; }, 40));
 }
 
 TEST_F(ButtonTest, TheClickComesAfterTheEventsOfTheFocus) {
@@ -55,7 +55,7 @@ TEST_F(ButtonTest, TheClickComesAfterTheEventsOfTheFocus) {
   form.first.setFocus();
   events().clear();
   form.plain.onClick = [] { events().emplace_back("click"); };
-  input::click(centreOf(form.plain));
+  injected::click(centreOf(form.plain));
   ASSERT_TRUE(eventually([] { return times("click") == 1; }));
   EXPECT_EQ(events(), (Events{"A.first.LostFocus", "click"}));
 }
@@ -98,9 +98,9 @@ TEST_F(ButtonTest, WithoutAPictureItShowsNone) {
 TEST_F(ButtonTest, DisabledItCannotBeClicked) {
   auto& form = opened<ButtonForm>();
   form.plain.setEnabled(false);
-  input::click(centreOf(form.plain));
-  EXPECT_TRUE(allAlong([&] { return form.clicks == 0; }, 50));
+  injected::click(centreOf(form.plain));
+  EXPECT_TRUE(always([&] { return form.clicks == 0; }, 50));
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,10 +1,10 @@
 #include "forms/clipboard.h"
 
-#include "tests/program/harness/clipboard.h"
-#include "tests/windows/support/clipboard_holder.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/process/clipboard.h"
+#include "tests/support/window/clipboard_holder.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class ClipboardTest : public WindowTest {};
@@ -12,16 +12,16 @@ class ClipboardTest : public WindowTest {};
 TEST_F(ClipboardTest, TakesATextWithWindowsLineEnds) {
   opened<FormA>();
   forms::setClipboardText(forms::form<FormA>().handle(), u"一\rtwo\n3\r\n四");
-  EXPECT_EQ(harness::clipboardText(), L"一\r\ntwo\r\n3\r\n四");
+  EXPECT_EQ(clipboardText(), L"一\r\ntwo\r\n3\r\n四");
 }
 
 TEST_F(ClipboardTest, ReplacesWhatWasThere) {
   opened<FormA>();
   forms::setClipboardText(forms::form<FormA>().handle(), u"old and longer");
   forms::setClipboardText(forms::form<FormA>().handle(), u"new");
-  EXPECT_EQ(harness::clipboardText(), L"new");
+  EXPECT_EQ(clipboardText(), L"new");
   forms::setClipboardText(forms::form<FormA>().handle(), u"");
-  EXPECT_EQ(harness::clipboardText(), L"");
+  EXPECT_EQ(clipboardText(), L"");
 }
 
 TEST_F(ClipboardTest, WaitsForOneThatIsBusyForAMoment) {
@@ -30,7 +30,7 @@ TEST_F(ClipboardTest, WaitsForOneThatIsBusyForAMoment) {
     const ClipboardHolder holder(40);
     forms::setClipboardText(forms::form<FormA>().handle(), u"patient");
   }
-  EXPECT_EQ(harness::clipboardText(), L"patient");
+  EXPECT_EQ(clipboardText(), L"patient");
 }
 
 TEST_F(ClipboardTest, GivesUpAfterATenthOfASecond) {
@@ -44,8 +44,8 @@ TEST_F(ClipboardTest, GivesUpAfterATenthOfASecond) {
     EXPECT_GE(GetTickCount64() - start, 90U);
     EXPECT_LT(GetTickCount64() - start, 400U);
   }
-  EXPECT_EQ(harness::clipboardText(), L"before");
+  EXPECT_EQ(clipboardText(), L"before");
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,10 +1,10 @@
 #include "forms/column_tree.h"
 
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/screen.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/screen.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class ColumnForm : public FormA {
@@ -26,10 +26,10 @@ class ColumnTreeTest : public WindowTest {
 
   /// How many columns a row's text takes on the screen, up to its last dark pixel.
   static int columnsShown(int number) {
-    RECT row = harness::treeNodeRect(tree().handle(), number - 1).value_or(RECT{});
+    RECT row = treeNodeRect(tree().handle(), number - 1).value_or(RECT{});
     const int left = row.left;
     row.right = rectOf(tree().handle()).right - 4;
-    const auto pixels = harness::screenPixels(row);
+    const auto pixels = screenPixels(row);
     const int width = row.right - row.left;
     int last = 0;
     for (std::size_t i = 0; i < pixels.size(); ++i) {
@@ -160,7 +160,7 @@ TEST_F(ColumnTreeTest, NewTextsLeaveTheFirstRowOnTop) {
   }
   EXPECT_EQ(tree().selected(), 50U);
   EXPECT_EQ(scrolling(SB_VERT).nPos, 0);
-  const RECT first = harness::treeNodeRect(tree().handle(), 0).value_or(RECT{});
+  const RECT first = treeNodeRect(tree().handle(), 0).value_or(RECT{});
   EXPECT_EQ(first.top, rectOf(tree().handle()).top + GetSystemMetrics(SM_CYEDGE));
 }
 
@@ -168,7 +168,7 @@ TEST_F(ColumnTreeTest, WhoeverAsksTheControlHearsTheTexts) {
   tree().add(u"first");
   tree().add(u"second");
   tree().setText(1, u"new");
-  EXPECT_EQ(harness::treeTexts(tree().handle()), (std::vector<std::wstring>{L"new", L"second"}));
+  EXPECT_EQ(treeTexts(tree().handle()), (std::vector<std::wstring>{L"new", L"second"}));
 }
 
 TEST_F(ColumnTreeTest, ANewTextKeepsTheSelection) {
@@ -177,8 +177,7 @@ TEST_F(ColumnTreeTest, ANewTextKeepsTheSelection) {
   tree().setText(2, u"new");
   tree().setText(1, u"first");
   EXPECT_EQ(tree().selected(), 2U);
-  EXPECT_EQ(harness::treeTexts(tree().handle()),
-            (std::vector<std::wstring>{L"first", L"new", L"c"}));
+  EXPECT_EQ(treeTexts(tree().handle()), (std::vector<std::wstring>{L"first", L"new", L"c"}));
 }
 
 TEST_F(ColumnTreeTest, ScrollsToTheBeginningInBothDirectionsAndKeepsTheSelection) {
@@ -195,4 +194,4 @@ TEST_F(ColumnTreeTest, ScrollsToTheBeginningInBothDirectionsAndKeepsTheSelection
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,9 +1,9 @@
 #include "forms/drag_handle.h"
 
 #include "forms/static_controls.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 /// A splitter between two boxes, which note what is dropped on them.
@@ -40,11 +40,11 @@ class DragHandleTest : public WindowTest {
 
   /// Presses on the splitter and moves to a point, without letting go.
   static void dragTo(POINT point) {
-    input::moveTo(centreOf(form().splitter));
+    injected::moveTo(centreOf(form().splitter));
     forms::doEvents();
-    input::pressLeft();
+    injected::pressLeft();
     ASSERT_TRUE(eventually([] { return form().splitter.isDragged(); }));
-    input::moveTo(point);
+    injected::moveTo(point);
     passTime(30);
   }
   static bool ended() {
@@ -55,7 +55,7 @@ class DragHandleTest : public WindowTest {
 TEST_F(DragHandleTest, IsDroppedOnTheWidgetBelowThePointer) {
   opened<SplitForm>();
   dragTo(inWidget(form().second, 600, 900));
-  input::releaseLeft();
+  injected::releaseLeft();
   ASSERT_TRUE(ended());
   EXPECT_EQ(form().drops, std::vector<std::string>{"second"});
   EXPECT_EQ(form().place.x, 600);
@@ -66,7 +66,7 @@ TEST_F(DragHandleTest, IsDroppedOnTheWidgetBelowThePointer) {
 TEST_F(DragHandleTest, CanBeDroppedToTheLeftAsWell) {
   opened<SplitForm>();
   dragTo(inWidget(form().first, 450, 150));
-  input::releaseLeft();
+  injected::releaseLeft();
   ASSERT_TRUE(ended());
   EXPECT_EQ(form().drops, std::vector<std::string>{"first"});
   EXPECT_EQ(form().place.x, 450);
@@ -79,7 +79,7 @@ TEST_F(DragHandleTest, FollowsThePointerFromLeftToRight) {
   dragTo(point);
   EXPECT_TRUE(eventually([&] { return rectOf(form().splitter.handle()).left == point.x; }));
   EXPECT_EQ(rectOf(form().splitter.handle()).top, before.top);
-  input::releaseLeft();
+  injected::releaseLeft();
   ended();
 }
 
@@ -90,7 +90,7 @@ TEST_F(DragHandleTest, DroppedElsewhereNothingHears) {
   POINT bottom{client.right - 5, client.bottom - 5};
   ClientToScreen(form().handle(), &bottom);
   dragTo(bottom);
-  input::releaseLeft();
+  injected::releaseLeft();
   ASSERT_TRUE(ended());
   EXPECT_EQ(form().drops, std::vector<std::string>{});
 }
@@ -98,7 +98,7 @@ TEST_F(DragHandleTest, DroppedElsewhereNothingHears) {
 TEST_F(DragHandleTest, DroppedOutsideTheFormNothingHears) {
   opened<SplitForm>();
   dragTo(kNowhere);
-  input::releaseLeft();
+  injected::releaseLeft();
   ASSERT_TRUE(ended());
   EXPECT_EQ(form().drops, std::vector<std::string>{});
 }
@@ -106,7 +106,7 @@ TEST_F(DragHandleTest, DroppedOutsideTheFormNothingHears) {
 TEST_F(DragHandleTest, APressWithoutAMoveDropsNothing) {
   opened<SplitForm>();
   dragTo(centreOf(form().splitter));
-  input::releaseLeft();
+  injected::releaseLeft();
   ASSERT_TRUE(ended());
   EXPECT_EQ(form().drops, std::vector<std::string>{});
 }
@@ -117,7 +117,7 @@ TEST_F(DragHandleTest, LosingTheMouseEndsTheDragWithoutADrop) {
   ReleaseCapture();
   EXPECT_TRUE(ended());
   EXPECT_FALSE(form().splitter.isDragged());
-  input::releaseLeft();
+  injected::releaseLeft();
   passTime(30);
   EXPECT_EQ(form().drops, std::vector<std::string>{});
   EXPECT_EQ(form().ended, 1);
@@ -131,12 +131,12 @@ TEST_F(DragHandleTest, ALineTakesHoldAFewPixelsBesideItself) {
   form().splitter.setGrabMargin(45);
   EXPECT_TRUE(form().splitter.grabs(beside));
   EXPECT_FALSE(form().splitter.grabs({line.left - 10, beside.y}));
-  input::moveTo(beside);
-  input::pressLeft();
+  injected::moveTo(beside);
+  injected::pressLeft();
   EXPECT_TRUE(eventually([] { return form().splitter.isDragged(); }));
-  input::releaseLeft();
+  injected::releaseLeft();
   EXPECT_TRUE(ended());
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

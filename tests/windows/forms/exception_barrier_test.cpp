@@ -4,10 +4,10 @@
 #include "forms/exception_barrier.h"
 #include "forms/message_box.h"
 #include "forms/timer.h"
-#include "tests/windows/support/other_program.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/other_program.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class ExceptionBarrier : public WindowTest {};
@@ -203,7 +203,7 @@ TEST_F(MessageBoxTest, StandsAboveOurTopmostWindows) {
 TEST_F(MessageBoxTest, ClosesByTheKeyboard) {
   auto& form = opened<FormA>();
   boxes.leaveNextAlone();
-  const Watcher user([] {
+  const ModalPoller user([] {
     HWND box = MessageBoxes::current();
     if (box == nullptr || GetForegroundWindow() != box) return false;
     input::key(VK_RETURN);
@@ -216,4 +216,4 @@ TEST_F(MessageBoxTest, ClosesByTheKeyboard) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

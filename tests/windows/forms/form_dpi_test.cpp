@@ -1,6 +1,6 @@
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FormDpi : public WindowTest {
@@ -103,4 +103,4 @@ TEST_F(FormDpi, PlacesUnderTheMouseAreTwips) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,8 +1,8 @@
 #include "forms/message_box.h"
-#include "tests/windows/support/other_program.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/other_program.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FormFocus : public WindowTest {
@@ -10,8 +10,8 @@ class FormFocus : public WindowTest {
   /// Waits until a widget has the focus for good, and forgets the events that led to it.
   static void awaitFocus(const forms::Widget& widget) {
     constexpr DWORD kLasting = 100;
-    ASSERT_TRUE(bringToFront(
-        widget.form().handle(), [&] { return GetFocus() == widget.handle(); }, kLasting));
+    bringToFront(
+        widget.form().handle(), [&] { return GetFocus() == widget.handle(); }, kLasting);
     events().clear();
   }
   static bool reached(std::size_t count) {
@@ -37,7 +37,7 @@ TEST_F(FormFocus, AClickMovesItInTheSameOrder) {
   to.setPosition(9000, 300);
   from.show();
   awaitFocus(from.first);
-  input::click(centreOf(to.second));
+  injected::click(centreOf(to.second));
   ASSERT_TRUE(eventually([] { return times("B.second.GotFocus") == 1; }));
   EXPECT_EQ(events()[0], "A.first.LostFocus");
   EXPECT_EQ(events()[1], "A.LostFocus");
@@ -76,7 +76,7 @@ TEST_F(FormFocus, AMessageBoxIsNoMoveOfTheFocus) {
   ASSERT_TRUE(reached(4));
   events().clear();
   bool quiet = false;
-  boxes.whileUp([&](HWND) { quiet = allAlong([] { return events().empty(); }, 60); });
+  boxes.whileUp([&](HWND) { quiet = always([] { return events().empty(); }, 60); });
   forms::showMessage(u"请选择字典！", forms::MessageIcon::kExclamation);
   EXPECT_EQ(boxes.take().size(), 1U);
   EXPECT_TRUE(quiet);
@@ -94,7 +94,7 @@ TEST_F(FormFocus, WhatMovedWhileABoxWasUpIsToldAfterwards) {
   bool quiet = false;
   boxes.whileUp([&](HWND) {
     other.show();
-    quiet = allAlong([] { return times("A.LostFocus") + times("B.Activate") == 0; }, 60);
+    quiet = always([] { return times("A.LostFocus") + times("B.Activate") == 0; }, 60);
   });
   forms::showMessage(u"…", forms::MessageIcon::kNone);
   EXPECT_EQ(boxes.take().size(), 1U);
@@ -123,7 +123,7 @@ TEST_F(FormFocus, AClickOnAButtonIsHandledAfterTheEventsOfItsFocus) {
   ASSERT_TRUE(reached(4));
   events().clear();
   form.second.onMouseDown = [](forms::TwipPoint) { events().emplace_back("MouseDown"); };
-  input::click(centreOf(form.second));
+  injected::click(centreOf(form.second));
   ASSERT_TRUE(reached(3));
   passTime(20);
   EXPECT_EQ(events().front(), "MouseDown");
@@ -152,4 +152,4 @@ TEST_F(FormFocus, TwoWidgetsThatFightForItDoNotHangTheProgram) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,8 +1,8 @@
 #include <stdexcept>
 
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FormOpening : public WindowTest {};
@@ -46,7 +46,8 @@ TEST_F(FormOpening, ShowingBringsItToTheFrontByItself) {
   auto& other = opened<FormB>();
   form.setPosition(1500, 1500);
   other.setPosition(1500, 1500);
-  EXPECT_TRUE(untilItLasts(
+  actUntil(
+      "a form to come to the front",
       [&] {
         other.show();
         awaitActive(other);
@@ -55,7 +56,8 @@ TEST_F(FormOpening, ShowingBringsItToTheFrontByItself) {
       [&] {
         return GetForegroundWindow() == form.handle() && isAbove(form.handle(), other.handle()) &&
                GetAncestor(WindowFromPoint(centreOf(form.second)), GA_ROOT) == form.handle();
-      }));
+      },
+      kLastingWindow);
 }
 
 TEST_F(FormOpening, ShowingAgainRaisesTheEventsOfAMoveOfTheFocus) {
@@ -72,7 +74,7 @@ TEST_F(FormOpening, ShowingAgainRaisesTheEventsOfAMoveOfTheFocus) {
 TEST_F(FormOpening, ShowingAgainRestoresAMinimisedForm) {
   auto& form = opened<FormA>();
   ShowWindow(form.handle(), SW_MINIMIZE);
-  ASSERT_TRUE(allAlong([&] { return form.isMinimised(); }, 100));
+  ASSERT_TRUE(always([&] { return form.isMinimised(); }, 100));
   form.show();
   awaitActive(form);
   EXPECT_FALSE(form.isMinimised());
@@ -108,4 +110,4 @@ TEST_F(FormOpening, AFormCanOpenAnotherWhileItLoads) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,7 +1,7 @@
-#include "tests/windows/support/other_program.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/other_program.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 constexpr UINT kRaise = SWP_NOMOVE | SWP_NOSIZE;
@@ -10,7 +10,7 @@ class FormRaising : public WindowTest {
  protected:
   /// Whether the other program keeps the foreground and its text box the focus.
   bool otherKeepsTheFocus() {
-    return allAlong([this] { return other.isForeground() && GetActiveWindow() == nullptr; }, 60);
+    return always([this] { return other.isForeground() && GetActiveWindow() == nullptr; }, 60);
   }
 
   OtherProgram other;
@@ -59,7 +59,7 @@ TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenClicked) {
   auto& form = forms::form<FormA>();
   form.setPosition(6000, 1500);
   form.show();
-  input::click(centreOf(rectOf(form.handle())));
+  injected::click(centreOf(rectOf(form.handle())));
   EXPECT_TRUE(otherKeepsTheFocus());
   EXPECT_EQ(SendMessageW(form.handle(), WM_MOUSEACTIVATE, 0, 0), MA_NOACTIVATE);
 }
@@ -96,4 +96,4 @@ TEST_F(FormRaising, TypingIsNotDisturbedByAHundredRepaints) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,6 +1,6 @@
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FormSize : public WindowTest {
@@ -113,7 +113,7 @@ TEST_F(FormSize, IsKeptWhileMinimised) {
   form.setSize(5005, 4007);
   events().clear();
   ShowWindow(form.handle(), SW_MINIMIZE);
-  ASSERT_TRUE(allAlong([&] { return form.isMinimised(); }, 100));
+  ASSERT_TRUE(always([&] { return form.isMinimised(); }, 100));
   EXPECT_EQ(form.width(), 5005);
   EXPECT_EQ(form.height(), 4007);
   EXPECT_EQ(times("A.Resize"), 0);
@@ -146,4 +146,4 @@ TEST_F(FormSize, NeighbouringWidgetsStayNeighbours) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,11 +1,11 @@
 #include "forms/message_box.h"
 #include "forms/stacking.h"
-#include "tests/program/harness/find.h"
-#include "tests/windows/support/other_program.h"
-#include "tests/windows/support/painted.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/process/find.h"
+#include "tests/support/window/other_program.h"
+#include "tests/support/window/painted.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 /// A floats, B is an ordinary window, C a bar.
@@ -30,12 +30,13 @@ class FormStacking : public WindowTest {
   /// Opens A in the middle of the screen, so large that B finds no place beside it.
   FormA& openLargeA() {
     auto& form = opened<FormA>();
-    EXPECT_TRUE(untilItLasts(
+    actUntil(
+        "a large form",
         [&] {
           form.setSize(15000, 13500);
           form.setPosition(1800, 1200);
         },
-        [&] { return form.width() == 15000 && rectOf(form.handle()).left < 200; }));
+        [&] { return form.width() == 15000 && rectOf(form.handle()).left < 200; }, kLastingWindow);
     return form;
   }
 
@@ -48,7 +49,7 @@ class FormStacking : public WindowTest {
   static bool isSeenWhole(HWND window, std::initializer_list<const forms::Form*> others) {
     // Neither the blinking caret nor what is seen beside a frame that is drawn narrower than it is.
     HideCaret(nullptr);
-    const RECT inside = harness::clientRectOf(window);
+    const RECT inside = clientRectOf(window);
     const std::vector<COLORREF> shown = settledPixels(inside);
     for (const forms::Form* other : others) ShowWindow(other->handle(), SW_HIDE);
     forms::doEvents();
@@ -123,12 +124,13 @@ TEST_F(FormStacking, AWindowThatIsMovedOverAFloatingOneStaysVisible) {
   auto& window = opened<FormB>();
   ASSERT_FALSE(isTopmost(window.handle()));
   const RECT place = rectOf(floating.handle());
-  EXPECT_TRUE(untilItLasts(
+  actUntil(
+      "a window among topmost ones to become topmost",
       [&] {
         SetWindowPos(window.handle(), nullptr, place.left + 30, place.top + 30, 0, 0,
                      SWP_NOSIZE | SWP_NOZORDER);
       },
-      [&] { return isTopmost(window.handle()); }));
+      [&] { return isTopmost(window.handle()); }, kLastingWindow);
   EXPECT_TRUE(isSeenWhole(window.handle(), {&floating}));
 }
 
@@ -200,7 +202,7 @@ TEST_F(FormStacking, ABarStaysAboveAllAndAFloatingFormBelowIt) {
   auto& bar = openBar();
   auto& floating = openLargeA();
   ASSERT_FALSE(areApart(bar, floating));
-  input::click(centreOf(floating.second));
+  injected::click(centreOf(floating.second));
   EXPECT_TRUE(eventually([&] { return GetFocus() == floating.second.handle(); }));
   repaint(floating);
   EXPECT_TRUE(eventually([&] { return isAbove(bar.handle(), floating.handle()); }));
@@ -221,7 +223,7 @@ TEST_F(FormStacking, AMaximisedFloatingFormDoesNotCoverTheBar) {
   ShowWindow(floating.handle(), SW_MAXIMIZE);
   ASSERT_TRUE(eventually([&] { return !areApart(bar, floating); }));
   EXPECT_TRUE(barIsSeen());
-  input::click(centreOf(floating.second));
+  injected::click(centreOf(floating.second));
   EXPECT_TRUE(eventually([&] { return GetFocus() == floating.second.handle(); }));
   EXPECT_TRUE(eventually([&] { return isAbove(bar.handle(), floating.handle()); }));
   EXPECT_TRUE(barIsSeen());
@@ -239,8 +241,8 @@ TEST_F(FormStacking, WhatStaysOnTopComesAboveOtherProgramsTogether) {
     repaint(floating);
     return isAbove(floating.handle(), other.window()) && isAbove(bar.handle(), floating.handle());
   }));
-  EXPECT_TRUE(allAlong([&] { return other.isForeground(); }, 60));
+  EXPECT_TRUE(always([&] { return other.isForeground(); }, 60));
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

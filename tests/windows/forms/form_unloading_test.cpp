@@ -1,8 +1,8 @@
 #include <stdexcept>
 
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FormUnloading : public WindowTest {};
@@ -55,7 +55,7 @@ TEST_F(FormUnloading, AFormWithoutCloseBoxIgnoresAltF4AndClose) {
   input::key(VK_F4, {VK_MENU});
   SendMessageW(window, WM_CLOSE, 0, 0);
   SendMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
-  EXPECT_TRUE(allAlong([&] { return IsWindow(window) && forms::isLoaded<FormA>(); }, 100));
+  EXPECT_TRUE(always([&] { return IsWindow(window) && forms::isLoaded<FormA>(); }, 100));
 }
 
 TEST_F(FormUnloading, TheEndOfTheSessionUnloadsEveryForm) {
@@ -143,4 +143,4 @@ TEST_F(FormUnloading, AWindowThatGoesHearsOfNoLossOfFocus) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

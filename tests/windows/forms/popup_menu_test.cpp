@@ -1,9 +1,9 @@
 #include "forms/popup_menu.h"
 
-#include "tests/windows/support/open_menu.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/open_menu.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class PopupMenuTest : public WindowTest {
@@ -19,7 +19,7 @@ class PopupMenuTest : public WindowTest {
 
   /// Drops the menu down and lets `act` deal with it. Returns the chosen item.
   const forms::PopupMenu::Item* choose(std::function<void(HWND)> act) {
-    const Watcher user([act = std::move(act)] {
+    const ModalPoller user([act = std::move(act)] {
       HWND window = openMenu();
       if (window == nullptr) return false;
       act(window);
@@ -69,7 +69,7 @@ TEST_F(PopupMenuTest, AClickChooses) {
   opened<FormA>();
   const auto* chosen = choose([](HWND window) {
     const RECT rect = rectOf(window);
-    input::click({rect.left + 40, rect.top + 12});
+    injected::click({rect.left + 40, rect.top + 12});
   });
   EXPECT_EQ(chosen, &menu.item(0));
 }
@@ -78,7 +78,7 @@ TEST_F(PopupMenuTest, ARightClickChoosesNothing) {
   opened<FormA>();
   const auto* chosen = choose([](HWND window) {
     const RECT rect = rectOf(window);
-    input::rightClick({rect.left + 40, rect.top + 12});
+    injected::rightClick({rect.left + 40, rect.top + 12});
     input::key(VK_ESCAPE);
   });
   EXPECT_EQ(chosen, nullptr);
@@ -92,7 +92,7 @@ TEST_F(PopupMenuTest, EscapeLeavesIt) {
 
 TEST_F(PopupMenuTest, AClickElsewhereLeavesIt) {
   opened<FormA>();
-  EXPECT_EQ(choose([](HWND) { input::click(kNowhere); }), nullptr);
+  EXPECT_EQ(choose([](HWND) { injected::click(kNowhere); }), nullptr);
   EXPECT_EQ(openMenu(), nullptr);
 }
 
@@ -100,7 +100,7 @@ TEST_F(PopupMenuTest, ADisabledItemCannotBeChosen) {
   opened<FormA>();
   const auto* chosen = choose([](HWND window) {
     const RECT rect = rectOf(window);
-    input::click({rect.left + 40, rect.bottom - 12});
+    injected::click({rect.left + 40, rect.bottom - 12});
     EndMenu();
   });
   EXPECT_EQ(chosen, nullptr);
@@ -114,4 +114,4 @@ TEST_F(PopupMenuTest, CountsItsItems) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -3,13 +3,13 @@
 #include <algorithm>
 
 #include "forms/clipboard.h"
-#include "tests/program/harness/clipboard.h"
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/find.h"
-#include "tests/program/harness/screen.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/process/clipboard.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/find.h"
+#include "tests/support/process/screen.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 constexpr COLORREF kRed = RGB(255, 0, 0);
@@ -23,7 +23,7 @@ class PaneForm : public FormA {
 class RichTextBoxTest : public WindowTest {
  protected:
   static forms::RichTextBox& pane() { return forms::form<PaneForm>().pane; }
-  static std::vector<COLORREF> colours() { return harness::richTextColours(pane().handle()); }
+  static std::vector<COLORREF> colours() { return richTextColours(pane().handle()); }
 };
 
 TEST_F(RichTextBoxTest, GivesBackTheTextThatWasSet) {
@@ -105,8 +105,8 @@ TEST_F(RichTextBoxTest, AHangingIndentLeavesTextAndSelectionAlone) {
 /// The greatest distance in pixels between two rows of pixels of a window that hold ink of
 /// `colour`, from the first such row to the last; 0 where there is none.
 int widestGap(HWND window, COLORREF colour) {
-  const RECT rect = harness::clientRectOf(window);
-  const std::vector<COLORREF> pixels = harness::screenPixels(rect);
+  const RECT rect = clientRectOf(window);
+  const std::vector<COLORREF> pixels = screenPixels(rect);
   const auto width = static_cast<std::size_t>(rect.right - rect.left);
   int last = -1;
   int widest = 0;
@@ -132,8 +132,8 @@ TEST_F(RichTextBoxTest, NoEmptyLineStandsBeforeALongMeaning) {
   pane().setSelColor(kBlue);
   pane().select(0, 0);
   constexpr LONG kSecondLine = 6;
-  const LONG lineHeight = harness::richTextPosition(pane().handle(), kSecondLine).y -
-                          harness::richTextPosition(pane().handle(), 0).y;
+  const LONG lineHeight =
+      richTextPosition(pane().handle(), kSecondLine).y - richTextPosition(pane().handle(), 0).y;
   ASSERT_GT(SendMessageW(pane().handle(), EM_GETLINECOUNT, 0, 0), 4) << "the meaning is not broken";
   EXPECT_TRUE(eventually([] { return widestGap(pane().handle(), kBlue) > 0; }));
   EXPECT_LT(widestGap(pane().handle(), kBlue), lineHeight) << "an empty line";
@@ -145,7 +145,7 @@ TEST_F(RichTextBoxTest, WhoeverAsksForItsTextHearsBlanks) {
   const std::wstring asHeld = L" bit\r 位 比；\r 比特";
   pane().setText(text);
   HWND control = pane().handle();
-  EXPECT_EQ(harness::textOf(control), std::wstring(text.begin(), text.end()));
+  EXPECT_EQ(textOf(control), std::wstring(text.begin(), text.end()));
   std::wstring given(100, L'\0');
   const auto expectGiven = [&](const char* how, LRESULT length) {
     EXPECT_EQ(given.substr(0, static_cast<std::size_t>(length)), asHeld) << how;
@@ -173,11 +173,11 @@ TEST_F(RichTextBoxTest, TheKeysCopyWhatIsSelectedAsItWasSet) {
   for (const WORD key : std::initializer_list<WORD>{'C', VK_INSERT}) {
     forms::setClipboardText(pane().form().handle(), u"before");
     input::key(key, {VK_CONTROL});
-    EXPECT_TRUE(eventually([] { return harness::clipboardText() == L" bit\r\n 位"; })) << key;
+    EXPECT_TRUE(eventually([] { return clipboardText() == L" bit\r\n 位"; })) << key;
   }
   pane().select(0, 0);
   input::key('C', {VK_CONTROL});
-  EXPECT_TRUE(allAlong([] { return harness::clipboardText() == L" bit\r\n 位"; }, 60));
+  EXPECT_TRUE(always([] { return clipboardText() == L" bit\r\n 位"; }, 60));
 }
 
 TEST_F(RichTextBoxTest, IsReadOnly) {
@@ -214,12 +214,12 @@ TEST_F(RichTextBoxTest, TheRightButtonAndTheMenuKeyRaiseTheirEvent) {
   opened<PaneForm>();
   int raised = 0;
   pane().onRightMouseUp = [&](forms::TwipPoint) { ++raised; };
-  input::rightClick(centreOf(pane()));
+  injected::rightClick(centreOf(pane()));
   ASSERT_TRUE(eventually([&] { return raised == 1; }));
   pane().setFocus();
   input::key(VK_F10, {VK_SHIFT});
   EXPECT_TRUE(eventually([&] { return raised == 2; }));
-  EXPECT_TRUE(allAlong([&] { return raised == 2; }, 40));
+  EXPECT_TRUE(always([&] { return raised == 2; }, 40));
 }
 
 TEST_F(RichTextBoxTest, HoldsItsRepaintAndThenShowsWhatChanged) {
@@ -234,4 +234,4 @@ TEST_F(RichTextBoxTest, HoldsItsRepaintAndThenShowsWhatChanged) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

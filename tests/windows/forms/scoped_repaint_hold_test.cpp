@@ -2,10 +2,10 @@
 
 #include "forms/column_tree.h"
 #include "forms/rich_text_box.h"
-#include "tests/windows/support/painted.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/painted.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class HeldForm : public FormA {
@@ -93,4 +93,4 @@ TEST_F(ScopedRepaintHoldTest, ATreeOfColumnsPaintsBothBarsThatComeOrGo) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,8 +1,8 @@
 #include "forms/text_box.h"
 
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class TextBoxTest : public WindowTest {
@@ -65,7 +65,7 @@ TEST_F(TextBoxTest, TakesTheKeyThatAWindowWired) {
   input::key(VK_DOWN);
   ASSERT_TRUE(eventually([&] { return downs == 1; }));
   input::key(VK_DOWN, {VK_CONTROL});
-  EXPECT_TRUE(allAlong([&] { return downs == 1; }, 40));
+  EXPECT_TRUE(always([&] { return downs == 1; }, 40));
 }
 
 TEST_F(TextBoxTest, KeepsALongText) {
@@ -87,7 +87,7 @@ TEST_F(TextBoxTest, TellsTheMouse) {
     place = at;
   };
   box().onMouseUp = [&](forms::TwipPoint) { ++ups; };
-  input::click(inWidget(box(), 600, 150));
+  injected::click(inWidget(box(), 600, 150));
   ASSERT_TRUE(eventually([&] { return ups == 1; }));
   EXPECT_EQ(downs, 1);
   EXPECT_GE(moves, 1);
@@ -96,4 +96,4 @@ TEST_F(TextBoxTest, TellsTheMouse) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,8 +1,8 @@
 #include "forms/timer.h"
 
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class TimerTest : public WindowTest {
@@ -26,7 +26,7 @@ TEST_F(TimerTest, NeitherDisabledNorWithoutIntervalDoesItTick) {
   disabled.onTimer = noInterval.onTimer = [this] { ++ticks; };
   EXPECT_FALSE(disabled.enabled());
   EXPECT_TRUE(noInterval.enabled());
-  EXPECT_TRUE(allAlong([this] { return ticks == 0; }, 60));
+  EXPECT_TRUE(always([this] { return ticks == 0; }, 60));
 }
 
 TEST_F(TimerTest, AnIntervalStartsOneThatIsEnabled) {
@@ -54,7 +54,7 @@ TEST_F(TimerTest, StopsInItsOwnTick) {
     timer.setEnabled(false);
   };
   ASSERT_TRUE(eventually([this] { return ticks == 1; }));
-  EXPECT_TRUE(allAlong([this] { return ticks == 1; }, 60));
+  EXPECT_TRUE(always([this] { return ticks == 1; }, 60));
   EXPECT_FALSE(timer.enabled());
 }
 
@@ -64,7 +64,7 @@ TEST_F(TimerTest, ATickThatWaitedWhenItWasStoppedIsNotRaised) {
   // Long enough without a message loop for a tick to wait.
   Sleep(40);
   timer.setEnabled(false);
-  EXPECT_TRUE(allAlong([this] { return ticks == 0; }, 40));
+  EXPECT_TRUE(always([this] { return ticks == 0; }, 40));
 }
 
 TEST_F(TimerTest, RaisesNothingOnceItsFormUnloads) {
@@ -110,4 +110,4 @@ TEST_F(TimerTest, TwoTimersDoNotDisturbEachOther) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,10 +1,10 @@
 // The text box that looks like a tool tip: what it does with texts that do not fit.
 #include "forms/rich_text_box.h"
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/find.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/find.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 constexpr std::u16string_view kHead = u"enzyme\r\n";
@@ -36,8 +36,8 @@ class ToolTipBox : public WindowTest {
     constexpr LONG kCharacter = 12;  // pixels, at 9 points and 96 dpi
     // The control counts the end of the first line once.
     const auto last = static_cast<LONG>(box().text().size()) - 2;
-    const POINT corner = harness::richTextPosition(box().handle(), last);
-    const RECT client = harness::clientRectOf(box().handle());
+    const POINT corner = richTextPosition(box().handle(), last);
+    const RECT client = clientRectOf(box().handle());
     return corner.x >= client.left && corner.x + kCharacter <= client.right &&
            corner.y >= client.top && corner.y + kCharacter <= client.bottom;
   }
@@ -74,4 +74,4 @@ TEST_F(ToolTipBox, TheScrollBarGoesWithTheTextThatNeededIt) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

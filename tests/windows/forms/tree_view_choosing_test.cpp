@@ -2,11 +2,11 @@
 #include "forms/tree_view.h"
 
 #include "app/resources/resource_ids.h"
-#include "tests/program/harness/controls.h"
-#include "tests/program/harness/screen.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/screen.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class PictureForm : public FormA {
@@ -32,7 +32,7 @@ class TreeViewChoosing : public WindowTest {
   static PictureForm& form() { return forms::form<PictureForm>(); }
   static forms::TreeView& tree() { return form().tree; }
   static RECT nodeRect(int number) {
-    return harness::treeNodeRect(tree().handle(), number - 1).value_or(RECT{});
+    return treeNodeRect(tree().handle(), number - 1).value_or(RECT{});
   }
 };
 
@@ -50,7 +50,7 @@ TEST_F(TreeViewChoosing, EveryNodeHasThePicture) {
       return GetBValue(pixel) > 150 && GetRValue(pixel) < 100;
     };
     EXPECT_TRUE(eventually([&] {
-      const auto pixels = harness::screenPixels(picture);
+      const auto pixels = screenPixels(picture);
       return std::any_of(pixels.begin(), pixels.end(), isBlue);
     })) << number;
   }
@@ -66,14 +66,14 @@ TEST_F(TreeViewChoosing, ExpresslyOnlySpaceEnterAndAClickChoose) {
   EXPECT_EQ(tree().selected(), 2U);
   input::key(VK_RETURN);
   ASSERT_TRUE(eventually([] { return form().chosen.size() == 2; }));
-  input::click(centreOf(nodeRect(3)));
+  injected::click(centreOf(nodeRect(3)));
   ASSERT_TRUE(eventually([] { return form().chosen.size() == 3; }));
   EXPECT_EQ(form().chosen, (std::vector<std::size_t>{2, 2, 3}));
 }
 
 TEST_F(TreeViewChoosing, WhatAClickLedToStays) {
   tree().onNodeClick = [](std::size_t) { tree().select(1); };
-  input::click(centreOf(nodeRect(3)));
+  injected::click(centreOf(nodeRect(3)));
   passTime(60);
   EXPECT_EQ(tree().selected(), 1U);
   EXPECT_EQ(GetFocus(), tree().handle());
@@ -94,7 +94,7 @@ TEST_F(TreeViewChoosing, TheHighlightIsKeptWhereAsked) {
     RECT end = nodeRect(1);
     end.left = rectOf(tree().handle()).right - 30;
     end.right = end.left + 4;
-    return harness::screenPixels(end)[10] == GetSysColor(COLOR_HIGHLIGHT);
+    return screenPixels(end)[10] == GetSysColor(COLOR_HIGHLIGHT);
   };
   EXPECT_TRUE(eventually(highlighted));
   form().first.setFocus();
@@ -107,10 +107,10 @@ TEST_F(TreeViewChoosing, TheHighlightIsKeptWhereAsked) {
 TEST_F(TreeViewChoosing, ClearedItHasNoNodes) {
   tree().clear();
   EXPECT_EQ(tree().count(), 0U);
-  EXPECT_EQ(harness::treeTexts(tree().handle()).size(), 0U);
+  EXPECT_EQ(treeTexts(tree().handle()).size(), 0U);
   tree().add(u"四");
   EXPECT_EQ(tree().text(1), u"四");
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,9 +1,9 @@
 #include "forms/tree_view.h"
 
-#include "tests/program/harness/controls.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class TreeForm : public FormA {
@@ -31,7 +31,7 @@ class TreeViewTest : public WindowTest {
   /// What the control itself shows.
   std::vector<std::u16string> shown() {
     std::vector<std::u16string> texts;
-    for (const std::wstring& text : harness::treeTexts(tree().handle())) {
+    for (const std::wstring& text : treeTexts(tree().handle())) {
       texts.emplace_back(text.begin(), text.end());
     }
     return texts;
@@ -41,7 +41,7 @@ class TreeViewTest : public WindowTest {
 
   /// The middle of a node's text on the screen.
   POINT nodePoint(int number) {
-    const auto rect = harness::treeNodeRect(tree().handle(), number - 1);
+    const auto rect = treeNodeRect(tree().handle(), number - 1);
     EXPECT_TRUE(rect.has_value());
     return centreOf(rect.value_or(RECT{}));
   }
@@ -125,7 +125,7 @@ TEST_F(TreeViewTest, SelectingBringsTheNodeIntoView) {
   fill(75);
   tree().select(75);
   forms::doEvents();
-  EXPECT_TRUE(harness::treeNodeRect(tree().handle(), 74).has_value());
+  EXPECT_TRUE(treeNodeRect(tree().handle(), 74).has_value());
 }
 
 TEST_F(TreeViewTest, TheFocusReachingTheTreeIsNoChoice) {
@@ -141,12 +141,12 @@ TEST_F(TreeViewTest, AClickOnANodeIsAChoiceAlsoOnTheSelectedOne) {
   open();
   fill(5);
   tree().select(1);
-  input::click(nodePoint(3));
+  injected::click(nodePoint(3));
   ASSERT_TRUE(eventually([this] { return chosen().size() == 1; }));
   EXPECT_EQ(tree().selected(), 3U);
   // Far enough beside the first to be no double click.
   const POINT point = nodePoint(3);
-  input::click({point.x + 20, point.y});
+  injected::click({point.x + 20, point.y});
   ASSERT_TRUE(eventually([this] { return chosen().size() == 2; }));
   passTime(30);
   EXPECT_EQ(chosen(), (std::vector<std::size_t>{3, 3}));
@@ -157,7 +157,7 @@ TEST_F(TreeViewTest, AClickBehindTheTextChoosesTheRow) {
   fill(5);
   POINT point = nodePoint(2);
   point.x = rectOf(tree().handle()).right - 10;
-  input::click(point);
+  injected::click(point);
   EXPECT_TRUE(eventually([this] { return chosen() == std::vector<std::size_t>{2}; }));
 }
 
@@ -166,7 +166,7 @@ TEST_F(TreeViewTest, AClickBelowTheNodesChoosesNothing) {
   fill(2);
   tree().select(1);
   const RECT rect = rectOf(tree().handle());
-  input::click({rect.left + 30, rect.bottom - 10});
+  injected::click({rect.left + 30, rect.bottom - 10});
   passTime(60);
   EXPECT_EQ(chosen(), std::vector<std::size_t>{});
   EXPECT_EQ(tree().selected(), 1U);
@@ -176,7 +176,7 @@ TEST_F(TreeViewTest, ARightClickChoosesNothing) {
   open();
   fill(3);
   tree().select(1);
-  input::rightClick(nodePoint(2));
+  injected::rightClick(nodePoint(2));
   passTime(60);
   EXPECT_EQ(chosen(), std::vector<std::size_t>{});
 }
@@ -212,4 +212,4 @@ TEST_F(TreeViewTest, EnterInAnEmptyTreeDoesNothing) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,9 +1,9 @@
 #include "forms/widget.h"
 
 #include "forms/static_controls.h"
-#include "tests/windows/support/window_test.h"
+#include "tests/support/window/window_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class WidgetTest : public WindowTest {
@@ -52,9 +52,9 @@ TEST_F(WidgetTest, TheToolTipAppearsUnderThePointer) {
   form.first.setToolTip(u"快速查询");
   SendMessageW(toolTipOf(form), TTM_SETDELAYTIME, TTDT_INITIAL, 20);
   const POINT centre = centreOf(form.first);
-  input::moveTo({centre.x - 5, centre.y});
+  injected::moveTo({centre.x - 5, centre.y});
   forms::doEvents();
-  input::moveTo(centre);
+  injected::moveTo(centre);
   EXPECT_TRUE(eventually([&] { return IsWindowVisible(toolTipOf(form)) != FALSE; }));
 }
 
@@ -66,7 +66,7 @@ TEST_F(WidgetTest, ALabelTakesNoFocusButTellsTheMouse) {
   auto& form = opened<LabelForm>();
   int moves = 0;
   form.label.onMouseMove = [&](forms::TwipPoint) { ++moves; };
-  input::click(centreOf(form.label));
+  injected::click(centreOf(form.label));
   EXPECT_TRUE(eventually([&] { return moves > 0; }));
   EXPECT_EQ(GetFocus(), form.first.handle());
   wchar_t caption[16] = L"";
@@ -105,12 +105,12 @@ TEST_F(WidgetTest, TheMouseOverTheFormIsTheForms) {
   form.onMouseMove = [&](forms::TwipPoint) { ++moves; };
   POINT empty{5, 5};
   ClientToScreen(form.handle(), &empty);
-  input::moveTo(empty);
+  injected::moveTo(empty);
   ASSERT_TRUE(eventually([&] { return moves > 0; }));
   moves = 0;
-  input::moveTo(centreOf(form.second));
-  EXPECT_TRUE(allAlong([&] { return moves == 0; }, 40));
+  injected::moveTo(centreOf(form.second));
+  EXPECT_TRUE(always([&] { return moves == 0; }, 40));
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

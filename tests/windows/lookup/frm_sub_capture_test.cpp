@@ -1,9 +1,9 @@
 #include "app/frm_top.h"
 #include "capture/screen_word.h"
-#include "tests/windows/support/frm_sub_test.h"
-#include "tests/windows/support/other_program.h"
+#include "tests/support/window/frm_sub_test.h"
+#include "tests/support/window/other_program.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmSubCapture : public FrmSubTest {
@@ -20,9 +20,9 @@ TEST_F(FrmSubCapture, RestsWhileTheBoxHasTheFocus) {
   ScreenWord::StartCapture();
   open();
   EXPECT_TRUE(rests());
-  input::click(nodePoint(2));
+  injected::click(entryPoint(2));
   EXPECT_TRUE(runs());
-  input::click(centreOf(sub().txtInput));
+  injected::click(centreOf(sub().txtInput));
   EXPECT_TRUE(rests());
   input::key(VK_TAB);
   EXPECT_TRUE(runs());
@@ -48,7 +48,7 @@ TEST_F(FrmSubCapture, RunsAgainWhateverTheToolbarShows) {
 TEST_F(FrmSubCapture, RunsOnceTheWindowIsClosed) {
   open();
   ASSERT_TRUE(rests());
-  input::click(centreOf(sub().cmdExit));
+  injected::click(centreOf(sub().cmdExit));
   ASSERT_TRUE(eventually([] { return !forms::isLoaded<frmSub>(); }));
   EXPECT_TRUE(captureRuns());
 }
@@ -81,7 +81,7 @@ TEST_F(FrmSubCapture, AMessageBoxDoesNotWakeIt) {
   ASSERT_TRUE(rests());
   form.Adodc1.setConnectionString(u"Provider=x;Data Source=C:\\no such folder\\kk.dat;");
   bool restedMeanwhile = false;
-  boxes.whileUp([&](HWND) { restedMeanwhile = allAlong([] { return !captureRuns(); }, 60); });
+  boxes.whileUp([&](HWND) { restedMeanwhile = always([] { return !captureRuns(); }, 60); });
   std::u16string word = u"data";
   form.showMeaning(word, form.Adodc1);
   EXPECT_EQ(boxes.take().size(), 1U);
@@ -95,8 +95,8 @@ TEST_F(FrmSubCapture, TheToolbarThatLosesTheFocusToTheBoxDoesNotWakeIt) {
   ASSERT_TRUE(eventually([] { return user::IdxWords.size() > 1; }));
   open();
   EXPECT_TRUE(rests());
-  EXPECT_TRUE(allAlong([] { return !captureRuns(); }, 60));
+  EXPECT_TRUE(always([] { return !captureRuns(); }, 60));
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

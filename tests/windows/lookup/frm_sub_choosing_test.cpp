@@ -1,6 +1,6 @@
-#include "tests/windows/support/frm_sub_test.h"
+#include "tests/support/window/frm_sub_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmSubChoosing : public FrmSubTest {
@@ -15,7 +15,7 @@ class FrmSubChoosing : public FrmSubTest {
 TEST_F(FrmSubChoosing, AClickShowsTheMeaning) {
   open();
   const auto before = list();
-  input::click(nodePoint(3));
+  injected::click(entryPoint(3));
   EXPECT_TRUE(shows(3));
   EXPECT_EQ(sub().TreeView1.selected(), 3U);
   EXPECT_EQ(list(), before);
@@ -23,17 +23,17 @@ TEST_F(FrmSubChoosing, AClickShowsTheMeaning) {
 
 TEST_F(FrmSubChoosing, AClickOnTheSelectedWordShowsItAgain) {
   open();
-  input::click(nodePoint(2));
+  injected::click(entryPoint(2));
   ASSERT_TRUE(shows(2));
   sub().txtOut.setText({});
-  const POINT point = nodePoint(2);
-  input::click({point.x + 12, point.y});
+  const POINT point = entryPoint(2);
+  injected::click({point.x + 12, point.y});
   EXPECT_TRUE(shows(2));
 }
 
 TEST_F(FrmSubChoosing, AClickMovesTheFocusToTheList) {
   open();
-  input::click(nodePoint(2));
+  injected::click(entryPoint(2));
   EXPECT_TRUE(eventually([] { return GetFocus() == sub().TreeView1.handle(); }));
 }
 
@@ -71,7 +71,7 @@ TEST_F(FrmSubChoosing, EscReturnsToTheBox) {
 
 TEST_F(FrmSubChoosing, TheListsSelectionComesWithANewList) {
   open();
-  input::click(nodePoint(5));
+  injected::click(entryPoint(5));
   ASSERT_TRUE(shows(5));
   sub().txtInput.setText(u"data");
   EXPECT_EQ(sub().TreeView1.selected(), 1U);
@@ -100,4 +100,4 @@ TEST_F(FrmSubChoosing, TabGoesThroughTheWindow) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

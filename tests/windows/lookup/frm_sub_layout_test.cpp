@@ -1,7 +1,7 @@
-#include "tests/windows/support/frm_sub_test.h"
-#include "tests/windows/support/other_program.h"
+#include "tests/support/window/frm_sub_test.h"
+#include "tests/support/window/other_program.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmSubLayout : public FrmSubTest {
@@ -51,12 +51,13 @@ TEST_F(FrmSubLayout, BelowItsThresholdsItSnaps) {
 
 TEST_F(FrmSubLayout, TheUsersHandSnapsItToo) {
   open();
-  EXPECT_TRUE(untilItLasts(
+  actUntil(
+      "frmSub in its smallest size",
       [] {
         SetWindowPos(sub().handle(), nullptr, 0, 0, 120, 150,
                      SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
       },
-      [] { return sub().width() == 3500 && sub().height() == 2800; }));
+      [] { return sub().width() == 3500 && sub().height() == 2800; }, kLastingWindow);
   expectLaidOut(3500, 2800);
 }
 
@@ -82,7 +83,7 @@ TEST_F(FrmSubLayout, EveryPaintPutsItOnTopAgainWithoutTakingTheFocus) {
   EXPECT_TRUE(eventually([&] { return isAbove(form.handle(), other.window()); }));
   const RECT after = rectOf(form.handle());
   EXPECT_TRUE(EqualRect(&before, &after));
-  EXPECT_TRUE(allAlong([&] { return other.isForeground(); }, 60));
+  EXPECT_TRUE(always([&] { return other.isForeground(); }, 60));
 }
 
 TEST_F(FrmSubLayout, MaximisedItIsLaidOutAndComesBack) {
@@ -110,4 +111,4 @@ TEST_F(FrmSubLayout, FollowsTheResolution) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

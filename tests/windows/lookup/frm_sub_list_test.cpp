@@ -1,6 +1,6 @@
-#include "tests/windows/support/frm_sub_test.h"
+#include "tests/support/window/frm_sub_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmSubList : public FrmSubTest {
@@ -111,4 +111,4 @@ TEST_F(FrmSubList, WithoutTheMeaningTheWordsAreThereAndTheMessageSaysSo) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,7 +1,7 @@
 #include "forms/widget.h"
-#include "tests/windows/support/frm_sub_test.h"
+#include "tests/support/window/frm_sub_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmSubLoading : public FrmSubTest {};
@@ -67,7 +67,7 @@ TEST_F(FrmSubLoading, ShowingItTwiceKeepsWhatItShows) {
 
 TEST_F(FrmSubLoading, AMissingDatabaseIsToldAndTheWindowStays) {
   user::ConnectionString = u"Provider=x;Data Source=C:\\no such folder\\kk.dat;";
-  harness::settings::write(L"WindowWidth", L"7000");
+  settings::write(L"WindowWidth", L"7000");
   frmSub& form = open();
   const auto seen = boxes.take();
   ASSERT_EQ(seen.size(), 1U);
@@ -80,8 +80,8 @@ TEST_F(FrmSubLoading, AMissingDatabaseIsToldAndTheWindowStays) {
   form.txtInput.setText(u"数据");
   EXPECT_EQ(boxes.count(), 0U);
   form.unload();
-  EXPECT_EQ(harness::settings::read(L"WindowWidth"), L"7000");
+  EXPECT_EQ(settings::read(L"WindowWidth"), L"7000");
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

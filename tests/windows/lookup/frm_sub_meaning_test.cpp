@@ -1,6 +1,6 @@
-#include "tests/windows/support/frm_sub_test.h"
+#include "tests/support/window/frm_sub_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 constexpr COLORREF kRed = RGB(255, 0, 0);
@@ -37,7 +37,7 @@ class FrmSubMeaning : public FrmSubTest {
     }
     return colours;
   }
-  static std::vector<COLORREF> colours() { return harness::richTextColours(sub().txtOut.handle()); }
+  static std::vector<COLORREF> colours() { return richTextColours(sub().txtOut.handle()); }
 };
 
 TEST_F(FrmSubMeaning, OneTranslationHasNoSemicolon) {
@@ -132,4 +132,4 @@ TEST_F(FrmSubMeaning, NeitherEnglishNorChineseYieldsNoQuery) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

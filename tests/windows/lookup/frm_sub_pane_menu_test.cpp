@@ -1,9 +1,9 @@
-#include "tests/program/harness/clipboard.h"
-#include "tests/windows/support/clipboard_holder.h"
-#include "tests/windows/support/frm_sub_test.h"
-#include "tests/windows/support/open_menu.h"
+#include "tests/support/process/clipboard.h"
+#include "tests/support/window/clipboard_holder.h"
+#include "tests/support/window/frm_sub_test.h"
+#include "tests/support/window/open_menu.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmSubPaneMenu : public FrmSubTest {
@@ -11,14 +11,14 @@ class FrmSubPaneMenu : public FrmSubTest {
   /// Opens the menu by a right click on the pane and deals with it. Returns its lines.
   static std::vector<MenuLine> rightClick(std::initializer_list<WORD> keys) {
     std::vector<MenuLine> lines;
-    const Watcher user([&, keys = std::vector<WORD>(keys)] {
+    const ModalPoller user([&, keys = std::vector<WORD>(keys)] {
       HWND window = openMenu();
       if (window == nullptr) return false;
       lines = linesOf(window);
       for (const WORD key : keys) input::key(key);
       return true;
     });
-    input::rightClick(centreOf(sub().txtOut));
+    injected::rightClick(centreOf(sub().txtOut));
     EXPECT_TRUE(eventually([&] { return user.done() && openMenu() == nullptr; }));
     forms::doEvents();
     return lines;
@@ -99,7 +99,7 @@ TEST_F(FrmSubPaneMenu, CopyPutsTheSelectionOnTheClipboardAsText) {
   form.txtInput.setText(u"data");
   form.txtOut.select(1, 9);
   rightClick({VK_DOWN, VK_DOWN, VK_RETURN});
-  EXPECT_TRUE(eventually([] { return harness::clipboardText() == L"data\r\n 数据"; }));
+  EXPECT_TRUE(eventually([] { return clipboardText() == L"data\r\n 数据"; }));
   EXPECT_EQ(form.txtOut.selLength(), 9U);
   EXPECT_EQ(form.txtInput.text(), u"data");
 }
@@ -115,7 +115,7 @@ TEST_F(FrmSubPaneMenu, CopyClearsTheClipboardOfEverythingElse) {
   CloseClipboard();
   ASSERT_TRUE(IsClipboardFormatAvailable(other));
   rightClick({VK_DOWN, VK_DOWN, VK_RETURN});
-  EXPECT_TRUE(eventually([] { return harness::clipboardText() == L"data"; }));
+  EXPECT_TRUE(eventually([] { return clipboardText() == L"data"; }));
   EXPECT_FALSE(IsClipboardFormatAvailable(other));
 }
 
@@ -147,7 +147,7 @@ TEST_F(FrmSubPaneMenu, TheMenuKeyOpensItInsideThePane) {
   open().txtInput.setText(u"data");
   sub().txtOut.setFocus();
   RECT menu{};
-  const Watcher user([&] {
+  const ModalPoller user([&] {
     HWND window = openMenu();
     if (window == nullptr) return false;
     menu = rectOf(window);
@@ -163,7 +163,7 @@ TEST_F(FrmSubPaneMenu, TheMenuKeyOpensItInsideThePane) {
 TEST_F(FrmSubPaneMenu, TheMouseOpensItUnderThePointer) {
   open();
   RECT menu{};
-  const Watcher user([&] {
+  const ModalPoller user([&] {
     HWND window = openMenu();
     if (window == nullptr) return false;
     menu = rectOf(window);
@@ -171,7 +171,7 @@ TEST_F(FrmSubPaneMenu, TheMouseOpensItUnderThePointer) {
     return true;
   });
   const POINT point = centreOf(sub().txtOut);
-  input::rightClick(point);
+  injected::rightClick(point);
   ASSERT_TRUE(eventually([&] { return user.done() && openMenu() == nullptr; }));
   EXPECT_NEAR(menu.left, point.x, 1);
   EXPECT_NEAR(menu.top, point.y, 1);
@@ -179,9 +179,9 @@ TEST_F(FrmSubPaneMenu, TheMouseOpensItUnderThePointer) {
 
 TEST_F(FrmSubPaneMenu, ALeftClickOpensNoMenu) {
   open();
-  input::click(centreOf(sub().txtOut));
-  EXPECT_TRUE(allAlong([] { return openMenu() == nullptr; }, 60));
+  injected::click(centreOf(sub().txtOut));
+  EXPECT_TRUE(always([] { return openMenu() == nullptr; }, 60));
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

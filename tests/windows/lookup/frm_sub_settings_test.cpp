@@ -1,11 +1,11 @@
 #include "settings/settings_file.h"
-#include "tests/windows/support/frm_sub_test.h"
-#include "tests/windows/support/unwritable_settings.h"
+#include "tests/support/window/frm_sub_test.h"
+#include "tests/support/window/unwritable_settings.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
-namespace stored = harness::settings;
+namespace stored = support::settings;
 
 class FrmSubSettings : public FrmSubTest {
  protected:
@@ -80,7 +80,7 @@ TEST_F(FrmSubSettings, TooSmallOnesSnap) { openAs({L"3000", L"2500", L"1600"}, 3
 TEST_F(FrmSubSettings, ClosingStoresThem) {
   resize(open(), 7001, 5502);
   sub().TreeView1.setWidth(2222);
-  input::click(centreOf(sub().cmdExit));
+  injected::click(centreOf(sub().cmdExit));
   ASSERT_TRUE(eventually([] { return !forms::isLoaded<frmSub>(); }));
   expectStored(L"7001", L"5502", L"2222");
 }
@@ -140,7 +140,7 @@ TEST_F(FrmSubSettings, AListThatANarrowedWindowHasNoRoomForIsStoredSoThatItOpens
 TEST_F(FrmSubSettings, ClosedWhileMinimisedItKeepsItsRestoredSizes) {
   openAs({L"6000", L"5000", L"2100"}, 6000, 5000, 2100);
   ShowWindow(sub().handle(), SW_MINIMIZE);
-  ASSERT_TRUE(allAlong([] { return sub().isMinimised(); }, 100));
+  ASSERT_TRUE(always([] { return sub().isMinimised(); }, 100));
   close();
   expectStored(L"6000", L"5000", L"2100");
 }
@@ -160,4 +160,4 @@ TEST_F(FrmSubSettings, AFileThatCannotBeWrittenGivesWayToOneOfTheUsersOwn) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

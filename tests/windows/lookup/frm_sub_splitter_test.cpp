@@ -1,7 +1,7 @@
-#include "tests/windows/support/frm_sub_test.h"
-#include "tests/windows/support/open_menu.h"
+#include "tests/support/window/frm_sub_test.h"
+#include "tests/support/window/open_menu.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmSubSplitter : public FrmSubTest {
@@ -10,22 +10,22 @@ class FrmSubSplitter : public FrmSubTest {
   frmSub& openWith(int width, int height, const wchar_t* listWidth) {
     return openSized(
         [=] {
-          harness::settings::write(L"WindowWidth", std::to_wstring(width));
-          harness::settings::write(L"WindowHeight", std::to_wstring(height));
-          harness::settings::write(L"TreeWidth", listWidth);
+          settings::write(L"WindowWidth", std::to_wstring(width));
+          settings::write(L"WindowHeight", std::to_wstring(height));
+          settings::write(L"TreeWidth", listWidth);
         },
         width, height);
   }
 
   /// Drags the splitter to a point and lets go.
   static void dropAt(POINT point) {
-    input::moveTo(centreOf(sub().Image1));
+    injected::moveTo(centreOf(sub().Image1));
     forms::doEvents();
-    input::pressLeft();
+    injected::pressLeft();
     ASSERT_TRUE(eventually([] { return sub().Image1.isDragged(); }));
-    input::moveTo(point);
+    injected::moveTo(point);
     passTime(20);
-    input::releaseLeft();
+    injected::releaseLeft();
     ASSERT_TRUE(eventually([] { return !sub().Image1.isDragged(); }));
   }
 
@@ -105,7 +105,7 @@ TEST_F(FrmSubSplitter, DropsOfAnythingElseChangeNothing) {
 TEST_F(FrmSubSplitter, AClickBesideTheDragStillChoosesWords) {
   openWith(5000, 4000, L"2100");
   dropAt(inWidget(sub().TreeView1, 1800, 1500));
-  input::click(nodePoint(2));
+  injected::click(entryPoint(2));
   EXPECT_TRUE(eventually([] { return sub().TreeView1.selected() == 2; }));
 }
 
@@ -114,31 +114,31 @@ TEST_F(FrmSubSplitter, CanBeTakenHoldOfBesideItsThinLine) {
   const POINT target = inWidget(form.TreeView1, 1800, 1500);
   for (const int beside : {-2, 3}) {
     const RECT line = rectOf(form.Image1.handle());
-    input::moveTo({line.left + beside, centreOf(line).y});
+    injected::moveTo({line.left + beside, centreOf(line).y});
     forms::doEvents();
-    input::pressLeft();
+    injected::pressLeft();
     EXPECT_TRUE(eventually([&] { return form.Image1.isDragged(); }));
-    input::releaseLeft();
+    injected::releaseLeft();
     EXPECT_TRUE(eventually([&] { return !form.Image1.isDragged(); }));
   }
   const RECT line = rectOf(form.Image1.handle());
-  input::moveTo({line.left - 2, target.y});
-  input::pressLeft();
+  injected::moveTo({line.left - 2, target.y});
+  injected::pressLeft();
   forms::doEvents();
-  input::moveTo(target);
+  injected::moveTo(target);
   forms::doEvents();
-  input::releaseLeft();
+  injected::releaseLeft();
   EXPECT_TRUE(eventually([&] { return form.TreeView1.width() == 1770; }));
 }
 
 TEST_F(FrmSubSplitter, AnyButtonDragsItAndOpensNoMenu) {
   frmSub& form = openWith(5000, 4000, L"2100");
-  input::moveTo(centreOf(form.Image1));
-  input::pressRight();
+  injected::moveTo(centreOf(form.Image1));
+  injected::pressRight();
   ASSERT_TRUE(eventually([&] { return form.Image1.isDragged(); }));
-  input::moveTo(inWidget(form.txtOut, 15, 1500));
+  injected::moveTo(inWidget(form.txtOut, 15, 1500));
   forms::doEvents();
-  input::releaseRight();
+  injected::releaseRight();
   ASSERT_TRUE(eventually([&] { return !form.Image1.isDragged(); }));
   expectPlaced(2115);
   EXPECT_EQ(openMenu(), nullptr);
@@ -155,7 +155,7 @@ TEST_F(FrmSubSplitter, TwoDragsInQuickSuccessionBothCount) {
 TEST_F(FrmSubSplitter, APressShowsThePointerWithoutAMoveBeforeIt) {
   frmSub& form = openWith(5000, 4000, L"2100");
   HCURSOR sizing = LoadCursorW(nullptr, IDC_SIZEWE);
-  input::moveTo(centreOf(form.Image1));
+  injected::moveTo(centreOf(form.Image1));
   ASSERT_TRUE(eventually([&] { return GetCursor() == sizing; }));
   form.setMousePointer(nullptr);
   ASSERT_NE(GetCursor(), sizing);
@@ -170,23 +170,23 @@ TEST_F(FrmSubSplitter, APressShowsThePointerWithoutAMoveBeforeIt) {
 TEST_F(FrmSubSplitter, ThePointerShowsWhereItCanBeDragged) {
   frmSub& form = openWith(5000, 4000, L"2100");
   HCURSOR sizing = LoadCursorW(nullptr, IDC_SIZEWE);
-  input::moveTo(centreOf(form.Image1));
+  injected::moveTo(centreOf(form.Image1));
   EXPECT_TRUE(eventually([&] { return GetCursor() == sizing; }));
   EXPECT_EQ(form.Image1.toolTip(), u"拖动以调解窗体宽度");
   for (const forms::Widget* widget : std::initializer_list<const forms::Widget*>{
            &form.Label1, &form.txtInput, &form.cmdExit, &form.TreeView1, &form.txtOut}) {
-    input::moveTo(centreOf(form.Image1));
+    injected::moveTo(centreOf(form.Image1));
     ASSERT_TRUE(eventually([&] { return GetCursor() == sizing; }));
-    input::moveTo(centreOf(*widget));
+    injected::moveTo(centreOf(*widget));
     EXPECT_TRUE(eventually([&] { return GetCursor() != sizing; }));
   }
-  input::moveTo(centreOf(form.Image1));
+  injected::moveTo(centreOf(form.Image1));
   ASSERT_TRUE(eventually([&] { return GetCursor() == sizing; }));
   POINT empty{3, 3};
   ClientToScreen(form.handle(), &empty);
-  input::moveTo(empty);
+  injected::moveTo(empty);
   EXPECT_TRUE(eventually([&] { return GetCursor() == LoadCursorW(nullptr, IDC_ARROW); }));
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,6 +1,6 @@
-#include "tests/windows/support/frm_sub_test.h"
+#include "tests/support/window/frm_sub_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmSubTyping : public FrmSubTest {};
@@ -155,4 +155,4 @@ TEST_F(FrmSubTyping, AnythingMayBeTyped) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,9 +1,9 @@
 #include "query/frm_dict_setting.h"
 
-#include "tests/unit/support/file_layer.h"
-#include "tests/windows/support/query_test.h"
+#include "tests/support/data/file_layer.h"
+#include "tests/support/window/query_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmDictSetting : public QueryTest {
@@ -15,7 +15,7 @@ class FrmDictSetting : public QueryTest {
     EXPECT_TRUE(eventually([&] { return GetFocus() == window.TreeView2.handle(); }));
     return window;
   }
-  static void choose(int node) { input::click(nodePoint(settings().TreeView2, node)); }
+  static void choose(int node) { injected::click(nodePoint(settings().TreeView2, node)); }
 
   /// Which rows of [Index] are flagged, as a number: 1 for id 1, 10 for id 2 ...
   static std::int64_t flags() {
@@ -32,7 +32,7 @@ class FrmDictSetting : public QueryTest {
   static bool highlights(std::size_t number) {
     const forms::TreeView& list = settings().TreeView2;
     return eventually([&] { return GetFocus() == list.handle() && list.selected() == number; }) &&
-           allAlong([&] { return list.selected() == number; }, 60);
+           always([&] { return list.selected() == number; }, 60);
   }
 
   /// Moves the default from 医学, node 3, to `node` on a disk that fills up between the writing of
@@ -41,7 +41,7 @@ class FrmDictSetting : public QueryTest {
     int changes = 0;
     openSettings();
     {
-      const support::FileLayer counting([&] {
+      const FileLayer counting([&] {
         ++changes;
         return SQLITE_OK;
       });
@@ -52,7 +52,7 @@ class FrmDictSetting : public QueryTest {
     store("update [Index] set [default]=(id=1)");
     openSettings();
     // Each of the two rows takes half of them.
-    const support::FileLayer full(
+    const FileLayer full(
         [left = changes / 2]() mutable { return left-- > 0 ? SQLITE_OK : SQLITE_FULL; });
     choose(node);
     expectDatabaseBox(kDiskFull, u"database or disk is full");
@@ -71,13 +71,13 @@ class FrmDictSetting : public QueryTest {
     choose(1);
     expectDatabaseBox(problem, engineText);
     EXPECT_TRUE(highlights(shown));
-    EXPECT_EQ(textsOf(settings().TreeView2).size(), 4U);
+    EXPECT_EQ(nodeTexts(settings().TreeView2).size(), 4U);
   }
 };
 
 TEST_F(FrmDictSetting, ListsAllDictionariesTheHiddenOnesToo) {
   frmdictSetting& window = openSettings();
-  EXPECT_EQ(textsOf(window.TreeView2), (Texts{u"化学", u"计算机", u"医学", u"隐藏"}));
+  EXPECT_EQ(nodeTexts(window.TreeView2), (Texts{u"化学", u"计算机", u"医学", u"隐藏"}));
   EXPECT_EQ(window.TreeView2.selected(), 3U);
   EXPECT_EQ(window.Adodc1.recordSource(), u"select * from [index] order by Cname");
 }
@@ -127,14 +127,14 @@ TEST_F(FrmDictSetting, AClickMovesTheDefault) {
 TEST_F(FrmDictSetting, AClickOnTheDefaultWritesAgain) {
   openSettings();
   {
-    support::Writer other(besideProgram());
+    Writer other(besideProgram());
     other.run("begin immediate");
     choose(3);
     expectDatabaseBox(kInUse, u"database is locked");
     other.run("rollback");
   }
   const POINT point = nodePoint(settings().TreeView2, 3);
-  input::click({point.x + 12, point.y});
+  injected::click({point.x + 12, point.y});
   passTime(60);
   EXPECT_EQ(flags(), 1);
 }
@@ -143,14 +143,14 @@ TEST_F(FrmDictSetting, MovingTheHighlightWritesNothing) {
   openSettings();
   int changes = 0;
   {
-    const support::FileLayer layer([&] {
+    const FileLayer layer([&] {
       ++changes;
       return SQLITE_OK;
     });
     for (const WORD key : std::initializer_list<WORD>{VK_UP, VK_HOME, VK_DOWN, VK_END})
       input::key(key);
     ASSERT_TRUE(eventually([] { return settings().TreeView2.selected() == 4; }));
-    input::rightClick(nodePoint(settings().TreeView2, 1));
+    injected::rightClick(nodePoint(settings().TreeView2, 1));
     passTime(60);
     input::key(VK_ESCAPE);
     ASSERT_TRUE(eventually([] { return !forms::isLoaded<frmdictSetting>(); }));
@@ -240,7 +240,7 @@ TEST_F(FrmDictSetting, AFileThatMayNotBeWrittenIsTold) {
 TEST_F(FrmDictSetting, AFileThatOthersHoldIsToldWithinSeconds) {
   openSettings();
   {
-    support::Writer other(besideProgram());
+    Writer other(besideProgram());
     other.run("begin immediate");
     const ULONGLONG start = GetTickCount64();
     expectFailure(kInUse, u"database is locked");
@@ -253,7 +253,7 @@ TEST_F(FrmDictSetting, AFileThatOthersHoldIsToldWithinSeconds) {
 TEST_F(FrmDictSetting, AFullDiskIsTold) {
   openSettings();
   {
-    const support::FileLayer full([] { return SQLITE_FULL; });
+    const FileLayer full([] { return SQLITE_FULL; });
     expectFailure(kDiskFull, u"database or disk is full");
   }
   EXPECT_EQ(flags(), 1);
@@ -331,4 +331,4 @@ TEST_F(FrmDictSetting, TabReachesTheHintAndLeavesIt) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,11 +1,11 @@
 // Whatever is typed into a box of the search windows: no more than a message comes of it.
-#include "tests/unit/support/hostile_texts.h"
+#include "tests/support/data/hostile_texts.h"
 
 #include "query/frm_spc.h"
-#include "tests/windows/support/frm_sub_test.h"
-#include "tests/windows/support/query_test.h"
+#include "tests/support/window/frm_sub_test.h"
+#include "tests/support/window/query_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 /// When a user takes a window for frozen, in milliseconds.
@@ -24,13 +24,13 @@ void typeEach(const std::vector<std::u16string>& texts, Type type) {
 
 class FrmHostileTexts : public QueryTest {
  protected:
-  FrmHostileTexts() : before_(support::readFile(besideProgram())) { open(); }
+  FrmHostileTexts() : before_(readFile(besideProgram())) { open(); }
 
   /// No box stays, nothing is changed, and the next search finds what it always finds.
   void expectIntact() {
     static_cast<void>(boxes.take());
     EXPECT_EQ(MessageBoxes::current(), nullptr);
-    EXPECT_EQ(support::readFile(besideProgram()), before_);
+    EXPECT_EQ(readFile(besideProgram()), before_);
     easy(u"liver");
     EXPECT_EQ(lines(), (Texts{u"liver          肝"}));
   }
@@ -49,7 +49,7 @@ class FrmHostileTexts : public QueryTest {
 
 TEST_F(FrmHostileTexts, InTheInputBox) {
   bool isEasy = false;
-  typeEach(support::hostileTexts(), [&](const std::u16string& text) {
+  typeEach(hostileTexts(), [&](const std::u16string& text) {
     isEasy = !isEasy;
     isEasy ? easy(text) : complex(text);
   });
@@ -57,22 +57,22 @@ TEST_F(FrmHostileTexts, InTheInputBox) {
 }
 
 TEST_F(FrmHostileTexts, InTheEnglishBoxOfTheSpecialSearch) {
-  typeEach(support::briefHostileTexts(), [](const std::u16string& text) { special(text, u"心"); });
+  typeEach(briefHostileTexts(), [](const std::u16string& text) { special(text, u"心"); });
   expectIntact();
 }
 
 TEST_F(FrmHostileTexts, InTheChineseBoxOfTheSpecialSearch) {
-  typeEach(support::briefHostileTexts(), [](const std::u16string& text) { special(u"e", text); });
+  typeEach(briefHostileTexts(), [](const std::u16string& text) { special(u"e", text); });
   expectIntact();
 }
 
 TEST_F(FrmHostileTexts, CostlyOnesInTheEnglishBoxOfTheSpecialSearch) {
-  typeEach(support::costlyTexts(), [](const std::u16string& text) { special(text, u"心"); });
+  typeEach(costlyTexts(), [](const std::u16string& text) { special(text, u"心"); });
   expectIntact();
 }
 
 TEST_F(FrmHostileTexts, CostlyOnesInTheChineseBoxOfTheSpecialSearch) {
-  typeEach(support::costlyTexts(), [](const std::u16string& text) { special(u"e", text); });
+  typeEach(costlyTexts(), [](const std::u16string& text) { special(u"e", text); });
   expectIntact();
 }
 
@@ -92,8 +92,7 @@ TEST_F(FrmHostileTexts, TheLongestLinesThatThereCanBe) {
 }
 
 TEST_F(FrmHostileTexts, ASearchWithoutEndEndsInOneBox) {
-  typeEach({support::endlessTexts().front()},
-           [](const std::u16string& text) { special(text, u"心"); });
+  typeEach({endlessTexts().front()}, [](const std::u16string& text) { special(text, u"心"); });
   EXPECT_EQ(boxes.count(), 1U);
   expectIntact();
 }
@@ -101,19 +100,19 @@ TEST_F(FrmHostileTexts, ASearchWithoutEndEndsInOneBox) {
 class FrmSubHostileTexts : public FrmSubTest {};
 
 TEST_F(FrmSubHostileTexts, InTheInputBox) {
-  const std::string before = support::readFile(besideProgram());
+  const std::string before = readFile(besideProgram());
   frmSub& form = open();
   form.beep = [] {};
-  typeEach(support::hostileTexts(), [&](const std::u16string& text) {
+  typeEach(hostileTexts(), [&](const std::u16string& text) {
     form.txtInput.setText(text);
     EXPECT_EQ(boxes.count(), 0U);
     static_cast<void>(boxes.take());
   });
-  EXPECT_EQ(support::readFile(besideProgram()), before);
+  EXPECT_EQ(readFile(besideProgram()), before);
   form.txtInput.setText(u"data");
   ASSERT_FALSE(list().empty());
   EXPECT_EQ(list()[0], u"data");
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

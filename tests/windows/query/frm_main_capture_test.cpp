@@ -1,8 +1,8 @@
 #include "query/frm_spc.h"
-#include "tests/windows/support/other_program.h"
-#include "tests/windows/support/query_test.h"
+#include "tests/support/window/other_program.h"
+#include "tests/support/window/query_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmMainCapture : public QueryTest {};
@@ -55,7 +55,7 @@ TEST_F(FrmMainCapture, AMessageDoesNotWakeIt) {
   open();
   ASSERT_TRUE(rests());
   bool restedMeanwhile = false;
-  boxes.whileUp([&](HWND) { restedMeanwhile = allAlong([] { return !captureRuns(); }, 60); });
+  boxes.whileUp([&](HWND) { restedMeanwhile = always([] { return !captureRuns(); }, 60); });
   form().txtInput.setFocus();
   input::key(VK_RETURN);
   expectBox(u"查询条件不为空！", Icon::kWarning);
@@ -77,4 +77,4 @@ TEST_F(FrmMainCapture, RestsInTheSpecialSearchAndFollowsTheBoxAfterwards) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

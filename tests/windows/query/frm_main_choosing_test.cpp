@@ -1,7 +1,7 @@
-#include "tests/program/harness/clipboard.h"
-#include "tests/windows/support/query_test.h"
+#include "tests/support/process/clipboard.h"
+#include "tests/support/window/query_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmMainChoosing : public QueryTest {
@@ -17,7 +17,7 @@ class FrmMainChoosing : public QueryTest {
 TEST_F(FrmMainChoosing, AClickChoosesTheDictionary) {
   open();
   EXPECT_EQ(form().lastClicked(), 0);
-  input::click(nodePoint(form().TreeView1, 1));
+  injected::click(nodePoint(form().TreeView1, 1));
   EXPECT_TRUE(chosen(u"chem"));
   EXPECT_EQ(form().lastClicked(), 1);
   EXPECT_EQ(form().TreeView1.selected(), 1U);
@@ -27,7 +27,7 @@ TEST_F(FrmMainChoosing, AClickChoosesTheDictionary) {
 
 TEST_F(FrmMainChoosing, ARightClickChoosesNothing) {
   open();
-  input::rightClick(nodePoint(form().TreeView1, 1));
+  injected::rightClick(nodePoint(form().TreeView1, 1));
   passTime(60);
   EXPECT_EQ(form().selectedTable(), u"med");
 }
@@ -108,20 +108,20 @@ TEST_F(FrmMainChoosing, TheArrowKeysGoThroughTheLines) {
 TEST_F(FrmMainChoosing, CtrlCCopiesTheLine) {
   frmMain& window = open();
   easy(u"heart");
-  input::click(nodePoint(window.TreeView2, 2));
+  injected::click(nodePoint(window.TreeView2, 2));
   ASSERT_TRUE(eventually([&] { return window.TreeView2.selected() == 2; }));
   input::key('C', {VK_CONTROL});
-  EXPECT_TRUE(eventually([] { return harness::clipboardText() == L"heart beat       心搏"; }));
+  EXPECT_TRUE(eventually([] { return clipboardText() == L"heart beat       心搏"; }));
 }
 
 TEST_F(FrmMainChoosing, CtrlCWithoutALineCopiesNothing) {
   frmMain& window = open();
-  harness::setClipboardText(L"before");
+  setClipboardText(L"before");
   window.TreeView2.setFocus();
   input::key('C', {VK_CONTROL});
   passTime(60);
-  EXPECT_EQ(harness::clipboardText(), L"before");
+  EXPECT_EQ(clipboardText(), L"before");
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,8 +1,8 @@
 #include "query/layout.h"
-#include "tests/windows/support/query_test.h"
+#include "tests/support/window/query_test.h"
 #include "win32/monitor.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmMainLayout : public QueryTest {
@@ -27,14 +27,16 @@ class FrmMainLayout : public QueryTest {
 };
 
 TEST_F(FrmMainLayout, OpensInItsSizeAndFollowsTheWindow) {
-  EXPECT_TRUE(untilItLasts(
+  actUntil(
+      "frmMain in its opening size",
       [&] {
         if (forms::isLoaded<frmMain>()) form().unload();
         open();
       },
       [] {
         return form().width() == query::kOpeningWidth && form().height() == query::kOpeningHeight;
-      }));
+      },
+      kLastingWindow);
   expectLaidOut();
   resize(form(), 12000, 9000);
   expectLaidOut();
@@ -80,4 +82,4 @@ TEST_F(FrmMainLayout, TheUserCannotMakeItUselesslySmall) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

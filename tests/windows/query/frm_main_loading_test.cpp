@@ -1,15 +1,14 @@
 #include "forms/widget.h"
-#include "tests/windows/support/box_looks.h"
-#include "tests/windows/support/query_test.h"
+#include "tests/support/window/query_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmMainLoading : public QueryTest {};
 
 TEST_F(FrmMainLoading, ListsTheShownDictionariesWithPictures) {
   frmMain& window = open();
-  EXPECT_EQ(textsOf(window.TreeView1), (Texts{u"化学", u"计算机", u"医学"}));
+  EXPECT_EQ(nodeTexts(window.TreeView1), (Texts{u"化学", u"计算机", u"医学"}));
   const auto pictures = reinterpret_cast<HIMAGELIST>(
       SendMessageW(window.TreeView1.handle(), TVM_GETIMAGELIST, TVSIL_NORMAL, 0));
   EXPECT_EQ(ImageList_GetImageCount(pictures), 1);
@@ -84,7 +83,7 @@ TEST_F(FrmMainLoading, WithNoDictionaryShownItSaysSoAndSearchesDoToo) {
   forms::form<frmMain>();
   expectBox(kChoose, Icon::kWarning);
   open();
-  EXPECT_EQ(textsOf(form().TreeView1), Texts{});
+  EXPECT_EQ(nodeTexts(form().TreeView1), Texts{});
   easy(u"a");
   expectBox(kChoose, Icon::kWarning);
   complex(u"a");
@@ -137,4 +136,4 @@ TEST_F(FrmMainLoading, ShowingItAgainBringsTheSameWindow) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

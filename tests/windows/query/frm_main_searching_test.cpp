@@ -1,6 +1,6 @@
-#include "tests/windows/support/query_test.h"
+#include "tests/support/window/query_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmMainSearching : public QueryTest {
@@ -136,7 +136,7 @@ TEST_F(FrmMainSearching, TheLinesStartAtTheTopAgain) {
   form().TreeView2.select(90);
   easy(u"bit2");
   forms::doEvents();
-  EXPECT_TRUE(harness::treeNodeRect(form().TreeView2.handle(), 0).has_value());
+  EXPECT_TRUE(treeNodeRect(form().TreeView2.handle(), 0).has_value());
   EXPECT_EQ(form().TreeView2.selected(), 90U);
 }
 
@@ -184,4 +184,4 @@ TEST_F(FrmMainSearching, AnErrorWhileLinesAreWrittenEndsSilently) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,10 +1,9 @@
 #include "query/frm_spc.h"
 
 #include "forms/widget.h"
-#include "tests/windows/support/box_looks.h"
-#include "tests/windows/support/query_test.h"
+#include "tests/support/window/query_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 class FrmSpc : public QueryTest {
@@ -230,4 +229,4 @@ TEST_F(FrmSpc, CaptureRestsFromItsActivationToItsEnd) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,10 +1,10 @@
 #include "settings/settings_file.h"
 
-#include "tests/unit/support/temp_folder.h"
-#include "tests/windows/support/unwritable_settings.h"
+#include "tests/support/data/temp_folder.h"
+#include "tests/support/window/unwritable_settings.h"
 #include "win32/win32.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 constexpr char16_t kSection[] = u"SystemSetting";
@@ -50,15 +50,11 @@ class SettingsFile : public ::testing::Test {
   void write(const std::u16string& key, const std::u16string& value) const {
     user::WriteINIProfileString(kSection, key, value, path_);
   }
-  void writeBytes(std::string_view bytes) const {
-    support::writeFile(std::filesystem::path(path_), bytes);
-  }
-  [[nodiscard]] std::string bytes() const {
-    return support::readFile(std::filesystem::path(path_));
-  }
+  void writeBytes(std::string_view bytes) const { writeFile(std::filesystem::path(path_), bytes); }
+  [[nodiscard]] std::string bytes() const { return readFile(std::filesystem::path(path_)); }
 
  private:
-  support::TempFolder folder_;
+  TempFolder folder_;
   std::u16string path_;
 };
 
@@ -143,7 +139,7 @@ TEST_F(SettingsFile, ElseAmongTheUsersOwnData) {
 
 TEST_F(SettingsFile, ThatTheCodePageCannotNameIsReachedByItsShortName) {
   const UnwritableSettings held;
-  const support::TempFolder folder;
+  const TempFolder folder;
   // Neither stands in GBK.
   const std::filesystem::path own = folder.file(u"Zażółć ไทย");
   std::filesystem::create_directory(own);
@@ -153,7 +149,7 @@ TEST_F(SettingsFile, ThatTheCodePageCannotNameIsReachedByItsShortName) {
   EXPECT_EQ(path.find(u"ไทย"), path.npos);
   user::WriteINIProfileString(kSection, u"A", u"own", path);
   EXPECT_EQ(user::getINIProfileString(kSection, u"A", u"", path), u"own");
-  EXPECT_NE(support::readFile(own / u"Lexilo" / u"system.ini").find("A=own"), std::string::npos);
+  EXPECT_NE(readFile(own / u"Lexilo" / u"system.ini").find("A=own"), std::string::npos);
 }
 
 TEST_F(SettingsFile, LookingForItLeavesNoFileBehind) {
@@ -166,4 +162,4 @@ TEST_F(SettingsFile, LookingForItLeavesNoFileBehind) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -5,7 +5,7 @@
 #include <random>
 
 #include "data/record_set.h"
-#include "tests/unit/support/sample_database.h"
+#include "tests/support/data/sample_database.h"
 
 namespace {
 

@@ -10,9 +10,9 @@
 
 #include "dictionary/check/general.h"
 #include "dictionary/console.h"
-#include "tests/unit/support/sample_database.h"
-#include "tests/unit/support/small_dictionary.h"
-#include "tests/unit/support/temp_folder.h"
+#include "tests/support/data/sample_database.h"
+#include "tests/support/data/small_dictionary.h"
+#include "tests/support/data/temp_folder.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
 #include "data/index_words.h"
-#include "tests/unit/support/sample_database.h"
-#include "tests/unit/support/small_dictionary.h"
+#include "tests/support/data/sample_database.h"
+#include "tests/support/data/small_dictionary.h"
 #include "text/query_text.h"
 
 namespace {

@@ -11,14 +11,14 @@
 #include "capture/nhw32/policy.h"
 #include "capture/nhw32/reader.h"
 #include "capture/nhw32/service.h"
-#include "tests/program/harness/find.h"
-#include "tests/windows/support/heap_blocks.h"
-#include "tests/windows/support/hold_ups.h"
-#include "tests/windows/support/pump.h"
-#include "tests/windows/support/text_target.h"
-#include "tests/windows/support/word_host.h"
+#include "tests/support/process/find.h"
+#include "tests/support/wait.h"
+#include "tests/support/window/heap_blocks.h"
+#include "tests/support/window/hooked_text_window.h"
+#include "tests/support/window/latency_recorder.h"
+#include "tests/support/window/word_host.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 using std::chrono::milliseconds;
@@ -43,7 +43,7 @@ class Hanging {
                        return std::optional<LRESULT>();
                      }},
                 u"stubborn words") {
-    place_ = harness::centreOf(*characterCell(target_.control(), 3));
+    place_ = centreOf(*characterCell(target_.control(), 3));
   }
   ~Hanging() { hangs_ = false; }
   Hanging(const Hanging&) = delete;
@@ -64,7 +64,7 @@ class Hanging {
 
   std::atomic<bool> hangs_ = false;
   std::atomic<int> lost_ = 0;
-  TextTarget target_;
+  HookedTextWindow target_;
   POINT place_{};
 };
 
@@ -117,7 +117,7 @@ TEST_F(Nhw32Hanging, AControlThatTakesItsTimeMayStillUseTheMemoryItWasGiven) {
 TEST_F(Nhw32Hanging, ProbingNeverWaits) {
   constexpr int kTargets = 4;
   nhw32::SetNHW32();
-  HoldUps probing;
+  LatencyRecorder probing;
   for (int i = 0; i < kTargets; ++i) {
     Hanging target;
     ASSERT_EQ(host_.wordAt(target.place()), "stubborn");
@@ -138,7 +138,7 @@ TEST_F(Nhw32Hanging, StartingAndStoppingTwoHundredTimesLeavesNoThreads) {
   Hanging target;
   for (const bool hangs : {false, true}) {
     target.hang(hangs);
-    HoldUps restarting;
+    LatencyRecorder restarting;
     int most = 0;
     for (int round = 0; round < 200; ++round) {
       restarting.measure([&] {
@@ -202,4 +202,4 @@ TEST_F(Nhw32Hanging, AWaySlowerThanTheProbesIsHeardAndAFailingOneDoesNoHarm) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

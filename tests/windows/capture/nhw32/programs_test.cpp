@@ -6,17 +6,17 @@
 #include "capture/nhw32/nhw32.h"
 #include "capture/nhw32/policy.h"
 #include "capture/nhw32/service.h"
-#include "tests/program/harness/find.h"
-#include "tests/program/harness/stopped.h"
-#include "tests/windows/support/hold_ups.h"
-#include "tests/windows/support/pump.h"
-#include "tests/windows/support/text_places.h"
-#include "tests/windows/support/text_program.h"
-#include "tests/windows/support/text_target.h"
-#include "tests/windows/support/word_host.h"
-#include "tests/windows/support/word_page.h"
+#include "tests/support/process/find.h"
+#include "tests/support/process/suspended_process.h"
+#include "tests/support/wait.h"
+#include "tests/support/window/hooked_text_window.h"
+#include "tests/support/window/latency_recorder.h"
+#include "tests/support/window/mixed_page.h"
+#include "tests/support/window/system_editor.h"
+#include "tests/support/window/text_geometry.h"
+#include "tests/support/window/word_host.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 using std::chrono::microseconds;
@@ -39,28 +39,29 @@ std::string ansi(const std::u16string& text) {
 }
 
 /// Words of other programs.
-class Nhw32Programs : public ::testing::TestWithParam<TextProgram::Kind> {
+class Nhw32Programs : public ::testing::TestWithParam<SystemEditor::Kind> {
  protected:
-  static PageDesign design(std::size_t length) {
+  static MixedPageDesign design(std::size_t length) {
     return {.length = length,
-            .lineEnd = GetParam() == TextProgram::Kind::kNotepad ? u"\r\n" : u"\r"};
+            .lineEnd = GetParam() == SystemEditor::Kind::kNotepad ? u"\r\n" : u"\r"};
   }
 };
 
 INSTANTIATE_TEST_SUITE_P(OfTheSystem, Nhw32Programs,
-                         ::testing::Values(TextProgram::Kind::kNotepad,
-                                           TextProgram::Kind::kWordPad),
+                         ::testing::Values(SystemEditor::Kind::kNotepad,
+                                           SystemEditor::Kind::kWordPad),
                          [](const auto& kind) {
-                           return kind.param == TextProgram::Kind::kNotepad ? "Notepad" : "WordPad";
+                           return kind.param == SystemEditor::Kind::kNotepad ? "Notepad"
+                                                                             : "WordPad";
                          });
 
 TEST_P(Nhw32Programs, TheServiceTellsTheWordAtTwoHundredPlaces) {
-  const WordPage page = makePage(design(4000));
-  const TextProgram program(GetParam(), page.text);
+  const MixedPage page = makeMixedPage(design(4000));
+  const SystemEditor program(GetParam(), page.text);
   nhw32::SetNHW32();
   WordHost host;
   int compared = 0;
-  for (const TextPlace& place : placesInSight(program.control(), 200)) {
+  for (const TextPoint& place : visibleTextPoints(program.control(), 200)) {
     // What is no word is asked for directly: nothing would tell when to stop waiting for it.
     const std::u16string& word = page.words[place.position];
     if (word.empty()) {
@@ -76,12 +77,12 @@ TEST_P(Nhw32Programs, TheServiceTellsTheWordAtTwoHundredPlaces) {
 }
 
 TEST_P(Nhw32Programs, TellsTheWordsOfALongTextQuickly) {
-  const WordPage page = makePage(design(400'000));
-  const TextProgram program(GetParam(), page.text);
+  const MixedPage page = makeMixedPage(design(400'000));
+  const SystemEditor program(GetParam(), page.text);
   for (const int line : {0, 3'000, 6'000}) {
-    harness::send(program.control(), EM_LINESCROLL, 0, line);
+    send(program.control(), EM_LINESCROLL, 0, line);
     std::vector<microseconds> times;
-    for (const TextPlace& place : placesInSight(program.control(), 40)) {
+    for (const TextPoint& place : visibleTextPoints(program.control(), 40)) {
       nhw32::Answer answer;
       times.push_back(
           timeOf([&] { answer = answerTo(questionAt(program.control(), place.point)); }));
@@ -96,15 +97,15 @@ TEST_P(Nhw32Programs, TellsTheWordsOfALongTextQuickly) {
 }
 
 TEST_P(Nhw32Programs, AStoppedProgramHoldsNobodyUpAndLivesOn) {
-  const TextProgram program(GetParam(), u"patient words");
+  const SystemEditor program(GetParam(), u"patient words");
   const nhw32::Question question = questionAbout(program.control(), 3);
   const POINT point{question.point.x, question.point.y};
   ASSERT_EQ(answerTo(question).word.text, u"patient");
   WordHost host;
   nhw32::SetNHW32();
   {
-    const harness::Stopped stopped(program.mark());
-    HoldUps probing;
+    const SuspendedProcess stopped(program.mark());
+    LatencyRecorder probing;
     for (int probe = 0; probe < nhw32::Backoff::kMaxTimeouts; ++probe) {
       probing.measure([&] { host.probe(point); });
       passTime(60);
@@ -112,7 +113,7 @@ TEST_P(Nhw32Programs, AStoppedProgramHoldsNobodyUpAndLivesOn) {
     EXPECT_FALSE(probing.wait());
     RecordProperty("longest_probe_microseconds", static_cast<int>(probing.longest().count()));
     EXPECT_TRUE(host.words().empty());
-    HoldUps restarting;
+    LatencyRecorder restarting;
     for (int round = 0; round < 200; ++round) {
       restarting.measure([&] {
         nhw32::ResetNHW32();
@@ -126,10 +127,10 @@ TEST_P(Nhw32Programs, AStoppedProgramHoldsNobodyUpAndLivesOn) {
     EXPECT_TRUE(eventually([] { return nhw32::service().workers() == 0; }));
   }
   // It has all our late messages before it and answers them now.
-  harness::waitFor("the program to answer again",
-                   [&] { return answerTo(question).word.text == u"patient"; });
+  waitFor("the program to answer again",
+          [&] { return answerTo(question).word.text == u"patient"; });
   EXPECT_TRUE(program.process().running());
-  EXPECT_EQ(harness::textOf(program.control()), L"patient words");
+  EXPECT_EQ(textOf(program.control()), L"patient words");
 }
 
 /// Takes from everyone the right to open a program, as one of higher integrity withholds it.
@@ -143,7 +144,7 @@ void forbidOpening(HANDLE process) {
 }
 
 TEST(Nhw32Refusal, AProgramThatMayNotBeOpenedGivesNoWordOfItsRichEditControl) {
-  const TextProgram program(TextProgram::Kind::kWordPad, u"guarded words");
+  const SystemEditor program(SystemEditor::Kind::kWordPad, u"guarded words");
   const nhw32::Question question = questionAbout(program.control(), 3);
   ASSERT_EQ(answerTo(question).word.text, u"guarded");
   forbidOpening(program.process().handle());
@@ -151,7 +152,7 @@ TEST(Nhw32Refusal, AProgramThatMayNotBeOpenedGivesNoWordOfItsRichEditControl) {
 }
 
 TEST_P(Nhw32Programs, AProgramThatDiesGivesNoWord) {
-  const TextProgram program(GetParam(), u"mortal words");
+  const SystemEditor program(GetParam(), u"mortal words");
   const nhw32::Question question = questionAbout(program.control(), 3);
   ASSERT_EQ(answerTo(question).word.text, u"mortal");
   program.process().kill();
@@ -159,4 +160,4 @@ TEST_P(Nhw32Programs, AProgramThatDiesGivesNoWord) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -5,16 +5,16 @@
 #include <array>
 
 #include "capture/nhw32/nhw32.h"
-#include "tests/program/harness/find.h"
-#include "tests/windows/support/pump.h"
-#include "tests/windows/support/text_target.h"
-#include "tests/windows/support/word_host.h"
+#include "tests/support/process/find.h"
+#include "tests/support/wait.h"
+#include "tests/support/window/hooked_text_window.h"
+#include "tests/support/window/word_host.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 POINT pointOf(HWND control, std::size_t position) {
-  return harness::centreOf(*characterCell(control, position));
+  return centreOf(*characterCell(control, position));
 }
 
 /// What BL_GetText32 hands over now.
@@ -35,7 +35,7 @@ class Nhw32Service : public ::testing::Test {
 
   /// Handles no messages meanwhile, so that the announcement stays in the queue.
   void armUntilAWordWaits(POINT point) {
-    harness::waitFor("a word", [&] {
+    waitFor("a word", [&] {
       host_.probe(point);
       const ULONGLONG begin = GetTickCount64();
       while (textNow().empty() && GetTickCount64() - begin < 100) Sleep(1);
@@ -47,7 +47,7 @@ class Nhw32Service : public ::testing::Test {
 };
 
 TEST_F(Nhw32Service, HandsTheWordUnderTheArmedPointToTheHost) {
-  const TextTarget target({}, u"It was a well-known word.\r\nSecond");
+  const HookedTextWindow target({}, u"It was a well-known word.\r\nSecond");
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 12)), "well-known");
   const RECT rect = host_.rect();
   EXPECT_TRUE(PtInRect(&rect, pointOf(target.control(), 9)));
@@ -57,15 +57,15 @@ TEST_F(Nhw32Service, HandsTheWordUnderTheArmedPointToTheHost) {
 }
 
 TEST_F(Nhw32Service, HandsTextsOverInTheAnsiCodePage) {
-  const TextTarget target({}, u"字典 don\u2019t caf\u00E9 \r\nx");
+  const HookedTextWindow target({}, u"字典 don\u2019t caf\u00E9 \r\nx");
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 1)), "\xD7\xD6\xB5\xE4");
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 4)), "don't");
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 10)), "caf\xA8\xA6");
 }
 
 TEST_F(Nhw32Service, CutsAtAWholeCharacter) {
-  const TextTarget target({.size = {900, 100}}, u"aa" + std::u16string(100, u'b') + u" \r\n" +
-                                                    std::u16string(60, u'典') + u" \r\nx");
+  const HookedTextWindow target({.size = {900, 100}}, u"aa" + std::u16string(100, u'b') + u" \r\n" +
+                                                          std::u16string(60, u'典') + u" \r\nx");
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 3)), "aa" + std::string(98, 'b'));
   std::string fifty;
   for (int i = 0; i < 50; ++i) fifty += "\xB5\xE4";
@@ -90,7 +90,7 @@ TEST_F(Nhw32Service, WithoutAWordTheTextIsEmpty) {
 }
 
 TEST_F(Nhw32Service, DisarmingTakesBackAMessageThatWasPostedAlready) {
-  const TextTarget target({}, u"first second");
+  const HookedTextWindow target({}, u"first second");
   armUntilAWordWaits(pointOf(target.control(), 2));
   nhw32::BL_SetFlag32(nhw32::kDisarm, nullptr, 0, 0);
   EXPECT_EQ(textNow(), "");
@@ -98,7 +98,7 @@ TEST_F(Nhw32Service, DisarmingTakesBackAMessageThatWasPostedAlready) {
 }
 
 TEST_F(Nhw32Service, ArmingElsewhereTakesItBackAsWell) {
-  const TextTarget target({}, u"first second");
+  const HookedTextWindow target({}, u"first second");
   const POINT second = pointOf(target.control(), 8);
   armUntilAWordWaits(pointOf(target.control(), 2));
   std::string word = "(none)";
@@ -112,7 +112,7 @@ TEST_F(Nhw32Service, ArmingElsewhereTakesItBackAsWell) {
 }
 
 TEST_F(Nhw32Service, StoppingTakesItBackAndArmingIsInVainThen) {
-  const TextTarget target({}, u"first second");
+  const HookedTextWindow target({}, u"first second");
   armUntilAWordWaits(pointOf(target.control(), 2));
   nhw32::ResetNHW32();
   nhw32::ResetNHW32();
@@ -126,7 +126,7 @@ TEST_F(Nhw32Service, StoppingTakesItBackAndArmingIsInVainThen) {
 }
 
 TEST_F(Nhw32Service, OtherFlagsDoNothing) {
-  const TextTarget target({}, u"first second");
+  const HookedTextWindow target({}, u"first second");
   const POINT point = pointOf(target.control(), 2);
   armUntilAWordWaits(point);
   for (const std::uint32_t flag : {0U, 1001U, 1003U}) nhw32::BL_SetFlag32(flag, nullptr, 0, 0);
@@ -135,7 +135,7 @@ TEST_F(Nhw32Service, OtherFlagsDoNothing) {
 }
 
 TEST_F(Nhw32Service, ManyWordsInARowNeedOneThread) {
-  const TextTarget target({}, u"first second");
+  const HookedTextWindow target({}, u"first second");
   for (int round = 0; round < 200; ++round) {
     ASSERT_EQ(host_.wordAt(pointOf(target.control(), round % 2 == 0 ? 2 : 8)),
               round % 2 == 0 ? "first" : "second");
@@ -145,4 +145,4 @@ TEST_F(Nhw32Service, ManyWordsInARowNeedOneThread) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -6,9 +6,9 @@
 #include <chrono>
 
 #include "capture/nhw32/controls/target_window.h"
-#include "tests/windows/support/text_target.h"
+#include "tests/support/window/hooked_text_window.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 using std::chrono::milliseconds;
@@ -34,7 +34,7 @@ milliseconds timeUntilSilence(HWND control) {
 
 TEST(Nhw32Time, OneMessageWaitsForFiftyMilliseconds) {
   std::atomic<bool> hangs = true;
-  const TextTarget target({.hook = [&](HWND, UINT message, WPARAM, LPARAM) {
+  const HookedTextWindow target({.hook = [&](HWND, UINT message, WPARAM, LPARAM) {
     while (hangs && message == kSlow) Sleep(1);
     return std::optional<LRESULT>();
   }});
@@ -48,7 +48,7 @@ TEST(Nhw32Time, OneMessageWaitsForFiftyMilliseconds) {
 }
 
 TEST(Nhw32Time, AllMessagesOfAQuestionWaitForAHundredAndFifty) {
-  const TextTarget target({.hook = [&](HWND, UINT message, WPARAM, LPARAM) {
+  const HookedTextWindow target({.hook = [&](HWND, UINT message, WPARAM, LPARAM) {
     if (message == kSlow) Sleep(15);
     return std::optional<LRESULT>();
   }});
@@ -62,4 +62,4 @@ TEST(Nhw32Time, AllMessagesOfAQuestionWaitForAHundredAndFifty) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

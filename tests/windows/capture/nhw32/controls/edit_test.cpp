@@ -4,12 +4,12 @@
 
 #include "capture/nhw32/controls/target_window.h"
 #include "forms/graphics.h"
-#include "tests/program/harness/find.h"
-#include "tests/windows/support/text_places.h"
-#include "tests/windows/support/text_target.h"
-#include "tests/windows/support/word_page.h"
+#include "tests/support/process/find.h"
+#include "tests/support/window/hooked_text_window.h"
+#include "tests/support/window/mixed_page.h"
+#include "tests/support/window/text_geometry.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 using nhw32::Outcome;
@@ -17,24 +17,24 @@ using nhw32::Outcome;
 /// Edit controls as the service asks them.
 class Nhw32Edit : public ::testing::Test {
  protected:
-  std::u16string wordAbout(const TextTarget& target, std::size_t position) {
+  std::u16string wordAbout(const HookedTextWindow& target, std::size_t position) {
     return wordAt(target, questionAbout(target.control(), position));
   }
 
-  std::u16string wordAtPoint(const TextTarget& target, POINT point) {
+  std::u16string wordAtPoint(const HookedTextWindow& target, POINT point) {
     return wordAt(target, questionAt(target.control(), point));
   }
 
   /// "" where there is none.
-  std::u16string wordAt(const TextTarget& /*target*/, const nhw32::Question& question) {
+  std::u16string wordAt(const HookedTextWindow& /*target*/, const nhw32::Question& question) {
     const nhw32::Answer answer = answerTo(question);
     EXPECT_NE(answer.outcome, Outcome::kOutOfTime);
     return answer.outcome == Outcome::kWord ? answer.word.text : u"";
   }
 
   /// Compares the words at `count` random places in sight with those of the page.
-  void compare(const TextTarget& target, const WordPage& page, std::size_t count) {
-    const auto places = placesInSight(target.control(), count);
+  void compare(const HookedTextWindow& target, const MixedPage& page, std::size_t count) {
+    const auto places = visibleTextPoints(target.control(), count);
     EXPECT_EQ(places.size(), count);
     for (const auto& [position, point] : places) {
       ASSERT_EQ(wordAtPoint(target, point), page.words[position]) << "at character " << position;
@@ -43,36 +43,37 @@ class Nhw32Edit : public ::testing::Test {
 };
 
 TEST_F(Nhw32Edit, TellsTheWordUnderThePoint) {
-  const WordPage page = makePage({});
-  const TextTarget target({}, page.text);
+  const MixedPage page = makeMixedPage({});
+  const HookedTextWindow target({}, page.text);
   compare(target, page, 200);
 }
 
 TEST_F(Nhw32Edit, AlsoWhereLinesAreNotWrappedAndScrolledBothWays) {
-  const WordPage page = makePage({.length = 6000, .lineLength = 200});
-  const TextTarget target({.style = ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL}, page.text);
+  const MixedPage page = makeMixedPage({.length = 6000, .lineLength = 200});
+  const HookedTextWindow target({.style = ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL},
+                                page.text);
   SendMessageW(target.control(), EM_LINESCROLL, 40, 7);
   compare(target, page, 200);
 }
 
 TEST_F(Nhw32Edit, AlsoInWrappedLinesScrolledFarDown) {
-  const WordPage page = makePage({.length = 8000, .lineLength = 0});
-  const TextTarget target({}, page.text);
+  const MixedPage page = makeMixedPage({.length = 8000, .lineLength = 0});
+  const HookedTextWindow target({}, page.text);
   SendMessageW(target.control(), EM_LINESCROLL, 0, 60);
   compare(target, page, 200);
 }
 
 TEST_F(Nhw32Edit, AlsoInASingleLineThatIsScrolled) {
-  const WordPage page = makePage({.length = 300, .lineLength = 0});
-  const TextTarget target({.style = ES_AUTOHSCROLL, .size = {420, 22}}, page.text);
+  const MixedPage page = makeMixedPage({.length = 300, .lineLength = 0});
+  const HookedTextWindow target({.style = ES_AUTOHSCROLL, .size = {420, 22}}, page.text);
   SendMessageW(target.control(), EM_SETSEL, 200, 200);
   SendMessageW(target.control(), EM_SCROLLCARET, 0, 0);
   compare(target, page, 50);
 }
 
 TEST_F(Nhw32Edit, AlsoBehind64KCharacters) {
-  const WordPage page = makePage({.length = 400'000});
-  const TextTarget target({}, page.text);
+  const MixedPage page = makeMixedPage({.length = 400'000});
+  const HookedTextWindow target({}, page.text);
   for (const int line : {1'000, 1'100, 2'500, 5'500}) {
     SendMessageW(target.control(), EM_LINESCROLL, 0,
                  line - SendMessageW(target.control(), EM_GETFIRSTVISIBLELINE, 0, 0));
@@ -81,8 +82,8 @@ TEST_F(Nhw32Edit, AlsoBehind64KCharacters) {
 }
 
 TEST_F(Nhw32Edit, AlsoBehind64KLines) {
-  const WordPage page = makePage({.length = 400'000, .lineLength = 1});
-  const TextTarget target({}, page.text);
+  const MixedPage page = makeMixedPage({.length = 400'000, .lineLength = 1});
+  const HookedTextWindow target({}, page.text);
   const auto lines = SendMessageW(target.control(), EM_GETLINECOUNT, 0, 0);
   SCOPED_TRACE(lines);
   SendMessageW(target.control(), EM_LINESCROLL, 0, lines - 30);
@@ -90,7 +91,7 @@ TEST_F(Nhw32Edit, AlsoBehind64KLines) {
 }
 
 TEST_F(Nhw32Edit, ASelectionStaysAndDoesNotMatter) {
-  const TextTarget target({}, u"some selected words");
+  const HookedTextWindow target({}, u"some selected words");
   SendMessageW(target.control(), EM_SETSEL, 5, 13);
   EXPECT_EQ(wordAbout(target, 7), u"selected");
   EXPECT_EQ(wordAbout(target, 15), u"words");
@@ -98,7 +99,7 @@ TEST_F(Nhw32Edit, ASelectionStaysAndDoesNotMatter) {
 }
 
 TEST_F(Nhw32Edit, TellsThePlaceOfTheWord) {
-  const TextTarget target({}, u"one well-known word\r\nnext");
+  const HookedTextWindow target({}, u"one well-known word\r\nnext");
   const nhw32::Answer answer = answerTo(questionAbout(target.control(), 8));
   ASSERT_EQ(answer.word.text, u"well-known");
   const POINT begin = *characterCorner(target.control(), 4);
@@ -110,8 +111,8 @@ TEST_F(Nhw32Edit, TellsThePlaceOfTheWord) {
 }
 
 TEST_F(Nhw32Edit, NothingBeyondALinesEndBelowTheTextAndInTheMargins) {
-  const TextTarget target({}, u"short\r\nlines");
-  const RECT client = harness::clientRectOf(target.control());
+  const HookedTextWindow target({}, u"short\r\nlines");
+  const RECT client = clientRectOf(target.control());
   const POINT first = *characterCorner(target.control(), 2);
   const POINT last = *characterCorner(target.control(), 9);
   const LONG height = last.y - first.y;
@@ -126,7 +127,7 @@ TEST_F(Nhw32Edit, NothingBeyondALinesEndBelowTheTextAndInTheMargins) {
 }
 
 TEST_F(Nhw32Edit, NothingFarBelowALoneLine) {
-  const TextTarget target({}, u"lonely");
+  const HookedTextWindow target({}, u"lonely");
   const POINT corner = *characterCorner(target.control(), 2);
   EXPECT_EQ(wordAtPoint(target, {corner.x + 1, corner.y + 5}), u"lonely");
   EXPECT_EQ(wordAtPoint(target, {corner.x + 1, corner.y + 25}), u"");
@@ -136,12 +137,12 @@ TEST_F(Nhw32Edit, NothingFarBelowALoneLine) {
 class Nhw32EditFont : public Nhw32Edit,
                       public ::testing::WithParamInterface<std::tuple<const char16_t*, int>> {
  protected:
-  [[nodiscard]] TextTarget::Design design(DWORD style) const {
+  [[nodiscard]] HookedTextWindow::Design design(DWORD style) const {
     return {.style = style, .font = font_.get()};
   }
 
   [[nodiscard]] int lineHeight() const {
-    const TextTarget target(design(ES_MULTILINE), u"one\r\ntwo");
+    const HookedTextWindow target(design(ES_MULTILINE), u"one\r\ntwo");
     return lineDistance(target.control(), 0, 5);
   }
 
@@ -156,75 +157,75 @@ INSTANTIATE_TEST_SUITE_P(Faces, Nhw32EditFont,
                                             ::testing::Values(96, 144, 192, 384)));
 
 TEST_P(Nhw32EditFont, ASingleLineTellsItsWordsFromItsUpperToItsLowerEdge) {
-  const TextTarget target(design(ES_AUTOHSCROLL), u"The catalyst");
-  EXPECT_EQ(rowsTold(target.control(), 6), lineHeight());
+  const HookedTextWindow target(design(ES_AUTOHSCROLL), u"The catalyst");
+  EXPECT_EQ(wordRows(target.control(), 6), lineHeight());
 }
 
 TEST_P(Nhw32EditFont, ALoneLineTellsItsWordsDownToItsLowerEdgeAndLittleBelow) {
-  const TextTarget target(design(ES_MULTILINE), u"The catalyst");
-  const int rows = rowsTold(target.control(), 6);
+  const HookedTextWindow target(design(ES_MULTILINE), u"The catalyst");
+  const int rows = wordRows(target.control(), 6);
   EXPECT_GE(rows, lineHeight());
   EXPECT_LT(rows, lineHeight() * 3 / 2);
 }
 
 TEST_P(Nhw32EditFont, WithTheCaretALoneLineTellsThemToItsLowerEdge) {
-  const TextTarget target(design(ES_MULTILINE), u"The catalyst");
+  const HookedTextWindow target(design(ES_MULTILINE), u"The catalyst");
   SendMessageW(target.control(), WM_SETFOCUS, 0, 0);
-  EXPECT_EQ(rowsTold(target.control(), 6), lineHeight());
+  EXPECT_EQ(wordRows(target.control(), 6), lineHeight());
 }
 
 TEST_P(Nhw32EditFont, ALastLineTellsThemToItsLowerEdge) {
-  const TextTarget target(design(ES_MULTILINE), u"first\r\nThe catalyst");
-  EXPECT_EQ(rowsTold(target.control(), 13), lineHeight());
+  const HookedTextWindow target(design(ES_MULTILINE), u"first\r\nThe catalyst");
+  EXPECT_EQ(wordRows(target.control(), 13), lineHeight());
 }
 
 TEST_F(Nhw32Edit, AFormattingRectangleThatCannotBeIsNotTrusted) {
   for (const RECT& rect : {RECT{0, 0, 0, 0}, {0, 20, 100, 10}, {0, -90, 100, -70}}) {
-    const TextTarget target({.style = ES_AUTOHSCROLL,
-                             .hook =
-                                 [&rect](HWND, UINT message, WPARAM, LPARAM lParam) {
-                                   if (message != EM_GETRECT) return std::optional<LRESULT>();
-                                   *reinterpret_cast<RECT*>(lParam) = rect;
-                                   return std::optional<LRESULT>(0);
-                                 }},
-                            u"The catalyst");
-    const int rows = rowsTold(target.control(), 6);
+    const HookedTextWindow target({.style = ES_AUTOHSCROLL,
+                                   .hook =
+                                       [&rect](HWND, UINT message, WPARAM, LPARAM lParam) {
+                                         if (message != EM_GETRECT) return std::optional<LRESULT>();
+                                         *reinterpret_cast<RECT*>(lParam) = rect;
+                                         return std::optional<LRESULT>(0);
+                                       }},
+                                  u"The catalyst");
+    const int rows = wordRows(target.control(), 6);
     EXPECT_GE(rows, 16);
     EXPECT_LE(rows, 24);
   }
 }
 
 TEST_F(Nhw32Edit, TheBoxOfAWordEndsWithTheClientArea) {
-  const TextTarget target({.size = {420, 9}}, u"The catalyst");
-  const RECT client = harness::clientRectOf(target.control());
+  const HookedTextWindow target({.size = {420, 9}}, u"The catalyst");
+  const RECT client = clientRectOf(target.control());
   const auto answer = answerTo(questionAt(target.control(), {client.left + 8, client.top + 5}));
   ASSERT_EQ(answer.outcome, Outcome::kWord);
   EXPECT_EQ(answer.word.box.bottom, client.bottom);
 }
 
 TEST_F(Nhw32Edit, TheLastCharacterOfTheTextBelongsToItsWord) {
-  const TextTarget target({}, u"only words");
+  const HookedTextWindow target({}, u"only words");
   const POINT corner = *characterCorner(target.control(), 9);
   EXPECT_EQ(wordAtPoint(target, {corner.x + 2, corner.y + 5}), u"words");
   EXPECT_EQ(wordAtPoint(target, {corner.x + 40, corner.y + 5}), u"");
 }
 
 TEST_F(Nhw32Edit, NothingInAnEmptyOne) {
-  const TextTarget target({}, u"");
-  EXPECT_EQ(wordAtPoint(target, harness::centreOf(harness::clientRectOf(target.control()))), u"");
+  const HookedTextWindow target({}, u"");
+  EXPECT_EQ(wordAtPoint(target, centreOf(clientRectOf(target.control()))), u"");
 }
 
 TEST_F(Nhw32Edit, APasswordIsNotEvenRead) {
   for (const bool byStyle : {true, false}) {
     std::atomic<int> reads = 0;
-    const TextTarget target({.style = byStyle ? DWORD{ES_PASSWORD} : DWORD{ES_AUTOHSCROLL},
-                             .size = {420, 22},
-                             .hook =
-                                 [&](HWND, UINT message, WPARAM, LPARAM) {
-                                   reads += message == WM_GETTEXT ? 1 : 0;
-                                   return std::optional<LRESULT>();
-                                 }},
-                            u"secret");
+    const HookedTextWindow target({.style = byStyle ? DWORD{ES_PASSWORD} : DWORD{ES_AUTOHSCROLL},
+                                   .size = {420, 22},
+                                   .hook =
+                                       [&](HWND, UINT message, WPARAM, LPARAM) {
+                                         reads += message == WM_GETTEXT ? 1 : 0;
+                                         return std::optional<LRESULT>();
+                                       }},
+                                  u"secret");
     if (!byStyle) {
       EXPECT_EQ(wordAbout(target, 2), u"secret");
       EXPECT_EQ(reads.exchange(0), 1);
@@ -239,7 +240,7 @@ TEST_F(Nhw32Edit, APasswordIsNotEvenRead) {
 TEST_F(Nhw32Edit, NothingWhereTheWindowIsHiddenOrGone) {
   nhw32::Question question;
   {
-    const TextTarget target({}, u"hidden");
+    const HookedTextWindow target({}, u"hidden");
     question = questionAbout(target.control(), 2);
     EXPECT_EQ(wordAt(target, question), u"hidden");
     ShowWindow(target.window(), SW_HIDE);
@@ -256,7 +257,7 @@ void destroy(HWND control) { DestroyWindow(GetParent(control)); }
 TEST_F(Nhw32Edit, NothingWhereItShrinksHidesOrGoesInMidQuestion) {
   for (auto* const befall : {shrink, hide, destroy}) {
     bool armed = false;
-    const TextTarget target(
+    const HookedTextWindow target(
         {.hook =
              [&](HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
                if (message != WM_GETTEXT || !std::exchange(armed, false))
@@ -287,14 +288,15 @@ void movesDown(HWND control) {
 TEST_F(Nhw32Edit, NothingWhereItsWindowShrinksOrMovesInMidQuestion) {
   for (auto* const befall : {becomesLow, movesDown}) {
     bool armed = false;
-    const TextTarget target({.hook =
-                                 [&](HWND control, UINT message, WPARAM, LPARAM) {
-                                   if (message == EM_POSFROMCHAR && std::exchange(armed, false)) {
-                                     befall(control);
-                                   }
-                                   return std::optional<LRESULT>();
-                                 }},
-                            u"words of the past");
+    const HookedTextWindow target(
+        {.hook =
+             [&](HWND control, UINT message, WPARAM, LPARAM) {
+               if (message == EM_POSFROMCHAR && std::exchange(armed, false)) {
+                 befall(control);
+               }
+               return std::optional<LRESULT>();
+             }},
+        u"words of the past");
     const nhw32::Question question = questionAbout(target.control(), 14);
     EXPECT_EQ(wordAt(target, question), u"past");
     armed = true;
@@ -308,8 +310,8 @@ TEST_F(Nhw32Edit, NothingInALineThatIsLongerThanItsCharactersCanBeTold) {
   std::u16string line = u"plain ";
   while (line.size() <= kLongest) line += u"words of data ";
   for (const std::size_t length : {kLongest, kLongest + 1}) {
-    const TextTarget target({.style = ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL},
-                            line.substr(0, length) + u"\r\nbelow it");
+    const HookedTextWindow target({.style = ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL},
+                                  line.substr(0, length) + u"\r\nbelow it");
     EXPECT_EQ(wordAbout(target, 2), length == kLongest ? u"plain" : u"");
     EXPECT_EQ(wordAbout(target, length + 4), u"below");
   }
@@ -327,14 +329,14 @@ void derive(const wchar_t* base, const wchar_t* name) {
 TEST_F(Nhw32Edit, ATextBoxOfVisualBasicTellsItsWordsToo) {
   for (const wchar_t* name : {L"ThunderRT6TextBox", L"ThunderRT5TextBox", L"ThunderTextBox"}) {
     derive(L"EDIT", name);
-    const TextTarget target({.className = name}, u"older words");
+    const HookedTextWindow target({.className = name}, u"older words");
     EXPECT_EQ(wordAbout(target, 8), u"words");
   }
 }
 
 TEST_F(Nhw32Edit, AnEditControlUnderAnotherNameTellsItsWordsWhereTheSystemKnowsIt) {
   derive(L"EDIT", L"TNoteEdit");
-  const TextTarget target({.className = L"TNoteEdit"}, u"older words");
+  const HookedTextWindow target({.className = L"TNoteEdit"}, u"older words");
   // Windows tells the real class of its own controls; Wine tells the name again, and the control
   // might as well be another.
   const bool known = nhw32::realClassOf(target.control()) == u"Edit";
@@ -345,16 +347,18 @@ TEST_F(Nhw32Edit, ARichEditControlThatSoundsLikeOneIsNotGivenThePoint) {
   LoadLibraryW(L"riched20.dll");
   derive(L"RichEdit20W", L"TLogEdit");
   std::atomic<int> points = 0;
-  const TextTarget target({.className = L"TLogEdit",
-                           .hook =
-                               [&](HWND, UINT message, WPARAM, LPARAM) {
-                                 // The control would read at the address that the point makes.
-                                 if (message != EM_CHARFROMPOS) return std::optional<LRESULT>();
-                                 ++points;
-                                 return std::optional<LRESULT>(0);
-                               }},
-                          u"words of a log");
-  EXPECT_EQ(wordAtPoint(target, harness::centreOf(harness::clientRectOf(target.control()))), u"");
+  const HookedTextWindow target({.className = L"TLogEdit",
+                                 .hook =
+                                     [&](HWND, UINT message, WPARAM, LPARAM) {
+                                       // The control would read at the address that the point
+                                       // makes.
+                                       if (message != EM_CHARFROMPOS)
+                                         return std::optional<LRESULT>();
+                                       ++points;
+                                       return std::optional<LRESULT>(0);
+                                     }},
+                                u"words of a log");
+  EXPECT_EQ(wordAtPoint(target, centreOf(clientRectOf(target.control()))), u"");
   EXPECT_EQ(points, 0);
 }
 
@@ -365,17 +369,17 @@ TEST_F(Nhw32Edit, AWindowThatOnlySoundsLikeOneIsNotAskedForItsText) {
   windowClass.lpszClassName = L"TMyEditor";
   RegisterClassW(&windowClass);
   std::atomic<int> reads = 0;
-  const TextTarget target({.className = L"TMyEditor",
-                           .style = 0,
-                           .hook =
-                               [&](HWND, UINT message, WPARAM, LPARAM) {
-                                 reads += message == WM_GETTEXT ? 1 : 0;
-                                 return std::optional<LRESULT>();
-                               }},
-                          u"caption");
-  EXPECT_EQ(wordAtPoint(target, harness::centreOf(harness::clientRectOf(target.control()))), u"");
+  const HookedTextWindow target({.className = L"TMyEditor",
+                                 .style = 0,
+                                 .hook =
+                                     [&](HWND, UINT message, WPARAM, LPARAM) {
+                                       reads += message == WM_GETTEXT ? 1 : 0;
+                                       return std::optional<LRESULT>();
+                                     }},
+                                u"caption");
+  EXPECT_EQ(wordAtPoint(target, centreOf(clientRectOf(target.control()))), u"");
   EXPECT_EQ(reads, 0);
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

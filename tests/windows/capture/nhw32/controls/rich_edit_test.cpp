@@ -3,17 +3,17 @@
 
 #include <atomic>
 
-#include "tests/program/harness/find.h"
-#include "tests/windows/support/text_places.h"
-#include "tests/windows/support/text_target.h"
-#include "tests/windows/support/word_page.h"
+#include "tests/support/process/find.h"
+#include "tests/support/window/hooked_text_window.h"
+#include "tests/support/window/mixed_page.h"
+#include "tests/support/window/text_geometry.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 using nhw32::Outcome;
 
-TextTarget::Design richDesign(DWORD style = ES_MULTILINE | ES_AUTOVSCROLL) {
+HookedTextWindow::Design richDesign(DWORD style = ES_MULTILINE | ES_AUTOVSCROLL) {
   return {.className = L"RichEdit20W", .style = style};
 }
 
@@ -26,14 +26,14 @@ class Nhw32RichEdit : public ::testing::Test {
     return answer.outcome == Outcome::kWord ? answer.word.text : u"";
   }
 
-  std::u16string wordAtPoint(const TextTarget& target, POINT point) {
+  std::u16string wordAtPoint(const HookedTextWindow& target, POINT point) {
     return wordAt(questionAt(target.control(), point));
   }
 
   /// A control of `design` tells a word, and none any more once `armed` has its hook act in the
   /// middle of the question.
-  void expectNoWordOnceArmed(const TextTarget::Design& design, bool& armed) {
-    const TextTarget target(design, u"words of the past");
+  void expectNoWordOnceArmed(const HookedTextWindow::Design& design, bool& armed) {
+    const HookedTextWindow target(design, u"words of the past");
     const nhw32::Question question = questionAbout(target.control(), 14);
     EXPECT_EQ(wordAt(question), u"past");
     armed = true;
@@ -43,11 +43,11 @@ class Nhw32RichEdit : public ::testing::Test {
 };
 
 TEST_F(Nhw32RichEdit, TellsTheWordUnderThePoint) {
-  const WordPage page = makePage({.length = 3000, .lineEnd = u"\r"});
-  const TextTarget target(richDesign(), page.text);
+  const MixedPage page = makeMixedPage({.length = 3000, .lineEnd = u"\r"});
+  const HookedTextWindow target(richDesign(), page.text);
   for (const int scrolled : {0, 25}) {
     SendMessageW(target.control(), EM_LINESCROLL, 0, scrolled);
-    const auto places = placesInSight(target.control(), 100);
+    const auto places = visibleTextPoints(target.control(), 100);
     EXPECT_EQ(places.size(), 100U);
     for (const auto& [position, point] : places) {
       ASSERT_EQ(wordAtPoint(target, point), page.words[position]) << "at character " << position;
@@ -56,15 +56,15 @@ TEST_F(Nhw32RichEdit, TellsTheWordUnderThePoint) {
 }
 
 TEST_F(Nhw32RichEdit, ASelectionStaysAndDoesNotMatter) {
-  const TextTarget target(richDesign(), u"some selected words");
+  const HookedTextWindow target(richDesign(), u"some selected words");
   SendMessageW(target.control(), EM_SETSEL, 5, 13);
   EXPECT_EQ(wordAt(questionAbout(target.control(), 7)), u"selected");
   EXPECT_EQ(SendMessageW(target.control(), EM_GETSEL, 0, 0), MAKELONG(5, 13));
 }
 
 TEST_F(Nhw32RichEdit, NothingBeyondALinesEndAndBelowTheText) {
-  const TextTarget target(richDesign(), u"short\rlines");
-  const RECT client = harness::clientRectOf(target.control());
+  const HookedTextWindow target(richDesign(), u"short\rlines");
+  const RECT client = clientRectOf(target.control());
   const POINT first = *characterCorner(target.control(), 2);
   const POINT last = *characterCorner(target.control(), 8);
   EXPECT_EQ(wordAtPoint(target, {first.x + 1, first.y + 1}), u"short");
@@ -76,18 +76,18 @@ TEST_F(Nhw32RichEdit, NothingBeyondALinesEndAndBelowTheText) {
 }
 
 TEST_F(Nhw32RichEdit, NothingInAnEmptyOne) {
-  const TextTarget target(richDesign(), u"");
-  EXPECT_EQ(wordAtPoint(target, harness::centreOf(harness::clientRectOf(target.control()))), u"");
+  const HookedTextWindow target(richDesign(), u"");
+  EXPECT_EQ(wordAtPoint(target, centreOf(clientRectOf(target.control()))), u"");
 }
 
 TEST_F(Nhw32RichEdit, TheLastCharacterOfTheTextBelongsToItsWord) {
-  const TextTarget target(richDesign(), u"only words");
+  const HookedTextWindow target(richDesign(), u"only words");
   const POINT corner = *characterCorner(target.control(), 9);
   EXPECT_EQ(wordAtPoint(target, {corner.x + 2, corner.y + 5}), u"words");
 }
 
 TEST_F(Nhw32RichEdit, LettersOfManySizes) {
-  const TextTarget target(richDesign(), u"small LARGE small\rnext");
+  const HookedTextWindow target(richDesign(), u"small LARGE small\rnext");
   CHARFORMATW format{};
   format.cbSize = sizeof format;
   format.dwMask = CFM_SIZE;
@@ -141,7 +141,7 @@ class SizedLines {
     return text;
   }
 
-  TextTarget target_;
+  HookedTextWindow target_;
 };
 
 int lineHeightOf(int points) {
@@ -157,7 +157,7 @@ TEST_F(Nhw32RichEdit, ALastLineTellsItsWordsDownToItsLowerEdgeAndLittleBelow) {
       std::vector<SizedLines::Line> lines = above;
       lines.push_back({u"The catalyst", points});
       const SizedLines target(lines);
-      const int rows = rowsTold(target.control(), (above.empty() ? 0 : 6) + 6);
+      const int rows = wordRows(target.control(), (above.empty() ? 0 : 6) + 6);
       EXPECT_GE(rows, height) << points;
       EXPECT_LT(rows, std::max(height, 16) * 3 / 2) << points;
     }
@@ -168,26 +168,26 @@ TEST_F(Nhw32RichEdit, TheCaretTellsOfItsOwnLineOnly) {
   const int height = lineHeightOf(36);
   const SizedLines target({{u"first", 8}, {u"The catalyst", 36}});
   target.putCaretAt(9);
-  EXPECT_EQ(rowsTold(target.control(), 12), height);
+  EXPECT_EQ(wordRows(target.control(), 12), height);
   target.putCaretAt(2);
-  EXPECT_GE(rowsTold(target.control(), 12), height);
+  EXPECT_GE(wordRows(target.control(), 12), height);
 }
 
 TEST_F(Nhw32RichEdit, TheCaretTellsOfSmallLettersBesideLargeOnes) {
   const SizedLines target({{u"The LARGE catalyst", 8}});
   target.setSize(4, 9, 36);
   target.putCaretAt(6);
-  EXPECT_EQ(rowsTold(target.control(), 13), lineHeightOf(36));
+  EXPECT_EQ(wordRows(target.control(), 13), lineHeightOf(36));
 }
 
 TEST_F(Nhw32RichEdit, APasswordIsNotEvenRead) {
   std::atomic<int> reads = 0;
-  TextTarget::Design design = richDesign(ES_PASSWORD);
+  HookedTextWindow::Design design = richDesign(ES_PASSWORD);
   design.hook = [&](HWND, UINT message, WPARAM, LPARAM) {
     reads += message == EM_GETTEXTRANGE || message == WM_GETTEXT ? 1 : 0;
     return std::optional<LRESULT>();
   };
-  const TextTarget target(design, u"secret");
+  const HookedTextWindow target(design, u"secret");
   const POINT corner = *characterCorner(target.control(), 2);
   EXPECT_EQ(wordAtPoint(target, {corner.x + 2, corner.y + 5}), u"");
   EXPECT_EQ(reads, 0);
@@ -196,7 +196,7 @@ TEST_F(Nhw32RichEdit, APasswordIsNotEvenRead) {
 TEST_F(Nhw32RichEdit, NothingWhereItShrinksOrGoesInMidQuestion) {
   for (const bool goes : {false, true}) {
     bool armed = false;
-    TextTarget::Design design = richDesign();
+    HookedTextWindow::Design design = richDesign();
     design.hook = [&](HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
       if (message != EM_GETTEXTRANGE || !std::exchange(armed, false))
         return std::optional<LRESULT>();
@@ -214,7 +214,7 @@ TEST_F(Nhw32RichEdit, NothingWhereItShrinksOrGoesInMidQuestion) {
 
 TEST_F(Nhw32RichEdit, NothingWhereItsWindowShrinksInMidQuestion) {
   bool armed = false;
-  TextTarget::Design design = richDesign();
+  HookedTextWindow::Design design = richDesign();
   design.hook = [&](HWND control, UINT message, WPARAM, LPARAM) {
     if (message == EM_GETTEXTRANGE && std::exchange(armed, false)) {
       SetWindowPos(control, nullptr, 0, 0, 400, 3, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -225,8 +225,8 @@ TEST_F(Nhw32RichEdit, NothingWhereItsWindowShrinksInMidQuestion) {
 }
 
 TEST_F(Nhw32RichEdit, OneWhoseTextIsBytesTellsItsWordsToo) {
-  const TextTarget target({.className = L"RichEdit20A", .style = ES_MULTILINE | ES_AUTOVSCROLL},
-                          u"字典 mixed words");
+  const HookedTextWindow target(
+      {.className = L"RichEdit20A", .style = ES_MULTILINE | ES_AUTOVSCROLL}, u"字典 mixed words");
   ASSERT_FALSE(IsWindowUnicode(target.control()));
   EXPECT_EQ(wordAt(questionAbout(target.control(), 1)), u"字典");
   EXPECT_EQ(wordAt(questionAbout(target.control(), 5)), u"mixed");
@@ -259,8 +259,8 @@ class OtherTextProcedure {
 
 TEST_F(Nhw32RichEdit, ASubclassOfTheOtherKindOfTextDoesNotMatter) {
   for (const wchar_t* name : {L"RichEdit20W", L"RichEdit20A"}) {
-    const TextTarget target({.className = name, .style = ES_MULTILINE | ES_AUTOVSCROLL},
-                            u"字典 mixed words");
+    const HookedTextWindow target({.className = name, .style = ES_MULTILINE | ES_AUTOVSCROLL},
+                                  u"字典 mixed words");
     const BOOL wide = IsWindowUnicode(target.control());
     OtherTextProcedure::putBefore(target.control());
     ASSERT_NE(IsWindowUnicode(target.control()), wide);
@@ -270,4 +270,4 @@ TEST_F(Nhw32RichEdit, ASubclassOfTheOtherKindOfTextDoesNotMatter) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

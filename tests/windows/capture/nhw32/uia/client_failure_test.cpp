@@ -2,16 +2,16 @@
 #include <string>
 #include <utility>
 
-#include "tests/windows/support/automation_test.h"
-#include "tests/windows/support/heap_blocks.h"
+#include "tests/support/window/heap_blocks.h"
+#include "tests/support/window/uia_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 using nhw32::Outcome;
 
 /// A text two elements above the pointer, asked at a place that takes every kind of call.
-class AutomationFailureTest : public AutomationTest {
+class AutomationFailureTest : public UiaTest {
  protected:
   AutomationFailureTest() {
     plan().elements.resize(3);
@@ -92,7 +92,7 @@ TEST_F(AutomationFailureTest, RectanglesThatMakeNoSenseAreNone) {
     plan().rectangles = kind;
     EXPECT_EQ(outcome(kPoint), Outcome::kNone) << static_cast<int>(kind);
   }
-  EXPECT_EQ(standIn_.times("GetText"), 0U);
+  EXPECT_EQ(uia_.times("GetText"), 0U);
 }
 
 TEST_F(AutomationFailureTest, LeavesNoMemoryBehind) {
@@ -109,4 +109,4 @@ TEST_F(AutomationFailureTest, LeavesNoMemoryBehind) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -3,15 +3,15 @@
 #include <string>
 #include <thread>
 
-#include "tests/windows/support/automation_test.h"
+#include "tests/support/window/uia_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 using nhw32::Outcome;
 using namespace std::chrono_literals;
 
-class AutomationTimeTest : public AutomationTest {
+class AutomationTimeTest : public UiaTest {
  protected:
   AutomationTimeTest() { showText(u"one hello two"); }
 
@@ -67,7 +67,7 @@ TEST_F(AutomationTimeTest, TriesSeldomWhereThereIsNoClient) {
   HRESULT result = REGDB_E_CLASSNOTREG;
   reader_ = nhw32::makeUiaReader({[&](nhw32::IUIAutomation2** client) {
                                     ++tries;
-                                    return FAILED(result) ? result : makeStandIn(standIn_, client);
+                                    return FAILED(result) ? result : makeFakeUia(uia_, client);
                                   },
                                   system().now});
   for (int i = 0; i < 100; ++i) {
@@ -119,4 +119,4 @@ TEST_F(AutomationTimeTest, TheSystemsOwnFindsNoWordInAWindowWithoutText) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,13 +1,13 @@
 #include <string>
 
-#include "tests/windows/support/automation_test.h"
+#include "tests/support/window/uia_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 using nhw32::Outcome;
 
-class AutomationElementTest : public AutomationTest {
+class AutomationElementTest : public UiaTest {
  protected:
   /// A text in the ancestor that lies so many elements above the one under the pointer.
   void showTextAbove(std::size_t ancestors) {
@@ -21,7 +21,7 @@ TEST_F(AutomationElementTest, FindsNoneWhereNoElementHasText) {
   plan().text = u"word";
   plan().elements.assign(4, {});
   EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
-  EXPECT_EQ(standIn_.times("GetCurrentPatternAs"), 4U);
+  EXPECT_EQ(uia_.times("GetCurrentPatternAs"), 4U);
   EXPECT_TRUE(nothingRead());
 }
 
@@ -38,14 +38,14 @@ TEST_F(AutomationElementTest, LooksForTextInTenAncestors) {
   log().calls.clear();
   showTextAbove(11);
   EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
-  EXPECT_EQ(standIn_.times("GetParentElement"), 10U);
+  EXPECT_EQ(uia_.times("GetParentElement"), 10U);
 }
 
 TEST_F(AutomationElementTest, StopsAtTheNearestText) {
   showTextAbove(5);
   plan().elements[2].text = true;
   EXPECT_EQ(wordAt(grid::at(0, 1)), u"word");
-  EXPECT_EQ(standIn_.times("GetParentElement"), 2U);
+  EXPECT_EQ(uia_.times("GetParentElement"), 2U);
 }
 
 TEST_F(AutomationElementTest, NeverReadsAPasswordField) {
@@ -140,4 +140,4 @@ TEST_F(AutomationElementTest, FindsNoneInAWindowThatShrinksOrMovesMeanwhile) {
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

@@ -1,14 +1,14 @@
 #include <string>
 
-#include "tests/windows/support/automation_test.h"
+#include "tests/support/window/uia_test.h"
 
-namespace wintest {
+namespace support {
 namespace {
 
 using nhw32::Outcome;
 using nhw32::ScreenPoint;
 
-class AutomationTextTest : public AutomationTest {};
+class AutomationTextTest : public UiaTest {};
 
 TEST_F(AutomationTextTest, FindsTheWordUnderEveryPixelOfIt) {
   showText(u"one hello two");
@@ -127,8 +127,8 @@ TEST_F(AutomationTextTest, FindsNoneInARunLongerThanWordsAre) {
 TEST_F(AutomationTextTest, FindsNoneInAnEmptyText) {
   showText(u"");
   EXPECT_EQ(outcome(grid::at(0, 0)), Outcome::kNone);
-  EXPECT_EQ(standIn_.times("GetText"), 0U);
+  EXPECT_EQ(uia_.times("GetText"), 0U);
 }
 
 }  // namespace
-}  // namespace wintest
+}  // namespace support

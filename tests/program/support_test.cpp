@@ -1,0 +1,114 @@
+// The harness itself, tried on programs that are there anyway: what it types, reads and clicks is
+// really typed, read and clicked.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "tests/support/process/clipboard.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/find.h"
+#include "tests/support/process/input.h"
+#include "tests/support/process/message_box.h"
+#include "tests/support/process/notepad.h"
+#include "tests/support/process/screen.h"
+#include "tests/support/process/settings.h"
+#include "tests/support/process/text_box.h"
+
+namespace support {
+namespace {
+
+class Harness : public ::testing::Test {};
+
+TEST_F(Harness, TypesIntoAnotherProgramAndReadsItBack) {
+  const Notepad notepad;
+  notepad.clickIntoText();
+  input::type(L"data 数据 做");
+  waitFor("the typed text", [&] { return notepad.text() == L"data 数据 做"; });
+}
+
+TEST_F(Harness, SelectsWithTheMouseAndCopiesWithKeys) {
+  setClipboardText(L"before");
+  const Notepad notepad;
+  notepad.clickIntoText();
+  input::type(L"bandwidth");
+  waitFor("the typed text", [&] { return notepad.text() == L"bandwidth"; });
+  HWND edit = onlyChild(notepad.window(), L"Edit");
+  const RECT rect = clientRectOf(edit);
+  actUntil(
+      "a word to be selected",
+      [&] {
+        input::doubleClick({rect.left + 20, rect.top + 8});
+      },
+      [&] {
+        return selectionOf(edit) == Selection{0, 9};
+      });
+  input::key('C', {VK_CONTROL});
+  waitFor("the copied text", [] { return clipboardText() == L"bandwidth"; });
+}
+
+TEST_F(Harness, SeesWhichNodesATreeShows) {
+  const Process registry(L"C:\\windows\\regedit.exe");
+  HWND window = waitForWindow({.process = registry.id(), .className = {}, .title = {}});
+  HWND tree = waitForChild(window, L"SysTreeView32");
+  EXPECT_EQ(treeTexts(tree).size(), 1U);
+  EXPECT_FALSE(treeTexts(tree).front().empty());
+  waitFor("the node's place", [&] { return treeNodeRect(tree, 0); });
+  actUntil(
+      "the node to be selected", [&] { input::click(centreOf(treeNodeRect(tree, 0).value())); },
+      [&] { return treeSelection(tree) == 0; });
+  EXPECT_EQ(treeNodeRect(tree, 1), std::nullopt);
+}
+
+TEST_F(Harness, ReadsColoursAndPlacesInARichTextBox) {
+  const Process wordpad(L"C:\\Program Files\\Windows NT\\Accessories\\wordpad.exe");
+  HWND window = waitForWindow({.process = wordpad.id(), .className = {}, .title = {}});
+  HWND pane = waitForChild(window, L"RichEdit20W");
+  takeKeyboard(pane);
+  input::type(L"ab");
+  waitFor("the typed text", [&] { return textOf(pane) == L"ab"; });
+  EXPECT_EQ(richTextColours(pane).size(), 2U);
+  EXPECT_LT(richTextPosition(pane, 0).x, richTextPosition(pane, 1).x);
+  selectRichText(pane, {1, 2});
+  EXPECT_EQ(selectionOf(pane), (Selection{1, 2}));
+}
+
+TEST_F(Harness, SeesWhatIsOnTheScreen) {
+  const Notepad notepad;
+  notepad.place({100, 100, 500, 400});
+  const RECT text = clientRectOf(onlyChild(notepad.window(), L"Edit"));
+  const RECT inside{text.left + 100, text.top + 100, text.left + 110, text.top + 110};
+  waitFor("white paper", [&] {
+    const auto pixels = screenPixels(inside);
+    return std::ranges::count(pixels, RGB(255, 255, 255)) == 100;
+  });
+  saveScreenshot("build/shots/notepad.png");
+  EXPECT_GT(std::filesystem::file_size("build/shots/notepad.png"), 1000U);
+}
+
+TEST_F(Harness, ReadsAndAnswersAMessageBox) {
+  // The shell tells of a program that is not there in a message box.
+  const Process shell(L"C:\\windows\\system32\\winhlp32.exe", L"nothing-of-this-name.hlp");
+  const ShownMessage box = waitForMessageBox(shell);
+  EXPECT_FALSE(box.text.empty());
+  EXPECT_FALSE(box.buttons.empty());
+  box.answer();
+  EXPECT_EQ(findMessageBox(shell), std::nullopt);
+}
+
+TEST_F(Harness, SettingsAreWrittenReadAndCleared) {
+  settings::write(L"HarnessKey", L"4711");
+  EXPECT_EQ(settings::read(L"HarnessKey"), L"4711");
+  settings::clear();
+  EXPECT_EQ(settings::read(L"HarnessKey"), L"");
+}
+
+TEST_F(Harness, KnowsHowAProgramEnded) {
+  const Process shell(L"C:\\windows\\system32\\cmd.exe", L"/c exit 3");
+  EXPECT_EQ(shell.waitForExit(), 3U);
+  EXPECT_FALSE(shell.running());
+  EXPECT_THROW(runBelow("false"), Failure);
+}
+
+}  // namespace
+}  // namespace support
