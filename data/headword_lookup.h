@@ -8,18 +8,21 @@
 #include "data/index_words.h"
 #include "data/lookup_sql.h"
 
+/// A lookup has three steps, each of which the caller runs: getBound, the list query, the meaning
+/// query. Texts are UTF-16. For one thread, that of the DataControl (see connection.h).
 namespace data {
 
-/// Reads the rows of kIndexQuery into an index list. Throws Error, and std::overflow_error above
-/// 32,767 rows.
+/// Returns the rows of kIndexQuery, from the first on, as an index list. Leaves `rows` at their
+/// end. Throws Error, and std::overflow_error above 32,767 rows: the index is counted by 16-bit
+/// numbers.
 IndexWords readIndexWords(RecordSet& rows);
 
-/// Runs kIndexQuery and reads its rows.
+/// Runs kIndexQuery on `control` and returns its rows in the same way.
 IndexWords readIndexWords(DataControl& control);
 
-/// What the lookups of the two windows do differently.
+/// The differences between the lookups of the two windows.
 struct LookupOptions {
-  /// Whether "%" and "_" of English input become U+03BB in the upper search key (the popup) or the
+  /// Whether "%" and "_" of English input become λ in the upper search key (the popup) or the
   /// upper key is the lower one (the quick lookup window).
   bool lambdaUpperKey = false;
   /// Whether a Chinese meaning query finds its bounds anew (the popup) or uses those of the last
@@ -27,26 +30,32 @@ struct LookupOptions {
   bool chineseMeaningFindsBounds = false;
 };
 
-/// Headword bounds, list SQL and meaning SQL of one window, with the bounds that they keep between
-/// calls. Words are given trimmed and with their quotes doubled. Database errors pass through;
-/// row numbers beyond 32 bits, which a damaged index may yield, are a std::overflow_error.
+/// Headword bounds, list query and meaning query of one window, with the bounds that they keep from
+/// one call to the next. Words are given trimmed and with their quotes doubled; `EorC` is
+/// user::kEnglish or user::kChinese. The functions run index queries only, on the control that they
+/// are given; the caller runs the returned SQL texts. They throw Error where the database fails,
+/// and std::overflow_error for row numbers beyond 32 bits, which a damaged index may hold.
 class HeadwordLookup {
  public:
-  /// `indexWords` is kept by reference and has to outlive the lookup.
+  /// `indexWords` is kept by reference and has to outlive the lookup; it may be filled later.
   HeadwordLookup(const IndexWords& indexWords, LookupOptions options);
 
-  /// Finds the range of rows that holds `word` and its followers, at most 501 rows. English input
-  /// that sorts after the last index word leaves the bounds as they are. For Chinese input the
-  /// control holds the rows of an index query afterwards.
+  /// Sets the bounds to the rows that hold `word` and the headwords after it, at most
+  /// kWindowRows + 1 of them. English input is looked up in the index list, and leaves the bounds
+  /// as they are where it sorts after the last index word. Chinese input takes two index queries;
+  /// the control holds the rows of the second one afterwards.
   void getBound(std::u16string_view word, DataControl& control);
 
-  /// The list query: up to 75 headwords from `word` on. "" for a class that is neither E nor C.
+  /// Sets the bounds and returns the list query: up to kListLength headwords from `word` on.
+  /// Returns "" for any other language class, with the bounds set.
   std::u16string makeStrSql(std::u16string_view EorC, std::u16string_view word,
                             DataControl& control);
 
-  /// The meaning query for one headword. "" for a class that is neither E nor C.
+  /// Returns the meaning query for the headword `word`; sets the bounds first, except for Chinese
+  /// without chineseMeaningFindsBounds. Returns "" for any other language class.
   std::u16string findword(std::u16string_view EorC, std::u16string_view word, DataControl& control);
 
+  /// The bounds of the last call; both 0 before the first.
   [[nodiscard]] Bounds bounds() const { return bounds_; }
 
  private:
@@ -59,19 +68,18 @@ class HeadwordLookup {
   Bounds bounds_;
 };
 
-/// Field "Meaning" of every row, from the first on.
+/// Returns column "Meaning" of every row of a meaning query, from the first on. Throws Error.
 std::vector<std::u16string> readMeanings(RecordSet& rows);
 
-/// The text of the meaning pane, and the length of the headword's line at its beginning, line end
-/// included, in UTF-16 code units.
+/// The text of the meaning pane. Lines end with CR LF.
 struct MeaningText {
   std::u16string body;
-  std::size_t headLength = 0;
+  std::size_t headLength = 0;  ///< of the headword's line, its CR LF included, in code units
 };
 
-/// Headword line and one line a meaning, as the quick lookup window shows them: every line with a
-/// blank before it, every meaning but the last with a full-width semicolon after it. Deliberate:
-/// the headword's quotes stay doubled.
+/// Returns the headword's line and one line for each meaning, as the quick lookup window shows
+/// them: every line begins with a blank, every meaning but the last ends with a full-width
+/// semicolon. Deliberate: the headword's quotes stay doubled.
 MeaningText meaningLines(std::u16string_view escapedWord,
                          const std::vector<std::u16string>& meanings);
 

@@ -1,3 +1,8 @@
+// These texts are sent as they stand: two text fragments without a blank between them ("[edict]"
+// and "where"), doubled blanks and a blank at the end are required. The dialect takes them all.
+// Wildcards in `word` are ordinary characters here, since no text uses LIKE; only the keys of the
+// bound step replace them.
+
 #include "data/lookup_sql.h"
 
 #include "text/query_text.h"
@@ -13,15 +18,15 @@ std::u16string withoutWildcards(std::u16string_view word, std::u16string_view re
 }
 
 std::u16string englishListSql(Bounds bounds, std::u16string_view word) {
-  return joined({u"select distinct top 75 edict.word as Word from [edict]", u"where edict.eid>=",
-                 decimal(bounds.lower), u" and edict.eid<=", decimal(bounds.upper),
-                 u"  and edict.word >= '", word, u"' order by word"});
+  return joined({u"select distinct top ", decimal(kListLength), u" edict.word as Word from [edict]",
+                 u"where edict.eid>=", decimal(bounds.lower), u" and edict.eid<=",
+                 decimal(bounds.upper), u"  and edict.word >= '", word, u"' order by word"});
 }
 
 std::u16string chineseListSql(Bounds bounds, std::u16string_view word) {
-  return joined({u"select distinct top 75 cdict.word as Word from [cdict] where ", u"cdict.cid>=",
-                 decimal(bounds.lower), u" and cdict.cid<=", decimal(bounds.upper),
-                 u"  and cdict.word >= '", word, u"' order by word"});
+  return joined({u"select distinct top ", decimal(kListLength), u" cdict.word as Word from [cdict]",
+                 u" where cdict.cid>=", decimal(bounds.lower), u" and cdict.cid<=",
+                 decimal(bounds.upper), u"  and cdict.word >= '", word, u"' order by word"});
 }
 
 std::u16string englishMeaningSql(Bounds bounds, std::u16string_view word) {
@@ -40,8 +45,8 @@ std::u16string indexRowsUpToSql(std::u16string_view low) {
   return joined({u"select * from [cdictidx] where word<='", low, u"' "});
 }
 
-std::u16string indexRowsBehindSql(std::u16string_view high) {
-  return joined({u"select * from [cdictidx] where word>= '", high, u"做做'"});
+std::u16string indexRowsFromSql(std::u16string_view high) {
+  return joined({u"select * from [cdictidx] where word>= '", high, kChineseHighSuffix, u"'"});
 }
 
 }  // namespace data

@@ -89,7 +89,7 @@ void PairCollector::addPair(const std::u16string& chinese, Tier tier, std::size_
   if (isNew) chinese_.push_back(chinese);
   const auto english = static_cast<std::uint32_t>(english_.size() - 1);
   pairs_.push_back({english, place->second, tier,
-                    static_cast<std::uint8_t>(std::min<std::size_t>(position, 255))});
+                    static_cast<std::uint8_t>(std::min(position, Pair::kMaxPosition))});
 }
 
 std::size_t PairCollector::add(const Entry& entry) {

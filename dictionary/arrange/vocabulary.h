@@ -31,7 +31,10 @@ struct Pair {
   std::uint32_t english = 0;
   std::uint32_t chinese = 0;
   Tier tier = Tier::kWeb;
-  std::uint8_t position = 0;  ///< among the headword's equivalents, from 0; at most 255
+  std::uint8_t position = 0;  ///< among the headword's equivalents, from 0 to kMaxPosition
+
+  /// The greatest position that fits; equivalents from there on are of equal value.
+  static constexpr std::size_t kMaxPosition = 255;
 };
 
 /// All pairs that could be rows of the general dictionary.

@@ -28,9 +28,6 @@ std::int64_t blockEnd(std::ptrdiff_t block) {
   return static_cast<std::int64_t>(block) * data::kBlockRows;
 }
 
-/// Headwords in the list of the lookups.
-constexpr std::size_t kListLength = 75;
-
 std::string describeWindow(const HeadwordRun& run, const RowWindow& window) {
   return ", rows " + std::to_string(run.first + 1) + "-" + std::to_string(run.end) + ", searched " +
          std::to_string(window.lower) + "-" + std::to_string(window.upper);
@@ -57,7 +54,7 @@ void checkEnglish(const GeneralTables& tables, CheckResult& result) {
 /// Returns whether the list for the headword runs[first] ends within the rows of a headword.
 bool endsCut(const std::vector<HeadwordRun>& runs, std::size_t first, const RowWindow& window) {
   const auto upper = static_cast<std::size_t>(std::max<std::int64_t>(window.upper, 0));
-  const std::size_t listEnd = std::min(first + kListLength, runs.size());
+  const std::size_t listEnd = std::min(first + std::size_t{data::kListLength}, runs.size());
   for (std::size_t i = first; i < listEnd && runs[i].first < upper; ++i) {
     if (runs[i].end > upper) return true;
   }
@@ -91,7 +88,7 @@ EnglishBoundStep::EnglishBoundStep(const std::vector<std::u16string>& index) {
 }
 
 std::optional<RowWindow> EnglishBoundStep::window(std::u16string_view word) const {
-  const std::u16string low = text::toLower(withoutWildcards(escaped(word), u"0"));
+  const std::u16string low = text::toLower(withoutWildcards(escaped(word), data::kLowSubstitute));
   const auto found = std::ranges::lower_bound(greatest_, low);
   if (found == greatest_.end()) return std::nullopt;
   const std::int64_t upper = blockEnd(found - greatest_.begin() + 1);
@@ -110,14 +107,14 @@ ChineseBoundStep::ChineseBoundStep(const std::vector<std::u16string>& index)
 RowWindow ChineseBoundStep::window(std::u16string_view word) const {
   // The last index row that is not after the word.
   const std::u16string typed = escaped(word);
-  const std::u16string low = withoutWildcards(typed, u"0");
+  const std::u16string low = withoutWildcards(typed, data::kLowSubstitute);
   const auto after = std::ranges::partition_point(
       least_, [&](const std::u16string& least) { return text::compare(least, low) <= 0; });
   const std::ptrdiff_t before = after - least_.begin();
 
-  // The first index row that is not before the word followed by 做, the last of the common Han
-  // characters in the text order.
-  const std::u16string high = withoutWildcards(typed, u"做") + u"做做";
+  // The first index row that is not before the upper key.
+  std::u16string high = withoutWildcards(typed, data::kChineseHighSubstitute);
+  high += data::kChineseHighSuffix;
   const auto first = std::ranges::partition_point(
       greatest_, [&](const std::u16string& greatest) { return text::compare(greatest, high) < 0; });
 

@@ -22,7 +22,7 @@ inline std::vector<std::u16string> windowQueries() {
           data::englishListSql({1, 100}, u"a"),
           data::chineseListSql({1, 100}, u"阿"),
           data::englishMeaningSql({1, 100}, u"abandon"),
-          data::indexRowsBehindSql(u"阿"),
+          data::indexRowsFromSql(u"阿"),
           std::u16string(query::kShownDictionaries),
           std::u16string(query::kAllDictionaries),
           query::makeQuerySql(english, query::kEasy, u"med").sql,

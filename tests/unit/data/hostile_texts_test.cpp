@@ -167,7 +167,7 @@ TEST_F(HostileTexts, InTheInputBoxOfTheQuickLookup) {
 }
 
 TEST_F(HostileTexts, InTheIndexQueriesOfTheQuickLookup) {
-  for (const auto sqlOf : {data::indexRowsUpToSql, data::indexRowsBehindSql}) {
+  for (const auto sqlOf : {data::indexRowsUpToSql, data::indexRowsFromSql}) {
     typeAllInto([&](std::u16string hostile) { return sqlOf(user::escapeQuote(hostile)); });
     database_ = std::make_shared<data::Database>(support::utf8Path(file_));
   }

@@ -29,7 +29,7 @@ TEST(LookupSql, MeaningQueries) {
 
 TEST(LookupSql, IndexQueries) {
   EXPECT_EQ(data::indexRowsUpToSql(u"数0"), u"select * from [cdictidx] where word<='数0' ");
-  EXPECT_EQ(data::indexRowsBehindSql(u"数做"), u"select * from [cdictidx] where word>= '数做做做'");
+  EXPECT_EQ(data::indexRowsFromSql(u"数做"), u"select * from [cdictidx] where word>= '数做做做'");
 }
 
 }  // namespace
