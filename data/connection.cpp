@@ -1,3 +1,12 @@
+// Opening, and what is done against a hostile file or text: the engine's defensive switches, small
+// limits and, for reading, an authorizer. The engine asks the authorizer while it prepares a
+// statement, so that a refused text never runs.
+//
+// Statement tails: the engine prepares the first statement of a text and returns where the rest
+// begins. The rest is prepared in turn, up to the end of the text: SQLite makes no statement of
+// comments, blanks and semicolons, and anything else is a second statement, which is refused. So no
+// tokens are needed here, and a text that only SQLite understands is judged by SQLite.
+
 #include "data/connection.h"
 
 #include <sqlite3.h>
@@ -36,6 +45,8 @@ void switchTo(sqlite3* connection, int option, int value) {
   check(connection, sqlite3_db_config(connection, option, value, nullptr));
 }
 
+/// Follows SQLite's advice for files from an untrusted source (its page "Defense Against The Dark
+/// Arts"). All switches hold for the connection, none is stored in the file.
 void harden(sqlite3* connection) {
   switchTo(connection, SQLITE_DBCONFIG_DEFENSIVE, 1);
   for (const int option :
@@ -46,6 +57,7 @@ void harden(sqlite3* connection) {
   for (const Ceiling& ceiling : kCeilings) {
     sqlite3_limit(connection, ceiling.what, ceiling.limit);
   }
+  // A damaged page is an error, not a read beyond it.
   execute(connection, "pragma cell_size_check=on");
 }
 
@@ -53,14 +65,15 @@ bool startsWith(const char* name, std::string_view lowerCase) {
   return sqlite3_strnicmp(name, lowerCase.data(), static_cast<int>(lowerCase.size())) == 0;
 }
 
-/// Whether `name` is none of those that the engine keeps for its schema and for table-valued
-/// functions.
+/// Returns whether `name` is not one of those that the engine keeps for its schema and for
+/// table-valued functions.
 bool isOrdinaryTable(const char* name) {
   return !startsWith(name, "sqlite_") && !startsWith(name, "pragma_") && !startsWith(name, "json_");
 }
 
-/// The engine calls this for each thing that a statement would do, while it is prepared. For
-/// SQLITE_READ `first` names the table, for SQLITE_FUNCTION `second` names the function.
+/// The engine calls this for each action of a statement while it is prepared. For SQLITE_READ
+/// `first` names the table, for SQLITE_FUNCTION `second` names the function. Anything that is not
+/// listed, such as SQLITE_RECURSIVE or SQLITE_PRAGMA, is denied.
 int authorize(void* /*context*/, int action, const char* first, const char* second,
               const char* /*database*/, const char* /*trigger*/) {
   const auto allowIf = [](bool allowed) { return allowed ? SQLITE_OK : SQLITE_DENY; };
@@ -76,8 +89,8 @@ int authorize(void* /*context*/, int action, const char* first, const char* seco
   }
 }
 
-/// Whether `sql` holds a statement. SQLite itself skips comments, blanks and semicolons, and makes
-/// no statement of them; text that it cannot prepare is taken for one.
+/// Returns whether `sql`, the rest of a text, holds a statement; one that cannot be prepared
+/// counts.
 bool holdsStatement(sqlite3* connection, const char* sql) {
   while (*sql != '\0') {
     sqlite3_stmt* prepared = nullptr;
@@ -96,13 +109,14 @@ void StatementCloser::operator()(sqlite3_stmt* statement) const { sqlite3_finali
 
 Connection openConnection(const std::string& file, Access access,
                           std::chrono::milliseconds lockWait, std::function<bool()> isOverdue) {
-  // SQLite takes these two for databases in memory and in a nameless file.
+  // To SQLite these are not files: a temporary database on disk, and one in memory.
   if (file.empty() || file == ":memory:") {
     throw Error(SQLITE_CANTOPEN, sqlite3_errstr(SQLITE_CANTOPEN));
   }
   const int flags = access == Access::kRead ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
   sqlite3* opened = nullptr;
   const int result = sqlite3_open_v2(file.c_str(), &opened, flags | SQLITE_OPEN_EXRESCODE, nullptr);
+  // Also after a failure there is a connection, which holds the message and has to be closed.
   Connection connection(opened);
   check(opened, result);
   check(opened, sqlite3_busy_timeout(opened, static_cast<int>(lockWait.count())));
@@ -116,6 +130,7 @@ void allowReadingOnly(sqlite3* connection) {
 }
 
 Statement prepare(sqlite3* connection, const std::string& sql) {
+  // The engine would stop there and run the beginning alone.
   if (sql.find('\0') != std::string::npos) {
     throw Error(SQLITE_MISUSE, "SQL text with a null character");
   }

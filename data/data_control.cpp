@@ -1,3 +1,7 @@
+// Taking a connection string apart: every position after a ";" (and the beginning) at which a known
+// key and "=" stand is the end of the value before it and the beginning of the next, unless that
+// key was given already: then it is part of a path. All other ";" and "=" belong to values.
+
 #include "data/data_control.h"
 
 #include <algorithm>
@@ -44,6 +48,7 @@ std::optional<Entry> entryAt(std::u16string_view text, std::size_t start) {
 
 }  // namespace
 
+// Deliberate: the provider named here is a required text; nothing of it is used.
 std::u16string connectionString(std::u16string_view databaseFile) {
   std::u16string text(u"Provider=Microsoft.Jet.OLEDB.4.0;Data Source=");
   text += databaseFile;
@@ -55,6 +60,7 @@ ConnectionString parseConnectionString(std::u16string_view text) {
   ConnectionString result;
   std::array<bool, kKeys.size()> given{};
   std::optional<Entry> open;
+  // Ends the value of the open entry; text before the first key is dropped.
   const auto finish = [&](std::size_t end) {
     if (open) {
       result.*(open->key->value) =
@@ -89,10 +95,12 @@ void DataControl::close() {
 void DataControl::setRecordSource(std::u16string_view sql) { recordSource_ = sql; }
 
 void DataControl::refresh() {
+  // Before anything that may fail: after a failure no rows of another query are to be seen.
   recordset_ = RecordSet();
   if (!database_) {
     const std::u16string file = parseConnectionString(connectionString_).dataSource;
     auto opened = std::make_shared<Database>(text::toUtf8(file));
+    // May fail as well; only a connection that is complete is kept.
     if (cacheKiB_) opened->setCacheKiB(*cacheKiB_);
     database_ = std::move(opened);
   }

@@ -1,3 +1,12 @@
+// Recovery after a killed writer: a program that is ended in the middle of an update leaves its
+// rollback journal ("kk.dat-journal") beside the file. Until the journal is rolled back the file
+// cannot be read, and a connection for reading may not write: its statements fail with
+// SQLITE_READONLY_ROLLBACK. Then the file is opened once for writing and read from, by which the
+// engine rolls the journal back, and the operation is repeated once.
+//
+// Being overdue: the engine polls isOverdue() by its progress handler, the text functions poll it
+// while they compare (text_functions.cpp), and read() asks once more at the end.
+
 #include "data/database.h"
 
 #include <sqlite3.h>
@@ -8,10 +17,11 @@
 namespace data {
 namespace {
 
-/// The clock is read each time the engine has taken so many of its steps: some 0.1 ms.
+/// Steps of the engine's virtual machine after which it calls the progress handler, which reads the
+/// clock: some 0.1 ms.
 constexpr int kStepsBetweenPolls = 1000;
 
-/// Has the connection scan tables without an order of their own from the end, while it exists.
+/// While it exists, the engine scans the tables of queries without ORDER BY from their end.
 class ScopedBackwardScan {
  public:
   explicit ScopedBackwardScan(sqlite3* connection) : connection_(connection) { set(1); }
@@ -40,6 +50,8 @@ class ScopedUnrestricted {
   sqlite3* connection_;
 };
 
+/// The type is asked for first: SQLite does not define it after a conversion. Likewise the length
+/// is asked for after the text, which may have been converted from a number.
 Cell cellAt(sqlite3_stmt* statement, int column) {
   if (sqlite3_column_type(statement, column) == SQLITE_NULL) return {};
   const std::int64_t integer = sqlite3_column_int64(statement, column);
@@ -59,6 +71,7 @@ std::vector<std::string> columnNames(sqlite3_stmt* statement) {
   return names;
 }
 
+/// `complete` is set only where the statement was seen to end, not where `limit` rows were read.
 Rows readRows(sqlite3* connection, const std::string& sql, std::size_t limit) {
   const Statement statement = prepare(connection, sql);
   Rows rows{columnNames(statement.get()), {}, false};
@@ -99,8 +112,6 @@ auto Database::run(Operation operation) {
   return describingFailures(file_, Access::kRead, [&] { return withRecovery(operation); });
 }
 
-/// A program that was killed in the middle of an update leaves a journal behind that has to be
-/// rolled back before the file can be read, which a connection for reading cannot do.
 template <typename Operation>
 auto Database::withRecovery(Operation operation) {
   deadline_ = std::chrono::steady_clock::now() + timeouts_.query;
@@ -126,7 +137,7 @@ Rows Database::read(const std::string& sql, std::size_t limit, ScanOrder order) 
     std::optional<ScopedBackwardScan> backward;
     if (order == ScanOrder::kBackward) backward.emplace(connection_.get());
     Rows rows = readRows(connection_.get(), sql, limit);
-    // The collation of an overdue query took texts for equal: its rows are wrong.
+    // The collation of an overdue query calls all texts equal: its rows are wrong.
     if (isOverdue()) throw Error(SQLITE_INTERRUPT, sqlite3_errstr(SQLITE_INTERRUPT));
     return rows;
   });
@@ -134,6 +145,7 @@ Rows Database::read(const std::string& sql, std::size_t limit, ScanOrder order) 
 
 bool Database::hasRowid(const std::string& table) {
   return run([&] {
+    // SQLITE_ERROR is the answer for a table or column that does not exist.
     const int result =
         sqlite3_table_column_metadata(connection_.get(), "main", table.c_str(), "rowid", nullptr,
                                       nullptr, nullptr, nullptr, nullptr);
@@ -144,6 +156,7 @@ bool Database::hasRowid(const std::string& table) {
 
 void Database::rollBackJournal() const {
   const Connection writer = openConnection(file_, Access::kWrite, timeouts_.lock);
+  // Opening alone touches no page: the first read does, and finds the journal.
   execute(writer.get(), "select 1 from sqlite_master limit 1");
 }
 

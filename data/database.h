@@ -11,7 +11,8 @@
 
 namespace data {
 
-/// One value as text in UTF-8 ("" for NULL) and as a number (0 where it is none).
+/// One value as text in UTF-8 ("" for NULL) and as a number, converted as SQLite does (the leading
+/// digits of a text; 0 without any).
 struct Cell {
   std::string text;
   std::int64_t integer = 0;
@@ -20,39 +21,41 @@ struct Cell {
 /// Rows that were read: the names of their columns, and their cells row after row.
 struct Rows {
   std::vector<std::string> columns;
-  std::vector<Cell> cells;
-  bool complete = false;  ///< whether the query has no more rows than these
+  std::vector<Cell> cells;  ///< columns.size() for each row
+  bool complete = false;    ///< whether the query has no more rows than these
 
   [[nodiscard]] std::size_t count() const {
     return columns.empty() ? 0 : cells.size() / columns.size();
   }
 };
 
+/// The end of a table at which a scan of it begins.
 enum class ScanOrder { kForward, kBackward };
 
-/// How long an operation may take. After both and the release of what it holds it still ends before
-/// Windows takes the window for hung, which is after 5 s.
+/// Limits for one operation. After both of them and the release of its memory an operation still
+/// ends before Windows considers the window hung, which is after 5 s without a message.
 struct Timeouts {
   std::chrono::milliseconds query{3500};  ///< a query that runs longer ends with an error
   std::chrono::milliseconds lock{1000};   ///< wait for other programs that hold the file
 };
 
-/// What the engine may take, in bytes: several times what pages in memory and sorted rows of the
-/// dictionary need.
+/// Memory of the engine in bytes, at most: several times the cached pages and the sorted rows of
+/// the dictionary.
 inline constexpr std::int64_t kMaxMemory = std::int64_t{64} << 20U;
 
 /// Pages of the file that a connection for searches keeps in memory, in KiB: a search reads the
 /// largest subject dictionary (some 6 MB) from end to end, and the next one finds its pages there.
 inline constexpr int kSearchCacheKiB = 16384;
 
-/// A database file, open for reading only, for one thread (see connection.h). Every operation runs
-/// its statement to the end of what is asked and closes it, so that nothing holds the file between
-/// operations. All operations throw Error with a description for the user. From the first Database
-/// on the engine takes at most kMaxMemory in the whole process, connections opened otherwise
-/// included; a query that needs more fails with SQLITE_NOMEM.
+/// A database file, open for reading only. For one thread (see connection.h); not to be moved,
+/// since the engine keeps its address. Every operation runs its statement as far as rows are wanted
+/// and closes it, so that nothing locks the file between operations. All operations throw Error
+/// with a description for the user: SQLITE_INTERRUPT after Timeouts::query, SQLITE_BUSY after
+/// Timeouts::lock. From the first Database on the engine takes at most kMaxMemory in the whole
+/// process, other connections included; a query that needs more fails with SQLITE_NOMEM.
 class Database {
  public:
-  /// `file` is the path in UTF-8.
+  /// Opens `file`, a path in UTF-8. Whether it is a database is found by the first operation.
   explicit Database(std::string file, Timeouts timeouts = {});
   Database(const Database&) = delete;
   Database& operator=(const Database&) = delete;
@@ -61,15 +64,16 @@ class Database {
   [[nodiscard]] const std::string& file() const { return file_; }
   [[nodiscard]] Timeouts timeouts() const { return timeouts_; }
 
-  /// Keeps up to so many KiB of the file's pages in memory from here on, each from when it is first
-  /// read; 256 otherwise.
+  /// Sets how much of the file is kept in memory once it is read, in KiB; without a call it is
+  /// SQLITE_DEFAULT_CACHE_SIZE (cmake/sqlite.cmake).
   void setCacheKiB(int kibibytes);
 
-  /// The first `limit` rows of one SQL text in SQLite's own dialect. kBackward scans a table from
-  /// its end; it is for queries that scan one table only (see Query::plainScan).
+  /// Returns the first `limit` rows of one SQL text in SQLite's own dialect. kBackward scans a
+  /// table from its end; it is for queries that scan one table only (see Query::plainScan).
   Rows read(const std::string& sql, std::size_t limit, ScanOrder order = ScanOrder::kForward);
 
-  /// Whether there is a table of that name whose rows are numbered by the engine.
+  /// Returns whether there is a table of that name with a rowid, the number that the engine gives a
+  /// row. Tables "without rowid" and views have none.
   bool hasRowid(const std::string& table);
 
  private:

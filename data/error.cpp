@@ -1,3 +1,8 @@
+// Descriptions are chosen by the engine's result code, and say what a user can do. Several codes
+// share one description where the remedy is the same, and one code has two where the cause differs
+// (SQLITE_CANTOPEN for reading and for writing; SQLITE_ERROR for a missing table and for a text
+// that the engine does not understand).
+
 #include "data/error.h"
 
 #include <sqlite3.h>
@@ -11,7 +16,7 @@
 namespace data {
 namespace {
 
-/// `problem` ends before the file's path.
+/// The parts of a description: `problem`, a colon at its end, is followed by the file's path.
 struct Explanation {
   std::u16string_view problem;
   std::u16string_view remedy;
@@ -54,7 +59,7 @@ constexpr Explanation kOther{u"使用词典文件时出错：",
                              u"请重新启动程序。如果仍然出错，请重新解压或重新安装 Lexilo。"};
 
 Explanation explain(Access access, const Error& error) {
-  // The low byte is the primary result code.
+  // The low byte of an extended result code is the primary one.
   switch (error.code() & 0xFF) {
     case SQLITE_CANTOPEN:
       // An update needs a journal beside the file: the folder may not be writable.
@@ -84,7 +89,8 @@ Explanation explain(Access access, const Error& error) {
     case SQLITE_NOTFOUND:
       return kChanged;
     case SQLITE_ERROR:
-      // A column that does not exist may come from a quote that was typed, a table hardly.
+      // A missing column may come from a quote in the user's input; a missing table does not, since
+      // the windows name the tables: then the file lacks it.
       return std::string_view(error.engineText()).starts_with("no such table") ? kIncomplete
                                                                                : kQueryRefused;
     case SQLITE_AUTH:
@@ -94,7 +100,7 @@ Explanation explain(Access access, const Error& error) {
   }
 }
 
-/// The engine's message on one line: it may quote line ends that were typed.
+/// The engine's message on one line: it may quote line ends of the user's input.
 std::u16string shownEngineText(const Error& error) {
   std::u16string line = text::shortened(text::toUtf16(error.engineText()), kMaxShownEngineText);
   std::replace_if(

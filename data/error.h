@@ -6,15 +6,15 @@
 
 struct sqlite3;
 
-/// How database operations fail, and what a user is told about it.
+/// Failures of database operations, and their descriptions for the user.
 namespace data {
 
 /// A failed database operation. Its texts are UTF-8.
 ///
 /// what() is for whoever the failure is shown to. Operations on a database file that a user knows
-/// (Database and all that rests on it) describe the failure to the user, in Chinese (see
-/// failureText). Below them, and for a mistake of the calling code (SQLITE_MISUSE: a column that
-/// does not exist, no current row), it is the plain English of engineText().
+/// (Database and what uses it) describe the failure to the user, in Chinese (see failureText).
+/// Below them, and for a mistake of the calling code (SQLITE_MISUSE: a column that does not exist,
+/// no current row), it is the plain English of engineText().
 class Error : public std::runtime_error {
  public:
   Error(int code, const std::string& engineText) : Error(code, engineText, engineText) {}
@@ -38,26 +38,27 @@ class Error : public std::runtime_error {
 /// Throws the connection's last failure as Error unless `result` is SQLITE_OK.
 void check(sqlite3* connection, int result);
 
-/// What a database file is opened for. Decides what a failure to open it means.
+/// What a database file is opened for. A failure to open it is described accordingly.
 enum class Access { kRead, kWrite };
 
 /// Longest path and longest message of the engine that a description quotes in full, in UTF-16 code
 /// units. Of longer ones it quotes both ends, so that the whole description stays short enough for
-/// a message box. A path within Windows' MAX_PATH is never shortened. The engine's own messages
-/// have some 60 units, but may quote all that was typed, thousands of units.
+/// a message box. A path within Windows' MAX_PATH (260) is never shortened. The engine's own
+/// messages have some 60 units, but may quote all that was typed, thousands of units.
 inline constexpr std::size_t kMaxShownPath = 260;
 inline constexpr std::size_t kMaxShownEngineText = 160;
 
-/// Describes a failure in Chinese and UTF-8: what is wrong with which file, what to do about it
-/// and, after an empty line, the engine's own message on one line. `file` is the path in UTF-8,
-/// shown as the program was given it; `access` is what the file was to be opened for.
+/// Returns the description of a failure in Chinese and UTF-8: what is wrong with which file, what
+/// to do about it and, after an empty line, the engine's own message on one line. `file` is the
+/// path in UTF-8, shown as the program was given it; `access` is what the file was to be opened
+/// for.
 std::string failureText(const std::string& file, Access access, const Error& error);
 
-/// Throws `error` with such a description, or as it is for a mistake of the calling code.
+/// Throws `error` with such a description; a mistake of the calling code (SQLITE_MISUSE) unchanged.
 [[noreturn]] void throwDescribed(const std::string& file, Access access, const Error& error);
 
-/// Runs an operation on `file` and returns its result. An Error that it throws leaves described;
-/// any other exception passes as it is.
+/// Runs an operation on `file` and returns its result. An Error that it throws is replaced as
+/// throwDescribed() does; any other exception passes unchanged.
 template <typename Operation>
 auto describingFailures(const std::string& file, Access access, Operation operation) {
   try {

@@ -8,9 +8,12 @@
 
 namespace data {
 
-/// The headword index of [edict] in memory: slot 0 is empty, slot k holds the lower-cased headword
-/// of row k * kBlockRows (lookup_sql.h). All words are kept in one text, which takes less than half
-/// the memory of as many strings. readIndexWords (headword_lookup.h) fills it.
+/// The headword index of [edict] in memory: slot 0 is empty, slot k holds the headword of row
+/// k * kBlockRows (lookup_sql.h) in lower case. readIndexWords (headword_lookup.h) fills it.
+///
+/// A list of texts with the interface of a container. All of them are kept one after the other in
+/// one text, which takes less than half the memory of as many strings: the program holds some
+/// 10,600 of them for as long as it runs.
 class IndexWords {
  public:
   IndexWords() = default;

@@ -1,6 +1,14 @@
-// A plain scan of one table may yield many rows, so that only its first row is read at once, the
-// last one by a backward scan of its own when it is asked for, and all others when one of them is.
-// The rows of any other query are read at once.
+// When rows are read. A plain scan of one table may yield many rows (up to 10,600 of [cdictidx] at
+// each Chinese keystroke), of which a window often needs the first or the last alone. So its first
+// row is read at once, its last one by a backward scan of its own when moveLast() asks for it, and
+// all of them when any other is asked for. The rows of any other query are read at once.
+//
+// Each of these runs the query anew, so that no statement stays open: an open one would lock the
+// file against updates. Rows may be written by another program in between; a set shows what each
+// reading found.
+//
+// Updates need to name their row: for "select * from TABLE" the query is run with the table's rowid
+// as one more column (Query::sqlWithRowid), which is hidden from the caller.
 
 #include "data/record_set.h"
 
@@ -21,8 +29,8 @@ constexpr std::size_t kAllRows = std::numeric_limits<std::size_t>::max();
 
 Error misuse(const std::string& message) { return {SQLITE_MISUSE, message}; }
 
-/// Whether a column's name in UTF-8 is `name` but for the case of ASCII letters. It is compared as
-/// it is: rows are read field by field, and a conversion of the name would cost as much as that.
+/// Returns whether a column's name in UTF-8 equals `name` but for the case of ASCII letters.
+/// Compares without converting, which would cost as much as reading the field.
 bool isName(std::string_view column, std::u16string_view name) {
   const text::Utf8Units units(column);
   std::size_t position = 0;
@@ -41,17 +49,21 @@ std::string quotedName(const std::string& name) {
   return quoted + '"';
 }
 
-/// One column of one row of a table, by the number that the engine gives the row.
+/// One column of one row of a table; the row by its rowid.
 struct CellAddress {
   std::string table;
   std::string column;
   std::int64_t rowid = 0;
 };
 
+/// Writes through a connection of its own: the Database's is read-only. An exception before the
+/// commit closes the connection, which rolls the transaction back.
 void write(const std::string& file, const CellAddress& address, std::int64_t value,
            std::chrono::milliseconds lockWait) {
   const Connection connection = openConnection(file, Access::kWrite, lockWait);
   execute(connection.get(), "pragma synchronous=full");
+  // Takes the lock for writing at once, where the engine waits for it; raising a read lock later
+  // might fail without waiting.
   execute(connection.get(), "begin immediate");
   execute(connection.get(), "update " + quotedName(address.table) + " set " +
                                 quotedName(address.column) + "=" + std::to_string(value) +
@@ -100,7 +112,7 @@ void RecordSet::moveLast() {
 
 void RecordSet::moveNext() {
   requireQuery();
-  if (position_ == Position::kEnd) throw misuse("no row behind the last one");
+  if (position_ == Position::kEnd) throw misuse("no row after the last one");
   if (position_ == Position::kLast) {
     position_ = Position::kEnd;
     return;
@@ -122,6 +134,7 @@ Field RecordSet::field(std::size_t column) const {
 void RecordSet::update(std::u16string_view name, std::int64_t value) {
   const std::size_t column = columnNamed(name);
   if (!withRowid_) throw misuse("rows of this query cannot be updated");
+  // The new value is kept in rows_, where further readings of this set find it.
   if (position_ == Position::kLast) {
     readAll();
     moveLast();
@@ -134,9 +147,11 @@ void RecordSet::update(std::u16string_view name, std::int64_t value) {
 
 void RecordSet::readAll() {
   if (!database_ || rows_.complete) return;
+  // The limit is kept here as well as in the SQL text, where a comment in the user's input might
+  // hide it.
   rows_ = database_->read(sql(), query_.top.value_or(kAllRows));
   rows_.complete = true;
-  // Rows may have vanished since the first one was read.
+  // Rows may have been deleted since the first one was read.
   if (position_ == Position::kRow && row_ >= rows_.count()) position_ = Position::kEnd;
 }
 

@@ -1,3 +1,10 @@
+// How an overdue query ends. SQLite calls its progress handler between its own steps only: sorting,
+// or one LIKE over a long text, may take seconds in between. Therefore both functions count what
+// they compare in a budget, which polls isOverdue() now and then. LIKE can report an error and ends
+// the statement. A collation cannot: once overdue it calls all texts equal, which ends a sort fast
+// and wrongly. Database::read() refuses the rows of a query that is overdue at its end, so that
+// none of them is seen.
+
 #include "data/text_functions.h"
 
 #include <sqlite3.h>
@@ -18,11 +25,13 @@ std::string_view viewOf(const void* text, int bytes) {
   return {static_cast<const char*>(text), static_cast<std::size_t>(bytes)};
 }
 
+/// Valid until the value is converted or its function returns.
 std::string_view viewOf(sqlite3_value* value) {
   const void* text = sqlite3_value_text(value);
   return text == nullptr ? std::string_view{} : viewOf(text, sqlite3_value_bytes(value));
 }
 
+/// Counts the shorter text as steps, which is the most that a comparison may look at.
 int collate(void* budget, int bytesA, const void* a, int bytesB, const void* b) {
   const auto steps = static_cast<std::size_t>(std::min(bytesA, bytesB));
   if (!static_cast<text::StepBudget*>(budget)->consume(steps)) return 0;
@@ -33,8 +42,9 @@ const text::LikePattern* keptPattern(sqlite3_context* context) {
   return static_cast<const text::LikePattern*>(sqlite3_get_auxdata(context, 0));
 }
 
-/// Prepares a pattern for this call and, where it is the same for all rows, for the statement's
-/// further calls. Null without memory.
+/// Prepares a pattern for this call and, where it is a constant of the statement, for its further
+/// calls: the engine keeps it with the argument and destroys it when the argument changes or the
+/// statement is finalized. Returns null where memory is exhausted.
 const text::LikePattern* keepPattern(sqlite3_context* context, sqlite3_value* value) {
   auto pattern = std::make_unique<text::LikePattern>(viewOf(value));
   const auto destroy = [](void* kept) {
@@ -44,7 +54,8 @@ const text::LikePattern* keepPattern(sqlite3_context* context, sqlite3_value* va
   return keptPattern(context);
 }
 
-/// "text LIKE pattern" reaches the function as like(pattern, text).
+/// "text LIKE pattern" reaches the function as like(pattern, text). NULL on either side gives NULL,
+/// which is the result of a function that sets none.
 void like(sqlite3_context* context, int /*count*/, sqlite3_value** values) {
   if (sqlite3_value_type(values[1]) == SQLITE_NULL) return;
   const std::string_view text = viewOf(values[1]);
@@ -81,7 +92,8 @@ void refuseEscape(sqlite3_context* context, int /*count*/, sqlite3_value** /*val
 
 void registerTextFunctions(sqlite3* connection, std::function<bool()> isOverdue) {
   constexpr int kFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
-  // The connection owns it from here on, also where defining the function fails.
+  // The connection owns it from the next call on, also where that fails. The collation shares it:
+  // nothing replaces either, so that both are destroyed when the connection is closed.
   text::StepBudget* budget = std::make_unique<text::StepBudget>(std::move(isOverdue)).release();
   const auto destroy = [](void* owned) {
     const std::unique_ptr<text::StepBudget> owner(static_cast<text::StepBudget*>(owned));

@@ -1,3 +1,13 @@
+// The translation is no parser: it looks at the tokens (sql_tokens.h) for the few forms that it
+// knows, notes edits to the text, and makes them all at once at the end. Whatever it does not
+// recognise with certainty stays unchanged, since SQLite judges the text anyway. Two properties
+// keep that safe: an edit may add nothing that changes the rows of a text that SQLite would accept,
+// and keywords are looked for outside parentheses only, so that a subquery is never mistaken for
+// the query itself.
+//
+// Comments are dropped from the tokens at the beginning and stay in the text. An edit after the
+// last token is therefore placed before a comment at the end.
+
 #include "data/dialect/dialect.h"
 
 #include <algorithm>
@@ -11,13 +21,14 @@
 namespace data {
 namespace {
 
-/// What may follow the only table of a query.
+/// Keywords that may follow the only table of a query.
 constexpr std::array kClauses{"where", "group", "having", "order", "limit", "window"};
-/// What tells that there is more than one table or one select.
+/// Keywords that follow a table where there is more than one table or select, or that are not a
+/// table's alias for another reason.
 constexpr std::array kJoiners{"join",    "inner", "left",    "right",  "full",
                               "outer",   "cross", "natural", "on",     "using",
                               "indexed", "not",   "union",   "except", "intersect"};
-/// What may follow a column's name in an "order by" list.
+/// Keywords that may follow a column's name in an "order by" list.
 constexpr std::array kAfterOrderTerm{"asc", "desc", "collate", "nulls", "limit"};
 
 template <std::size_t N>
@@ -26,7 +37,8 @@ bool isOneOf(const Token& token, const std::array<const char*, N>& words) {
                      [&](const char* word) { return token.isWord(word); });
 }
 
-/// Reads one SQL text part by part and notes what has to change in it.
+/// Translates one SQL text, to which it keeps a view. Token positions are called i; those from
+/// tokens_.size() on are valid and yield an empty token (see at()).
 class Translator {
  public:
   explicit Translator(std::string_view sql) : sql_(sql), tokens_(tokenize(sql)) {
@@ -35,27 +47,30 @@ class Translator {
 
   Query translate() {
     if (at(0).isWord("select")) translateSelect();
-    // Behind all else that may come in at the end of the statement.
+    // Added last: other edits may be made at the same position, and the limit is to follow them.
     if (query_.top) edits_.push_back({statementEnd(), 0, " limit " + std::to_string(*query_.top)});
     query_.sql = edited(edits_);
     return std::move(query_);
   }
 
  private:
-  /// A stretch of the text and what takes its place.
+  /// A range of the text, in bytes, and its replacement.
   struct Edit {
     std::size_t start = 0;
     std::size_t length = 0;
     std::string replacement;
   };
 
-  /// The only table of the query: the name that its columns go by, and the part behind it.
+  /// The only table of the query, the name or alias that qualifies its columns, and the position of
+  /// the first token after both.
   struct OnlyTable {
     Token name;
     Token columnsGoBy;
     std::size_t end = 0;
   };
 
+  /// Reads "select [distinct|all] [top n] list from table ...". `list` is the position of the first
+  /// token of the list of columns.
   void translateSelect() {
     std::size_t list = 1;
     const bool distinct = at(list).isWord("distinct");
@@ -77,7 +92,7 @@ class Translator {
     query_.sqlWithRowid = edited(std::move(edits));
   }
 
-  /// Takes "top n" at `i` out.
+  /// Removes "top n" at `i`, if it is there and n fits, and notes the limit.
   bool takeTop(std::size_t i) {
     if (!at(i).isWord("top") || at(i + 1).kind != TokenKind::kNumber) return false;
     const std::string_view digits = at(i + 1).text;
@@ -90,8 +105,8 @@ class Translator {
     return true;
   }
 
-  /// Adds the range that "column like 'beginning%'" at `i` implies, where no other operator reaches
-  /// over to it.
+  /// Adds the range that "column like 'beginning%'" at `i` implies, in parentheses with it. Does
+  /// nothing unless the condition ends there: the literal might be an operand of what follows.
   void narrowLike(std::size_t i) {
     if (!at(i).canName() || !at(i + 1).isWord("like")) return;
     if (at(i + 2).kind != TokenKind::kText || !endsCondition(at(i + 3))) return;
@@ -106,14 +121,14 @@ class Translator {
            isOneOf(token, kClauses);
   }
 
-  /// Where the first statement ends: before its semicolon, or behind its last part.
+  /// Offset of the end of the first statement: before its semicolon, or after its last token.
   [[nodiscard]] std::size_t statementEnd() const {
     const auto semicolon = std::find_if(tokens_.begin(), tokens_.end(),
                                         [](const Token& token) { return token.isSymbol(';'); });
     return semicolon == tokens_.end() ? endOf(tokens_.back()) : startOf(*semicolon);
   }
 
-  /// The table behind "from", searched from `i` on, if there is but one.
+  /// The table after "from", searched from `i` on, if it is the only one.
   [[nodiscard]] std::optional<OnlyTable> onlyTable(std::size_t i) const {
     const std::size_t name = find("from", i) + 1;
     if (!isTableName(at(name))) return std::nullopt;
@@ -133,7 +148,8 @@ class Translator {
     return token.canName() && !isOneOf(token, kClauses) && !isOneOf(token, kJoiners);
   }
 
-  /// Puts the table's name before the plain names of the "order by" list.
+  /// Puts the table's name before each term of the "order by" list that is a plain name. SQLite
+  /// would take it for an alias of the result first.
   void qualifyOrder(const OnlyTable& table) {
     const std::size_t order = find("order", table.end);
     if (!at(order + 1).isWord("by")) return;
@@ -153,7 +169,8 @@ class Translator {
            isOneOf(token, kAfterOrderTerm);
   }
 
-  /// Whether nothing but comparisons of columns with constants, joined by "and", comes at `i`.
+  /// Returns whether the tokens from `i` on are nothing, or "where" and comparisons of columns with
+  /// constants joined by "and". Anything else might make the engine use another order or index.
   [[nodiscard]] bool isPlainScan(std::size_t i) const {
     if (i == tokens_.size()) return true;
     if (!at(i).isWord("where")) return false;
@@ -165,7 +182,7 @@ class Translator {
     return false;
   }
 
-  /// The part behind "column operator constant" at `i`, if such a thing stands there.
+  /// Position after "column operator constant" at `i`; nullopt if something else is there.
   [[nodiscard]] std::optional<std::size_t> endOfComparison(std::size_t i) const {
     if (!at(i++).canName()) return std::nullopt;
     if (at(i).isSymbol('.')) i += 2;
@@ -185,7 +202,7 @@ class Translator {
     return token.isSymbol(')') ? -1 : 0;
   }
 
-  /// Position of the first `keyword` from `i` on that stands in no parentheses, or the end.
+  /// Position of the first `keyword` from `i` on outside parentheses; tokens_.size() without one.
   [[nodiscard]] std::size_t find(std::string_view keyword, std::size_t i) const {
     int depth = 0;
     for (; i < tokens_.size(); ++i) {
@@ -195,7 +212,7 @@ class Translator {
     return std::min(i, tokens_.size());
   }
 
-  /// Part number `i`; an empty one behind the end.
+  /// Token `i`; an empty one of kind kBroken from the end on, which no test of a token accepts.
   [[nodiscard]] Token at(std::size_t i) const {
     return i < tokens_.size() ? tokens_[i] : Token{TokenKind::kBroken, {}};
   }
@@ -207,7 +224,8 @@ class Translator {
     return startOf(token) + token.text.size();
   }
 
-  /// The text with `edits` made in it.
+  /// The text with `edits` made. Stable: edits at the same offset are made in the order in which
+  /// they were noted.
   [[nodiscard]] std::string edited(std::vector<Edit> edits) const {
     std::stable_sort(edits.begin(), edits.end(),
                      [](const Edit& a, const Edit& b) { return a.start < b.start; });

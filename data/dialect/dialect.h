@@ -7,14 +7,14 @@
 
 namespace data {
 
-/// A query as SQLite takes it, and what can be told from its text.
+/// A query in SQLite's dialect, and what its text shows about it. Texts are UTF-8.
 struct Query {
   std::string sql;
-  /// How many rows it yields at most ("top n").
+  /// The most rows that it yields ("top n"); nullopt without such a limit.
   std::optional<std::size_t> top;
-  /// The table, where the query has the form "select * from TABLE ..."; else "".
+  /// The table, where the query has the form "select * from TABLE ..."; otherwise "".
   std::string table;
-  /// For such a query: the same with the table's rowid as one more column at the end; else "".
+  /// For such a query: the same with the table's rowid as one more column at the end; otherwise "".
   std::string sqlWithRowid;
   /// Whether it is no more than "select * from TABLE", perhaps with "where" and comparisons of
   /// columns with constants joined by "and". Such a query scans one table in its own order, and
@@ -27,12 +27,14 @@ struct Query {
 ///   might have come in with the user's input;
 /// - in a query over one table "order by X" means the table's column X, even where the query gives
 ///   another column the name X;
-/// - a condition "column like 'beginning%'" right behind "where" is joined by the range of texts
-///   that it implies, for the sake of an index.
-/// All else SQLite takes as it stands: names in brackets, no blank before "where", doubled blanks,
-/// LIKE with "%" and "_". Nothing inside quotes is touched, and a text that is no query is left for
-/// SQLite to refuse. Texts compare in the dictionary's order where their columns are declared with
-/// the collation of text_functions.h: nothing is added here for columns that are not.
+/// - a condition "column like 'beginning%'" right after "where" is joined by the range of texts
+///   that it implies, so that an index can be used (like_range.h).
+/// SQLite accepts everything else as it stands: names in brackets, no blank before "where", doubled
+/// blanks, LIKE with "%" and "_". Nothing inside quotes is changed, and a text that is not a query
+/// is returned unchanged, for SQLite to refuse. Texts compare in the dictionary's order where their
+/// columns are declared with the collation of text_functions.h: nothing is added here for columns
+/// that are not. Pure; throws nothing but std::bad_alloc. Takes time proportional to the length of
+/// the text.
 Query translate(std::string_view sql);
 
 }  // namespace data

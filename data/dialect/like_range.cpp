@@ -8,17 +8,20 @@
 namespace data {
 namespace {
 
-/// Whether a number written as a text may begin with `c`.
+/// Returns whether a number in decimal may begin with `c`; blanks may precede one.
 bool mayBeginNumber(char c) {
   return (c >= '0' && c <= '9') || c == '+' || c == '-' || c == '.' || c == ' ';
 }
 
-/// Whether LIKE takes `c` for itself, and the next higher character is ASCII as well.
+/// Returns whether LIKE matches `c` with itself only (but for case) and the character after it is
+/// ASCII as well, so that it can end an upper bound.
 bool isFixed(char c) { return c >= ' ' && c < '\x7F' && c != '%' && c != '_'; }
 
-/// What makes any text one that is no number, and puts it behind itself.
+/// Appended to an upper bound that looks like a number: the affinity of a column of numbers would
+/// make it one. The longer text sorts after the bound, so that the range only grows.
 constexpr char kNoNumber = 'z';
 
+/// The text of a literal: without its quotes, doubled ones inside it single.
 std::string unquoted(std::string_view literal) {
   std::string text;
   for (std::size_t i = 1; i + 1 < literal.size(); ++i) {
@@ -34,6 +37,7 @@ std::string quoted(std::string_view text) {
   return literal + '\'';
 }
 
+/// The collation is named, since the column may be declared with another one or none.
 std::string condition(std::string_view column, std::string_view comparison, std::string_view text) {
   std::string sql = " and ";
   sql.append(column).append(comparison).append(quoted(text)).append(" collate ");
@@ -46,15 +50,15 @@ std::string likeRange(std::string_view column, std::string_view pattern) {
   std::string first = unquoted(pattern);
   first.erase(std::find_if_not(first.begin(), first.end(), isFixed), first.end());
   if (first.empty()) return {};
-  // The next character behind the folded one weighs more, so that the text made with it comes
-  // behind all that begin like `first`.
-  std::string behind = first;
-  const char16_t folded = text::foldCase(static_cast<unsigned char>(behind.back()));
-  behind.back() = static_cast<char>(folded + 1);
-  // A column of numbers takes a text that looks like a number for one. Any other text comes behind
-  // all numbers: as an upper bound it keeps those that are LIKE the pattern, as a lower bound not.
-  if (mayBeginNumber(first.front())) return condition(column, "<", behind + kNoNumber);
-  return condition(column, ">=", first) + condition(column, "<", behind);
+  // Upper bound: `first` with its last character, folded, replaced by the next one. That weighs
+  // more in the text order, so that the bound sorts after every text that begins with `first`.
+  std::string after = first;
+  const char16_t folded = text::foldCase(static_cast<unsigned char>(after.back()));
+  after.back() = static_cast<char>(folded + 1);
+  // SQLite sorts all numbers before all texts: a text as an upper bound admits the numbers that are
+  // LIKE the pattern, but as a lower bound it would exclude them.
+  if (mayBeginNumber(first.front())) return condition(column, "<", after + kNoNumber);
+  return condition(column, ">=", first) + condition(column, "<", after);
 }
 
 }  // namespace data

@@ -5,13 +5,19 @@
 
 namespace data {
 
-/// SQL conditions that every text fulfils which is LIKE a pattern of the kind "data%": it does not
-/// come before the pattern's fixed beginning, nor behind the texts with that beginning. They let
-/// the engine find the rows by an index where the table has one. `column` stands in the SQL text as
-/// it is; `pattern` is the literal with its quotes. Returns " and column>='...' collate ..." with
-/// both bounds; only the upper one for a beginning that might be a number's ("5-h", "-a"), so that
-/// columns of numbers may be searched as well; "" for a pattern that does not begin with a fixed
-/// ASCII character.
+/// Returns SQL conditions that every text meets which is LIKE a pattern such as 'data%': the text
+/// sorts neither before the pattern's fixed beginning nor after all texts with that beginning.
+/// SQLite itself derives such a range from its own LIKE only, which text_functions.h replaces; with
+/// it the engine finds the rows by an index or a primary key where the table has one.
+///
+/// `column` is inserted as it is; `pattern` is the SQL literal with its quotes. Texts are UTF-8.
+///
+///     'data%'    " and word>='data' collate lexilo and word<'datb' collate lexilo"
+///     '5-h%'     the upper bound only: the beginning of a number, and a column may hold numbers
+///     '%ta', ''  "": the pattern does not begin with a fixed ASCII character
+///
+/// Only printable ASCII up to the first wildcard counts as fixed: a shorter beginning implies a
+/// wider range, which is as true.
 std::string likeRange(std::string_view column, std::string_view pattern);
 
 }  // namespace data

@@ -7,16 +7,20 @@
 namespace data {
 namespace {
 
+/// As in SQLite's tokenizer, which does not know the vertical tab.
 constexpr std::string_view kBlanks = " \t\n\f\r";
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
+/// As in SQLite's tokenizer: every byte beyond ASCII may be part of a name.
 bool isWordCharacter(char c) {
   const char lower = text::lowerAscii(c);
   return (lower >= 'a' && lower <= 'z') || isDigit(c) || c == '_' || c == '$' ||
          static_cast<unsigned char>(c) >= 0x80;
 }
 
+/// Generous: "0x1F", "1.5e3" and also "12abc", which SQLite refuses. An exponent's sign is a symbol
+/// of its own, which the translation does not mind.
 bool isNumberCharacter(char c) { return isWordCharacter(c) || c == '.'; }
 
 /// Length of the run of characters from the start of `rest` that `belongs` accepts.
@@ -26,7 +30,7 @@ std::size_t run(std::string_view rest, Predicate belongs) {
                                   rest.begin());
 }
 
-/// A part that `quote` opens and closes; doubled, the quote stands for itself.
+/// A token between quotes; a doubled quote inside it does not end it.
 Token quoted(std::string_view rest, TokenKind kind) {
   const char quote = rest.front();
   for (std::size_t i = 1; i < rest.size(); ++i) {
@@ -37,13 +41,15 @@ Token quoted(std::string_view rest, TokenKind kind) {
   return {TokenKind::kBroken, rest};
 }
 
-/// The part up to and including `end`, or all the rest as `otherwise`.
+/// A token up to and including `end`; without one, all the rest as `otherwise`.
 Token upTo(std::string_view rest, std::string_view end, TokenKind kind, TokenKind otherwise) {
   const std::size_t found = rest.find(end, 1);
   if (found == std::string_view::npos) return {otherwise, rest};
   return {kind, rest.substr(0, found + end.size())};
 }
 
+/// Not by upTo(): in "/*/" the two stars are the same one, and the comment does not end. One that
+/// never ends is a comment all the same, as SQLite has it.
 Token blockComment(std::string_view rest) {
   const std::size_t found = rest.find("*/", 2);
   return {TokenKind::kComment, rest.substr(0, found == std::string_view::npos ? found : found + 2)};

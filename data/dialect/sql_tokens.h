@@ -6,40 +6,43 @@
 
 namespace data {
 
-/// The smallest parts of an SQL text that matter to its translation.
+/// Kinds of tokens: as SQLite divides a text, as far as the translation has to know them apart.
 enum class TokenKind {
   kWord,     ///< keyword or plain name
   kName,     ///< quoted name: [..], ".." or `..`
-  kText,     ///< text in single quotes, two of them standing for one
-  kNumber,   ///< digits and what is written on to them without a blank
+  kText,     ///< text in single quotes, a doubled quote inside it
+  kNumber,   ///< digits, and letters, digits and points that follow without a blank
   kSymbol,   ///< any other single character
-  kComment,  ///< "--" to the end of the line, "/*" to "*/" or to the end
-  kBroken,   ///< quotes or brackets that nothing closes, to the end
+  kComment,  ///< "--" to the end of the line, "/*" to "*/" or to the end of the text
+  kBroken,   ///< an unclosed quote or bracket and the rest of the text
 };
 
-/// One part, as it stands in the text that was cut up.
+/// One token: a view into the text that tokenize() was given, which has to outlive it.
 struct Token {
   TokenKind kind = TokenKind::kSymbol;
   std::string_view text;
 
-  /// Whether this is the keyword `lowerCase`, in whatever case.
+  /// Returns whether this is the keyword `lowerCase`, in any case.
   [[nodiscard]] bool isWord(std::string_view lowerCase) const;
   [[nodiscard]] bool isSymbol(char symbol) const {
     return kind == TokenKind::kSymbol && text.front() == symbol;
   }
-  /// Whether this can name a table or a column.
+  /// Returns whether this can name a table or a column. Keywords are not told apart.
   [[nodiscard]] bool canName() const {
     return kind == TokenKind::kWord || kind == TokenKind::kName;
   }
 };
 
-/// Cuts an SQL text in UTF-8 into its parts; blanks are left out. The parts point into `sql`.
+/// Divides an SQL text in UTF-8, of any content, into tokens in their order; blanks are left out.
+/// Takes time proportional to its length.
 std::vector<Token> tokenize(std::string_view sql);
 
-/// Whether two names are the same but for the case of ASCII letters.
+/// Returns whether two names are the same but for the case of ASCII letters, as SQLite compares
+/// names.
 bool sameName(std::string_view a, std::string_view b);
 
-/// The name that `token` spells, without its quotes or brackets.
+/// Returns the name in `token` without its quotes or brackets. A doubled quote inside a quoted name
+/// stays doubled.
 std::string_view bareName(const Token& token);
 
 }  // namespace data
