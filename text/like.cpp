@@ -1,6 +1,10 @@
-// Greedy glob matching: on a mismatch the matcher backtracks to the last "%" only and has it take
-// one unit more. Whatever an earlier "%" might take, the last one can take as well, so that the
-// time is at most pattern length times text length.
+// Greedy glob matching with backtracking: on a mismatch the matcher goes back to the last "%" only
+// and has it take one unit more. That is enough: whatever an earlier "%" might take in addition,
+// the last one can take as well. So the time is at most pattern length times text length.
+//
+// Two short cuts, which change no result: a "%" at the end of the pattern takes all the rest of the
+// text at once, and the first character after a "%" is searched for before the rest of the pattern
+// is compared (seekFollower).
 
 #include "text/like.h"
 
@@ -32,7 +36,7 @@ class Matcher {
   }
 
  private:
-  /// Goes on by one unit of the pattern; false where the text does not follow it.
+  /// Advances by one unit of the pattern; returns false where the text does not match it.
   bool step() {
     if (inPattern_ == pattern_.size()) {
       return false;
@@ -53,7 +57,7 @@ class Matcher {
     return true;
   }
 
-  /// Begins with the empty run for a "%"; the rest of the pattern starts at `follower`.
+  /// Starts a "%" with the empty run; the rest of the pattern begins at offset `follower`.
   bool startRun(std::size_t follower) {
     hasRun_ = true;
     follower_ = follower;
@@ -61,6 +65,8 @@ class Matcher {
     return seekFollower();
   }
 
+  /// Backtracks to the last "%", which takes one unit more. Returns false where that is impossible
+  /// or the budget is exhausted. Only the steps that are made in vain count.
   bool lengthenRun() {
     if (!hasRun_ || runEnd_ == text_.size()) {
       return false;
@@ -72,7 +78,7 @@ class Matcher {
     return seekFollower();
   }
 
-  /// Lengthens the run to the next unit that may match what follows the "%", and goes on there.
+  /// Lengthens the run to the next unit that may match what follows the "%", and continues there.
   bool seekFollower() {
     const char16_t follower = follower_ < pattern_.size() ? pattern_.at(follower_).value : kAnyRun;
     if (follower != kAnyRun && follower != kAnyUnit) {
@@ -86,7 +92,9 @@ class Matcher {
     return true;
   }
 
-  /// Offset, from `offset` on, of the first unit that may be `wanted` in either case, or the end.
+  /// Returns the offset, from `offset` on, of the first unit that may be `wanted` in either case,
+  /// otherwise the end. With the case bit set on both sides some units match that are not letters
+  /// ("@" and "`"): step() compares exactly.
   std::size_t seek(char16_t wanted, std::size_t offset) const {
     while (offset < text_.size()) {
       const Unit unit = text_.at(offset);
@@ -100,12 +108,12 @@ class Matcher {
 
   Units pattern_;
   Units text_;
-  StepBudget& budget_;  // consumed where a run is lengthened: all else goes through each text once
-  std::size_t inPattern_ = 0;
-  std::size_t inText_ = 0;
-  bool hasRun_ = false;       // whether a "%" has been passed; the rest is about the last one
+  StepBudget& budget_;         // consumed where a run is lengthened; the rest is one pass
+  std::size_t inPattern_ = 0;  // offset of the next unit of the pattern
+  std::size_t inText_ = 0;     // offset of the next unit of the text
+  bool hasRun_ = false;       // whether a "%" has been passed; the members below are the last one's
   std::size_t follower_ = 0;  // offset in the pattern of what follows it
-  std::size_t runEnd_ = 0;    // what it takes of the text ends here
+  std::size_t runEnd_ = 0;    // offset in the text of the end of its run
 };
 
 }  // namespace

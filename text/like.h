@@ -17,20 +17,20 @@ namespace text {
 /// Not to be shared by threads.
 class StepBudget {
  public:
-  /// A budget without end.
+  /// A budget that never ends.
   StepBudget() = default;
   /// `isOver` is polled after every kStepsBetweenPolls steps. After it returned true every
   /// consume() polls it again and returns false, until it returns false: a new statement then
   /// starts with a full budget.
   explicit StepBudget(std::function<bool()> isOver) : isOver_(std::move(isOver)) {}
 
-  /// Counts steps that are done. Returns whether the work may go on.
+  /// Counts `steps` as done and returns whether the work may go on. `isOver` is called within.
   [[nodiscard]] bool consume(std::size_t steps) {
     left_ -= static_cast<std::int64_t>(steps);
     return left_ > 0 || refill();
   }
 
-  /// Whether the last consume() returned false.
+  /// Returns whether the last consume() returned false.
   [[nodiscard]] bool exhausted() const { return left_ <= 0; }
 
  private:
@@ -47,31 +47,33 @@ class StepBudget {
   std::int64_t left_ = kStepsBetweenPolls;
 };
 
-/// Whether `text` is LIKE `pattern`. Takes time proportional to pattern length times text length at
-/// most.
+/// Returns whether `text` is LIKE `pattern`. Takes time proportional to pattern length times text
+/// length at most.
 bool like(std::u16string_view pattern, std::u16string_view text);
 
-/// The same for texts in UTF-8, without converting them first: what like says of the texts that
-/// toUtf16 makes of them, invalid bytes included.
+/// The same for texts in UTF-8, without converting them first. Returns what like() returns for the
+/// texts that toUtf16() makes of them, invalid bytes included.
 bool likeUtf8(std::string_view pattern, std::string_view text);
 
-/// The same, with the steps that go beyond one pass over both texts consumed from `budget`; false
-/// where it is exhausted.
+/// The same within a budget: consumes the steps that go beyond one pass over both texts, and
+/// returns false once `budget` is exhausted, which the caller has to ask it.
 bool likeUtf8(std::string_view pattern, std::string_view text, StepBudget& budget);
 
-/// A LIKE pattern in UTF-8, prepared to be matched against many texts: returns what likeUtf8
-/// returns, but sooner. A text without the pattern's fixed beginning or, where it has none, without
-/// its longest run of fixed characters is rejected at once.
+/// A LIKE pattern in UTF-8, prepared to be matched against many texts: matches() returns what
+/// likeUtf8 returns, but sooner. A text without the pattern's fixed beginning or, for a pattern
+/// that begins with a wildcard, without its longest run of fixed characters is rejected at once.
+/// May be shared by threads, each with a budget of its own.
 class LikePattern {
  public:
+  /// Keeps a copy of `pattern`, which may be any bytes.
   explicit LikePattern(std::string_view pattern);
 
   [[nodiscard]] bool matches(std::string_view text) const {
     StepBudget unlimited;
     return matches(text, unlimited);
   }
-  /// The same, with the steps that go beyond one pass over the pattern and the text consumed from
-  /// `budget`; false where it is exhausted.
+  /// The same within a budget: consumes the steps that go beyond one pass over the pattern and the
+  /// text, and returns false once `budget` is exhausted.
   [[nodiscard]] bool matches(std::string_view text, StepBudget& budget) const;
 
  private:
@@ -82,8 +84,8 @@ class LikePattern {
     std::uint64_t caseBits = 0;  ///< eight times the bit in which its capital differs
   };
 
-  /// Takes a run of the pattern that holds neither a wildcard nor U+FFFD, if it is the pattern's
-  /// beginning or, in one that begins otherwise, the longest.
+  /// Takes the run of fixed characters at `start` for fixed_ if it is the pattern's beginning or,
+  /// where no run is, longer than the one taken so far.
   void offer(std::size_t start, std::size_t length);
   void foldFixed();
   void chooseProbes();
@@ -98,7 +100,7 @@ class LikePattern {
   std::string fixed_;     ///< the bytes of the fixed run, letters in lower case
   std::string caseBits_;  ///< for each of them the bit in which its capital differs
   Probe rarest_;
-  Probe second_;  ///< the rarest of the other bytes; the same one where there is no other
+  Probe second_;  ///< the rarest of the other bytes; equal to rarest_ for a run of one byte
   bool isAnchored_ = false;            ///< whether the run is the pattern's beginning
   std::unique_ptr<LikePattern> rest_;  ///< what follows that beginning, unless it is "%" alone
   bool isWhole_ = false;               ///< whether the pattern is just "fixed%" or "%fixed%"

@@ -1,6 +1,15 @@
 // How a fixed run of bytes is found in a text: a memmem by SWAR (SIMD within a register). The two
 // rarest bytes of the run are compared at eight offsets at once, in 64-bit words; only where both
 // may match is the whole run compared. Letters are compared with the case bit set on both sides.
+//
+// The run is the pattern's fixed beginning ("data%": compared at the text's beginning only) or its
+// longest part without a wildcard ("%data%"). Where the pattern is no more than that, finding the
+// run is the whole match; otherwise the rest of an anchored pattern is matched in turn, and any
+// other pattern as a whole (likeUtf8). A search reads some 138,000 meanings, and nearly all of them
+// are rejected here.
+//
+// U+FFFD is not fixed: any invalid byte of a text reads as it, so that its own bytes need not
+// occur.
 
 #include <algorithm>
 #include <bit>
@@ -22,36 +31,41 @@ namespace {
 /// characters, blanks, letters. Any other byte is rarer.
 constexpr std::string_view kFrequentBytes = "\xE5\xE6\xE7\xE8\xE4\xE9 eiaotnrslcdmphuygbfvkxwzqj";
 
+/// Higher for rarer bytes.
 std::size_t rarity(char byte) { return std::min(kFrequentBytes.find(byte), kFrequentBytes.size()); }
 
-/// Probes are taken from so many bytes at the run's beginning: enough to be rare, and not so far
-/// from it that short texts would have no room for a step of eight offsets.
+/// Probes are chosen among so many bytes at the run's beginning: enough for a rare one, and few
+/// enough that short texts have room for a step of eight offsets.
 constexpr std::size_t kProbedBytes = 8;
 
-/// How many offsets of a text are compared in one step.
+/// Offsets of a text that are compared in one step.
 constexpr std::size_t kOffsetsInStep = sizeof(std::uint64_t);
 
 constexpr std::uint64_t kLowBits = 0x0101010101010101;
 constexpr std::uint64_t kHighBits = kLowBits << 7;
 
+/// A word of eight times that byte.
 std::uint64_t eightTimes(char byte) { return kLowBits * static_cast<unsigned char>(byte); }
 
+/// The eight bytes from `bytes` on, at any alignment.
 std::uint64_t eightBytes(const char* bytes) {
   std::uint64_t word = 0;
   std::memcpy(&word, bytes, sizeof word);
   return word;
 }
 
-/// Marks the high bit of the lowest byte that is zero, and perhaps of some above it; 0 without one.
+/// Sets the high bit of the lowest byte that is zero, and perhaps of some above it (the borrow of
+/// the subtraction may reach them), where a candidate is compared in vain. 0 if no byte is zero.
 std::uint64_t zeroBytes(std::uint64_t bytes) { return (bytes - kLowBits) & ~bytes & kHighBits; }
 
-/// The lowest byte is the first in memory, here as on all machines that the program is for.
+/// Index of the lowest marked byte, which is the first in memory on a little-endian machine, as
+/// every machine is that the program is for.
 static_assert(std::endian::native == std::endian::little);
 std::ptrdiff_t firstMarked(std::uint64_t marks) { return std::countr_zero(marks) / 8; }
 
 bool isFixed(char16_t unit) { return unit != u'%' && unit != u'_' && unit != kReplacement; }
 
-/// Whether `unit` is the lower case of a capital.
+/// Returns whether `unit` is the lower case of a capital.
 bool hasCapital(char16_t unit) {
   const auto capital = static_cast<char16_t>(unit - kCaseBit);
   return foldCase(capital) == unit && capital != unit;
@@ -88,6 +102,8 @@ void LikePattern::offer(std::size_t start, std::size_t length) {
   isAnchored_ = start == 0;
 }
 
+/// The cases of a letter differ in its last byte only (kCaseBit): fixed_ gets that bit set, and
+/// caseBits_ the bit to be set in the bytes of a text that are compared with it.
 void LikePattern::foldFixed() {
   caseBits_.assign(fixed_.size(), '\0');
   const Utf8Units units(fixed_);
@@ -127,9 +143,9 @@ bool LikePattern::matches(std::string_view text, StepBudget& budget) const {
                : likeUtf8(pattern_, text, budget);
 }
 
-/// Whether the run occurs in `text`, which is not shorter. Bytes may be compared as they are: a
-/// lead byte always begins a character, so that the bytes of whole characters are found as those
-/// characters only. The last step overlaps the one before it.
+/// Returns whether the run occurs in `text`, which is not shorter than it. Comparing bytes is
+/// enough: UTF-8 is self-synchronising, so that the bytes of whole characters occur only as those
+/// characters. The last step is moved back to end with the text, and overlaps the one before it.
 bool LikePattern::occursIn(std::string_view text, StepBudget& budget) const {
   const std::size_t reach = std::max(rarest_.offset, second_.offset) + kOffsetsInStep;
   if (text.size() < reach) return occursInShort(text);
@@ -145,18 +161,20 @@ bool LikePattern::occursIn(std::string_view text, StepBudget& budget) const {
   }
 }
 
+/// The same for a text that is too short for one step: offset by offset. Fewer than 15 offsets,
+/// so that nothing is consumed from the budget.
 bool LikePattern::occursInShort(std::string_view text) const {
   const std::size_t rarest = rarest_.offset;
   const char* const end = text.data() + (text.size() - fixed_.size()) + 1;
-  for (const char* place = text.data(); place != end; ++place) {
-    const bool candidate = (place[rarest] | caseBits_[rarest]) == fixed_[rarest];
-    if (candidate && startsAt(place)) return true;
+  for (const char* start = text.data(); start != end; ++start) {
+    const bool candidate = (start[rarest] | caseBits_[rarest]) == fixed_[rarest];
+    if (candidate && startsAt(start)) return true;
   }
   return false;
 }
 
-/// Marks those of the eight offsets from `bytes` on at which the run may begin, by its two rarest
-/// bytes.
+/// Marks those of the eight offsets from `bytes` on at which the run may begin, since its two
+/// rarest bytes are where they would be. May mark more (see zeroBytes), never fewer.
 std::uint64_t LikePattern::candidatesAmong8(const char* bytes) const {
   const auto differences = [&](const Probe& probe) {
     return (eightBytes(bytes + probe.offset) | probe.caseBits) ^ probe.wanted;

@@ -1,6 +1,8 @@
-// The order's Han ranks come from kPinyinOrder, which lists the characters by pinyin. At compile
-// time the list is inverted into a table that is indexed by character, so that comparing two texts
-// takes one table read for each character in which they differ.
+// Pinyin ranks: kPinyinOrder lists the Han characters by pinyin. At compile time the list is
+// inverted into a table that is indexed by character, so that comparing two texts takes one table
+// read for each character in which they differ. The order is the dictionary's own and part of every
+// database file: ICU's or Windows' would differ from one version to the next, and tables sorted by
+// one could not be searched by another.
 
 #include "text/order.h"
 
@@ -14,9 +16,13 @@
 namespace text {
 namespace {
 
+/// Weight of rank 0: above every other unit's.
 constexpr std::uint32_t kHanBase = 0x10000;
+/// Rank of what has none: units outside the ranges, and unassigned ones within.
 constexpr std::uint16_t kNotHan = 0xFFFF;
 
+/// The table has the unified ideographs, the compatibility ideographs, 〇, and one element for all
+/// other units.
 constexpr std::size_t kHanCount = kLastHan - kFirstHan + 1;
 constexpr std::size_t kCompatibilityCount = kLastCompatibilityHan - kFirstCompatibilityHan + 1;
 constexpr std::size_t kZeroIndex = kHanCount + kCompatibilityCount;
@@ -48,9 +54,10 @@ constexpr Ranks makeRanks() {
   return ranks;
 }
 
-/// Made by the compiler, so that it costs nothing at start-up.
+/// Computed by the compiler, so that it takes no time at start-up.
 constexpr Ranks kRanks = makeRanks();
 
+/// Equal units are passed over without looking their weights up; they are most of those compared.
 template <typename Units>
 int compareUnits(Units a, Units b) {
   std::size_t offsetA = 0;
@@ -75,6 +82,7 @@ int compareUnits(Units a, Units b) {
 }  // namespace
 
 std::uint32_t weight(char16_t unit) {
+  // Below the first Han character, which is 〇, no table is needed.
   if (unit < kHanZero) {
     return foldCase(unit);
   }

@@ -9,7 +9,8 @@
 namespace user {
 namespace {
 
-/// What English input may not begin with.
+/// Characters that English input may not begin with. Chinese input may: its lookup is by range, and
+/// such a character is an ordinary one there.
 constexpr std::u16string_view kWildcards = u"*_?%";
 
 }  // namespace
@@ -33,6 +34,7 @@ TypedText readTyped(std::u16string_view text) {
   TypedText typed;
   std::u16string word(text::trimBlanks(text));
   if (word.empty()) return typed;
+  // A quote has no influence on the language class, so that the word may be escaped before.
   typed.language = getEorC(escapeQuote(word));
   if (typed.language == kEnglish && kWildcards.find(word.front()) != std::u16string_view::npos) {
     typed.kind = Typed::kRefused;
@@ -43,11 +45,16 @@ TypedText readTyped(std::u16string_view text) {
   return typed;
 }
 
+// Deliberate: the caller's variable gets the first replacement only.
 std::u16string convertWildcard(std::u16string& text) {
   text = replaceStr(text, u"?", u"_");
   return replaceStr(text, u"*", u"%");
 }
 
+// Required is a search from the beginning of the text after each replacement. For the contract's
+// single characters that is quadratic and finds nothing new before the match, so that the search
+// goes on from there; it starts a little before, where a longer `search` may find a match that the
+// replacement made.
 std::u16string replaceStr(std::u16string_view source, std::u16string_view search,
                           std::u16string_view replacement) {
   std::u16string text(source);
@@ -57,7 +64,7 @@ std::u16string replaceStr(std::u16string_view source, std::u16string_view search
   std::size_t match = text.find(search);
   while (match != std::u16string::npos) {
     text.replace(match, 1, replacement);
-    // The next match may begin before this one, but not end there, or it had been found first.
+    // A match that ended before this one would have been found first.
     const std::size_t overlap = std::min(match, search.size() - 1);
     match = text.find(search, match - overlap);
   }
@@ -70,6 +77,7 @@ std::size_t displayLength(std::u16string_view text) {
 
 std::u16string padWord(std::u16string_view text, std::int16_t width) {
   const std::size_t length = displayLength(text);
+  // Widths are 16-bit settings of the windows; a negative one counts as none.
   const std::size_t columns = width > 0 ? static_cast<std::size_t>(width) : 0;
   std::u16string padded(text);
   padded.append(length >= columns ? 2 : columns - length, u' ');

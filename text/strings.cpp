@@ -6,9 +6,10 @@ namespace text {
 
 std::u16string shortened(std::u16string_view whole, std::size_t longest) {
   if (whole.size() <= longest) return std::u16string(whole);
-  const std::size_t kept = longest - 1;
+  const std::size_t kept = longest - 1;  // without the ellipsis
   std::u16string_view end = whole.substr(whole.size() - (kept / 2));
   std::u16string_view beginning = whole.substr(0, kept - end.size());
+  // A half of a pair at the cut is left out, which makes the result one unit shorter.
   if (isHighSurrogate(beginning.back())) beginning.remove_suffix(1);
   if (isLowSurrogate(end.front())) end.remove_prefix(1);
   std::u16string result(beginning);

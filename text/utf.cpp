@@ -1,3 +1,7 @@
+// UTF-8 as RFC 3629 defines it: the lead byte tells how many continuation bytes (10xxxxxx) follow.
+// Each byte of an invalid sequence reads as one U+FFFD, whatever follows, so that a text can be
+// read from any position where a unit ends without knowing what comes before.
+
 #include "text/utf.h"
 
 #include "text/characters.h"
@@ -26,7 +30,8 @@ void appendUtf8(std::string& out, char32_t character) {
   }
 }
 
-/// `value` if it is one that a sequence of `length` bytes may stand for.
+/// `value` if a sequence of `length` bytes may encode it; `smallest` is the least code point that
+/// needs so many bytes, below which the sequence is overlong.
 Character checked(char32_t value, std::size_t length, char32_t smallest) {
   const bool surrogate = isHighSurrogate(value) || isLowSurrogate(value);
   if (value < smallest || value > 0x10FFFF || surrogate) {
@@ -44,6 +49,7 @@ Character readSequence(std::string_view bytes) {
   };
   const auto bits = [&](std::size_t i) { return byte(i) & 0x3F; };
   const char32_t lead = byte(0);
+  // ASCII, or a continuation byte on its own. 0xC0 and 0xC1 would be overlong; see checked().
   if (lead < 0xC0 || !continues(1)) {
     return {};
   }
@@ -62,9 +68,12 @@ Character readSequence(std::string_view bytes) {
   return checked((lead & 0x07) << 18 | bits(1) << 12 | bits(2) << 6 | bits(3), 4, 0x10000);
 }
 
+/// Units that at() does not decode itself. In the middle of a sequence of four bytes, at its second
+/// byte, the unit is the low surrogate: found by decoding again from the byte before.
 Unit Utf8Units::decode(std::size_t position) const {
   const Character here = readSequence(text_.substr(position));
   if (here.length == 4) {
+    // 0xD800 plus the upper ten bits of the code point less 0x10000.
     return {static_cast<char16_t>(0xD7C0 + (here.value >> 10)), 1};
   }
   if (here.length != 0) {

@@ -4,44 +4,51 @@
 #include <string>
 #include <string_view>
 
-/// UTF-8, which SQLite and the source files hold, and UTF-16, which all else does. Nothing here
-/// fails on invalid text: it reads as U+FFFD.
+/// Conversions between UTF-8, in SQLite and in the source files, and UTF-16, everywhere else. They
+/// are pure. Invalid text is not an error: it reads as U+FFFD, so that texts of any origin can be
+/// shown and compared.
 namespace text {
 
-/// UTF-16 to UTF-8. An unpaired surrogate becomes U+FFFD.
+/// Returns UTF-16 as UTF-8. An unpaired surrogate becomes U+FFFD.
 std::string toUtf8(std::u16string_view utf16);
 
-/// UTF-8 to UTF-16. Each byte that is part of no valid sequence becomes U+FFFD.
+/// Returns UTF-8 as UTF-16. Each byte that is not part of a valid sequence becomes one U+FFFD.
 std::u16string toUtf16(std::string_view utf8);
 
-/// What an invalid byte or an unpaired surrogate reads as.
+/// REPLACEMENT CHARACTER: what an invalid byte or an unpaired surrogate reads as.
 inline constexpr char16_t kReplacement = u'\uFFFD';
 
-/// One UTF-16 code unit and the length of what it was read from.
+/// One UTF-16 code unit and the number of units of the text (bytes or code units) that were read.
 struct Unit {
   char16_t value;
   std::size_t length;
 };
 
-/// A character and the number of its bytes; no bytes where they are no valid sequence.
+/// A code point and the number of its bytes; `length` is 0 where the bytes are not a valid
+/// sequence.
 struct Character {
   char32_t value = 0;
   std::size_t length = 0;
 };
 
-/// Decodes the UTF-8 sequence of two to four bytes that `bytes`, which is not empty, begins with.
+/// Decodes the UTF-8 sequence of two to four bytes at the beginning of `bytes`, which is not empty.
+/// ASCII has `length` 0 here: callers handle it themselves.
 Character readSequence(std::string_view bytes);
 
-/// Reads a UTF-8 text as UTF-16 code units without converting it first. A byte that belongs to no
-/// valid sequence (stray, overlong, cut off, a surrogate's or beyond U+10FFFF) reads as U+FFFD. The
-/// second unit of a surrogate pair is read after the first byte of the pair's four.
+/// Reads a UTF-8 text as UTF-16 code units without converting it first, so that comparing and
+/// matching need no memory. A byte that is not part of a valid sequence (stray, overlong, cut off,
+/// of a surrogate or beyond U+10FFFF) reads as U+FFFD. The text has to outlive the object.
+///
+/// A character beyond U+FFFF has four bytes and two units: the first unit has length 1, the second
+/// length 3, and is read at the second byte.
 class Utf8Units {
  public:
   explicit Utf8Units(std::string_view text) : text_(text) {}
 
+  /// Length of the text in bytes: the position after its last unit.
   [[nodiscard]] std::size_t size() const { return text_.size(); }
 
-  /// The unit at `position`, which is 0 or where another unit ended, and below size().
+  /// Returns the unit at `position`, which is 0 or the end of another unit, and below size().
   [[nodiscard]] Unit at(std::size_t position) const {
     const auto byte = static_cast<unsigned char>(text_[position]);
     if (byte < 0x80) {
