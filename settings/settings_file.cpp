@@ -18,11 +18,12 @@ std::optional<std::int16_t> toInteger16(std::u16string_view value) {
   const bool negative = digits.starts_with(u'-');
   if (negative || digits.starts_with(u'+')) digits.remove_prefix(1);
   if (digits.empty()) return std::nullopt;
+  // Stops at the first digit beyond the range, so that a long text cannot overflow.
   int number = 0;
   for (const char16_t digit : digits) {
     if (digit < u'0' || digit > u'9') return std::nullopt;
     number = number * 10 + (digit - u'0');
-    if (number > Limits::max() + 1) return std::nullopt;
+    if (number > Limits::max() + 1) return std::nullopt;  // 32768 is in range if negative
   }
   if (negative) number = -number;
   if (number > Limits::max()) return std::nullopt;

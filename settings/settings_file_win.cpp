@@ -1,3 +1,9 @@
+// Where the settings are: a user without administrator rights may not write to the system
+// directory, and User Account Control would divert writes of old programs only. So the file is
+// created there on trial, and the user's own folder is taken where that fails. The profile
+// functions of the platform take ANSI paths: a user's folder that the code page cannot spell is
+// named by its short path.
+
 #include "settings/settings_file.h"
 
 #include <shlobj.h>
@@ -18,8 +24,8 @@ void freeTaskMemory(wchar_t* memory) { CoTaskMemFree(memory); }
 /// Memory that the shell allocated.
 using TaskMemory = win32::Owned<wchar_t*, freeTaskMemory>;
 
-/// Whether this user can write `file`, which may not exist yet; one created for the test is
-/// deleted.
+/// Returns whether this user can write `file`, which may not exist yet; one created for the test is
+/// deleted. Opening is the test: access rights, attributes and virus scanners all have a say.
 bool canWrite(const std::u16string& file) {
   const bool existed = GetFileAttributesW(win32::wide(file)) != INVALID_FILE_ATTRIBUTES;
   {
@@ -33,7 +39,8 @@ bool canWrite(const std::u16string& file) {
   return true;
 }
 
-/// `path` itself where the ANSI code page can name it, else its short form.
+/// Returns `path` where the ANSI code page can spell it, otherwise its short form. A volume without
+/// short names returns the path itself: settings are not kept then.
 std::u16string ansiName(const std::u16string& path) {
   const std::string ansi = win32::toAnsi(path);
   if (win32::fromAnsi(ansi) == path) return path;
@@ -43,8 +50,9 @@ std::u16string ansiName(const std::u16string& path) {
   return {shortPath.begin(), shortPath.begin() + length};
 }
 
-/// SHGetKnownFolderPath, from a library that takes near 1 MB of memory and is loaded only where the
-/// local application data folder is needed; it stays loaded.
+/// Calls SHGetKnownFolderPath in shell32.dll, which takes near 1 MB of memory and is loaded only
+/// where the local application data folder is needed; it stays loaded. `*path` is allocated by the
+/// shell, to be freed by CoTaskMemFree.
 HRESULT knownFolderPath(REFKNOWNFOLDERID folder, wchar_t** path) {
   const HMODULE library = LoadLibraryExW(L"shell32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
   if (library == nullptr) return HRESULT_FROM_WIN32(GetLastError());
@@ -66,7 +74,7 @@ std::u16string localSettingsFile() {
 
 std::u16string getINIProfileString(const std::u16string& section, const std::u16string& key,
                                    const std::u16string& fallback, const std::u16string& file) {
-  std::string buffer(kProfileBufferLength, ' ');
+  std::string buffer(kAnsiBufferLength, ' ');
   const DWORD length = GetPrivateProfileStringA(
       win32::toAnsi(section).c_str(), win32::toAnsi(key).c_str(), win32::toAnsi(fallback).c_str(),
       buffer.data(), static_cast<DWORD>(buffer.size()), win32::toAnsi(file).c_str());
@@ -81,8 +89,9 @@ void WriteINIProfileString(const std::u16string& section, const std::u16string& 
 }
 
 std::u16string systemDirectory() {
-  std::array<char, 255> buffer{};
+  std::array<char, kAnsiBufferLength> buffer{};
   const UINT length = GetSystemDirectoryA(buffer.data(), static_cast<UINT>(buffer.size()));
+  // Where the buffer is too small, the length that is needed is returned.
   return length < buffer.size() ? win32::fromAnsi({buffer.data(), length}) : std::u16string();
 }
 

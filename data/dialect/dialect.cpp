@@ -1,9 +1,9 @@
 // The translation is no parser: it looks at the tokens (sql_tokens.h) for the few forms that it
 // knows, notes edits to the text, and makes them all at once at the end. Whatever it does not
 // recognise with certainty stays unchanged, since SQLite judges the text anyway. Two properties
-// keep that safe: an edit may add nothing that changes the rows of a text that SQLite would accept,
-// and keywords are looked for outside parentheses only, so that a subquery is never mistaken for
-// the query itself.
+// keep that safe: no edit changes which rows a text yields that SQLite would accept, and keywords
+// are looked for outside parentheses only, so that a subquery is never mistaken for the query
+// itself.
 //
 // Comments are dropped from the tokens at the beginning and stay in the text. An edit after the
 // last token is therefore placed before a comment at the end.
