@@ -1,3 +1,8 @@
+// The order of the checks: first the schema, without which no table can be read; then the general
+// dictionary, which is read into memory once for all its rules and for the repeated bound step;
+// then the subject dictionaries, row by row. Every check adds what it finds and goes on, so that
+// one run names everything that is wrong.
+
 #include "dictionary/check/check.h"
 
 #include <chrono>
@@ -14,6 +19,10 @@
 namespace dictionary {
 namespace {
 
+/// Wait for programs that hold the file, as in the program itself (data::Timeouts).
+constexpr std::chrono::seconds kLockWait{1};
+
+/// All checks on an open connection. Throws data::Error if the engine cannot read on.
 CheckResult checkOpened(sqlite3* connection) {
   CheckResult result;
   if (!checkFixedTables(connection, result.findings)) return result;
@@ -31,7 +40,7 @@ CheckResult checkDatabase(const std::filesystem::path& file) {
   requireFile(file);
   try {
     const data::Connection connection =
-        data::openConnection(utf8Path(file), data::Access::kRead, std::chrono::seconds(1));
+        data::openConnection(utf8Path(file), data::Access::kRead, kLockWait);
     return checkOpened(connection.get());
   } catch (const data::Error& error) {
     throwUnreadable(file, error);

@@ -6,9 +6,15 @@
 
 namespace dictionary {
 
-/// Checks a dictionary database by every rule. The file is opened for reading only. If the fixed
-/// tables are missing or damaged, the other rules are not checked. Throws Failure if the file is
-/// not there or cannot be read.
+/// Checks a dictionary database by every rule of rules.h: the builder before it puts a file in
+/// place, and kkbuild's command "check" for any file. The rules are what the program's lookups and
+/// windows rely on; a file that breaks one may hide words or stop a window.
+///
+/// The file is opened for reading only, and may contain anything: it is read as a hostile file is
+/// (data/connection.h), and broken rules are findings, not errors. If the fixed tables are missing
+/// or damaged, the other rules are not checked. Takes some seconds and holds all headwords of the
+/// general dictionary in memory. Throws Failure if the file does not exist or the engine cannot
+/// read it.
 CheckResult checkDatabase(const std::filesystem::path& file);
 
 }  // namespace dictionary

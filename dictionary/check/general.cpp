@@ -1,3 +1,6 @@
+// Each rule is one pass over the tables in memory, in a function of its own. Reading checked only
+// the kinds of the values (general_tables.h): links and words may be anything here.
+
 #include "dictionary/check/general.h"
 
 #include <algorithm>
@@ -28,6 +31,8 @@ void checkOrder(const char* name, const HeadwordTable& table, Findings& findings
   }
 }
 
+/// Checks that each row's link leads to a row whose link leads back: then the tables hold the same
+/// pairs.
 void checkLinks(const char* name, const HeadwordTable& from, const HeadwordTable& to,
                 Findings& findings) {
   for (std::size_t row = 0; row < from.links.size(); ++row) {
@@ -41,7 +46,8 @@ void checkLinks(const char* name, const HeadwordTable& from, const HeadwordTable
   }
 }
 
-/// Checks that no two rows of one English headword link to the same Chinese headword.
+/// Checks that no two rows of one English headword link to the same Chinese headword: the pane
+/// would show it twice. Equal means equal in the text order.
 void checkDistinctPairs(const GeneralTables& tables, Findings& findings) {
   for (const HeadwordRun& run : headwordRuns(tables.edict)) {
     std::vector<std::u16string> equivalents;
@@ -60,7 +66,7 @@ void checkDistinctPairs(const GeneralTables& tables, Findings& findings) {
   }
 }
 
-/// Checks that element k of `index`, from 0, is the headword of row 100 (k + 1).
+/// Checks that element k of `index`, from 0, is the headword of the last row of block k + 1.
 void checkIndex(Rule rule, const char* name, const std::vector<std::u16string>& index,
                 const HeadwordTable& table, Findings& findings) {
   const std::size_t step = LookupLimits().blockRows;
@@ -76,7 +82,8 @@ void checkIndex(Rule rule, const char* name, const std::vector<std::u16string>& 
   }
 }
 
-/// The English bound step compares code units in lower case, not in the text order.
+/// Checks the order by which the English bound step compares: code units in lower case. For ASCII
+/// it is the text order; a headword with any other character could part them.
 void checkIndexOrder(const HeadwordTable& edict, Findings& findings) {
   for (std::size_t row = 1; row < edict.words.size(); ++row) {
     if (text::toLower(edict.words[row - 1]) > text::toLower(edict.words[row])) {
@@ -86,6 +93,8 @@ void checkIndexOrder(const HeadwordTable& edict, Findings& findings) {
   }
 }
 
+/// Checks the characters of every headword, and that its language class (user::getEorC) is that of
+/// its table: typed, it would be looked up in the other one.
 void checkHeadwordTexts(const char* name, const HeadwordTable& table, bool chinese,
                         Findings& findings) {
   for (const HeadwordRun& run : headwordRuns(table)) {
@@ -109,7 +118,8 @@ void checkText(std::u16string_view text, const std::string& place, Findings& fin
 
 void checkSearchable(std::u16string_view word, const std::string& place, Findings& findings) {
   const bool disturbing = std::ranges::any_of(word, [](char16_t unit) {
-    return unit == u'%' || unit == u'_' || (unit >= 0xD800 && unit <= 0xDFFF);
+    return unit == u'%' || unit == u'_' || text::isHighSurrogate(unit) ||
+           text::isLowSurrogate(unit);
   });
   if (disturbing) findings.add(Rule::kSearchable, place);
 }

@@ -1,7 +1,11 @@
+// The kinds of the values are checked while they are read, since afterwards they are gone: SQLite
+// stores any kind of value in any column, and converts it when it is asked for another.
+
 #include "dictionary/check/general_tables.h"
 
 #include <limits>
 
+#include "data/lookup_sql.h"
 #include "dictionary/database/row_io.h"
 #include "dictionary/source/characters.h"
 #include "text/order.h"
@@ -10,6 +14,7 @@
 namespace dictionary {
 namespace {
 
+/// The program keeps row numbers in 32 bits.
 bool fits32Bits(std::int64_t number) {
   return number >= std::numeric_limits<std::int32_t>::min() &&
          number <= std::numeric_limits<std::int32_t>::max();
@@ -49,9 +54,10 @@ HeadwordTable readHeadwords(sqlite3* connection, const std::string& name, Findin
   return table;
 }
 
+/// By the program's own query: [edictidx] has no number, so that its order is that of its words.
 std::vector<std::u16string> readEnglishIndex(sqlite3* connection, Findings& findings) {
   std::vector<std::u16string> words;
-  RowReader reader(connection, "select word from edictidx order by word");
+  RowReader reader(connection, text::toUtf8(data::kIndexQuery));
   while (reader.next()) {
     const std::string place = "[edictidx] row " + std::to_string(words.size() + 1);
     words.push_back(readText(reader, 0, place, findings));
@@ -59,6 +65,7 @@ std::vector<std::u16string> readEnglishIndex(sqlite3* connection, Findings& find
   return words;
 }
 
+/// In the order of the numbers, which are the rowids. They must count the blocks.
 std::vector<std::u16string> readChineseIndex(sqlite3* connection, Findings& findings) {
   std::vector<std::u16string> words;
   RowReader reader(connection, "select * from [cdictidx]");

@@ -9,13 +9,15 @@
 #include "dictionary/check/general_tables.h"
 #include "dictionary/check/rules.h"
 
+/// Whether lookups find every row: the program's bound step, repeated for every headword.
 namespace dictionary {
 
-/// The row numbers, from 1, that a lookup searches; both ends included.
+/// The row numbers, from 1, that a lookup searches; both ends included, as data::Bounds.
 struct RowWindow {
   std::int64_t lower = 0;
   std::int64_t upper = 0;
 
+  /// Returns whether the rows from `first` to `last` are all searched.
   [[nodiscard]] bool holds(std::int64_t first, std::int64_t last) const {
     return lower <= first && last <= upper;
   }
@@ -26,10 +28,11 @@ struct RowWindow {
 /// one that is not in order.
 class EnglishBoundStep {
  public:
-  /// `index`: the words of [edictidx].
+  /// `index`: the words of [edictidx], which are copied.
   explicit EnglishBoundStep(const std::vector<std::u16string>& index);
 
-  /// The window for a word as typed; nullopt for a word after the whole index.
+  /// Returns the window for a word as typed; nullopt for a word after the last index word, where
+  /// the program keeps the bounds of the lookup before.
   [[nodiscard]] std::optional<RowWindow> window(std::u16string_view word) const;
 
  private:
@@ -41,14 +44,15 @@ class EnglishBoundStep {
 /// The same for a Chinese lookup.
 class ChineseBoundStep {
  public:
-  /// `index`: the words of [cdictidx].
+  /// `index`: the words of [cdictidx] in the order of their numbers; copied.
   explicit ChineseBoundStep(const std::vector<std::u16string>& index);
 
+  /// Returns the window for a word as typed, which always has one.
   [[nodiscard]] RowWindow window(std::u16string_view word) const;
 
  private:
   std::vector<std::u16string> greatest_;  ///< prefix maxima of the index in the text order
-  std::vector<std::u16string> least_;     ///< suffix minima
+  std::vector<std::u16string> least_;     ///< suffix minima of the index in the text order
 };
 
 /// Repeats the bound step for every headword of both languages, typed in full, and checks that the

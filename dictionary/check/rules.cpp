@@ -1,3 +1,7 @@
+// The sentences describe the format of kk.dat, together with its schema (database/schema.h). The
+// reasons are where the rules come from: in data/headword_lookup.cpp for the lookups and their
+// numbers, in schema_check.cpp for the columns.
+
 #include "dictionary/check/rules.h"
 
 #include <algorithm>

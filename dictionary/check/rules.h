@@ -8,9 +8,11 @@
 #include <string_view>
 #include <vector>
 
+/// The rules of a dictionary database, and what a check finds.
 namespace dictionary {
 
-/// The rules that a dictionary database must keep.
+/// The rules that a dictionary database must keep; describe() says what each one is. In the order
+/// in which findings are printed: file, tables, general dictionary, lookups, subject dictionaries.
 enum class Rule : std::uint8_t {
   kUndamaged,
   kTables,
@@ -42,20 +44,22 @@ enum class Rule : std::uint8_t {
   kCount,
 };
 
-/// The rule as a sentence without a full stop.
+/// Returns the rule as a sentence without a full stop: what is the case if it is kept.
 std::string_view describe(Rule rule);
 
-/// What breaks the rules: how often each is broken, and the first examples.
+/// Breaches of the rules: how often each is broken, and the first examples. A damaged file may
+/// break one a million times, so that no more is kept.
 class Findings {
  public:
   /// Examples that are kept of each rule.
   static constexpr std::size_t kMaxExamples = 5;
 
-  /// Counts a breach of `rule`; `example` names the row or table.
+  /// Counts a breach of `rule`; `example` names the row or table in UTF-8.
   void add(Rule rule, std::string example);
 
   /// Returns whether no rule is broken.
   [[nodiscard]] bool empty() const;
+  /// Return the number of breaches of one rule, and their first examples.
   [[nodiscard]] std::size_t count(Rule rule) const { return of(rule).count; }
   [[nodiscard]] const std::vector<std::string>& examples(Rule rule) const {
     return of(rule).examples;
@@ -77,7 +81,8 @@ class Findings {
   std::array<Breaches, static_cast<std::size_t>(Rule::kCount)> breaches_;
 };
 
-/// The result of a check: the broken rules, and counts of what was read.
+/// The result of a check: the broken rules, and counts of what was read. Counts are of the rows as
+/// they are, whether or not they break a rule.
 struct CheckResult {
   Findings findings;
   std::size_t pairs = 0;  ///< rows of [edict]

@@ -1,3 +1,8 @@
+// What the program relies on: [edict], [cdict] and the index tables are read by the SQL texts of
+// data/lookup_sql.h and by "select *", so that their columns have to be these and no others. Of the
+// catalogue the program reads TableName, Cname and default by position and Isshow by name; other
+// columns may be there. Text columns need the dictionary's collation, since SQL texts name none.
+
 #include "dictionary/check/schema_check.h"
 
 #include <sqlite3.h>
@@ -14,7 +19,7 @@
 namespace dictionary {
 namespace {
 
-/// A column and its declared type: text collate lexilo, or integer.
+/// A column and its declared type: text with the dictionary's collation, or integer.
 struct Column {
   std::string_view name;
   bool isText;
@@ -47,6 +52,7 @@ constexpr std::array kTables = {Table{"edict", kEdict}, Table{"cdict", kCdict},
                                 Table{"edictidx", kEdictIdx}, Table{"cdictidx", kCdictIdx}};
 constexpr std::string_view kCatalogue = "Index";
 
+/// The declared type decides how SQLite compares and orders the column's values.
 bool hasRightType(sqlite3* connection, const std::string& table, const std::string& name,
                   bool isText) {
   const char* type = nullptr;
@@ -64,11 +70,12 @@ struct FoundColumn {
   std::string name;
 };
 
+/// Checks one column by its name and type.
 bool checkColumn(sqlite3* connection, const std::string& table, const FoundColumn& found,
                  const Column& wanted, Findings& findings) {
   std::string example = "[" + table + "] column " + std::to_string(found.index) + ", ";
   example += found.name;
-  if (sqlite3_stricmp(found.name.c_str(), std::string(wanted.name).c_str()) != 0) {
+  if (!sameName(found.name, wanted.name)) {
     example += ", should be ";
     example += wanted.name;
   } else if (!hasRightType(connection, table, found.name, wanted.isText)) {
@@ -81,6 +88,7 @@ bool checkColumn(sqlite3* connection, const std::string& table, const FoundColum
   return false;
 }
 
+/// Checks that a table has these columns in this order and no others.
 bool checkColumns(sqlite3* connection, const std::string& table, std::span<const Column> columns,
                   Findings& findings) {
   const RowReader reader(connection, "select * from [" + table + "]");
@@ -116,6 +124,9 @@ bool checkCatalogueColumns(sqlite3* connection, Findings& findings) {
          right;
 }
 
+/// quick_check reads every page and compares what the pages say about each other, but not indexes
+/// with their tables, which would take much longer. It stops after five errors, as many examples as
+/// a finding keeps.
 bool checkUndamaged(sqlite3* connection, Findings& findings) {
   bool undamaged = true;
   RowReader reader(connection, "pragma quick_check(5)");
@@ -129,10 +140,13 @@ bool checkUndamaged(sqlite3* connection, Findings& findings) {
 
 }  // namespace
 
+bool sameName(const std::string& a, std::string_view b) {
+  return sqlite3_stricmp(a.c_str(), std::string(b).c_str()) == 0;
+}
+
 int findColumn(const RowReader& reader, std::string_view name) {
-  const std::string wanted(name);
   for (int column = 0; column < reader.columnCount(); ++column) {
-    if (sqlite3_stricmp(reader.columnName(column).c_str(), wanted.c_str()) == 0) return column;
+    if (sameName(reader.columnName(column), name)) return column;
   }
   return -1;
 }
@@ -149,11 +163,9 @@ bool checkFixedTables(sqlite3* connection, Findings& findings) {
   if (!checkUndamaged(connection, findings)) return false;
   const std::vector<std::string> names = tableNames(connection);
   const auto isPresent = [&](std::string_view table) {
-    const std::string wanted(table);
-    const bool present = std::ranges::any_of(names, [&](const std::string& name) {
-      return sqlite3_stricmp(name.c_str(), wanted.c_str()) == 0;
-    });
-    if (!present) findings.add(Rule::kTables, "there is no table [" + wanted + "]");
+    const bool present =
+        std::ranges::any_of(names, [&](const std::string& name) { return sameName(name, table); });
+    if (!present) findings.add(Rule::kTables, "there is no table [" + std::string(table) + "]");
     return present;
   };
   bool right = isPresent(kCatalogue) && checkCatalogueColumns(connection, findings);

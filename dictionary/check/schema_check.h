@@ -9,13 +9,18 @@
 
 struct sqlite3;
 
-/// All functions throw data::Error if the file cannot be read.
+/// Checks of tables and columns, before any row is read. All functions that take a connection throw
+/// data::Error if the file cannot be read.
 namespace dictionary {
 
 /// The column of the catalogue that says whether a dictionary is offered. Its position is free.
 inline constexpr std::string_view kIsshowName = "Isshow";
 
-/// Index of the column called `name`, ASCII case-insensitive; -1 if there is none.
+/// Returns whether two names of tables or columns are equal as SQLite compares them: without regard
+/// to the case of ASCII letters.
+bool sameName(const std::string& a, std::string_view b);
+
+/// Returns the index of the column called `name` (see sameName); -1 if there is none.
 int findColumn(const RowReader& reader, std::string_view name);
 
 /// Checks that the file is undamaged and has the fixed tables with their columns. Returns whether
@@ -25,7 +30,7 @@ bool checkFixedTables(sqlite3* connection, Findings& findings);
 /// Checks the columns of one subject dictionary's table. Returns whether it can be read.
 bool checkSubjectTable(sqlite3* connection, const std::string& table, Findings& findings);
 
-/// Names of all tables and views in the file, in binary order.
+/// Returns the names of all tables and views in the file, in binary order.
 std::vector<std::string> tableNames(sqlite3* connection);
 
 }  // namespace dictionary

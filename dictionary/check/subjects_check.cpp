@@ -17,10 +17,10 @@
 namespace dictionary {
 namespace {
 
-/// As SQLite compares names: ASCII case-insensitive.
-bool sameName(const std::string& a, std::string_view b) {
-  return sqlite3_stricmp(a.c_str(), std::string(b).c_str()) == 0;
-}
+/// Columns of [Index] by position, as the windows read them.
+constexpr int kTableName = 1;
+constexpr int kCname = 2;
+constexpr int kDefault = 4;
 
 bool isKnown(const std::vector<std::string>& names, std::string_view name) {
   return std::ranges::any_of(names,
@@ -64,8 +64,10 @@ class Catalogue {
   std::size_t defaults_ = 0;
 };
 
+/// A table that is named wrongly or twice is not read: its name is not put into an SQL text here
+/// either.
 void Catalogue::addRow(const RowReader& reader) {
-  const std::string table(reader.text(1));
+  const std::string table(reader.text(kTableName));
   if (!isPlainName(table) || isKnown(tables_, table)) {
     findings_.add(Rule::kCatalogueTables, "table name «" + table + "»");
   } else {
@@ -75,8 +77,9 @@ void Catalogue::addRow(const RowReader& reader) {
   checkFlags(reader, table);
 }
 
+/// A name is the caption of a node in the windows' tree, which tells the dictionaries apart by it.
 void Catalogue::checkName(const RowReader& reader, const std::string& table) {
-  const std::u16string name = text::toUtf16(reader.text(2));
+  const std::u16string name = text::toUtf16(reader.text(kCname));
   const bool repeated = std::ranges::any_of(
       names_, [&](const std::u16string& other) { return text::equal(other, name); });
   if (repeated || std::ranges::none_of(name, isHan)) {
@@ -86,12 +89,15 @@ void Catalogue::checkName(const RowReader& reader, const std::string& table) {
   names_.push_back(name);
 }
 
+/// Isshow may be any number: the windows offer a dictionary if it is 1. The kinds of the values are
+/// asked for before their texts, which convert them.
 void Catalogue::checkFlags(const RowReader& reader, const std::string& table) {
-  const bool isDefault = reader.number(4) == 1;
-  if (!reader.isInteger(isshow_) || !reader.isInteger(4) || (!isDefault && reader.number(4) != 0)) {
+  const bool isDefault = reader.number(kDefault) == 1;
+  if (!reader.isInteger(isshow_) || !reader.isInteger(kDefault) ||
+      (!isDefault && reader.number(kDefault) != 0)) {
     findings_.add(Rule::kCatalogueFlags, "[" + table + "] has Isshow " +
                                              std::string(reader.text(isshow_)) + " and default " +
-                                             std::string(reader.text(4)));
+                                             std::string(reader.text(kDefault)));
   }
   if (!isDefault) return;
   ++defaults_;
@@ -105,7 +111,8 @@ void Catalogue::finish() {
   }
 }
 
-/// Checks the rows of one subject dictionary and counts them.
+/// Checks the rows of one subject dictionary and counts them. They come in the order of the primary
+/// key, so that rows in a wrong order mean a table that was declared otherwise or damaged.
 void checkRows(sqlite3* connection, const std::string& table, CheckResult& result) {
   Findings& findings = result.findings;
   std::size_t rows = 0;
