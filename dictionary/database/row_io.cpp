@@ -23,6 +23,7 @@ RowInserter& RowInserter::number(std::int64_t value) {
 }
 
 void RowInserter::insert() {
+  // Bindings stay after a reset; the next row replaces all of them.
   if (sqlite3_step(statement_.get()) != SQLITE_DONE) data::raise(connection_);
   data::check(connection_, sqlite3_reset(statement_.get()));
   bound_ = 0;
@@ -46,6 +47,7 @@ std::string RowReader::columnName(int column) const {
 }
 
 std::string_view RowReader::text(int column) const {
+  // The length after the text: it is that of the text to which the value was converted.
   const auto* bytes = sqlite3_column_text(statement_.get(), column);
   if (bytes == nullptr) return {};
   const int size = sqlite3_column_bytes(statement_.get(), column);

@@ -1,3 +1,9 @@
+// Putting in place: the journal of the former database, if a killed writer left one, must not meet
+// the new file: the engine would roll it back into it. It must not be deleted before the new file
+// is there either, or the former one would be left damaged. So it is moved aside, the new file is
+// renamed, and only then is the journal deleted; on failure it is moved back. A build that is
+// killed between the first two steps leaves the journal under its other name ("….old-journal").
+
 #include "dictionary/database/temporary_file.h"
 
 #include <array>
@@ -20,9 +26,8 @@ std::filesystem::path with(std::filesystem::path path, const char* ending) {
   throw Failure("cannot replace " + displayName(target) + ": " + error.message());
 }
 
-/// Renames the files beside the database `target` for as long as it is being replaced: a journal
-/// that a killed writer left would be rolled back into the new database. The destructor deletes
-/// them after setReplaced(), otherwise it restores their names.
+/// Renames the companions of the database `target` while it exists. The destructor deletes them
+/// after setReplaced(), otherwise it restores their names. The constructor throws Failure.
 class ScopedCompanionsAside {
  public:
   explicit ScopedCompanionsAside(const std::filesystem::path& target)
@@ -41,6 +46,7 @@ class ScopedCompanionsAside {
   void setReplaced() { replaced_ = true; }
 
  private:
+  /// Renames one companion if it exists.
   static std::error_code move(const std::filesystem::path& from, const std::filesystem::path& to,
                               const char* ending) {
     std::error_code error;

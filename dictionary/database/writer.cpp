@@ -1,3 +1,7 @@
+// The same content gives the same bytes: tables are created and filled in a fixed order, rows in
+// the order of their keys, so that pages fill one after the other; nothing is updated or deleted;
+// page size and encoding are set, not left to defaults.
+
 #include "dictionary/database/writer.h"
 
 #include <chrono>
@@ -23,7 +27,8 @@ void createEmpty(const std::filesystem::path& file) {
   if (!stream) throw Failure("cannot write " + displayName(file));
 }
 
-/// Writes [edict] or [cdict]; rows are numbered from 1.
+/// Writes [edict] or [cdict]: row number from 1, headword, row number of the equivalent in the
+/// other table.
 void writeHeadwords(sqlite3* connection, const std::string& table,
                     const std::vector<std::u16string>& words,
                     const std::vector<HeadwordRow>& rows) {
@@ -34,8 +39,8 @@ void writeHeadwords(sqlite3* connection, const std::string& table,
   }
 }
 
-/// Writes the headword of each hundredth row. [edictidx] has no number column: the lookups read it
-/// in the text order.
+/// Writes the headword of the last row of each block. [edictidx] has no number column: the program
+/// reads it in the text order and counts.
 void writeEnglishIndex(sqlite3* connection, const DatabaseContent& content) {
   const std::size_t step = LookupLimits().blockRows;
   RowInserter inserter(connection, "insert into [edictidx] values (?)");
@@ -44,7 +49,7 @@ void writeEnglishIndex(sqlite3* connection, const DatabaseContent& content) {
   }
 }
 
-/// Writes the headword of each hundredth row with the number of its block, from 1.
+/// Writes the headword of the last row of each block with the number of the block, from 1.
 void writeChineseIndex(sqlite3* connection, const DatabaseContent& content) {
   const std::size_t step = LookupLimits().blockRows;
   RowInserter inserter(connection, "insert into [cdictidx] values (?, ?)");
@@ -81,8 +86,8 @@ void writeSubjects(sqlite3* connection, const SubjectTables& subjects) {
 }
 
 void writeTables(sqlite3* connection, const DatabaseContent& content) {
-  // The bytes of the file depend on page size and encoding, which are not left to SQLite's
-  // defaults.
+  // A journal in memory: there is nothing to roll back to. Synchronous, so that a file that is
+  // renamed to the target is complete on the disk.
   for (const char* pragma : {"pragma page_size=4096", "pragma encoding='UTF-8'",
                              "pragma journal_mode=memory", "pragma synchronous=full"}) {
     data::execute(connection, pragma);
