@@ -1,3 +1,9 @@
+// The stages of a build, each of which has the whole of its result in memory before the next one
+// begins: entries are parsed one by one into pairs and subject rows (translation/, arrange/), the
+// pairs that fit are chosen (block_packing.h), the tables are written, read back and checked, and
+// the file is put in place. Nothing depends on time, locale, thread or the order of a hash table,
+// so that a build can be repeated and compared byte by byte.
+
 #include "dictionary/build.h"
 
 #include <fstream>
@@ -19,7 +25,7 @@ namespace {
 /// Bad lines that are reported one by one as they are read; the others are reported as ranges at
 /// the end, so that a source of another format does not flood the console.
 constexpr std::size_t kMaxReportedAtOnce = 20;
-/// Entries between two lines of progress.
+/// Entries between two lines of progress: every second or two.
 constexpr std::size_t kProgressStep = 200'000;
 constexpr std::size_t kMebibyte = std::size_t{1} << 20U;
 
@@ -62,6 +68,7 @@ void Builder::reportBadLine(const SourceReader& reader) {
   if (badLines_ == kMaxReportedAtOnce) log_ << "further bad lines are named when all is read\n";
 }
 
+/// By fault, in as few ranges as there are.
 void Builder::reportFurtherBadLines() {
   for (const auto& [fault, lines] : furtherBadLines_) {
     log_ << lines.text() << " skipped: " << describe(fault) << '\n';
@@ -95,6 +102,7 @@ void Builder::readSource(std::istream& stream) {
   progress_.report(grouped(entries) + " entries read");
 }
 
+/// The collectors are emptied: pairs of a full dictionary take hundreds of megabytes.
 void Builder::arrangeContent() {
   content_.vocabulary = std::move(pairs_).finish();
   content_.subjects = std::move(subjects_).finish();
@@ -115,7 +123,7 @@ void Builder::reportCost() {
 
 void publishDatabase(const DatabaseContent& content, const std::filesystem::path& target,
                      std::ostream& log, Progress& progress) {
-  const TemporaryFile temporary(target);
+  const TemporaryFile temporary(target);  // deleted at the end unless it was renamed
   writeDatabase(content, temporary.path());
   progress.report("database written");
   const CheckResult check = checkDatabase(temporary.path());

@@ -1,3 +1,7 @@
+// The command line. Each command is a call of the function that does the work (build.h, check.h,
+// word_lookup.h); here are only arguments, output and exit codes. There are no options: the number
+// of arguments decides, and a file name may begin with any character.
+
 #include "dictionary/commands.h"
 
 #include <exception>
@@ -26,7 +30,7 @@ constexpr std::string_view kUsage =
     "that cannot be read and goes on. The exit code is 0 for success, 1 if the database could not\n"
     "be built, breaks a rule or has no such word, 2 for wrong arguments.\n";
 
-/// "0.8 %".
+/// A share as "0.8 %"; "0.0 %" of nothing.
 std::string percentage(std::size_t part, std::size_t whole) {
   std::ostringstream text;
   const double share =
@@ -35,6 +39,7 @@ std::string percentage(std::size_t part, std::size_t whole) {
   return text.str();
 }
 
+/// Lists that end cut are reported, but break no rule: building without any is impossible.
 ExitCode runCheck(const std::string& file, std::ostream& out) {
   const CheckResult result = checkDatabase(pathOf(file));
   result.findings.print(out);
@@ -50,6 +55,7 @@ ExitCode runCheck(const std::string& file, std::ostream& out) {
   return result.findings.empty() ? kSuccess : kFailed;
 }
 
+/// Prints the list, an empty line and the meaning of its first headword.
 ExitCode runLookup(const std::string& file, const std::string& word, std::ostream& out,
                    std::ostream& err) {
   const LookupResult result = lookUp(pathOf(file), text::toUtf16(word));

@@ -6,16 +6,17 @@
 
 namespace dictionary {
 
-/// Exit codes of kkbuild.
+/// Exit codes of kkbuild, for scripts.
 enum ExitCode : int {
   kSuccess = 0,
-  kFailed = 1,  ///< nothing was built, a rule is broken, or nothing was found
-  kMisused = 2,
+  kFailed = 1,   ///< nothing was built, a rule is broken, or nothing was found
+  kMisused = 2,  ///< unknown command or wrong number of arguments; the usage was printed
 };
 
-/// Runs one command of kkbuild. `arguments` are in UTF-8, without the program's own name. Results
-/// go to `out`, progress and messages to `err`. A std::exception becomes a message
-/// and kFailed.
+/// Runs one command of kkbuild: build, check, lookup or --help, with the file names and the word
+/// that it takes. `arguments` are in UTF-8, without the program's own name. Results go to `out`,
+/// progress and messages to `err`, both in UTF-8. Never throws a std::exception: one becomes a
+/// message and kFailed.
 ExitCode runCommand(const std::vector<std::string>& arguments, std::ostream& out,
                     std::ostream& err);
 

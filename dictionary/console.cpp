@@ -32,6 +32,7 @@ void throwUnreadable(const std::filesystem::path& database, const data::Error& e
   throw Failure(displayName(database) + " cannot be read as a dictionary: " + error.engineText());
 }
 
+/// Not by the locale: reports are the same everywhere, for tests and comparisons.
 std::string grouped(std::size_t number) {
   const std::string digits = std::to_string(number);
   std::string text;
@@ -42,6 +43,7 @@ std::string grouped(std::size_t number) {
   return text;
 }
 
+/// Composed apart from `log_`, whose number format is left alone.
 void Progress::report(std::string_view text) {
   const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start_;
   std::ostringstream line;

@@ -1,3 +1,5 @@
+// The Windows half of console.cpp, and the only file of the builder that knows the Windows API.
+
 #include <windows.h>
 
 #include <psapi.h>
@@ -6,6 +8,7 @@
 
 namespace dictionary {
 
+// The working set is what the process has in physical memory, which is what others lack.
 std::size_t peakMemory() {
   PROCESS_MEMORY_COUNTERS counters{};
   counters.cb = sizeof(counters);
@@ -13,6 +16,8 @@ std::size_t peakMemory() {
   return known != FALSE ? counters.PeakWorkingSetSize : 0;
 }
 
+// Holds for the console, not for the process: a shell in the same console keeps it after kkbuild
+// has ended, and shows its own output in UTF-8 as well. Redirected output is UTF-8 either way.
 void useUtf8Output() { SetConsoleOutputCP(CP_UTF8); }
 
 }  // namespace dictionary

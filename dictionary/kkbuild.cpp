@@ -12,7 +12,7 @@
 
 #include "text/utf.h"
 
-// Wide arguments: narrow ones come in the ANSI code page, which cannot name every file.
+// Wide arguments: narrow ones are in the ANSI code page, which cannot spell every file name.
 int wmain(int argc, wchar_t** argv) {
   dictionary::useUtf8Output();
   std::vector<std::string> arguments;

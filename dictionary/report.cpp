@@ -9,7 +9,7 @@
 namespace dictionary {
 namespace {
 
-/// By Tier.
+/// By Tier (vocabulary.h), in the words of a report.
 constexpr std::array<std::string_view, kTierCount> kTierNames = {
     "important words, first equivalent",
     "important words, further equivalents",
@@ -23,7 +23,7 @@ constexpr std::array<std::string_view, kTierCount> kTierNames = {
     "further web equivalents",
 };
 
-/// Columns for a count; the largest has nine characters ("1,060,000").
+/// Width of the column of counts; the largest has nine characters ("1,060,000").
 constexpr int kNumberWidth = 11;
 
 void printCount(std::ostream& out, std::size_t count, std::string_view what) {
@@ -61,6 +61,8 @@ std::string LineRanges::text() const {
   return text;
 }
 
+/// Every entry is counted in one class at most, so that the classes add up. Pieces are counted with
+/// their fault, or with PieceFault::kNone, which is not printed.
 void BuildReport::addEntry(const Entry& entry, std::size_t pairs) {
   ++entries_;
   if (entry.lines.empty()) {
@@ -102,6 +104,7 @@ void BuildReport::printSource(std::ostream& out) const {
   printCount(out, emptyEntries_, "entries left out: no translation");
   printCount(out, referringEntries_, "entries that only refer to another headword");
   printCount(out, entriesWithoutPairs_, "entries left out: no equivalent could be used");
+  // From 1: 0 is PieceFault::kNone.
   for (std::size_t i = 1; i < pieces_.size(); ++i) {
     const std::string_view fault = describe(static_cast<PieceFault>(i));
     printCount(out, pieces_[i], "equivalents left out: " + std::string(fault));

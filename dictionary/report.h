@@ -13,19 +13,21 @@
 
 namespace dictionary {
 
-/// Line numbers in ascending order, stored and printed as ranges.
+/// Line numbers in ascending order, stored and printed as ranges: a source of another format may
+/// have a million bad lines in a row.
 class LineRanges {
  public:
   /// Adds a line number greater than all that were added before.
   void add(std::size_t line);
 
-  /// Number of lines added.
+  /// Returns the number of lines added.
   [[nodiscard]] std::size_t count() const { return count_; }
 
-  /// "line 7", or "lines 7-9, 12".
+  /// Returns "line 7", or "lines 7-9, 12".
   [[nodiscard]] std::string text() const;
 
  private:
+  /// Both ends included.
   struct Range {
     std::size_t first;
     std::size_t last;
@@ -35,7 +37,8 @@ class LineRanges {
   std::size_t count_ = 0;
 };
 
-/// The summary at the end of a build: what was read, kept and left out, and why.
+/// The summary at the end of a build: what was read, kept and left out, and why. Copies numbers
+/// only, so that the content need not outlive it.
 class BuildReport {
  public:
   /// Counts a line that could not be read.
@@ -48,6 +51,7 @@ class BuildReport {
   /// each pair of the vocabulary. To be called once.
   void addContent(const DatabaseContent& content, const std::vector<bool>& chosen);
 
+  /// Prints the counts in three parts: source, general dictionary, subject dictionaries.
   void print(std::ostream& out) const;
 
  private:
@@ -55,22 +59,24 @@ class BuildReport {
   void printPairs(std::ostream& out) const;
   void printSubjects(std::ostream& out) const;
 
+  // The source, counted while it is read.
   std::map<LineFault, std::size_t> badLines_;
   std::size_t badHeadwords_ = 0;
   std::size_t entries_ = 0;
-  std::size_t emptyEntries_ = 0;
-  std::size_t referringEntries_ = 0;
-  std::size_t entriesWithoutPairs_ = 0;
+  std::size_t emptyEntries_ = 0;         ///< without a line of translation
+  std::size_t referringEntries_ = 0;     ///< without pairs of their own, but with a reference
+  std::size_t entriesWithoutPairs_ = 0;  ///< all others without pairs
   std::array<std::size_t, static_cast<std::size_t>(PieceFault::kCount)> pieces_{};  ///< by fault
 
-  std::size_t pairs_ = 0;
-  std::size_t rows_ = 0;
+  // The content. English and Chinese headwords are counted before and after the choice of pairs.
+  std::size_t pairs_ = 0;  ///< gathered
+  std::size_t rows_ = 0;   ///< pairs kept
   std::size_t english_ = 0;
   std::size_t chinese_ = 0;
   std::size_t englishKept_ = 0;
   std::size_t chineseKept_ = 0;
-  std::array<std::size_t, kTierCount> gathered_{};
-  std::array<std::size_t, kTierCount> kept_{};
+  std::array<std::size_t, kTierCount> gathered_{};  ///< pairs by tier
+  std::array<std::size_t, kTierCount> kept_{};      ///< pairs by tier
   std::array<std::size_t, kSubjectCount> subjectRows_{};
 };
 

@@ -11,7 +11,7 @@
 namespace dictionary {
 namespace {
 
-/// The column "word" of all rows.
+/// Column "word" of all rows.
 std::vector<std::u16string> readHeadwords(data::RecordSet& rows) {
   std::vector<std::u16string> words;
   if (rows.empty()) return words;
@@ -27,6 +27,8 @@ void run(data::DataControl& control, const std::u16string& sql) {
   control.refresh();
 }
 
+/// The window's steps: read the index, list query, meaning query for the first headword. The index
+/// is read anew for each lookup, which the window does once.
 LookupResult lookUpIn(const std::filesystem::path& database, const user::TypedText& typed) {
   data::DataControl control;
   control.setConnectionString(u"Data Source=" + text::toUtf16(utf8Path(database)));
@@ -38,6 +40,7 @@ LookupResult lookUpIn(const std::filesystem::path& database, const user::TypedTe
   result.headwords = readHeadwords(control.recordset());
   if (result.headwords.empty()) return result;
 
+  // The language is that of the chosen headword, not of the typed text.
   std::u16string chosen = result.headwords.front();
   const std::u16string_view language = user::getEorC(chosen);
   // Deliberate: the meaning begins with the headword as it is searched, apostrophes doubled,

@@ -38,10 +38,13 @@ bool isGreek(char16_t unit) { return within(unit, 0x0370, 0x03FF); }
 bool isCyrillic(char16_t unit) { return within(unit, 0x0400, 0x04FF); }
 
 bool isLatin1Letter(char16_t unit) {
+  // Two signs, × and ÷, are among the letters.
   return within(unit, 0x00C0, 0x00FF) && unit != 0x00D7 && unit != 0x00F7;
 }
 
 bool isLatin(char16_t unit) { return isAsciiLetter(unit) || isLatin1Letter(unit); }
+
+bool isForeign(char16_t unit) { return !text::isChinese(unit); }
 
 bool isForbidden(char16_t unit) {
   return unit < 0x20 || within(unit, 0x7F, 0x9F) || unit == 0xAD ||  // controls, soft hyphen
@@ -55,6 +58,7 @@ bool isForbidden(char16_t unit) {
 }
 
 bool isSubstitute(char16_t unit) {
+  // ā to ſ, ǎ to ǜ, Ǹ and ǹ: pinyin's vowels and n with their tone marks, and what is between them.
   const bool pinyinVowel = within(unit, 0x0100, 0x017F) || within(unit, 0x01CD, 0x01DC) ||
                            unit == 0x01F8 || unit == 0x01F9;
   return isCyrillic(unit) || within(unit, 0x3105, 0x312F) || pinyinVowel ||

@@ -3,15 +3,16 @@
 #include <string_view>
 
 /// Kinds of characters in the source texts, by UTF-16 code unit. Characters beyond U+FFFF arrive as
-/// surrogates, which are forbidden: the lookups compare single code units.
+/// surrogates, which are forbidden: the lookups compare single code units. All functions are pure.
 namespace dictionary {
 
 /// Returns whether the bytes are well-formed UTF-8.
 bool isUtf8(std::string_view bytes);
 
-/// Han characters as the text order ranks them, without the compatibility ideographs.
+/// Han characters without the compatibility ideographs, which no row may hold.
 bool isHan(char16_t unit);
 
+/// ASCII letters, ASCII digits, and the blocks "Greek and Coptic" and "Cyrillic".
 bool isAsciiLetter(char16_t unit);
 bool isDigit(char16_t unit);
 bool isGreek(char16_t unit);
@@ -20,16 +21,19 @@ bool isCyrillic(char16_t unit);
 /// Letters of Latin-1 beyond ASCII.
 bool isLatin1Letter(char16_t unit);
 
-/// ASCII or Latin-1 letter.
+/// ASCII or Latin-1 letters.
 bool isLatin(char16_t unit);
+
+/// Characters of foreign words and of the marks between them: all of Latin-1.
+bool isForeign(char16_t unit);
 
 /// Characters that no row of the database may hold: controls, invisible characters, combining
 /// marks, surrogates, private use, box drawing, compatibility ideographs (they look like another
 /// character and are never found by typing that one), U+FFFD and noncharacters.
 bool isForbidden(char16_t unit);
 
-/// Characters that the source has in place of a lost Han character: Cyrillic, Bopomofo, vowels with
-/// pinyin tone marks, geometric shapes.
+/// Characters that may be in the source in place of a lost Han character: Cyrillic, Bopomofo,
+/// vowels with pinyin tone marks, geometric shapes. A Chinese text with one left is not used.
 bool isSubstitute(char16_t unit);
 
 }  // namespace dictionary

@@ -1,3 +1,7 @@
+// The order matters: entity codes are decoded first, since they may spell a blank or a bracket;
+// then line breaks, since the lines are cleaned one by one; then substitutes are restored, and
+// blanks folded last, since deleting a substitute may leave two blanks together.
+
 #include "dictionary/source/cleanup.h"
 
 #include <algorithm>
@@ -21,17 +25,20 @@ bool isBlank(char16_t unit) {
   return unit == u' ' || unit == u'\t' || unit == 0xA0 || unit == 0x3000;
 }
 
+/// Zero-width characters and direction marks, word joiner, byte order mark, soft hyphen: the source
+/// has them inside words, which would never be found.
 bool isInvisible(char16_t unit) {
   return (unit >= 0x200B && unit <= 0x200F) || unit == 0x2060 || unit == 0xFEFF || unit == 0xAD;
 }
 
-/// Printable ASCII, without what the lookups take as a wildcard, quote or escape.
+/// Printable ASCII, without what the windows' input or SQL treats as a wildcard, quote or escape.
+/// "?" is allowed inside a word: it is a wildcard of searches only, which match it as well.
 bool isHeadwordCharacter(char16_t unit) {
   constexpr std::u16string_view kUnsearchable = u"%_*\"\\";
   return unit >= 0x20 && unit < 0x7F && kUnsearchable.find(unit) == std::u16string_view::npos;
 }
 
-/// A character that the source has instead of `meant`.
+/// A character that the source has in place of `meant`.
 struct Substitute {
   char16_t character;
   std::u16string_view meant;
@@ -61,6 +68,7 @@ constexpr std::array kSubstitutes = {
     Substitute{0xE41F, u"踇"},   Substitute{0xE490, u"䏡"}, Substitute{0xE7AB, u"啰"},  // rale
 };
 
+/// A Cyrillic letter on its own is a substitute; next to another one it is a letter.
 bool insideCyrillicWord(std::u16string_view text, std::size_t position) {
   return isCyrillic(text[position]) &&
          ((position > 0 && isCyrillic(text[position - 1])) ||

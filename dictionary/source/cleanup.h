@@ -5,26 +5,28 @@
 #include <string_view>
 #include <vector>
 
+/// Cleaning of the source's texts before they are parsed. All functions are pure.
 namespace dictionary {
 
-/// The English headword of an entry as the database stores it: blanks trimmed and folded. nullopt
-/// for a word that the lookups could not find: more than 64 characters, characters other than
-/// printable ASCII, neither letter nor digit, a wildcard (% _ *), quote or backslash, a leading
-/// question mark, or markup.
+/// Returns the English headword of an entry as the database stores it: blanks trimmed and folded.
+/// Returns nullopt for a word that the lookups could not find: more than 64 characters, characters
+/// other than printable ASCII, neither letter nor digit, a wildcard (% _ *), double quote or
+/// backslash, a leading question mark, or markup.
 std::optional<std::u16string> headword(std::u16string_view word);
 
-/// The lines of a translation after cleaning: entity codes and markup decoded, blanks folded and
-/// trimmed, invisible characters deleted, known substitutes for lost Han characters restored. Empty
-/// lines and lines that name where the others were taken from are left out.
+/// Returns the lines of a translation after cleaning: entity codes and markup decoded, blanks
+/// folded and trimmed, invisible characters deleted, known substitutes for lost Han characters
+/// restored. Empty lines and lines that name the source of the others are left out.
 std::vector<std::u16string> translationLines(std::u16string_view translation);
 
-/// Trims blanks at both ends and folds runs of blanks to one space. Tabs, no-break and ideographic
-/// spaces are blanks; invisible characters (zero-width, soft hyphen, byte order mark) are deleted.
+/// Returns `text` with blanks trimmed at both ends and runs of blanks folded to one space. Tabs,
+/// no-break and ideographic spaces are blanks; invisible characters (zero-width, soft hyphen, byte
+/// order mark) are deleted.
 std::u16string foldBlanks(std::u16string_view text);
 
-/// Restores the Han characters for which the source has a substitute (a Cyrillic letter, a box
-/// drawing or private-use character) and whose meaning is certain. Cyrillic letters next to another
-/// Cyrillic letter are left alone: they belong to a Cyrillic word.
+/// Returns `text` with those Han characters restored for which the source has a substitute (a
+/// Cyrillic letter, a box drawing or private-use character) and whose meaning is certain. Cyrillic
+/// letters next to another Cyrillic letter are unchanged: they belong to a Cyrillic word.
 std::u16string restoreSubstitutes(std::u16string_view text);
 
 }  // namespace dictionary

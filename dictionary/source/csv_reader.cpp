@@ -1,3 +1,8 @@
+// A record is one line: the source writes a line break inside a field as a backslash and "n". So
+// the reader takes lines apart, not the file, and a line that is damaged costs that entry alone. A
+// line is judged before its fields are used: length, UTF-8, control characters, quotes, number of
+// fields.
+
 #include "dictionary/source/csv_reader.h"
 
 #include <algorithm>
@@ -8,16 +13,18 @@
 namespace dictionary {
 namespace {
 
-/// Longer lines are no entries, but a sign of another file format; they are not kept in memory.
+/// Longer lines are not entries, but a sign of another file format; their rest is skipped without
+/// keeping it in memory. The longest line of the source has some 12,500 bytes.
 constexpr std::size_t kMaxLineBytes = 1U << 20U;
+/// At the beginning of a file that was saved by a Windows program.
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 bool isControl(char byte) {
   return (static_cast<unsigned char>(byte) < 0x20 && byte != '\t') || byte == 0x7F;
 }
 
-/// Reads the quoted field that begins at `position` and moves `position` past its
-/// closing quote.
+/// Reads the quoted field that begins at `position` and moves `position` past its closing quote. A
+/// doubled quote is a quote of the field.
 LineFault readQuoted(std::string_view line, std::size_t& position, std::string& field) {
   for (++position; position < line.size(); ++position) {
     if (line[position] != '"') {
@@ -59,6 +66,8 @@ LineFault splitCsvLine(std::string_view line, std::vector<std::string>& fields) 
   fields.clear();
   if (!isUtf8(line)) return LineFault::kInvalidUtf8;
   if (std::ranges::any_of(line, isControl)) return LineFault::kControlCharacter;
+  // Each pass reads one field and ends at its comma or at the end of the line; a line that ends
+  // with a comma has an empty field after it.
   for (std::size_t position = 0;; ++position) {
     std::string& field = fields.emplace_back();
     if (position < line.size() && line[position] == '"') {
@@ -83,6 +92,7 @@ SourceReader::SourceReader(std::istream& stream) : stream_(stream) {
   columns_ = fields_.size();
   wordColumn_ = columnOf("word");
   translationColumn_ = columnOf("translation");
+  // Marks of learners' dictionaries, examinations' word lists, and ranks by frequency in corpora.
   for (const std::string_view name : {"collins", "oxford", "tag", "bnc", "frq"}) {
     importanceColumns_.push_back(columnOf(name));
   }
@@ -96,6 +106,8 @@ std::size_t SourceReader::columnOf(std::string_view name) const {
   return static_cast<std::size_t>(found - fields_.begin());
 }
 
+/// From the stream's buffer: std::getline would keep a line of any length. Lines end with LF or CR
+/// LF; the last one may end with the file. Returns false at its end.
 bool SourceReader::readLine() {
   line_.clear();
   fault_ = LineFault::kNone;

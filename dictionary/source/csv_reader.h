@@ -6,9 +6,10 @@
 #include <string_view>
 #include <vector>
 
+/// Reading the source, a CSV file in UTF-8 with a header line. A full one has 770,000 lines.
 namespace dictionary {
 
-/// Why a line of the source cannot be read.
+/// Reasons why a line of the source cannot be read.
 enum class LineFault {
   kNone,
   kTooLong,           ///< longer than a megabyte
@@ -19,16 +20,18 @@ enum class LineFault {
   kColumnCount,       ///< more or fewer columns than the header
 };
 
-/// A clause for reports, e.g. "a quoted field does not end".
+/// Returns a clause for reports, such as "a quoted field does not end".
 std::string_view describe(LineFault fault);
 
-/// Splits one line of comma-separated values into `fields`, which holds the fields read so far if a
-/// fault is returned. `line` has no line ending. Quoting as in RFC 4180, with two exceptions: a
-/// quote inside an unquoted field is an ordinary character, and a quoted field cannot contain a
-/// line break, so that a missing quote spoils its own line only.
+/// Splits one line of comma-separated values into `fields`, replacing what it holds, and returns
+/// kNone; otherwise a fault, with the fields before it in `fields`. `line` has no line ending.
+/// Quoting as in RFC 4180, with two exceptions: a quote inside an unquoted field is an ordinary
+/// character, and a quoted field cannot contain a line break, so that a missing quote spoils its
+/// own line only. Does not return kTooLong or kColumnCount.
 LineFault splitCsvLine(std::string_view line, std::vector<std::string>& fields);
 
-/// What the dictionary takes from one line of the source. Texts are UTF-8.
+/// The columns of one line that the dictionary uses. Texts are UTF-8, as in the source: not yet
+/// cleaned (cleanup.h).
 struct SourceEntry {
   std::string word;
   std::string translation;
@@ -37,25 +40,26 @@ struct SourceEntry {
   bool important = false;
 };
 
-/// Reads the source, a CSV file with a header line, entry by entry. A line that cannot be read is
-/// reported by its number and does not affect the others, whatever bytes it contains.
+/// Reads the source entry by entry. A line that cannot be read is reported by its number and does
+/// not affect the others, whatever bytes it contains.
 class SourceReader {
  public:
   enum class Result { kEntry, kBadLine, kEnd };
 
-  /// Reads the header, whose columns may come in any order. Keeps a reference to `stream`, which
-  /// must be open in binary mode and outlive the reader. Throws Failure if the header is missing,
-  /// cannot be read or lacks a column.
+  /// Reads the header, whose columns may be in any order; others than those used are skipped. Keeps
+  /// a reference to `stream`, which must be open in binary mode and outlive the reader. Throws
+  /// Failure if the header is missing, cannot be read or lacks a column.
   explicit SourceReader(std::istream& stream);
 
-  /// Reads the next line that is not empty.
+  /// Reads the next line that is not empty, into entry() or fault(). An error of the stream reads
+  /// as its end.
   Result next();
 
-  /// The entry of the last kEntry.
+  /// The entry of the last kEntry; overwritten by the next one.
   [[nodiscard]] const SourceEntry& entry() const { return entry_; }
   /// Number of the line read last, from 1; the header is line 1.
   [[nodiscard]] std::size_t lineNumber() const { return lineNumber_; }
-  /// Fault of the line read last.
+  /// Fault of the line read last; kNone for an entry.
   [[nodiscard]] LineFault fault() const { return fault_; }
 
  private:

@@ -1,3 +1,7 @@
+// Codes are recognised one at a time, at the position where they begin; what is no complete code
+// stays as it is. Each reader looks a bounded distance ahead or stops at the first character that
+// does not fit, so that a text of "&" takes no longer than another.
+
 #include "dictionary/source/markup.h"
 
 #include <algorithm>
@@ -6,14 +10,17 @@
 #include <cstdint>
 
 #include "dictionary/source/characters.h"
+#include "text/characters.h"
+#include "text/utf.h"
 
 namespace dictionary {
 namespace {
 
-/// U+FFFD REPLACEMENT CHARACTER: a row that contains it is left out.
-constexpr char16_t kReplacement = 0xFFFD;
-/// Length of the longest entity name that is decoded, in characters; keeps the search for the
-/// semicolon short.
+/// A row that contains it is left out: the character is lost.
+using text::kReplacement;
+
+/// Longest entity name that is decoded, in characters: "#x10FFFF" has 8. Limits the search for the
+/// semicolon.
 constexpr std::size_t kMaxEntity = 10;
 
 struct Entity {
@@ -21,6 +28,7 @@ struct Entity {
   char16_t character;
 };
 
+/// The names that HTML gives to characters which a dictionary is likely to hold.
 constexpr std::array kEntities = {
     Entity{u"amp", u'&'},     Entity{u"lt", u'<'},       Entity{u"gt", u'>'},
     Entity{u"quot", u'"'},    Entity{u"apos", u'\''},    Entity{u"nbsp", u' '},
@@ -31,15 +39,16 @@ constexpr std::array kEntities = {
     Entity{u"rdquo", 0x201D},
 };
 
+/// Value of a hexadecimal digit; -1 for any other character.
 int digitValue(char16_t unit) {
   if (isDigit(unit)) return unit - u'0';
-  const char16_t lower = unit | 0x20;
+  const char16_t lower = text::lowerAscii(unit);
   return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
 }
 
-/// Character of "#946" or "#x3B2".
+/// The character of "946" or "x3B2"; U+FFFD for a control and for one beyond U+FFFF.
 char16_t numericEntity(std::u16string_view digits) {
-  const int base = !digits.empty() && (digits[0] | 0x20) == u'x' ? 16 : 10;
+  const int base = !digits.empty() && text::lowerAscii(digits[0]) == u'x' ? 16 : 10;
   if (base == 16) digits.remove_prefix(1);
   std::int32_t code = 0;
   for (const char16_t unit : digits) {
@@ -57,9 +66,7 @@ char16_t entityCharacter(std::u16string_view name) {
   return found == kEntities.end() ? kReplacement : found->character;
 }
 
-/// Length of the entity name at the beginning of `text`, which follows a "&" and must be followed
-/// by
-/// ";"; 0 if there is none.
+/// Length of the entity name at the beginning of `text`, which follows a "&"; 0 unless ";" follows.
 std::size_t entityLength(std::u16string_view text) {
   std::size_t length = 0;
   while (length < text.size() && length < kMaxEntity &&
@@ -70,7 +77,7 @@ std::size_t entityLength(std::u16string_view text) {
   return length < text.size() && text[length] == u';' ? length : 0;
 }
 
-/// The text that a code stands for and the length of the code; 0 if there is none.
+/// A decoded code: its length in the source, 0 without one, and its text.
 struct Decoded {
   std::size_t length = 0;
   std::u16string text;
@@ -127,8 +134,9 @@ std::size_t tagLength(std::u16string_view text) {
   return plain ? end + 1 : 0;
 }
 
+/// "<br>", "<BR/>", "<br />", but not "<break>".
 bool isLineBreakTag(std::u16string_view tag) {
-  return tag.size() >= 4 && (tag[1] | 0x20) == u'b' && (tag[2] | 0x20) == u'r' &&
+  return tag.size() >= 4 && text::lowerAscii(tag[1]) == u'b' && text::lowerAscii(tag[2]) == u'r' &&
          !isAsciiLetter(tag[3]);
 }
 

@@ -3,16 +3,18 @@
 #include <string>
 #include <string_view>
 
+/// The source's markup: remnants of HTML and of the files from which it was compiled. All functions
+/// are pure, take any text, and take time proportional to its length.
 namespace dictionary {
 
-/// Decodes entity codes ("&beta;", "&#946;", "&#x3B2;") and the source's codes for subscripts,
-/// superscripts and homograph numbers ("A&-{2}" becomes "A2"). An unknown entity becomes U+FFFD,
-/// which no row may hold, and so does the number of a character that the source could not write
-/// ("<&14&>").
+/// Returns `text` with entity codes decoded ("&beta;", "&#946;", "&#x3B2;"), and the source's codes
+/// for subscripts, superscripts and homograph numbers ("A&-{2}" becomes "A2"). An unknown entity
+/// becomes U+FFFD, which no row may hold, and so does the number of a character that the source
+/// could not write ("<&14&>").
 std::u16string decodeEntities(std::u16string_view text);
 
-/// Turns every spelling of a line break ("<br />", a backslash with "n", one with "r") into a line
-/// feed and deletes other tags ("<i>").
+/// Returns `text` with every spelling of a line break ("<br />", a backslash with "n", one with
+/// "r") replaced by a line feed and other tags deleted ("<i>").
 std::u16string breakLines(std::u16string_view text);
 
 /// Returns whether decodeEntities() or breakLines() would change `text`.
