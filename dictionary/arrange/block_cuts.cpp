@@ -1,27 +1,31 @@
+// Dynamic programming over the cuts in order: for every candidate of a cut, the least loss of the
+// blocks before it is the minimum, over the candidates of the cut before, of their loss plus that
+// of the block between. Each candidate remembers which one gave its minimum, so that the cuts are
+// traced back from the last one, which is the end of the sequence. Candidates are the unit
+// boundaries near the cut's natural place, where it would be if all units used the same share of
+// their spare pairs; that keeps the time at blocks times candidates squared. Losses are integers,
+// so that every machine finds the same cuts.
+
 #include "dictionary/arrange/block_cuts.h"
 
 #include <algorithm>
 #include <limits>
-
-// Dynamic programming over the cuts in order: for every candidate of a cut, the least loss of the
-// blocks before it is the minimum, over the candidates of the cut before, of their loss plus that
-// of the block between. Candidates are the unit boundaries near the cut's natural place, where it
-// would be if all units used the same share of their spare pairs. Losses are integers, so that
-// every machine finds the same cuts.
 
 namespace dictionary {
 namespace {
 
 constexpr std::uint64_t kImpossible = std::numeric_limits<std::uint64_t>::max();
 
-/// Largest distance of a cut from its natural place at first, in rows; widened where that gives no
-/// solution.
+/// Largest distance of a cut from its natural place in the first search, in rows; widened where it
+/// gives no solution. The time grows with its square, and cuts further away lose more than they
+/// gain: their blocks deviate by as many spare pairs.
 constexpr std::size_t kReach = 40;
 
-/// The loss of a block that uses one spare pair more or less than its share. The loss grows with
-/// the square of that deviation.
+/// The loss of a block that uses one spare pair more or less than its share; a power of two, in
+/// whose fractions shares are computed. The loss grows with the square of that deviation.
 constexpr std::int64_t kUnit = 1024;
-/// Losses of a wanted pair left out, a reserve pair kept, two blocks joined.
+/// Losses of a wanted pair left out, a reserve pair kept, two blocks joined: as bad as a deviation
+/// by seven, three and twenty spare pairs.
 constexpr std::uint64_t kWantedLoss = 50 * kUnit;
 constexpr std::uint64_t kReserveLoss = 10 * kUnit;
 constexpr std::uint64_t kJoinLoss = 400 * kUnit;
@@ -30,7 +34,8 @@ std::uint64_t total(const TierCounts& counts) {
   return counts.wanted + counts.spare + counts.reserve;
 }
 
-/// One search. The counts must outlive it.
+/// One search for the cuts of least loss. The counts must outlive it. Cut i ends block i; cut 0 is
+/// the beginning of the sequence.
 class CutSearch {
  public:
   CutSearch(const PrefixCounts& counts, std::size_t blocks, std::size_t blockRows,
@@ -47,12 +52,13 @@ class CutSearch {
   std::vector<BlockCut> run(std::size_t reach);
 
  private:
-  /// Candidates for one cut: the cut may precede units first .. first + loss.size() - 1.
+  /// Candidates for one cut: the cut may precede units first to first + loss.size() - 1. The three
+  /// lists have one element for each.
   struct Candidates {
     std::size_t first = 0;
     std::vector<std::uint64_t> loss;      ///< least loss of all blocks before the cut
     std::vector<std::uint32_t> previous;  ///< candidate of the cut before that gives it
-    std::vector<std::uint8_t> joined;     ///< blocks that are one between the two cuts
+    std::vector<std::uint8_t> joined;     ///< how many blocks are one between the two cuts
   };
 
   /// Rows before a unit if every unit uses the same share of its spare pairs, times `spare_`.
@@ -91,6 +97,8 @@ CutSearch::Candidates CutSearch::candidatesAround(std::uint64_t row, std::size_t
   return candidates;
 }
 
+/// The loss of `joined` blocks that have units `first` to before `last`: kImpossible if these have
+/// fewer pairs than rows.
 std::uint64_t CutSearch::blockLoss(std::size_t first, std::size_t last, std::size_t joined) const {
   const TierCounts& before = counts_[first];
   const TierCounts& after = counts_[last];
@@ -108,13 +116,15 @@ std::uint64_t CutSearch::blockLoss(std::size_t first, std::size_t last, std::siz
   return loss + static_cast<std::uint64_t>(deviation * deviation / kUnit);
 }
 
+/// Improves the candidates of one cut by blocks that begin at those of another, `joined` cuts
+/// before. Ties keep the candidate found first.
 void CutSearch::extend(const Candidates& from, Candidates& to, std::size_t joined) const {
   for (std::size_t t = 0; t < to.loss.size(); ++t) {
     const std::size_t last = to.first + t;
     if (last <= from.first) continue;
     const std::size_t count = std::min(from.loss.size(), last - from.first);
     for (std::size_t f = 0; f < count; ++f) {
-      if (from.loss[f] >= to.loss[t]) continue;
+      if (from.loss[f] >= to.loss[t]) continue;  // losses are not negative
       const std::uint64_t loss = blockLoss(from.first + f, last, joined);
       if (loss == kImpossible || from.loss[f] + loss >= to.loss[t]) continue;
       to.loss[t] = from.loss[f] + loss;
@@ -124,6 +134,7 @@ void CutSearch::extend(const Candidates& from, Candidates& to, std::size_t joine
   }
 }
 
+/// Follows `previous` back from the end of the sequence.
 std::vector<BlockCut> CutSearch::trace(const std::vector<Candidates>& cuts) const {
   std::vector<BlockCut> chosen;
   std::size_t index = 0;
@@ -153,6 +164,7 @@ std::vector<BlockCut> CutSearch::run(std::size_t reach) {
 
 }  // namespace
 
+// Greedy: each run ends as early as it can.
 std::size_t maxBlocks(const PrefixCounts& counts, std::size_t blockRows) {
   std::size_t blocks = 0;
   std::size_t first = 0;
@@ -166,6 +178,7 @@ std::size_t maxBlocks(const PrefixCounts& counts, std::size_t blockRows) {
 
 std::vector<BlockCut> chooseCuts(const PrefixCounts& counts, std::size_t blocks,
                                  std::size_t blockRows) {
+  // Ends: with a reach of the whole sequence every division is a candidate, and there is one.
   CutSearch search(counts, blocks, blockRows, 1);
   std::vector<BlockCut> cuts;
   for (std::size_t reach = kReach; cuts.empty(); reach *= 4) cuts = search.run(reach);
@@ -174,6 +187,7 @@ std::vector<BlockCut> chooseCuts(const PrefixCounts& counts, std::size_t blocks,
 
 std::vector<BlockCut> chooseCutsJoining(const PrefixCounts& counts, std::size_t blocks,
                                         std::size_t blockRows) {
+  // A Chinese headword has up to 201 rows, so that it may cross two cuts, between three blocks.
   constexpr std::size_t kMaxJoined = 3;
   std::vector<BlockCut> cuts = CutSearch(counts, blocks, blockRows, kMaxJoined).run(kReach);
   if (cuts.empty()) cuts = {{0, 0}, {counts.size() - 1, blocks * blockRows}};

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <vector>
 
+/// Dividing one language's sequence of pairs into the blocks of its table. Knows numbers only, not
+/// words. The functions are pure.
 namespace dictionary {
 
 /// Numbers of pairs by their use: all `wanted` pairs and a part of the `spare` ones are to be kept,
@@ -24,8 +26,8 @@ struct BlockCut {
   std::size_t rows = 0;  ///< rows of all blocks before the cut
 };
 
-/// The largest number of runs of whole units with at least `blockRows` pairs each into which the
-/// sequence can be divided.
+/// Returns the largest number of runs of whole units with at least `blockRows` pairs each into
+/// which the sequence can be divided.
 std::size_t maxBlocks(const PrefixCounts& counts, std::size_t blockRows);
 
 /// Divides the sequence into `blocks` blocks of whole units with `blockRows` rows each, so that
@@ -35,8 +37,8 @@ std::size_t maxBlocks(const PrefixCounts& counts, std::size_t blockRows);
 std::vector<BlockCut> chooseCuts(const PrefixCounts& counts, std::size_t blocks,
                                  std::size_t blockRows);
 
-/// As chooseCuts(), but where no unit ends near the place of a cut, two or three blocks, and all if
-/// there is no other way, become one with as many rows. Always returns cuts.
+/// As chooseCuts(), but where no unit ends near the place of a cut, two or three blocks become one
+/// with as many rows; if that does not suffice, all of them. Always returns cuts.
 std::vector<BlockCut> chooseCutsJoining(const PrefixCounts& counts, std::size_t blocks,
                                         std::size_t blockRows);
 

@@ -1,3 +1,15 @@
+// The steps, see BlockPacker::run():
+// 1. Exclude the pairs that cannot have a row: those of a headword beyond what is reachable.
+// 2. Find how many blocks there are, and from that the spare tier: the one of which only a part is
+//    kept. More valuable tiers are wanted, less valuable ones are a reserve.
+// 3. Divide each language's sequence into blocks (block_cuts.h), and remove what a block has beyond
+//    its rows.
+// 4. A pair belongs to an English and to a Chinese block, which were cut independently. Fill both
+//    by maximum flow (max_flow.h), exchanging the spare tier first, then more and more valuable
+//    tiers for as long as rows are left.
+// 5. Fill the rows that are still left in English blocks, which have to be full; Chinese headwords
+//    may then cross a block.
+
 #include "dictionary/arrange/block_packing.h"
 
 #include <algorithm>
@@ -15,19 +27,6 @@
 #include "dictionary/arrange/max_flow.h"
 #include "dictionary/console.h"
 #include "text/order.h"
-
-// The steps, see BlockPacker::run():
-// 1. Exclude the pairs that cannot have a row: those of a headword beyond what is reachable.
-// 2. Find how many blocks there are, and from that the spare tier: the one of which only a part is
-//    kept. More valuable tiers are wanted, less valuable ones are a reserve.
-// 3. Divide each language's sequence into blocks (block_cuts.h), and remove what a block has beyond
-//    its rows.
-// 4. A pair belongs to an English and to a Chinese block, which were cut independently. Fill both
-// by
-//    maximum flow (max_flow.h), exchanging the spare tier first, then more and more valuable tiers
-//    for as long as rows are left.
-// 5. Fill the rows that are still left in English blocks, which have to be full; Chinese headwords
-//    may then cross a block.
 
 namespace dictionary {
 namespace {
@@ -116,7 +115,7 @@ class BlockPacker {
   PairSequence english_;
   PairSequence chinese_;
   std::vector<bool> excluded_;  ///< pairs that cannot have a row
-  std::vector<bool> kept_;
+  std::vector<bool> kept_;      ///< pairs that have one; the result in the end
 };
 
 /// All but the `limit` most valuable pairs of a group.
@@ -192,6 +191,7 @@ BlockPlan BlockPacker::planOf(const PairSequence& sequence, const std::vector<Bl
 }
 
 std::vector<bool> BlockPacker::run() {
+  // Chinese first: what is excluded there no longer counts for an English headword.
   excludeBeyond(chinese_, limits_.maxChineseRows);
   excludeBeyond(english_, limits_.blockRows);
   const std::size_t blocks = std::min(maxBlocks(countsOf(english_, kLastTier), limits_.blockRows),
@@ -210,6 +210,9 @@ std::vector<bool> BlockPacker::run() {
 
   MaxFlow flow(pairs_, english, chinese, kept_);
   flow.run(spare, spare, excluded_);
+  // Only the spare tier at first, so that no wanted pair is given up and no reserve pair taken
+  // where that suffices. Then all tiers from the spare one on may be added or removed, then all
+  // from the next more valuable one on, and so forth.
   for (auto first = static_cast<std::uint8_t>(spare) + 1; first-- > 0 && !flow.done();) {
     flow.run(static_cast<Tier>(first), kLastTier, excluded_);
   }

@@ -8,15 +8,15 @@
 
 namespace dictionary {
 
-/// What the lookups can reach, by the arithmetic of their bound step.
+/// What the lookups can reach, by the arithmetic of their bound step (data/lookup_sql.h). Tests
+/// choose smaller limits.
 struct LookupLimits {
-  /// Rows of a block: the rows up to a row of [edictidx] or [cdictidx], which name the headword of
-  /// each hundredth row.
+  /// Rows of a block, of which the last is named by a row of [edictidx] or [cdictidx].
   std::size_t blockRows = data::kBlockRows;
   /// Most rows of a table: where the bound step ends a Chinese search that no index row ends.
   std::size_t maxRows = data::kLastRow;
-  /// Most rows of a Chinese headword: a Chinese search reaches this far back from the last index
-  /// row that is not after the word.
+  /// Most rows of a Chinese headword: a Chinese search reaches kReachBack rows back from the last
+  /// index row that is not after the word, that row included.
   std::size_t maxChineseRows = data::kReachBack + 1;
 };
 
@@ -27,7 +27,9 @@ struct LookupLimits {
 /// - no Chinese headword has more rows than a search reaches.
 /// Of the pairs that do not fit, the least valuable are left out (see Tier). Chinese headwords may
 /// cross a block, which is avoided where it costs no valuable pair.
-/// Returns one flag for each of the vocabulary's pairs. Throws Failure if they fill no block.
+///
+/// Returns one flag for each of the vocabulary's pairs; the same ones for the same vocabulary on
+/// every machine. Throws Failure if the pairs fill no block.
 std::vector<bool> choosePairs(const Vocabulary& vocabulary, const LookupLimits& limits);
 
 }  // namespace dictionary

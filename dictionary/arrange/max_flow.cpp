@@ -1,14 +1,14 @@
-#include "dictionary/arrange/max_flow.h"
-
-#include <algorithm>
-#include <numeric>
-#include <tuple>
-
 // Dinic's algorithm: build the level graph by breadth-first search, then augment along its paths by
 // depth-first search until none is left (a blocking flow), and repeat until no sink is reached. An
 // edge is skipped for good in a phase once it has led to a dead end (nextEdge_). All capacities are
 // 1, so that a path moves one pair on each of its edges. The order of the edges, by value, decides
 // between equal solutions and so the bytes of the database: it must not depend on the machine.
+
+#include "dictionary/arrange/max_flow.h"
+
+#include <algorithm>
+#include <numeric>
+#include <tuple>
 
 namespace dictionary {
 
@@ -24,6 +24,7 @@ MaxFlow::MaxFlow(const std::vector<Pair>& pairs, const BlockPlan& english, const
   }
   englishDeficit_ =
       std::accumulate(deficit_.begin(), deficit_.begin() + firstChinese, std::size_t{0});
+  // A total order: `pair` itself decides between pairs of equal value.
   byValue_.resize(pairs.size());
   std::iota(byValue_.begin(), byValue_.end(), 0U);
   std::ranges::sort(byValue_, {}, [&](std::uint32_t pair) {
@@ -31,18 +32,20 @@ MaxFlow::MaxFlow(const std::vector<Pair>& pairs, const BlockPlan& english, const
   });
 }
 
+/// The node at the other end of a pair's edge.
 std::uint32_t MaxFlow::otherEnd(std::uint32_t node, std::uint32_t pair) const {
   if (!isEnglish(node)) return english_.blockOf[pair];
   return static_cast<std::uint32_t>(english_.rows.size()) + chinese_.blockOf[pair];
 }
 
+/// Counting sort of the usable pairs by block, which keeps their order within a block.
 MaxFlow::Edges MaxFlow::edgesOf(const BlockPlan& plan,
                                 const std::vector<std::uint32_t>& usable) const {
   Edges edges;
   edges.begin.assign(plan.rows.size() + 1, 0);
   for (const std::uint32_t pair : usable) ++edges.begin[plan.blockOf[pair] + 1];
   std::partial_sum(edges.begin.begin(), edges.begin.end(), edges.begin.begin());
-  std::vector<std::uint32_t> free = edges.begin;
+  std::vector<std::uint32_t> free = edges.begin;  // of each block, the next element to be filled
   edges.pairs.resize(usable.size());
   for (const std::uint32_t pair : usable) edges.pairs[free[plan.blockOf[pair]]++] = pair;
   return edges;
@@ -109,6 +112,7 @@ void MaxFlow::run(Tier first, Tier last, const std::vector<bool>& excluded) {
   std::ranges::reverse(usable);
   chineseEdges_ = edgesOf(chinese_, usable);
   while (englishDeficit_ > 0 && buildLevelGraph()) {
+    // A phase: every node begins with its first edge again. The lists' last elements are ends.
     nextEdge_ = englishEdges_.begin;
     nextEdge_.pop_back();
     nextEdge_.insert(nextEdge_.end(), chineseEdges_.begin.begin(), chineseEdges_.begin.end() - 1);

@@ -8,7 +8,7 @@
 
 namespace dictionary {
 
-/// The blocks of one language: which one each pair belongs to, and how many rows each has.
+/// The blocks of one language: the one to which each pair belongs, and the rows of each.
 struct BlockPlan {
   std::vector<std::uint32_t> blockOf;  ///< by pair
   std::vector<std::uint32_t> rows;     ///< by block
@@ -27,8 +27,9 @@ class MaxFlow {
   MaxFlow(const std::vector<Pair>& pairs, const BlockPlan& english, const BlockPlan& chinese,
           std::vector<bool>& kept);
 
-  /// Adds and removes pairs of tiers from `first` to `last` until no augmenting path is left. A
-  /// pair whose flag in `excluded` is set is never added.
+  /// Adds and removes pairs of tiers from `first` to `last` until no augmenting path is left. May
+  /// be called again with other tiers, and continues with the pairs kept so far. A pair whose flag
+  /// in `excluded` is set is never added.
   void run(Tier first, Tier last, const std::vector<bool>& excluded);
 
   /// Returns whether all English blocks are full. Both languages have the same number of rows, so
@@ -36,10 +37,11 @@ class MaxFlow {
   [[nodiscard]] bool done() const { return englishDeficit_ == 0; }
 
   /// Fills the English blocks with the most valuable pairs that are left, without regard to the
-  /// Chinese ones. To be called last.
+  /// Chinese ones. To be called last: the deficits of the Chinese blocks are wrong afterwards.
   void fillEnglish(const std::vector<bool>& excluded);
 
  private:
+  /// Level of a node that is not in the level graph.
   static constexpr std::uint32_t kUnreached = 0xFFFFFFFF;
 
   /// Adjacency lists of one language's blocks: those of block b are pairs[begin[b] .. begin[b +

@@ -25,7 +25,8 @@ std::u16string meaningOf(const Entry& entry, Subject subject) {
   return meaning;
 }
 
-/// Joins rows whose headwords are equal in the text order, which must follow each other.
+/// Joins rows whose headwords are equal in the text order, which must follow each other: they
+/// differ in case, and the table's primary key does not. The first spelling is kept.
 void mergeEqual(std::vector<SubjectRow>& rows) {
   std::vector<SubjectRow> merged;
   merged.reserve(rows.size());
@@ -42,8 +43,9 @@ void mergeEqual(std::vector<SubjectRow>& rows) {
 
 }  // namespace
 
-// The pairs are in the order of [edict] already. Sorting their indexes by Chinese headword gives
-// the order of [cdict], and with it both directions of every link.
+// The pairs are in the order of [edict] already, so that their indexes are its row numbers less 1.
+// Sorting these indexes by Chinese headword gives the order of [cdict], and with it both directions
+// of every link. Rows of one Chinese headword stay in the order of their English ones.
 GeneralDictionary arrange(const Vocabulary& vocabulary, const std::vector<bool>& chosen) {
   std::vector<Pair> pairs;
   for (std::size_t i = 0; i < vocabulary.pairs.size(); ++i) {
@@ -73,6 +75,7 @@ void SubjectCollector::add(const Entry& entry) {
 
 SubjectTables SubjectCollector::finish() && {
   for (std::vector<SubjectRow>& rows : tables_) {
+    // Stable: equal headwords are joined in the order of the source.
     std::ranges::stable_sort(rows, [](const SubjectRow& a, const SubjectRow& b) {
       return text::compare(a.word, b.word) < 0;
     });

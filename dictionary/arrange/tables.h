@@ -9,7 +9,8 @@
 #include "dictionary/translation/entry.h"
 #include "dictionary/translation/subjects.h"
 
-/// The rows of the database's tables before they are written.
+/// The rows of the database's tables before they are written. Words of the general dictionary are
+/// indexes into the vocabulary, since most of them are in several rows.
 namespace dictionary {
 
 /// One row of [edict] or [cdict]. Its row number is its index in the table plus 1.
@@ -24,7 +25,7 @@ struct GeneralDictionary {
   std::vector<HeadwordRow> cdict;
 };
 
-/// Makes the rows of the chosen pairs. `chosen` has one flag for each of the vocabulary's pairs.
+/// Returns the rows of the chosen pairs. `chosen` has one flag for each of the vocabulary's pairs.
 GeneralDictionary arrange(const Vocabulary& vocabulary, const std::vector<bool>& chosen);
 
 /// A row of a subject dictionary.
@@ -39,11 +40,11 @@ using SubjectTables = std::array<std::vector<SubjectRow>, kSubjectCount>;
 /// Makes the subject dictionaries: takes the entries one by one and sorts their rows in the end.
 class SubjectCollector {
  public:
-  /// Adds the entry's meaning to the dictionary of each subject that it has.
+  /// Adds the entry's meaning to the dictionary of each subject that it has. Copies the texts.
   void add(const Entry& entry);
 
-  /// Everything added, each table in the text order of its headwords, one row for each. Ends the
-  /// use of the collector.
+  /// Returns everything added, each table in the text order of its headwords, one row for each.
+  /// Ends the use of the collector.
   [[nodiscard]] SubjectTables finish() &&;
 
  private:

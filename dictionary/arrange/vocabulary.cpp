@@ -1,3 +1,13 @@
+// Rating: an entry's equivalents are listed in three kinds, ordinary ones, then names, then those
+// from the web, each in the order of the source. The tier of a pair depends on its kind, on whether
+// it is the first of its kind, whether the kind is the entry's best, and on the headword:
+// important, an inflected form, or neither. So a headword's first equivalent is given up later than
+// its others.
+//
+// Pairs hold indexes while they are collected; the words are sorted once in the end, and the
+// indexes replaced. An equivalent in several lines of an entry, or under spellings that differ in
+// case, is one pair, with the best tier and position.
+
 #include "dictionary/arrange/vocabulary.h"
 
 #include <algorithm>
@@ -10,17 +20,20 @@
 namespace dictionary {
 namespace {
 
-/// Equivalents that an entry takes over from the headword that it refers to.
+/// Equivalents that an entry takes over from the headword that it refers to: its main meanings. The
+/// headword itself has them all.
 constexpr std::size_t kMaxFollowed = 4;
 
-/// Where an equivalent comes from.
+/// Kinds of equivalents, by the subject tags of their lines.
 enum class Kind : std::uint8_t { kOrdinary, kWeb, kName };
 
+/// An equivalent that an entry offers; the word belongs to the entry.
 struct Candidate {
   const std::u16string* word;
   Kind kind;
 };
 
+/// A web tag outweighs a name's.
 Kind kindOf(SubjectSet subjects) {
   if ((subjects & setOf(Subject::kWeb)) != 0) return Kind::kWeb;
   return (subjects & kNameSubjects) != 0 ? Kind::kName : Kind::kOrdinary;
@@ -43,8 +56,8 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
   return candidates;
 }
 
-/// `first`: the entry's first equivalent of that kind; `only`: the entry has no equivalents of a
-/// kind that comes before it.
+/// The tier of an equivalent of that kind. `first`: it is the entry's first of its kind; `only`:
+/// the entry has no equivalents of a kind that comes before it.
 Tier tierOf(const Entry& entry, bool inflected, Kind kind, bool only, bool first) {
   if (entry.important && only && kind != Kind::kOrdinary) {
     return first ? Tier::kImportantFirst : Tier::kImportant;
@@ -83,6 +96,7 @@ std::vector<std::uint32_t> sortWords(std::vector<std::u16string>& words) {
 
 }  // namespace
 
+/// Adds a pair of the headword added last.
 void PairCollector::addPair(const std::u16string& chinese, Tier tier, std::size_t position) {
   const auto next = static_cast<std::uint32_t>(chinese_.size());
   const auto [place, isNew] = chineseIds_.try_emplace(chinese, next);
@@ -107,6 +121,7 @@ std::size_t PairCollector::add(const Entry& entry) {
   }
   if (candidates.empty() && !inflected) return 0;
 
+  // "apple的复数" is the only meaning of many inflected forms.
   english_.push_back(entry.headword);
   if (candidates.empty()) {
     addPair(inflectedLine->inflection, tierOf(entry, true, Kind::kOrdinary, true, true), 0);
@@ -121,6 +136,8 @@ std::size_t PairCollector::add(const Entry& entry) {
   return candidates.size();
 }
 
+/// Done in the end, since an entry may refer to one that comes after it. References to references
+/// are not followed.
 void PairCollector::followReferences() {
   std::unordered_map<std::u16string, std::vector<std::uint32_t>> meanings;
   for (const Reference& reference : references_) {
@@ -140,6 +157,7 @@ void PairCollector::followReferences() {
         const bool first = position == 0;
         const Tier tier = reference.important ? (first ? Tier::kImportantFirst : Tier::kImportant)
                                               : (first ? Tier::kFirst : Tier::kOrdinary);
+        // A copy: addPair() may grow the list that holds the word.
         addPair(std::u16string(chinese_[chinese]), tier, position++);
       }
     }
@@ -163,6 +181,7 @@ Vocabulary PairCollector::finish() && {
   const auto same = [](const Pair& a, const Pair& b) {
     return a.english == b.english && a.chinese == b.chinese;
   };
+  // Of equal pairs the first has the best tier and position.
   pairs_.erase(std::unique(pairs_.begin(), pairs_.end(), same), pairs_.end());
   return {std::move(english_), std::move(chinese_), std::move(pairs_)};
 }

@@ -8,9 +8,11 @@
 
 #include "dictionary/translation/entry.h"
 
+/// The pairs that could be rows of the general dictionary, and what each is worth.
 namespace dictionary {
 
-/// What a pair is worth where not all of them fit, the most valuable first.
+/// Value of a pair where not all of them fit, the most valuable first. "Important" words are those
+/// of SourceEntry::important; names and web equivalents are those with such a subject tag.
 enum class Tier : std::uint8_t {
   kImportantFirst,  ///< first equivalent of an important word
   kImportant,       ///< further equivalent of an important word
@@ -47,16 +49,16 @@ struct Vocabulary {
 /// Makes the vocabulary: takes the entries one by one, rates their pairs and sorts them in the end.
 class PairCollector {
  public:
-  /// Adds the entry's pairs and returns their number. An entry that has none but refers to another
-  /// headword gets the first four of that one's pairs in finish().
+  /// Adds the entry's pairs and returns their number. Copies the texts. An entry that has none but
+  /// refers to another headword gets the first four of that one's pairs in finish().
   std::size_t add(const Entry& entry);
 
-  /// Everything added, sorted; words that are equal in the text order (they differ in case only)
-  /// become one, spelled as the first. Ends the use of the collector.
+  /// Returns everything added, sorted; words that are equal in the text order (they differ in case
+  /// only) become one, spelled as the first. Ends the use of the collector.
   [[nodiscard]] Vocabulary finish() &&;
 
  private:
-  /// A headword with the same meaning as others, which are in lower case.
+  /// An entry that gives other headwords, here in lower case, as its meaning.
   struct Reference {
     std::u16string headword;
     std::vector<std::u16string> others;
@@ -66,9 +68,9 @@ class PairCollector {
   void followReferences();
   void addPair(const std::u16string& chinese, Tier tier, std::size_t position);
 
-  std::vector<std::u16string> english_;
-  std::vector<std::u16string> chinese_;
-  std::unordered_map<std::u16string, std::uint32_t> chineseIds_;
+  std::vector<std::u16string> english_;  ///< one for each entry with pairs, in their order
+  std::vector<std::u16string> chinese_;  ///< distinct, in the order of their first use
+  std::unordered_map<std::u16string, std::uint32_t> chineseIds_;  ///< indexes into chinese_
   std::vector<Pair> pairs_;
   std::vector<Reference> references_;
 };
