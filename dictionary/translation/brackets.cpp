@@ -15,6 +15,7 @@ constexpr std::u16string_view kClosing = u")）﹚]］〕】〗>〉＞";
 /// the time for a text of opening brackets proportional to its length.
 constexpr std::size_t kMaxGroup = 400;
 
+/// Where the kinds begin in kOpening and kClosing.
 constexpr std::size_t kFirstSquare = 3;
 constexpr std::size_t kFirstAngle = 8;
 
@@ -40,6 +41,7 @@ bool isRingPosition(std::u16string_view content) {
   });
 }
 
+/// "1-萘甲基" in 2-(1-萘甲基)-咪唑啉: a hyphen outside and a digit or letter inside.
 bool holdsLocant(std::u16string_view content) {
   return std::ranges::any_of(content,
                              [](char16_t unit) { return isDigit(unit) || isAsciiLetter(unit); });

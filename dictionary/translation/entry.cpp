@@ -1,3 +1,14 @@
+// The stages, from the outside in:
+// 1. An entry's translation is cleaned and divided into lines (source/cleanup.h).
+// 2. A line's head is read: part-of-speech marks, subject tags, notes (readHead).
+// 3. The rest is divided into pieces at separators outside brackets (pieces.h). A piece may have a
+//    head of its own.
+// 4. Of each piece two texts are made: a Chinese headword (equivalent.h) for the general
+// dictionary,
+//    and the text with its notes for a subject dictionary (notedText).
+// Names are a case of their own: the source announces them in a piece ("人名") or explains them in
+// the pieces that follow, so that the meaning of a piece depends on those before it (LineParser).
+
 #include "dictionary/translation/entry.h"
 
 #include <algorithm>
@@ -16,7 +27,8 @@
 namespace dictionary {
 namespace {
 
-/// Subjects whose lines use one-character brackets for optional characters, not for tags.
+/// Subjects after whose tag a line uses one-character brackets for optional characters, not for
+/// further tags.
 constexpr SubjectSet kNoShortTagsAfter = setOf(Subject::kMedicine) | setOf(Subject::kComputing);
 
 /// Length of the stray characters before a part-of-speech mark that can be skipped: "& ", a numeral
@@ -37,10 +49,10 @@ std::size_t strayLength(std::u16string_view text, bool afterNote) {
   return partOfSpeechLength(text.substr(length)) > 0 ? length : 0;
 }
 
-/// Lines of this subject enclose optional characters in the brackets of tags.
+/// Subjects whose lines do so in their pieces as well.
 constexpr SubjectSet kLongTagsOnly = setOf(Subject::kMedicine);
 
-/// A note without blanks inside its brackets; "" if it contains forbidden characters.
+/// A note without the blanks inside its brackets; "" if it contains forbidden characters.
 std::u16string cleanNote(std::u16string_view note) {
   if (std::ranges::any_of(note, isForbidden)) return {};
   std::u16string clean(note);
@@ -50,8 +62,7 @@ std::u16string cleanNote(std::u16string_view note) {
 }
 
 /// The piece as a subject dictionary shows it: notes that contain forbidden characters are left
-/// out;
-/// "" if such a character, or a substitute for a lost one, occurs outside notes.
+/// out; "" if such a character, or a substitute for a lost one, occurs outside notes.
 std::u16string notedText(std::u16string_view piece) {
   std::u16string noted;
   for (std::size_t i = 0; i < piece.size(); ++i) {
@@ -90,6 +101,8 @@ class LineParser {
   std::vector<Piece> pieces_;
 };
 
+/// The piece as a headword. After an explanation began, pieces up to the next semicolon continue
+/// it. `introduced`: the piece has a tag or note of its own, or begins the line.
 Equivalent LineParser::equivalentOf(std::u16string_view text, SubjectSet subjects,
                                     bool introduced) {
   if (explaining_) return {u"", PieceFault::kExplanation};
@@ -103,15 +116,20 @@ Equivalent LineParser::equivalentOf(std::u16string_view text, SubjectSet subject
 }
 
 void LineParser::addPiece(const RawPiece& raw, char16_t next) {
+  // The first piece has the head of the line, which pieces() has cut off already.
   const bool first = raw.separator == 0;
   const LineHead head = first ? head_ : readHead(raw.text, (head_.subjects & kLongTagsOnly) == 0);
   const std::u16string_view text = first ? raw.text : raw.text.substr(head.length);
   const std::u16string noted = head.notes + std::u16string(text);
+  // A piece that only announces names sets the subject of those after it and is not kept. Alone in
+  // its line it may be the equivalent ("人名" for "personal name").
   const bool wholeLine = first && next == u'\0' && head_.length == 0;
   if (const SubjectSet names = announcedNames(noted, wholeLine || next == u'；'); names != 0) {
     current_ |= names;
     return;
   }
+  // A semicolon ends an explanation; a tag of names replaces the line's subjects for the pieces
+  // after it too; in a list of places, every item is one.
   if (raw.separator == u'；') explaining_ = false;
   if ((head.subjects & kNameSubjects) != 0) current_ = head.subjects;
   const SubjectSet named = namedByNote(text);
@@ -134,7 +152,7 @@ std::vector<Piece> LineParser::pieces() {
   return std::move(pieces_);
 }
 
-/// The headword after an equals sign if the piece is nothing else.
+/// The headword after an equals sign if the piece is nothing else: "= groundsheet".
 std::optional<std::u16string> referenceIn(const Piece& piece) {
   if (piece.equivalent.fault != PieceFault::kNoHan) return std::nullopt;
   const std::u16string text = foldBlanks(withoutNotes(piece.noted));
@@ -164,6 +182,7 @@ LineHead readHead(std::u16string_view text, bool shortTags) {
     const std::size_t close = closingPosition(text, position);
     if (close == std::u16string_view::npos) return head;
 
+    // Square brackets enclose both tags and notes: what is not a known tag is a note.
     const std::u16string_view tag =
         text::trimBlanks(text.substr(position + 1, close - position - 1));
     const bool mayBeTag = kind == Bracket::kSquare && (shortTags || tag.size() > 1) &&
@@ -185,6 +204,7 @@ std::u16string subjectText(const TranslationLine& line, Subject subject) {
   const Piece* last = nullptr;
   for (const Piece& piece : line.pieces) {
     if ((piece.subjects & setOf(subject)) == 0 || piece.noted.empty()) continue;
+    // Pieces lie side by side in the vector: `last + 1` is the next one of the line.
     if (last != nullptr) text += last + 1 == &piece ? piece.separator : u'；';
     text += piece.noted;
     last = &piece;

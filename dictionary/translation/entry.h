@@ -10,20 +10,22 @@
 #include "dictionary/translation/equivalent.h"
 #include "dictionary/translation/subjects.h"
 
-/// Parsing a translation: an entry has lines, a line has a head and pieces.
+/// Parsing a translation: an entry has lines, a line has a head and pieces. The source's grammar is
+/// known from its texts only, so that nothing is an error: what cannot be used has a fault
+/// (PieceFault) or is left out. The functions are pure.
 namespace dictionary {
 
-/// What precedes the Chinese text of a line or piece.
+/// The marks and notes before the Chinese text of a line or piece.
 struct LineHead {
   std::size_t length = 0;     ///< of the whole head, including the blanks after it
   SubjectSet subjects = 0;    ///< of its subject tags
   std::u16string notes;       ///< its other bracketed notes, unchanged
-  bool abbreviation = false;  ///< whether it says that the word is an abbreviation
+  bool abbreviation = false;  ///< whether it marks the word as an abbreviation
 };
 
 /// Reads part-of-speech marks, subject tags and notes at the beginning of `text`, in any order and
 /// number. If `shortTags` is false, tags of one character count as notes: medical lines enclose
-/// optional characters in the same brackets.
+/// optional characters in the same brackets ("腹[部]").
 LineHead readHead(std::u16string_view text, bool shortTags);
 
 /// One of the equivalents that a line of a translation lists.
@@ -41,14 +43,14 @@ struct TranslationLine {
   std::u16string inflection;
 };
 
-/// Parses one line as translationLines() gives it: part-of-speech marks, subject tags and notes at
-/// its head, then pieces between separators. A subject tag at the head holds for the whole line, a
-/// tag of a piece for that piece.
+/// Parses one line as translationLines() returns it: part-of-speech marks, subject tags and notes
+/// at its head, then pieces between separators. A subject tag at the head applies to the whole
+/// line, a tag of a piece to that piece.
 TranslationLine parseLine(std::u16string_view line);
 
-/// The line's text for one subject: its pieces with that subject, notes included, with the
+/// Returns the line's text for one subject: its pieces with that subject, notes included, with the
 /// separators of the source between pieces that follow each other and semicolons between others.
-/// "" if there are none, or if they contain no Han character.
+/// Returns "" if there are none, or if they contain no Han character.
 std::u16string subjectText(const TranslationLine& line, Subject subject);
 
 /// A headword with its parsed translation.

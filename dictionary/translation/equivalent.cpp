@@ -1,3 +1,10 @@
+// A piece becomes a headword in two steps: headwordText() rewrites it, then findFault() refuses
+// what still cannot be a headword. Each rule is a function of its own, and the order matters: notes
+// go first, since they may contain anything; quotation marks are paired before dots are trimmed,
+// which may be outside or inside them; blanks go last, since they part the foreign words from the
+// Chinese ones. Foreign means below U+0100 (isForeign) throughout: English, digits, blanks and
+// marks.
+
 #include "dictionary/translation/equivalent.h"
 
 #include <algorithm>
@@ -6,10 +13,6 @@
 
 #include "dictionary/source/characters.h"
 #include "dictionary/translation/brackets.h"
-
-// A piece becomes a headword in two steps: headwordText() rewrites it, each rule in a function of
-// its own and in an order that matters (quotation marks are balanced before dots are trimmed, say);
-// findFault() then refuses what still cannot be a headword.
 
 namespace dictionary {
 namespace {
@@ -96,7 +99,7 @@ std::u16string withoutQuotes(std::u16string_view text) {
   const std::size_t end = text.empty() ? std::u16string_view::npos : quotationEnd(text, 0);
   if (end == std::u16string_view::npos) return std::u16string(text);
   const std::u16string_view quoted = text.substr(1, end - 2);
-  const bool foreign = std::ranges::all_of(quoted, [](char16_t unit) { return unit < 0x100; });
+  const bool foreign = std::ranges::all_of(quoted, isForeign);
   if (end != text.size() && !foreign) return std::u16string(text);
   return std::u16string(quoted) + std::u16string(text.substr(end));
 }
@@ -106,7 +109,7 @@ std::u16string withoutQuotes(std::u16string_view text) {
 std::u16string_view withoutExpansion(std::u16string_view text, bool abbreviation) {
   const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
   std::size_t length = 0;
-  while (length < text.size() && text[length] < 0x100) ++length;
+  while (length < text.size() && isForeign(text[length])) ++length;
   const std::u16string_view foreign = text.substr(0, length);
   const auto blanks = std::ranges::count(foreign, u' ');
   const bool parted = foreign.ends_with(u' ') || (abbreviation && blanks > 1);
@@ -123,7 +126,7 @@ std::u16string_view withoutExpansion(std::u16string_view text, bool abbreviation
 std::u16string_view withoutTail(std::u16string_view text) {
   const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
   std::size_t begin = text.size();
-  while (begin > 0 && text[begin - 1] < 0x100) --begin;
+  while (begin > 0 && isForeign(text[begin - 1])) --begin;
   const std::u16string_view foreign = text.substr(begin);
   const bool words = begin > 0 && isHan(text[begin - 1]) &&
                      foreign.find(u' ', 1) != std::u16string_view::npos &&
@@ -131,18 +134,22 @@ std::u16string_view withoutTail(std::u16string_view text) {
   return words ? text.substr(0, begin) : text;
 }
 
+/// Letters of all alphabets in the source, Greek included, are below it; from U+2000 on there are
+/// punctuation marks, symbols and Han characters.
+constexpr char16_t kAlphabetsEnd = 0x2000;
+
 /// Removes blanks except those between two foreign words: Chinese is written without blanks.
 std::u16string withoutChineseBlanks(std::u16string_view text) {
   std::u16string result;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool betweenForeign =
-        i > 0 && i + 1 < text.size() && text[i - 1] < 0x2000 && text[i + 1] < 0x2000;
+        i > 0 && i + 1 < text.size() && text[i - 1] < kAlphabetsEnd && text[i + 1] < kAlphabetsEnd;
     if (text[i] != u' ' || betweenForeign) result += text[i];
   }
   return result;
 }
 
-/// The text of a piece as a Chinese headword is written, whatever it is fit for.
+/// The text of a piece as a Chinese headword is written, whether or not it can be one.
 std::u16string headwordText(std::u16string_view piece, bool abbreviation) {
   const std::u16string plain = narrowed(curled(withoutNotes(piece)));
   const std::u16string bare = withoutQuotes(trimmed(plain));
@@ -151,12 +158,15 @@ std::u16string headwordText(std::u16string_view piece, bool abbreviation) {
   return withoutChineseBlanks(trimmed(chinese));
 }
 
-/// Characters of the longest Chinese headword; longer pieces are explanations.
+/// Characters of the longest Chinese headword; longer pieces are explanations. Named in describe()
+/// and in PieceFault.
 constexpr std::size_t kMaxWord = 20;
 
 /// Words that translate nothing by themselves.
 constexpr std::array kLabels = {u"人名"sv, u"的"sv, u"亦作"sv, u"又作"sv, u"略作"sv};
 
+/// Characters of headwords: Han, letters, digits, Roman numerals (U+2160 to U+217F), and marks that
+/// belong to a word.
 bool isAllowed(char16_t unit) {
   constexpr std::u16string_view kMarks = u" -./+&,·…′″°×±～“”《》℃()[]";
   return isHan(unit) || isLatin(unit) || isDigit(unit) || isGreek(unit) ||
@@ -165,7 +175,9 @@ bool isAllowed(char16_t unit) {
 
 bool hasHan(std::u16string_view text) { return std::ranges::any_of(text, isHan); }
 
-/// Returns whether `word` contains marks whose counterpart was deleted or lost.
+/// Returns whether `word` contains marks whose counterpart was deleted or lost: an unpaired bracket
+/// or quotation mark, a range without its beginning, a link without its first part; or is a suffix
+/// of English ("-ion").
 bool hasLooseEnds(std::u16string_view word) {
   constexpr std::array kPairs = {u"“”"sv, u"《》"sv, u"()"sv, u"[]"sv};
   const bool unbalanced = std::ranges::any_of(kPairs, [&](std::u16string_view pair) {
@@ -187,6 +199,8 @@ bool isReference(std::u16string_view word) {
   return elsewhere || word == u"的简写" || word == u"的缩写";
 }
 
+/// The first fault that applies, of those that a headword's text shows; kExplanation is given by
+/// the line's parser.
 PieceFault findFault(std::u16string_view word) {
   if (!hasHan(word)) return PieceFault::kNoHan;
   if (!isIntact(word)) return PieceFault::kLostCharacter;

@@ -4,9 +4,10 @@
 #include <string>
 #include <string_view>
 
+/// Chinese headwords from pieces of a translation. The functions are pure.
 namespace dictionary {
 
-/// Why a piece of a translation cannot be a Chinese headword.
+/// Reasons why a piece of a translation cannot be a Chinese headword.
 enum class PieceFault : std::uint8_t {
   kNone,
   kNoHan,          ///< contains no Han character
@@ -15,10 +16,10 @@ enum class PieceFault : std::uint8_t {
   kLostCharacter,  ///< contains a substitute for a lost character, or a forbidden one
   kLabel,          ///< names a kind of word ("人名"), or is a bare particle
   kExplanation,    ///< explains a name instead of translating it
-  kCount,
+  kCount,          ///< not a fault: the number of values
 };
 
-/// What a report calls the fault, e.g. "longer than 20 characters".
+/// Returns the fault in the words of a report, such as "longer than 20 characters".
 std::string_view describe(PieceFault fault);
 
 /// A piece of a translation as a Chinese headword; `word` is empty if there is a fault.
@@ -28,9 +29,8 @@ struct Equivalent {
 };
 
 /// Makes a Chinese headword of a piece: notes are deleted, wide forms narrowed, outer quotation
-/// marks, dots and blanks removed. Of an abbreviation, the foreign words that it stands for are
-/// removed as well; a single one only if `abbreviation` is set, which says that the line translates
-/// an abbreviation.
+/// marks, dots and blanks removed. Of an abbreviation, its expansion in foreign words is removed as
+/// well; a single word only if `abbreviation` is set: the line translates an abbreviation.
 Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation);
 
 /// Returns whether `text` contains neither forbidden characters nor substitutes for lost ones.

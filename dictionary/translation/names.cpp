@@ -13,10 +13,11 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// Words before a colon that introduce the equivalent instead of being it.
+/// Words before a colon that introduce the equivalent and are not one themselves.
 constexpr std::array kLeadIns = {u"表示"sv, u"意为"sv, u"尤指"sv,        u"指"sv,         u"即"sv,
                                  u"全名"sv, u"人名"sv, u"DOS内部命令"sv, u"DOS外部命令"sv};
 
+/// The third one is U+2236 RATIO, which the source has for a colon.
 bool isColon(char16_t unit) { return unit == u':' || unit == u'：' || unit == u'∶'; }
 
 /// Index of the colon that ends the word; npos if there is none.
@@ -44,7 +45,7 @@ constexpr std::array kExplanations = {
     u"可能"sv,   u"爱称"sv,     u"缩写形式"sv, u"职业"sv,     u"住所"sv,     u"新娘"sv,
 };
 
-/// Endings of notes that say that the piece is the name of a person.
+/// Endings of notes that mark a piece as the name of a person.
 constexpr std::array kPersonNotes = {u"人名"sv,   u"姓氏"sv, u"姓"sv,   u"男子名"sv,
                                      u"女子名"sv, u"男名"sv, u"女名"sv, u"教名"sv};
 
@@ -59,6 +60,7 @@ constexpr std::array kAnnouncements = {Announcement{u"人名", Subject::kPerson}
 /// In characters: a longer note that ends like that describes something else.
 constexpr std::size_t kMaxPlaceNote = 12;
 
+/// A note may contain more before it: "（英国姓氏）".
 bool endsLikePerson(std::u16string_view note) {
   return std::ranges::any_of(kPersonNotes,
                              [&](std::u16string_view end) { return note.ends_with(end); });
@@ -80,6 +82,7 @@ std::u16string_view leadingName(std::u16string_view piece) {
   for (const std::u16string_view explanation : kExplanations) {
     end = std::min(end, piece.find(explanation));
   }
+  // The name in its own letters follows after a blank. `end` ends the loop as well.
   for (std::size_t i = 1; i + 1 < end; ++i) {
     if (piece[i] == u' ' && isHan(piece[i - 1]) && isLatin(piece[i + 1])) end = i;
   }
@@ -102,12 +105,13 @@ SubjectSet namedByNote(std::u16string_view piece) {
   return subjects;
 }
 
-SubjectSet announcedNames(std::u16string_view piece, bool standsInFront) {
+SubjectSet announcedNames(std::u16string_view piece, bool beforeList) {
   const std::u16string word = withoutNotes(piece);
   const auto* const found = std::ranges::find(kAnnouncements, word, &Announcement::word);
   if (found == kAnnouncements.end() || !piece.ends_with(word)) return 0;
+  // "(Luang)人名": the note spells the name.
   const bool noted = word == u"人名" && piece.size() > word.size();
-  return standsInFront || noted ? setOf(found->subject) : 0;
+  return beforeList || noted ? setOf(found->subject) : 0;
 }
 
 }  // namespace dictionary

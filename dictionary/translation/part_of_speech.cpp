@@ -21,18 +21,21 @@ constexpr std::array kMarks = {
     u"symb"sv,  u"pren"sv, u"stuff"sv,
 };
 
-/// Marks that also occur without their full stop.
+/// Marks that also occur without their full stop, where they might be words or symbols:
+/// markLength() asks for more of them.
 constexpr std::array kBareMarks = {u"n"sv, u"v"sv, u"a"sv, u"vt"sv, u"vi"sv, u"adj"sv, u"adv"sv};
 
 /// Characters between the marks of one sense: "vt. & vi.".
 constexpr std::u16string_view kLinks = u"&,/，、";
 
+/// Number of blanks from `position` on.
 std::size_t blanksAt(std::u16string_view text, std::size_t position) {
   std::size_t length = 0;
   while (position + length < text.size() && text[position + length] == u' ') ++length;
   return length;
 }
 
+/// Returns whether `text` begins with a Han character, or with a bracket or mark before one.
 bool beginsChinese(std::u16string_view text) {
   return !text.empty() && (isHan(text[0]) || openingBracket(text[0]) != Bracket::kNone ||
                            text[0] == u'…' || text[0] == u'“' || text[0] == u'《');
@@ -46,6 +49,7 @@ bool isNoteThenStop(std::u16string_view text) {
   return close != std::u16string_view::npos && text.substr(close + 1).starts_with(u'.');
 }
 
+/// Number of ASCII letters at the beginning of `text`.
 std::size_t lettersAt(std::u16string_view text) {
   std::size_t letters = 0;
   while (letters < text.size() && isAsciiLetter(text[letters])) ++letters;
@@ -91,6 +95,8 @@ std::size_t markLength(std::u16string_view text) {
 
 }  // namespace
 
+// Marks are read one after the other, with links between them. A link after the last mark belongs
+// to the equivalent, and is not counted, unless it is "&".
 std::size_t partOfSpeechLength(std::u16string_view text) {
   std::size_t length = 0;
   for (std::size_t next = 0;;) {

@@ -3,14 +3,20 @@
 #include <cstddef>
 #include <string_view>
 
+/// Part-of-speech marks, which the source writes before an equivalent in many ways: "n.", "vt. &
+/// vi.", "a., n.", "adj", "n<古>.", "comb. form", "link-v.". They are deleted, since neither kind
+/// of dictionary shows them. The functions are pure.
 namespace dictionary {
 
-/// Length of the part-of-speech marks at the beginning of `text` ("n.", "vt. & vi.", "n " before
-/// Chinese text), including the blanks after them; 0 if there are none.
+/// Returns the length of the part-of-speech marks at the beginning of `text`, including the links
+/// between them and the blanks after them; 0 if there are none. A mark without its full stop counts
+/// only if it is a frequent one and is followed by a blank and Chinese text ("n 苹果"), by a note
+/// and the full stop ("n<古>."), or by a link and a mark with a full stop ("vt,vi.").
 std::size_t partOfSpeechLength(std::u16string_view text);
 
 /// Returns whether `text` begins with a mark that introduces another sense even without a separator
-/// before it: "渗透现象v.使渗透", "脱离轨道 ll n.脱离轨道" (the source has ll for Ⅱ).
+/// before it: "渗透现象v.使渗透", "脱离轨道 ll n.脱离轨道" (the source has ll for Ⅱ). Not so before
+/// 的, with which a mark is part of the text ("adv.的").
 bool beginsFurtherSense(std::u16string_view text);
 
 }  // namespace dictionary

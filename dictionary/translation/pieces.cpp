@@ -14,14 +14,14 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// What follows the base word in a note on an inflected form.
+/// The form after the base word in a note on an inflected form.
 constexpr std::array kInflections = {u"的复数"sv,     u"的过去式"sv,   u"的过去分词"sv,
                                      u"的现在分词"sv, u"的第三人称"sv, u"的比较级"sv,
                                      u"的最高级"sv};
 /// In characters: a longer note is a sentence.
 constexpr std::size_t kMaxInflection = 48;
 
-/// Characters that decide whether a part-of-speech mark follows; limits the time per comma.
+/// Characters in which a part-of-speech mark after a comma must end; limits the time per comma.
 constexpr std::size_t kMaxMark = 8;
 
 /// The wide form of a separator; 0 for any other character.
@@ -48,7 +48,9 @@ bool isLocant(char16_t unit) {
   return isDigit(unit) || isLatin(unit) || isGreek(unit) || unit == u'\'' || unit == u'′';
 }
 
-/// A comma inside a chemical name or a number: "2,4-二氯苯", "1, 4-二氮杂苯", "N,N-二甲基".
+/// Returns whether the comma is inside a chemical name or a number: "2,4-二氯苯", "1, 4-二氮杂苯",
+/// "N,N-二甲基". A letter before it and a part-of-speech mark after it are the end of one piece and
+/// the beginning of the next.
 bool joinsLocants(std::u16string_view text, std::size_t comma) {
   if ((text[comma] != u',' && text[comma] != u'，') || comma == 0) return false;
   std::size_t next = comma + 1;
@@ -59,14 +61,15 @@ bool joinsLocants(std::u16string_view text, std::size_t comma) {
   return next < text.size() && isLocant(text[comma - 1]) && isLocant(text[next]);
 }
 
-/// Returns whether another sense begins at `at` without a separator before it.
+/// Returns whether another sense begins at `at` without a separator: after a Han character, with or
+/// without a blank in between.
 bool runsIntoNextSense(std::u16string_view text, std::size_t at) {
   const std::size_t blank = at > 0 && text[at - 1] == u' ' ? 1 : 0;
   return at > blank && isHan(text[at - 1 - blank]) && beginsFurtherSense(text.substr(at));
 }
 
-/// Index after the brackets or quotation that open at `open`; npos if none do, or if they do not
-/// close.
+/// Index after the brackets or the quotation that open at `open`; npos if none open there, or if
+/// they do not close. Their content is never divided.
 std::size_t closedGroupEnd(std::u16string_view text, std::size_t open) {
   if (openingBracket(text[open]) == Bracket::kNone) return quotationEnd(text, open);
   const std::size_t close = closingPosition(text, open);
@@ -92,6 +95,7 @@ std::vector<RawPiece> splitPieces(std::u16string_view text) {
   std::size_t begin = 0;
   char16_t before = 0;
   const auto finish = [&](std::size_t end) {
+    // An empty piece is dropped; the next one has the separator nearest to it.
     const std::u16string_view piece = text::trimBlanks(text.substr(begin, end - begin));
     if (!piece.empty()) pieces.push_back({piece, before});
   };

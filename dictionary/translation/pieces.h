@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+/// Dividing a line of a translation, after its head. The functions are pure.
 namespace dictionary {
 
 /// A part of a line between two separators, blanks trimmed, never empty.
@@ -18,7 +19,8 @@ struct RawPiece {
 /// semicolon preceded it. Takes time proportional to the length. The pieces refer into `text`.
 std::vector<RawPiece> splitPieces(std::u16string_view text);
 
-/// "apple的复数" if a note in the line says that its headword is an inflected form; otherwise "".
+/// Returns "apple的复数" if a note in the line, "(apple的复数)", marks its headword as an
+/// inflected form; otherwise "".
 std::u16string inflectionNote(std::u16string_view line);
 
 }  // namespace dictionary

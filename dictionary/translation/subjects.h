@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <string_view>
 
+/// The subject dictionaries, and the tags by which the source assigns a line to them.
 namespace dictionary {
 
-/// The subject dictionaries, in the order of the catalogue.
+/// The subject dictionaries, in the order of the catalogue. The order is part of the database:
+/// another one gives other row numbers in [Index].
 enum class Subject : std::uint8_t {
   kMedicine,
   kChemistry,
@@ -52,13 +54,15 @@ struct SubjectInfo {
   std::u16string_view name;  ///< what the windows show
 };
 
-/// By Subject.
+/// By Subject: table names and captions.
 extern const std::array<SubjectInfo, kSubjectCount> kSubjectInfos;
 
-/// The dictionary that is preselected when the multi-dictionary window opens.
+/// The dictionary that is preselected when the multi-dictionary window opens, until the user
+/// chooses another default: the largest one.
 inline constexpr Subject kDefaultSubject = Subject::kMedicine;
 
-/// Subjects that a bracketed tag names ("医", "动物学"); 0 for a mark of usage or a note.
+/// Returns the subjects that a bracketed tag names ("医", "动物学"); 0 for a mark of usage or a
+/// note. `tag` is without its brackets. A tag may name several subjects.
 SubjectSet subjectsOfTag(std::u16string_view tag);
 
 }  // namespace dictionary
