@@ -33,7 +33,7 @@ struct Entry {
   std::size_t valueStart = 0;
 };
 
-/// The entry that begins at `start`, if a known key and an equals sign stand there.
+/// The entry that begins at `start`, if a known key and an equals sign are there.
 std::optional<Entry> entryAt(std::u16string_view text, std::size_t start) {
   const std::size_t equals = text.find(u'=', start);
   if (equals == std::u16string_view::npos) return std::nullopt;

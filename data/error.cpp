@@ -1,4 +1,4 @@
-// Descriptions are chosen by the engine's result code, and say what a user can do. Several codes
+// Descriptions are chosen by the engine's result code, and name what a user can do. Several codes
 // share one description where the remedy is the same, and one code has two where the cause differs
 // (SQLITE_CANTOPEN for reading and for writing; SQLITE_ERROR for a missing table and for a text
 // that the engine does not understand).

@@ -11,7 +11,7 @@ namespace data {
 
 /// A failed database operation. Its texts are UTF-8.
 ///
-/// what() is for whoever the failure is shown to. Operations on a database file that a user knows
+/// what() is the text that is shown. Operations on a database file that a user knows
 /// (Database and what uses it) describe the failure to the user, in Chinese (see failureText).
 /// Below them, and for a mistake of the calling code (SQLITE_MISUSE: a column that does not exist,
 /// no current row), it is the plain English of engineText().

@@ -1,5 +1,5 @@
-// These texts are sent as they stand: two text fragments without a blank between them ("[edict]"
-// and "where"), doubled blanks and a blank at the end are required. The dialect takes them all.
+// These texts are sent unchanged: two text fragments without a blank between them ("[edict]"
+// and "where"), doubled blanks and a blank at the end are required. The dialect accepts them all.
 // Wildcards in `word` are ordinary characters here, since no text uses LIKE; only the keys of the
 // bound step replace them.
 

@@ -30,7 +30,7 @@ inline constexpr std::int32_t kLastRow = 1'060'000;
 /// Headwords that a list shows at most: the "top" of the list queries.
 inline constexpr std::int32_t kListLength = 75;
 
-/// What takes the place of each "%" and "_" in a search key. In a lower key it is "0", which sorts
+/// Replacements of each "%" and "_" in a search key. In a lower key it is "0", which sorts
 /// before every letter and every Han character. In an upper key it is one that sorts after what may
 /// follow: λ (U+03BB) is above all of Latin-1; 做 (U+505A) is the last of the 6,763 characters of
 /// GB 2312 in the text order.
@@ -66,7 +66,7 @@ std::u16string chineseListSql(Bounds bounds, std::u16string_view word);
 std::u16string englishMeaningSql(Bounds bounds, std::u16string_view word);
 std::u16string chineseMeaningSql(Bounds bounds, std::u16string_view word);
 
-/// The rows of [cdictidx] up to the key `low`, of which the last gives the lower bound.
+/// The rows of [cdictidx] up to the key `low`, of which the last determines the lower bound.
 std::u16string indexRowsUpToSql(std::u16string_view low);
 /// The rows of [cdictidx] from `high` followed by kChineseHighSuffix on, of which the first gives
 /// the upper bound.

@@ -18,7 +18,7 @@ struct Field {
 };
 
 /// The rows of one query and a current position: a row, or the end, which is after the last row.
-/// Rows are read when they are needed (record_set.cpp says when), and no operation leaves a
+/// Rows are read when they are needed (see record_set.cpp), and no operation leaves a
 /// statement open that would lock the database. A default-constructed set has no rows.
 ///
 /// All operations throw Error: with a description for the user where the database fails, with

@@ -13,10 +13,14 @@ enum ExitCode : int {
   kMisused = 2,  ///< unknown command or wrong number of arguments; the usage was printed
 };
 
-/// Runs one command of kkbuild: build, check, lookup or --help, with the file names and the word
-/// that it takes. `arguments` are in UTF-8, without the program's own name. Results go to `out`,
-/// progress and messages to `err`, both in UTF-8. Never throws a std::exception: one becomes a
-/// message and kFailed.
+/// Runs one command of kkbuild:
+///     build SOURCE.csv OUTPUT   (build.h)
+///     check FILE                (check/check.h)
+///     lookup FILE WORD          (word_lookup.h)
+///     --help
+/// `arguments` are in UTF-8, without the program's own name. Results go to `out`, progress and
+/// messages to `err`, both in UTF-8. Never throws a std::exception: one becomes a message and
+/// kFailed.
 ExitCode runCommand(const std::vector<std::string>& arguments, std::ostream& out,
                     std::ostream& err);
 

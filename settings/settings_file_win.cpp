@@ -25,7 +25,7 @@ void freeTaskMemory(wchar_t* memory) { CoTaskMemFree(memory); }
 using TaskMemory = win32::Owned<wchar_t*, freeTaskMemory>;
 
 /// Returns whether this user can write `file`, which may not exist yet; one created for the test is
-/// deleted. Opening is the test: access rights, attributes and virus scanners all have a say.
+/// deleted. Opening is the test: access rights, attributes and virus scanners can all prevent it.
 bool canWrite(const std::u16string& file) {
   const bool existed = GetFileAttributesW(win32::wide(file)) != INVALID_FILE_ATTRIBUTES;
   {

@@ -13,7 +13,7 @@
 /// case of ASCII and Latin-1 letters. There is no escape character.
 namespace text {
 
-/// Bounds how long work may take: counts its steps and polls a stop condition after many of them.
+/// Limits the time of work: counts its steps and polls a stop condition after many of them.
 /// Not to be shared by threads.
 class StepBudget {
  public:
@@ -34,7 +34,7 @@ class StepBudget {
   [[nodiscard]] bool exhausted() const { return left_ <= 0; }
 
  private:
-  /// A step compares one character or byte: so many take 0.1 to 1 ms.
+  /// A step compares one character or byte; this number of them takes 0.1 to 1 ms.
   static constexpr std::int64_t kStepsBetweenPolls = 100'000;
 
   bool refill() {

@@ -53,8 +53,8 @@ std::u16string convertWildcard(std::u16string& text) {
 
 // Required is a search from the beginning of the text after each replacement. For the contract's
 // single characters that is quadratic and finds nothing new before the match, so that the search
-// goes on from there; it starts a little before, where a longer `search` may find a match that the
-// replacement made.
+// continues from there; it starts a little before, where a longer `search` may find a match that
+// the replacement made.
 std::u16string replaceStr(std::u16string_view source, std::u16string_view search,
                           std::u16string_view replacement) {
   std::u16string text(source);

@@ -1,6 +1,6 @@
-// UTF-8 as RFC 3629 defines it: the lead byte tells how many continuation bytes (10xxxxxx) follow.
-// Each byte of an invalid sequence reads as one U+FFFD, whatever follows, so that a text can be
-// read from any position where a unit ends without knowing what comes before.
+// UTF-8 as RFC 3629 defines it: the lead byte determines how many continuation bytes (10xxxxxx)
+// follow. Each byte of an invalid sequence reads as one U+FFFD, whatever follows, so that a text
+// can be read from any position where a unit ends without knowing what comes before.
 
 #include "text/utf.h"
 

@@ -1,6 +1,6 @@
 // The order of the checks: first the schema, without which no table can be read; then the general
 // dictionary, which is read into memory once for all its rules and for the repeated bound step;
-// then the subject dictionaries, row by row. Every check adds what it finds and goes on, so that
+// then the subject dictionaries, row by row. Every check adds what it finds and continues, so that
 // one run names everything that is wrong.
 
 #include "dictionary/check/check.h"

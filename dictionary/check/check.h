@@ -8,7 +8,10 @@ namespace dictionary {
 
 /// Checks a dictionary database by every rule of rules.h: the builder before it puts a file in
 /// place, and kkbuild's command "check" for any file. The rules are what the program's lookups and
-/// windows rely on; a file that breaks one may hide words or stop a window.
+/// windows rely on; a file that breaks one may hide words or stop a window. Without findings, every
+/// headword of the general dictionary that is typed in full is found with all its rows, and every
+/// subject dictionary can be chosen and searched. Lists that end with a headword of which not all
+/// rows are searched are counted only: a dictionary without any cannot be built.
 ///
 /// The file is opened for reading only, and may contain anything: it is read as a hostile file is
 /// (data/connection.h), and broken rules are findings, not errors. If the fixed tables are missing

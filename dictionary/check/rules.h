@@ -11,8 +11,9 @@
 /// The rules of a dictionary database, and what a check finds.
 namespace dictionary {
 
-/// The rules that a dictionary database must keep; describe() says what each one is. In the order
-/// in which findings are printed: file, tables, general dictionary, lookups, subject dictionaries.
+/// The rules that a dictionary database must keep; describe() returns what each one is. In the
+/// order in which findings are printed: file, tables, general dictionary, lookups, subject
+/// dictionaries.
 enum class Rule : std::uint8_t {
   kUndamaged,
   kTables,

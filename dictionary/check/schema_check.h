@@ -13,7 +13,7 @@ struct sqlite3;
 /// data::Error if the file cannot be read.
 namespace dictionary {
 
-/// The column of the catalogue that says whether a dictionary is offered. Its position is free.
+/// The column of the catalogue that holds whether a dictionary is offered. Its position is free.
 inline constexpr std::string_view kIsshowName = "Isshow";
 
 /// Returns whether two names of tables or columns are equal as SQLite compares them: without regard
@@ -24,7 +24,7 @@ bool sameName(const std::string& a, std::string_view b);
 int findColumn(const RowReader& reader, std::string_view name);
 
 /// Checks that the file is undamaged and has the fixed tables with their columns. Returns whether
-/// the tables can be read; otherwise the findings say why not.
+/// the tables can be read; otherwise the findings name the reasons.
 bool checkFixedTables(sqlite3* connection, Findings& findings);
 
 /// Checks the columns of one subject dictionary's table. Returns whether it can be read.

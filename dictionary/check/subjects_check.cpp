@@ -77,7 +77,7 @@ void Catalogue::addRow(const RowReader& reader) {
   checkFlags(reader, table);
 }
 
-/// A name is the caption of a node in the windows' tree, which tells the dictionaries apart by it.
+/// A name is the caption of a node in the windows' tree, by which the user knows the dictionary.
 void Catalogue::checkName(const RowReader& reader, const std::string& table) {
   const std::u16string name = text::toUtf16(reader.text(kCname));
   const bool repeated = std::ranges::any_of(

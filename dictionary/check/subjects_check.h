@@ -7,7 +7,8 @@ struct sqlite3;
 namespace dictionary {
 
 /// Checks the catalogue of subject dictionaries ([Index]), the rows of every table that it names,
-/// and that the file has no other tables.
+/// and that the file has no other tables or views. The windows show the catalogue as a tree and
+/// search the table of the chosen dictionary.
 ///
 /// Of the catalogue: each table is named once, by a name that the windows can put into an SQL text
 /// without quoting; each dictionary has a Chinese name of its own; exactly one is the default, and

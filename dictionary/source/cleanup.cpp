@@ -18,7 +18,7 @@ namespace {
 /// In characters. Longer words are sentences, which nobody looks up as a headword.
 constexpr std::size_t kMaxHeadword = 64;
 
-/// Begins a line that says where the others were taken from.
+/// Beginning of a line that names the source of the others.
 constexpr std::u16string_view kCitation = u"以上来源于";
 
 bool isBlank(char16_t unit) {

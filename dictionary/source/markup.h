@@ -4,7 +4,8 @@
 #include <string_view>
 
 /// The source's markup: remnants of HTML and of the files from which it was compiled. All functions
-/// are pure, take any text, and take time proportional to its length.
+/// are pure, take any text, and take time proportional to its length. Each makes one pass: what a
+/// decoded code and its surroundings spell is not decoded again ("&amp;lt;" becomes "&lt;").
 namespace dictionary {
 
 /// Returns `text` with entity codes decoded ("&beta;", "&#946;", "&#x3B2;"), and the source's codes
