@@ -2,6 +2,19 @@
 
 #include <utility>
 
+// A single-slot mailbox, latest wins: arming overwrites the slot (waiting_) and never queues. What
+// the arming thread sees is state_:
+//
+//     kIdle       nothing is armed, or the answer was no word
+//     kArmed      a question waits or is being worked on
+//     kAnnounced  its word is in word_, and the host was notified
+//     kFetched    disarmed after that; word_ stays for the host's message handler
+//
+// The worker cannot be interrupted while it asks a window. A question that is replaced or cancelled
+// meanwhile is therefore worked on to its end, with inWorkCounts_ cleared, and deliver drops its
+// answer. Adoption: if the same question is armed again while it is in work, inWorkCounts_ is set
+// again and its answer is for the newest arming. That ends with the first other question, which may
+// mean that the pointer left and came back over a changed window.
 namespace nhw32 {
 
 void ProbeMailbox::arm(const Question& question, WindowId host) {
@@ -21,6 +34,7 @@ std::optional<WindowId> ProbeMailbox::disarm() {
   const std::scoped_lock lock(mutex_);
   waiting_.reset();
   inWorkCounts_ = false;
+  // kFetched too becomes kIdle: the word stays for one message handler only.
   const bool announced = state_ == State::kAnnounced;
   state_ = announced ? State::kFetched : State::kIdle;
   if (!announced) word_ = {};
@@ -29,6 +43,7 @@ std::optional<WindowId> ProbeMailbox::disarm() {
 
 void ProbeMailbox::withdraw() {
   const std::scoped_lock lock(mutex_);
+  // Another question may have been armed since; its state is not to be touched.
   if (state_ != State::kFetched) return;
   state_ = State::kIdle;
   word_ = {};
@@ -65,12 +80,14 @@ void ProbeMailbox::deliver(const Answer& answer) {
   inWorkMayBeAdopted_ = false;
   if (!counts || answer.outcome != Outcome::kWord) return;
   word_ = answer.word;
+  // Under the lock, so that disarm cannot run between the notification and the state.
   state_ = announce_(host_) ? State::kAnnounced : State::kIdle;
 }
 
 void ProbeMailbox::close() {
   {
     const std::scoped_lock lock(mutex_);
+    // The question in work is left to the worker, which sees open_ only at its next take.
     open_ = false;
     waiting_.reset();
     inWorkCounts_ = false;

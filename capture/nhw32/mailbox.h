@@ -16,7 +16,7 @@ namespace nhw32 {
 /// announced to the host, once.
 ///
 /// Thread-safe. arm, disarm, withdraw, armed, word, close and reopen are for the arming thread,
-/// take and deliver for the worker. Only take blocks.
+/// take and deliver for one worker. Only take blocks.
 class ProbeMailbox {
  public:
   /// Notifies a host that a word is there; returns false if the host cannot be notified. Must not
@@ -47,6 +47,8 @@ class ProbeMailbox {
   /// Blocks until there is a question and returns it; returns nullopt once the mailbox is closed.
   /// Each question is to be followed by one call of deliver.
   std::optional<Question> take();
+  /// Delivers the answer to the question that take returned last. Announces its word if the
+  /// question is still armed; drops the answer otherwise.
   void deliver(const Answer& answer);
 
   /// Cancels everything and makes the worker's next take return nullopt.

@@ -12,7 +12,7 @@ namespace {
 /// Converts one character. Best fit: an accented letter that is missing from the code page becomes
 /// the plain one.
 std::optional<std::string> toAnsi(std::u16string_view character) {
-  std::string bytes(8, '\0');
+  std::string bytes(8, '\0');  // no code page of Windows takes more bytes for a character
   // The parameter must be null for UTF-8, which has every character.
   BOOL missing = FALSE;
   BOOL* const usedDefault = GetACP() == CP_UTF8 ? nullptr : &missing;

@@ -10,7 +10,7 @@ namespace {
 constexpr std::array<std::u16string_view, 4> kEditClasses{u"Edit", u"ThunderRT6TextBox",
                                                           u"ThunderRT5TextBox", u"ThunderTextBox"};
 
-// winerror.h, which the builds for other systems do not have.
+// As in winerror.h, which the builds for other systems do not have.
 constexpr std::uint32_t kErrorSuccess = 0;
 constexpr std::uint32_t kErrorTimeout = 1460;
 
@@ -50,10 +50,11 @@ void Backoff::note(WindowId window, Outcome outcome, Time now) {
     record = *old;
     records_.erase(old);
   }
-  // Any other outcome is an answer in time: without a record the window starts afresh.
+  // Any other outcome is an answer in time, which resets the count: no record is kept.
   if (outcome != Outcome::kOutOfTime) return;
   ++record.timeouts;
   if (record.timeouts >= kMaxTimeouts) {
+    // The delay is 0 before the third timeout, so the first one is kMinDelay.
     record.delay = std::clamp<std::chrono::seconds>(2 * record.delay, kMinDelay, kMaxDelay);
     record.until = now + record.delay;
   }
@@ -63,6 +64,7 @@ void Backoff::note(WindowId window, Outcome outcome, Time now) {
 
 Answer BackoffReader::wordAt(const Question& question) {
   if (!backoff_.mayAsk(question.window, clock_())) return {};
+  // The delay counts from the end of the question, so the time is taken anew.
   Answer answer = reader_->wordAt(question);
   backoff_.note(question.window, answer.outcome, clock_());
   return answer;

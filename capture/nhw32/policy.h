@@ -11,7 +11,7 @@
 #include "capture/nhw32/reader.h"
 
 /// Which reader is used for a window, what a failed message means, and when a window is left alone.
-/// All portable and without side effects on windows.
+/// Portable; nothing here calls a window. For the worker thread.
 namespace nhw32 {
 
 /// The kinds of reader: by the messages of edit controls, by those of rich edit controls, by UI
@@ -34,11 +34,14 @@ Outcome outcomeOfSendTimeout(std::uint32_t lastError);
 
 /// Exponential back-off for windows that do not answer in time. After kMaxTimeouts timeouts in a
 /// row a window is left alone for kMinDelay, and for twice as long after each further timeout, at
-/// most kMaxDelay. An answer in time resets the count; a refusal changes nothing. Not thread-safe.
+/// most kMaxDelay. An answer in time resets the count; a refusal changes nothing. Without it, a
+/// program that hangs for a moment at each message would be held up ten times a second while the
+/// pointer rests over it. Not thread-safe.
 class Backoff {
  public:
   using Time = std::chrono::steady_clock::time_point;
 
+  /// A few, since a program that is merely busy may miss one or two.
   static constexpr int kMaxTimeouts = 3;
   static constexpr std::chrono::seconds kMinDelay{5};
   static constexpr std::chrono::minutes kMaxDelay{5};

@@ -2,16 +2,22 @@
 
 #include <chrono>
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <string>
 
 /// What a word reader is asked and answers. Portable: a window is a number here.
+///
+/// Errors: inside a reader, a call that the window does not answer throws NoAnswer, wherever it is
+/// made. WordReader::wordAt catches it and returns its outcome; outside readers no error is thrown.
+/// std::optional is for what may be missing although the window answers: a word under the point, a
+/// line after the last one.
 namespace nhw32 {
 
-/// A point of the screen in physical pixels, as a program that is aware of every monitor's
-/// resolution sees them. Where a parameter is called a client point, the same type holds pixels of
-/// a window's client area, as the window's own program counts them.
+/// A point in physical pixels of the virtual screen, as a per-monitor DPI aware thread counts them;
+/// (0, 0) is the top left corner of the primary monitor. Pixels as another process counts them are
+/// TargetPoint and ClientPoint (controls/coordinates.h).
 struct ScreenPoint {
   int x = 0;
   int y = 0;
@@ -30,14 +36,14 @@ struct ScreenBox {
 /// A window handle as a number, so that portable code can keep and compare it. 0 is no window.
 using WindowId = std::uintptr_t;
 
-/// Which word is under `point` (physical screen pixels) in `window`?
+/// Which word is under `point` in `window`?
 struct Question {
   WindowId window = 0;
   ScreenPoint point;
   bool operator==(const Question&) const = default;
 };
 
-/// A word as the window holds it, and its rectangle in physical screen pixels.
+/// A word as the window holds it, and its rectangle.
 struct Word {
   std::u16string text;
   ScreenBox box;
@@ -57,12 +63,25 @@ struct Answer {
   Word word;  ///< only for Outcome::kWord
 };
 
+/// Thrown inside a reader if the window gives no usable answer; never leaves WordReader::wordAt.
+class NoAnswer : public std::exception {
+ public:
+  /// `outcome` is what the question ends with; not kWord.
+  explicit NoAnswer(Outcome outcome) : outcome_(outcome) {}
+  [[nodiscard]] Outcome outcome() const { return outcome_; }
+  [[nodiscard]] const char* what() const noexcept override { return "the window gives no answer"; }
+
+ private:
+  Outcome outcome_;
+};
+
 /// Reads words from windows of any program. Made, used and destroyed by one worker thread.
 class WordReader {
  public:
   virtual ~WordReader() = default;
   /// Returns the word under the question's point. Errors of the window are reported by the outcome;
-  /// the caller treats an exception as Outcome::kNone. Returns within the reader's own time limit.
+  /// the caller treats any exception, such as std::bad_alloc, as Outcome::kNone. Returns within the
+  /// reader's own time limit.
   virtual Answer wordAt(const Question& question) = 0;
 };
 

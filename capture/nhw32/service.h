@@ -15,8 +15,8 @@ namespace nhw32 {
 using ReaderFactory = std::function<std::unique_ptr<WordReader>()>;
 
 /// The service behind the operations of nhw32.h, with any reader. One worker thread reads the
-/// words; the member functions are for the thread that owns the host window, and none of them waits
-/// for the worker or for another process.
+/// words; the member functions are for the thread that owns the host window, and none of them
+/// throws or waits for the worker or for another process.
 class Service {
  public:
   /// `message` is the registered message that is posted to the host when a word was found.
@@ -29,8 +29,9 @@ class Service {
   void start();
   /// Cancels everything and lets the worker end as soon as its window has answered.
   void stop();
-  /// Asks for the word at `point` (physical screen pixels). `host` is posted the message once it
-  /// was found. Does nothing if the service is not started.
+  /// Asks for the word at `point` (physical pixels of the virtual screen). The message is posted to
+  /// `host` once the word was found. Does nothing if the service is not started, and cancels only
+  /// if no window is at the point.
   void arm(HWND host, POINT point);
   /// Cancels the question that is armed and removes its message from the host's queue. If the
   /// message was taken from the queue already, the word stays until the next arm or disarm.
@@ -42,7 +43,7 @@ class Service {
   [[nodiscard]] std::optional<Word> word() const;
 
   /// Returns the number of worker threads, including those that are to end but still wait for a
-  /// window.
+  /// window. For tests and measurements.
   [[nodiscard]] int workers() const { return *workers_; }
 
  private:
@@ -54,9 +55,9 @@ class Service {
   ReaderFactory factory_;
   UINT message_;
   std::shared_ptr<std::atomic<int>> workers_ = std::make_shared<std::atomic<int>>(0);
-  std::shared_ptr<ProbeMailbox>
-      mailbox_;                ///< shared with the worker, which may outlive us; or null
-  HWND foreground_ = nullptr;  ///< when the question was armed
+  /// Shared with the worker, which may outlive us; null until the first question.
+  std::shared_ptr<ProbeMailbox> mailbox_;
+  HWND foreground_ = nullptr;  ///< the foreground window when the question was armed
   bool started_ = false;
 };
 

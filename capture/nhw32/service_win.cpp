@@ -4,6 +4,12 @@
 #include <thread>
 #include <utility>
 
+// The arming thread and the worker share nothing but a ProbeMailbox. No window can be asked in a
+// time that is guaranteed, so nobody ever waits for the worker: stop() closes the mailbox and
+// leaves the detached thread to itself, which ends once its window has answered. If the service is
+// started again before that, the mailbox is reopened and the same worker goes on; if the worker has
+// left already, a new one is started with a mailbox of its own. The thread owns all that it uses
+// (mailbox, factory, count), since it may outlive the service.
 namespace nhw32 {
 namespace {
 
@@ -37,15 +43,16 @@ Answer answerOf(WordReader& reader, const Question& question) {
   }
 }
 
-/// The worker's thread function. Coordinates are physical pixels.
+/// The worker's thread function. Per-monitor awareness makes the coordinates that Windows returns
+/// physical pixels (ScreenPoint).
 void work(ProbeMailbox& mailbox, const ReaderFactory& factory) {
   SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
   const std::unique_ptr<WordReader> reader = factory();
   while (const auto question = mailbox.take()) mailbox.deliver(answerOf(*reader, *question));
 }
 
-/// Removes the message from the host's queue; returns whether it was there. Without dispatching
-/// messages that other threads have sent.
+/// Removes the message from the host's queue; returns whether it was there. PM_QS_POSTMESSAGE and
+/// PM_NOYIELD: a plain PeekMessage would dispatch what other threads have sent to our windows.
 bool takeBack(HWND host, UINT message) {
   MSG taken;
   return PeekMessageW(&taken, host, message, message, PM_REMOVE | PM_NOYIELD | PM_QS_POSTMESSAGE) !=
@@ -86,6 +93,7 @@ void Service::stop() {
 
 void Service::arm(HWND host, POINT point) {
   if (!started_ || !ensureWorker()) return;
+  // The earlier question may have been answered: its message must not be taken for this one's.
   disarm();
   foreground_ = GetForegroundWindow();
   const HWND target = WindowFromPoint(point);

@@ -2,6 +2,11 @@
 
 #include "text/characters.h"
 
+// Each code unit is of one kind. A word is a maximal run of Latin letters, or of Han characters; a
+// hyphen or apostrophe (a joint) belongs to a Latin word only between two of its letters, so that
+// quotes and dashes around a word are left out. The run is extended from the character under the
+// point to both sides and given up once it is too long, so that the cost does not depend on the
+// length of the text.
 namespace nhw32 {
 namespace {
 
@@ -16,7 +21,7 @@ bool isJoint(char16_t unit) {
 }
 
 /// Basic Latin, Latin-1 without its two operators, Latin Extended-A, -B and Additional, and the
-/// combining marks that a letter's accents may come as.
+/// combining diacritical marks (U+0300 to U+036F), of which decomposed letters have one or more.
 bool isLatin(char16_t unit) {
   return within(unit, u'A', u'Z') || within(unit, u'a', u'z') ||
          (within(unit, u'\u00C0', u'\u024F') && unit != u'\u00D7' && unit != u'\u00F7') ||
@@ -33,8 +38,8 @@ Kind kindAt(std::u16string_view text, std::size_t index) {
   return index < text.size() ? kindOf(text[index]) : Kind::kOther;
 }
 
-/// Whether the character at `index` belongs to a word of Latin letters. At index 0, `index - 1`
-/// wraps to SIZE_MAX, which kindAt treats as past the end.
+/// Returns whether the character at `index` belongs to a word of Latin letters. At index 0,
+/// `index - 1` wraps to SIZE_MAX, which kindAt treats as past the end; runAround relies on it too.
 bool inLatinWord(std::u16string_view text, std::size_t index) {
   const Kind kind = kindAt(text, index);
   return kind == Kind::kLatin || (kind == Kind::kJoint && kindAt(text, index - 1) == Kind::kLatin &&
@@ -60,6 +65,8 @@ bool isSurrogatePair(std::u16string_view text) {
          within(text[1], u'\xDC00', u'\xDFFF');
 }
 
+/// The code page may lack the typographic characters, and dictionaries spell words with the plain
+/// ones.
 std::u16string_view withPlainPunctuation(std::u16string_view character) {
   if (character == u"\u2019") return u"'";
   if (character == u"\u2010" || character == u"\u2011") return u"-";

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+/// What a word is, and how it is passed on in a code page. Portable; all functions are pure.
 namespace nhw32 {
 
 /// Maximum length of a word in UTF-16 code units. A longer run is data, not language.

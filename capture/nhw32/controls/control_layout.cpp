@@ -3,6 +3,7 @@
 namespace nhw32 {
 namespace {
 
+/// Appends the low `size` bytes of a number, the lowest first.
 void append(std::vector<std::byte>& bytes, std::uint64_t value, std::size_t size) {
   for (std::size_t i = 0; i < size; ++i) {
     bytes.push_back(static_cast<std::byte>(value >> (8 * i) & 0xFF));
@@ -22,7 +23,8 @@ std::vector<std::byte> textRangeBytes(Bitness bitness, std::int32_t begin, std::
 
 bool isWideText(std::span<const std::byte> written, std::size_t count) {
   constexpr std::byte kNul{0};
-  // Bytes have one NUL at their end, so that nowhere among them and behind them two stand together.
+  // ANSI text is shorter than `end` bytes and has one NUL byte, followed by kUnwritten: two NUL
+  // bytes in a row occur only as the terminator of UTF-16.
   const std::size_t end = 2 * count;
   return count > 0 && end + 1 < written.size() && written[end] == kNul && written[end + 1] == kNul;
 }

@@ -8,9 +8,10 @@
 /// How the messages of edit and rich edit controls lay out numbers and texts. Portable.
 namespace nhw32 {
 
-/// Edit controls return only the low 16 bits of positions and line numbers. Returns the least
-/// number not below `base` with these low bits; right for a position if `base` is the start of its
-/// line (of at most 65,535 characters), for a line if `base` is the first visible one.
+/// EM_CHARFROMPOS of edit controls returns only the low 16 bits of a position and a line number.
+/// Returns the least number not below `base` with these low bits. That is the true one for a
+/// position if `base` is the start of its line (of at most 65,535 characters), and for a line if
+/// `base` is the first visible one.
 constexpr std::size_t expandLow16(std::size_t base, std::uint16_t low) {
   return base + static_cast<std::uint16_t>(low - static_cast<std::uint16_t>(base));
 }

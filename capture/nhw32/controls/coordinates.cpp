@@ -2,6 +2,9 @@
 
 #include <cstdint>
 
+// Windows stretches a window of a less DPI aware process linearly, so that the window's rectangle
+// in both kinds of pixels defines the mapping. All of it is integer arithmetic rounded towards
+// minus infinity, since coordinates left of and above the primary monitor are negative.
 namespace nhw32 {
 namespace {
 
@@ -38,22 +41,24 @@ int edgeMappedUp(const Spans& spans, int value) {
                         -std::int64_t{value - spans.from} * spans.toLength, spans.fromLength));
 }
 
-Spans across(const ScreenBox& from, const ScreenBox& to) {
+template <class From, class To>
+Spans across(const From& from, const To& to) {
   return {from.left, from.right - from.left, to.left, to.right - to.left};
 }
 
-Spans down(const ScreenBox& from, const ScreenBox& to) {
+template <class From, class To>
+Spans down(const From& from, const To& to) {
   return {from.top, from.bottom - from.top, to.top, to.bottom - to.top};
 }
 
 }  // namespace
 
-ScreenPoint toTarget(const WindowScale& scale, ScreenPoint point) {
+TargetPoint toTarget(const WindowScale& scale, ScreenPoint point) {
   return {centreMapped(across(scale.onScreen, scale.forTarget), point.x),
           centreMapped(down(scale.onScreen, scale.forTarget), point.y)};
 }
 
-ScreenBox toScreen(const WindowScale& scale, const ScreenBox& box) {
+ScreenBox toScreen(const WindowScale& scale, const TargetBox& box) {
   const Spans horizontal = across(scale.forTarget, scale.onScreen);
   const Spans vertical = down(scale.forTarget, scale.onScreen);
   return {edgeMappedDown(horizontal, box.left), edgeMappedDown(vertical, box.top),

@@ -1,16 +1,26 @@
 #pragma once
 
+#include <optional>
+
 #include "capture/nhw32/reader.h"
 
+/// Reading edit and rich edit controls of any program by window messages. For the worker thread,
+/// which must be per-monitor DPI aware.
 namespace nhw32 {
 
-/// Returns the word under the question's point in an edit control of any program, read by window
-/// messages within TargetWindow::kQuestionTime. Password fields are refused. Errors are reported by
-/// the outcome. For windows of ReaderKind::kEdit that have lines (hasLines).
-Answer editWordAt(const Question& question);
+/// Returns whether a window supports EM_GETLINECOUNT as text controls do; a window whose class name
+/// merely resembles one does not. Throws NoAnswer after at most TargetWindow::kMessageTime.
+bool hasLines(WindowId window);
 
-/// The same for a rich edit control. Its messages take addresses of structures, which are therefore
-/// written into memory allocated in the control's own process.
-Answer richEditWordAt(const Question& question);
+/// Returns the word under the question's point in an edit control. Returns nullopt if there is no
+/// word, the window is hidden, a password field or does not contain the point, and if it was moved,
+/// resized or hidden meanwhile. The word's box is clipped to the client area. Throws NoAnswer after
+/// at most TargetWindow::kQuestionTime. For windows of ReaderKind::kEdit that have lines.
+std::optional<Word> editWordAt(const Question& question);
+
+/// The same for a rich edit control (ReaderKind::kRichEdit). Its messages take addresses of
+/// structures, which are therefore written into memory allocated in the control's own process; it
+/// is freed before the function returns, unless the control timed out and may still use it.
+std::optional<Word> richEditWordAt(const Question& question);
 
 }  // namespace nhw32

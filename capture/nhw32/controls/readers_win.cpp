@@ -17,34 +17,38 @@
 #include "capture/nhw32/word_text.h"
 #include "win32/win32.h"
 
-// Windows marshals the messages of edit controls across processes, those of rich edit controls not:
-// they take the address of a structure in the control's own process, so RichEditText keeps its
-// structures in RemoteMemory. Both kinds of control implement ControlText, from which wordUnder
-// computes the word and its box.
+// A question about a control takes four steps (readControl): convert the point to the target's
+// client pixels, let wordUnder find the word and its box in the control's text, check that the
+// window has not changed meanwhile, convert the box back to screen pixels.
+//
+// What the two kinds of control differ in is behind ControlText. Windows marshals the messages of
+// edit controls across processes, with the buffers that they point to. It does not marshal those of
+// rich edit controls: they take the address of a structure in the control's own process, so
+// RichEditText keeps its structures in RemoteMemory.
 namespace nhw32 {
 namespace {
 
-/// Edit controls return -1 in 32 bits for a position that does not exist.
+/// Edit controls return -1 for a position that does not exist; a 32-bit program's -1 arrives
+/// without sign extension.
 bool isNone(LRESULT answer) { return static_cast<std::int32_t>(answer) == -1; }
 
-/// The text of an edit control.
+/// The text of an edit control. Positions and lines are returned in 16 bits by some messages; see
+/// expandLow16.
 class EditText : public ControlText {
  public:
   explicit EditText(const TargetWindow& target)
       : target_(target), multiline_((target.style() & ES_MULTILINE) != 0) {}
 
-  std::size_t positionNear(ScreenPoint point) override {
+  std::optional<std::size_t> positionNear(ClientPoint point) override {
     const LRESULT packed = target_.ask(EM_CHARFROMPOS, 0, MAKELPARAM(point.x, point.y));
-    if (isNone(packed)) throw NoAnswer(Outcome::kNone);
+    if (isNone(packed)) return std::nullopt;
     // The first visible line; in a single line the first visible character.
     const std::size_t visible = number(target_.ask(EM_GETFIRSTVISIBLELINE));
     if (!multiline_) return expandLow16(visible, LOWORD(packed));
     const auto start = startOf(expandLow16(visible, HIWORD(packed)));
     // In a longer line the low 16 bits do not identify a character.
     constexpr std::size_t kMaxLine = 0xFFFF;
-    if (!start || number(target_.ask(EM_LINELENGTH, *start)) > kMaxLine) {
-      throw NoAnswer(Outcome::kNone);
-    }
+    if (!start || number(target_.ask(EM_LINELENGTH, *start)) > kMaxLine) return std::nullopt;
     return expandLow16(*start, LOWORD(packed));
   }
 
@@ -56,10 +60,10 @@ class EditText : public ControlText {
     return {{buffer.get(), buffer.get() + std::min(length, capacity - 1)}, 0};
   }
 
-  std::optional<ScreenPoint> cornerOf(std::size_t position) override {
+  std::optional<ClientPoint> cornerOf(std::size_t position) override {
     const LRESULT packed = target_.ask(EM_POSFROMCHAR, position);
     if (isNone(packed)) return std::nullopt;
-    return ScreenPoint{static_cast<std::int16_t>(LOWORD(packed)),
+    return ClientPoint{static_cast<std::int16_t>(LOWORD(packed)),
                        static_cast<std::int16_t>(HIWORD(packed))};
   }
 
@@ -112,9 +116,11 @@ class EditText : public ControlText {
   bool multiline_;
 };
 
-/// Offsets in the remote memory.
+/// Offsets in the remote memory: the structure that a message takes, of which none has more than 64
+/// bytes, and the text that EM_GETTEXTRANGE writes.
 constexpr std::size_t kStructure = 0;
 constexpr std::size_t kText = 64;
+/// Characters that textAround reads at most.
 constexpr std::size_t kMaxText = 2 * (kMaxWord + 1);
 /// In UTF-8, the widest ANSI code page, a code unit takes up to three bytes.
 constexpr std::size_t kTextSize = 3 * (kMaxText + 1);
@@ -128,7 +134,7 @@ class RichEditText : public ControlText {
   explicit RichEditText(const TargetWindow& target)
       : target_(target), memory_(target.handle(), kMemory) {}
 
-  std::size_t positionNear(ScreenPoint point) override {
+  std::optional<std::size_t> positionNear(ClientPoint point) override {
     put(POINTL{point.x, point.y});
     return number(ask(EM_CHARFROMPOS, 0, parameter()));
   }
@@ -147,14 +153,15 @@ class RichEditText : public ControlText {
     return {textOf(count), begin};
   }
 
-  std::optional<ScreenPoint> cornerOf(std::size_t position) override {
+  std::optional<ClientPoint> cornerOf(std::size_t position) override {
+    // For a position past the end, the control may leave the structure as it is.
     constexpr POINTL kUntouched{std::numeric_limits<LONG>::min(), 0};
     put(kUntouched);
     ask(EM_POSFROMCHAR, memory_.address(kStructure), static_cast<LPARAM>(position));
     POINTL corner{};
     memory_.read(kStructure, &corner, sizeof corner);
     if (corner.x == kUntouched.x) return std::nullopt;
-    return ScreenPoint{static_cast<int>(corner.x), static_cast<int>(corner.y)};
+    return ClientPoint{static_cast<int>(corner.x), static_cast<int>(corner.y)};
   }
 
   std::size_t lineOf(std::size_t position) override {
@@ -187,6 +194,7 @@ class RichEditText : public ControlText {
     }
   }
 
+  /// The length in characters, with line ends counted as positions count them.
   std::size_t length() {
     put(GETTEXTLENGTHEX{GTL_NUMCHARS | GTL_PRECISE, kUtf16});
     return number(ask(EM_GETTEXTLENGTHEX, memory_.address(kStructure), 0));
@@ -227,19 +235,41 @@ class RichEditText : public ControlText {
   RemoteMemory memory_;
 };
 
-/// Reads the word with a control's text `Text`, which is constructed from the TargetWindow.
+/// Finds the word in the control's text, which is of type `Text`. The text, and with it the memory
+/// that it may hold in the other process, lives no longer than this call.
 template <class Text>
-Answer readControl(const Question& question) {
-  return answerOfControl(question, [](const TargetWindow& target, ScreenPoint clientPoint) {
-    Text text(target);
-    return wordUnder(text, clientPoint);
-  });
+std::optional<PlacedWord> wordIn(const TargetWindow& target, ClientPoint point) {
+  Text text(target);
+  return wordUnder(text, point);
+}
+
+template <class Text>
+std::optional<Word> readControl(const Question& question) {
+  const TargetWindow target(question.window);
+  const HWND window = target.handle();
+  if (!target.visible() || target.isPassword()) return std::nullopt;
+  const WindowScale scale = scaleOf(window);
+  const ScopedTargetAwareness awareness(window);
+  const TargetPoint asked = toTarget(scale, question.point);
+  const ClientPoint point = toClient(window, asked);
+  if (!inClientArea(window, point)) return std::nullopt;
+  const auto word = wordIn<Text>(target, point);
+  // The window may have been closed, moved or resized meanwhile.
+  if (!word || !target.visible() || toClient(window, asked) != point ||
+      !inClientArea(window, point)) {
+    return std::nullopt;
+  }
+  return Word{word->text, toScreen(scale, fromClient(window, inClientArea(window, word->box)))};
 }
 
 }  // namespace
 
-Answer editWordAt(const Question& question) { return readControl<EditText>(question); }
+bool hasLines(WindowId window) { return TargetWindow(window).ask(EM_GETLINECOUNT) > 0; }
 
-Answer richEditWordAt(const Question& question) { return readControl<RichEditText>(question); }
+std::optional<Word> editWordAt(const Question& question) { return readControl<EditText>(question); }
+
+std::optional<Word> richEditWordAt(const Question& question) {
+  return readControl<RichEditText>(question);
+}
 
 }  // namespace nhw32

@@ -1,6 +1,6 @@
 #include "capture/nhw32/controls/remote_memory.h"
 
-#include "capture/nhw32/controls/target_window.h"
+#include "capture/nhw32/reader.h"
 
 namespace nhw32 {
 namespace {

@@ -3,34 +3,22 @@
 #include <windows.h>
 
 #include <chrono>
-#include <exception>
-#include <functional>
 #include <optional>
-#include <string>
 
 #include "capture/nhw32/controls/coordinates.h"
-#include "capture/nhw32/controls/text_geometry.h"
 #include "capture/nhw32/reader.h"
 
+/// A window of another process as the readers of controls see it: its messages and its coordinates.
+/// For the worker thread. Functions on a window that has gone return what Windows returns for an
+/// invalid handle, unless they say that they throw.
 namespace nhw32 {
 
-/// Thrown if a window gives no usable answer. Never leaves a reader.
-class NoAnswer : public std::exception {
- public:
-  explicit NoAnswer(Outcome outcome) : outcome_(outcome) {}
-  [[nodiscard]] Outcome outcome() const { return outcome_; }
-  [[nodiscard]] const char* what() const noexcept override { return "the window gives no answer"; }
-
- private:
-  Outcome outcome_;
-};
-
 /// A window of any process that is asked by messages, within a time limit that starts when this
-/// object is made. Used by the worker thread.
+/// object is made.
 class TargetWindow {
  public:
-  /// Maximum time of one message, and of all messages together. The message of hasLines is sent by
-  /// an object of its own and has its own time.
+  /// Maximum time of one message, and of all messages of this object together. Probes come every
+  /// 100 ms: a window that does not answer delays the next one hardly longer than that.
   static constexpr std::chrono::milliseconds kMessageTime{50};
   static constexpr std::chrono::milliseconds kQuestionTime{150};
 
@@ -42,28 +30,20 @@ class TargetWindow {
   /// Returns whether the window belongs to our own process.
   [[nodiscard]] bool isOurs() const;
 
-  /// Sends a message and returns its result. Throws NoAnswer if the window is hung, has gone, is
-  /// protected from us (UIPI) or does not answer in time.
+  /// Sends a message and returns its result. Throws NoAnswer(kOutOfTime) if the window is hung or
+  /// does not answer in time, NoAnswer(kRefused) if it has gone or is protected from us (UIPI).
   [[nodiscard]] LRESULT ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
 
-  /// Throws NoAnswer if the control is a password field. Reads nothing else.
-  void refusePasswords() const;
+  /// Returns whether the control is a password field. Reads nothing of its text. Throws NoAnswer.
+  [[nodiscard]] bool isPassword() const;
 
  private:
   HWND window_;
   std::chrono::steady_clock::time_point deadline_;
 };
 
-/// Returns the window's class name.
-std::u16string classNameOf(HWND window);
-/// Returns the system class from which the window's class was derived if Windows knows it,
-/// otherwise the class name.
-std::u16string realClassOf(HWND window);
-
-ScreenBox boxOf(const RECT& rect);
-
-/// Gives this thread the DPI awareness of a window's process until the end of the scope:
-/// coordinates are then the target's pixels.
+/// Gives this thread the DPI awareness of a window's process until the end of the scope, so that
+/// functions of Windows return and take the target's pixels.
 class ScopedTargetAwareness {
  public:
   explicit ScopedTargetAwareness(HWND window)
@@ -78,39 +58,25 @@ class ScopedTargetAwareness {
   DPI_AWARENESS_CONTEXT before_;
 };
 
-/// Returns the window's rectangle in physical pixels and in those of its process. The thread must
-/// be per-monitor aware.
+/// Returns the window's rectangle in both kinds of pixels. The thread must be per-monitor DPI
+/// aware.
 WindowScale scaleOf(HWND window);
 
-/// Converts a screen point in the target's pixels to a point of its client area, and a box of the
-/// client area to the screen. Both under ScopedTargetAwareness.
-ScreenPoint toClient(HWND window, ScreenPoint point);
-ScreenBox fromClient(HWND window, const ScreenBox& box);
+/// Converts between the target's screen and client pixels. Like all functions below, to be called
+/// under ScopedTargetAwareness.
+ClientPoint toClient(HWND window, TargetPoint point);
+TargetBox fromClient(HWND window, const ClientBox& box);
 
-/// Returns whether a client point is inside the window's client area. Under ScopedTargetAwareness.
-bool inClientArea(HWND window, ScreenPoint clientPoint);
+/// Returns whether a point is inside the window's client area.
+bool inClientArea(HWND window, ClientPoint point);
 
-/// Returns a client box clipped to the client area. Under ScopedTargetAwareness.
-ScreenBox inClientArea(HWND window, const ScreenBox& box);
+/// Returns a box clipped to the client area.
+ClientBox inClientArea(HWND window, const ClientBox& box);
 
-/// Returns the DPI that the window's process sees: 96 if it is not DPI aware.
+/// Returns the DPI in which client pixels are counted: 96 if the process is not DPI aware.
 int dpiOf(HWND window);
 
-/// Returns the caret's rectangle in client pixels if the caret is in this window and not empty,
-/// otherwise nullopt. Under ScopedTargetAwareness.
-std::optional<ScreenBox> caretIn(HWND window);
-
-/// Returns whether a window supports EM_GETLINECOUNT as text controls do; a window whose class name
-/// merely resembles one does not. Throws NoAnswer.
-bool hasLines(WindowId window);
-
-/// Answers a question about a text control: checks that the window is visible and no password
-/// field, converts the point to the target's client pixels, calls `read`, checks that the window
-/// was not moved or hidden meanwhile, and converts the word's box to physical screen pixels,
-/// clipped to the client area. `read` runs under ScopedTargetAwareness; a NoAnswer from it becomes
-/// the outcome.
-Answer answerOfControl(const Question& question,
-                       const std::function<std::optional<PlacedWord>(
-                           const TargetWindow& target, ScreenPoint clientPoint)>& read);
+/// Returns the caret's rectangle if the caret is in this window and not empty, otherwise nullopt.
+std::optional<ClientBox> caretIn(HWND window);
 
 }  // namespace nhw32

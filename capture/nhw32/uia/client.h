@@ -12,17 +12,21 @@ namespace nhw32 {
 /// The system as the UI Automation reader sees it; tests pass their own.
 struct UiaSystem {
   /// Creates the client and stores one reference to it; may take long if UI Automation is missing.
+  /// May throw or succeed without storing a client, both of which count as failures.
   std::function<HRESULT(IUIAutomation2** client)> makeClient;
+  /// The clock of the time limits.
   Clock now;
 };
 
-/// Delay before the client is created again after a failure.
+/// Delay before the client is created again after a failure: on a system without UI Automation each
+/// attempt loads libraries.
 inline constexpr std::chrono::seconds kClientRetryDelay{60};
 
 /// Returns a reader that uses UI Automation: for word processors, spreadsheets, browsers, document
 /// viewers, consoles. Makes no call that could end later than kUiaQuestionTime after the question
 /// began; creating the client is not included. The first question initialises COM for its thread,
-/// on which the reader must be destroyed.
+/// in the multithreaded apartment; the reader must be destroyed on the same thread. Without a
+/// client, or on a thread of a single-threaded apartment, every answer is Outcome::kNone.
 std::unique_ptr<WordReader> makeUiaReader();
 std::unique_ptr<WordReader> makeUiaReader(UiaSystem system);
 

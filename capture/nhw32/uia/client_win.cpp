@@ -22,8 +22,9 @@ HRESULT makeSystemClient(IUIAutomation2** client) {
   return SUCCEEDED(result) ? result : createClient(CLSID_CUIAutomation, client);
 }
 
-/// Sets the limits of time; a client that does not take them is not used, since its own are 2 and
-/// 20 seconds.
+/// Sets the client's time limits; returns false for a client that does not accept them. Its own are
+/// 2 and 20 seconds, too long for a worker that is to answer about the next point. A call must not
+/// move the focus either.
 bool prepare(IUIAutomation2& client) {
   const auto limit = static_cast<DWORD>(kUiaCallTime.count());
   return SUCCEEDED(client.put_AutoSetFocus(FALSE)) &&
@@ -46,17 +47,21 @@ class UiaReader : public WordReader {
   Answer wordAt(const Question& question) override {
     try {
       return haveClient() ? ask(question) : Answer{};
+    } catch (const NoAnswer& failure) {
+      return {.outcome = failure.outcome(), .word = {}};
     } catch (...) {
+      // The code of other makers runs inside the client and may throw anything.
       return {};
     }
   }
 
  private:
+  /// Creates the client if there is none yet; returns false if that fails or is not due again.
   bool haveClient() {
     if (client_) return true;
     const auto now = system_.now();
     if (!retry_.due(now)) return false;
-    // Noted first, since makeClient may throw.
+    // Recorded first, since makeClient may throw.
     retry_.failed(now);
     if (!com_) com_.emplace();
     if (!com_->ready()) return false;
@@ -73,12 +78,11 @@ class UiaReader : public WordReader {
     if (!place) return {};
     UiaCalls calls(system_.now);
     const auto pattern = textPatternAt(*client_.Get(), question, calls);
-    if (pattern) {
-      auto word = wordUnder(*pattern.Get(), question.point, calls);
-      // The window may have been closed, moved or resized meanwhile.
-      if (word && placeOf(window) == place) return {Outcome::kWord, std::move(*word)};
-    }
-    return {calls.outOfTime() ? Outcome::kOutOfTime : Outcome::kNone, {}};
+    if (!pattern) return {};
+    auto word = wordUnder(*pattern.Get(), question.point, calls);
+    // The window may have been closed, moved or resized meanwhile.
+    if (!word || placeOf(window) != place) return {};
+    return {Outcome::kWord, std::move(*word)};
   }
 
   UiaSystem system_;

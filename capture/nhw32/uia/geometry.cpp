@@ -7,7 +7,7 @@
 namespace nhw32 {
 namespace {
 
-constexpr std::size_t kNumbers = 4;
+constexpr std::size_t kNumbers = 4;  // of a rectangle
 /// Beyond every arrangement of monitors, and convertible to int.
 constexpr double kMaxCoordinate = 1e6;
 
@@ -18,12 +18,13 @@ struct Rectangle {
   double height;
 };
 
-/// Also false for NaN.
+/// Also false for NaN, with which every comparison is false.
 bool onScreen(const Rectangle& r) {
   return std::abs(r.left) <= kMaxCoordinate && std::abs(r.top) <= kMaxCoordinate && r.width >= 0 &&
          r.width <= kMaxCoordinate && r.height >= 0 && r.height <= kMaxCoordinate;
 }
 
+/// Tests the centre of the pixel: rectangles of scaled text do not begin at whole pixels.
 bool holds(const Rectangle& r, ScreenPoint point) {
   const double x = point.x + 0.5;
   const double y = point.y + 0.5;

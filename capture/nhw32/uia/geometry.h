@@ -8,7 +8,8 @@
 
 #include "capture/nhw32/reader.h"
 
-/// The portable part of reading by UI Automation: its rectangles, texts and retries.
+/// The portable part of reading by UI Automation: its rectangles, texts and retries. What comes
+/// from a provider is checked here before it is used.
 namespace nhw32 {
 
 /// Returns the first of `rectangles` that contains the centre of the pixel `point`, rounded
@@ -23,13 +24,14 @@ bool isOneCharacter(std::u16string_view text);
 /// Returns the word if `text` is one word with optional blanks around it, otherwise "".
 std::u16string_view onlyWord(std::u16string_view text);
 
-/// Delays further attempts after a failure.
+/// Delays further attempts after a failure. Not thread-safe.
 class Retry {
  public:
   using Time = std::chrono::steady_clock::time_point;
 
   explicit Retry(std::chrono::milliseconds pause) : pause_(pause) {}
 
+  /// Returns whether an attempt may be made: none failed yet, or `pause` has passed since.
   [[nodiscard]] bool due(Time now) const { return !failed_ || now - *failed_ >= pause_; }
   void failed(Time now) { failed_ = now; }
 

@@ -18,46 +18,44 @@ namespace nhw32 {
 
 using Microsoft::WRL::ComPtr;
 
-/// Maximum time of one question to UI Automation.
+/// Maximum time of one question to UI Automation. Longer than for a control, since a question takes
+/// some twenty calls.
 inline constexpr std::chrono::milliseconds kUiaQuestionTime{500};
-/// Maximum time of one call, which the client is told.
+/// Maximum time of one call; the client is given it as its limit.
 inline constexpr std::chrono::milliseconds kUiaCallTime{200};
 
-/// Makes the calls of one question. After a call has failed, or if a further call could end later
-/// than kUiaQuestionTime after this object was made, no more calls are made.
+/// Makes the calls of one question, which starts when this object is made.
 class UiaCalls {
  public:
+  /// Keeps `now` by reference.
   explicit UiaCalls(const Clock& now) : now_(now), start_(now()) {}
 
-  /// Makes a call unless the question has ended; returns whether it was made and succeeded. `call`
-  /// returns an HRESULT.
+  /// Makes a call, which returns an HRESULT. Throws NoAnswer(kOutOfTime) if the call times out, or,
+  /// without making it, if it could end later than kUiaQuestionTime after the start. Throws
+  /// NoAnswer(kNone) if it fails otherwise.
   template <class Call>
-  bool make(Call call) {
-    return mayCall() && succeeded(call());
+  void make(Call call) {
+    checkTime();
+    checkResult(call());
   }
 
-  /// Returns whether the question ended by a timeout.
-  [[nodiscard]] bool outOfTime() const { return outOfTime_; }
-
  private:
-  bool mayCall();
-  bool succeeded(HRESULT result);
+  void checkTime() const;
+  static void checkResult(HRESULT result);
 
   const Clock& now_;
   std::chrono::steady_clock::time_point start_;
-  bool failed_ = false;
-  bool outOfTime_ = false;
 };
 
 /// Returns the text pattern of the element under the question's point, or of the nearest of ten
-/// ancestors that has one. Returns null if one of the elements on the way is a password field or
-/// does not report whether it is, and if the text belongs neither to the process nor to the
-/// top-level window of the question's window.
+/// ancestors that has one, otherwise null. Returns null as well if one of the elements on the way
+/// is a password field or does not report whether it is, and if the text belongs neither to the
+/// process nor to the top-level window of the question's window. Throws NoAnswer.
 ComPtr<IUIAutomationTextPattern> textPatternAt(IUIAutomation& client, const Question& question,
                                                UiaCalls& calls);
 
-/// Returns the word under `point` (physical screen pixels) and its box. Reads at most some hundred
-/// characters around the point, however long the text is.
+/// Returns the word under `point` and its box, otherwise nullopt. Reads at most some hundred
+/// characters around the point, however long the text is. Throws NoAnswer.
 std::optional<Word> wordUnder(IUIAutomationTextPattern& pattern, ScreenPoint point,
                               UiaCalls& calls);
 

@@ -11,10 +11,15 @@
 // The word is found in two steps. ElementWalk goes from the element under the point up to the first
 // one with a text pattern. TextAtPoint takes the character of that text whose rectangle contains
 // the point, reads kReach characters on each side of it, and lets wordAt find the word in them.
+//
+// Every call may go to another process and is made by UiaCalls, which ends the question by NoAnswer
+// at the first one that fails. What a provider returns is not relied on: a call that succeeds may
+// leave its result null or unchanged.
 namespace nhw32 {
 namespace {
 
-/// How far above the element under the point the text pattern is looked for.
+/// How far above the element under the point a text pattern is looked for. Documents of browsers
+/// and office programs have theirs a few elements above the text.
 constexpr int kMaxAncestors = 10;
 
 HWND toHandle(WindowId window) { return reinterpret_cast<HWND>(window); }
@@ -25,10 +30,7 @@ class ElementWalk {
   ElementWalk(IUIAutomation& client, const Question& question, UiaCalls& calls)
       : client_(client), window_(toHandle(question.window)), calls_(calls) {
     const POINT point{question.point.x, question.point.y};
-    if (!calls_.make(
-            [&] { return client_.ElementFromPoint(point, element_.ReleaseAndGetAddressOf()); })) {
-      element_.Reset();
-    }
+    calls_.make([&] { return client_.ElementFromPoint(point, element_.GetAddressOf()); });
   }
 
   ComPtr<IUIAutomationTextPattern> textPattern() {
@@ -36,13 +38,10 @@ class ElementWalk {
     for (int ancestors = 0; element_ && isNoPassword(); ++ancestors) {
       belongs = belongs || ofWindow();
       ComPtr<IUIAutomationTextPattern> pattern;
-      if (!calls_.make([&] {
-            return element_->GetCurrentPatternAs(
-                UIA_TextPatternId, IID_IUIAutomationTextPattern,
-                reinterpret_cast<void**>(pattern.ReleaseAndGetAddressOf()));
-          })) {
-        break;
-      }
+      calls_.make([&] {
+        return element_->GetCurrentPatternAs(UIA_TextPatternId, IID_IUIAutomationTextPattern,
+                                             reinterpret_cast<void**>(pattern.GetAddressOf()));
+      });
       if (pattern && belongs) return pattern;
       if (pattern || ancestors == kMaxAncestors || !toParent()) break;
     }
@@ -52,8 +51,8 @@ class ElementWalk {
  private:
   bool isNoPassword() {
     UniqueVariant value;
-    return property(UIA_IsPasswordPropertyId, value) && value.get().vt == VT_BOOL &&
-           value.get().boolVal == VARIANT_FALSE;
+    readProperty(UIA_IsPasswordPropertyId, value);
+    return value.get().vt == VT_BOOL && value.get().boolVal == VARIANT_FALSE;
   }
 
   /// The point may hit a window of another process above the one that was asked for. The text of a
@@ -69,29 +68,27 @@ class ElementWalk {
     return root != nullptr && root == GetAncestor(window_, GA_ROOT);
   }
 
+  /// Moves to the parent, null above the root; returns whether there is a walker to do it.
   bool toParent() {
-    if (!walker_ && !(calls_.make([&] {
-          return client_.get_ControlViewWalker(walker_.ReleaseAndGetAddressOf());
-        }) && walker_)) {
-      return false;
+    if (!walker_) {
+      calls_.make([&] { return client_.get_ControlViewWalker(walker_.GetAddressOf()); });
     }
+    if (!walker_) return false;
     ComPtr<IUIAutomationElement> parent;
-    if (!calls_.make([&] {
-          return walker_->GetParentElement(element_.Get(), parent.ReleaseAndGetAddressOf());
-        })) {
-      return false;
-    }
+    calls_.make([&] { return walker_->GetParentElement(element_.Get(), parent.GetAddressOf()); });
     element_ = std::move(parent);
     return true;
   }
 
-  bool property(int id, UniqueVariant& value) {
-    return calls_.make([&] { return element_->GetCurrentPropertyValue(id, value.out()); });
+  void readProperty(int id, UniqueVariant& value) {
+    calls_.make([&] { return element_->GetCurrentPropertyValue(id, value.out()); });
   }
 
+  /// Returns a property, nullopt if it is not a number.
   std::optional<std::int32_t> number(int id) {
     UniqueVariant value;
-    if (!property(id, value) || value.get().vt != VT_I4) return std::nullopt;
+    readProperty(id, value);
+    if (value.get().vt != VT_I4) return std::nullopt;
     return value.get().lVal;
   }
 
@@ -132,31 +129,27 @@ class TextAtPoint {
   /// point is before that character or, right of its middle, after it.
   std::optional<ScreenBox> findCell(IUIAutomationTextPattern& pattern) {
     const POINT point{point_.x, point_.y};
-    if (!calls_.make(
-            [&] { return pattern.RangeFromPoint(point, cell_.ReleaseAndGetAddressOf()); }) ||
-        !cell_ || !calls_.make([&] { return cell_->ExpandToEnclosingUnit(TextUnit_Character); })) {
-      return std::nullopt;
-    }
+    calls_.make([&] { return pattern.RangeFromPoint(point, cell_.GetAddressOf()); });
+    if (!cell_) return std::nullopt;
+    calls_.make([&] { return cell_->ExpandToEnclosingUnit(TextUnit_Character); });
     const auto box = boxOf(cell_);
     if (box) return box;
     int moved = 0;
-    if (!calls_.make([&] { return cell_->Move(TextUnit_Character, -1, &moved); }) || moved != -1) {
-      return std::nullopt;
-    }
-    return boxOf(cell_);
+    calls_.make([&] { return cell_->Move(TextUnit_Character, -1, &moved); });
+    return moved == -1 ? boxOf(cell_) : std::nullopt;
   }
 
   std::optional<Word> wordAround(const std::u16string& character) {
     const auto before = textBeside(TextPatternRangeEndpoint_Start);
     if (!before) return std::nullopt;
-    const auto behind = textBeside(TextPatternRangeEndpoint_End);
-    if (!behind) return std::nullopt;
-    const std::u16string text = *before + character + *behind;
+    const auto after = textBeside(TextPatternRangeEndpoint_End);
+    if (!after) return std::nullopt;
+    const std::u16string text = *before + character + *after;
     const std::size_t begin = before->size();
     const auto place = wordAt(text, begin);
     if (!place) return std::nullopt;
 
-    auto range = copyOfCell();
+    const TextRange range = copyOfCell();
     if (!range || !moveEnd(range, TextPatternRangeEndpoint_Start, place->begin, begin) ||
         !moveEnd(range, TextPatternRangeEndpoint_End, place->end, begin + character.size())) {
       return std::nullopt;
@@ -175,53 +168,48 @@ class TextAtPoint {
     const bool before = side == TextPatternRangeEndpoint_Start;
     const TextPatternRangeEndpoint held =
         before ? TextPatternRangeEndpoint_End : TextPatternRangeEndpoint_Start;
-    const auto range = copyOfCell();
+    const int count = before ? -kReach : kReach;
+    const TextRange range = copyOfCell();
+    if (!range) return std::nullopt;
     int moved = 0;
-    if (!range ||
-        !calls_.make([&] { return range->MoveEndpointByRange(held, cell_.Get(), side); }) ||
-        !calls_.make([&] {
-          return range->MoveEndpointByUnit(side, TextUnit_Character, before ? -kReach : kReach,
-                                           &moved);
-        })) {
-      return std::nullopt;
-    }
+    calls_.make([&] { return range->MoveEndpointByRange(held, cell_.Get(), side); });
+    calls_.make([&] { return range->MoveEndpointByUnit(side, TextUnit_Character, count, &moved); });
     if (moved == 0) return std::u16string();
     auto text = textOf(range);
+    // A range that was extended and is empty nevertheless is no answer.
     return text && !text->empty() ? std::move(text) : std::nullopt;
   }
 
-  /// Moves an endpoint of a range by characters, from one index to another.
+  /// Moves an endpoint of a range by characters, from one index to another; returns whether it went
+  /// all the way.
   bool moveEnd(const TextRange& range, TextPatternRangeEndpoint end, std::size_t to,
                std::size_t from) {
     const int count = static_cast<int>(to) - static_cast<int>(from);
+    if (count == 0) return true;
     int moved = 0;
-    return count == 0 || (calls_.make([&] {
-             return range->MoveEndpointByUnit(end, TextUnit_Character, count, &moved);
-           }) && moved == count);
+    calls_.make([&] { return range->MoveEndpointByUnit(end, TextUnit_Character, count, &moved); });
+    return moved == count;
   }
 
+  /// Returns a copy, null if the program returns none.
   TextRange copyOfCell() {
     TextRange copy;
-    if (!calls_.make([&] { return cell_->Clone(copy.ReleaseAndGetAddressOf()); })) copy.Reset();
+    calls_.make([&] { return cell_->Clone(copy.GetAddressOf()); });
     return copy;
   }
 
   /// Returns the text of a range, nullopt if it is truncated or longer than requested.
   std::optional<std::u16string> textOf(const TextRange& range) {
     UniqueBstr text;
-    if (!calls_.make([&] { return range->GetText(kMaxText, text.out()); }) ||
-        text.view().size() >= kMaxText) {
-      return std::nullopt;
-    }
+    calls_.make([&] { return range->GetText(kMaxText, text.out()); });
+    if (text.view().size() >= kMaxText) return std::nullopt;
     return std::u16string(text.view());
   }
 
   /// Returns the rectangle of a range that contains the point.
   std::optional<ScreenBox> boxOf(const TextRange& range) {
     UniqueDoubleArray rectangles;
-    if (!calls_.make([&] { return range->GetBoundingRectangles(rectangles.out()); })) {
-      return std::nullopt;
-    }
+    calls_.make([&] { return range->GetBoundingRectangles(rectangles.out()); });
     return boxUnder(rectangles.values(), point_);
   }
 
@@ -232,15 +220,13 @@ class TextAtPoint {
 
 }  // namespace
 
-bool UiaCalls::mayCall() {
-  if (now_() - start_ > kUiaQuestionTime - kUiaCallTime) outOfTime_ = true;
-  return !outOfTime_ && !failed_;
+void UiaCalls::checkTime() const {
+  if (now_() - start_ > kUiaQuestionTime - kUiaCallTime) throw NoAnswer(Outcome::kOutOfTime);
 }
 
-bool UiaCalls::succeeded(HRESULT result) {
-  if (result == UIA_E_TIMEOUT) outOfTime_ = true;
-  failed_ = FAILED(result);
-  return !failed_;
+void UiaCalls::checkResult(HRESULT result) {
+  if (result == UIA_E_TIMEOUT) throw NoAnswer(Outcome::kOutOfTime);
+  if (FAILED(result)) throw NoAnswer(Outcome::kNone);
 }
 
 ComPtr<IUIAutomationTextPattern> textPatternAt(IUIAutomation& client, const Question& question,

@@ -36,7 +36,7 @@ class Grid : public ControlText {
     return grid;
   }
 
-  std::size_t positionNear(ScreenPoint point) override {
+  std::optional<std::size_t> positionNear(ClientPoint point) override {
     std::size_t row = 0;
     while (row + 1 < starts_.size() && point.y >= top(row + 1)) ++row;
     const std::size_t end = row + 1 < starts_.size() ? starts_[row + 1] : text_.size();
@@ -50,9 +50,9 @@ class Grid : public ControlText {
     return {text_.substr(first, 2 * (kMaxWord + 1)), first};
   }
 
-  std::optional<ScreenPoint> cornerOf(std::size_t position) override {
+  std::optional<ClientPoint> cornerOf(std::size_t position) override {
     if (position >= text_.size()) return std::nullopt;
-    return ScreenPoint{left(position), top(lineOf(position))};
+    return ClientPoint{left(position), top(lineOf(position))};
   }
 
   std::size_t lineOf(std::size_t position) override {
@@ -227,7 +227,7 @@ TEST(ControlText, TheCaretOnALastLineTellsItsHeight) {
 
 TEST(ControlText, TheBoxOfAWordInALastLineEndsWithTheLine) {
   Grid grid = Grid::ofHeights(u"small\nlarge one", {15, 60});
-  EXPECT_EQ(wordUnder(grid, {5, 20})->box, (ScreenBox{0, 15, 150, 84}));
+  EXPECT_EQ(wordUnder(grid, {5, 20})->box, (ClientBox{0, 15, 150, 84}));
 }
 
 TEST(ControlText, TheOnlyLetterOfTheTextHasAWidthToo) {
@@ -241,18 +241,18 @@ TEST(ControlText, TheOnlyLetterOfTheTextHasAWidthToo) {
 
 TEST(ControlText, TellsTheWordsBox) {
   Grid grid(u"one well-known\nword");
-  EXPECT_EQ(wordUnder(grid, {45, 5})->box, (ScreenBox{40, 0, 140, 20}));
-  EXPECT_EQ(wordUnder(grid, {135, 5})->box, (ScreenBox{40, 0, 140, 20}));
-  EXPECT_EQ(wordUnder(grid, {39, 25})->box, (ScreenBox{0, 20, 40, 40}));
+  EXPECT_EQ(wordUnder(grid, {45, 5})->box, (ClientBox{40, 0, 140, 20}));
+  EXPECT_EQ(wordUnder(grid, {135, 5})->box, (ClientBox{40, 0, 140, 20}));
+  EXPECT_EQ(wordUnder(grid, {39, 25})->box, (ClientBox{0, 20, 40, 40}));
 }
 
 TEST(ControlText, AWordThatIsBrokenByTheLinesEndIsWholeInEitherPart) {
   Grid grid(u"broken word", 4);  // brok|en w|ord
-  for (const ScreenPoint point : {ScreenPoint{0, 5}, {39, 19}, {0, 20}, {19, 39}}) {
+  for (const ClientPoint point : {ClientPoint{0, 5}, {39, 19}, {0, 20}, {19, 39}}) {
     const auto word = wordUnder(grid, point);
     ASSERT_TRUE(word) << point.x << ", " << point.y;
     EXPECT_EQ(word->text, u"broken");
-    EXPECT_EQ(word->box, point.y < 20 ? (ScreenBox{0, 0, 40, 20}) : (ScreenBox{0, 20, 20, 40}));
+    EXPECT_EQ(word->box, point.y < 20 ? (ClientBox{0, 0, 40, 20}) : (ClientBox{0, 20, 20, 40}));
   }
   EXPECT_EQ(under(grid, 40, 5), u"");
   EXPECT_EQ(under(grid, 25, 25), u"");
@@ -269,7 +269,7 @@ TEST(ControlText, FarFromTheBeginningToo) {
 class Shrinking : public Grid {
  public:
   using Grid::Grid;
-  std::optional<ScreenPoint> cornerOf(std::size_t /*position*/) override { return std::nullopt; }
+  std::optional<ClientPoint> cornerOf(std::size_t /*position*/) override { return std::nullopt; }
 };
 
 TEST(ControlText, NothingWhereTheTextShrinksMeanwhile) {

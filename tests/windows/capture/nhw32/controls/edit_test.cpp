@@ -339,7 +339,9 @@ TEST_F(Nhw32Edit, AnEditControlUnderAnotherNameTellsItsWordsWhereTheSystemKnowsI
   const HookedTextWindow target({.className = L"TNoteEdit"}, u"older words");
   // Windows tells the real class of its own controls; Wine tells the name again, and the control
   // might as well be another.
-  const bool known = nhw32::realClassOf(target.control()) == u"Edit";
+  wchar_t realClass[64] = L"";
+  RealGetWindowClassW(target.control(), realClass, 64);
+  const bool known = std::wstring(realClass) == L"Edit";
   EXPECT_EQ(wordAbout(target, 8), known ? u"words" : u"");
 }
 
