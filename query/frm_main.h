@@ -14,13 +14,6 @@
 #include "forms/text_box.h"
 #include "forms/tree_view.h"
 
-namespace query {
-
-/// The font of the boxes that texts to search for are typed into.
-inline forms::Font inputFont() { return {u"宋体", 10.5}; }
-
-}  // namespace query
-
 /// 多功能查询, the multi-dictionary query window: searches one of the shown subject dictionaries at
 /// a time and lists what it finds.
 class frmMain : public forms::Form {

@@ -118,7 +118,15 @@ void frmMain::Command1_Click() try {
   tellUnexpectedError();
 }
 
-void frmMain::cmdSpc_Click() { forms::form<frmSpc>().show(this); }
+void frmMain::cmdSpc_Click() {
+  const bool opens = !forms::isLoaded<frmSpc>();
+  auto& dialog = forms::form<frmSpc>();
+  if (opens) dialog.centre(*this);
+  dialog.search = [](std::u16string& english, std::u16string& chinese) {
+    forms::form<frmMain>().SpcSearch(english, chinese);
+  };
+  dialog.show(this);
+}
 
 void frmMain::search(std::u16string_view mode, std::int16_t maxRows) {
   std::u16string text = txtInput.text();

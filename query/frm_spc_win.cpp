@@ -1,9 +1,7 @@
 #include "query/frm_spc.h"
 
 #include "capture/screen_word.h"
-#include "forms/loaded_forms.h"
 #include "forms/message_box.h"
-#include "query/frm_main.h"
 #include "text/strings.h"
 
 namespace {
@@ -30,8 +28,6 @@ frmSpc::frmSpc() : Form(design()) {
   onEscape = [this] { cmdCancel_Click(); };
 }
 
-void frmSpc::Form_Load() { centre(forms::form<frmMain>()); }
-
 void frmSpc::Form_Activate() { ScreenWord::StopCapture(); }
 
 void frmSpc::Form_Unload() { ScreenWord::StartCapture(); }
@@ -43,7 +39,9 @@ void frmSpc::cmdOK_Click() {
     forms::showMessage(u"请在英文和中文的文本框里输入内容！", forms::MessageIcon::kExclamation);
     return;
   }
-  forms::form<frmMain>().SpcSearch(e, c);
+  // Deliberate: errors are not caught here, unlike those of frmMain's own searches. They reach the
+  // handler of uncaught errors, and the dialog stays open with both texts.
+  search(e, c);
   unload();
 }
 
