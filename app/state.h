@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "data/index_words.h"
@@ -16,6 +17,11 @@ inline data::IndexWords IdxWords;
 
 /// The program that opens pages, started with the page as its command line.
 inline std::u16string BrowserPath;
+
+/// Colours of a headword and of its meanings wherever both are shown, as COLORREF (0x00BBGGRR): pure
+/// red and pure blue.
+inline constexpr std::uint32_t kHeadwordColor = 0x000000FF;
+inline constexpr std::uint32_t kMeaningColor = 0x00FF0000;
 
 /// Whether the multi-dictionary window is open.
 inline bool MainOpen = false;

@@ -10,9 +10,6 @@
 
 namespace {
 
-constexpr COLORREF kHeadwordColor = RGB(255, 0, 0);
-constexpr COLORREF kMeaningColor = RGB(0, 0, 255);
-
 constexpr data::LookupOptions kRules{.lambdaUpperKey = true, .chineseMeaningFindsBounds = true};
 
 forms::FormDesign design() {
@@ -90,14 +87,10 @@ void frmScreenWordMeaning::lookUp(std::u16string_view escapedWord, data::DataCon
 }
 
 void frmScreenWordMeaning::write(const capture::PopupText& text) {
+  const std::u16string_view body = text.body;
   const auto head = static_cast<std::size_t>(text.headLength);
-  const forms::ScopedRepaintHold held(txtOut);
-  txtOut.setText(text.body);
-  txtOut.select(0, head);
-  txtOut.setSelColor(kHeadwordColor);
-  txtOut.select(head, static_cast<std::size_t>(text.meaningLength));
-  txtOut.setSelColor(kMeaningColor);
-  txtOut.select(0, 0);
+  txtOut.setRuns(
+      {{body.substr(0, head), user::kHeadwordColor}, {body.substr(head), user::kMeaningColor}});
 }
 
 void frmScreenWordMeaning::place(const capture::PopupText& text) {

@@ -1,8 +1,17 @@
 #pragma once
 
+#include <initializer_list>
+#include <string_view>
+
 #include "forms/widget.h"
 
 namespace forms {
+
+/// A part of a text in one colour.
+struct TextRun {
+  std::u16string_view text;
+  COLORREF color = 0;
+};
 
 /// A read-only pane of coloured text. Positions are those of the text as it was set, from 0, where
 /// CR LF counts two. No line breaks behind the blank that it begins with.
@@ -18,6 +27,9 @@ class RichTextBox : public Widget {
 
   /// Replaces the text; all of it takes the default colour, nothing is selected.
   void setText(const std::u16string& text);
+  /// Replaces the text by the runs, one after the other, each in its colour, and puts the caret at
+  /// the position `caret`. Repainted once.
+  void setRuns(std::initializer_list<TextRun> runs, std::size_t caret = 0);
   /// The text as the control holds it, with CR LF line ends.
   [[nodiscard]] std::u16string text() const;
 

@@ -78,6 +78,20 @@ void RichTextBox::setText(const std::u16string& text) {
   select(0, 0);
 }
 
+void RichTextBox::setRuns(std::initializer_list<TextRun> runs, std::size_t caret) {
+  std::u16string text;
+  for (const TextRun& run : runs) text += run.text;
+  const ScopedRepaintHold held(*this);
+  setText(text);
+  std::size_t start = 0;
+  for (const TextRun& run : runs) {
+    select(start, run.text.size());
+    setSelColor(run.color);
+    start += run.text.size();
+  }
+  select(caret, 0);
+}
+
 void RichTextBox::setHangingIndent(int twips) { hangingIndent_ = twips; }
 
 std::u16string RichTextBox::text() const { return windowText(handle()); }

@@ -1,16 +1,10 @@
 #include <algorithm>
 #include <optional>
 
+#include "app/state.h"
 #include "forms/message_box.h"
 #include "lookup/frm_sub.h"
 #include "text/query_text.h"
-
-namespace {
-
-constexpr COLORREF kHeadwordColor = RGB(255, 0, 0);
-constexpr COLORREF kMeaningColor = RGB(0, 0, 255);
-
-}  // namespace
 
 std::u16string frmSub::makeStrSql(std::u16string_view EorC, std::u16string_view word) {
   return lookup_.makeStrSql(EorC, word, Adodc1);
@@ -76,11 +70,9 @@ std::u16string frmSub::showMeaning(std::u16string& word, data::DataControl& cont
 }
 
 void frmSub::showText(const data::MeaningText& text) {
-  const forms::ScopedRepaintHold held(txtOut);
-  txtOut.setText(text.body);
-  txtOut.select(0, text.headLength);
-  txtOut.setSelColor(kHeadwordColor);
-  txtOut.select(text.headLength, text.body.size() - text.headLength);
-  txtOut.setSelColor(kMeaningColor);
-  txtOut.select(1, 0);
+  const std::u16string_view body = text.body;
+  // The caret goes after the blank that the headword's line begins with.
+  txtOut.setRuns({{body.substr(0, text.headLength), user::kHeadwordColor},
+                  {body.substr(text.headLength), user::kMeaningColor}},
+                 1);
 }

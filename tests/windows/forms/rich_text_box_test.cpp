@@ -48,6 +48,31 @@ TEST_F(RichTextBoxTest, ColoursAreRightToTheCharacter) {
   EXPECT_EQ(colours(), expected);
 }
 
+TEST_F(RichTextBoxTest, RunsAreColouredEachByItself) {
+  opened<PaneForm>();
+  pane().setHangingIndent(180);
+  pane().setText(u"before");
+  pane().setRuns({{u" bit\r\n", kRed}, {u" 位；\r\n 比特", kBlue}}, 1);
+  EXPECT_EQ(pane().text(), u" bit\r\n 位；\r\n 比特");
+  std::vector<COLORREF> expected(5, kRed);
+  expected.insert(expected.end(), 7, kBlue);
+  EXPECT_EQ(colours(), expected);
+  pane().setRuns({{u"one", kBlue}, {u"two", kRed}});
+  EXPECT_EQ(pane().text(), u"onetwo");
+  EXPECT_EQ(colours(), (std::vector<COLORREF>{kBlue, kBlue, kBlue, kRed, kRed, kRed}));
+}
+
+TEST_F(RichTextBoxTest, AfterRunsTheCaretIsWhereItWasAskedFor) {
+  opened<PaneForm>();
+  for (const std::size_t caret : {1U, 0U, 4U}) {
+    pane().setRuns({{u"red", kRed}, {u"blue", kBlue}}, caret);
+    EXPECT_EQ(pane().selStart(), caret);
+    EXPECT_EQ(pane().selLength(), 0U);
+  }
+  pane().setRuns({{u"red", kRed}});
+  EXPECT_EQ(pane().selStart(), 0U);
+}
+
 TEST_F(RichTextBoxTest, PositionsAreThoseOfTheTextAsItWasSet) {
   opened<PaneForm>();
   const std::u16string text = u"one\r\ntwo\r\nthree";
