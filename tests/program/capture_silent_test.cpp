@@ -22,10 +22,10 @@ constexpr Milliseconds kAnswerTime{50};
 
 /// How promptly a window answers. Waits for another program come in pieces of 50 ms and hide among
 /// many quick answers: hence the share of the time that is lost in waiting.
-class Answers {
+class ResponseTimes {
  public:
   /// Asks `window` every 5 ms for as long as `duration`.
-  void of(HWND window, Milliseconds duration) {
+  void measure(HWND window, Milliseconds duration) {
     const auto begin = Clock::now();
     for (auto start = begin; start - begin < duration; start = Clock::now()) {
       send(window, WM_NULL);
@@ -56,22 +56,24 @@ class Answers {
 
 /// Whether a window answers at once, but for what other work on the machine takes of its time,
 /// which `usual` shows: answers from a moment before, when there was nothing to wait for.
-bool prompt(const Answers& answers, const Answers& usual) {
+bool prompt(const ResponseTimes& answers, const ResponseTimes& usual) {
   std::cout << "19 of 20 answers within " << answers.slow().count() << " ms, "
             << answers.shareWaited() << " of the time spent waiting; usually "
             << usual.shareWaited() << "\n";
   return answers.slow() <= kAnswerTime && answers.shareWaited() < usual.shareWaited() + 0.2;
 }
 
-/// Other work on the machine can spoil a measurement, but never mend one: of some, the best counts.
-/// Each needs windows of its own, as those that stayed silent are left alone.
+/// Whether most of five measurements are prompt: other work on the machine may spoil one or two.
+/// Each needs windows of its own, since the service backs off from windows that did not answer.
 template <class Measure>
-bool promptAtLeastOnce(Measure measure) {
-  constexpr int kMeasurements = 5;
-  for (int number = 1; number <= kMeasurements; ++number) {
-    if (measure(number)) return true;
+bool mostlyPrompt(Measure measure) {
+  constexpr int kMost = 3;
+  int prompt = 0;
+  int slow = 0;
+  for (int number = 1; prompt < kMost && slow < kMost; ++number) {
+    ++(measure(number) ? prompt : slow);
   }
-  return false;
+  return prompt == kMost;
 }
 
 /// Presses a button with the mouse, thinks better of it, and tells how long it took to go down.
@@ -89,9 +91,9 @@ TEST_F(Capture, WindowsThatDoNotAnswerHoldNothingUp) {
   const auto measure = [&](int /*number*/) {
     std::deque<TextWindow> windows;
     std::deque<TextWindow::Busy> busy;
-    Answers usual;
-    usual.of(toolbar, Milliseconds{500});
-    Answers answers;
+    ResponseTimes usual;
+    usual.measure(toolbar, Milliseconds{500});
+    ResponseTimes answers;
     std::vector<Milliseconds> presses;
     for (LONG top = 300; top < 300 + 60 * kWindows; top += 60) {
       windows.emplace_back(L"Edit", DWORD{0}, RECT{300, top, 500, top + 30}, L"database");
@@ -99,7 +101,7 @@ TEST_F(Capture, WindowsThatDoNotAnswerHoldNothingUp) {
     }
     for (LONG top = 300; top < 300 + 60 * kWindows; top += 60) {
       input::moveTo({310, top + 8});
-      answers.of(toolbar, Milliseconds{250});
+      answers.measure(toolbar, Milliseconds{250});
       presses.push_back(timeToPress(lexilo.button(ToolbarButton::kCapture)));
     }
     EXPECT_FALSE(popup.isUp());
@@ -110,7 +112,7 @@ TEST_F(Capture, WindowsThatDoNotAnswerHoldNothingUp) {
     std::ranges::sort(presses);
     return prompt(answers, usual) && presses.at(kWindows / 2) <= kAnswerTime;
   };
-  EXPECT_TRUE(promptAtLeastOnce(measure));
+  EXPECT_TRUE(mostlyPrompt(measure));
 }
 
 TEST_F(Capture, AStoppedProgramKeepsNobodyWaiting) {
@@ -120,18 +122,18 @@ TEST_F(Capture, AStoppedProgramKeepsNobodyWaiting) {
     const Notepad notepad(L"build\\" + name + L".txt");
     notepad.place(kPage);
     const POINT place = editPosition(notepad.edit(), 2);
-    Answers usual;
-    usual.of(lexilo.toolbar(), Milliseconds{400});
+    ResponseTimes usual;
+    usual.measure(lexilo.toolbar(), Milliseconds{400});
     const SuspendedProcess stopped(utf8(name));
     input::moveTo({place.x + 3, place.y + 6});
     // As long as it has chances; afterwards it is left alone.
-    Answers answers;
-    answers.of(lexilo.toolbar(), Milliseconds{400});
+    ResponseTimes answers;
+    answers.measure(lexilo.toolbar(), Milliseconds{400});
     EXPECT_FALSE(popup.isUp());
     const Milliseconds press = timeToPress(lexilo.button(ToolbarButton::kCapture));
     return prompt(answers, usual) && press <= kAnswerTime;
   };
-  EXPECT_TRUE(promptAtLeastOnce(measure));
+  EXPECT_TRUE(mostlyPrompt(measure));
 }
 
 TEST_F(Capture, AStoppedProgramIsReadAgainOnceItGoesOn) {

@@ -93,10 +93,14 @@ TEST_F(Dpi144, SizesAreKept) {
   const auto kept = [](const wchar_t* key, int twips) {
     return std::abs(std::stoi(settings::read(key)) - twips) <= 10;
   };
-  // A window manager that answers an earlier size late makes one of its own once in a while.
-  actUntil("the sizes to stay", reopen, [&] {
-    return kept(L"WindowWidth", 5003) && kept(L"WindowHeight", 4007) && kept(L"TreeWidth", 2011);
-  });
+  // A window manager that answers an earlier size late makes one of its own once in a while, hardly
+  // twice in succession.
+  actUntil("the sizes to stay", reopen,
+           [&] {
+             return kept(L"WindowWidth", 5003) && kept(L"WindowHeight", 4007) &&
+                    kept(L"TreeWidth", 2011);
+           },
+           {.most = 2});
 }
 
 TEST_F(Dpi144, WordsAreLookedUpByMouseAndKeys) {

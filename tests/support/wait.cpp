@@ -27,7 +27,9 @@ void Failure::onFailure(std::function<void()> handler) { failureHandler() = std:
 
 void waitStep(DWORD milliseconds) { threadStep(milliseconds); }
 
-void setWaitStep(WaitStep step) { threadStep = step; }
+WaitStep setWaitStep(WaitStep step) {
+  return std::exchange(threadStep, step == nullptr ? sleepStep : step);
+}
 
 void reportRetry(const std::string& what) {
   std::cout << "[ONCE MORE ] " << what << '\n' << std::flush;

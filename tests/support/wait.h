@@ -32,8 +32,21 @@ inline constexpr DWORD kBetweenLooks = 5;
 /// of 0 ms. A step sleeps unless the thread sets another one.
 using WaitStep = void (*)(DWORD milliseconds);
 void waitStep(DWORD milliseconds);
-/// Sets the calling thread's step. Tests whose windows belong to their own process handle messages.
-void setWaitStep(WaitStep step);
+/// Sets the calling thread's step and returns the one before. Tests whose windows belong to their
+/// own process handle messages; null sleeps.
+WaitStep setWaitStep(WaitStep step);
+
+/// While it lives, the calling thread sleeps while it waits: messages stay in its queue.
+class ScopedSleepingWaits {
+ public:
+  ScopedSleepingWaits() : before_(setWaitStep(nullptr)) {}
+  ~ScopedSleepingWaits() { setWaitStep(before_); }
+  ScopedSleepingWaits(const ScopedSleepingWaits&) = delete;
+  ScopedSleepingWaits& operator=(const ScopedSleepingWaits&) = delete;
+
+ private:
+  WaitStep before_;
+};
 
 /// Looks until `look` returns true (or something that is not null); at least once. Returns what it
 /// returned last, which is false (null) when `milliseconds` have passed.

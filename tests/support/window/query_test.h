@@ -84,6 +84,25 @@ class QueryTest : public WindowTest {
     return eventually([] { return !captureRuns(); });
   }
 
+  /// Expects that each node of a tree shows the tree's one picture, selected or not.
+  static void expectFirstPictureAtEveryNode(const forms::TreeView& tree) {
+    const auto pictures = reinterpret_cast<HIMAGELIST>(
+        SendMessageW(tree.handle(), TVM_GETIMAGELIST, TVSIL_NORMAL, 0));
+    EXPECT_EQ(ImageList_GetImageCount(pictures), 1);
+    std::size_t nodes = 0;
+    TVITEMW item{};
+    item.mask = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    for (item.hItem = TreeView_GetRoot(tree.handle()); item.hItem != nullptr;
+         item.hItem = TreeView_GetNextSibling(tree.handle(), item.hItem)) {
+      item.iImage = item.iSelectedImage = -1;
+      SendMessageW(tree.handle(), TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+      EXPECT_EQ(item.iImage, 0) << nodes;
+      EXPECT_EQ(item.iSelectedImage, 0) << nodes;
+      ++nodes;
+    }
+    EXPECT_EQ(nodes, tree.count());
+  }
+
   /// Expects just one message box since the last call.
   void expectBox(const std::u16string& text, Icon icon) {
     ASSERT_TRUE(eventually([this] { return boxes.count() >= 1; }));
@@ -109,6 +128,7 @@ class QueryTest : public WindowTest {
 
   static constexpr const char16_t* kUnexpected = u"出现异常错误，请重新启动程序或安装程序！";
   static constexpr const char16_t* kChoose = u"请选择字典！";
+  static constexpr const char16_t* kNoText = u"查询条件不为空！";
   static constexpr const char16_t* kNothing = u"Sorry，没有该词条！";
 
  private:

@@ -83,6 +83,17 @@ TEST_F(FrmAbout, CaptureRestsFromItsActivationToItsEnd) {
   EXPECT_TRUE(captureRuns());
 }
 
+TEST_F(FrmAbout, CaptureRunsAfterwardsThoughTheToolbarShowsItOff) {
+  start();
+  click(top().cmdMouse);
+  ASSERT_FALSE(captureRuns());
+  opened<frmAbout>();
+  ScreenWord::StopCapture();
+  about().unload();
+  EXPECT_TRUE(captureRuns());
+  EXPECT_EQ(top().cmdMouse.picture(), top().cmdMouseNot.picture());
+}
+
 TEST_F(FrmAbout, OpensWhollyOnTheScreenAndHoldsNoOtherWindow) {
   start();
   opened<frmAbout>();

@@ -117,8 +117,17 @@ TEST_F(FrmMenu, CaptureRunsAfterwardsEvenIfItWasSwitchedOff) {
 
 TEST_F(FrmMenu, AClickElsewhereClosesItLikeEsc) {
   start();
-  withMenu([](HWND) { injected::click(kNowhere); });
+  // Capture is off before: it is the click that starts it.
+  click(top().cmdMouse);
+  ASSERT_FALSE(captureRuns());
+  bool rested = false;
+  withMenu([&](HWND) {
+    rested = !captureRuns();
+    injected::click(kNowhere);
+  });
+  EXPECT_TRUE(rested);
   EXPECT_TRUE(eventually([] { return captureRuns(); }));
+  expectCaptureShown(false);
 }
 
 TEST_F(FrmMenu, TheButtonThatOpenedItClosesIt) {

@@ -59,6 +59,43 @@ TEST_F(FrmTopDrag, FromTheSecondTimeOnItKeepsThePointWhereItWasGripped) {
   }
 }
 
+TEST_F(FrmTopDrag, TheGripIsWhereTheMouseMovedLastNotWhereThePointerIs) {
+  start();
+  grip(5, 12);
+  moveTo(400, 300);
+  letGo();
+  ASSERT_TRUE(cornerAt(400, 300));
+  moveTo(403, 308);
+  // The pointer goes on without the handle hearing of it, and then the button is pressed.
+  injected::moveTo(kNowhere);
+  HWND handle = top().Image1.handle();
+  SendMessageW(handle, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 8));
+  ASSERT_TRUE(top().Timer1.enabled());
+  injected::moveTo({503, 408});
+  SendMessageW(handle, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(103, 108));
+  EXPECT_EQ(corner().x, 500);
+  EXPECT_EQ(corner().y, 400);
+  SendMessageW(handle, WM_LBUTTONUP, 0, MAKELPARAM(3, 8));
+  EXPECT_FALSE(top().Timer1.enabled());
+}
+
+TEST_F(FrmTopDrag, EveryButtonOfTheMouseDragsIt) {
+  start();
+  grip(5, 12);
+  moveTo(400, 300);
+  letGo();
+  ASSERT_TRUE(cornerAt(400, 300));
+  moveTo(403, 308);
+  injected::pressRight();
+  ASSERT_TRUE(eventually([] { return top().Timer1.enabled(); }));
+  moveTo(453, 368);
+  EXPECT_TRUE(cornerAt(450, 360));
+  injected::releaseRight();
+  ASSERT_TRUE(eventually([] { return !top().Timer1.enabled(); }));
+  moveTo(600, 500);
+  EXPECT_TRUE(cornerAt(450, 360));
+}
+
 TEST_F(FrmTopDrag, ItsSizeStays) {
   frmTop& form = start();
   const RECT before = rectOf(form.handle());

@@ -1,6 +1,10 @@
+#include "capture/screen_word.h"
 #include "tests/support/window/frm_top_test.h"
 #include "tests/support/window/other_program.h"
+#include "tests/support/window/scoped_import.h"
 #include "win32/program.h"
+
+extern "C" decltype(&GetSystemDirectoryA) __imp_GetSystemDirectoryA;
 
 namespace support {
 namespace {
@@ -167,6 +171,25 @@ TEST_F(FrmTopStart, AnErrorOnTheWayIsToldAndWhatWasDoneStays) {
   EXPECT_TRUE(IsWindowVisible(form.handle()));
   EXPECT_FALSE(user::BrowserPath.empty());
   EXPECT_EQ(form.cmdMouse.picture(), form.cmdMouseYes.picture());
+}
+
+TEST_F(FrmTopStart, AnErrorSkipsTheStepsAfterIt) {
+  ScreenWord::StopCapture();  // loads the host, so that capture could be started
+  ASSERT_FALSE(captureRuns());
+  {
+    const ScopedImport<decltype(&GetSystemDirectoryA)> import(
+        __imp_GetSystemDirectoryA,
+        [](LPSTR, UINT) -> UINT { throw std::runtime_error("no system directory"); });
+    top();
+  }
+  const auto seen = boxes.take();
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_EQ(seen[0].title, u"Lexilo");
+  // The toolbar was shown, with the picture of capture that is off; nothing else was done.
+  EXPECT_TRUE(IsWindowVisible(top().handle()));
+  EXPECT_EQ(top().cmdMouse.picture(), top().cmdMouseNot.picture());
+  EXPECT_TRUE(user::BrowserPath.empty());
+  EXPECT_FALSE(captureRuns());
 }
 
 }  // namespace

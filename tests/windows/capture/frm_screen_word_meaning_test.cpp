@@ -62,6 +62,17 @@ TEST_F(FrmScreenWordMeaning, ShowsTheWordAndItsMeaningBelowThePointer) {
   EXPECT_EQ(box.bottom, rect.bottom);
 }
 
+TEST_F(FrmScreenWordMeaning, OncePlacedItKeepsItsSizeWhereTheResolutionChanges) {
+  show(u"data");
+  const RECT before = rectOf(popup().handle());
+  const RECT suggested{150, 120, 900, 700};
+  SendMessageW(popup().handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
+               reinterpret_cast<LPARAM>(&suggested));
+  const RECT after = rectOf(popup().handle());
+  EXPECT_TRUE(EqualRect(&after, &before));
+  EXPECT_EQ(popup().dpi(), 96);
+}
+
 TEST_F(FrmScreenWordMeaning, TheHeadwordIsRedAndTheMeaningsAreBlue) {
   const std::u16string text = show(u"bit");
   EXPECT_EQ(text, u"bit\r\n比特；位；一点");

@@ -34,16 +34,12 @@ class ScreenWordTest : public CaptureTest {
 
   /// Waits for the report of a word, which stays in the queue.
   static bool aReportWaits() {
-    const ULONGLONG deadline = GetTickCount64() + kDefaultTimeout;
-    while (GetTickCount64() < deadline) {
+    const ScopedSleepingWaits sleeping;
+    return eventually([] {
       MSG report;
-      if (PeekMessageW(&report, host().handle(), ScreenWord::MsgHasString, ScreenWord::MsgHasString,
-                       PM_NOREMOVE) != FALSE) {
-        return true;
-      }
-      MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
-    }
-    return false;
+      return PeekMessageW(&report, host().handle(), ScreenWord::MsgHasString,
+                          ScreenWord::MsgHasString, PM_NOREMOVE) != FALSE;
+    });
   }
 
   static Probe probe(POINT point) {
@@ -81,6 +77,28 @@ TEST_F(ScreenWordTest, AProbeFindsTheWordUnderThePoint) {
   EXPECT_TRUE(eventually([] { return ScreenWord::strScreenWord == u"data"; }));
 }
 
+TEST_F(ScreenWordTest, TakesUpToAHundredCharactersOfAWord) {
+  const std::wstring word = std::wstring(100, L'd');
+  const PlainWindow edit(L"Edit", kPlace, (word + L" " + word + L"ata").c_str());
+  ScreenWord::CatchWordAt(wordPoint(edit.handle(), 6));
+  EXPECT_TRUE(eventually([] { return ScreenWord::strScreenWord == std::u16string(100, u'd'); }));
+}
+
+TEST_F(ScreenWordTest, CutsALongerWordAtAHundredCharacters) {
+  const PlainWindow edit(L"Edit", kPlace, (std::wstring(101, L'd') + L"ata").c_str());
+  ScreenWord::CatchWordAt(wordPoint(edit.handle(), 6));
+  EXPECT_TRUE(eventually([] { return ScreenWord::strScreenWord == std::u16string(100, u'd'); }));
+}
+
+TEST_F(ScreenWordTest, NothingIsArmedOnceAWordIsTaken) {
+  const PlainWindow edit(L"Edit", kPlace, L"some data here");
+  ScreenWord::CatchWordAt(wordPoint(edit.handle(), 6));
+  ASSERT_TRUE(aReportWaits());
+  ASSERT_TRUE(nhw32::service().armed());
+  EXPECT_TRUE(eventually([] { return ScreenWord::strScreenWord == u"data"; }));
+  EXPECT_FALSE(nhw32::service().armed());
+}
+
 TEST_F(ScreenWordTest, AProbeElsewhereForgetsTheOneBefore) {
   const PlainWindow edit(L"Edit", kPlace, L"some data here");
   ScreenWord::CatchWordAt(wordPoint(edit.handle(), 6));
@@ -111,6 +129,18 @@ TEST_F(ScreenWordTest, AWindowWhoseClassMerelyContainsEditIsProbed) {
   const Probe seen = probe({250, 350});
   EXPECT_TRUE(seen.stripMoved);
   EXPECT_TRUE(seen.armed);
+}
+
+TEST_F(ScreenWordTest, TheStripKeepsItsSizeWhereTheResolutionChanges) {
+  frmScreen& strip = forms::form<frmScreen>();
+  strip.cover({100, 200, 300, 40});
+  const RECT before = rectOf(strip.handle());
+  RECT suggested{150, 250, 600, 310};
+  SendMessageW(strip.handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
+               reinterpret_cast<LPARAM>(&suggested));
+  const RECT after = rectOf(strip.handle());
+  EXPECT_TRUE(EqualRect(&after, &before));
+  strip.uncover();
 }
 
 TEST_F(ScreenWordTest, TheStripCoversTheRowsAboveThePointAndGoesOffTheDesktop) {

@@ -14,6 +14,17 @@ class FrmSubCapture : public FrmSubTest {
   static bool rests() {
     return eventually([] { return !captureRuns(); });
   }
+
+  /// Starts the toolbar and switches capture off by its button, which shows that from then on.
+  static frmTop& switchOffByTheToolbar() {
+    auto& top = forms::form<frmTop>();
+    awaitActive(top);
+    EXPECT_TRUE(eventually([] { return user::IdxWords.size() > 1; }));
+    SendMessageW(top.cmdMouse.handle(), BM_CLICK, 0, 0);
+    EXPECT_EQ(top.cmdMouse.picture(), top.cmdMouseNot.picture());
+    EXPECT_FALSE(captureRuns());
+    return top;
+  }
 };
 
 TEST_F(FrmSubCapture, RestsWhileTheBoxHasTheFocus) {
@@ -38,11 +49,27 @@ TEST_F(FrmSubCapture, RunsAgainWhenAnotherProgramTakesTheFocus) {
   EXPECT_TRUE(rests());
 }
 
-TEST_F(FrmSubCapture, RunsAgainWhateverTheToolbarShows) {
+TEST_F(FrmSubCapture, RunsWhenTheBoxLosesTheFocusThoughTheToolbarShowsItOff) {
+  const frmTop& top = switchOffByTheToolbar();
   open();
+  ASSERT_TRUE(rests());
   ScreenWord::StopCapture();
   input::key(VK_TAB);
   EXPECT_TRUE(runs());
+  EXPECT_EQ(top.cmdMouse.picture(), top.cmdMouseNot.picture());
+}
+
+TEST_F(FrmSubCapture, RunsOnceTheWindowIsClosedThoughTheToolbarShowsItOff) {
+  const frmTop& top = switchOffByTheToolbar();
+  open();
+  // The focus is not in the box: only the closing can start it.
+  sub().TreeView1.setFocus();
+  ASSERT_TRUE(runs());
+  ScreenWord::StopCapture();
+  ASSERT_FALSE(captureRuns());
+  sub().unload();
+  EXPECT_TRUE(captureRuns());
+  EXPECT_EQ(top.cmdMouse.picture(), top.cmdMouseNot.picture());
 }
 
 TEST_F(FrmSubCapture, RunsOnceTheWindowIsClosed) {

@@ -10,12 +10,17 @@ class FrmSubPaneMenu : public FrmSubTest {
  protected:
   /// Opens the menu by a right click on the pane and deals with it. Returns its lines.
   static std::vector<MenuLine> rightClick(std::initializer_list<WORD> keys) {
+    return rightClick([keys = std::vector<WORD>(keys)] {
+      for (const WORD key : keys) input::key(key);
+    });
+  }
+  static std::vector<MenuLine> rightClick(const std::function<void()>& act) {
     std::vector<MenuLine> lines;
-    const ModalPoller user([&, keys = std::vector<WORD>(keys)] {
+    const ModalPoller user([&] {
       HWND window = openMenu();
       if (window == nullptr) return false;
       lines = linesOf(window);
-      for (const WORD key : keys) input::key(key);
+      act();
       return true;
     });
     injected::rightClick(centreOf(sub().txtOut));
@@ -134,13 +139,28 @@ TEST_F(FrmSubPaneMenu, ABusyClipboardIsToldAfterAMoment) {
   EXPECT_EQ(seen[0].icon, Icon::kError);
 }
 
-TEST_F(FrmSubPaneMenu, EscAndAClickElsewhereChangeNothing) {
+TEST_F(FrmSubPaneMenu, EscChangesNothing) {
   frmSub& form = open();
   form.txtInput.setText(u"data");
   form.txtOut.select(8, 2);
   rightClick({VK_DOWN, VK_ESCAPE});
   EXPECT_EQ(form.txtInput.text(), u"data");
   EXPECT_EQ(form.txtOut.selLength(), 2U);
+}
+
+TEST_F(FrmSubPaneMenu, AClickElsewhereClosesItAndChangesNothing) {
+  frmSub& form = open();
+  form.txtInput.setText(u"data");
+  form.txtOut.select(8, 2);
+  setClipboardText(L"before");
+  const auto lines = rightClick([] {
+    input::key(VK_DOWN);
+    injected::click(kNowhere);
+  });
+  EXPECT_EQ(lines, both(true));
+  EXPECT_EQ(form.txtInput.text(), u"data");
+  EXPECT_EQ(form.txtOut.selText(), u"数据");
+  EXPECT_EQ(clipboardText(), L"before");
 }
 
 TEST_F(FrmSubPaneMenu, TheMenuKeyOpensItInsideThePane) {

@@ -1,4 +1,7 @@
 #include "tests/support/window/frm_sub_test.h"
+#include "tests/support/window/scoped_import.h"
+
+extern "C" decltype(&MessageBeep) __imp_MessageBeep;
 
 namespace support {
 namespace {
@@ -83,6 +86,32 @@ TEST_F(FrmSubTyping, AWildcardInFrontIsRefused) {
     EXPECT_EQ(list(), before);
     EXPECT_EQ(beeps, ++refusals);
   }
+}
+
+TEST_F(FrmSubTyping, ARefusalEmptiesTheBoxThenBeepsThenEmptiesThePane) {
+  frmSub& form = open();
+  form.txtInput.setText(u"data");
+  std::u16string boxAtBeep = u"none";
+  std::u16string paneAtBeep;
+  form.beep = [&] {
+    boxAtBeep = form.txtInput.text();
+    paneAtBeep = form.txtOut.text();
+  };
+  form.txtInput.setText(u"?x");
+  EXPECT_EQ(boxAtBeep, u"");
+  EXPECT_EQ(paneAtBeep, meaningOf(u"data"));
+  EXPECT_EQ(form.txtOut.text(), u"");
+}
+
+TEST_F(FrmSubTyping, ARefusalBeepsAsTheSystemDoes) {
+  static std::vector<UINT> beeps;
+  beeps.clear();
+  const ScopedImport<decltype(&MessageBeep)> import(__imp_MessageBeep, [](UINT kind) -> BOOL {
+    beeps.push_back(kind);
+    return TRUE;
+  });
+  open().txtInput.setText(u"?x");
+  EXPECT_EQ(beeps, std::vector<UINT>{MB_OK});
 }
 
 TEST_F(FrmSubTyping, OnlyRefusedInputBeeps) {

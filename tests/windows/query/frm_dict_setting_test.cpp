@@ -83,23 +83,9 @@ TEST_F(FrmDictSetting, ListsAllDictionariesTheHiddenOnesToo) {
 }
 
 TEST_F(FrmDictSetting, EveryNodeHasThePicture) {
-  HWND list = openSettings().TreeView2.handle();
-  const auto pictures =
-      reinterpret_cast<HIMAGELIST>(SendMessageW(list, TVM_GETIMAGELIST, TVSIL_NORMAL, 0));
-  ASSERT_EQ(ImageList_GetImageCount(pictures), 1);
-  int nodes = 0;
-  TVITEMW item{};
-  item.mask = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
-  item.hItem = TreeView_GetRoot(list);
-  while (item.hItem != nullptr) {
-    item.iImage = item.iSelectedImage = -1;
-    SendMessageW(list, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    EXPECT_EQ(item.iImage, 0);
-    EXPECT_EQ(item.iSelectedImage, 0);
-    ++nodes;
-    item.hItem = TreeView_GetNextSibling(list, item.hItem);
-  }
-  EXPECT_EQ(nodes, 4);
+  const forms::TreeView& list = openSettings().TreeView2;
+  EXPECT_EQ(list.count(), 4U);
+  expectFirstPictureAtEveryNode(list);
 }
 
 TEST_F(FrmDictSetting, ShowsItsCaptionAndItsHint) {

@@ -14,6 +14,10 @@ TEST_F(FrmMainLoading, ListsTheShownDictionariesWithPictures) {
   EXPECT_EQ(ImageList_GetImageCount(pictures), 1);
 }
 
+TEST_F(FrmMainLoading, EveryDictionaryHasThePicture) {
+  expectFirstPictureAtEveryNode(open().TreeView1);
+}
+
 TEST_F(FrmMainLoading, SelectsTheDefaultDictionary) {
   EXPECT_EQ(open().TreeView1.selected(), 3U);
   EXPECT_EQ(form().selectedTable(), u"med");
@@ -88,6 +92,11 @@ TEST_F(FrmMainLoading, WithNoDictionaryShownItSaysSoAndSearchesDoToo) {
   expectBox(kChoose, Icon::kWarning);
   complex(u"a");
   expectBox(kChoose, Icon::kWarning);
+  // Of two things that are missing the text is told.
+  easy(u"");
+  expectBox(kNoText, Icon::kWarning);
+  complex(u"");
+  expectBox(kNoText, Icon::kWarning);
 }
 
 TEST_F(FrmMainLoading, FilledAgainItFollowsTheDefault) {

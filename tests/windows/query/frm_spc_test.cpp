@@ -62,7 +62,7 @@ TEST_F(FrmSpc, BothBoxesHaveTheirNamesAndTheirFont) {
 
 TEST_F(FrmSpc, SearchesForBothTextsAndCloses) {
   openBoth();
-  fill(u"  heart  ", u"心");
+  fill(u"  heart  ", u"  心 ");
   press(dialog().cmdOK);
   EXPECT_TRUE(closed());
   EXPECT_EQ(sql(),
@@ -70,6 +70,16 @@ TEST_F(FrmSpc, SearchesForBothTextsAndCloses) {
             u" '%心%'");
   EXPECT_EQ(lines().size(), 4U);
   EXPECT_EQ(form().txtInput.text(), u"特殊查询 heart：心");
+}
+
+TEST_F(FrmSpc, LeavesTheColumnOfTheLastSearchAlone) {
+  openBoth();
+  easy(u"心");
+  ASSERT_EQ(form().lastColumn(), u"meaning");
+  fill(u"heart", u"心");
+  press(dialog().cmdOK);
+  ASSERT_TRUE(closed());
+  EXPECT_EQ(form().lastColumn(), u"meaning");
 }
 
 TEST_F(FrmSpc, EnterIsOkAndEscIsCancel) {
@@ -104,8 +114,13 @@ TEST_F(FrmSpc, TabGoesThroughItAndCancelCloses) {
 TEST_F(FrmSpc, AnEmptyBoxIsToldAndNothingIsSearched) {
   openBoth();
   const std::u16string before = sql();
-  for (const auto& [english, chinese] : std::vector<std::pair<std::u16string, std::u16string>>{
-           {u"heat", u""}, {u"", u"热"}, {u"   ", u"  "}, {u"", u""}}) {
+  for (const auto& [english, chinese] :
+       std::vector<std::pair<std::u16string, std::u16string>>{{u"heat", u""},
+                                                              {u"heat", u"  "},
+                                                              {u"", u"热"},
+                                                              {u" ", u"热"},
+                                                              {u"   ", u"  "},
+                                                              {u"", u""}}) {
     fill(english, chinese);
     press(dialog().cmdOK);
     expectBox(kBothBoxes, Icon::kWarning);

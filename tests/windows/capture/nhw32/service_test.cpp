@@ -35,11 +35,10 @@ class Nhw32Service : public ::testing::Test {
 
   /// Handles no messages meanwhile, so that the announcement stays in the queue.
   void armUntilAWordWaits(POINT point) {
+    const ScopedSleepingWaits sleeping;
     waitFor("a word", [&] {
       host_.probe(point);
-      const ULONGLONG begin = GetTickCount64();
-      while (textNow().empty() && GetTickCount64() - begin < 100) Sleep(1);
-      return !textNow().empty();
+      return eventually([] { return !textNow().empty(); }, 100);
     });
   }
 

@@ -1,0 +1,85 @@
+// The DPI awareness under which the service reads windows.
+#include <gtest/gtest.h>
+
+#include <atomic>
+
+#include "capture/nhw32/controls/target_window.h"
+#include "capture/nhw32/service.h"
+#include "tests/support/wait.h"
+#include "tests/support/window/plain_window.h"
+#include "tests/support/window/word_host.h"
+
+namespace support {
+namespace {
+
+DPI_AWARENESS threadAwareness() {
+  return GetAwarenessFromDpiAwarenessContext(GetThreadDpiAwarenessContext());
+}
+
+/// Gives this thread an awareness until the end of the scope.
+class ScopedAwareness {
+ public:
+  explicit ScopedAwareness(DPI_AWARENESS_CONTEXT context)
+      : before_(SetThreadDpiAwarenessContext(context)) {}
+  ~ScopedAwareness() { SetThreadDpiAwarenessContext(before_); }
+  ScopedAwareness(const ScopedAwareness&) = delete;
+  ScopedAwareness& operator=(const ScopedAwareness&) = delete;
+
+ private:
+  DPI_AWARENESS_CONTEXT before_;
+};
+
+/// Notes the awareness of the thread that asks it.
+class AwarenessReader : public nhw32::WordReader {
+ public:
+  explicit AwarenessReader(std::atomic<DPI_AWARENESS>& seen) : seen_(seen) {}
+  nhw32::Answer wordAt(const nhw32::Question& /*question*/) override {
+    seen_ = threadAwareness();
+    return {};
+  }
+
+ private:
+  std::atomic<DPI_AWARENESS>& seen_;
+};
+
+TEST(Nhw32Awareness, TheWorkerCountsInPhysicalPixels) {
+  const ScopedAwareness unaware(DPI_AWARENESS_CONTEXT_UNAWARE);
+  const PlainWindow window(L"STATIC", {300, 300, 400, 400});
+  const WordHost host;
+  std::atomic<DPI_AWARENESS> seen = DPI_AWARENESS_INVALID;
+  nhw32::Service service([&] { return std::make_unique<AwarenessReader>(seen); },
+                         RegisterWindowMessageA("BL_HASSTRING"));
+  service.start();
+  service.arm(host.window(), {350, 350});
+  EXPECT_TRUE(eventually([&] { return seen != DPI_AWARENESS_INVALID; }));
+  EXPECT_EQ(seen, DPI_AWARENESS_PER_MONITOR_AWARE);
+  service.stop();
+  EXPECT_TRUE(eventually([&] { return service.workers() == 0; }));
+}
+
+TEST(Nhw32Awareness, AControlIsReadInThePixelsOfItsProgram) {
+  const ScopedAwareness aware(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+  for (const auto& [context, awareness] :
+       {std::pair{DPI_AWARENESS_CONTEXT_UNAWARE, DPI_AWARENESS_UNAWARE},
+        std::pair{DPI_AWARENESS_CONTEXT_SYSTEM_AWARE, DPI_AWARENESS_SYSTEM_AWARE}}) {
+    std::optional<PlainWindow> window;
+    {
+      const ScopedAwareness target(context);
+      window.emplace(L"EDIT", RECT{300, 300, 500, 340}, L"word");
+    }
+    bool asked = false;
+    const nhw32::Question question{reinterpret_cast<nhw32::WindowId>(window->handle()), {310, 310}};
+    static_cast<void>(nhw32::answerOfControl(
+        question,
+        [&](const nhw32::TargetWindow&, nhw32::ScreenPoint) -> std::optional<nhw32::PlacedWord> {
+          asked = true;
+          EXPECT_EQ(threadAwareness(), awareness);
+          return std::nullopt;
+        }));
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(threadAwareness(), DPI_AWARENESS_PER_MONITOR_AWARE) << "restored afterwards";
+  }
+}
+
+}  // namespace
+}  // namespace support
