@@ -4,7 +4,7 @@
 #include <string>
 
 #include "forms/button.h"
-#include "forms/font.h"
+#include "forms/graphics.h"
 #include "forms/form.h"
 #include "forms/static_controls.h"
 #include "forms/text_box.h"

@@ -7,7 +7,8 @@ lanes=0
 # start_lane FUNCTION ARGUMENT...: runs it in the background.
 start_lane() {
   (
-    # Inherited from the script, but not this lane's.
+    # Inherited from the script, but not this lane's; display.sh and wine.sh read them.
+    # shellcheck disable=SC2034
     display_pids=() started_prefix=
     trap 'stop_wine; stop_display' EXIT
     trap 'exit 143' TERM
@@ -37,7 +38,7 @@ stop_jobs() {
 tree() {
   local child
   printf '%s ' "$1"
-  for child in $(cat "/proc/$1/task/$1/children" 2>/dev/null); do
+  while read -r -d ' ' child; do
     tree "$child"
-  done
+  done < <(cat "/proc/$1/task/$1/children" 2>/dev/null)
 }

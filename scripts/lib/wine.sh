@@ -87,9 +87,11 @@ start_wine() {
   use_prefix "$1"
   started_prefix=$1
   mkdir -p "${wine_log%/*}"
-  wineserver -p >>"$wine_log" 2>&1 </dev/null && wine cmd /c exit >>"$wine_log" 2>&1 </dev/null ||
+  if ! wineserver -p >>"$wine_log" 2>&1 </dev/null ||
+    ! wine cmd /c exit >>"$wine_log" 2>&1 </dev/null; then
     fail "Wine did not start in ${1#"$LEXILO_ROOT"/} (see build/logs/wine.log). Remove build/wine" \
       "and run this again."
+  fi
 }
 
 # run_wine PROGRAM ARGUMENT...: runs a program, whose standard output, errors included, comes here.
