@@ -27,6 +27,7 @@ void frmAbout::Form_Load() { centre(); }
 
 void frmAbout::Form_Activate() { ScreenWord::StopCapture(); }
 
+// Deliberate: capture runs again whatever the toolbar shows.
 void frmAbout::Form_Unload() { ScreenWord::StartCapture(); }
 
 void frmAbout::cmdOK_Click() { unload(); }

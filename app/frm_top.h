@@ -11,7 +11,8 @@
 #include "forms/static_controls.h"
 #include "forms/timer.h"
 
-/// The floating toolbar, the program's first window; loading it is the program's start.
+/// The floating toolbar, the program's first window; loading it is the program's start. Its
+/// widgets, state and handlers keep their given names.
 class frmTop : public forms::Form {
  public:
   frmTop();

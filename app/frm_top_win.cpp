@@ -52,6 +52,8 @@ frmTop::frmTop() : Form(design()) {
   };
 }
 
+// A second instance ends at once. Anything that fails on the way is shown in a box, and the steps
+// after it are skipped; the program goes on with what it has.
 void frmTop::Form_Load() {
   if (!win32::claimOnlyInstance(L"Local\\Lexilo.Instance")) win32::endProgram();
   IdxPending = true;
@@ -70,10 +72,10 @@ void frmTop::start() {
   Timer1.setInterval(10);
   Timer1.setEnabled(true);
   TopHeight = kDesignHeight;
+  // Deliberate: the size that the form has already, here and once more below.
   setSize(width(), TopHeight);
   setForeColor(RGB(0, 0, 255));
   Get_Windows_Rect();
-  // Deliberate: the size once more.
   setSize(width(), TopHeight);
   user::ConnectionString = data::connectionString(win32::applicationFolder() + u"\\kk.dat");
   Adodc1.setConnectionString(user::ConnectionString);
@@ -93,17 +95,20 @@ void frmTop::start() {
 void frmTop::placeAtTopRight() {
   const win32::Monitor monitor = win32::monitorOf(handle());
   const int screenWidth = forms::toTwips(monitor.bounds.right - monitor.bounds.left, monitor.dpi);
+  // 1300 twips from the right edge, and as far below the top as it is high.
   setPosition(screenWidth - width() - 1300, height());
 }
 
 void frmTop::Form_Paint() { bringToTop(); }
 
-// A drag keeps the size that WindowRect holds, which another resolution changes.
+// A drag moves the window with the size in WindowRect, which a change of the DPI changes.
 void frmTop::Form_Resize() { Get_Windows_Rect(); }
 
 void frmTop::Form_LostFocus() {
-  // Losing the focus in the first milliseconds must not cost the program its index.
+  // The first tick, which reads the index, is not to be lost with the focus in the first
+  // milliseconds.
   if (!IdxPending) Timer1.setEnabled(false);
+  // Deliberate: whatever the button shows. Capture that was switched off runs again.
   ScreenWord::StartCapture();
 }
 
@@ -116,6 +121,7 @@ void frmTop::cmdDictSetting_Click() { app::kDictSettings.run(); }
 
 void frmTop::cmdHelp_Click() { app::kHelp.run(); }
 
+// 30 twips above the toolbar's lower edge.
 void frmTop::Command1_Click() {
   POINT corner{0, forms::toPixels(TopHeight - 30, dpi())};
   ClientToScreen(handle(), &corner);
@@ -141,6 +147,7 @@ void frmTop::showCapture(bool on) {
   cmdMouse.setPicture(on ? cmdMouseYes.picture() : cmdMouseNot.picture());
 }
 
+// The position is stored at every move; a press uses the stored one.
 void frmTop::Image1_MouseMove() {
   GetCursorPos(&CursorPos);
   if (!IsDragging) return;
@@ -179,7 +186,7 @@ void frmTop::Timer1_Timer() {
 void frmTop::GetIdx() {
   RunQuery(Adodc1, data::kIndexQuery);
   user::IdxWords = data::readIndexWords(Adodc1.recordset());
-  // Nothing else is read here: the rows and the connection would only take memory.
+  // This control reads nothing else; its rows and its connection are freed.
   Adodc1.close();
 }
 

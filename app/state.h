@@ -18,8 +18,8 @@ inline data::IndexWords IdxWords;
 /// The program that opens pages, started with the page as its command line.
 inline std::u16string BrowserPath;
 
-/// Colours of a headword and of its meanings wherever both are shown, as COLORREF (0x00BBGGRR): pure
-/// red and pure blue.
+/// Colours of a headword and of its meanings wherever both are shown, as COLORREF (0x00BBGGRR):
+/// pure red and pure blue.
 inline constexpr std::uint32_t kHeadwordColor = 0x000000FF;
 inline constexpr std::uint32_t kMeaningColor = 0x00FF0000;
 

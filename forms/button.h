@@ -5,9 +5,10 @@
 
 namespace forms {
 
-/// A push button with a caption or a picture.
+/// A push button with a caption or a picture. Enter presses it as Space does.
 class Button : public Widget {
  public:
+  /// `box` in twips of the form's client area. Both throw like Widget.
   Button(WidgetHost& form, const std::u16string& caption, const WidgetBox& box);
   Button(WidgetHost& form, const Picture& picture, const WidgetBox& box);
 
@@ -15,6 +16,7 @@ class Button : public Widget {
   void setPicture(const Picture& picture);
   [[nodiscard]] const Picture& picture() const { return picture_; }
 
+  /// Pressed with the mouse, Space or Enter.
   Event<> onClick;
 
   void command(WORD code) override;

@@ -6,8 +6,10 @@
 
 namespace forms {
 
-/// Replaces the clipboard's content by `text`; `owner` becomes its owner. A clipboard that another
-/// program holds is tried again for 100 ms; then std::runtime_error says so.
+/// Replaces the clipboard's content by `text`, with CR LF line ends; `owner` becomes its owner.
+/// Waits up to 100 ms for another program that holds the clipboard open. Throws std::runtime_error
+/// with a text for the user after that, or with the system's text if the clipboard does not take
+/// the data.
 void setClipboardText(HWND owner, std::u16string_view text);
 
 }  // namespace forms

@@ -10,24 +10,28 @@
 namespace forms {
 namespace {
 
-constexpr DWORD kPatience = 100;  // ms
+/// Programs that hold the clipboard longer are rare; the user is not kept waiting noticeably, in
+/// ms.
+constexpr DWORD kTimeout = 100;
 
-class OpenClipboardLock {
+/// Holds the clipboard open until the end of the scope.
+class ScopedClipboard {
  public:
-  explicit OpenClipboardLock(HWND owner) {
+  explicit ScopedClipboard(HWND owner) {
     const ULONGLONG start = GetTickCount64();
     while (!OpenClipboard(owner)) {
-      if (GetTickCount64() - start >= kPatience) {
+      if (GetTickCount64() - start >= kTimeout) {
         throw std::runtime_error("剪贴板正被其他程序占用，请稍后再试。");
       }
       Sleep(5);
     }
   }
-  ~OpenClipboardLock() { CloseClipboard(); }
-  OpenClipboardLock(const OpenClipboardLock&) = delete;
-  OpenClipboardLock& operator=(const OpenClipboardLock&) = delete;
+  ~ScopedClipboard() { CloseClipboard(); }
+  ScopedClipboard(const ScopedClipboard&) = delete;
+  ScopedClipboard& operator=(const ScopedClipboard&) = delete;
 };
 
+/// Throws std::bad_alloc.
 win32::OwnedMemory copyToGlobalMemory(const std::u16string& text) {
   const std::size_t bytes = (text.size() + 1) * sizeof(char16_t);
   win32::OwnedMemory memory(GlobalAlloc(GMEM_MOVEABLE, bytes));
@@ -42,7 +46,7 @@ win32::OwnedMemory copyToGlobalMemory(const std::u16string& text) {
 
 void setClipboardText(HWND owner, std::u16string_view text) {
   win32::OwnedMemory memory = copyToGlobalMemory(withWindowsLineEnds(text));
-  const OpenClipboardLock lock(owner);
+  const ScopedClipboard opened(owner);
   EmptyClipboard();
   if (SetClipboardData(CF_UNICODETEXT, memory.get()) == nullptr) win32::throwLastError();
   // The clipboard owns the memory now.

@@ -4,16 +4,17 @@
 
 namespace forms {
 
-/// A tree whose texts stand in columns, as on a screen of characters: a code unit below 256 takes
-/// one column, any other exactly two, whatever the font at hand makes of them. Scrolls both ways;
-/// the left and right keys scroll as well.
+/// A tree whose texts line up in columns, as on a screen of characters: a code unit below 256 takes
+/// one column, any other exactly two, whatever their widths in the font are. Scrolls both ways; the
+/// Left and Right keys scroll as well.
 class ColumnTree : public TreeView {
  public:
   ColumnTree(WidgetHost& form, const WidgetBox& box);
 
+  /// Has the control measure the node again: it scrolls as far as its widest text.
   void setText(std::size_t number, const std::u16string& text) override;
 
-  /// Width of one column in pixels.
+  /// Width of one column in pixels at the form's DPI: half the font's height.
   [[nodiscard]] int columnWidth() const { return columnWidth_; }
 
   LRESULT notify(const NMHDR& header) override;

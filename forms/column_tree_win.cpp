@@ -12,7 +12,7 @@ namespace {
 /// Fixed pitch, with Han characters that are twice as wide as Latin ones; part of every Windows.
 constexpr std::u16string_view kFace = u"NSimSun";
 constexpr int kPointsPerInch = 72;
-constexpr int kTenthsOfPoints = 105;
+constexpr int kTenthsOfPoints = 105;  // 10.5 points, 五号: the usual size of Chinese text
 
 /// Largest even size in pixels that is no larger than the wanted one: half of it is a column.
 int evenFontSize(int dpi) { return kTenthsOfPoints * dpi / (10 * kPointsPerInch) / 2 * 2; }
@@ -80,9 +80,10 @@ void ColumnTree::rescale() {
   makeFonts();
 }
 
-// The control measures its texts, and with them how far it scrolls, in a font whose Han characters
-// are two columns wide. Where that font's Latin letters are wider than one column, texts are drawn
-// in the largest smaller size whose letters fit.
+// The control measures its texts, and with them how far it scrolls, in a font of an even size,
+// whose Han characters are square and so two columns wide. Each character is then drawn in cells of
+// its own (ExtTextOut with widths). If Latin letters of that font are wider than one column, as in
+// a substitute for it, texts are drawn in the largest smaller size whose letters fit.
 void ColumnTree::makeFonts() {
   const int dpi = form().dpi();
   const int size = evenFontSize(dpi);
@@ -109,7 +110,7 @@ void ColumnTree::draw(const NMCUSTOMDRAW& drawing) const {
   const auto item = static_cast<std::uintptr_t>(drawing.dwItemSpec);
   const std::size_t number = numberOf(reinterpret_cast<HTREEITEM>(item));
   RECT place{};
-  // The question carries the item where the answer is to stand.
+  // TVM_GETITEMRECT takes the item in the rectangle's own memory.
   std::memcpy(&place, &item, sizeof item);
   if (number == 0 || send(TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place)) == 0) return;
   RECT row{};

@@ -50,7 +50,7 @@ bool Dispatcher::post(std::function<void()> work) {
 }
 
 void Dispatcher::runPosted() {
-  // What this work posts in turn waits for the next message.
+  // Work that is posted by this work waits for the next message.
   for (std::size_t due = posted_.size(); due > 0 && !posted_.empty(); --due) {
     const auto work = std::move(posted_.front());
     posted_.pop_front();

@@ -4,10 +4,16 @@
 
 namespace forms {
 
-/// A plain surface for dragging with the mouse: the grip of a window, or a splitter.
+/// A plain surface for dragging with the mouse: the grip of a window, or a splitter. Captures the
+/// mouse while a button is down. The form decides in onMouseDown what a press begins: it calls
+/// beginDrag for a splitter, and moves its window from onMouseMove for a grip.
 class DragHandle : public Widget {
  public:
-  enum class Look { kGrip, kLine };
+  enum class Look {
+    kGrip,  ///< columns of dots in the form's foreColor
+    kLine,  ///< nothing; in the colour of a selection while it is dragged
+  };
+  /// `box` in twips of the form's client area. Throws like Widget.
   DragHandle(WidgetHost& form, Look look, const WidgetBox& box);
 
   /// Makes the mouse take hold up to `twips` (form's DPI) left and right of the widget too: a
@@ -15,8 +21,9 @@ class DragHandle : public Widget {
   void setGrabMargin(int twips) { grabMargin_ = twips; }
   [[nodiscard]] bool grabs(POINT screen) const override;
 
-  /// Starts a drag: the widget follows the pointer horizontally. Releasing the
-  /// button drops it on the widget below the pointer, whose onDragDrop is raised.
+  /// Starts a drag, for onMouseDown: the widget follows the pointer horizontally. Releasing the
+  /// button drops it on the widget below the pointer, whose onDragDrop is raised, unless the
+  /// pointer has not moved since the press.
   void beginDrag();
   /// Ends a drag without a drop.
   void cancelDrag();

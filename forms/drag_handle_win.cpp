@@ -30,7 +30,7 @@ DragHandle::DragHandle(WidgetHost& form, Look look, const WidgetBox& box)
     : Widget(form, {L"STATIC", SS_NOTIFY | WS_CLIPSIBLINGS, 0}, box), look_(look) {}
 
 LRESULT DragHandle::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  // Whoever drags twice in quick succession means two drags.
+  // The second of two quick drags begins with a double click.
   if (message == WM_LBUTTONDBLCLK) message = WM_LBUTTONDOWN;
   if (message == WM_RBUTTONDBLCLK) message = WM_RBUTTONDOWN;
   if (message == WM_MBUTTONDBLCLK) message = WM_MBUTTONDOWN;
@@ -86,7 +86,7 @@ void DragHandle::paint() const {
 
 void DragHandle::beginDrag() {
   dragged_ = true;
-  // Where the button went down, not where the pointer has got to since.
+  // The place of the press (of the message that is handled), not of the pointer by now.
   const DWORD pressed = GetMessagePos();
   dragStart_ = {GET_X_LPARAM(pressed), GET_Y_LPARAM(pressed)};
   SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -106,7 +106,7 @@ void DragHandle::follow(POINT screen) {
 }
 
 void DragHandle::drop(POINT screen) {
-  // A press that did not move is no drag, wherever beside the line it took hold.
+  // A press without a move is no drag, even one in the margin beside the line.
   const bool moved = screen.x != dragStart_.x || screen.y != dragStart_.y;
   Widget* target = moved ? form().widgetAt(screen, this) : nullptr;
   if (target != nullptr) {

@@ -4,8 +4,8 @@
 #include <string>
 #include <utility>
 
-/// The exception barrier: no exception leaves a callback that Windows calls. User-interface thread
-/// only.
+/// The exception barrier: no exception leaves a callback that Windows calls, since the system's own
+/// code between two of our functions cannot be unwound. User-interface thread only.
 namespace forms {
 
 /// Returns the error's own description, cut and wrapped to fit a message box (see text_lines.h).
@@ -32,7 +32,7 @@ class ScopedHandler {
   static int depth();
 };
 
-/// Runs `handler` inside the barrier.
+/// Runs `handler` inside the barrier: what it throws goes to reportUncaught.
 template <class Handler>
 void guard(Handler&& handler) noexcept {
   const ScopedHandler running;

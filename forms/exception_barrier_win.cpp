@@ -52,7 +52,7 @@ void reportUncaught(const std::exception_ptr& error) noexcept {
       MessageBeep(MB_ICONERROR);
     }
   } catch (...) {
-    // Not even memory for the text: the program goes on, which is all that is asked here.
+    // The handler failed too, for lack of memory say. The program goes on.
     MessageBeep(MB_ICONERROR);
   }
   reporting() = false;

@@ -4,6 +4,8 @@
 #include "forms/stacking.h"
 #include "win32/monitor.h"
 
+// The window procedure of all forms. Windows' notifications are turned into the form's events and
+// into calls of focus.h and stacking.h, which put in order what Windows sends in another one.
 namespace forms {
 
 LRESULT CALLBACK Form::windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -65,7 +67,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (design_.floating && (reinterpret_cast<WINDOWPOS*>(lParam)->flags & SWP_NOZORDER) == 0) {
         raiseWhatIsAbove(handle_);
       }
-      // Not for capture's windows, which come and go ten times a second.
+      // Not for word capture's windows, which come and go ten times a second.
       if (!design_.neverActive) postStackingCheck();
       break;
     case WM_GETMINMAXINFO:
@@ -75,7 +77,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       rescale(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;
     case WM_GETDPISCALEDSIZE:
-      // So that the size the system suggests is the one that rescale() sets.
+      // The size that WM_DPICHANGED then suggests is the one that rescale() sets.
       *reinterpret_cast<SIZE*>(lParam) = outerPixels(width_, height_, static_cast<int>(wParam));
       return TRUE;
     case WM_SYSCOLORCHANGE:
@@ -87,7 +89,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         SetCursor(mousePointer_);
         return TRUE;
       }
-      // A control asks its form first; the shape of its own is its own affair.
+      // From a control, which asks its form first: without a shape of the form's it sets its own.
       if (reinterpret_cast<HWND>(wParam) != handle_) return FALSE;
       break;
     case WM_LBUTTONDOWN:
@@ -128,7 +130,7 @@ void Form::command(WORD code, HWND control, WORD id) const {
     widget->command(code);
     return;
   }
-  // What the keyboard handling of dialogs makes of these two keys.
+  // IsDialogMessage turns Enter and Esc into these two commands.
   if (id == IDOK) onEnter.raise();
   if (id == IDCANCEL) onEscape.raise();
 }
@@ -152,7 +154,7 @@ void Form::paint() {
 
 void Form::resized() {
   if (isMinimised()) return;
-  // The system tells a new window its size once more when it is shown.
+  // Windows sends WM_SIZE to a new window once more when it is shown.
   RECT client{};
   GetClientRect(handle_, &client);
   const SIZE before = std::exchange(resizedFor_, {client.right, client.bottom});

@@ -10,6 +10,10 @@
 #include "win32/monitor.h"
 #include "win32/win32.h"
 
+// A form has three sizes: width() and height() in twips, the same on every monitor and with every
+// frame; the client area in pixels, which is that less the layouts' frame at the form's DPI; and
+// the window's outer size in pixels, with the frame that Windows draws. setSize goes down this
+// list, WM_SIZE up.
 namespace forms {
 namespace {
 
@@ -237,7 +241,7 @@ void Form::centre(const Form& other) {
 void Form::centre() {
   const PixelBox work = toBox(win32::monitorOf(handle_).work);
   const PixelBox middle = centred(place(), work, work);
-  // Beside all of them; failing that, where at least the smaller ones do not lie on it.
+  // Beside all of them; otherwise beside the bars, which are smaller.
   for (const Rank lowest : {Rank::kFloating, Rank::kBar}) {
     if (const auto free = placeBeside(middle, work, placesKeptOnTop(lowest, Rank::kBar))) {
       setPlace(*free);

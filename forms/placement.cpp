@@ -32,8 +32,9 @@ PixelBox centred(const PixelBox& window, const PixelBox& over, const PixelBox& w
   return {left, top, left + width, top + height};
 }
 
-// The nearest free place touches in each direction either nothing, and keeps the wanted coordinate,
-// or an obstacle's edge: only the combinations of these coordinates have to be tried.
+// In each direction the nearest free place either keeps the wanted coordinate or touches an edge of
+// an obstacle. Only the combinations of these coordinates are tried: O(n^3) for n obstacles, of
+// which there are two or three.
 std::optional<PixelBox> placeBeside(const PixelBox& wanted, const PixelBox& work,
                                     std::span<const PixelBox> obstacles) {
   std::vector<int> lefts{wanted.left};
@@ -62,7 +63,7 @@ std::optional<PixelBox> placeBeside(const PixelBox& wanted, const PixelBox& work
 Raise raised(std::span<const std::optional<Rank>> stack, std::optional<std::size_t> self,
              Rank rank) {
   const auto isHigher = [&](const std::optional<Rank>& other) { return other && *other > rank; };
-  std::size_t higher = 0;  // how many of the first windows reach down to the last of a higher rank
+  std::size_t higher = 0;  // number of windows down to the last one of a higher rank
   for (std::size_t i = 0; i < stack.size(); ++i) {
     if (isHigher(stack[i])) higher = i + 1;
   }

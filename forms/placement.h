@@ -4,8 +4,8 @@
 #include <optional>
 #include <span>
 
-/// Where a window goes so that it neither leaves its monitor nor is covered, and what it lies
-/// above. Places are in screen pixels.
+/// Where a window is placed so that it neither leaves its monitor nor is covered, and above which
+/// windows. Pure functions; coordinates are screen pixels.
 namespace forms {
 
 /// A rectangle; right and bottom are the first pixels outside.
@@ -20,19 +20,19 @@ struct PixelBox {
   bool operator==(const PixelBox&) const = default;
 };
 
-/// Whether two boxes share a pixel.
+/// Returns whether two boxes share a pixel.
 bool meet(const PixelBox& one, const PixelBox& other);
 
-/// A box of the size of `window`, at most that of `work`, in the middle of `over` as far as all of
-/// it lies inside `work`.
+/// Returns a box of the size of `window`, reduced to that of `work`, centred over `over` and then
+/// moved into `work`.
 PixelBox centred(const PixelBox& window, const PixelBox& over, const PixelBox& work);
 
-/// The place nearest to `wanted` where a box of its size lies inside `work` and meets none of
-/// `obstacles`; nullopt where there is none.
+/// Returns the place nearest to `wanted` (Euclidean distance of the corners) where a box of its
+/// size lies inside `work` and meets none of `obstacles`; nullopt if there is none.
 std::optional<PixelBox> placeBeside(const PixelBox& wanted, const PixelBox& work,
                                     std::span<const PixelBox> obstacles);
 
-/// Which of our topmost windows lies above which.
+/// The order of our topmost windows, from the lowest to the highest.
 enum class Rank {
   kFloating,  ///< below all others of ours
   kWindow,    ///< an ordinary window that is topmost for the time being
@@ -40,7 +40,7 @@ enum class Rank {
   kNotice,    ///< above all of them: popups, menus, message boxes
 };
 
-/// Where a window goes that is brought to the top.
+/// The place in the Z order of a window that is brought to the top.
 struct Raise {
   enum class Where {
     kStays,   ///< it is in its place already
@@ -52,9 +52,11 @@ struct Raise {
   bool operator==(const Raise&) const = default;
 };
 
-/// Decides it for the window of index `self` (nullopt where it is not topmost yet) and of rank
-/// `rank`. `stack` are the topmost windows from the top of the Z order down, ours with their ranks,
-/// nullopt for those of other programs.
+/// Returns the place of the window of rank `rank` and index `self` in `stack`, nullopt if it is not
+/// topmost yet. `stack` is the topmost windows from the top of the Z order down: ours with their
+/// ranks, those of other programs as nullopt. The window goes below the last of ours that ranks
+/// higher, unless a window of another program lies above that one: then it goes to the top, and the
+/// higher ones have to be raised above it afterwards.
 Raise raised(std::span<const std::optional<Rank>> stack, std::optional<std::size_t> self,
              Rank rank);
 

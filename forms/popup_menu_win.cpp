@@ -9,8 +9,8 @@ std::size_t PopupMenu::add(const std::u16string& caption, std::function<void()> 
 
 namespace {
 
-/// Takes a press of the left button that waits for `widget` out of the queue, and its release. Soon
-/// after another it is a double click, which a range for the press alone would leave there.
+/// Removes a press of the left button on `widget` from the message queue, with its release. The
+/// range covers WM_LBUTTONDBLCLK: soon after another press it is a double click.
 void dropPress(const Widget& widget) {
   MSG message;
   while (PeekMessageW(&message, widget.handle(), WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, PM_REMOVE)) {
@@ -22,13 +22,13 @@ void dropPress(const Widget& widget) {
 const PopupMenu::Item* PopupMenu::choose(const Form& owner, POINT screen,
                                          const Widget* opener) const {
   const win32::OwnedMenu menu(CreatePopupMenu());
-  for (std::size_t place = 0; place < items_.size(); ++place) {
-    const Item& item = items_[place];
+  for (std::size_t index = 0; index < items_.size(); ++index) {
+    const Item& item = items_[index];
     const bool separator = item.caption == u"-";
     const UINT flags = (separator ? MF_SEPARATOR : MF_STRING) |
                        (item.enabled ? MF_ENABLED : MF_GRAYED) |
                        (item.checked ? MF_CHECKED : MF_UNCHECKED);
-    AppendMenuW(menu.get(), flags, place + 1, win32::wide(item.caption));
+    AppendMenuW(menu.get(), flags, index + 1, win32::wide(item.caption));
   }
   // Without the foreground a click elsewhere would not close the menu; the empty message lets the
   // task switch happen that TrackPopupMenu would otherwise swallow (both as Windows documents).

@@ -13,8 +13,9 @@ struct TextRun {
   COLORREF color = 0;
 };
 
-/// A read-only pane of coloured text. Positions are those of the text as it was set, from 0, where
-/// CR LF counts two. No line breaks behind the blank that it begins with.
+/// A read-only pane of coloured text. Positions and lengths are UTF-16 code units of the text as it
+/// was set, from 0, where CR LF counts two. No line is broken directly after the blank that it
+/// begins with.
 class RichTextBox : public Widget {
  public:
   enum class Look {

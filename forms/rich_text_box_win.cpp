@@ -31,9 +31,9 @@ ControlKind kindOf(RichTextBox::Look look) {
   return {richEditClass(), kStyle | WS_TABSTOP, WS_EX_CLIENTEDGE};
 }
 
-/// Where the control puts the text that a message asks for; null for a text of bytes.
+/// Returns where the control puts the text that a message asks for; null if that is not UTF-16.
 wchar_t* givenText(UINT message, WPARAM wParam, LPARAM lParam) {
-  constexpr UINT kUtf16 = 1200;  // its number among the code pages
+  constexpr UINT kUtf16 = 1200;  // the code page of UTF-16 in EM_GETTEXTEX
   if (message == EM_GETTEXTRANGE) return reinterpret_cast<const TEXTRANGEW*>(lParam)->lpstrText;
   if (message == EM_GETTEXTEX && reinterpret_cast<const GETTEXTEX*>(wParam)->codepage != kUtf16) {
     return nullptr;
@@ -62,9 +62,9 @@ void RichTextBox::keepMargins() {
   send(EM_SETRECT, 0, reinterpret_cast<LPARAM>(&inner));
 }
 
-// A line whose rest does not fit beside its leading blank would break behind the blank, where the
-// control knows no other place to break (Wine's knows none between Han characters): an empty line.
-// The control therefore holds no-break spaces there, and blanks is what it gives out.
+// A line that is too long and has no other place to break would be broken after its leading blank,
+// which leaves an empty line (Wine's control does not break between Han characters). The control
+// therefore holds no-break spaces there, and handleMessage gives them out as blanks.
 void RichTextBox::setText(const std::u16string& text) {
   text_ = text;
   SetWindowTextW(handle(), win32::wide(withFirmBlanks(text)));

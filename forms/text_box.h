@@ -4,7 +4,7 @@
 
 namespace forms {
 
-/// A single line of text to type into, or a note of several lines to read.
+/// An edit control: a single line of text to type into, or a note of several lines to read.
 class TextBox : public Widget {
  public:
   enum class Look {
@@ -12,12 +12,15 @@ class TextBox : public Widget {
     kNote,  ///< wraps its text and cannot be typed into
   };
 
+  /// `box` in twips of the form's client area. Throws like Widget.
   TextBox(WidgetHost& form, const WidgetBox& box, Look look = Look::kLine);
 
   [[nodiscard]] std::u16string text() const;
-  /// Raises onChange like typing does.
+  /// Replaces the text and raises onChange before it returns, as typing does, also if the text is
+  /// the same.
   void setText(const std::u16string& text);
 
+  /// The text was changed, by the user or by setText.
   Event<> onChange;
 
   void command(WORD code) override;

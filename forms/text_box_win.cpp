@@ -23,7 +23,7 @@ void TextBox::command(WORD code) {
 }
 
 LRESULT TextBox::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  // Not every system's control knows Ctrl+A (control code 1); all users do.
+  // Not every version of the edit control handles Ctrl+A (control code 1).
   constexpr WPARAM kCtrlA = 1;
   if (message == WM_CHAR && wParam == kCtrlA) {
     send(EM_SETSEL, 0, -1);

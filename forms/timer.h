@@ -8,10 +8,13 @@ namespace forms {
 class Form;
 
 /// Raises an event periodically while enabled, until its form unloads. Intervals in milliseconds;
-/// below 10 Windows uses 10. The event comes from the message loop, also that of a menu or message
-/// box.
+/// below 10 Windows uses 10. The event comes from the message loop, also from that of a menu or
+/// message box, so a handler may run while another one waits in such a loop. WM_TIMER has the
+/// lowest priority and does not accumulate: a busy program gets fewer ticks. User-interface thread
+/// only.
 class Timer {
  public:
+  /// `form` must outlive the timer, usually as the form whose member it is.
   explicit Timer(Form& form, int interval = 0, bool enabled = false);
   ~Timer();
   Timer(const Timer&) = delete;
@@ -25,6 +28,7 @@ class Timer {
   void setEnabled(bool enabled);
   [[nodiscard]] bool enabled() const { return enabled_; }
 
+  /// An interval has passed.
   Event<> onTimer;
 
  private:

@@ -9,17 +9,20 @@
 namespace forms {
 
 /// A flat list of nodes, numbered from 1. It keeps the nodes' texts itself and lets the control ask
-/// for them: new texts cost one repaint, however many they are. Functions that take a number throw
-/// std::out_of_range if there is no such node.
+/// for them (LPSTR_TEXTCALLBACK): new texts cost one repaint, however many they are. Functions that
+/// take a number throw std::out_of_range if there is no such node.
 class TreeView : public Widget {
  public:
+  /// `box` in twips of the form's client area. Throws like Widget.
   TreeView(WidgetHost& form, const WidgetBox& box);
 
   [[nodiscard]] std::size_t count() const { return nodes_.size(); }
   /// Adds a node at the end.
   void add(const std::u16string& text);
+  /// Removes a node; those after it are numbered anew.
   void remove(std::size_t number);
   void clear();
+  /// Changes a node's text; shown with the next repaint (see refresh).
   virtual void setText(std::size_t number, const std::u16string& text);
   [[nodiscard]] const std::u16string& text(std::size_t number) const;
 
@@ -30,7 +33,7 @@ class TreeView : public Widget {
   /// Scrolls back to the first node and its beginning; the selection stays where it is.
   void scrollToBeginning();
 
-  /// Puts `picture` before every node.
+  /// Shows `picture` before every node, at kPictureTwips.
   void setPicture(const Picture& picture);
 
   /// From now on the selected node is highlighted even while the focus is elsewhere.
@@ -39,7 +42,7 @@ class TreeView : public Widget {
   /// From now on moving the highlight with the keys chooses nothing: a click, Enter and Space do.
   void chooseOnlyExpressly();
 
-  /// Shows at once what changed.
+  /// Invalidates all of the control, for texts that were changed.
   void refresh();
 
   /// The user chose a node: a click on it (the selected one included), the highlight moved to it
@@ -57,7 +60,8 @@ class TreeView : public Widget {
 
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   [[nodiscard]] std::size_t numberOf(HTREEITEM item) const;
-  /// Has the control measure a node's text anew, which it does once for each of its items.
+  /// Has the control measure a node's text again. It measures an item's text only once, when the
+  /// item is inserted, so the node gets a new item; number, text and selection stay.
   void measureAgain(std::size_t number);
 
  private:

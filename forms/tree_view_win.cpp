@@ -4,6 +4,10 @@
 
 #include "forms/geometry.h"
 
+// Who chose a node? The control reports every change of the selection in the same way
+// (TVN_SELCHANGED). A choice of the user's is a click on a node (NM_CLICK, also on the one that is
+// selected), Enter, or a change that the control itself calls one by keyboard; a selection set from
+// code, or made by the control when it gets the focus, is none.
 namespace forms {
 
 TreeView::TreeView(WidgetHost& form, const WidgetBox& box) : TreeView(form, box, TVS_NOHSCROLL) {}
@@ -171,8 +175,8 @@ void TreeView::giveText(NMTVDISPINFOW& info) const {
   }
 }
 
-// Whether a node was chosen: the control is not to select it again then, whatever the choice led
-// to.
+// Returns whether a node was chosen: the control is not to select it again then, since the handler
+// may have selected another node or changed the list.
 bool TreeView::clicked() {
   const DWORD position = GetMessagePos();
   TVHITTESTINFO hit{};

@@ -95,7 +95,7 @@ class Widget : public FocusTarget {
   void move(const WidgetBox& box);
   void setWidth(int width);
 
-  /// Never activates a window.
+  /// Shows or hides the control; never activates a window.
   void setVisible(bool visible);
   void setEnabled(bool enabled);
   /// Moves the focus here and raises the focus events before it returns.
@@ -106,16 +106,18 @@ class Widget : public FocusTarget {
   void setToolTip(const std::u16string& text);
   [[nodiscard]] const std::u16string& toolTip() const { return toolTip_; }
 
+  /// Focus events in the order that focus.h describes.
   Event<> onGotFocus;
   Event<> onLostFocus;
+  /// Points from the control's top left corner. Raised before the control handles the message.
   Event<TwipPoint> onMouseMove;
   Event<TwipPoint> onMouseDown;  ///< any button
   Event<TwipPoint> onMouseUp;    ///< any button
   Event<TwipPoint> onRightMouseUp;
   /// Another widget was dropped here.
   Event<Widget&, TwipPoint> onDragDrop;
-  /// Handlers by virtual-key code, for keys pressed without Ctrl or Alt; the control and the tab
-  /// order never see a key that stands here.
+  /// Handlers by virtual-key code, for keys pressed without Ctrl or Alt. The control and the dialog
+  /// keys (Tab, Enter, Esc) never see a key that has a handler.
   std::unordered_map<WPARAM, std::function<void()>> onKeyDown;
 
   /// Handle WM_COMMAND (its notification code) and WM_NOTIFY, which the form passes on.
@@ -140,7 +142,7 @@ class Widget : public FocusTarget {
   static LRESULT CALLBACK widgetProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void raiseMouseEvents(UINT message, LPARAM lParam);
   bool takesKey(UINT message, WPARAM wParam) const;
-  /// Drops the character that the message loop has made of a key: the control would beep at it, and
+  /// Removes the WM_CHAR that the message loop has made of a key: the control would beep at it, and
   /// a menu that the key opens would take it for a choice.
   void dropCharacterOf(WPARAM key) const;
   void applyBox();

@@ -7,6 +7,9 @@
 #include "forms/stacking.h"
 #include "win32/win32.h"
 
+// Controls are subclassed: widgetProc sees each message before the control's own procedure. Focus
+// changes are only noted here; events follow in order (focus.h). A control hands the mouse to the
+// form, by HTTRANSPARENT, where a neighbour grabs it, and the form passes it on.
 namespace forms {
 
 Widget* WidgetHost::widgetAt(POINT screen, const Widget* except) const {
@@ -100,7 +103,7 @@ LRESULT Widget::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       postFocusCheck();
       break;
     case WM_NCHITTEST:
-      // The mouse goes to the form then, which hands it to the one that grabs it.
+      // The form gets the mouse instead and passes it to the widget that grabs it.
       if (const POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
           Widget* grabber = form_.grabberAt(point)) {
         if (grabber != this) return HTTRANSPARENT;
@@ -185,7 +188,7 @@ void Widget::applyBox() {
   const int dpi = form_.dpi();
   const int left = toPixels(box_.left, dpi);
   const int top = toPixels(box_.top, dpi);
-  // Ends are rounded, not lengths: neighbours in twips stay neighbours in pixels.
+  // Edges are rounded, not lengths: neighbours in twips stay neighbours in pixels.
   const int right = toPixels(box_.left + box_.width, dpi);
   const int bottom = toPixels(box_.top + box_.height, dpi);
   SetWindowPos(handle_, nullptr, left, top, std::max(right - left, 0), std::max(bottom - top, 0),
@@ -211,7 +214,7 @@ void Widget::setFont(Font font) {
 void Widget::setToolTip(const std::u16string& text) {
   if (toolTip_ == text) return;
   toolTip_ = text;
-  // A picture has no name that a screen reader could read out.
+  // A button with a picture has no text; screen readers use this one.
   if (GetWindowTextLengthW(handle_) == 0) SetWindowTextW(handle_, win32::wide(text));
   form_.setToolTip(*this, toolTip_);
 }

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "forms/button.h"
-#include "forms/graphics.h"
 #include "forms/form.h"
+#include "forms/graphics.h"
 #include "forms/static_controls.h"
 #include "forms/text_box.h"
 
@@ -16,9 +16,9 @@ inline forms::Font inputFont() { return {u"宋体", 10.5}; }
 
 }  // namespace query
 
-/// 特殊查询, the special query: asks for an English and a Chinese fragment and hands both to frmMain,
-/// which opens it as an owned window and centres it. Knows nothing of frmMain itself. Capture is off
-/// while it is the active window, and on again once it is closed.
+/// 特殊查询, the special query: asks for an English and a Chinese fragment and hands both to
+/// frmMain, which opens it as an owned window and centres it. Knows nothing of frmMain itself.
+/// Capture is off while it is the active window, and on again once it is closed.
 class frmSpc : public forms::Form {
  public:
   frmSpc();

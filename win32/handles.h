@@ -7,7 +7,8 @@
 
 namespace win32 {
 
-/// Owns one system handle; `Close` is the call that gives it back.
+/// Owns one system handle, null for none; `Close` frees it. Movable like std::unique_ptr. Whether
+/// it may be closed on another thread depends on the kind of handle.
 template <class Handle, auto Close>
 class Owned {
  public:
@@ -24,7 +25,7 @@ class Owned {
   ~Owned() { reset(); }
 
   [[nodiscard]] Handle get() const { return handle_; }
-  /// Gives the handle away.
+  /// Returns the handle, which the caller then has to free.
   [[nodiscard]] Handle release() { return std::exchange(handle_, nullptr); }
   explicit operator bool() const { return handle_ != nullptr; }
   void reset() {

@@ -4,7 +4,7 @@
 
 namespace win32 {
 
-/// A monitor's place and resolution.
+/// A monitor's place and resolution, as a program that is aware of each monitor's DPI sees them.
 struct Monitor {
   RECT bounds{};  ///< screen pixels
   RECT work{};    ///< the part of `bounds` that the taskbar leaves, in screen pixels

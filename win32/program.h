@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-/// The running program and the programs it starts.
+/// The running program and the programs it starts. Any thread.
 namespace win32 {
 
 /// Returns whether this process is the first of the user's session to claim `name`, the name of a
@@ -17,7 +17,7 @@ bool claimOnlyInstance(const wchar_t* name);
 std::u16string applicationFolder();
 
 /// Starts the program file `path`, shown normally. Its command line is `path` in quotes, a blank
-/// and `arguments` as they stand. Throws std::runtime_error with the system's text where the
+/// and `arguments` as they stand. Throws std::runtime_error with the system's text if the
 /// program cannot be started.
 void startProgram(const std::u16string& path, std::u16string_view arguments);
 

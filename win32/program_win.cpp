@@ -30,9 +30,9 @@ std::u16string applicationFolder() {
 }
 
 void startProgram(const std::u16string& path, std::u16string_view arguments) {
-  // Naming the program starts that file and no other, whatever lies at the parts of its path before
-  // a blank. The command line then reaches the child as it stands: the child takes what comes
-  // before the first unquoted blank for its own name, and the rest for its arguments.
+  // Without the first argument CreateProcess would try the parts of an unquoted path before each
+  // blank. The child gets the command line unchanged: up to the first unquoted blank it is taken
+  // for the program's name, the rest for its arguments.
   std::u16string commandLine = u'"' + path + u"\" " + std::u16string(arguments);
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;

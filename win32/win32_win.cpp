@@ -5,6 +5,8 @@
 
 #include "text/utf.h"
 
+// The conversions ask for the size first and then convert: the length in bytes depends on the code
+// page.
 namespace win32 {
 
 std::string toAnsi(std::u16string_view text) {
