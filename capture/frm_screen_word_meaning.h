@@ -10,26 +10,29 @@
 #include "forms/rich_text_box.h"
 #include "forms/timer.h"
 
-/// The popup with the meanings of a captured word, below and right of the pointer. It closes as
-/// soon as the pointer moves away, and capture goes on then.
+/// The popup with the meanings of a captured word, above all windows, below and right of the
+/// pointer. It never takes the focus. It unloads itself as soon as the pointer has moved away from
+/// where it was when the popup was loaded, and starts capture again.
 class frmScreenWordMeaning : public forms::Form {
  public:
   frmScreenWordMeaning();
 
+  /// Deliberate: a little larger than the form until the first word is shown.
   forms::RichTextBox txtOut{*this, {0, 0, 3375, 1335}, forms::RichTextBox::Look::kToolTip};
   forms::Timer Timer1{*this, 20, true};
   data::DataControl Adodc1;
 
-  /// Sets the bounds for `word`, whose quotes are doubled.
+  /// Sets the bounds for `word`, whose quotes are doubled. Throws data::Error.
   void getBound(std::u16string_view word, data::DataControl& control);
-  /// The meaning query for `word`, whose quotes are doubled; "" for a class that is neither E nor C
-  /// and, silently, on an error.
+  /// Returns the meaning query for `word`, whose quotes are doubled; "" for a class that is neither
+  /// E nor C and, without a message, on an error.
   std::u16string findword(std::u16string_view EorC, std::u16string_view word);
-  /// Looks `word` up, once more without its last character where there is nothing, and shows the
-  /// popup. The quotes of `word` are doubled in the caller's variable. Returns the text shown; ""
-  /// on an error, silently, with the popup as far as it got.
+  /// Looks `word` up by `control`, once more without its last character if nothing is found, and
+  /// shows the popup. The quotes of `word` are doubled in the caller's variable. Returns the text
+  /// shown; "" on an error, without a message and with the popup as far as it got.
   std::u16string showMeaning(std::u16string& word, data::DataControl& control);
 
+  /// The bounds of the last lookup; for tests.
   [[nodiscard]] data::Bounds bounds() const { return lookup_.bounds(); }
 
  private:
@@ -41,8 +44,8 @@ class frmScreenWordMeaning : public forms::Form {
   void write(const capture::PopupText& text);
   void place(const capture::PopupText& text);
 
-  POINT StartPos{};
-  POINT CurPos{};
+  POINT StartPos{};  ///< where the pointer was at loading, in screen pixels
+  POINT CurPos{};    ///< and at the last tick
   data::HeadwordLookup lookup_;
-  bool placed_ = false;
+  bool placed_ = false;  ///< a word was shown; the size is the popup's own from then on
 };

@@ -8,8 +8,12 @@
 #include "text/query_text.h"
 #include "win32/monitor.h"
 
+// The popup is loaded hidden, at the pointer's monitor, so that it has that monitor's DPI before it
+// gets a text. showMeaning looks the word up, writes the text, computes size and place from the
+// lengths of the text alone (capture/popup.h) and shows the window there.
 namespace {
 
+/// Deliberate: unlike the quick lookup window's, in both respects.
 constexpr data::LookupOptions kRules{.lambdaUpperKey = true, .chineseMeaningFindsBounds = true};
 
 forms::FormDesign design() {
@@ -34,11 +38,13 @@ frmScreenWordMeaning::frmScreenWordMeaning() : Form(design()), lookup_(user::Idx
 
 void frmScreenWordMeaning::Form_Load() {
   GetCursorPos(&StartPos);
-  // Wholly onto the pointer's monitor while it is hidden: its fonts and sizes are those of the one
-  // on which most of it lies.
+  // Moved wholly onto the pointer's monitor while it is hidden: a window has the DPI of the monitor
+  // that most of it is on.
   const RECT monitor = win32::monitorAt(StartPos).bounds;
   SetWindowPos(handle(), nullptr, monitor.left, monitor.top, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  // Deliberate: the timer is enabled already. The events that are handled here may be a tick that
+  // unloads this form; the caller looks.
   Timer1.setEnabled(true);
   forms::doEvents();
 }
@@ -46,6 +52,7 @@ void frmScreenWordMeaning::Form_Load() {
 void frmScreenWordMeaning::Timer1_Timer() {
   GetCursorPos(&CurPos);
   if (!capture::hasMovedAway(StartPos.x, StartPos.y, CurPos.x, CurPos.y)) return;
+  // Deliberate: capture runs again, whatever stopped it meanwhile.
   ScreenWord::StartCapture();
   Timer1.setEnabled(false);
   unload();
@@ -64,11 +71,15 @@ std::u16string frmScreenWordMeaning::findword(std::u16string_view EorC,
 
 std::u16string frmScreenWordMeaning::showMeaning(std::u16string& word,
                                                  data::DataControl& control) try {
+  // Deliberate: the popup's own control, whichever `control` is.
   Adodc1.setConnectionString(user::ConnectionString);
+  // Deliberate: in the caller's variable, and in the headword that is shown.
   user::escapeQuote(word);
   lookUp(word, control);
   if (control.recordset().empty()) {
     if (word.empty()) throw std::length_error("an empty word has no last character");
+    // Deliberate: whatever the last character is, a plural s or not; quotes that are doubled
+    // already are doubled again; and the headword that is shown stays whole.
     std::u16string shorter = word.substr(0, word.size() - 1);
     lookUp(user::escapeQuote(shorter), control);
   }
@@ -105,7 +116,7 @@ void frmScreenWordMeaning::place(const capture::PopupText& text) {
 }
 
 LRESULT frmScreenWordMeaning::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  // Once placed it keeps the size of the pointer's monitor, also where it reaches into another.
+  // Once placed it keeps the size for the pointer's monitor, even if it reaches into another.
   if (message == WM_DPICHANGED && placed_) return 0;
   return Form::handleMessage(message, wParam, lParam);
 }

@@ -4,19 +4,41 @@
 #include <stdexcept>
 
 #include "app/state.h"
-#include "capture/frm_screen.h"
 #include "capture/frm_screen_word_meaning.h"
 #include "capture/nhw32/nhw32.h"
-#include "capture/probe.h"
 #include "capture/screen_word.h"
 #include "forms/geometry.h"
 #include "forms/loaded_forms.h"
 #include "text/strings.h"
 #include "win32/win32.h"
 
+// The capture cycle. All of it runs on the user-interface thread, except for the service's worker.
+//
+//     every 100 ms  timScreenWord1: CatchWordAt arms the service at the pointer
+//     any time      the service posts "BL_HASSTRING"; WindowProc puts the word in strScreenWord
+//     every 5 ms    Timer1: a pending English word goes to the popup, and all timers stop
+//     then          the popup closes when the pointer moves, and starts the timers again
+//
+// A word is pending until the next probe only: one that comes late is not for the point any more.
 namespace {
 
-forms::FormDesign design() {
+constexpr COLORREF kStripColor = RGB(0, 0, 255);
+
+/// Left and top off the desktop, in twips. Deliberate: two places, one where the strip is loaded
+/// and one where it goes after each probe.
+constexpr int kFarAway = -10000;
+constexpr int kAway = -1000;
+
+forms::FormDesign stripDesign() {
+  forms::FormDesign design;
+  design.name = u"frmScreen";
+  design.caption = u"Form2";
+  design.frame = forms::Frame::kBorderless;
+  design.neverActive = true;
+  return design;
+}
+
+forms::FormDesign hostDesign() {
   forms::FormDesign design;
   design.name = u"frmScreenWord";
   design.caption = u"Form2";
@@ -32,11 +54,11 @@ LONG_PTR setProcedure(HWND window, WNDPROC procedure) {
   return SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
 }
 
-/// The popup, loaded. It handles events while it loads, and goes again where the pointer moves away
-/// meanwhile: then it is loaded once more, since it takes a popup to end the StopCapture that
-/// follows. Throws std::runtime_error where the pointer keeps moving for too long.
+/// Returns the loaded popup. It handles events while it loads, and unloads itself if the pointer
+/// moves away meanwhile: then it is loaded once more, since only a popup that closes starts capture
+/// again after the StopCapture that follows. Throws std::runtime_error if the pointer keeps moving.
 frmScreenWordMeaning& loadedPopup() {
-  constexpr int kMaxTries = 10;
+  constexpr int kMaxTries = 10;  // an arbitrary bound, so that the tick ends
   for (int tries = 0; tries < kMaxTries; ++tries) {
     auto& popup = forms::form<frmScreenWordMeaning>();
     if (forms::isLoaded<frmScreenWordMeaning>()) return popup;
@@ -46,10 +68,47 @@ frmScreenWordMeaning& loadedPopup() {
 
 }  // namespace
 
-frmScreenWord::frmScreenWord() : Form(design()) {
+frmScreen::frmScreen() : Form(stripDesign()) {}
+
+void frmScreen::Form_Load() { setPosition(kFarAway, kFarAway); }
+
+void frmScreen::cover(const capture::Rectangle& place) {
+  // Not activated: neverActive forms add SWP_NOACTIVATE.
+  SetWindowPos(handle(), HWND_TOPMOST, place.left, place.top, place.width, place.height,
+               SWP_SHOWWINDOW);
+}
+
+void frmScreen::uncover() {
+  setPosition(kAway, kAway);
+  // Another monitor may be arranged above or left of the primary one.
+  RECT place{};
+  GetWindowRect(handle(), &place);
+  if (MonitorFromRect(&place, MONITOR_DEFAULTTONULL) != nullptr) hide();
+}
+
+LRESULT frmScreen::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_ERASEBKGND: {
+      HDC context = reinterpret_cast<HDC>(wParam);
+      RECT client{};
+      GetClientRect(handle(), &client);
+      SetDCBrushColor(context, kStripColor);
+      FillRect(context, &client, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+      return TRUE;
+    }
+    case WM_DPICHANGED:
+      // Its size follows from the window that it covers, in pixels of any resolution.
+      return 0;
+    default:
+      return Form::handleMessage(message, wParam, lParam);
+  }
+}
+
+frmScreenWord::frmScreenWord() : Form(hostDesign()) {
   timScreenWord1.onTimer = [this] { timScreenWord1_Timer(); };
   Timer1.onTimer = [this] { Timer1_Timer(); };
-  // The host is shown for a moment at start-up: left of and above all monitors.
+  // The toolbar shows the host for a moment at start-up, which loads it: left of and above all
+  // monitors, so that it is not seen.
   const int left = forms::toTwips(GetSystemMetrics(SM_XVIRTUALSCREEN), dpi());
   const int top = forms::toTwips(GetSystemMetrics(SM_YVIRTUALSCREEN), dpi());
   setPosition(left - width(), top - height());
@@ -64,6 +123,8 @@ void frmScreenWord::Form_Load() {
   nhw32::SetNHW32();
 }
 
+// In this order: no probe may arm the service again, and no message of it may come, once the
+// procedure that handles it is gone.
 void frmScreenWord::Form_Unload() {
   timScreenWord1.setEnabled(false);
   nhw32::BL_SetFlag32(nhw32::kDisarm, nullptr, 0, 0);
@@ -77,11 +138,11 @@ void frmScreenWord::timScreenWord1_Timer() try {
   // as this one closes.
   if (handingOver_) return;
   catchWord();
-  // Deliberate: set up anew after each probe.
+  // Deliberate: started anew after each probe, which does nothing while the service runs.
   nhw32::SetNHW32();
   ScreenWord::strScreenWord.clear();
 } catch (const std::exception&) {
-  // The probe ends silently where it failed; the next one comes in a moment.
+  // The probe ends where it failed, before the steps that follow; the next one comes in 100 ms.
 }
 
 void frmScreenWord::catchWord() {
@@ -100,8 +161,8 @@ void frmScreenWord::Timer1_Timer() {
     ScreenWord::strScreenWord.clear();
     ScreenWord::StopCapture();
   } catch (const std::exception&) {
-    // No popup then, and nothing to trouble the user with in the middle of other work. Capture goes
-    // on: only a popup starts it again.
+    // No popup, and no message: the user is at work in another program. Capture goes on, since only
+    // a popup would start it again.
   }
   handingOver_ = false;
 }
@@ -109,24 +170,27 @@ void frmScreenWord::Timer1_Timer() {
 namespace ScreenWord {
 namespace {
 
-/// Characters that the service writes at most, beside its NUL.
+/// The most bytes that the service is to write, without its NUL.
 constexpr std::size_t kMaxText = 100;
 
-/// Room for a class name, of which at most 63 characters are read.
+/// Deliberate: the buffer is larger than the count that is passed, so that at most 63 characters of
+/// a class name are read. The NULs after the name do no harm, since isProbed searches for parts.
 constexpr std::size_t kClassNameRoom = 100;
 constexpr int kClassNameCount = 64;
 
 void disarm() { nhw32::BL_SetFlag32(nhw32::kDisarm, nullptr, 0, 0); }
 
 void takeWord() {
+  // Before the word is fetched: called while its message is handled, it leaves the word in place.
   disarm();
   std::array<char, kMaxText + 1> buffer{};
+  // Deliberate: received and not used; the popup opens at the pointer.
   RECT wordPlace{};
   nhw32::BL_GetText32(buffer.data(), kMaxText, &wordPlace);
   strScreenWord = pendingWord(buffer);
 }
 
-/// Covers a window with the strip while it lives, however the probe ends.
+/// Covers a part of the screen with the strip until the end of the scope, also by an exception.
 class ScopedStrip {
  public:
   explicit ScopedStrip(const capture::Rectangle& place) { strip_.cover(place); }
@@ -152,8 +216,9 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
   try {
     takeWord();
   } catch (const std::exception&) {
-    // What was pending stays so until the next probe, which asks again.
+    // What was pending stays pending until the next probe, which asks again.
   }
+  // Deliberate: the message is not passed on to the form.
   return 0;
 }
 
@@ -170,6 +235,9 @@ void CatchWordAt(const POINT& point) {
   GetWindowRect(window, &place);
   const auto strip = capture::stripPlace(point.x, point.y, place.left, place.right);
   disarm();
+  // Deliberate: the service asks windows and needs no redrawing, but the strip belongs to a probe:
+  // it is what makes a service that watches windows draw see the text. The coordinates are
+  // converted only now, so that a point beyond 16 bits has cancelled the earlier question.
   const ScopedStrip covered(strip);
   nhw32::BL_SetFlag32(nhw32::kArm, hScreenWordWnd, forms::toInt16(point.x),
                       forms::toInt16(point.y));

@@ -17,6 +17,7 @@ struct Spans {
   [[nodiscard]] bool usable() const { return fromLength > 0 && toLength > 0; }
 };
 
+/// `divisor` is positive. The operator rounds towards zero.
 std::int64_t floorDivided(std::int64_t value, std::int64_t divisor) {
   return value / divisor - (value % divisor < 0 ? 1 : 0);
 }
@@ -29,6 +30,8 @@ int centreMapped(const Spans& spans, int value) {
                         floorDivided(halves * spans.toLength, 2 * std::int64_t{spans.fromLength}));
 }
 
+/// Left and top edges are rounded down, right and bottom edges up: a box grows, so that it covers
+/// every pixel that shows a part of it.
 int edgeMappedDown(const Spans& spans, int value) {
   if (!spans.usable()) return value;
   return spans.to + static_cast<int>(floorDivided(std::int64_t{value - spans.from} * spans.toLength,

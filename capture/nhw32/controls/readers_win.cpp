@@ -11,7 +11,6 @@
 #include <memory>
 
 #include "capture/nhw32/controls/control_layout.h"
-#include "capture/nhw32/controls/remote_memory.h"
 #include "capture/nhw32/controls/target_window.h"
 #include "capture/nhw32/controls/text_geometry.h"
 #include "capture/nhw32/word_text.h"

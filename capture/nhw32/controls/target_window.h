@@ -3,14 +3,17 @@
 #include <windows.h>
 
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 
 #include "capture/nhw32/controls/coordinates.h"
 #include "capture/nhw32/reader.h"
+#include "win32/handles.h"
 
-/// A window of another process as the readers of controls see it: its messages and its coordinates.
-/// For the worker thread. Functions on a window that has gone return what Windows returns for an
-/// invalid handle, unless they say that they throw.
+/// A window of another process as the readers of controls see it: its messages, memory in its
+/// process, and its coordinates. For the worker thread. Functions on a window that has gone return
+/// what Windows returns for an invalid handle, unless they say that they throw.
 namespace nhw32 {
 
 /// A window of any process that is asked by messages, within a time limit that starts when this
@@ -40,6 +43,34 @@ class TargetWindow {
  private:
   HWND window_;
   std::chrono::steady_clock::time_point deadline_;
+};
+
+/// Memory allocated in the process of a window, for messages that take the address of a structure;
+/// readable and writable, of `size` bytes. The destructor frees it. A function that fails throws
+/// NoAnswer(kRefused): the process may be protected from us or have ended. Offsets and sizes are in
+/// bytes and must lie within the memory.
+class RemoteMemory {
+ public:
+  RemoteMemory(HWND window, std::size_t size);
+  ~RemoteMemory();
+  RemoteMemory(const RemoteMemory&) = delete;
+  RemoteMemory& operator=(const RemoteMemory&) = delete;
+
+  /// Returns the address of byte `offset` in the other process.
+  [[nodiscard]] std::uint64_t address(std::size_t offset) const;
+  /// Returns whether the process is a 32-bit one, whose structures hold 32-bit addresses.
+  [[nodiscard]] bool inProgramOf32Bits() const;
+
+  /// Copies between this process and the other one.
+  void write(std::size_t offset, const void* from, std::size_t size) const;
+  void read(std::size_t offset, void* to, std::size_t size) const;
+
+  /// Leaves the memory allocated until the other process ends, for a control that may still use it.
+  void abandon() { address_ = nullptr; }
+
+ private:
+  win32::OwnedKernelObject process_;
+  std::byte* address_ = nullptr;
 };
 
 /// Gives this thread the DPI awareness of a window's process until the end of the scope, so that

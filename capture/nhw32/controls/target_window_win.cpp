@@ -4,6 +4,8 @@
 
 #include "capture/nhw32/policy.h"
 
+// Nothing here may hang with the target: messages are sent with a time limit, and the other
+// functions of Windows that are called return without the help of the target's thread.
 namespace nhw32 {
 namespace {
 
@@ -25,6 +27,15 @@ RECT clientRectOf(HWND window) {
   return rect;
 }
 
+/// Opens the window's process with the rights that RemoteMemory needs; null if that is refused.
+HANDLE openProgramOf(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return OpenProcess(
+      PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE | PROCESS_QUERY_LIMITED_INFORMATION,
+      FALSE, process);
+}
+
 }  // namespace
 
 TargetWindow::TargetWindow(WindowId window)
@@ -42,6 +53,7 @@ bool TargetWindow::isOurs() const {
 }
 
 LRESULT TargetWindow::ask(UINT message, WPARAM wParam, LPARAM lParam) const {
+  // What is left of the question's time limits the message too; rounded up, so that it is not 0.
   const auto left =
       std::chrono::ceil<std::chrono::milliseconds>(deadline_ - std::chrono::steady_clock::now());
   if (left.count() <= 0) throw NoAnswer(Outcome::kOutOfTime);
@@ -63,7 +75,41 @@ bool TargetWindow::isPassword() const {
   return (style() & ES_PASSWORD) != 0 || ask(EM_GETPASSWORDCHAR) != 0;
 }
 
+RemoteMemory::RemoteMemory(HWND window, std::size_t size) : process_(openProgramOf(window)) {
+  if (!process_) throw NoAnswer(Outcome::kRefused);
+  address_ = static_cast<std::byte*>(
+      VirtualAllocEx(process_.get(), nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE));
+  if (address_ == nullptr) throw NoAnswer(Outcome::kRefused);
+}
+
+RemoteMemory::~RemoteMemory() {
+  if (address_ != nullptr) VirtualFreeEx(process_.get(), address_, 0, MEM_RELEASE);
+}
+
+std::uint64_t RemoteMemory::address(std::size_t offset) const {
+  return reinterpret_cast<std::uint64_t>(address_ + offset);
+}
+
+bool RemoteMemory::inProgramOf32Bits() const {
+  BOOL wow64 = FALSE;
+  if (IsWow64Process(process_.get(), &wow64) == FALSE) throw NoAnswer(Outcome::kRefused);
+  return wow64 != FALSE;
+}
+
+void RemoteMemory::write(std::size_t offset, const void* from, std::size_t size) const {
+  if (WriteProcessMemory(process_.get(), address_ + offset, from, size, nullptr) == FALSE) {
+    throw NoAnswer(Outcome::kRefused);
+  }
+}
+
+void RemoteMemory::read(std::size_t offset, void* to, std::size_t size) const {
+  if (ReadProcessMemory(process_.get(), address_ + offset, to, size, nullptr) == FALSE) {
+    throw NoAnswer(Outcome::kRefused);
+  }
+}
+
 WindowScale scaleOf(HWND window) {
+  // First as this thread sees the window, then as its own process does.
   WindowScale scale{.onScreen = boxOf<ScreenBox>(outerRectOf(window)), .forTarget = {}};
   const ScopedTargetAwareness awareness(window);
   scale.forTarget = boxOf<TargetBox>(outerRectOf(window));
@@ -97,6 +143,7 @@ ClientBox inClientArea(HWND window, const ClientBox& box) {
 
 int dpiOf(HWND window) { return static_cast<int>(GetDpiForWindow(window)); }
 
+// Does not need the target's thread to answer: the system keeps the caret's rectangle.
 std::optional<ClientBox> caretIn(HWND window) {
   GUITHREADINFO info{};
   info.cbSize = sizeof info;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/state.h"
-#include "capture/frm_screen.h"
 #include "capture/frm_screen_word.h"
 #include "capture/frm_screen_word_meaning.h"
 #include "capture/nhw32/nhw32.h"
