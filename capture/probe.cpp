@@ -10,7 +10,9 @@
 namespace capture {
 namespace {
 
-/// Deliberate: some names contain a shorter one of the list; each names the windows that it is for.
+/// Names of the window classes of consoles, viewers, word processors, spreadsheets, browsers and
+/// text boxes. Deliberate: some contain a shorter one of the list, which would do ("Edit" admits
+/// all rich edit controls); each is there for the windows that it names.
 constexpr std::array<std::string_view, 17> kTextWindows = {
     "ttyGrab",
     "AVL_AVView",
@@ -31,9 +33,11 @@ constexpr std::array<std::string_view, 17> kTextWindows = {
     "Edit",
 };
 
+// The strip, in pixels. Deliberate: its margin is taken off the width twice, but off the left edge
+// once, outwards; so it begins outside the window and ends within.
 constexpr int kStripHeight = 5;
 constexpr int kStripMargin = 4;
-constexpr int kStripReach = 200;
+constexpr int kStripReach = 200;  // left of the pointer
 
 }  // namespace
 
@@ -44,6 +48,7 @@ bool isProbed(std::string_view className) {
 }
 
 Rectangle stripPlace(int x, int y, int windowLeft, int windowRight) {
+  // The rows just above the pointer: at the point itself the service has to find the window.
   Rectangle strip{windowLeft - kStripMargin, y - kStripHeight,
                   windowRight - windowLeft - 2 * kStripMargin, kStripHeight};
   if (x - strip.left > kStripReach) strip.left = x - kStripReach;
@@ -57,6 +62,7 @@ std::string_view reportedText(std::span<const char> buffer) {
 }
 
 bool opensPopup(std::u16string_view text) {
+  // The empty text counts as English.
   return text.size() >= 2 && user::getEorC(text) == user::kEnglish;
 }
 

@@ -4,11 +4,11 @@
 #include <string>
 #include <string_view>
 
-/// What a probe for the word under the pointer decides. Lengths in screen pixels.
+/// What a probe for the word under the pointer decides. Lengths in screen pixels. Pure functions.
 namespace capture {
 
-/// Whether windows of this class are probed: whether the name contains, case included, one of the
-/// names of text windows.
+/// Returns whether windows of this class are probed: whether the name contains one of the names of
+/// text windows, in the same case.
 bool isProbed(std::string_view className);
 
 /// A rectangle of the screen.
@@ -20,23 +20,26 @@ struct Rectangle {
   bool operator==(const Rectangle&) const = default;
 };
 
-/// Where the probe strip covers a window that reaches from `windowLeft` to `windowRight`, for the
-/// pointer at `x`, `y`. It begins at most 200 pixels left of the pointer and keeps its width then,
-/// so that it may reach past the window.
+/// Returns where the probe strip covers a window that reaches from `windowLeft` to `windowRight`,
+/// for the pointer at `x`, `y`: the 5 rows above the pointer, from 4 pixels left of the window, 8
+/// pixels narrower than the window. It begins at most 200 pixels left of the pointer. Deliberate:
+/// it keeps its width then, so that it may reach past the window.
 Rectangle stripPlace(int x, int y, int windowLeft, int windowRight);
 
-/// The text before the first NUL of what the screen-text service wrote. Throws std::length_error
-/// where there is none.
+/// Returns the text before the first NUL of what the screen-text service wrote, a view into
+/// `buffer`. Throws std::length_error if there is no NUL.
 std::string_view reportedText(std::span<const char> buffer);
 
-/// Whether a reported text opens the popup: English, of two or more code units.
+/// Returns whether a reported text opens the popup: English, of two or more code units. Deliberate:
+/// single letters and Chinese texts, which the pointer passes over all the time, do not.
 bool opensPopup(std::u16string_view text);
 
 }  // namespace capture
 
 namespace ScreenWord {
 
-/// The first word of `text`; blanks (U+0020 only) part words.
+/// Returns the first word of `text`. Deliberate: only U+0020 separates words; tabs, punctuation and
+/// ideographic spaces do not.
 std::u16string GetFirstWord(std::u16string_view text);
 
 }  // namespace ScreenWord

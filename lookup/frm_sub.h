@@ -14,8 +14,10 @@
 #include "forms/text_box.h"
 #include "forms/tree_view.h"
 
-/// 速查, the quick lookup window: what is typed shows its neighbouring headwords and the meanings
-/// of the chosen one. Lengths in twips.
+/// 速查, the quick lookup window: while the user types, the list shows the headwords from the typed
+/// text on and the pane the meanings of the first, or of the one that the user chooses. Always
+/// above the windows of other programs. Its size and the list's width are kept in the settings
+/// file. Capture is off while txtInput has the focus. Lengths in twips of the form's DPI.
 class frmSub : public forms::Form {
  public:
   frmSub();
@@ -29,22 +31,27 @@ class frmSub : public forms::Form {
   data::DataControl Adodc1;
   forms::PopupMenu mnuOper{u"菜单操作"};
 
-  /// The sound of refused input: the system's beep.
+  /// The sound of refused input: the system's beep. Tests set one of their own.
   std::function<void()> beep = [] { MessageBeep(MB_OK); };
 
-  /// The list query for `word`, which is trimmed and has its quotes doubled.
+  /// Finds the bounds for `word`, which is trimmed and has its quotes doubled, and returns the list
+  /// query within them. Throws data::Error.
   std::u16string makeStrSql(std::u16string_view EorC, std::u16string_view word);
-  /// Runs `sql` and copies its rows into `list`.
+  /// Runs `sql` and copies its rows into `list` (fillList). Throws data::Error if it cannot be run.
   void Query(std::u16string_view sql, data::DataControl& control, forms::TreeView& list);
-  /// Copies the rows of `control` into `list` and shows the first word's meaning. Ends silently on
-  /// an error.
+  /// Copies the rows of `control` into `list`, shows the meanings of the first word and selects it.
+  /// Without rows everything stays as it is. On an error it stops without a message; nodes already
+  /// written stay.
   void fillList(data::DataControl& control, forms::TreeView& list);
-  /// The meaning query for `word`; a message and "" on an error.
+  /// Returns the meaning query for `word`, whose quotes are doubled; on an error shows a message
+  /// and returns "".
   std::u16string findword(std::u16string_view EorC, std::u16string_view word);
   /// Shows the meanings of `word`, whose quotes are doubled in the caller's variable. Returns the
-  /// pane's text; "" where there are none, or, with a message, on an error.
+  /// pane's text; "" if there are no meanings, when the pane stays as it is, and after a message on
+  /// an error.
   std::u16string showMeaning(std::u16string& word, data::DataControl& control);
 
+  /// The bounds of the last lookup; for tests.
   [[nodiscard]] data::Bounds bounds() const { return lookup_.bounds(); }
 
  private:
@@ -74,8 +81,8 @@ class frmSub : public forms::Form {
   void showSplitterPointer();
   void showText(const data::MeaningText& text);
 
-  int MaxCount = 0;
-  std::u16string settingsPath_;
+  int MaxCount = 0;              ///< nodes that the list may have
+  std::u16string settingsPath_;  ///< "" until the sizes have been read
   std::size_t mnuSearch_ = 0;
   std::size_t mnuCopy_ = 0;
   data::HeadwordLookup lookup_;

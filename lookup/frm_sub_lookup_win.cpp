@@ -6,6 +6,10 @@
 #include "lookup/frm_sub.h"
 #include "text/query_text.h"
 
+// One lookup: makeStrSql finds the bounds and builds the list query, Query runs it, fillList copies
+// its rows into the list and calls showMeaning for the first. The nodes of the list are reused from
+// one lookup to the next: nearly all texts change at each key, but hardly ever the number of nodes.
+
 std::u16string frmSub::makeStrSql(std::u16string_view EorC, std::u16string_view word) {
   return lookup_.makeStrSql(EorC, word, Adodc1);
 }
@@ -21,7 +25,7 @@ void frmSub::fillList(data::DataControl& control, forms::TreeView& list) try {
   if (rows.empty()) return;
   const std::size_t shown = list.count();
   const std::size_t filled = std::min(rows.recordCount(), static_cast<std::size_t>(MaxCount));
-  // New texts alone are one repaint anyway, and cheaper than switching repainting off and on.
+  // New texts alone cause a single repaint, which costs less than switching repainting off and on.
   std::optional<forms::ScopedRepaintHold> held;
   if (filled != shown) held.emplace(list);
   rows.moveFirst();
@@ -37,13 +41,15 @@ void frmSub::fillList(data::DataControl& control, forms::TreeView& list) try {
   for (std::size_t surplus = filled; surplus < shown; ++surplus) list.remove(filled + 1);
   held.reset();
   list.refresh();
+  // The same control is used for the meanings.
   rows.close();
   if (list.text(1).empty()) return;
   std::u16string first = list.text(1);
+  // Selected after the meanings are shown; selecting from code is no choice of the user's.
   showMeaning(first, control);
   list.select(1);
 } catch (const std::exception&) {
-  // The nodes already written stay.
+  // The nodes already written stay. The statement must not stay open: it would block a writer.
   list.refresh();
   control.recordset().close();
 }
@@ -57,6 +63,7 @@ std::u16string frmSub::findword(std::u16string_view EorC, std::u16string_view wo
 
 std::u16string frmSub::showMeaning(std::u16string& word, data::DataControl& control) try {
   const auto EorC = user::getEorC(word);
+  // Deliberate: in the caller's variable, and in the headword that is shown.
   user::escapeQuote(word);
   control.setRecordSource(findword(EorC, word));
   control.refresh();

@@ -12,6 +12,10 @@
 #include "text/strings.h"
 #include "text/utf.h"
 
+// The widgets have their places from three sources: their constructors (frm_sub.h), the layout,
+// which follows the window's size (lookup/layout.h), and the list's width, which the user sets by
+// dragging the splitter. The form raises Resize for every change of its size, so that setting a
+// size is all that loading has to do. The lookups themselves are in frm_sub_lookup_win.cpp.
 namespace {
 
 forms::FormDesign design() {
@@ -26,16 +30,19 @@ forms::FormDesign design() {
   return design;
 }
 
+/// The window opens on the headwords from this one on.
 constexpr std::u16string_view kFirstWord = u"a";
+/// Deliberate: more than the 75 rows of a list query, so that it never limits.
 constexpr int kMaxListed = 100;
 
-/// The splitter is one pixel wide; the mouse takes hold of it from three more on each side.
+/// The splitter is one pixel wide; the mouse takes hold of it within three pixels on each side (45
+/// twips) as well.
 constexpr int kSplitterMargin = 45;
 
-/// Sets the wrapped part of a meaning off from the next one.
+/// Twips by which the wrapped lines of a meaning are indented, so that each meaning is seen as one.
 constexpr int kHangingIndent = 180;
 
-/// The sizes that are kept in the settings file.
+/// The sizes that are kept in the settings file, each as its decimal number of twips.
 const std::u16string kSection(user::kSettingsSection);
 const std::u16string kWindowWidth = u"WindowWidth";
 const std::u16string kWindowHeight = u"WindowHeight";
@@ -63,6 +70,8 @@ frmSub::frmSub() : Form(design()), lookup_(user::IdxWords, data::LookupOptions{}
   wireKeys();
 }
 
+// The pointer's shape is the form's, whichever widget it is over: the splitter sets it, and every
+// other widget sets it back. A drag of the splitter ends on the widget that it is dropped on.
 void frmSub::wireMouse() {
   const auto showOwnPointer = [this](forms::TwipPoint) { setMousePointer(nullptr); };
   onMouseMove = showOwnPointer;
@@ -89,6 +98,8 @@ void frmSub::wireKeys() {
 }
 
 void frmSub::Form_Load() {
+  // Deliberate: the list is filled before the sizes are read. An unusable size stops the loading
+  // with a message; the window then works in its design size.
   MaxCount = kMaxListed;
   Adodc1.setConnectionString(user::ConnectionString);
   const std::u16string sql = makeStrSql(user::getEorC(kFirstWord), kFirstWord);
@@ -97,6 +108,7 @@ void frmSub::Form_Load() {
 }
 
 void frmSub::Form_Resize() {
+  // Setting the size raises this event again, for a size that snaps to itself.
   const lookup::Size wanted{width(), height()};
   const lookup::Size size = lookup::snapSize(wanted);
   if (size != wanted) setSize(size.width, size.height);
@@ -106,6 +118,7 @@ void frmSub::Form_Resize() {
   placeListAndPane();
 }
 
+// Also after every drag, wherever it ended: the splitter that was dragged goes back to its place.
 void frmSub::placeListAndPane() {
   const int listWidth = TreeView1.width();
   const lookup::Layout layout = lookup::layOut(lookup::snapSize({width(), height()}), listWidth);
@@ -114,9 +127,11 @@ void frmSub::placeListAndPane() {
   txtOut.move(layout.pane);
 }
 
+// Deliberate: at every paint, since other topmost windows may have come above it. Never activates.
 void frmSub::Form_Paint() { bringToTop(); }
 
 void frmSub::Form_Unload() {
+  // Deliberate: whether or not the focus paused capture.
   ScreenWord::StartCapture();
   setMousePointer(nullptr);
   writeSizes();
@@ -128,6 +143,7 @@ void frmSub::txtInput_Change() try {
     case user::Typed::kNothing:
       break;
     case user::Typed::kRefused:
+      // Deliberate: in this order. Emptying the box raises this event again, for an empty text.
       txtInput.setText({});
       beep();
       txtOut.setText({});
@@ -137,9 +153,10 @@ void frmSub::txtInput_Change() try {
       break;
   }
 } catch (const std::exception&) {
-  // Typing is never interrupted: the list keeps what it shows.
+  // Typing is never interrupted by a message; the list keeps what it shows.
 }
 
+// What is typed here must not be captured itself.
 void frmSub::txtInput_GotFocus() { ScreenWord::StopCapture(); }
 
 void frmSub::txtInput_LostFocus() { ScreenWord::StartCapture(); }
@@ -164,6 +181,7 @@ void frmSub::txtOut_DragDrop(const forms::Widget& source, forms::TwipPoint place
 }
 
 void frmSub::txtOut_MouseUp(forms::TwipPoint place) {
+  // The menu opens without a selection as well, with both items disabled.
   const bool selected = txtOut.selLength() != 0;
   mnuOper.item(mnuSearch_).enabled = selected;
   mnuOper.item(mnuCopy_).enabled = selected;
@@ -173,6 +191,8 @@ void frmSub::txtOut_MouseUp(forms::TwipPoint place) {
 }
 
 void frmSub::mnuSearch_Click() {
+  // Setting the text raises Change, which looks the selection up. The pane may show another text
+  // afterwards, whose selection is empty already.
   txtInput.setText(text::onOneLine(txtOut.selText()));
   txtOut.select(txtOut.selStart(), 0);
 }
@@ -183,7 +203,7 @@ void frmSub::showSplitterPointer() { setMousePointer(IDC_SIZEWE); }
 
 void frmSub::Image1_MouseMove() {
   showSplitterPointer();
-  Image1.setToolTip(u"拖动以调解窗体宽度");
+  Image1.setToolTip(u"拖动以调解窗体宽度");  // Deliberate: the wording
 }
 
 void frmSub::Image1_MouseDown() {
@@ -205,8 +225,11 @@ void frmSub::readSizes() {
   TreeView1.setWidth(treeWidth);
 }
 
+// A value that is not a number of 16 bits, or is negative, is an error that the user sees: nothing
+// but an edit of the file by hand makes one.
 int frmSub::readSize(const std::u16string& key, int fallback) const {
   const std::u16string value = user::getINIProfileString(kSection, key, {}, settingsPath_);
+  // Deliberate: the file's own path as a value counts as absent too.
   if (value.empty() || value == settingsPath_) return fallback;
   const auto size = user::toInteger16(value);
   if (!size || *size < 0) throw unusable(key, value, settingsPath_);
@@ -214,11 +237,11 @@ int frmSub::readSize(const std::u16string& key, int fallback) const {
 }
 
 void frmSub::writeSizes() const {
-  // Loading that failed before the sizes were read must not replace those that are stored.
+  // If loading failed before the sizes were read, the stored ones are kept.
   if (settingsPath_.empty()) return;
   user::WriteINIProfileString(kSection, kWindowWidth, text::decimal(width()), settingsPath_);
   user::WriteINIProfileString(kSection, kWindowHeight, text::decimal(height()), settingsPath_);
-  // A window that was narrowed may have left its list too wide for it.
+  // The list of a window that was narrowed may be too wide for it.
   const int treeWidth = lookup::widthToKeep({width(), height()}, TreeView1.width());
   user::WriteINIProfileString(kSection, kTreeWidth, text::decimal(treeWidth), settingsPath_);
 }

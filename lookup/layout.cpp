@@ -6,9 +6,9 @@ namespace lookup {
 namespace {
 
 constexpr int kMargin = 30;
-constexpr int kTop = 600;
+constexpr int kTop = 600;  // of list, splitter and pane
 constexpr int kSplitterWidth = 20;
-constexpr int kBelowTop = 1000;
+constexpr int kBelowTop = 1000;  // the window's height less theirs: the row above and the frame
 constexpr int kNarrowestDrop = 1600;
 
 }  // namespace
@@ -17,6 +17,7 @@ Size snapSize(Size size) {
   return {size.width < 3600 ? 3500 : size.width, size.height < 2900 ? 2800 : size.height};
 }
 
+// From left to right: margin, list, splitter, pane, and 150 twips: a margin and the frame.
 Layout layOut(Size window, int listWidth) {
   const int height = window.height - kBelowTop;
   Layout layout;
@@ -36,6 +37,7 @@ bool leavesRoomForPane(Size window, int listWidth) {
   return layOut(snapSize(window), listWidth).pane.width > 0;
 }
 
+// A drop at 0 asks for no more than the list has, and is limited like any other.
 int widthToKeep(Size size, int listWidth) {
   if (leavesRoomForPane(size, listWidth)) return listWidth;
   return widthAfterDropOnPane(snapSize(size).width, listWidth, 0);
@@ -44,6 +46,7 @@ int widthToKeep(Size size, int listWidth) {
 int widthAfterDropOnList(int x) { return x < kNarrowestDrop ? kNarrowestDrop : x - kMargin; }
 
 int widthAfterDropOnPane(int windowWidth, int listWidth, int x) {
+  // Integer division: the limit is rounded down.
   const int limit = windowWidth < 7700 ? (windowWidth - 3500) / 3 + 1650 : 3000;
   return std::min(listWidth + x, limit);
 }

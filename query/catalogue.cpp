@@ -4,6 +4,8 @@
 
 namespace query {
 
+// Rows are updated while the set is walked through; an updated row shows its new value at once.
+// Only rows that carry the flag wrongly are written besides the chosen one.
 void chooseDefault(data::RecordSet& catalogue, std::size_t chosen) {
   const std::size_t count = catalogue.recordCount();
   catalogue.moveFirst();

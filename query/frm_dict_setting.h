@@ -25,7 +25,11 @@ class DefaultList : public forms::TreeView {
 
 }  // namespace query
 
-/// 字典设置: lists all subject dictionaries and makes the one that is clicked the default.
+/// 字典设置, the dictionary settings: lists all subject dictionaries and makes the one that the
+/// user chooses the default, in the database and at once. Deliberate: it lists those that are not
+/// shown as well; if one of them is the default, frmMain selects the first shown one. Errors reach
+/// the handler of uncaught errors. Capture is off while it is the active window, and on again once
+/// it is closed.
 class frmdictSetting : public forms::Form {
  public:
   frmdictSetting();

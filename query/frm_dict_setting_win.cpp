@@ -9,6 +9,9 @@
 #include "query/layout.h"
 #include "query/subject_search.h"
 
+// The record set stays the one that loading made: node i is its row i, since both are in the order
+// of the names and neither is sorted again while the window is open. It holds rows that were read,
+// not an open statement, so that the window does not block a writer.
 namespace {
 
 forms::FormDesign design() {
@@ -28,7 +31,7 @@ forms::FormDesign design() {
 frmdictSetting::frmdictSetting() : Form(design()) {
   TreeView2.setPicture(forms::Picture(IDI_DICTIONARY));
   TreeView2.keepHighlight();
-  // Looking through the list must not write.
+  // Moving the highlight by the keys must not write to the database.
   TreeView2.chooseOnlyExpressly();
   TreeView2.onNodeClick = [this](std::size_t node) { TreeView2_NodeClick(node); };
   onEscape = [this] { unload(); };
@@ -44,9 +47,11 @@ void frmdictSetting::Form_Load() {
   const std::size_t count = rows.recordCount();
   for (std::size_t i = 1; i <= count; ++i) {
     TreeView2.add(rows.field(u"cname").text);
+    // Deliberate: each that is flagged is selected in turn, so that the last one remains.
     if (rows.field(u"default").integer == 1) TreeView2.select(i);
     rows.moveNext();
   }
+  // Deliberate: the three blanks.
   Text3.setText(u"   选择默认查词词典，在多功能查询窗体启动时将直接选择该词典。");
 }
 
@@ -60,13 +65,14 @@ void frmdictSetting::Form_Activate() { ScreenWord::StopCapture(); }
 
 void frmdictSetting::Form_Unload() {
   ScreenWord::StartCapture();
+  // frmMain shows the new default at once.
   if (user::MainOpen) forms::form<frmMain>().iniTree();
 }
 
 void frmdictSetting::TreeView2_NodeClick(std::size_t node) try {
   query::chooseDefault(Adodc1.recordset(), node);
 } catch (...) {
-  // The list goes on showing what is stored.
+  // The highlight goes back to what is stored.
   TreeView2.show(query::lastDefault(Adodc1.recordset()));
   throw;
 }
@@ -78,6 +84,9 @@ void frmdictSetting::loadRecords(data::DataControl& recordSource, std::u16string
 
 namespace query {
 
+// The control's own behaviour is to highlight its first node when it gets the focus with none
+// highlighted. Here a highlight means the default dictionary, so it is taken back at once, and the
+// first key that moves the highlight is handled here.
 void DefaultList::show(std::size_t number) {
   if (number != 0) {
     select(number);
@@ -91,7 +100,6 @@ LRESULT DefaultList::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message != WM_SETFOCUS || selected() != 0) {
     return TreeView::handleMessage(message, wParam, lParam);
   }
-  // The control highlights its first node when it gets the focus.
   const LRESULT result = TreeView::handleMessage(message, wParam, lParam);
   show(0);
   return result;

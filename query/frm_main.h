@@ -15,30 +15,34 @@
 #include "forms/tree_view.h"
 
 /// 多功能查询, the multi-dictionary query window: searches one of the shown subject dictionaries at
-/// a time and lists what it finds.
+/// a time and lists what it finds, one line an entry. Capture is off while txtInput has the focus.
+/// user::MainOpen is set from its loading to its unloading.
 class frmMain : public forms::Form {
  public:
   frmMain();
 
   forms::Label Label2{*this, u"输入：", {}};
   forms::TextBox txtInput{*this, {}};
-  forms::Button cmdOK{*this, u"确定", {}};
-  forms::Button Command1{*this, u"高级", {}};
-  forms::Button cmdSpc{*this, u"特殊", {}};
+  forms::Button cmdOK{*this, u"确定", {}};     ///< searches by the beginning
+  forms::Button Command1{*this, u"高级", {}};  ///< searches for any part
+  forms::Button cmdSpc{*this, u"特殊", {}};    ///< opens frmSpc
   forms::Label Label5{*this, u"请选择字典：", {}};
-  forms::TreeView TreeView1{*this, {}};
-  forms::ColumnTree TreeView2{*this, {}};
+  forms::TreeView TreeView1{*this, {}};    ///< the dictionaries
+  forms::ColumnTree TreeView2{*this, {}};  ///< the result lines
   data::DataControl Adodc1;
 
-  /// Fills the tree of dictionaries anew and selects the default one.
+  /// Fills the tree of dictionaries anew and selects the default one, or the first if none is
+  /// flagged. Shows a message if there are none. Throws data::Error.
   void iniTree();
-  /// Writes the rows of `recordSource`, at most `maxRows`, as lines into `tree`. Ends silently on
-  /// an error.
+  /// Writes the rows of `recordSource`, at most `maxRows`, as lines into `tree`. On an error it
+  /// stops without a message; the lines already written stay.
   void MakeTree(data::DataControl& recordSource, forms::TreeView& tree, std::int16_t maxRows);
-  /// Lists the entries whose English side contains `englishText` and whose Chinese side contains
-  /// `chineseText`.
+  /// Lists the entries of the selected dictionary whose English side contains `englishText` and
+  /// whose Chinese side contains `chineseText`. Throws data::Error: for a quote in either text, or
+  /// if no dictionary is selected.
   void SpcSearch(std::u16string& englishText, std::u16string& chineseText);
 
+  // State that no widget shows; for tests and measurements.
   /// Table of the selected dictionary; "" for none.
   [[nodiscard]] const std::u16string& selectedTable() const { return curTable; }
   /// Node of the dictionary that was clicked last, from 1; 0 before the first click.
@@ -62,7 +66,7 @@ class frmMain : public forms::Form {
   static void runQuery(data::DataControl& recordSource, std::u16string_view sql);
   void search(std::u16string_view mode, std::int16_t maxRows);
 
-  std::vector<std::u16string> tableNames;
+  std::vector<std::u16string> tableNames;  ///< of node i + 1
   std::u16string curTable;
   std::u16string_view curField;
   std::int16_t curIndex = 0;

@@ -15,6 +15,12 @@
 #include "query/layout.h"
 #include "query/subject_search.h"
 
+// A search takes three steps: makeQuerySql or specialSql builds the text, runQuery runs it and
+// reports an empty result, MakeTree writes the rows into the tree. The dictionaries are rows of
+// [Index], in the order of their nodes; only their tables' names are kept.
+//
+// Errors: the handlers of loading and of both searches show one message for whatever goes wrong and
+// end; MakeTree ends without one; those of the special query are not caught.
 namespace {
 
 /// Rows that the searches list at most, as their SQL texts ask for.
@@ -25,7 +31,7 @@ constexpr std::int16_t kMaxSpecialRows = 200;
 forms::FormDesign design() {
   forms::FormDesign design;
   design.name = u"frmMain";
-  design.caption = u" 多功能查询 V1.3";
+  design.caption = u" 多功能查询 V1.3";  // Deliberate: the blank
   design.width = query::kOpeningWidth;
   design.height = query::kOpeningHeight;
   design.leastWidth = query::kMinWidth;
@@ -33,6 +39,8 @@ forms::FormDesign design() {
   design.iconResource = forms::kProgramIcon;
   return design;
 }
+
+// Messages that several handlers show.
 
 void tellToChooseDictionary() {
   forms::showMessage(u"请选择字典！", forms::MessageIcon::kExclamation);
@@ -57,7 +65,7 @@ frmMain::frmMain() : Form(design()) {
   cmdOK.onClick = [this] { cmdOK_Click(); };
   Command1.onClick = [this] { Command1_Click(); };
   cmdSpc.onClick = [this] { cmdSpc_Click(); };
-  // In the trees too, Enter searches: the highlight has chosen the dictionary already.
+  // Enter searches from the trees as well: moving the highlight has chosen the dictionary already.
   TreeView1.onKeyDown.erase(VK_RETURN);
   TreeView2.onKeyDown.erase(VK_RETURN);
   onEnter = [this] { cmdOK_Click(); };
@@ -66,6 +74,7 @@ frmMain::frmMain() : Form(design()) {
 
 void frmMain::Form_Load() try {
   centre();
+  // Set first: the window is open even if no dictionary can be read.
   user::MainOpen = true;
   Adodc1.setConnectionString(user::ConnectionString);
   Adodc1.setCacheKiB(data::kSearchCacheKiB);
@@ -88,15 +97,17 @@ void frmMain::Form_Resize() {
 
 void frmMain::Form_Unload() {
   user::MainOpen = false;
-  // The box loses the focus with its window.
+  // The window goes without raising the box's LostFocus.
   if (GetFocus() == txtInput.handle()) txtInput_LostFocus();
 }
 
+// What is typed here must not be captured itself.
 void frmMain::txtInput_GotFocus() { ScreenWord::StopCapture(); }
 
 void frmMain::txtInput_LostFocus() { ScreenWord::StartCapture(); }
 
 void frmMain::TreeView1_NodeClick(std::size_t node) {
+  // A node that is clicked but not selected changes nothing.
   if (TreeView1.selected() != node) return;
   curIndex = forms::toInt16(static_cast<std::int64_t>(node));
   curTable = tableNames.at(node - 1);
@@ -119,6 +130,7 @@ void frmMain::Command1_Click() try {
 }
 
 void frmMain::cmdSpc_Click() {
+  // If it is open already, it comes to the front where the user has moved it.
   const bool opens = !forms::isLoaded<frmSpc>();
   auto& dialog = forms::form<frmSpc>();
   if (opens) dialog.centre(*this);
@@ -129,6 +141,7 @@ void frmMain::cmdSpc_Click() {
 }
 
 void frmMain::search(std::u16string_view mode, std::int16_t maxRows) {
+  // Deliberate: not trimmed; blanks alone are searched for as typed.
   std::u16string text = txtInput.text();
   if (text.empty()) {
     forms::showMessage(u"查询条件不为空！", forms::MessageIcon::kExclamation);
@@ -148,6 +161,7 @@ void frmMain::iniTree() {
   TreeView1.clear();
   data::RecordSet& rows = Adodc1.recordset();
   if (rows.empty()) {
+    // Deliberate: curTable stays, so that searches still run against the table chosen before.
     tellToChooseDictionary();
     return;
   }
@@ -156,8 +170,10 @@ void frmMain::iniTree() {
   curTable.clear();
   rows.moveFirst();
   for (std::size_t i = 1; i <= tableNames.size(); ++i) {
+    // Deliberate: by position, 1 TableName, 2 Cname, 4 default.
     TreeView1.add(rows.field(2).text);
     tableNames[i - 1] = rows.field(1).text;
+    // Of several defaults the last one wins.
     if (rows.field(4).integer == 1) {
       TreeView1.select(i);
       curTable = tableNames[i - 1];
@@ -170,6 +186,7 @@ void frmMain::iniTree() {
   }
 }
 
+// The caller's text is changed; it is a copy of the input box's.
 std::u16string frmMain::makeQuerySql(std::u16string& text, std::u16string_view mode) {
   query::Search search = query::makeQuerySql(text, mode, curTable);
   curField = search.column;
@@ -190,11 +207,13 @@ void frmMain::MakeTree(data::DataControl& recordSource, forms::TreeView& tree,
   std::optional<forms::ScopedRepaintHold> held(tree);
   data::RecordSet& rows = recordSource.recordset();
   if (rows.empty()) {
+    // Deliberate: the nodes stay, without a text.
     for (std::size_t node = 1; node <= nodeCount; ++node) tree.setText(node, {});
     return;
   }
   const std::int16_t width = query::sampleWidth(rows);
   rows.moveFirst();
+  // Nodes are reused, as in the quick lookup window.
   std::size_t written = 0;
   for (int i = 1; i <= maxRows && !rows.endOfFile(); ++i) {
     const std::u16string line = query::resultLine(rows, width);
@@ -208,7 +227,7 @@ void frmMain::MakeTree(data::DataControl& recordSource, forms::TreeView& tree,
   }
   tree.refresh();
   for (std::size_t surplus = written; surplus < nodeCount; ++surplus) tree.remove(written + 1);
-  // Not while the repaint is held: the control may not know yet how far it scrolls.
+  // After the repaint is released: until then the control may not know how far it can scroll.
   held.reset();
   tree.scrollToBeginning();
 } catch (const std::exception&) {
@@ -216,7 +235,10 @@ void frmMain::MakeTree(data::DataControl& recordSource, forms::TreeView& tree,
 }
 
 void frmMain::SpcSearch(std::u16string& englishText, std::u16string& chineseText) {
+  // Deliberate: nothing is caught, and curTable is not checked; without a dictionary the query
+  // fails.
   runQuery(Adodc1, query::specialSql(curTable, englishText, chineseText));
   MakeTree(Adodc1, TreeView2, kMaxSpecialRows);
+  // A record of what was asked, also if nothing was found. Nothing is searched for by this.
   txtInput.setText(query::specialInput(englishText, chineseText));
 }

@@ -28,11 +28,14 @@ frmSpc::frmSpc() : Form(design()) {
   onEscape = [this] { cmdCancel_Click(); };
 }
 
+// Activation comes with every return to the dialog, so capture is off again after the user was in
+// another window.
 void frmSpc::Form_Activate() { ScreenWord::StopCapture(); }
 
 void frmSpc::Form_Unload() { ScreenWord::StartCapture(); }
 
 void frmSpc::cmdOK_Click() {
+  // Blanks alone count as empty, unlike in frmMain's input box.
   std::u16string e(text::trimBlanks(txtE.text()));
   std::u16string c(text::trimBlanks(txtC.text()));
   if (e.empty() || c.empty()) {

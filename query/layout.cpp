@@ -7,7 +7,8 @@
 namespace query {
 namespace {
 
-constexpr int kMargin = 120;
+// Twips, for texts of 9 points.
+constexpr int kMargin = 120;  // between widgets and at the edges
 constexpr int kRowHeight = 360;
 constexpr int kLabelHeight = 270;
 /// Centres a label's text beside a box or button.
@@ -22,6 +23,8 @@ constexpr int kHintHeight = 660;
 Layout layOut(int width, int height) {
   const int right = std::max(width, kMinWidth) - forms::kFrameWidth - kMargin;
   const int bottom = std::max(height, kMinHeight) - forms::kFrameHeight - kMargin;
+  // The buttons stand at the right edge, numbered from there; the input box fills the rest of the
+  // row. The trees share what is below.
   const auto button = [&](int fromRight) {
     const int left = right - (fromRight * (kButtonWidth + kMargin)) - kButtonWidth;
     return Box{left, kMargin, kButtonWidth, kRowHeight};
@@ -45,6 +48,7 @@ Layout layOut(int width, int height) {
   return layout;
 }
 
+// The hint keeps its height at the bottom; the list takes the rest.
 SettingsLayout layOutSettings(int width, int height) {
   const int right = std::max(width, kSettingsMinWidth) - forms::kFrameWidth - kMargin;
   const int bottom = std::max(height, kSettingsMinHeight) - forms::kFrameHeight - kMargin;

@@ -3,7 +3,7 @@
 #include "forms/geometry.h"
 
 /// Where the widgets of the windows that can be resized go. All lengths in twips of the window's
-/// DPI; widths and heights of windows as the forms count them.
+/// DPI; sizes of windows are outer sizes as Form::width counts them. All functions are pure.
 namespace query {
 
 using Box = forms::WidgetBox;
@@ -12,7 +12,7 @@ using Box = forms::WidgetBox;
 inline constexpr int kOpeningWidth = 10500;
 inline constexpr int kOpeningHeight = 7200;
 
-/// The smallest size in which every widget can be used.
+/// The smallest size in which every widget can be used; the user cannot go below it.
 inline constexpr int kMinWidth = 6600;
 inline constexpr int kMinHeight = 3600;
 

@@ -5,11 +5,17 @@
 #include "text/query_text.h"
 #include "text/strings.h"
 
+// The SQL texts are fixed, to the blank. Both searches of makeQuerySql are one text with four
+// parameters: how many rows, which columns, which column is searched and sorted, and whether the
+// pattern has a "%" before the text. specialSql is another text: two blanks, two patterns, no
+// order.
 namespace query {
 namespace {
 
+/// Columns between the mean word and the meanings.
 constexpr std::size_t kGap = 10;
 
+/// Rounds halves to even.
 std::size_t roundedMean(std::size_t sum, std::size_t count) {
   const std::size_t whole = sum / count;
   const std::size_t twiceRest = 2 * (sum % count);
@@ -22,6 +28,7 @@ std::size_t roundedMean(std::size_t sum, std::size_t count) {
 using text::joined;
 
 Search makeQuerySql(std::u16string& text, std::u16string_view mode, std::u16string_view table) {
+  // Wildcards first: neither conversion yields a character of the other.
   text = user::convertWildcard(text);
   user::escapeQuote(text);
   const bool english = user::getEorC(text) == user::kEnglish;
@@ -55,6 +62,7 @@ std::int16_t sampleWidth(data::RecordSet& rows) {
   std::size_t columns = 0;
   std::size_t counted = 0;
   rows.moveFirst();
+  // The set is not empty, so there is a first row.
   do {
     columns += user::displayLength(rows.field(u"word").text);
     ++counted;

@@ -5,8 +5,8 @@
 // A single-slot mailbox, latest wins: arming overwrites the slot (waiting_) and never queues. What
 // the arming thread sees is state_:
 //
-//     kIdle       nothing is armed, or the answer was no word
-//     kArmed      a question waits or is being worked on
+//     kIdle       nothing is armed
+//     kArmed      a question waits, is being worked on, or was answered without a word
 //     kAnnounced  its word is in word_, and the host was notified
 //     kFetched    disarmed after that; word_ stays for the host's message handler
 //

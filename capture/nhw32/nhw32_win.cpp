@@ -27,6 +27,8 @@ std::optional<std::string> toAnsi(std::u16string_view character) {
 
 }  // namespace
 
+// The service lives until the program ends. Its worker may wait for a window then, and ends with
+// the process.
 Service& service() {
   static Service instance(makeWindowReader, RegisterWindowMessageA(kMessageName));
   return instance;
@@ -42,6 +44,7 @@ void BL_SetFlag32(std::uint32_t flag, HWND window, std::int16_t x, std::int16_t 
 }
 
 void BL_GetText32(char* buffer, std::int32_t size, RECT* word) {
+  // Asked once: the word may be withdrawn between two calls.
   const Word found = service().word().value_or(Word{});
   if (word != nullptr) {
     *word = {found.box.left, found.box.top, found.box.right, found.box.bottom};

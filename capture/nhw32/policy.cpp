@@ -18,6 +18,7 @@ constexpr char16_t lower(char16_t unit) {
   return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
 }
 
+/// ASCII case-insensitive, as class names are for Windows.
 bool isEdit(std::u16string_view name) {
   return std::ranges::any_of(kEditClasses, [&](std::u16string_view known) {
     return std::ranges::equal(known, name, {}, lower, lower);
@@ -37,6 +38,8 @@ Outcome outcomeOfSendTimeout(std::uint32_t lastError) {
                                                                   : Outcome::kRefused;
 }
 
+// A window without a record may be asked. Records are few (kMaxWindows), so a linear search does. A
+// handle that Windows gives to a new window has its predecessor's record until it answers once.
 bool Backoff::mayAsk(WindowId window, Time now) const {
   const auto record = std::ranges::find(records_, window, &Record::window);
   return record == records_.end() || now >= record->until;

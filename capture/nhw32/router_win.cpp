@@ -26,8 +26,9 @@ std::u16string realClassOf(HWND window) {
   return {name.begin(), name.begin() + length};
 }
 
-/// Chooses the reader by the window's class. A window that has the class name of a text control but
-/// no lines is no text control, and is read by UI Automation.
+/// Chooses the reader by the window's class, for each question anew, since handles are reused. A
+/// window that has the class name of a text control but no lines is no text control, and is read by
+/// UI Automation.
 class WindowReader : public WordReader {
  public:
   Answer wordAt(const Question& question) override try {
@@ -46,6 +47,7 @@ class WindowReader : public WordReader {
 
 }  // namespace
 
+// The back-off is outermost: it applies to whichever reader a window gets.
 std::unique_ptr<WordReader> makeWindowReader() {
   return std::make_unique<BackoffReader>(std::make_unique<WindowReader>());
 }

@@ -9,6 +9,10 @@
 #include "capture/nhw32/uia/geometry.h"
 #include "capture/nhw32/uia/text.h"
 
+// The client is created by the first question and kept. It runs in this process, on this thread,
+// and calls the providers in other processes; the time limits that it is given apply to each call,
+// those of UiaCalls to a question. CUIAutomation8 is the class of Windows 8 and later; the older
+// one is tried where it is missing.
 namespace nhw32 {
 namespace {
 
@@ -80,7 +84,7 @@ class UiaReader : public WordReader {
     const auto pattern = textPatternAt(*client_.Get(), question, calls);
     if (!pattern) return {};
     auto word = wordUnder(*pattern.Get(), question.point, calls);
-    // The window may have been closed, moved or resized meanwhile.
+    // The window may have been closed, moved, resized or hidden meanwhile.
     if (!word || placeOf(window) != place) return {};
     return {Outcome::kWord, std::move(*word)};
   }

@@ -4,6 +4,7 @@
 
 namespace nhw32 {
 
+// A locked array cannot be destroyed.
 UniqueDoubleArray::~UniqueDoubleArray() {
   if (locked_) SafeArrayUnaccessData(array_);
   SafeArrayDestroy(array_);
@@ -22,12 +23,14 @@ std::span<const double> UniqueDoubleArray::values() {
     return {};
   }
   locked_ = true;
+  // In 64 bits: the bounds may be any 32-bit numbers.
   const auto count = static_cast<std::size_t>(static_cast<long long>(last) - first + 1);
   return {static_cast<const double*>(data), count};
 }
 
 ScopedCom::ScopedCom() : ready_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED))) {}
 
+// Only a successful CoInitializeEx is to be balanced; S_FALSE (initialised already) is one.
 ScopedCom::~ScopedCom() {
   if (ready_) CoUninitialize();
 }

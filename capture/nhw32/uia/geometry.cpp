@@ -47,6 +47,7 @@ bool isBlank(char16_t unit) {
 
 std::optional<ScreenBox> boxUnder(std::span<const double> rectangles, ScreenPoint point) {
   if (rectangles.size() % kNumbers != 0) return std::nullopt;
+  // One rectangle a line of text. An invalid one makes those after it doubtful.
   for (; !rectangles.empty(); rectangles = rectangles.subspan(kNumbers)) {
     const Rectangle next{rectangles[0], rectangles[1], rectangles[2], rectangles[3]};
     if (!onScreen(next)) return std::nullopt;
@@ -57,6 +58,7 @@ std::optional<ScreenBox> boxUnder(std::span<const double> rectangles, ScreenPoin
 
 bool isOneCharacter(std::u16string_view text) { return text.size() == 1 || text.size() == 2; }
 
+// A unit that is one word is the whole of the text without its blanks.
 std::u16string_view onlyWord(std::u16string_view text) {
   while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
   while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
