@@ -57,7 +57,7 @@ TEST(Nhw32Awareness, TheWorkerCountsInPhysicalPixels) {
   EXPECT_TRUE(eventually([&] { return service.workers() == 0; }));
 }
 
-TEST(Nhw32Awareness, AControlIsReadInThePixelsOfItsProgram) {
+TEST(Nhw32Awareness, AWindowIsAskedInThePixelsOfItsProgram) {
   const ScopedAwareness aware(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
   for (const auto& [context, awareness] :
        {std::pair{DPI_AWARENESS_CONTEXT_UNAWARE, DPI_AWARENESS_UNAWARE},
@@ -67,16 +67,10 @@ TEST(Nhw32Awareness, AControlIsReadInThePixelsOfItsProgram) {
       const ScopedAwareness target(context);
       window.emplace(L"EDIT", RECT{300, 300, 500, 340}, L"word");
     }
-    bool asked = false;
-    const nhw32::Question question{reinterpret_cast<nhw32::WindowId>(window->handle()), {310, 310}};
-    static_cast<void>(nhw32::answerOfControl(
-        question,
-        [&](const nhw32::TargetWindow&, nhw32::ScreenPoint) -> std::optional<nhw32::PlacedWord> {
-          asked = true;
-          EXPECT_EQ(threadAwareness(), awareness);
-          return std::nullopt;
-        }));
-    EXPECT_TRUE(asked);
+    {
+      const nhw32::ScopedTargetAwareness asking(window->handle());
+      EXPECT_EQ(threadAwareness(), awareness);
+    }
     EXPECT_EQ(threadAwareness(), DPI_AWARENESS_PER_MONITOR_AWARE) << "restored afterwards";
   }
 }
