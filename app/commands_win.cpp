@@ -12,6 +12,8 @@
 #include "query/frm_main.h"
 #include "win32/program.h"
 
+// The commands are constants, initialised before any code runs; opening a window creates it on the
+// first reference.
 namespace app {
 namespace {
 

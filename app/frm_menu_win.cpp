@@ -28,6 +28,8 @@ frmMenu::frmMenu() : Form(design()) {
   checkMouse(true);
 }
 
+// Dropping the menu down counts as this form's gaining focus, leaving it in whatever way as losing
+// it, before the chosen command runs.
 void frmMenu::popUp(const forms::Form& owner, POINT screen, const forms::Widget& opener) {
   Form_GotFocus();
   const forms::PopupMenu::Item* chosen = mnu_file.choose(owner, screen, &opener);

@@ -8,6 +8,7 @@ int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*comm
                     int /*show*/) {
   // Whatever loads a library by its plain name finds it in the system directory or not at all.
   SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
+  // From here on an error that a handler lets out is shown in a box.
   forms::setErrorHandler(forms::showErrorBox);
   forms::guard([] { forms::form<frmTop>(); });
   if (!forms::isLoaded<frmTop>()) return 1;

@@ -20,6 +20,7 @@ void Button::setPicture(const Picture& picture) {
   showPicture();
 }
 
+// The picture keeps the icon alive; the control does not own it.
 void Button::showPicture() {
   HICON icon = picture_.icon(toPixels(kPictureTwips, form().dpi()));
   send(BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon));

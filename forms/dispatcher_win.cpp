@@ -3,6 +3,9 @@
 #include "forms/exception_barrier.h"
 #include "win32/win32.h"
 
+// A message-only window: DispatchMessage reaches it from any message loop of the thread. Posted
+// messages come before input in the queue, timer messages after it. A tick copies its handler,
+// which may stop the timer and so destroy the original.
 namespace forms {
 namespace {
 

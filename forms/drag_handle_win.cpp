@@ -2,6 +2,9 @@
 
 #include "forms/geometry.h"
 
+// STATIC draws nothing here: WM_PAINT is handled. Every button captures the mouse while it is down,
+// so that the release comes here wherever the pointer is; WM_CAPTURECHANGED, also from another
+// window that takes the mouse, ends the drag.
 namespace forms {
 namespace {
 
@@ -99,6 +102,7 @@ void DragHandle::cancelDrag() {
   onDragEnded.raise();
 }
 
+// The left edge follows the pointer, without the offset of the press; y stays.
 void DragHandle::follow(POINT screen) {
   ScreenToClient(form().handle(), &screen);
   SetWindowPos(handle(), nullptr, screen.x, toPixels(top(), form().dpi()), 0, 0,

@@ -4,6 +4,8 @@
 #include "text/utf.h"
 #include "win32/win32.h"
 
+// Function-local statics, since handlers may run before other sources' globals are constructed and
+// after they are destroyed. All are trivially destructible.
 namespace forms {
 namespace {
 

@@ -8,6 +8,8 @@
 // into calls of focus.h and stacking.h, which put in order what Windows sends in another one.
 namespace forms {
 
+// WM_NCCREATE is the first message that carries the form, WM_NCDESTROY the last message of all;
+// those before and after get the system's default.
 LRESULT CALLBACK Form::windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_NCCREATE) {
     auto* form = static_cast<Form*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
@@ -30,6 +32,7 @@ LRESULT CALLBACK Form::windowProc(HWND window, UINT message, WPARAM wParam, LPAR
 LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SIZE:
+      // Nothing is laid out while minimised; restoring counts as a new size.
       if (wParam == SIZE_MINIMIZED) {
         resizedFor_ = {-1, -1};
       } else if (shown_) {
@@ -41,6 +44,8 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       paint();
       return 0;
     case WM_ACTIVATE:
+      // The control that had the focus gets it back when the form is active again, which a dialog
+      // does but an ordinary window does not.
       if (LOWORD(wParam) == WA_INACTIVE) {
         if (HWND focus = GetFocus(); IsChild(handle_, focus)) lastFocus_ = focus;
       } else if (HIWORD(wParam) == 0) {
@@ -116,6 +121,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (design_.closable) unload();
       return 0;
     case WM_ENDSESSION:
+      // The process may end as soon as this returns: what Form_Unload keeps is written now.
       if (wParam != FALSE) unload();
       return 0;
     default:
@@ -124,6 +130,8 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return DefWindowProcW(handle_, message, wParam, lParam);
 }
 
+// Controls send their notifications from their own message handling, before the message loop has
+// raised the focus events that are due: those come first.
 void Form::command(WORD code, HWND control, WORD id) const {
   raisePendingFocusEvents();
   if (Widget* widget = widgetOf(control)) {
@@ -171,6 +179,9 @@ void Form::giveFocusBack() {
   if (target != nullptr) SetFocus(target);
 }
 
+// A maximised window takes the rectangle that Windows suggests; any other keeps its size in twips,
+// and its place is the suggested one, so that it does not leap between two monitors while it is
+// dragged.
 void Form::rescale(int dpi, const RECT& suggested) {
   dpi_ = dpi;
   resizedFor_ = {-1, -1};

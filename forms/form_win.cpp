@@ -95,6 +95,10 @@ Form::~Form() {
   DestroyWindow(std::exchange(handle_, nullptr));
 }
 
+// One window class a form. Registering it again, when the form is loaded anew, fails and changes
+// nothing. windowProc stores the handle at WM_NCCREATE, before CreateWindowEx returns, since the
+// form already gets messages then. The window has no size yet; the DPI is known only once it
+// exists.
 void Form::createWindow() {
   const std::u16string className = u"Lexilo." + design_.name;
   WNDCLASSEXW windowClass{};
@@ -117,6 +121,8 @@ void Form::createWindow() {
   showIcons();
 }
 
+// Loaded at the exact size for the DPI. WM_SETICON does not take ownership: the icons shown before
+// are freed once they are replaced.
 void Form::showIcons() {
   if (design_.iconResource == 0) return;
   bigIcon_ = loadIcon(design_.iconResource, SM_CXICON, dpi_);
@@ -125,6 +131,8 @@ void Form::showIcons() {
   SendMessageW(handle_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(smallIcon_.get()));
 }
 
+// The window procedure tells our forms from other windows, whose user data is no Form. The thread
+// is compared as well: another program's procedure may have the same address.
 Form* Form::of(HWND window) {
   if (window == nullptr || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId() ||
       GetClassLongPtrW(window, GCLP_WNDPROC) != reinterpret_cast<ULONG_PTR>(&windowProc)) {
@@ -133,11 +141,15 @@ Form* Form::of(HWND window) {
   return reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
 }
 
+// Painting raises no event before Form_Load has run.
 void Form::load() {
   guard([this] { Form_Load(); });
   loaded_ = true;
 }
 
+// The first time Form_Resize comes before the window is visible, so that nothing is seen moving.
+// The events of opening are raised before this returns, not by the message loop: the caller goes on
+// with a form that is active.
 void Form::show(Form* owner) {
   if (owner != nullptr) {
     SetWindowLongPtrW(handle_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner->handle()));
@@ -159,6 +171,8 @@ void Form::show(Form* owner) {
 
 void Form::hide() { ShowWindow(handle_, SW_HIDE); }
 
+// Owned forms first, with their events: DestroyWindow destroys owned windows without closing them.
+// From Form_Unload on, no focus event is raised for the form or its widgets.
 void Form::unload() {
   if (unloading_) return;
   for (Form* owned : formsOwnedBy(handle_)) owned->unload();
@@ -186,6 +200,7 @@ void Form::takeClientSize() {
   height_ = outerTwips(client.bottom, frame.cy, dpi_, sizeSet_.cy, height_);
 }
 
+// Limits what the user can do with the frame: setSize limits what code does.
 void Form::limitTracking(MINMAXINFO& limits) const {
   if (design_.frame != Frame::kSizable) return;
   const SIZE largest = outerPixels(kMaxSize, kMaxSize, dpi_);

@@ -4,6 +4,8 @@
 #include <limits>
 #include <stdexcept>
 
+// Products are taken in 64 bits; adding half the denominator before the division rounds halves away
+// from zero.
 namespace forms {
 namespace {
 

@@ -17,6 +17,7 @@ LOGFONTW messageFont(int dpi) {
   return metrics.lfMessageFont;
 }
 
+/// A negative height is that of the letters, as points count, without the line's leading.
 LOGFONTW namedFont(const Font& font, int dpi) {
   constexpr double kPointsPerInch = 72;
   LOGFONTW description{};
@@ -47,6 +48,7 @@ Picture::Picture(int iconResource) : drawings_(std::make_shared<Drawings>()) {
   drawings_->resource = iconResource;
 }
 
+// LoadImage takes the nearest size that the resource holds and scales it.
 HICON Picture::icon(int size) const {
   if (drawings_ == nullptr) return nullptr;
   win32::OwnedIcon& icon = drawings_->bySize[size];

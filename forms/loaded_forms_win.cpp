@@ -2,6 +2,8 @@
 
 #include "forms/exception_barrier.h"
 
+// A form is unloaded from one of its own handlers (a button that closes it), so its object must not
+// be destroyed there: it is moved to a second list, which is emptied between two messages.
 namespace forms {
 namespace {
 

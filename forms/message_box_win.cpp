@@ -56,6 +56,8 @@ class ScopedOtherWindowsDisabled {
 
 }  // namespace
 
+// MessageBox disables its owner only. Timers go on while it is open: a handler that fails then is
+// dropped by reportUncaught, so that there is one box at a time.
 void showMessage(const std::u16string& text, MessageIcon icon, const std::u16string& title) {
   {
     const HWND owner = GetActiveWindow();

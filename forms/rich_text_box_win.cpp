@@ -54,6 +54,7 @@ RichTextBox::RichTextBox(WidgetHost& form, const WidgetBox& box, Look look)
   }
 }
 
+// The formatting rectangle is lost when the control is resized.
 void RichTextBox::keepMargins() {
   const int margin = toPixels(kToolTipMargin, form().dpi());
   RECT inner{};
@@ -125,6 +126,7 @@ void RichTextBox::setSelColor(COLORREF color) {
   send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
 }
 
+// The end of the selection, limited to the visible part: a menu opens there.
 TwipPoint RichTextBox::caretPlace() const {
   CHARRANGE range{};
   send(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
@@ -136,6 +138,7 @@ TwipPoint RichTextBox::caretPlace() const {
           toTwips(std::clamp(point.y, client.top, client.bottom), form().dpi())};
 }
 
+// Not by the control, which would copy no-break spaces, and formats besides the text.
 void RichTextBox::copy() const {
   if (selLength() != 0) setClipboardText(form().handle(), selText());
 }

@@ -55,6 +55,7 @@ std::u16string withFirmBlanks(std::u16string_view text) {
   return firm;
 }
 
+// The control counts each CR LF before the index as one.
 std::size_t controlPosition(std::u16string_view text, std::size_t index) {
   index = std::min(index, text.size());
   std::size_t pairs = 0;
@@ -67,12 +68,14 @@ std::size_t controlPosition(std::u16string_view text, std::size_t index) {
   return index - pairs;
 }
 
+// The inverse: walks the text, as there is no way to jump.
 std::size_t textPosition(std::u16string_view text, std::size_t position) {
   std::size_t at = 0;
   for (; position > 0 && at < text.size(); --position) at += isLineEnd(text, at) ? 2 : 1;
   return at;
 }
 
+// Blanks are kept as they are; only the words between them are broken.
 std::u16string fittedToBox(std::u16string_view text) {
   const std::u16string whole = text::shortened(text, kMaxBoxText);
   std::u16string fitted;

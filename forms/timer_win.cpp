@@ -27,6 +27,7 @@ void Timer::setEnabled(bool enabled) {
   }
 }
 
+// While Form_Unload runs, and the message loop of a box in it, the timer is silent.
 void Timer::start() {
   if (interval_ <= 0) return;
   id_ = Dispatcher::instance().startTimer(static_cast<UINT>(interval_), [this] {
