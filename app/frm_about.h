@@ -20,7 +20,7 @@ class frmAbout : public forms::Form {
   frmAbout();
 
   forms::Label lblTitle{*this, u"Lexilo 专业英汉汉英词典", {300, 210, 5640, 480}};
-  forms::Label lblVersion{*this, u"版本：1.3", {300, 720, 5640, 270}};
+  forms::Label lblVersion{*this, u"版本：" LEXILO_VERSION, {300, 720, 5640, 270}};
   forms::Separator Line1{*this, {300, 1080, 5640, 30}};
   forms::Label lblDescription{
       *this,

@@ -8,6 +8,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(lexilo_options INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
 endif()
 target_include_directories(lexilo_options INTERFACE ${PROJECT_SOURCE_DIR})
+# The version as users read it, "1.3".
+target_compile_definitions(lexilo_options INTERFACE
+  LEXILO_VERSION="${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}")
 target_compile_features(lexilo_options INTERFACE cxx_std_20)
 
 if(WIN32)

@@ -21,7 +21,7 @@ namespace {
 forms::FormDesign design() {
   forms::FormDesign design;
   design.name = u"frmSub";
-  design.caption = u"速查 V1.3";
+  design.caption = u"速查 V" LEXILO_VERSION;
   design.width = 3500;
   design.height = 3200;
   design.topmost = true;

@@ -31,7 +31,7 @@ constexpr std::int16_t kMaxSpecialRows = 200;
 forms::FormDesign design() {
   forms::FormDesign design;
   design.name = u"frmMain";
-  design.caption = u" 多功能查询 V1.3";  // Deliberate: the blank
+  design.caption = u" 多功能查询 V" LEXILO_VERSION;  // Deliberate: the blank
   design.width = query::kOpeningWidth;
   design.height = query::kOpeningHeight;
   design.leastWidth = query::kMinWidth;
