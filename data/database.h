@@ -61,6 +61,7 @@ class Database {
   Database& operator=(const Database&) = delete;
   ~Database() = default;
 
+  /// Path and limits as given: an update opens a connection of its own by them (RecordSet::update).
   [[nodiscard]] const std::string& file() const { return file_; }
   [[nodiscard]] Timeouts timeouts() const { return timeouts_; }
 

@@ -17,6 +17,8 @@ namespace data {
 /// no current row), it is the plain English of engineText().
 class Error : public std::runtime_error {
  public:
+  /// `code` is a result code of the engine, `description` what what() returns; all texts are
+  /// copied.
   Error(int code, const std::string& engineText) : Error(code, engineText, engineText) {}
   Error(int code, const std::string& engineText, const std::string& description)
       : std::runtime_error(description), engineText_(engineText), code_(code) {}

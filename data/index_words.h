@@ -17,11 +17,12 @@ namespace data {
 class IndexWords {
  public:
   IndexWords() = default;
+  /// A list of these words, the first of them in slot 0. For tests.
   IndexWords(std::initializer_list<std::u16string_view> words) {
     for (const std::u16string_view word : words) push_back(word);
   }
 
-  /// The word in a slot below size(); valid until the list changes.
+  /// Returns the word in a slot, which is below size(); valid until the list changes.
   [[nodiscard]] std::u16string_view operator[](std::size_t slot) const {
     const std::size_t begin = slot == 0 ? 0 : ends_[slot - 1];
     return std::u16string_view(words_).substr(begin, ends_[slot] - begin);
@@ -29,6 +30,7 @@ class IndexWords {
   [[nodiscard]] std::size_t size() const { return ends_.size(); }
   [[nodiscard]] bool empty() const { return ends_.empty(); }
 
+  /// Adds a slot. Slots count from 0, so that slot 0 is to be filled with "" first.
   void push_back(std::u16string_view word) {
     words_.append(word);
     ends_.push_back(static_cast<std::uint32_t>(words_.size()));

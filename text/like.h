@@ -68,6 +68,7 @@ class LikePattern {
   /// Keeps a copy of `pattern`, which may be any bytes.
   explicit LikePattern(std::string_view pattern);
 
+  /// Returns whether `text`, in UTF-8, is LIKE the pattern.
   [[nodiscard]] bool matches(std::string_view text) const {
     StepBudget unlimited;
     return matches(text, unlimited);

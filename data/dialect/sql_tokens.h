@@ -24,6 +24,7 @@ struct Token {
 
   /// Returns whether this is the keyword `lowerCase`, in any case.
   [[nodiscard]] bool isWord(std::string_view lowerCase) const;
+  /// Returns whether this is that character, outside quotes and comments.
   [[nodiscard]] bool isSymbol(char symbol) const {
     return kind == TokenKind::kSymbol && text.front() == symbol;
   }

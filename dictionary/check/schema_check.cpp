@@ -41,9 +41,9 @@ constexpr std::array kEdict = {Column{"eid", false}, Column{"word", true}, Colum
 constexpr std::array kCdict = {Column{"cid", false}, Column{"word", true}, Column{"eid", false}};
 constexpr std::array kEdictIdx = {Column{"word", true}};
 constexpr std::array kCdictIdx = {Column{"word", true}, Column{"id", false}};
-constexpr std::array kCatalogueColumns = {CatalogueColumn{1, {"TableName", true}},
-                                          CatalogueColumn{2, {"Cname", true}},
-                                          CatalogueColumn{4, {"default", false}}};
+constexpr std::array kCatalogueColumns = {CatalogueColumn{kTableNameColumn, {"TableName", true}},
+                                          CatalogueColumn{kCnameColumn, {"Cname", true}},
+                                          CatalogueColumn{kDefaultColumn, {"default", false}}};
 /// Its position is free because it is read by its name only.
 constexpr Column kIsshow = {kIsshowName, false};
 constexpr std::array kSubject = {Column{"word", true}, Column{"meaning", true}};

@@ -13,6 +13,10 @@ struct sqlite3;
 /// data::Error if the file cannot be read.
 namespace dictionary {
 
+/// Columns of the catalogue [Index] that the windows read by their positions, from 0.
+inline constexpr int kTableNameColumn = 1;
+inline constexpr int kCnameColumn = 2;
+inline constexpr int kDefaultColumn = 4;
 /// The column of the catalogue that holds whether a dictionary is offered. Its position is free.
 inline constexpr std::string_view kIsshowName = "Isshow";
 

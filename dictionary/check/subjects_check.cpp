@@ -17,11 +17,6 @@
 namespace dictionary {
 namespace {
 
-/// Columns of [Index] by position, as the windows read them.
-constexpr int kTableName = 1;
-constexpr int kCname = 2;
-constexpr int kDefault = 4;
-
 bool isKnown(const std::vector<std::string>& names, std::string_view name) {
   return std::ranges::any_of(names,
                              [&](const std::string& known) { return sameName(known, name); });
@@ -67,7 +62,7 @@ class Catalogue {
 /// A table that is named wrongly or twice is not read: its name is not put into an SQL text here
 /// either.
 void Catalogue::addRow(const RowReader& reader) {
-  const std::string table(reader.text(kTableName));
+  const std::string table(reader.text(kTableNameColumn));
   if (!isPlainName(table) || isKnown(tables_, table)) {
     findings_.add(Rule::kCatalogueTables, "table name «" + table + "»");
   } else {
@@ -79,7 +74,7 @@ void Catalogue::addRow(const RowReader& reader) {
 
 /// A name is the caption of a node in the windows' tree, by which the user knows the dictionary.
 void Catalogue::checkName(const RowReader& reader, const std::string& table) {
-  const std::u16string name = text::toUtf16(reader.text(kCname));
+  const std::u16string name = text::toUtf16(reader.text(kCnameColumn));
   const bool repeated = std::ranges::any_of(
       names_, [&](const std::u16string& other) { return text::equal(other, name); });
   if (repeated || std::ranges::none_of(name, isHan)) {
@@ -90,14 +85,14 @@ void Catalogue::checkName(const RowReader& reader, const std::string& table) {
 }
 
 /// Isshow may be any number: the windows offer a dictionary if it is 1. The kinds of the values are
-/// asked for before their texts, which convert them.
+/// asked for before the values, which may convert them.
 void Catalogue::checkFlags(const RowReader& reader, const std::string& table) {
-  const bool isDefault = reader.number(kDefault) == 1;
-  if (!reader.isInteger(isshow_) || !reader.isInteger(kDefault) ||
-      (!isDefault && reader.number(kDefault) != 0)) {
+  const bool integers = reader.isInteger(isshow_) && reader.isInteger(kDefaultColumn);
+  const bool isDefault = reader.number(kDefaultColumn) == 1;
+  if (!integers || (!isDefault && reader.number(kDefaultColumn) != 0)) {
     findings_.add(Rule::kCatalogueFlags, "[" + table + "] has Isshow " +
                                              std::string(reader.text(isshow_)) + " and default " +
-                                             std::string(reader.text(kDefault)));
+                                             std::string(reader.text(kDefaultColumn)));
   }
   if (!isDefault) return;
   ++defaults_;

@@ -9,7 +9,7 @@ namespace dictionary {
 /// file if it still exists. A file of that name from an earlier build is overwritten by the writer.
 class TemporaryFile {
  public:
-  /// Two at a time for the same target are not possible.
+  /// Two builds of the same target at the same time are not supported.
   explicit TemporaryFile(const std::filesystem::path& target);
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;

@@ -44,6 +44,7 @@ struct SourceEntry {
 /// not affect the others, whatever bytes it contains.
 class SourceReader {
  public:
+  /// What next() has read: an entry, a line that it could not read, or nothing more.
   enum class Result { kEntry, kBadLine, kEnd };
 
   /// Reads the header, whose columns may be in any order; others than those used are skipped. Keeps

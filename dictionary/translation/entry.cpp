@@ -121,8 +121,8 @@ void LineParser::addPiece(const RawPiece& raw, char16_t next) {
   const LineHead head = first ? head_ : readHead(raw.text, (head_.subjects & kLongTagsOnly) == 0);
   const std::u16string_view text = first ? raw.text : raw.text.substr(head.length);
   const std::u16string noted = head.notes + std::u16string(text);
-  // A piece that only announces names sets the subject of those after it and is not kept. Alone in
-  // its line it may be the equivalent ("人名" for "personal name").
+  // A piece that only announces names sets the subject of those after it and is not kept: before a
+  // semicolon, or as a line of its own without a head. With a head ("n. 人名") it is an equivalent.
   const bool wholeLine = first && next == u'\0' && head_.length == 0;
   if (const SubjectSet names = announcedNames(noted, wholeLine || next == u'；'); names != 0) {
     current_ |= names;

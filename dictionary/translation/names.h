@@ -30,8 +30,8 @@ std::u16string_view leadingName(std::u16string_view piece);
 SubjectSet namedByNote(std::u16string_view piece);
 
 /// Returns the subjects of the names that follow a piece which only announces them, otherwise 0.
-/// "(Luang)人名" always announces persons; a bare 人名, 姓氏 or 地名 announces names if it is
-/// `beforeList`, and is an equivalent ("place name") otherwise.
+/// "(Luang)人名" always announces persons; a bare 人名, 姓氏 or 地名 announces names if
+/// `beforeList` is set, and is an equivalent ("place name") otherwise.
 SubjectSet announcedNames(std::u16string_view piece, bool beforeList);
 
 }  // namespace dictionary

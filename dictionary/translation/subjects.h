@@ -42,10 +42,12 @@ inline constexpr std::size_t kSubjectCount = 24;
 /// A set of subjects: bit n for the subject of value n.
 using SubjectSet = std::uint32_t;
 
+/// Returns the set of that subject alone.
 constexpr SubjectSet setOf(Subject subject) {
   return SubjectSet{1} << static_cast<std::uint8_t>(subject);
 }
 
+/// The subjects whose pieces are names: they are parsed and rated otherwise.
 inline constexpr SubjectSet kNameSubjects = setOf(Subject::kPerson) | setOf(Subject::kPlace);
 
 /// A subject dictionary in the catalogue.
