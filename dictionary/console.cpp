@@ -1,3 +1,6 @@
+// Texts for the console are composed as bytes of UTF-8: std::ostream knows no encoding, and path's
+// own output operator would quote and convert names as the system does.
+
 #include "dictionary/console.h"
 
 #include <iomanip>

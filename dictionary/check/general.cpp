@@ -133,6 +133,7 @@ void checkRowCounts(std::size_t english, std::size_t chinese, Findings& findings
   }
 }
 
+// The order is that of the reports: the tables as a whole, the pairs, the indexes, the headwords.
 void checkGeneral(const GeneralTables& tables, Findings& findings) {
   checkRowCounts(tables.edict.words.size(), tables.cdict.words.size(), findings);
   checkOrder("edict", tables.edict, findings);

@@ -29,6 +29,9 @@ void RowInserter::insert() {
   bound_ = 0;
 }
 
+// Errors of a reading come from sqlite3_step() in next(); the functions for columns cannot fail,
+// except that SQLite returns null or 0 where memory for a conversion is lacking.
+
 RowReader::RowReader(sqlite3* connection, const std::string& sql)
     : connection_(connection), statement_(data::prepare(connection, sql)) {}
 
