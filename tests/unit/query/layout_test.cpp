@@ -44,6 +44,21 @@ TEST(QueryLayout, IsSoundInEverySize) {
   expectSound(forms::kMaxSize, forms::kMaxSize);
 }
 
+TEST(QueryLayout, IsAligned) {
+  const Layout layout = layOut(9000, 6000);
+  EXPECT_GT(layout.inputLabel.top, layout.input.top) << "the label stands lower than its box";
+  EXPECT_LT(bottomOf(layout.inputLabel), bottomOf(layout.input));
+  const int gap = layout.special.left - rightOf(layout.advanced);
+  EXPECT_EQ(layout.advanced.left - rightOf(layout.ok), gap);
+  EXPECT_EQ(layout.ok.left - rightOf(layout.input), gap);
+  EXPECT_EQ(rightOf(layout.results), rightOf(layout.special));
+  EXPECT_EQ(layout.results.left - rightOf(layout.dictionaries), gap);
+  EXPECT_EQ(bottomOf(layout.results), bottomOf(layout.dictionaries));
+  const auto settings = query::layOutSettings(4000, 5000);
+  EXPECT_EQ(settings.hint.top - bottomOf(settings.dictionaries), gap);
+  EXPECT_EQ(rightOf(settings.hint), rightOf(settings.dictionaries));
+}
+
 TEST(QueryLayout, OpensWithRoomForTenLines) {
   // A line is some 20 pixels high, the scroll bar below as much.
   constexpr int kElevenLines = 11 * 20 * 15;

@@ -143,9 +143,8 @@ TEST_F(ResultLines, TheEleventhRowDoesNotCount) {
   std::vector<std::string> words(10, "ab");
   words.emplace_back("a very long word that would move the mean");
   EXPECT_EQ(widthOf(words), 12);
-  words.insert(words.begin() + 9, words.back());
-  words.erase(words.begin());
-  EXPECT_GT(widthOf(words), 12);
+  std::swap(words[9], words[10]);
+  EXPECT_GT(widthOf(words), 12) << "the tenth does";
 }
 
 TEST_F(ResultLines, ChineseWordsCountTwoForEveryUnit) {

@@ -181,8 +181,8 @@ TEST_F(FrmScreenWord, AReportedWordIsTextOfTheCodePageUpToItsNul) {
 TEST_F(FrmScreenWord, AWordIsHandedOverOnceAlthoughThePopupHandlesEventsWhileItOpens) {
   ScreenWord::StartCapture();
   ScreenWord::strScreenWord = u"data";
-  // Runs while the popup opens, and takes so long that ticks are due behind it.
-  forms::Dispatcher::instance().post([] { Sleep(40); });
+  // Runs while the popup opens.
+  forms::Dispatcher::instance().post([] { host().Timer1.onTimer.raise(); });
   const ShowCounter watch(L"Lexilo.frmScreenWordMeaning");
   host().Timer1.onTimer.raise();
   EXPECT_TRUE(popupIsUp());
@@ -197,7 +197,7 @@ TEST_F(FrmScreenWord, APopupThatThePointerLeavesWhileItOpensIsLoadedAgain) {
   forms::Dispatcher::instance().post([&] {
     first = popup().handle();
     injected::moveTo({kNowhere.x - 100, kNowhere.y});
-    Sleep(60);
+    popup().Timer1.onTimer.raise();
   });
   host().Timer1.onTimer.raise();
   EXPECT_FALSE(IsWindow(first)) << "it did not go while it opened";

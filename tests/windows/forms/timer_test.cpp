@@ -1,5 +1,6 @@
 #include "forms/timer.h"
 
+#include "tests/support/window/fake_timers.h"
 #include "tests/support/window/window_test.h"
 
 namespace support {
@@ -59,12 +60,16 @@ TEST_F(TimerTest, StopsInItsOwnTick) {
 }
 
 TEST_F(TimerTest, ATickThatWaitedWhenItWasStoppedIsNotRaised) {
+  const FakeTimers timers;
   forms::Timer timer(forms::form<FormA>(), 10, true);
   timer.onTimer = [this] { ++ticks; };
-  // Long enough without a message loop for a tick to wait.
-  Sleep(40);
+  FakeTimers::queueTicks();
+  forms::doEvents();
+  ASSERT_EQ(ticks, 1);
+  FakeTimers::queueTicks();
   timer.setEnabled(false);
-  EXPECT_TRUE(always([this] { return ticks == 0; }, 40));
+  forms::doEvents();
+  EXPECT_EQ(ticks, 1);
 }
 
 TEST_F(TimerTest, RaisesNothingOnceItsFormUnloads) {

@@ -85,6 +85,11 @@ TEST(WordAt, ALongRunIsNoWord) {
   EXPECT_EQ(at(std::u16string(1'000'000, u'a'), 500'000), u"");
 }
 
+TEST(WordAt, AWordHas128CharactersAtMost) {
+  EXPECT_EQ(at(std::u16string(128, u'a'), 64).size(), 128U);
+  EXPECT_EQ(at(std::u16string(129, u'a'), 64), u"");
+}
+
 TEST(WordAt, NothingIsReadOutsideTheText) {
   EXPECT_EQ(at(u"", 0), u"");
   EXPECT_EQ(at(u"ab", 2), u"");

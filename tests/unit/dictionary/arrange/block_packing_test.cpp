@@ -217,7 +217,21 @@ TEST(ChoosePairs, LimitsTheRowsOfAChineseHeadword) {
     }
   }
   EXPECT_LE(rows, 201U);
+  EXPECT_GE(rows, 150U) << "only what does not fit into whole blocks is left out";
   expectWholeBlocks(vocabulary, kept);
+}
+
+TEST(ChoosePairs, KeepsAsManyRowsOfAChineseHeadwordAsALookupReads) {
+  for (const std::size_t many : {500U, 600U}) {
+    Vocabulary vocabulary = vocabularyOf(singles(1200));
+    for (std::size_t i = 0; i < many; ++i) vocabulary.pairs[i * 2].chinese = 0;
+    const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
+    std::size_t rows = 0;
+    for (std::size_t i = 0; i < kept.size(); ++i) {
+      if (kept[i] && vocabulary.pairs[i].chinese == 0) ++rows;
+    }
+    EXPECT_EQ(rows, 201U) << many;
+  }
 }
 
 TEST(ChoosePairs, LetsNoChineseHeadwordCrossABlockWhereAvoidable) {

@@ -7,7 +7,10 @@
 #include "capture/nhw32/service.h"
 #include "tests/support/wait.h"
 #include "tests/support/window/plain_window.h"
+#include "tests/support/window/scoped_import.h"
 #include "tests/support/window/word_host.h"
+
+extern "C" decltype(&SetThreadDpiAwarenessContext) __imp_SetThreadDpiAwarenessContext;
 
 namespace support {
 namespace {
@@ -29,30 +32,44 @@ class ScopedAwareness {
   DPI_AWARENESS_CONTEXT before_;
 };
 
-/// Notes the awareness of the thread that asks it.
-class AwarenessReader : public nhw32::WordReader {
+/// Answers nothing.
+class SilentReader : public nhw32::WordReader {
  public:
-  explicit AwarenessReader(std::atomic<DPI_AWARENESS>& seen) : seen_(seen) {}
-  nhw32::Answer wordAt(const nhw32::Question& /*question*/) override {
-    seen_ = threadAwareness();
-    return {};
-  }
-
- private:
-  std::atomic<DPI_AWARENESS>& seen_;
+  nhw32::Answer wordAt(const nhw32::Question& /*question*/) override { return {}; }
 };
 
-TEST(Nhw32Awareness, TheWorkerCountsInPhysicalPixels) {
-  const ScopedAwareness unaware(DPI_AWARENESS_CONTEXT_UNAWARE);
+/// What threads other than the tests' ask for.
+std::atomic<DPI_AWARENESS_CONTEXT> asked;
+std::atomic<DWORD> asker;
+
+DPI_AWARENESS_CONTEXT WINAPI note(DPI_AWARENESS_CONTEXT context) {
+  asker = GetCurrentThreadId();
+  asked = context;
+  return nullptr;
+}
+
+// A new thread has the awareness of the program's manifest, so that nothing else would show whether
+// the worker asks for its own.
+TEST(Nhw32Awareness, TheWorkerAsksForPhysicalPixelsBeforeItReads) {
+  asked = nullptr;
+  const ScopedImport<decltype(&SetThreadDpiAwarenessContext)> import(
+      __imp_SetThreadDpiAwarenessContext, note);
   const PlainWindow window(L"STATIC", {300, 300, 400, 400});
   const WordHost host;
-  std::atomic<DPI_AWARENESS> seen = DPI_AWARENESS_INVALID;
-  nhw32::Service service([&] { return std::make_unique<AwarenessReader>(seen); },
-                         RegisterWindowMessageA("BL_HASSTRING"));
+  std::atomic<DPI_AWARENESS_CONTEXT> askedBefore = nullptr;
+  std::atomic<DWORD> reader = 0;
+  nhw32::Service service(
+      [&] {
+        askedBefore = asked.load();
+        reader = GetCurrentThreadId();
+        return std::make_unique<SilentReader>();
+      },
+      RegisterWindowMessageA("BL_HASSTRING"));
   service.start();
   service.arm(host.window(), {350, 350});
-  EXPECT_TRUE(eventually([&] { return seen != DPI_AWARENESS_INVALID; }));
-  EXPECT_EQ(seen, DPI_AWARENESS_PER_MONITOR_AWARE);
+  EXPECT_TRUE(eventually([&] { return reader != 0; }));
+  EXPECT_EQ(askedBefore, DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+  EXPECT_EQ(asker, reader);
   service.stop();
   EXPECT_TRUE(eventually([&] { return service.workers() == 0; }));
 }

@@ -36,6 +36,8 @@ TEST(TargetCoordinates, AreReducedForProgramsThatTheSystemEnlarges) {
   const WindowScale oneAndAHalf = shownAt(150, {100, 100});
   EXPECT_EQ(toTarget(oneAndAHalf, {150, 150}), (TargetPoint{100, 100}));
   EXPECT_EQ(toTarget(oneAndAHalf, {153, 153}), (TargetPoint{102, 102}));
+  // By the middle of the screen's pixel; its left edge lies in the pixel before.
+  EXPECT_EQ(toTarget(oneAndAHalf, {151, 152}), (TargetPoint{101, 101}));
   EXPECT_EQ(toScreen(oneAndAHalf, {101, 100, 102, 116}), (ScreenBox{151, 150, 153, 174}));
 }
 

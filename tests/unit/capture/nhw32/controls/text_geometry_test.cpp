@@ -258,6 +258,63 @@ TEST(ControlText, AWordThatIsBrokenByTheLinesEndIsWholeInEitherPart) {
   EXPECT_EQ(under(grid, 25, 25), u"");
 }
 
+/// Further lines than the first begin 100 pixels to the right.
+class HangingIndent : public Grid {
+ public:
+  using Grid::Grid;
+
+  std::size_t positionNear(ScreenPoint point) override {
+    if (point.y >= kHeight) point.x -= kIndent;
+    return Grid::positionNear(point);
+  }
+
+  std::optional<ScreenPoint> cornerOf(std::size_t position) override {
+    auto corner = Grid::cornerOf(position);
+    if (corner && corner->y >= kHeight) corner->x += kIndent;
+    return corner;
+  }
+
+ private:
+  static constexpr int kIndent = 100;
+};
+
+TEST(ControlText, ALineEndsWithItsLastLetterWhereverTheNextOneBegins) {
+  HangingIndent control(u"word", 2);  // wo|rd
+  const auto word = wordUnder(control, {15, 5});
+  ASSERT_TRUE(word);
+  EXPECT_EQ(word->box, (ScreenBox{0, 0, 20, 20}));
+  EXPECT_FALSE(wordUnder(control, {25, 5}));
+  EXPECT_EQ(wordUnder(control, {105, 25})->box, (ScreenBox{100, 20, 120, 40}));
+}
+
+/// A letter and the accent after it have one cell and one corner, and are found as the letter.
+class Accented : public Grid {
+ public:
+  explicit Accented(std::u16string text) : Grid(text), size_(text.size()) {}
+
+  std::size_t positionNear(ScreenPoint point) override {
+    const std::size_t position = Grid::positionNear(point);
+    return isAccent(position) ? position - 1 : position;
+  }
+
+ private:
+  [[nodiscard]] bool isAccent(std::size_t position) const {
+    return position < size_ && at(position) == u'\u0301';
+  }
+  int widthOf(std::size_t position) override { return isAccent(position + 1) ? 0 : kWidth; }
+
+  std::size_t size_;
+};
+
+TEST(ControlText, ALetterWithAnAccentOfItsOwnIsFoundAllOver) {
+  Accented control(u"cafe\u0301 x");
+  for (int x = 0; x < 40; ++x) {
+    const auto word = wordUnder(control, {x, 5});
+    ASSERT_TRUE(word) << x;
+    EXPECT_EQ(word->text, u"cafe\u0301") << x;
+  }
+}
+
 TEST(ControlText, FarFromTheBeginningToo) {
   std::u16string text;
   for (int i = 0; i < 5000; ++i) text += u"ab cd\n";
