@@ -63,7 +63,7 @@ HRESULT knownFolderPath(REFKNOWNFOLDERID folder, wchar_t** path) {
 
 std::u16string localSettingsFile() {
   wchar_t* found = nullptr;
-  const bool known = SUCCEEDED(knownFolderPath(FOLDERID_LocalAppData, &found));
+  const bool known = SUCCEEDED(knownFolderPath(FOLDERID_LocalAppData, &found)) && found != nullptr;
   const TaskMemory owner(found);
   const std::u16string folder = (known ? win32::fromWide(found) : u"") + u"\\Lexilo";
   CreateDirectoryW(win32::wide(folder), nullptr);

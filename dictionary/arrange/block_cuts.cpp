@@ -153,7 +153,8 @@ std::vector<BlockCut> CutSearch::run(std::size_t reach) {
   std::vector<Candidates> cuts(blocks_ + 1);
   cuts[0] = {0, {0}, {0}, {0}};
   for (std::size_t i = 1; i <= blocks_; ++i) {
-    cuts[i] = candidatesAround(std::uint64_t{i} * blockRows_, reach);
+    const std::uint64_t row = std::uint64_t{i} * blockRows_;
+    cuts[i] = candidatesAround(row, reach);
     if (i == blocks_) cuts[i] = {counts_.size() - 1, {kImpossible}, {0}, {0}};
     for (std::size_t joined = 1; joined <= std::min(maxJoined_, i); ++joined) {
       extend(cuts[i - joined], cuts[i], joined);

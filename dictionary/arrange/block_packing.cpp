@@ -137,7 +137,8 @@ void BlockPacker::excludeBeyond(const PairSequence& sequence, std::size_t limit)
     for (const PairIndex index : sequence.unit(unit)) {
       if (!excluded_[index]) group.push_back(index);
     }
-    for (const PairIndex index : allButBest(std::move(group), limit)) excluded_[index] = true;
+    const std::vector<PairIndex> beyond = allButBest(std::move(group), limit);
+    for (const PairIndex index : beyond) excluded_[index] = true;
   }
 }
 
@@ -185,7 +186,8 @@ BlockPlan BlockPacker::planOf(const PairSequence& sequence, const std::vector<Bl
         if (kept_[index]) group.push_back(index);
       }
     }
-    for (const PairIndex index : allButBest(std::move(group), rows)) kept_[index] = false;
+    const std::vector<PairIndex> beyond = allButBest(std::move(group), rows);
+    for (const PairIndex index : beyond) kept_[index] = false;
   }
   return plan;
 }
