@@ -44,6 +44,20 @@ TEST_F(FrmSpc, OpensAboveItsOwnerWhichStaysUsable) {
   EXPECT_EQ(lines().size(), 1U);
 }
 
+TEST_F(FrmSpc, OpensInTheMiddleOfItsOwnerAndStaysWhereItIsMoved) {
+  openBoth();
+  const RECT owner = rectOf(form().handle());
+  const RECT opened = rectOf(dialog().handle());
+  EXPECT_NEAR(opened.left + opened.right, owner.left + owner.right, 2);
+  EXPECT_NEAR(opened.top + opened.bottom, owner.top + owner.bottom, 2);
+  SetWindowPos(dialog().handle(), nullptr, opened.left - 50, opened.top - 40, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  press(form().cmdSpc);
+  awaitActive(dialog());
+  EXPECT_EQ(rectOf(dialog().handle()).left, opened.left - 50);
+  EXPECT_EQ(rectOf(dialog().handle()).top, opened.top - 40);
+}
+
 TEST_F(FrmSpc, BothBoxesHaveTheirNamesAndTheirFont) {
   openBoth();
   EXPECT_EQ(forms::windowText(dialog().Label1.handle()), u"英文");
