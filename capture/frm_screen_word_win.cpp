@@ -138,7 +138,7 @@ void frmScreenWord::timScreenWord1_Timer() try {
   // as this one closes.
   if (handingOver_) return;
   catchWord();
-  // Deliberate: started anew after each probe, which does nothing while the service runs.
+  // Deliberate: started again after each probe, which does nothing while the service runs.
   nhw32::SetNHW32();
   ScreenWord::strScreenWord.clear();
 } catch (const std::exception&) {

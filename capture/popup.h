@@ -30,7 +30,8 @@ struct PopupSize {
 };
 
 /// Returns the size for a text whose parts have these lengths. Throws std::overflow_error if a
-/// width or height does not fit in 16 bits (a headword of more than 326 code units, say).
+/// width or height does not fit in 16 bits (for instance for a headword line of more than 326 code
+/// units).
 PopupSize popupSize(std::int16_t headLength, std::int16_t meaningLength);
 
 /// A rectangle in screen pixels.

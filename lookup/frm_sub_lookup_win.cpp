@@ -67,6 +67,7 @@ std::u16string frmSub::showMeaning(std::u16string& word, data::DataControl& cont
   user::escapeQuote(word);
   control.setRecordSource(findword(EorC, word));
   control.refresh();
+  // Deliberate: no message, and the pane stays as it is.
   if (control.recordset().empty()) return {};
   showText(data::meaningLines(word, data::readMeanings(control.recordset())));
   return txtOut.text();

@@ -56,6 +56,7 @@ std::runtime_error unusable(const std::u16string& key, const std::u16string& val
 
 }  // namespace
 
+// Deliberate: lookups without options, so that a Chinese meaning uses the bounds of the last list.
 frmSub::frmSub() : Form(design()), lookup_(user::IdxWords, data::LookupOptions{}) {
   txtInput.setFont({u"宋体", 10.5});
   txtOut.setHangingIndent(kHangingIndent);
@@ -168,6 +169,7 @@ void frmSub::TreeView1_NodeClick(std::size_t node) {
   showMeaning(word, Adodc1);
 }
 
+// Whatever else is dropped, or dropped elsewhere, changes nothing.
 void frmSub::TreeView1_DragDrop(const forms::Widget& source, forms::TwipPoint place) {
   if (&source != &Image1) return;
   TreeView1.setWidth(lookup::widthAfterDropOnList(place.x));

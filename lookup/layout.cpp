@@ -33,6 +33,7 @@ Layout layOut(Size window, int listWidth) {
   return layout;
 }
 
+// A window too small for its list snaps first, which may make the room.
 bool leavesRoomForPane(Size window, int listWidth) {
   return layOut(snapSize(window), listWidth).pane.width > 0;
 }

@@ -16,6 +16,7 @@ void chooseDefault(data::RecordSet& catalogue, std::size_t chosen) {
   }
 }
 
+// Walks through all rows, since the number counts them.
 std::size_t lastDefault(data::RecordSet& catalogue) {
   std::size_t last = 0;
   std::size_t row = 0;

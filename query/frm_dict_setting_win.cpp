@@ -105,6 +105,8 @@ LRESULT DefaultList::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return result;
 }
 
+// End enters the list at its end, the other keys at its beginning; without nodes nothing is
+// entered.
 bool DefaultList::enter(WPARAM key) {
   const bool enters = key == VK_DOWN || key == VK_UP || key == VK_HOME || key == VK_END;
   if (!enters || count() == 0 || selected() != 0) return false;

@@ -31,7 +31,7 @@ class frmMain : public forms::Form {
   forms::ColumnTree TreeView2{*this, {}};  ///< the result lines
   data::DataControl Adodc1;
 
-  /// Fills the tree of dictionaries anew and selects the default one, or the first if none is
+  /// Fills the tree of dictionaries again and selects the default one, or the first if none is
   /// flagged. Shows a message if there are none. Throws data::Error.
   void iniTree();
   /// Writes the rows of `recordSource`, at most `maxRows`, as lines into `tree`. On an error it

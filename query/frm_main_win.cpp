@@ -143,6 +143,7 @@ void frmMain::cmdSpc_Click() {
 void frmMain::search(std::u16string_view mode, std::int16_t maxRows) {
   // Deliberate: not trimmed; blanks alone are searched for as typed.
   std::u16string text = txtInput.text();
+  // Both checks come before any access to the database, and leave the lines as they are.
   if (text.empty()) {
     forms::showMessage(u"查询条件不为空！", forms::MessageIcon::kExclamation);
     return;
@@ -180,6 +181,7 @@ void frmMain::iniTree() {
     }
     rows.moveNext();
   }
+  // None is flagged, or the default is not among those that are shown.
   if (curTable.empty()) {
     curTable = tableNames.front();
     TreeView1.select(1);

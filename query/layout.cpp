@@ -23,7 +23,7 @@ constexpr int kHintHeight = 660;
 Layout layOut(int width, int height) {
   const int right = std::max(width, kMinWidth) - forms::kFrameWidth - kMargin;
   const int bottom = std::max(height, kMinHeight) - forms::kFrameHeight - kMargin;
-  // The buttons stand at the right edge, numbered from there; the input box fills the rest of the
+  // The buttons are at the right edge, numbered from there; the input box fills the rest of the
   // row. The trees share what is below.
   const auto button = [&](int fromRight) {
     const int left = right - (fromRight * (kButtonWidth + kMargin)) - kButtonWidth;

@@ -10,8 +10,8 @@ class RecordSet;
 }
 
 /// Searches of one subject dictionary: their SQL texts, and the lines that show what they find, a
-/// word padded to a column and its meaning. Table names stand in the texts as they are. Deliberate:
-/// every blank in the SQL texts. Functions that read a record set throw data::Error.
+/// word padded to a column and its meaning. Table names are put into the texts as they are.
+/// Deliberate: every blank in the SQL texts. Functions that read a record set throw data::Error.
 namespace query {
 
 /// Modes of a search: for texts that begin with what was typed, and for texts that contain it.

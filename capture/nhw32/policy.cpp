@@ -67,7 +67,7 @@ void Backoff::note(WindowId window, Outcome outcome, Time now) {
 
 Answer BackoffReader::wordAt(const Question& question) {
   if (!backoff_.mayAsk(question.window, clock_())) return {};
-  // The delay counts from the end of the question, so the time is taken anew.
+  // The delay counts from the end of the question, so the time is read again.
   Answer answer = reader_->wordAt(question);
   backoff_.note(question.window, answer.outcome, clock_());
   return answer;

@@ -26,7 +26,7 @@ std::u16string realClassOf(HWND window) {
   return {name.begin(), name.begin() + length};
 }
 
-/// Chooses the reader by the window's class, for each question anew, since handles are reused. A
+/// Chooses the reader by the window's class, again for each question, since handles are reused. A
 /// window that has the class name of a text control but no lines is no text control, and is read by
 /// UI Automation.
 class WindowReader : public WordReader {

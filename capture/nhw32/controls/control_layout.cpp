@@ -12,6 +12,7 @@ void append(std::vector<std::byte>& bytes, std::uint64_t value, std::size_t size
 
 }  // namespace
 
+// Not a copy of our own TEXTRANGE: in a 32-bit process its address has 4 bytes.
 std::vector<std::byte> textRangeBytes(Bitness bitness, std::int32_t begin, std::int32_t end,
                                       std::uint64_t textAddress) {
   std::vector<std::byte> bytes;

@@ -20,7 +20,7 @@
 // client pixels, let wordUnder find the word and its box in the control's text, check that the
 // window has not changed meanwhile, convert the box back to screen pixels.
 //
-// What the two kinds of control differ in is behind ControlText. Windows marshals the messages of
+// ControlText is what both kinds of control have in common. Windows marshals the messages of
 // edit controls across processes, with the buffers that they point to. It does not marshal those of
 // rich edit controls: they take the address of a structure in the control's own process, so
 // RichEditText keeps its structures in RemoteMemory.

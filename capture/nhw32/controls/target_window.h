@@ -13,7 +13,7 @@
 
 /// A window of another process as the readers of controls see it: its messages, memory in its
 /// process, and its coordinates. For the worker thread. Functions on a window that has gone return
-/// what Windows returns for an invalid handle, unless they say that they throw.
+/// what Windows returns for an invalid handle, unless documented to throw.
 namespace nhw32 {
 
 /// A window of any process that is asked by messages, within a time limit that starts when this

@@ -82,6 +82,7 @@ RemoteMemory::RemoteMemory(HWND window, std::size_t size) : process_(openProgram
   if (address_ == nullptr) throw NoAnswer(Outcome::kRefused);
 }
 
+// Memory of a process that has ended is gone already; the call fails then, which does not matter.
 RemoteMemory::~RemoteMemory() {
   if (address_ != nullptr) VirtualFreeEx(process_.get(), address_, 0, MEM_RELEASE);
 }
@@ -90,6 +91,7 @@ std::uint64_t RemoteMemory::address(std::size_t offset) const {
   return reinterpret_cast<std::uint64_t>(address_ + offset);
 }
 
+// This program is a 64-bit one, so WOW64 is the only other case.
 bool RemoteMemory::inProgramOf32Bits() const {
   BOOL wow64 = FALSE;
   if (IsWow64Process(process_.get(), &wow64) == FALSE) throw NoAnswer(Outcome::kRefused);

@@ -22,6 +22,7 @@ std::span<const double> UniqueDoubleArray::values() {
       FAILED(SafeArrayAccessData(array_, &data))) {
     return {};
   }
+  // The data is valid while the array is locked; the destructor unlocks it.
   locked_ = true;
   // In 64 bits: the bounds may be any 32-bit numbers.
   const auto count = static_cast<std::size_t>(static_cast<long long>(last) - first + 1);

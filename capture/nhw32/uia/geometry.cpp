@@ -4,6 +4,8 @@
 
 #include "capture/nhw32/word_text.h"
 
+// Providers are programs of many makers: rectangles may be NaN, negative or of another screen, and
+// a "character" may be a word or a line. What does not make sense is no answer, never a wrong word.
 namespace nhw32 {
 namespace {
 
