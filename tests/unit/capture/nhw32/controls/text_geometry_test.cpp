@@ -263,12 +263,12 @@ class HangingIndent : public Grid {
  public:
   using Grid::Grid;
 
-  std::size_t positionNear(ScreenPoint point) override {
+  std::optional<std::size_t> positionNear(ClientPoint point) override {
     if (point.y >= kHeight) point.x -= kIndent;
     return Grid::positionNear(point);
   }
 
-  std::optional<ScreenPoint> cornerOf(std::size_t position) override {
+  std::optional<ClientPoint> cornerOf(std::size_t position) override {
     auto corner = Grid::cornerOf(position);
     if (corner && corner->y >= kHeight) corner->x += kIndent;
     return corner;
@@ -282,9 +282,9 @@ TEST(ControlText, ALineEndsWithItsLastLetterWhereverTheNextOneBegins) {
   HangingIndent control(u"word", 2);  // wo|rd
   const auto word = wordUnder(control, {15, 5});
   ASSERT_TRUE(word);
-  EXPECT_EQ(word->box, (ScreenBox{0, 0, 20, 20}));
+  EXPECT_EQ(word->box, (ClientBox{0, 0, 20, 20}));
   EXPECT_FALSE(wordUnder(control, {25, 5}));
-  EXPECT_EQ(wordUnder(control, {105, 25})->box, (ScreenBox{100, 20, 120, 40}));
+  EXPECT_EQ(wordUnder(control, {105, 25})->box, (ClientBox{100, 20, 120, 40}));
 }
 
 /// A letter and the accent after it have one cell and one corner, and are found as the letter.
@@ -292,9 +292,9 @@ class Accented : public Grid {
  public:
   explicit Accented(std::u16string text) : Grid(text), size_(text.size()) {}
 
-  std::size_t positionNear(ScreenPoint point) override {
-    const std::size_t position = Grid::positionNear(point);
-    return isAccent(position) ? position - 1 : position;
+  std::optional<std::size_t> positionNear(ClientPoint point) override {
+    const auto position = Grid::positionNear(point);
+    return position && isAccent(*position) ? *position - 1 : position;
   }
 
  private:
