@@ -1,7 +1,7 @@
 #pragma once
 
-// Classic COM only: no IInspectable.
-#define __WRL_CLASSIC_COM__
+// Classic COM only: no IInspectable. The name is that of wrl/client.h.
+#define __WRL_CLASSIC_COM__  // NOLINT(bugprone-reserved-identifier)
 
 #include <windows.h>
 
