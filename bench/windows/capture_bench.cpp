@@ -17,7 +17,7 @@
 #include "tests/support/process/input.h"
 #include "tests/support/process/lexilo.h"
 #include "tests/support/process/meaning_popup.h"
-#include "tests/support/process/notepad.h"
+#include "tests/support/process/system_programs.h"
 
 namespace {
 

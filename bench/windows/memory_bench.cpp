@@ -13,10 +13,10 @@
 #include "bench/windows/process_memory.h"
 #include "bench/windows/sample_words.h"
 #include "data/data_control.h"
+#include "tests/support/process/controls.h"
 #include "tests/support/process/input.h"
 #include "tests/support/process/lexilo.h"
 #include "tests/support/process/text.h"
-#include "tests/support/process/text_box.h"
 
 namespace {
 

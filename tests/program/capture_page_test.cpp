@@ -5,8 +5,8 @@
 
 #include "tests/program/capture_fixture.h"
 #include "tests/support/process/english_page.h"
+#include "tests/support/process/system_programs.h"
 #include "tests/support/process/text.h"
-#include "tests/support/process/word_pad.h"
 
 namespace support {
 namespace {

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "tests/program/capture_fixture.h"
-#include "tests/support/process/button.h"
-#include "tests/support/process/suspended_process.h"
+#include "tests/support/process/controls.h"
+#include "tests/support/process/process.h"
 #include "tests/support/process/text.h"
 #include "tests/support/process/text_window.h"
 

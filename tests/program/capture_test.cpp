@@ -7,9 +7,9 @@
 #include "tests/program/capture_fixture.h"
 #include "tests/support/process/clipboard.h"
 #include "tests/support/process/screen.h"
+#include "tests/support/process/system_programs.h"
 #include "tests/support/process/text.h"
 #include "tests/support/process/text_window.h"
-#include "tests/support/process/word_pad.h"
 
 namespace support {
 namespace {

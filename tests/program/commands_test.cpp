@@ -6,14 +6,14 @@
 #include <utility>
 #include <vector>
 
-#include "tests/support/process/browser.h"
-#include "tests/support/process/button.h"
+#include "tests/support/process/controls.h"
 #include "tests/support/process/dictionary_windows.h"
 #include "tests/support/process/input.h"
 #include "tests/support/process/message_box.h"
 #include "tests/support/process/popup_menu.h"
 #include "tests/support/process/screen.h"
 #include "tests/support/process/settings.h"
+#include "tests/support/process/system_programs.h"
 
 namespace support {
 namespace {

@@ -12,7 +12,6 @@
 #include "tests/support/process/message_box.h"
 #include "tests/support/process/screen.h"
 #include "tests/support/process/text.h"
-#include "tests/support/process/text_box.h"
 
 namespace support {
 namespace {

@@ -9,10 +9,10 @@
 #include "tests/support/process/input.h"
 #include "tests/support/process/lexilo.h"
 #include "tests/support/process/meaning_popup.h"
-#include "tests/support/process/notepad.h"
 #include "tests/support/process/popup_menu.h"
 #include "tests/support/process/screen.h"
 #include "tests/support/process/settings.h"
+#include "tests/support/process/system_programs.h"
 #include "tests/support/process/text.h"
 #include "tests/support/process/text_window.h"
 

@@ -7,9 +7,9 @@
 #include "tests/support/process/input.h"
 #include "tests/support/process/lexilo.h"
 #include "tests/support/process/message_box.h"
-#include "tests/support/process/notepad.h"
 #include "tests/support/process/popup_menu.h"
 #include "tests/support/process/screen.h"
+#include "tests/support/process/system_programs.h"
 
 namespace support {
 namespace {

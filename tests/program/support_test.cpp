@@ -10,10 +10,9 @@
 #include "tests/support/process/find.h"
 #include "tests/support/process/input.h"
 #include "tests/support/process/message_box.h"
-#include "tests/support/process/notepad.h"
 #include "tests/support/process/screen.h"
 #include "tests/support/process/settings.h"
-#include "tests/support/process/text_box.h"
+#include "tests/support/process/system_programs.h"
 
 namespace support {
 namespace {

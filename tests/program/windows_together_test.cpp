@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "tests/support/process/button.h"
 #include "tests/support/process/controls.h"
 #include "tests/support/process/dictionary_windows.h"
 #include "tests/support/process/input.h"

@@ -2,12 +2,14 @@
 
 #include <commctrl.h>
 #include <richedit.h>
-
 #include <algorithm>
 #include <cstdint>
 
 #include "tests/support/process/find.h"
+#include "tests/support/process/input.h"
 #include "tests/support/process/remote_memory.h"
+#include "tests/support/process/text.h"
+#include "tests/support/wait.h"
 
 namespace support {
 namespace {
@@ -45,6 +47,9 @@ std::wstring itemText(HWND tree, HTREEITEM item, const RemoteMemory& memory) {
   text.resize(text.find(L'\0'));
   return text;
 }
+
+/// How long a user looks at a button that does not move before pressing again, ms.
+constexpr DWORD kUntilPressedAgain = 1'000;
 
 }  // namespace
 
@@ -123,6 +128,43 @@ POINT richTextPosition(HWND pane, LONG character) {
   POINT point{place.x, place.y};
   ClientToScreen(pane, &point);
   return point;
+}
+
+std::chrono::duration<double, std::milli> pressButton(HWND button) {
+  std::chrono::steady_clock::time_point pressed;
+  bool again = false;
+  actUntil(
+      "a button to go down",
+      [&] {
+        if (std::exchange(again, true)) input::release();
+        input::press(centreOf(rectOf(button)));
+        pressed = std::chrono::steady_clock::now();
+      },
+      [&] { return (send(button, BM_GETSTATE) & BST_PUSHED) != 0; },
+      {.most = 10, .after = kUntilPressedAgain});
+  return std::chrono::steady_clock::now() - pressed;
+}
+
+void clickButton(HWND button) {
+  pressButton(button);
+  input::release();
+}
+
+void takeKeyboard(HWND box) {
+  HWND window = GetAncestor(box, GA_ROOT);
+  actUntil(
+      "a text box to get the keyboard", [&] { input::click(centreOf(clientRectOf(box))); },
+      [&] { return GetForegroundWindow() == window && focusIn(window) == box; });
+}
+
+void typeInto(HWND box, const std::wstring& text) {
+  takeKeyboard(box);
+  input::key(VK_END);
+  input::key(VK_HOME, {VK_SHIFT});
+  input::key(VK_DELETE);
+  waitFor("the text box to be empty", [&] { return textOf(box).empty(); });
+  input::type(text);
+  waitFor("the typed text " + utf8(text), [&] { return textOf(box) == text; });
 }
 
 }  // namespace support

@@ -2,11 +2,12 @@
 
 #include <windows.h>
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <vector>
 
-/// What the standard controls of another program show.
+/// The standard controls of another program: what they show, and a user's hands on them.
 namespace support {
 
 /// The texts of a flat tree's nodes, from top to bottom.
@@ -38,5 +39,19 @@ POINT editPosition(HWND edit, LONG character);
 
 /// Where a character of a rich text box stands, in screen pixels: the left end of its upper edge.
 POINT richTextPosition(HWND pane, LONG character);
+
+/// Presses a button with the mouse and waits, as a user does, until it looks pressed; a press that
+/// is lost while windows change places is repeated. The mouse stays down. Returns the time from the
+/// press until the button was seen to be down.
+std::chrono::duration<double, std::milli> pressButton(HWND button);
+
+/// Presses a button and lets go.
+void clickButton(HWND button);
+
+/// Clicks into a text box of any program until it has the keyboard.
+void takeKeyboard(HWND box);
+
+/// Clicks into a text box, replaces what it holds by typing, and waits until it stands there.
+void typeInto(HWND box, const std::wstring& text);
 
 }  // namespace support

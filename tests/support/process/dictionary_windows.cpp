@@ -4,11 +4,9 @@
 
 #include <algorithm>
 
-#include "tests/support/process/button.h"
 #include "tests/support/process/controls.h"
 #include "tests/support/process/input.h"
 #include "tests/support/process/text.h"
-#include "tests/support/process/text_box.h"
 
 namespace support {
 namespace {

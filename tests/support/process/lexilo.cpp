@@ -4,7 +4,7 @@
 #include <functional>
 #include <optional>
 
-#include "tests/support/process/button.h"
+#include "tests/support/process/controls.h"
 #include "tests/support/process/popup_menu.h"
 #include "tests/support/process/screen.h"
 

@@ -1,11 +1,13 @@
 #include "tests/support/process/process.h"
 
 #include <atomic>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <random>
 
 #include "tests/support/process/text.h"
+#include "tests/support/wait.h"
 
 namespace support {
 namespace {
@@ -31,6 +33,15 @@ std::string pathBelow(const std::filesystem::path& path) {
     throw Failure("no path below Wine: " + text);
   }
   return text.substr(2);
+}
+
+/// Sends a signal to the one process below Wine whose command line contains `mark`.
+void signalTo(const std::string& mark, const std::string& signal) {
+  // The first letter in brackets: otherwise the shell would find itself.
+  const std::string pattern = "[" + mark.substr(0, 1) + "]" + mark.substr(1);
+  runBelow("set --; for f in /proc/[0-9]*/cmdline; do grep -qs '" + pattern +
+           "' $f && set -- $@ $(basename $(dirname $f)); done; test $# -eq 1 && kill -" + signal +
+           " $1");
 }
 
 }  // namespace
@@ -92,6 +103,18 @@ void runBelow(const std::string& command) {
   std::ifstream(answer) >> status;
   std::filesystem::remove(answer);
   if (status != 0) throw Failure("status " + std::to_string(status) + " from: " + command);
+}
+
+SuspendedProcess::SuspendedProcess(const std::string& mark) : mark_(mark) {
+  signalTo(mark_, "STOP");
+}
+
+SuspendedProcess::~SuspendedProcess() {
+  try {
+    signalTo(mark_, "CONT");
+  } catch (const Failure& failure) {
+    std::fprintf(stderr, "a stopped program stays so: %s\n", failure.what());
+  }
 }
 
 }  // namespace support

@@ -44,4 +44,18 @@ DWORD processOf(HWND window);
 /// is done. Throws Failure where it does not end with success.
 void runBelow(const std::string& command);
 
+/// While it lives, another program stands still, as one does that waits for a disk or a debugger.
+class SuspendedProcess {
+ public:
+  /// Stops the one program whose command line contains `mark`. Throws Failure where not exactly one
+  /// does.
+  explicit SuspendedProcess(const std::string& mark);
+  ~SuspendedProcess();
+  SuspendedProcess(const SuspendedProcess&) = delete;
+  SuspendedProcess& operator=(const SuspendedProcess&) = delete;
+
+ private:
+  std::string mark_;
+};
+
 }  // namespace support

@@ -1,10 +1,8 @@
 #include "tests/support/process/quick_lookup.h"
 
-#include "tests/support/process/button.h"
 #include "tests/support/process/controls.h"
 #include "tests/support/process/input.h"
 #include "tests/support/process/text.h"
-#include "tests/support/process/text_box.h"
 
 namespace support {
 namespace {

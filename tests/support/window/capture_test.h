@@ -8,7 +8,7 @@
 #include "tests/support/window/capture_state.h"
 #include "tests/support/window/dictionary.h"
 #include "tests/support/window/plain_window.h"
-#include "tests/support/window/strip_recorder.h"
+#include "tests/support/window/window_pos_recorders.h"
 #include "tests/support/window/window_test.h"
 
 namespace support {

@@ -93,7 +93,7 @@ TEST(TextPositions, OnlyPairsAreLineEnds) {
   EXPECT_EQ(controlPosition(u"a\r", 2), 2U);
 }
 
-TEST(TextPositions, GoThereAndBackInAnyText) {
+TEST(TextPositions, RoundTripInAnyText) {
   std::mt19937 random(7);
   for (int run = 0; run < 500; ++run) {
     std::u16string text;

@@ -18,17 +18,17 @@ TEST(Snapping, BelowItsThresholdsAWindowIs3500By2800) {
   EXPECT_EQ(snapSize({3599, 2899}), (Size{3500, 2800}));
 }
 
-TEST(Snapping, FromThemOnItStays) {
+TEST(Snapping, FromTheThresholdsOnTheSizeStays) {
   EXPECT_EQ(snapSize({3600, 2900}), (Size{3600, 2900}));
   EXPECT_EQ(snapSize({32767, 32767}), (Size{32767, 32767}));
 }
 
-TEST(Snapping, EachDirectionGoesByItself) {
+TEST(Snapping, WidthAndHeightAreSnappedIndependently) {
   EXPECT_EQ(snapSize({5000, 2500}), (Size{5000, 2800}));
   EXPECT_EQ(snapSize({3000, 5000}), (Size{3500, 5000}));
 }
 
-TEST(Snapping, WhatItYieldsIsSnappedAgainToTheSame) {
+TEST(Snapping, IsIdempotent) {
   const Size snapped = snapSize({100, 100});
   EXPECT_EQ(snapSize(snapped), snapped);
 }

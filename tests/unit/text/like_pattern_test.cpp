@@ -41,12 +41,12 @@ int tryPatterns(RandomText& random, std::string_view bytes, std::size_t longest)
   return found;
 }
 
-TEST(LikePattern, SaysOfWordsWhatLikeSays) {
+TEST(LikePattern, AgreesWithLikeOnWords) {
   RandomText random(31);
   EXPECT_GT(tryPatterns(random, "abAB -", 60), 10000);
 }
 
-TEST(LikePattern, SaysOfAnyBytesWhatLikeSays) {
+TEST(LikePattern, AgreesWithLikeOnAnyBytes) {
   RandomText random(32);
   EXPECT_GT(tryPatterns(random, "%_aA中心😀×÷ÀàßÿŸ\xEF\xBF\xBD\x80\x98\xC3\xE5\xF0\xFF", 40), 10000);
 }

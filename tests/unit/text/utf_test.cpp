@@ -102,7 +102,7 @@ TEST(ToUtf16, ReplacesEachByteBeyondTheLastCharacter) {
   }
 }
 
-TEST(Utf, GivesEveryCharacterBack) {
+TEST(Utf, RoundTripsEveryCharacter) {
   for (char32_t character = 0; character <= 0x10FFFF; ++character) {
     if (character == 0xD800) {
       character = 0xE000;

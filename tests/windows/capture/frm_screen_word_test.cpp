@@ -4,8 +4,8 @@
 #include "forms/loaded_forms.h"
 #include "tests/support/process/find.h"
 #include "tests/support/window/capture_test.h"
-#include "tests/support/window/show_counter.h"
 #include "tests/support/window/window_everywhere.h"
+#include "tests/support/window/window_pos_recorders.h"
 
 namespace support {
 namespace {

@@ -217,7 +217,7 @@ TEST_F(ScreenWordTest, AMonitorAtTheStripsRestingPlaceHidesIt) {
   EXPECT_TRUE(IsWindowVisible(strip.handle()));
 }
 
-TEST_F(ScreenWordTest, SwitchingTwiceIsAsGoodAsOnce) {
+TEST_F(ScreenWordTest, StartAndStopAreIdempotent) {
   ScreenWord::StartCapture();
   ScreenWord::StartCapture();
   EXPECT_TRUE(host().Timer1.enabled());
@@ -279,7 +279,7 @@ TEST_F(ScreenWordTest, OfAClassNameSixtyThreeCharactersAreRead) {
   }
 }
 
-TEST_F(ScreenWordTest, TheStripsCaptionIsTheDesigns) {
+TEST_F(ScreenWordTest, TheStripHasItsDesignedCaption) {
   EXPECT_EQ(textOf(forms::form<frmScreen>().handle()), L"Form2");
 }
 

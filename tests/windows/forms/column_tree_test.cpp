@@ -164,7 +164,7 @@ TEST_F(ColumnTreeTest, NewTextsLeaveTheFirstRowOnTop) {
   EXPECT_EQ(first.top, rectOf(tree().handle()).top + GetSystemMetrics(SM_CYEDGE));
 }
 
-TEST_F(ColumnTreeTest, WhoeverAsksTheControlHearsTheTexts) {
+TEST_F(ColumnTreeTest, TheControlReturnsTheTexts) {
   tree().add(u"first");
   tree().add(u"second");
   tree().setText(1, u"new");

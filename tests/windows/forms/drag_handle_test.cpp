@@ -83,7 +83,7 @@ TEST_F(DragHandleTest, FollowsThePointerFromLeftToRight) {
   ended();
 }
 
-TEST_F(DragHandleTest, DroppedElsewhereNothingHears) {
+TEST_F(DragHandleTest, DroppedOnNoWidgetRaisesNothing) {
   opened<SplitForm>();
   RECT client{};
   GetClientRect(form().handle(), &client);
@@ -95,7 +95,7 @@ TEST_F(DragHandleTest, DroppedElsewhereNothingHears) {
   EXPECT_EQ(form().drops, std::vector<std::string>{});
 }
 
-TEST_F(DragHandleTest, DroppedOutsideTheFormNothingHears) {
+TEST_F(DragHandleTest, DroppedOutsideTheFormRaisesNothing) {
   opened<SplitForm>();
   dragTo(kNowhere);
   injected::releaseLeft();

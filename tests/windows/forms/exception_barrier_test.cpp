@@ -120,7 +120,7 @@ TEST_F(ExceptionBarrier, AnErrorInATimerReachesIt) {
   EXPECT_EQ(boxes.take()[0].text, u"Overflow");
 }
 
-TEST_F(ExceptionBarrier, WhatIsNoExceptionHasADescriptionToo) {
+TEST_F(ExceptionBarrier, AThrownValueThatIsNoExceptionIsDescribed) {
   auto& form = opened<FormA>();
   form.first.onChange = [] { throw 42; };
   form.first.setText(u"x");

@@ -65,7 +65,7 @@ TEST_F(FormDpi, TheSizeInTwipsStaysAndThePlaceIsTheSuggestedOne) {
   EXPECT_EQ(rectOf(form.handle()).top, 120);
 }
 
-TEST_F(FormDpi, ThereAndBackChangesNothing) {
+TEST_F(FormDpi, RoundTripChangesNothing) {
   auto& form = shown();
   const RECT before = pixelBox(form.second);
   const LONG font = fontHeight(form.second);

@@ -19,7 +19,7 @@ class FormFocus : public WindowTest {
   }
 };
 
-TEST_F(FormFocus, TheOldWindowHearsFirstWhenTheFocusMovesBetweenForms) {
+TEST_F(FormFocus, LostFocusOfTheOldFormComesBeforeActivateOfTheNew) {
   auto& from = opened<FormA>();
   auto& to = opened<FormB>();
   from.show();
@@ -86,7 +86,7 @@ TEST_F(FormFocus, AMessageBoxIsNoMoveOfTheFocus) {
   EXPECT_TRUE(events().empty() || events().back() == "A.first.GotFocus");
 }
 
-TEST_F(FormFocus, WhatMovedWhileABoxWasUpIsToldAfterwards) {
+TEST_F(FormFocus, AMoveOfTheFocusDuringABoxIsRaisedAfterwards) {
   opened<FormA>();
   ASSERT_TRUE(reached(4));
   auto& other = forms::form<FormB>();
@@ -106,7 +106,7 @@ TEST_F(FormFocus, WhatMovedWhileABoxWasUpIsToldAfterwards) {
   EXPECT_GE(times("B.Activate"), 1);
 }
 
-TEST_F(FormFocus, AFormThatIsUnloadedWhileABoxIsUpHearsNothingMore) {
+TEST_F(FormFocus, AFormThatIsUnloadedWhileABoxIsUpRaisesNothingMore) {
   auto& form = opened<FormA>();
   opened<FormB>();
   events().clear();

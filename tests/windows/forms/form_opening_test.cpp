@@ -24,7 +24,7 @@ TEST_F(FormOpening, LoadsOnTheFirstReferenceOnly) {
   EXPECT_FALSE(IsWindowVisible(form.handle()));
 }
 
-TEST_F(FormOpening, FindsItselfBehindItsWindow) {
+TEST_F(FormOpening, IsFoundByItsWindow) {
   auto& form = forms::form<FormA>();
   EXPECT_EQ(forms::Form::of(form.handle()), &form);
   EXPECT_EQ(forms::Form::of(form.first.handle()), nullptr);

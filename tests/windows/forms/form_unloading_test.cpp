@@ -58,7 +58,7 @@ TEST_F(FormUnloading, AFormWithoutCloseBoxIgnoresAltF4AndClose) {
   EXPECT_TRUE(always([&] { return IsWindow(window) && forms::isLoaded<FormA>(); }, 100));
 }
 
-TEST_F(FormUnloading, TheEndOfTheSessionUnloadsEveryForm) {
+TEST_F(FormUnloading, EndingTheSessionUnloadsEveryForm) {
   plan<'A'>().design.closable = false;
   opened<FormA>();
   const HWND window = forms::form<FormA>().handle();
@@ -134,7 +134,7 @@ TEST_F(FormUnloading, AFormCanBeOpenedAgainFromTheHandlerThatUnloadsIt) {
   EXPECT_TRUE(IsWindowVisible(forms::form<FormA>().handle()));
 }
 
-TEST_F(FormUnloading, AWindowThatGoesHearsOfNoLossOfFocus) {
+TEST_F(FormUnloading, AWindowThatIsDestroyedRaisesNoLostFocus) {
   auto& form = opened<FormA>();
   form.unload();
   passTime(50);

@@ -164,7 +164,7 @@ TEST_F(RichTextBoxTest, NoEmptyLineStandsBeforeALongMeaning) {
   EXPECT_LT(widestGap(pane().handle(), kBlue), lineHeight) << "an empty line";
 }
 
-TEST_F(RichTextBoxTest, WhoeverAsksForItsTextHearsBlanks) {
+TEST_F(RichTextBoxTest, TheControlReturnsItsTextWithPlainBlanks) {
   opened<PaneForm>();
   const std::u16string text = u" bit\r\n 位 比；\r\n 比特";
   const std::wstring asHeld = L" bit\r 位 比；\r 比特";

@@ -75,7 +75,7 @@ TEST_F(TextBoxTest, KeepsALongText) {
   EXPECT_EQ(box().text(), text);
 }
 
-TEST_F(TextBoxTest, TellsTheMouse) {
+TEST_F(TextBoxTest, RaisesMouseMove) {
   open();
   int moves = 0;
   int downs = 0;

@@ -56,7 +56,7 @@ TEST_F(TreeViewChoosing, EveryNodeHasThePicture) {
   }
 }
 
-TEST_F(TreeViewChoosing, ExpresslyOnlySpaceEnterAndAClickChoose) {
+TEST_F(TreeViewChoosing, ChoosingExpresslyTakesSpaceEnterOrAClick) {
   tree().chooseOnlyExpressly();
   input::key(VK_DOWN);
   ASSERT_TRUE(eventually([] { return tree().selected() == 2; }));
@@ -71,7 +71,7 @@ TEST_F(TreeViewChoosing, ExpresslyOnlySpaceEnterAndAClickChoose) {
   EXPECT_EQ(form().chosen, (std::vector<std::size_t>{2, 2, 3}));
 }
 
-TEST_F(TreeViewChoosing, WhatAClickLedToStays) {
+TEST_F(TreeViewChoosing, AClickKeepsTheSelectionThatItsHandlerMade) {
   tree().onNodeClick = [](std::size_t) { tree().select(1); };
   injected::click(centreOf(nodeRect(3)));
   passTime(60);

@@ -102,7 +102,7 @@ TEST_F(TreeViewTest, ALongTextIsCutToWhatTheControlTakes) {
   EXPECT_EQ(texts[0].find_first_not_of(u'长'), texts[0].npos);
 }
 
-TEST_F(TreeViewTest, ANumberThatDoesNotExistIsAnError) {
+TEST_F(TreeViewTest, AnIndexOutOfRangeThrows) {
   open();
   fill(2);
   EXPECT_THROW(tree().setText(3, u"x"), std::out_of_range);

@@ -58,7 +58,7 @@ TEST_F(WidgetTest, TheToolTipAppearsUnderThePointer) {
   EXPECT_TRUE(eventually([&] { return IsWindowVisible(toolTipOf(form)) != FALSE; }));
 }
 
-TEST_F(WidgetTest, ALabelTakesNoFocusButTellsTheMouse) {
+TEST_F(WidgetTest, ALabelTakesNoFocusButRaisesMouseMove) {
   class LabelForm : public FormB {
    public:
     forms::Label label{*this, u"输入：&x", {150, 1200, 900, 300}};
@@ -99,7 +99,7 @@ TEST_F(WidgetTest, ThePointersShapeIsTheFormsWhereItIsSet) {
   EXPECT_EQ(shapeOver(form.first), LoadCursorW(nullptr, IDC_IBEAM));
 }
 
-TEST_F(WidgetTest, TheMouseOverTheFormIsTheForms) {
+TEST_F(WidgetTest, TheFormRaisesMouseMoveOutsideItsWidgets) {
   auto& form = opened<FormA>();
   int moves = 0;
   form.onMouseMove = [&](forms::TwipPoint) { ++moves; };

@@ -96,7 +96,7 @@ TEST_F(Nhw32Hanging, AQuestionEndsInTimeAndTheWindowIsLeftAloneForAWhile) {
   }
 }
 
-TEST_F(Nhw32Hanging, AControlThatTakesItsTimeMayStillUseTheMemoryItWasGiven) {
+TEST_F(Nhw32Hanging, RemoteMemoryOutlivesAMessageThatTimedOut) {
   for (const auto& [className, message] :
        {std::pair(L"EDIT", UINT{WM_GETTEXT}), std::pair(L"EDIT", UINT{EM_GETRECT}),
         std::pair(L"RichEdit20W", UINT{EM_CHARFROMPOS}),
@@ -114,7 +114,7 @@ TEST_F(Nhw32Hanging, AControlThatTakesItsTimeMayStillUseTheMemoryItWasGiven) {
   }
 }
 
-TEST_F(Nhw32Hanging, ProbingNeverWaits) {
+TEST_F(Nhw32Hanging, ProbingNeverBlocksTheCaller) {
   constexpr int kTargets = 4;
   nhw32::SetNHW32();
   LatencyRecorder probing;
@@ -168,7 +168,7 @@ class Stubborn : public nhw32::WordReader {
   static inline std::atomic<int> asked = 0;
 };
 
-TEST_F(Nhw32Hanging, AWaySlowerThanTheProbesIsHeardAndAFailingOneDoesNoHarm) {
+TEST_F(Nhw32Hanging, AReaderSlowerThanTheProbesDeliversAndAThrowingOneDoesNoHarm) {
   Stubborn::asked = 0;
   nhw32::Service service([] { return std::make_unique<Stubborn>(); },
                          RegisterWindowMessageA(nhw32::kMessageName));

@@ -7,7 +7,7 @@
 #include "capture/nhw32/policy.h"
 #include "capture/nhw32/service.h"
 #include "tests/support/process/find.h"
-#include "tests/support/process/suspended_process.h"
+#include "tests/support/process/process.h"
 #include "tests/support/wait.h"
 #include "tests/support/window/hooked_text_window.h"
 #include "tests/support/window/latency_recorder.h"

@@ -43,7 +43,7 @@ TEST(TargetCoordinates, AreReducedForProgramsThatTheSystemEnlarges) {
 
 /// At every resolution each of the target's pixels is reached, and a box that holds it covers the
 /// pixel of the screen that it came from.
-TEST(TargetCoordinates, GoThereAndBackFrom100To200Percent) {
+TEST(TargetCoordinates, RoundTripFrom100To200Percent) {
   for (const int percent : {100, 110, 120, 125, 135, 150, 165, 175, 180, 190, 200}) {
     for (const TargetPoint origin : {TargetPoint{0, 0}, {100, 60}, {-1600, -900}}) {
       const WindowScale scale = shownAt(percent, origin);

@@ -140,7 +140,7 @@ TEST(ControlText, ALoneLineIsAsHighAsTheControlSays) {
   }
 }
 
-TEST(ControlText, WhatTheControlSaysHasToAgreeWithTheLetters) {
+TEST(ControlText, AReportedHeightIsLimitedByTheLetters) {
   Grid grid(u"word");  // expected to be 23 high
   grid.saidHeight = 200;
   EXPECT_EQ(heightUnder(grid, 5, 0), 35) << "a box much higher than its line";
@@ -148,7 +148,7 @@ TEST(ControlText, WhatTheControlSaysHasToAgreeWithTheLetters) {
   EXPECT_EQ(heightUnder(grid, 5, 0), 16) << "a caret made invisible";
 }
 
-TEST(ControlText, ALoneLineOfWhichNothingIsSaidIsAsHighAsUsualAtTheResolution) {
+TEST(ControlText, ALoneLineOfUnknownHeightHasTheUsualHeightAtTheDpi) {
   for (const auto& [dpi, height] : {std::pair{96, 16}, {120, 20}, {144, 24}, {192, 32}}) {
     Grid grid = Grid::ofHeights(u"word", {12});
     grid.resolution = dpi;
@@ -156,7 +156,7 @@ TEST(ControlText, ALoneLineOfWhichNothingIsSaidIsAsHighAsUsualAtTheResolution) {
   }
 }
 
-TEST(ControlText, ALoneLineOfLargerLettersIsAsHighAsTheyLetExpect) {
+TEST(ControlText, ALoneLineOfLargeLettersIsEstimatedFromThem) {
   for (const int height : {30, 60, 100}) {
     Grid grid = Grid::ofHeights(u"word", {height});
     EXPECT_NEAR(heightUnder(grid, 5, 0), 1.15 * height, 1);
@@ -182,7 +182,7 @@ class Arial : public Grid {
   }
 };
 
-TEST(ControlText, NarrowAndWideLettersLetExpectAboutTheSame) {
+TEST(ControlText, NarrowAndWideLettersGiveAboutTheSameEstimate) {
   for (const auto* word : {u"fatality", u"mummy", u"Word", u"model", u"at", u"tidy"}) {
     Arial line(word);
     const int height = heightUnder(line, 5, 0);
@@ -193,7 +193,7 @@ TEST(ControlText, NarrowAndWideLettersLetExpectAboutTheSame) {
   EXPECT_GE(heightUnder(narrowest, 5, 0), 44) << "down to the base line at least";
 }
 
-TEST(ControlText, ALastLineOfLargeLettersBelowSmallOnesIsAsHighAsItsLettersLetExpect) {
+TEST(ControlText, ALastLineOfLargeLettersBelowSmallOnesIsEstimatedFromThem) {
   for (const int dpi : {96, 144, 192}) {
     Grid grid = Grid::ofHeights(u"small\nsmall\nlarge", {15, 15, 60});
     grid.resolution = dpi;

@@ -305,7 +305,7 @@ TEST_F(Nhw32Edit, NothingWhereItsWindowShrinksOrMovesInMidQuestion) {
   }
 }
 
-TEST_F(Nhw32Edit, NothingInALineThatIsLongerThanItsCharactersCanBeTold) {
+TEST_F(Nhw32Edit, RefusesLinesOver65535Characters) {
   constexpr std::size_t kLongest = 0xFFFF;
   std::u16string line = u"plain ";
   while (line.size() <= kLongest) line += u"words of data ";

@@ -11,9 +11,9 @@ namespace {
 using nhw32::Outcome;
 
 /// A text two elements above the pointer, asked at a place that takes every kind of call.
-class AutomationFailureTest : public UiaTest {
+class UiaClientFailureTest : public UiaTest {
  protected:
-  AutomationFailureTest() {
+  UiaClientFailureTest() {
     plan().elements.resize(3);
     plan().elements.back().text = true;
     plan().text = u"one hello two";
@@ -44,23 +44,23 @@ class AutomationFailureTest : public UiaTest {
   const nhw32::ScreenPoint kPoint = grid::at(0, 6, 8);
 };
 
-TEST_F(AutomationFailureTest, AFailureOfAnyCallIsNoWord) {
+TEST_F(UiaClientFailureTest, AFailureOfAnyCallIsNoWord) {
   troubleAtEachCall({.result = E_FAIL}, Outcome::kNone);
 }
 
-TEST_F(AutomationFailureTest, AnElementThatVanishesIsNoWord) {
+TEST_F(UiaClientFailureTest, AnElementThatVanishesIsNoWord) {
   troubleAtEachCall({.result = nhw32::UIA_E_ELEMENTNOTAVAILABLE}, Outcome::kNone);
 }
 
-TEST_F(AutomationFailureTest, AnExceptionInAnyCallIsNoWord) {
+TEST_F(UiaClientFailureTest, AnExceptionInAnyCallIsNoWord) {
   troubleAtEachCall({.throws = true}, Outcome::kNone);
 }
 
-TEST_F(AutomationFailureTest, ACallThatRanOutOfTimeEndsTheQuestion) {
+TEST_F(UiaClientFailureTest, ACallThatRanOutOfTimeEndsTheQuestion) {
   troubleAtEachCall({.result = nhw32::UIA_E_TIMEOUT}, Outcome::kOutOfTime);
 }
 
-TEST_F(AutomationFailureTest, SuccessWithoutAResultIsNoWord) {
+TEST_F(UiaClientFailureTest, SuccessWithoutAResultIsNoWord) {
   const std::set<std::string> needed = {
       "ElementFromPoint", "get_ControlViewWalker", "GetParentElement", "RangeFromPoint", "Clone",
       "GetText"};
@@ -73,7 +73,7 @@ TEST_F(AutomationFailureTest, SuccessWithoutAResultIsNoWord) {
   }
 }
 
-TEST_F(AutomationFailureTest, SuccessWithoutAnAnswerIsNoWrongWord) {
+TEST_F(UiaClientFailureTest, SuccessWithoutAnAnswerIsNoWrongWord) {
   const auto calls = callsOfAnAnswer();
   for (std::size_t i = 0; i < calls.size(); ++i) {
     // An end that does not move looks like the end of the text.
@@ -85,7 +85,7 @@ TEST_F(AutomationFailureTest, SuccessWithoutAnAnswerIsNoWrongWord) {
   }
 }
 
-TEST_F(AutomationFailureTest, RectanglesThatMakeNoSenseAreNone) {
+TEST_F(UiaClientFailureTest, RectanglesThatMakeNoSenseAreNone) {
   for (const auto kind :
        {Rectangles::kNothing, Rectangles::kNone, Rectangles::kOdd, Rectangles::kIntegers,
         Rectangles::kTwoDimensions, Rectangles::kInfinite}) {
@@ -95,7 +95,7 @@ TEST_F(AutomationFailureTest, RectanglesThatMakeNoSenseAreNone) {
   EXPECT_EQ(uia_.times("GetText"), 0U);
 }
 
-TEST_F(AutomationFailureTest, LeavesNoMemoryBehind) {
+TEST_F(UiaClientFailureTest, LeavesNoMemoryBehind) {
   constexpr std::size_t kQuestions = 300;
   for (int i = 0; i < 50; ++i) callsOfAnAnswer();
   const std::size_t before = heapBlocks();

@@ -11,26 +11,26 @@ namespace {
 using nhw32::Outcome;
 using namespace std::chrono_literals;
 
-class AutomationTimeTest : public UiaTest {
+class UiaClientTimeTest : public UiaTest {
  protected:
-  AutomationTimeTest() { showText(u"one hello two"); }
+  UiaClientTimeTest() { showText(u"one hello two"); }
 
   const nhw32::ScreenPoint kPoint = grid::at(0, 6);
 };
 
-TEST_F(AutomationTimeTest, TellsTheClientHowLongACallMayTake) {
+TEST_F(UiaClientTimeTest, TellsTheClientHowLongACallMayTake) {
   EXPECT_EQ(wordAt(kPoint), u"hello");
   EXPECT_EQ(log().connectionLimit, 200U);
   EXPECT_EQ(log().transactionLimit, 200U);
   EXPECT_FALSE(log().takesFocus);
 }
 
-TEST_F(AutomationTimeTest, HearsASlowProgramOut) {
+TEST_F(UiaClientTimeTest, WaitsForASlowProgramWithinTheLimit) {
   plan().perCall = 10ms;
   EXPECT_EQ(wordAt(kPoint), u"hello");
 }
 
-TEST_F(AutomationTimeTest, GivesUpWhenAnotherCallCouldEndTooLate) {
+TEST_F(UiaClientTimeTest, GivesUpWhenAnotherCallCouldEndTooLate) {
   for (const auto perCall : {16ms, 30ms, 100ms, 200ms}) {
     plan().perCall = perCall;
     const auto start = log().now;
@@ -40,7 +40,7 @@ TEST_F(AutomationTimeTest, GivesUpWhenAnotherCallCouldEndTooLate) {
   }
 }
 
-TEST_F(AutomationTimeTest, TakesTheAnswerOfTheLastCallHoweverLate) {
+TEST_F(UiaClientTimeTest, TakesTheAnswerOfTheLastCallHoweverLate) {
   EXPECT_EQ(wordAt(kPoint), u"hello");
   const std::size_t last = log().calls.size();
   log().calls.clear();
@@ -50,7 +50,7 @@ TEST_F(AutomationTimeTest, TakesTheAnswerOfTheLastCallHoweverLate) {
   EXPECT_EQ(wordAt(kPoint), u"hello");
 }
 
-TEST_F(AutomationTimeTest, EndsInTimeByTheClockAsWell) {
+TEST_F(UiaClientTimeTest, EndsInTimeByTheClockAsWell) {
   reader_ =
       nhw32::makeUiaReader({system().makeClient, [] { return std::chrono::steady_clock::now(); }});
   plan().onCall = [] { Sleep(60); };
@@ -62,7 +62,7 @@ TEST_F(AutomationTimeTest, EndsInTimeByTheClockAsWell) {
   EXPECT_LE(log().calls.size(), 6U);
 }
 
-TEST_F(AutomationTimeTest, TriesSeldomWhereThereIsNoClient) {
+TEST_F(UiaClientTimeTest, RetriesAMissingClientAfterAMinute) {
   int tries = 0;
   HRESULT result = REGDB_E_CLASSNOTREG;
   reader_ = nhw32::makeUiaReader({[&](nhw32::IUIAutomation2** client) {
@@ -84,14 +84,14 @@ TEST_F(AutomationTimeTest, TriesSeldomWhereThereIsNoClient) {
   EXPECT_EQ(tries, 2);
 }
 
-TEST_F(AutomationTimeTest, AsksNothingWithoutLimits) {
+TEST_F(UiaClientTimeTest, AsksNothingWithoutLimits) {
   plan().limits = E_NOTIMPL;
   EXPECT_EQ(outcome(kPoint), Outcome::kNone);
   EXPECT_TRUE(log().calls.empty());
   EXPECT_EQ(log().live, 0);
 }
 
-TEST_F(AutomationTimeTest, StandsAClientThatIsNotThereOrThrows) {
+TEST_F(UiaClientTimeTest, SurvivesANullOrThrowingClient) {
   reader_ = nhw32::makeUiaReader({[](nhw32::IUIAutomation2**) { return S_OK; }, system().now});
   EXPECT_EQ(outcome(kPoint), Outcome::kNone);
   reader_ = nhw32::makeUiaReader(
@@ -99,7 +99,7 @@ TEST_F(AutomationTimeTest, StandsAClientThatIsNotThereOrThrows) {
   EXPECT_EQ(outcome(kPoint), Outcome::kNone);
 }
 
-TEST_F(AutomationTimeTest, AsksNothingOnAThreadThatTakesMessagesForCom) {
+TEST_F(UiaClientTimeTest, AsksNothingInASingleThreadedApartment) {
   Outcome seen = Outcome::kWord;
   std::thread([&] {
     const HRESULT result = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
@@ -111,7 +111,7 @@ TEST_F(AutomationTimeTest, AsksNothingOnAThreadThatTakesMessagesForCom) {
   EXPECT_TRUE(log().calls.empty());
 }
 
-TEST_F(AutomationTimeTest, TheSystemsOwnFindsNoWordInAWindowWithoutText) {
+TEST_F(UiaClientTimeTest, TheSystemsClientFindsNoWordInAWindowWithoutText) {
   reader_ = nhw32::makeUiaReader();
   const auto start = std::chrono::steady_clock::now();
   for (int i = 0; i < 20; ++i) EXPECT_EQ(outcome({-20000, -20000}), Outcome::kNone);

@@ -7,7 +7,7 @@ namespace {
 
 using nhw32::Outcome;
 
-class AutomationElementTest : public UiaTest {
+class UiaTextPatternTest : public UiaTest {
  protected:
   /// A text in the ancestor that lies so many elements above the one under the pointer.
   void showTextAbove(std::size_t ancestors) {
@@ -17,7 +17,7 @@ class AutomationElementTest : public UiaTest {
   }
 };
 
-TEST_F(AutomationElementTest, FindsNoneWhereNoElementHasText) {
+TEST_F(UiaTextPatternTest, FindsNoneWhereNoElementHasText) {
   plan().text = u"word";
   plan().elements.assign(4, {});
   EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
@@ -25,12 +25,12 @@ TEST_F(AutomationElementTest, FindsNoneWhereNoElementHasText) {
   EXPECT_TRUE(nothingRead());
 }
 
-TEST_F(AutomationElementTest, FindsNoneWhereThereIsNoElement) {
+TEST_F(UiaTextPatternTest, FindsNoneWhereThereIsNoElement) {
   plan().elements.clear();
   EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
 }
 
-TEST_F(AutomationElementTest, LooksForTextInTenAncestors) {
+TEST_F(UiaTextPatternTest, LooksForTextInTenAncestors) {
   for (const std::size_t ancestors : {0U, 1U, 3U, 10U}) {
     showTextAbove(ancestors);
     EXPECT_EQ(wordAt(grid::at(0, 1)), u"word") << ancestors;
@@ -41,14 +41,14 @@ TEST_F(AutomationElementTest, LooksForTextInTenAncestors) {
   EXPECT_EQ(uia_.times("GetParentElement"), 10U);
 }
 
-TEST_F(AutomationElementTest, StopsAtTheNearestText) {
+TEST_F(UiaTextPatternTest, StopsAtTheNearestText) {
   showTextAbove(5);
   plan().elements[2].text = true;
   EXPECT_EQ(wordAt(grid::at(0, 1)), u"word");
   EXPECT_EQ(uia_.times("GetParentElement"), 2U);
 }
 
-TEST_F(AutomationElementTest, NeverReadsAPasswordField) {
+TEST_F(UiaTextPatternTest, NeverReadsAPasswordField) {
   showText(u"secret");
   plan().elements[0].password = true;
   EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
@@ -56,7 +56,7 @@ TEST_F(AutomationElementTest, NeverReadsAPasswordField) {
   EXPECT_EQ(log().calls.size(), 2U);
 }
 
-TEST_F(AutomationElementTest, NeverReadsInsideAPasswordField) {
+TEST_F(UiaTextPatternTest, NeverReadsInsideAPasswordField) {
   for (const std::size_t password : {1U, 2U, 3U}) {
     showTextAbove(3);
     plan().elements[password].password = true;
@@ -65,7 +65,7 @@ TEST_F(AutomationElementTest, NeverReadsInsideAPasswordField) {
   }
 }
 
-TEST_F(AutomationElementTest, ReadsNothingWhereItIsNotKnownWhetherItIsAPassword) {
+TEST_F(UiaTextPatternTest, ReadsNothingWhereItIsNotKnownWhetherItIsAPassword) {
   showText(u"secret");
   plan().elements[0].passwordType = VT_EMPTY;
   EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
@@ -74,7 +74,7 @@ TEST_F(AutomationElementTest, ReadsNothingWhereItIsNotKnownWhetherItIsAPassword)
   EXPECT_TRUE(nothingRead());
 }
 
-TEST_F(AutomationElementTest, LeavesAnotherProgramsWindowOverTheOneAskedAlone) {
+TEST_F(UiaTextPatternTest, LeavesAnotherProgramsWindowOverTheOneAskedAlone) {
   showText(u"word");
   plan().elements[0].process = GetCurrentProcessId() + 4;
   EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
@@ -86,7 +86,7 @@ TEST_F(AutomationElementTest, LeavesAnotherProgramsWindowOverTheOneAskedAlone) {
   EXPECT_TRUE(nothingRead());
 }
 
-TEST_F(AutomationElementTest, TakesAnotherProcessInTheSameWindow) {
+TEST_F(UiaTextPatternTest, TakesAnotherProcessInTheSameWindow) {
   const auto child = makeWindow(window_.get());
   showTextAbove(1);
   for (auto& element : plan().elements) element.process = GetCurrentProcessId() + 4;
@@ -96,14 +96,14 @@ TEST_F(AutomationElementTest, TakesAnotherProcessInTheSameWindow) {
   EXPECT_EQ(wordAt(grid::at(0, 1)), u"word");
 }
 
-TEST_F(AutomationElementTest, AsksNothingOfAHiddenWindow) {
+TEST_F(UiaTextPatternTest, AsksNothingOfAHiddenWindow) {
   showText(u"word");
   ShowWindow(window_.get(), SW_HIDE);
   EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
   EXPECT_TRUE(log().calls.empty());
 }
 
-TEST_F(AutomationElementTest, FindsNoneInAWindowThatHidesOrGoesMeanwhile) {
+TEST_F(UiaTextPatternTest, FindsNoneInAWindowThatHidesOrGoesMeanwhile) {
   showText(u"word");
   EXPECT_EQ(wordAt(grid::at(0, 1)), u"word");
   const std::size_t last = log().calls.size();
@@ -121,7 +121,7 @@ TEST_F(AutomationElementTest, FindsNoneInAWindowThatHidesOrGoesMeanwhile) {
   EXPECT_TRUE(nothingRead());
 }
 
-TEST_F(AutomationElementTest, FindsNoneInAWindowThatShrinksOrMovesMeanwhile) {
+TEST_F(UiaTextPatternTest, FindsNoneInAWindowThatShrinksOrMovesMeanwhile) {
   showText(u"word");
   EXPECT_EQ(wordAt(grid::at(0, 1)), u"word");
   const std::size_t last = log().calls.size();

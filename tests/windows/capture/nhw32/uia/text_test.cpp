@@ -8,9 +8,9 @@ namespace {
 using nhw32::Outcome;
 using nhw32::ScreenPoint;
 
-class AutomationTextTest : public UiaTest {};
+class UiaTextTest : public UiaTest {};
 
-TEST_F(AutomationTextTest, FindsTheWordUnderEveryPixelOfIt) {
+TEST_F(UiaTextTest, FindsTheWordUnderEveryPixelOfIt) {
   showText(u"one hello two");
   for (int column = 4; column < 9; ++column) {
     for (int right = 0; right < grid::kWidth; ++right) {
@@ -22,7 +22,7 @@ TEST_F(AutomationTextTest, FindsTheWordUnderEveryPixelOfIt) {
   }
 }
 
-TEST_F(AutomationTextTest, FindsNoneOnBlanksAndOtherCharacters) {
+TEST_F(UiaTextTest, FindsNoneOnBlanksAndOtherCharacters) {
   showText(u"one  two, 42 \t.");
   for (const int column : {3, 4, 8, 9, 10, 11, 12, 13, 14}) {
     for (const int right : {0, 4, 5, 9}) {
@@ -31,7 +31,7 @@ TEST_F(AutomationTextTest, FindsNoneOnBlanksAndOtherCharacters) {
   }
 }
 
-TEST_F(AutomationTextTest, TakesNoNearestWordThatIsNotUnderThePoint) {
+TEST_F(UiaTextTest, TakesNoNearestWordThatIsNotUnderThePoint) {
   showText(u"first\nsecond");
   const ScreenPoint besides[] = {
       grid::at(0, -1), grid::at(-1, 0), grid::at(0, 5),   grid::at(0, 5, 0), grid::at(0, 300),
@@ -44,14 +44,14 @@ TEST_F(AutomationTextTest, TakesNoNearestWordThatIsNotUnderThePoint) {
   EXPECT_EQ(wordAt(grid::at(1, 5, 9)), u"second");
 }
 
-TEST_F(AutomationTextTest, KnowsThePlaceInLaterLines) {
+TEST_F(UiaTextTest, FindsWordsInLaterLines) {
   showText(u"a\nbb cc\nddd");
   const auto answer = ask(grid::at(1, 3));
   EXPECT_EQ(answer.word.text, u"cc");
   EXPECT_EQ(answer.word.box, grid::box(1, 3, 2));
 }
 
-TEST_F(AutomationTextTest, KeepsWordsWithHyphensAndApostrophesWhole) {
+TEST_F(UiaTextTest, KeepsWordsWithHyphensAndApostrophesWhole) {
   showText(u"a well-known don\u2019t 'tis");
   for (const int column : {2, 5, 6, 7, 11}) {
     EXPECT_EQ(wordAt(grid::at(0, column)), u"well-known") << column;
@@ -62,7 +62,7 @@ TEST_F(AutomationTextTest, KeepsWordsWithHyphensAndApostrophesWhole) {
   EXPECT_EQ(wordAt(grid::at(0, 20)), u"tis");
 }
 
-TEST_F(AutomationTextTest, PartsEnglishFromChinese) {
+TEST_F(UiaTextTest, PartsEnglishFromChinese) {
   showText(u"请看word这里");
   EXPECT_EQ(wordAt(grid::at(0, 2)), u"word");
   EXPECT_EQ(wordAt(grid::at(0, 5, 9)), u"word");
@@ -70,7 +70,7 @@ TEST_F(AutomationTextTest, PartsEnglishFromChinese) {
   EXPECT_EQ(ask(grid::at(0, 3)).word.box, grid::box(0, 2, 4));
 }
 
-TEST_F(AutomationTextTest, StandsCharactersOfTwoUnits) {
+TEST_F(UiaTextTest, ReadsSurrogatePairs) {
   showText(u"\U0001F600word\U0001F600 \U0001F600");
   EXPECT_EQ(wordAt(grid::at(0, 2)), u"word");
   EXPECT_EQ(wordAt(grid::at(0, 5)), u"word");
@@ -78,14 +78,14 @@ TEST_F(AutomationTextTest, StandsCharactersOfTwoUnits) {
   EXPECT_EQ(outcome(grid::at(0, 9)), Outcome::kNone);
 }
 
-TEST_F(AutomationTextTest, MakesDoWithUnitsThatAreWords) {
+TEST_F(UiaTextTest, ReadsTextsWhoseCharacterUnitIsAWord) {
   showText(u"one hello  two");
   plan().units = Units::kWords;
   EXPECT_EQ(wordAt(grid::at(0, 6)), u"hello");
   EXPECT_EQ(wordAt(grid::at(0, 13)), u"two");
 }
 
-TEST_F(AutomationTextTest, FindsNoneInUnitsThatHoldMoreThanAWord) {
+TEST_F(UiaTextTest, FindsNoneIfTheUnitHoldsMoreThanAWord) {
   showText(u"one hello two");
   plan().units = Units::kAll;
   EXPECT_EQ(outcome(grid::at(0, 6)), Outcome::kNone);
@@ -93,7 +93,7 @@ TEST_F(AutomationTextTest, FindsNoneInUnitsThatHoldMoreThanAWord) {
   EXPECT_EQ(wordAt(grid::at(0, 3)), u"hello");
 }
 
-TEST_F(AutomationTextTest, ReadsOfAMegabyteOnlyWhatLiesAround) {
+TEST_F(UiaTextTest, ReadsOfAMegabyteOnlyWhatLiesAround) {
   std::u16string text;
   while (text.size() < 1'000'000) text += u"many words in every line of it\n";
   showText(text);
@@ -115,7 +115,7 @@ TEST_F(AutomationTextTest, ReadsOfAMegabyteOnlyWhatLiesAround) {
   EXPECT_EQ(wordAt(grid::at(0, 1)), u"word");
 }
 
-TEST_F(AutomationTextTest, FindsNoneInARunLongerThanWordsAre) {
+TEST_F(UiaTextTest, FindsNoneInARunLongerThanWordsAre) {
   showText(std::u16string(128, u'a') + u" " + std::u16string(129, u'b'));
   EXPECT_EQ(wordAt(grid::at(0, 0)), std::u16string(128, u'a'));
   EXPECT_EQ(wordAt(grid::at(0, 127)), std::u16string(128, u'a'));
@@ -124,7 +124,7 @@ TEST_F(AutomationTextTest, FindsNoneInARunLongerThanWordsAre) {
   }
 }
 
-TEST_F(AutomationTextTest, FindsNoneInAnEmptyText) {
+TEST_F(UiaTextTest, FindsNoneInAnEmptyText) {
   showText(u"");
   EXPECT_EQ(outcome(grid::at(0, 0)), Outcome::kNone);
   EXPECT_EQ(uia_.times("GetText"), 0U);

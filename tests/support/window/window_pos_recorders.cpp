@@ -1,4 +1,4 @@
-#include "tests/support/window/strip_recorder.h"
+#include "tests/support/window/window_pos_recorders.h"
 
 #include "tests/support/window/window_geometry.h"
 

@@ -2,6 +2,10 @@
 
 #include <windows.h>
 
+#include <vector>
+
+/// What windows of this thread are told about their places, seen by a hook, for tests of windows
+/// that come and go within one call.
 namespace support {
 
 /// Counts how often windows of a class of this thread were told to show themselves, while it lives.
@@ -40,6 +44,27 @@ class ShowCounter {
     return CallNextHookEx(nullptr, code, wParam, lParam);
   }
 
+  HHOOK hook_;
+};
+
+/// Writes down every place that the probe strip takes, shown or not, while it lives.
+class StripRecorder {
+ public:
+  struct Place {
+    RECT rect{};
+    bool shown = false;
+    bool topmost = false;
+    bool tookFocus = false;
+  };
+
+  StripRecorder();
+  ~StripRecorder();
+  StripRecorder(const StripRecorder&) = delete;
+  StripRecorder& operator=(const StripRecorder&) = delete;
+
+  [[nodiscard]] static const std::vector<Place>& places();
+
+ private:
   HHOOK hook_;
 };
 
