@@ -80,6 +80,6 @@ function readReport() {
 const report = status <= 1 ? readReport() : null;
 // A native executable that finds leaks at its end has written its report all the same.
 const counts = report ? countReport(report) : countLog();
-// Written by harness::tellOnceMore.
+// Written by support::reportRetry.
 const repeated = readLog().match(/^\[ONCE MORE \] /gm)?.length ?? 0;
 process.stdout.write([...counts, repeated].join(' ') + '\n');

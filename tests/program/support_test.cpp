@@ -1,5 +1,5 @@
-// The harness itself, tried on programs that are there anyway: what it types, reads and clicks is
-// really typed, read and clicked.
+// Tests of the functions that drive programs from outside, on the system's own programs: what they
+// type, read and click is really typed, read and clicked.
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -44,7 +44,7 @@ DWORD processOf(HWND window);
 /// is done. Throws Failure where it does not end with success.
 void runBelow(const std::string& command);
 
-/// While it lives, another program stands still, as one does that waits for a disk or a debugger.
+/// Suspends another program until the end of the scope.
 class SuspendedProcess {
  public:
   /// Stops the one program whose command line contains `mark`. Throws Failure where not exactly one

@@ -116,7 +116,7 @@ std::size_t FakeUia::times(const std::string& name) const {
 }
 
 HRESULT FakeUia::fail() const {
-  if (plan.trouble->throws) throw std::runtime_error("the stand-in throws");
+  if (plan.trouble->throws) throw std::runtime_error("the fake throws");
   return plan.trouble->result;
 }
 

@@ -11,11 +11,11 @@
 #include "capture/nhw32/reader.h"
 #include "capture/nhw32/uia/uia_interfaces.h"
 
-/// A program that UI Automation tells of, made up: a column of elements, one of which may hold a
-/// text, and the objects through which it is asked.
+/// A fake of UI Automation: a chain of elements, one of which may hold a text, and the COM objects
+/// of the client's side.
 namespace support {
 
-/// One element, and what it says of itself.
+/// One element and its properties.
 struct ElementPlan {
   VARTYPE passwordType = VT_BOOL;
   bool password = false;
@@ -24,17 +24,17 @@ struct ElementPlan {
   HWND window = nullptr;
 };
 
-/// What goes wrong at one of the calls.
+/// A failure of one of the calls.
 struct Trouble {
   std::size_t call = 0;  ///< the number of the call, from 0
   HRESULT result = E_FAIL;
   bool throws = false;
 };
 
-/// What the text counts as a character.
+/// What TextUnit_Character covers.
 enum class Units { kCharacters, kWords, kAll };
 
-/// What GetBoundingRectangles leaves.
+/// What GetBoundingRectangles returns.
 enum class Rectangles { kRight, kNothing, kNone, kOdd, kIntegers, kTwoDimensions, kInfinite };
 
 struct FakeUiaPlan {
@@ -50,7 +50,7 @@ struct FakeUiaPlan {
   HRESULT limits = S_OK;  ///< what setting a limit of time returns
 };
 
-/// What was seen of the asking.
+/// The calls that were made.
 struct FakeUiaLog {
   std::vector<std::string> calls;
   int live = 0;  ///< objects that somebody holds a reference to
@@ -90,7 +90,7 @@ HRESULT makeFakeUia(FakeUia& uia, nhw32::IUIAutomation2** client);
 HRESULT makeFakeUiaRange(FakeUia& uia, std::size_t begin, std::size_t end,
                          nhw32::IUIAutomationTextRange** range);
 
-/// Counts references for an object of the stand-in.
+/// Counts references for an object of the fake.
 template <class Interface>
 class Counted : public Interface {
  public:
@@ -117,7 +117,7 @@ class Counted : public Interface {
   ULONG references_ = 1;
 };
 
-/// Where the stand-in's characters lie: a grid, each line of the text one row.
+/// Where the fake's characters lie: a grid, each line of the text one row.
 namespace grid {
 inline constexpr int kLeft = 100;
 inline constexpr int kTop = 200;

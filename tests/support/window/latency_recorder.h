@@ -5,8 +5,8 @@
 
 namespace support {
 
-/// How long calls hold up the thread that makes them. No more calls about one window than are made
-/// before it is left alone: waiting would hide among the rest.
+/// Records how long calls block the calling thread. Measure no more calls about one window than are
+/// made before the service backs off from it: further ones are quick and would hide the slow ones.
 class LatencyRecorder {
  public:
   using Time = std::chrono::microseconds;
@@ -23,8 +23,8 @@ class LatencyRecorder {
 
   [[nodiscard]] Time longest() const { return longest_; }
 
-  /// Whether the calls wait for what they are about: then all of them are slow. A busy machine
-  /// takes the processor away from some of any calls.
+  /// Whether at least half of the calls took longer than kWaited: calls that wait for another
+  /// program are all slow, while a busy machine delays only some.
   [[nodiscard]] bool wait() const { return 2 * waits_ >= calls_; }
 
  private:

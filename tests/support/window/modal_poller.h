@@ -6,8 +6,8 @@
 
 namespace support {
 
-/// Looks every 10 ms while messages are handled, in the loops of message boxes and menus too: the
-/// user in front of a window that waits for an answer.
+/// Calls a function every 10 ms while messages are handled, in the modal loops of message boxes and
+/// menus too, so that a test can act while one of them is open.
 class ModalPoller {
  public:
   /// `look` is called until it returns true.

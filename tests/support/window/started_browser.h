@@ -2,7 +2,7 @@
 
 #include <string>
 
-/// The test program as the browser that Lexilo starts: it writes down how it was started.
+/// The test program in the role of the browser that Lexilo starts: it records how it was started.
 namespace support {
 
 /// How a program was started to show a page, as it sees it itself.
@@ -13,8 +13,8 @@ struct StartedBrowser {
   int show = 0;            ///< SW_SHOWNORMAL ...; -1 where it was not told
 };
 
-/// In the browser's role: writes down how it was started and returns true where its command line
-/// names a page.
+/// Records how this process was started and returns true if its command line names a page: it was
+/// started as the browser.
 bool recordedPage();
 
 /// Makes a copy of this program the browser, in a folder whose name has a blank, and forgets what

@@ -17,11 +17,11 @@ struct TextPoint {
 /// in another character as long as there are as many. The last characters of lines are left out.
 std::vector<TextPoint> visibleTextPoints(HWND control, std::size_t count);
 
-/// How many pixels down from the upper edge of a character the service tells a word, all from there
-/// on; where it does so again further down, a failure.
+/// Returns the number of pixel rows, from a character's upper edge down, in which the service finds
+/// a word. Fails the test if it finds one again further down.
 int wordRows(HWND control, std::size_t position);
 
-/// How many pixels one line of a control's text stands above the next.
+/// Returns the distance in pixels from one line of a control's text to the next.
 int lineDistance(HWND control, std::size_t inLine, std::size_t inNextLine);
 
 }  // namespace support

@@ -24,7 +24,7 @@ inline TestWindow makeWindow(HWND parent = nullptr) {
   return window;
 }
 
-/// Asks the stand-in about a window of the test's own. Whatever was asked, nothing of the stand-in
+/// Asks the fake about a window of the test's own. Whatever was asked, nothing of the fake
 /// is left when the test ends.
 class UiaTest : public ::testing::Test {
  protected:
@@ -60,7 +60,7 @@ class UiaTest : public ::testing::Test {
            uia_.times("RangeFromPoint") == 0;
   }
 
-  /// The system of the stand-in.
+  /// The system of the fake.
   nhw32::UiaSystem system() {
     return {[this](nhw32::IUIAutomation2** client) { return makeFakeUia(uia_, client); },
             [this] { return uia_.log.now; }};
