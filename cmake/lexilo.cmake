@@ -92,8 +92,8 @@ endfunction()
 
 # lexilo_folder(NAME [SUBFOLDERS folder...] [EXCEPT file...] [PORTABLE target...] [WINDOWS target...])
 # makes libraries of the sources of a folder, and of the subfolders that are named, by their names:
-# NAME of x.cpp, built everywhere and linked with the targets behind PORTABLE; NAME_win of x_win.cpp,
-# built for Windows only and linked with NAME and with the targets behind WINDOWS. There is no NAME
+# NAME of x.cpp, built everywhere and linked with the targets after PORTABLE; NAME_win of x_win.cpp,
+# built for Windows only and linked with NAME and with the targets after WINDOWS. There is no NAME
 # where no source is portable, and no NAME_win where none is for Windows.
 function(lexilo_folder name)
   cmake_parse_arguments(arg "" "" "SUBFOLDERS;EXCEPT;PORTABLE;WINDOWS" ${ARGN})

@@ -9,7 +9,7 @@
 namespace dictionary {
 
 // The working set is the part of the process in physical memory, as ru_maxrss is elsewhere. The
-// size of the structure tells the function which version of it the caller was built with.
+// size of the structure says which version of it the caller was built with.
 std::size_t peakMemory() {
   PROCESS_MEMORY_COUNTERS counters{};
   counters.cb = sizeof(counters);

@@ -22,16 +22,16 @@ Font fontOf(int pixels, int dpi) {
 }
 
 /// A window's device context with a font selected into it.
-class Measuring {
+class ScopedFontSelection {
  public:
-  Measuring(HWND window, HFONT font)
+  ScopedFontSelection(HWND window, HFONT font)
       : window_(window), dc_(GetDC(window)), before_(SelectObject(dc_, font)) {}
-  ~Measuring() {
+  ~ScopedFontSelection() {
     SelectObject(dc_, before_);
     ReleaseDC(window_, dc_);
   }
-  Measuring(const Measuring&) = delete;
-  Measuring& operator=(const Measuring&) = delete;
+  ScopedFontSelection(const ScopedFontSelection&) = delete;
+  ScopedFontSelection& operator=(const ScopedFontSelection&) = delete;
 
   [[nodiscard]] int widestLetter() const {
     SIZE size{};
@@ -91,9 +91,9 @@ void ColumnTree::makeFonts() {
   setFont(fontOf(size, dpi));
   for (int pixels = size; pixels > columnWidth_; --pixels) {
     drawingFont_ = makeFont(fontOf(pixels, dpi), dpi);
-    const Measuring measuring(handle(), drawingFont_.get());
-    textHeight_ = measuring.height();
-    if (measuring.widestLetter() <= columnWidth_) return;
+    const ScopedFontSelection selected(handle(), drawingFont_.get());
+    textHeight_ = selected.height();
+    if (selected.widestLetter() <= columnWidth_) return;
   }
 }
 

@@ -14,7 +14,7 @@ class Yardsticks {
  public:
   Yardsticks(const char* file, const std::vector<Entry>& entries);
 
-  /// Has SQLite read one column of every row of [med] and tell that none has a length below zero:
+  /// Has SQLite read one column of every row of [med] and find that none has a length below zero:
   /// all that a search by LIKE does but the LIKE.
   void scan(std::string_view column) const;
 

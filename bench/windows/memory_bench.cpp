@@ -50,7 +50,7 @@ Memory bareWindowMemory(const std::wstring& program) {
 }
 
 /// Headwords of all lengths from one index table. Those with an apostrophe are left out: the list
-/// that they lead to may begin before them, so that the pane does not tell when it is there.
+/// that they lead to may begin before them, so that the pane does not show when it is there.
 std::vector<std::wstring> headwords(const std::u16string& table, std::minstd_rand& random) {
   data::DataControl control;
   const std::wstring database = support::AppFolder::withFullDictionary().database().wstring();

@@ -27,7 +27,7 @@ double threadTime(DWORD id) {
 
 }  // namespace
 
-// Thread by thread: Wine tells a program only its own times as a process.
+// Thread by thread: Wine returns process times of the calling process only.
 double processorTime(DWORD process) {
   const win32::OwnedKernelObject snapshot(CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0));
   THREADENTRY32 entry{};

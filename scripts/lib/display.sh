@@ -17,7 +17,7 @@ has_window_manager() {
   xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
 }
 
-# start_display [NAME]: starts a display and makes it $DISPLAY. The name tells its log from those of
+# start_display [NAME]: starts a display and makes it $DISPLAY. The name distinguishes its log from those of
 # other displays.
 start_display() {
   local number log=$LEXILO_ROOT/build/logs/display${1:+-$1}.log

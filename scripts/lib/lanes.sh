@@ -24,7 +24,7 @@ wait_for_lanes() {
   done
 }
 
-# Ends what runs in the background of this shell, and waits until it has cleaned up behind itself.
+# Ends what runs in the background of this shell, and waits until it has cleaned up.
 stop_jobs() {
   local job
   for job in $(jobs -p); do

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Messages, and steps that tell how they are getting on.
+# Messages, and steps that report their progress.
 
 # Prints one line of news.
 say() {

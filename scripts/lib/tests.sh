@@ -26,7 +26,7 @@ in_words() {
   esac
 }
 
-# count LAYER PASSED FAILED REPEATED TENTHS: tells the numbers of a layer and keeps them for the sum.
+# count LAYER PASSED FAILED REPEATED TENTHS: prints the numbers of a layer and keeps them for the sum.
 count() {
   printf '%s %s %s\n' "$2" "$3" "$4" >>"$counts"
   say "$1: $(in_words "$2" "$3" "$4") ($(($5 / 10)).$(($5 % 10)) s)"

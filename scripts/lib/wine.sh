@@ -52,7 +52,7 @@ base_stamp() {
 
 # Makes the prefix from which all others are copied, again when Wine has changed.
 ensure_wine_base() {
-  # The backtraces of earlier runs tell nothing of this one.
+  # The backtraces of earlier runs say nothing about this one.
   rm -f "$crash_log"
   [[ $(cat "$wine_base/made-by" 2>/dev/null) == "$(base_stamp)" ]] && return
   step "Making a Wine prefix" prefix.log \

@@ -19,7 +19,7 @@ bool isBlank(std::string_view text) {
   return text.find_first_not_of(" \t\n\f\r") == std::string_view::npos;
 }
 
-/// The parts lie in the text one behind the other, with nothing but blanks between them.
+/// The parts lie in the text one after the other, with nothing but blanks between them.
 void checkParts(std::string_view sql) {
   std::size_t reached = 0;
   for (const data::Token& token : data::tokenize(sql)) {
@@ -59,7 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   checkParts(sql);
   const data::Query query = data::translate(sql);
   checkParts(query.sql);
-  // What nothing closes swallows all that is added behind it.
+  // An open quote or comment contains all that is added after it.
   const std::vector<data::Token> parts = data::tokenize(sql);
   if (parts.empty() || parts.back().kind != data::TokenKind::kBroken) checkQuotes(sql, query.sql);
   if (!query.top) require(query.sql.size() >= sql.size());

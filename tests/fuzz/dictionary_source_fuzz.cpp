@@ -1,4 +1,4 @@
-/// Reading a source of the dictionary and taking its entries apart. Input: the lines behind the
+/// Reading a source of the dictionary and taking its entries apart. Input: the lines after the
 /// header.
 
 #include <sstream>

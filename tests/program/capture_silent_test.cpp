@@ -76,7 +76,7 @@ bool mostlyPrompt(Measure measure) {
   return prompt == kMost;
 }
 
-/// Presses a button with the mouse, thinks better of it, and tells how long it took to go down.
+/// Presses a button with the mouse, releases it elsewhere, and returns how long it took to go down.
 Milliseconds timeToPress(HWND button) {
   const Milliseconds taken = pressButton(button);
   input::moveTo(kAwayFromTexts);

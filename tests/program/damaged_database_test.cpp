@@ -105,8 +105,8 @@ TEST_P(DamagedDatabase, ProgramStaysUsable) {
 
 INSTANTIATE_TEST_SUITE_P(AtTenPlaces, DamagedDatabase, ::testing::Range(0, 10));
 
-/// Starts the program and expects it to tell that its dictionary has `problem`, where it lies, what
-/// to do and what the engine says; then ends it.
+/// Starts the program and expects it to report that its dictionary has `problem`, where it lies,
+/// what to do and what the engine says; then ends it.
 void expectToldAtStart(const AppFolder& folder, const std::wstring& problem,
                        const std::wstring& engineText) {
   const Lexilo lexilo(folder);

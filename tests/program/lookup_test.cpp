@@ -99,7 +99,7 @@ TEST_F(Lookup, EveryLetterTypedMovesTheList) {
 TEST_F(Lookup, TheHeadwordIsRedAndItsMeaningsAreBlue) {
   window.lookUp(L"data");
   const std::vector<COLORREF> colours = richTextColours(window.pane());
-  // The control counts the line end behind the headword as one character.
+  // The control counts the line end after the headword as one character.
   const std::size_t head = std::wstring_view(L" data\n").size();
   ASSERT_GT(colours.size(), head);
   for (std::size_t i = 0; i < colours.size(); ++i) {
@@ -184,7 +184,7 @@ TEST_F(Lookup, ATextBehindTheLastWordLeavesTheListAsItWas) {
   EXPECT_EQ(window.headword(), L"data");
 }
 
-/// Selects with the mouse, from the first character to the one behind the last, as the pane counts.
+/// Selects with the mouse, from the first character to the one after the last, as the pane counts.
 void sweep(HWND pane, LONG first, LONG end) {
   const POINT from = richTextPosition(pane, first);
   const POINT to = richTextPosition(pane, end);

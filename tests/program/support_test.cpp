@@ -86,7 +86,7 @@ TEST_F(Harness, SeesWhatIsOnTheScreen) {
 }
 
 TEST_F(Harness, ReadsAndAnswersAMessageBox) {
-  // The shell tells of a program that is not there in a message box.
+  // The shell reports a missing program in a message box.
   const Process shell(L"C:\\windows\\system32\\winhlp32.exe", L"nothing-of-this-name.hlp");
   const ShownMessage box = waitForMessageBox(shell);
   EXPECT_FALSE(box.text.empty());

@@ -45,7 +45,7 @@ inline std::vector<std::u16string> endlessTexts() {
 /// endless texts.
 inline std::vector<std::u16string> briefHostileTexts() {
   std::vector<std::u16string> texts{
-      // Statements behind the query.
+      // Statements after the query.
       u"'; delete from med; --",
       u"'; drop table med; --",
       u"'; update [Index] set [default]=0; --",
@@ -152,7 +152,7 @@ inline std::vector<std::u16string> briefHostileTexts() {
   texts.push_back(u"' or exists (select 1 from med a" + repeated(u" join med using (word)", 40) +
                   u") --");
   texts.push_back(u"zzz' or exists (select 1 from med" + repeated(u",med", 60) + u") --");
-  // Each name stands for twice the one before.
+  // Each name is twice the one before.
   std::u16string doubling = u"' or exists (with a0 as (select word w from med)";
   for (char16_t c = u'a'; c < u'y'; ++c) {
     const std::u16string from = c == u'a' ? u"a0" : std::u16string(2, static_cast<char16_t>(c - 1));

@@ -19,7 +19,7 @@ std::optional<int> treeSelection(HWND tree);
 /// Where node `index` stands on the screen; nothing where it is scrolled out of sight.
 std::optional<RECT> treeNodeRect(HWND tree, int index);
 
-/// The selection of a text box or rich text box: first character and the one behind the last, in
+/// The selection of a text box or rich text box: first character and the one after the last, in
 /// the control's own count.
 struct Selection {
   LONG first = 0;

@@ -35,7 +35,7 @@ std::vector<HWND> childrenOf(HWND parent, const std::wstring& className = L"");
 /// Waits for a visible child of that class and returns the first.
 HWND waitForChild(HWND parent, const std::wstring& className);
 
-/// The one visible child of that class. Throws Failure where there is none or more than one.
+/// The one visible child of that class. Throws Failure if there is none or more than one.
 HWND onlyChild(HWND parent, const std::wstring& className);
 
 std::wstring classOf(HWND window);

@@ -5,7 +5,7 @@
 /// The settings that Lexilo keeps in system.ini of the system directory.
 namespace support::settings {
 
-/// The text under a key, "" where there is none.
+/// The text under a key, otherwise "".
 std::wstring read(const std::wstring& key);
 
 /// Puts a text there.

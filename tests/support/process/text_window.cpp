@@ -5,7 +5,7 @@
 namespace support {
 namespace {
 
-/// Has the window's thread wait until the event in its wParam is set, and tells so by the other.
+/// Has the window's thread wait until the event in its wParam is set, and sets the other one.
 constexpr UINT kKeepBusy = WM_APP + 1;
 
 std::optional<LRESULT> handle(HWND /*window*/, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -43,7 +43,7 @@ class HookedTextWindow {
 };
 
 /// The upper left corner of a character of an edit or rich edit control of any program, in screen
-/// pixels; none behind the text.
+/// pixels; none after the text.
 std::optional<POINT> characterCorner(HWND control, std::size_t position);
 
 /// A character's cell in screen pixels where it is wholly in sight and not the last of its line.

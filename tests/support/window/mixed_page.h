@@ -14,7 +14,7 @@ struct MixedPage {
 
 struct MixedPageDesign {
   std::size_t length = 2000;    ///< at least as many characters
-  std::size_t lineLength = 60;  ///< a line ends behind about as many; 0: one line
+  std::size_t lineLength = 60;  ///< a line ends after about as many; 0: one line
   std::u16string lineEnd = u"\r\n";
   unsigned seed = 1;
 };

@@ -50,7 +50,7 @@ class QueryTest : public WindowTest {
     forms::LoadedForms::instance().purge();
   }
 
-  /// Changes the database behind the program's back.
+  /// Changes the database while the program does not know of it.
   static void store(const std::string& sql) { Writer(besideProgram()).run(sql); }
   static std::int64_t stored(const std::string& sql) { return Writer(besideProgram()).number(sql); }
 
@@ -113,7 +113,7 @@ class QueryTest : public WindowTest {
     EXPECT_EQ(seen[0].title, u"");
   }
 
-  /// Expects just one message box since the last call, which tells of the database file: what is
+  /// Expects just one message box since the last call, about the database file: what is
   /// wrong with it, where it lies, what to do, and what the engine says.
   void expectDatabaseBox(const std::u16string& problem, const std::u16string& engineText) {
     ASSERT_TRUE(eventually([this] { return boxes.count() >= 1; }));

@@ -47,7 +47,7 @@ class UiaTest : public ::testing::Test {
 
   nhw32::Outcome outcome(nhw32::ScreenPoint point) { return ask(point).outcome; }
 
-  /// The word there, empty where there is none.
+  /// The word there, empty if there is none.
   std::u16string wordAt(nhw32::ScreenPoint point) {
     const auto answer = ask(point);
     return answer.outcome == nhw32::Outcome::kWord ? answer.word.text : std::u16string();

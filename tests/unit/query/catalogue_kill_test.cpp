@@ -73,7 +73,7 @@ TEST(DefaultFlagKilled, AtAnyMomentEveryWindowReadsAndTheNextClickRepairs) {
   int moment = 1;
   int journals = 0;
   for (int kills = 0; kills < kKills;) {
-    // Sometimes before the former default in the list, sometimes behind it.
+    // Sometimes before the former default in the list, sometimes after it.
     const std::size_t node = 1 + ((stored + 7) % kDictionaries);
     if (!killedInClick(file, node, moment++)) {
       ASSERT_GT(moment, 10) << "the click made hardly any changes";

@@ -63,7 +63,7 @@ TEST_F(FrmMenu, StaysAboveAWindowThatIsPainted) {
   forms::doEvents();
   bool above = false;
   withMenu([&](HWND window) {
-    // Where Windows puts a menu when it opens; not every system keeps account of it.
+    // Where Windows puts a menu when it opens; not every system does so.
     SetWindowPos(window, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     RedrawWindow(other.handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     above = isAbove(window, other.handle());

@@ -103,7 +103,7 @@ TEST_F(FrmScreenWord, LoadingReadiesItsDataControl) {
 
 TEST_F(FrmScreenWord, LooksAsDesigned) {
   EXPECT_EQ(textOf(host().handle()), L"Form2");
-  // It is never painted on the screen, so that its class tells its colour.
+  // It is never painted on the screen, so its colour is read from its class.
   const auto brush =
       reinterpret_cast<HBRUSH>(GetClassLongPtrW(host().handle(), GCLP_HBRBACKGROUND));
   EXPECT_EQ(brush, GetSysColorBrush(COLOR_HIGHLIGHT));

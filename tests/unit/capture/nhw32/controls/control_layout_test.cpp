@@ -43,7 +43,7 @@ TEST(TextRangeBytes, FollowTheBitnessOfTheTarget) {
             (std::vector<int>{0, 0, 0, 0, 0xFF, 0xFF, 0xFF, 0xFF, 0, 0, 0, 0}));
 }
 
-/// A buffer into which a control wrote `text` and the NUL behind it.
+/// A buffer into which a control wrote `text` and the NUL after it.
 template <class Unit>
 std::vector<std::byte> writtenAs(std::basic_string<Unit> text) {
   std::vector<std::byte> buffer(40, kUnwritten);

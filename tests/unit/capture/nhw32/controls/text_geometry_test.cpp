@@ -17,10 +17,10 @@ constexpr int kHeight = 20;  ///< of a line
 
 /// A control whose characters all are of one size, or as many sizes as it has lines. Like real ones
 /// it answers with the nearest gap between characters, wherever the point lies, and knows no place
-/// behind the text.
+/// after the text.
 class Grid : public ControlText {
  public:
-  /// Lines end with a line feed or behind `columns` characters.
+  /// Lines end with a line feed or after `columns` characters.
   explicit Grid(std::u16string text, std::size_t columns = 1000) : text_(std::move(text)) {
     for (std::size_t i = 0; i < text_.size(); ++i) {
       const bool full = i - starts_.back() == columns;

@@ -25,7 +25,7 @@ class Nhw32Edit : public ::testing::Test {
     return wordAt(target, questionAt(target.control(), point));
   }
 
-  /// "" where there is none.
+  /// otherwise "".
   std::u16string wordAt(const HookedTextWindow& /*target*/, const nhw32::Question& question) {
     const nhw32::Answer answer = answerTo(question);
     EXPECT_NE(answer.outcome, Outcome::kOutOfTime);
@@ -337,8 +337,8 @@ TEST_F(Nhw32Edit, ATextBoxOfVisualBasicTellsItsWordsToo) {
 TEST_F(Nhw32Edit, AnEditControlUnderAnotherNameTellsItsWordsWhereTheSystemKnowsIt) {
   derive(L"EDIT", L"TNoteEdit");
   const HookedTextWindow target({.className = L"TNoteEdit"}, u"older words");
-  // Windows tells the real class of its own controls; Wine tells the name again, and the control
-  // might as well be another.
+  // Windows returns the real class of its own controls; Wine returns the name again, and the
+  // control might as well be another.
   wchar_t realClass[64] = L"";
   RealGetWindowClassW(target.control(), realClass, 64);
   const bool known = std::wstring(realClass) == L"Edit";

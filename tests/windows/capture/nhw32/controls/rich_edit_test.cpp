@@ -30,7 +30,7 @@ class Nhw32RichEdit : public ::testing::Test {
     return wordAt(questionAt(target.control(), point));
   }
 
-  /// A control of `design` tells a word, and none any more once `armed` has its hook act in the
+  /// A control of `design` returns a word, and none any more once `armed` has its hook act in the
   /// middle of the question.
   void expectNoWordOnceArmed(const HookedTextWindow::Design& design, bool& armed) {
     const HookedTextWindow target(design, u"words of the past");
