@@ -54,9 +54,9 @@ LONG_PTR setProcedure(HWND window, WNDPROC procedure) {
   return SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
 }
 
-/// Returns the loaded popup. It handles events while it loads, and unloads itself if the pointer
-/// moves away meanwhile: then it is loaded once more, since only a popup that closes starts capture
-/// again after the StopCapture that follows. Throws std::runtime_error if the pointer keeps moving.
+/// Returns the loaded popup. While it loads it handles events, and unloads itself if the pointer
+/// moves away; it is then loaded again. The caller stops capture next, and only the closing of a
+/// loaded popup starts it again. Throws std::runtime_error if the pointer keeps moving.
 frmScreenWordMeaning& loadedPopup() {
   constexpr int kMaxTries = 10;  // an arbitrary bound, so that the tick ends
   for (int tries = 0; tries < kMaxTries; ++tries) {
@@ -138,7 +138,7 @@ void frmScreenWord::timScreenWord1_Timer() try {
   // as this one closes.
   if (handingOver_) return;
   catchWord();
-  // Deliberate: started again after each probe, which does nothing while the service runs.
+  // Deliberate: SetNHW32 after each probe, although it does nothing while the service runs.
   nhw32::SetNHW32();
   ScreenWord::strScreenWord.clear();
 } catch (const std::exception&) {
@@ -235,9 +235,10 @@ void CatchWordAt(const POINT& point) {
   GetWindowRect(window, &place);
   const auto strip = capture::stripPlace(point.x, point.y, place.left, place.right);
   disarm();
-  // Deliberate: the service asks windows and needs no redrawing, but the strip belongs to a probe:
-  // it is what makes a service that watches windows draw see the text. The coordinates are
-  // converted only now, so that a point beyond 16 bits has cancelled the earlier question.
+  // Deliberate: the strip, which makes the window redraw its text. Our service needs no redrawing,
+  // but the strip is a part of every probe.
+  // The coordinates are converted only now: a point beyond 16 bits throws, and has cancelled the
+  // earlier question by then.
   const ScopedStrip covered(strip);
   nhw32::BL_SetFlag32(nhw32::kArm, hScreenWordWnd, forms::toInt16(point.x),
                       forms::toInt16(point.y));

@@ -44,9 +44,9 @@ PopupText popupText(std::u16string_view word, const std::vector<std::u16string>&
   return text;
 }
 
-// More than a line of meanings takes the full width. A single line is as wide as the longer of the
-// two parts needs: of the headword, if one and a half times its length reaches that of the
-// meanings, of the meanings otherwise.
+// More than a line of meanings takes the full width. With a single line the width is that of the
+// headword if 1.5 times its length is at least the meanings' length, otherwise that of the
+// meanings.
 PopupSize popupSize(std::int16_t headLength, std::int16_t meaningLength) {
   const int lines = meaningLength / kLineLength + 1;
   int width = 0;

@@ -33,8 +33,8 @@ constexpr std::array<std::string_view, 17> kTextWindows = {
     "Edit",
 };
 
-// The strip, in pixels. Deliberate: its margin is taken off the width twice, but off the left edge
-// once, outwards; so it begins outside the window and ends within.
+// The strip, in pixels. Deliberate: it begins one margin left of the window and is two margins
+// narrower than it, so it ends three margins left of the window's right edge.
 constexpr int kStripHeight = 5;
 constexpr int kStripMargin = 4;
 constexpr int kStripReach = 200;  // left of the pointer
@@ -48,7 +48,8 @@ bool isProbed(std::string_view className) {
 }
 
 Rectangle stripPlace(int x, int y, int windowLeft, int windowRight) {
-  // The rows just above the pointer: at the point itself the service has to find the window.
+  // The rows just above the pointer: the strip must not cover the point, where the service looks
+  // for the window.
   Rectangle strip{windowLeft - kStripMargin, y - kStripHeight,
                   windowRight - windowLeft - 2 * kStripMargin, kStripHeight};
   if (x - strip.left > kStripReach) strip.left = x - kStripReach;

@@ -1,4 +1,4 @@
-// The stages of a build, each of which has the whole of its result in memory before the next one
+// The stages of a build. Each has the whole of its result in memory before the next one
 // begins: entries are parsed one by one into pairs and subject rows (translation/, arrange/), the
 // pairs that fit are chosen (block_packing.h), the tables are written, read back and checked, and
 // the file is put in place. Nothing depends on time, locale, thread or the order of a hash table,

@@ -56,7 +56,8 @@ std::runtime_error unusable(const std::u16string& key, const std::u16string& val
 
 }  // namespace
 
-// Deliberate: lookups without options, so that a Chinese meaning uses the bounds of the last list.
+// Deliberate: with the default LookupOptions a Chinese meaning is searched within the bounds of the
+// last list; the popup has them found anew.
 frmSub::frmSub() : Form(design()), lookup_(user::IdxWords, data::LookupOptions{}) {
   txtInput.setFont({u"宋体", 10.5});
   txtOut.setHangingIndent(kHangingIndent);
@@ -109,7 +110,7 @@ void frmSub::Form_Load() {
 }
 
 void frmSub::Form_Resize() {
-  // Setting the size raises this event again, for a size that snaps to itself.
+  // Setting the size raises this event again; snapping the snapped size changes nothing.
   const lookup::Size wanted{width(), height()};
   const lookup::Size size = lookup::snapSize(wanted);
   if (size != wanted) setSize(size.width, size.height);

@@ -9,12 +9,12 @@ import { fileURLToPath } from 'node:url';
 
 const root = join(dirname(fileURLToPath(import.meta.url)), '..');
 
-// Folder: the folders whose headers its files may include besides its own. A name that ends in .h is
-// that header alone.
-// What every stage of kkbuild reports by: failures, paths and progress.
+// What every stage of kkbuild may include, console.h for failures, paths and progress.
 const builder = ['text', 'data', 'dictionary/console.h'];
 const windowFolder = ['text', 'win32', 'settings', 'data', 'forms', 'app/state.h',
   'app/resources/resource_ids.h'];
+// Folder: the folders whose headers its files may include besides its own. A name that ends in .h is
+// that header alone.
 const mayInclude = {
   text: [],
   win32: ['text'],

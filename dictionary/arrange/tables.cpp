@@ -26,7 +26,7 @@ std::u16string meaningOf(const Entry& entry, Subject subject) {
 }
 
 /// Joins rows whose headwords are equal in the text order, which must follow each other: they
-/// differ in case, and the table's primary key does not. The first spelling is kept.
+/// differ in case only, which the table's primary key ignores. The first spelling is kept.
 void mergeEqual(std::vector<SubjectRow>& rows) {
   std::vector<SubjectRow> merged;
   merged.reserve(rows.size());

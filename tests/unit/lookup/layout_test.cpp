@@ -65,7 +65,7 @@ TEST(Layout, ThePaneBeginsWhereTheSplitterEnds) {
   }
 }
 
-TEST(Layout, AListLeavesRoomForThePaneUpTo200TwipsLess) {
+TEST(Layout, TheWidestListIs200TwipsNarrowerThanTheWindow) {
   EXPECT_TRUE(lookup::leavesRoomForPane({5000, 4000}, 2100));
   EXPECT_TRUE(lookup::leavesRoomForPane({5000, 4000}, 4799));
   EXPECT_FALSE(lookup::leavesRoomForPane({5000, 4000}, 4800));
