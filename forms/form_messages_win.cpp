@@ -55,6 +55,11 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       postFocusCheck();
       postStackingCheck();
       return 0;
+    case WM_ACTIVATEAPP:
+      // Sent to every top-level window of the thread, also if a message box of the form's, rather
+      // than the form, was active.
+      postStackingCheck();
+      break;
     case WM_SETFOCUS:
       giveFocusBack();
       postFocusCheck();

@@ -157,11 +157,14 @@ std::vector<HWND> boxesOf(HWND owner) {
   return search.found;
 }
 
+/// Whether a window is the desktop: the one that all others lie on (in the foreground while no
+/// other window is, which happens under Wine), or one of the shell's that shows its icons.
 bool isDesktop(HWND window) {
   wchar_t name[16] = L"";
   GetClassNameW(window, name, static_cast<int>(std::size(name)));
   const std::wstring_view className = name;
-  return window == GetShellWindow() || className == L"Progman" || className == L"WorkerW";
+  return window == GetDesktopWindow() || window == GetShellWindow() || className == L"Progman" ||
+         className == L"WorkerW";
 }
 
 /// Returns the window below which one goes when another, `front`, has taken its place. The desktop
