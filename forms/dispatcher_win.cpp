@@ -37,11 +37,11 @@ Dispatcher::~Dispatcher() { DestroyWindow(window_); }
 
 LRESULT CALLBACK Dispatcher::windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == kRunPosted) {
-    instance().runPosted();
+    guard([] { instance().runPosted(); });
     return 0;
   }
   if (message == WM_TIMER) {
-    instance().tick(wParam);
+    guard([=] { instance().tick(wParam); });
     return 0;
   }
   return DefWindowProcW(window, message, wParam, lParam);

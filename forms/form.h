@@ -119,6 +119,7 @@ class Form : public WidgetHost {
   static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   static FocusLocation locateFocus();
   void createWindow();
+  [[nodiscard]] Rank rank() const;
   void showIcons();
   void takeClientSize();
   void resized();

@@ -15,6 +15,7 @@ LRESULT CALLBACK Form::windowProc(HWND window, UINT message, WPARAM wParam, LPAR
     auto* form = static_cast<Form*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
     form->handle_ = window;
     SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
+    guard([=] { addToStack(window, form->rank()); });
   }
   auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (form == nullptr || form->handle_ == nullptr) {
@@ -22,6 +23,7 @@ LRESULT CALLBACK Form::windowProc(HWND window, UINT message, WPARAM wParam, LPAR
   }
   if (message == WM_NCDESTROY) {
     form->handle_ = nullptr;
+    removeFromStack(window);
     return DefWindowProcW(window, message, wParam, lParam);
   }
   LRESULT result = 0;

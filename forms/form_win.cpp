@@ -41,12 +41,6 @@ DWORD exStyleOf(const FormDesign& design) {
   return style;
 }
 
-Rank rankOf(const FormDesign& design) {
-  if (design.neverActive) return Rank::kNotice;
-  if (!design.topmost) return Rank::kWindow;
-  return design.floating ? Rank::kFloating : Rank::kBar;
-}
-
 /// What the layouts take a form's frame for, in twips.
 SIZE designFrameOf(const FormDesign& design) {
   if (design.frame == Frame::kBorderless) return {};
@@ -55,22 +49,12 @@ SIZE designFrameOf(const FormDesign& design) {
 
 /// Returns the forms whose owner window is `owner`.
 std::vector<Form*> formsOwnedBy(HWND owner) {
-  struct Search {
-    HWND owner;
-    std::vector<Form*> found;
-  } search{owner, {}};
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM context) {
-        auto& wanted = *reinterpret_cast<Search*>(context);
-        Form* form = Form::of(window);
-        if (form != nullptr && GetWindow(window, GW_OWNER) == wanted.owner) {
-          wanted.found.push_back(form);
-        }
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&search));
-  return search.found;
+  std::vector<Form*> owned;
+  for (HWND window : win32::threadWindows()) {
+    Form* form = GetWindow(window, GW_OWNER) == owner ? Form::of(window) : nullptr;
+    if (form != nullptr) owned.push_back(form);
+  }
+  return owned;
 }
 
 PixelBox toBox(const RECT& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
@@ -90,6 +74,7 @@ Form::Form(const FormDesign& design) : design_(design) {
 }
 
 Form::~Form() {
+  forgetFocus(*this);
   if (handle_ == nullptr) return;
   removeFromStack(handle_);
   DestroyWindow(std::exchange(handle_, nullptr));
@@ -117,7 +102,6 @@ void Form::createWindow() {
     win32::throwLastError();
   }
   dpi_ = static_cast<int>(GetDpiForWindow(handle_));
-  addToStack(handle_, rankOf(design_));
   showIcons();
 }
 
@@ -129,6 +113,12 @@ void Form::showIcons() {
   smallIcon_ = loadIcon(design_.iconResource, SM_CXSMICON, dpi_);
   SendMessageW(handle_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(bigIcon_.get()));
   SendMessageW(handle_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(smallIcon_.get()));
+}
+
+Rank Form::rank() const {
+  if (design_.neverActive) return Rank::kNotice;
+  if (!design_.topmost) return Rank::kWindow;
+  return design_.floating ? Rank::kFloating : Rank::kBar;
 }
 
 // The window procedure tells our forms from other windows, whose user data is no Form. The thread
@@ -172,15 +162,15 @@ void Form::show(Form* owner) {
 void Form::hide() { ShowWindow(handle_, SW_HIDE); }
 
 // Owned forms first, with their events: DestroyWindow destroys owned windows without closing them.
-// From Form_Unload on, no focus event is raised for the form or its widgets.
+// After Form_Unload the form and its widgets hear of no loss of the focus.
 void Form::unload() {
   if (unloading_) return;
   for (Form* owned : formsOwnedBy(handle_)) owned->unload();
+  if (unloading_) return;  // by the handler of an owned form
   unloading_ = true;
   guard([this] { Form_Unload(); });
   for (const Widget* widget : widgets()) forgetFocus(*widget);
   forgetFocus(*this);
-  removeFromStack(handle_);
   DestroyWindow(handle_);
   onUnloaded.raise();
 }

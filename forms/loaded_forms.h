@@ -26,6 +26,7 @@ class LoadedForms {
   void purge();
 
  private:
+  LoadedForms();
   void retire(std::type_index type);
 
   std::unordered_map<std::type_index, std::unique_ptr<Form>> forms_;

@@ -1,6 +1,8 @@
 #include "forms/loaded_forms.h"
 
+#include "forms/dispatcher.h"
 #include "forms/exception_barrier.h"
+#include "forms/stacking.h"
 
 // A form is unloaded from one of its own handlers (a button that closes it), so its object must not
 // be destroyed there: it is moved to a second list, which is emptied between two messages.
@@ -19,6 +21,13 @@ void dispatch(MSG& message) {
 
 }  // namespace
 
+// Forms use these two when they are destroyed; constructed first, they are destroyed after the
+// forms.
+LoadedForms::LoadedForms() {
+  Dispatcher::instance();
+  removeFromStack(nullptr);
+}
+
 LoadedForms& LoadedForms::instance() {
   static LoadedForms forms;
   return forms;
@@ -36,6 +45,7 @@ Form& LoadedForms::add(std::type_index type, std::unique_ptr<Form> form) {
 
 void LoadedForms::retire(std::type_index type) {
   const auto found = forms_.find(type);
+  if (found == forms_.end()) return;
   retired_.push_back(std::move(found->second));
   forms_.erase(found);
 }

@@ -28,30 +28,21 @@ UINT iconFlag(MessageIcon icon) {
 /// the box disables itself.
 class ScopedOtherWindowsDisabled {
  public:
-  explicit ScopedOtherWindowsDisabled(HWND owner) : owner_(owner) {
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM self) {
-          reinterpret_cast<ScopedOtherWindowsDisabled*>(self)->hold(window);
-          return TRUE;
-        },
-        reinterpret_cast<LPARAM>(this));
+  explicit ScopedOtherWindowsDisabled(HWND owner) {
+    for (HWND window : win32::threadWindows()) {
+      if (window == owner || !IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
+      disabled_.push_back(window);
+      EnableWindow(window, FALSE);
+    }
   }
   ~ScopedOtherWindowsDisabled() {
-    for (HWND window : held_) EnableWindow(window, TRUE);
+    for (HWND window : disabled_) EnableWindow(window, TRUE);
   }
   ScopedOtherWindowsDisabled(const ScopedOtherWindowsDisabled&) = delete;
   ScopedOtherWindowsDisabled& operator=(const ScopedOtherWindowsDisabled&) = delete;
 
  private:
-  void hold(HWND window) {
-    if (window == owner_ || !IsWindowVisible(window) || !IsWindowEnabled(window)) return;
-    EnableWindow(window, FALSE);
-    held_.push_back(window);
-  }
-
-  HWND owner_;
-  std::vector<HWND> held_;
+  std::vector<HWND> disabled_;
 };
 
 }  // namespace

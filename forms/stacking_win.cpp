@@ -139,22 +139,12 @@ void raise(StackedWindow& window) {
 /// Returns the visible topmost windows that `owner` owns and that were not added: its message box,
 /// its tool tip.
 std::vector<HWND> boxesOf(HWND owner) {
-  struct Search {
-    HWND owner;
-    std::vector<HWND> found;
-  } search{owner, {}};
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM context) {
-        auto& wanted = *reinterpret_cast<Search*>(context);
-        if (window != wanted.owner && rootOwner(window) == wanted.owner &&
-            IsWindowVisible(window) != FALSE && isTopmost(window) && find(window) == nullptr) {
-          wanted.found.push_back(window);
-        }
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&search));
-  return search.found;
+  std::vector<HWND> boxes = win32::threadWindows();
+  std::erase_if(boxes, [=](HWND window) {
+    return window == owner || rootOwner(window) != owner || IsWindowVisible(window) == FALSE ||
+           !isTopmost(window) || find(window) != nullptr;
+  });
+  return boxes;
 }
 
 /// Whether a window is the desktop: the one that all others lie on (in the foreground while no

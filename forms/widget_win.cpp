@@ -79,6 +79,8 @@ Widget::Widget(WidgetHost& form, const ControlKind& kind, const WidgetBox& box,
 }
 
 Widget::~Widget() {
+  // First: destroying the control sends notifications, which raise the focus events that are due.
+  forgetFocus(*this);
   form_.removeWidget(*this);
   if (handle_ != nullptr) {
     DestroyWindow(handle_);

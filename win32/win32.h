@@ -10,6 +10,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Windows without widgets: the system's headers, its texts and its errors. All functions may be
 /// called from any thread.
@@ -31,6 +32,9 @@ std::string toAnsi(std::u16string_view text);
 
 /// Returns a text in the system's ANSI code page as UTF-16.
 std::u16string fromAnsi(std::string_view text);
+
+/// Returns the top-level windows of the calling thread, visible or not. Throws std::bad_alloc.
+std::vector<HWND> threadWindows();
 
 /// Throws std::runtime_error with the system's own text for GetLastError(), in UTF-8.
 [[noreturn]] void throwLastError();

@@ -1,7 +1,9 @@
 #include "win32/win32.h"
 
 #include <array>
+#include <new>
 #include <stdexcept>
+#include <utility>
 
 #include "text/utf.h"
 
@@ -24,6 +26,27 @@ std::u16string fromAnsi(std::string_view text) {
   std::wstring units(static_cast<std::size_t>(size), L'\0');
   MultiByteToWideChar(CP_ACP, 0, text.data(), length, units.data(), size);
   return fromWide(units);
+}
+
+// No exception may leave the callback: it is called by code of Windows.
+std::vector<HWND> threadWindows() {
+  struct Collected {
+    std::vector<HWND> windows;
+    bool outOfMemory = false;
+  } collected;
+  const auto collect = [](HWND window, LPARAM context) noexcept -> BOOL {
+    auto& all = *reinterpret_cast<Collected*>(context);
+    try {
+      all.windows.push_back(window);
+      return TRUE;
+    } catch (const std::bad_alloc&) {
+      all.outOfMemory = true;
+      return FALSE;
+    }
+  };
+  EnumThreadWindows(GetCurrentThreadId(), collect, reinterpret_cast<LPARAM>(&collected));
+  if (collected.outOfMemory) throw std::bad_alloc();
+  return std::move(collected.windows);
 }
 
 void throwLastError() {

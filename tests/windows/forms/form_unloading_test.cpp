@@ -97,6 +97,20 @@ TEST_F(FormUnloading, UnloadingFromUnloadRunsItOnce) {
   EXPECT_EQ(times("A.Unload"), 1);
 }
 
+TEST_F(FormUnloading, AnOwnedFormMayUnloadItsOwner) {
+  auto& owner = opened<FormA>();
+  auto& owned = forms::form<FormB>();
+  owned.show(&owner);
+  awaitActive(owned);
+  plan<'B'>().unload = [&] { owner.unload(); };
+  owner.unload();
+  forms::doEvents();
+  EXPECT_EQ(times("A.Unload"), 1);
+  EXPECT_EQ(times("B.Unload"), 1);
+  EXPECT_FALSE(forms::isLoaded<FormA>());
+  EXPECT_FALSE(forms::isLoaded<FormB>());
+}
+
 TEST_F(FormUnloading, AnErrorInUnloadIsShownAndTheWindowGoes) {
   auto& form = opened<FormA>();
   const HWND window = form.handle();
