@@ -19,7 +19,7 @@ constexpr data::LookupOptions kRules{.lambdaUpperKey = true, .chineseMeaningFind
 forms::FormDesign design() {
   forms::FormDesign design;
   design.name = u"frmScreenWordMeaning";
-  design.caption = u"Form2";
+  design.caption = u"Form2";  // Deliberate: the given one, which nobody sees
   design.frame = forms::Frame::kBorderless;
   design.width = 3345;
   design.height = 1320;

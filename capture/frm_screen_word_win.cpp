@@ -32,7 +32,7 @@ constexpr int kAway = -1000;
 forms::FormDesign stripDesign() {
   forms::FormDesign design;
   design.name = u"frmScreen";
-  design.caption = u"Form2";
+  design.caption = u"Form2";  // Deliberate: the given one, which nobody sees
   design.frame = forms::Frame::kBorderless;
   design.neverActive = true;
   return design;
@@ -41,7 +41,7 @@ forms::FormDesign stripDesign() {
 forms::FormDesign hostDesign() {
   forms::FormDesign design;
   design.name = u"frmScreenWord";
-  design.caption = u"Form2";
+  design.caption = u"Form2";  // Deliberate: the given one, which nobody sees
   design.frame = forms::Frame::kBorderless;
   design.width = 2940;
   design.height = 1695;

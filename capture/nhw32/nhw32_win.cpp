@@ -1,4 +1,5 @@
 #include "capture/nhw32/nhw32.h"
+#include "capture/nhw32/router.h"
 
 #include <algorithm>
 

@@ -20,16 +20,17 @@ enum class ReaderKind { kEdit, kRichEdit, kUia };
 
 /// Returns the reader for a window by its class name and its real class name (RealGetWindowClass:
 /// the system class that the window's class was derived from; may be empty).
-/// - edit: the real class or the class is Edit or a Visual Basic text box (ASCII case-insensitive).
-/// - richEdit: the class name contains "RichEdit" (case-sensitive).
-/// - uia: everything else. EM_CHARFROMPOS takes a packed point in edit controls but an address in
+/// - kEdit: the real class or the class is Edit or a Visual Basic text box (ASCII
+/// case-insensitive).
+/// - kRichEdit: the class name contains "RichEdit" (case-sensitive).
+/// - kUia: everything else. EM_CHARFROMPOS takes a packed point in edit controls but an address in
 ///   rich edit controls, which crash on a packed point; so a class whose name only resembles an
 ///   edit control is never sent edit messages.
 ReaderKind readerKindFor(std::u16string_view className, std::u16string_view realClassName);
 
 /// Maps GetLastError() after SendMessageTimeout returned 0 to an outcome. ERROR_TIMEOUT is
-/// outOfTime; so is 0, which the function leaves for a window that counts as hung. Any other error
-/// is refused.
+/// kOutOfTime; so is 0, which the function leaves for a window that counts as hung. Any other error
+/// is kRefused.
 Outcome outcomeOfSendTimeout(std::uint32_t lastError);
 
 /// Exponential back-off for windows that do not answer in time. After kMaxTimeouts timeouts in a

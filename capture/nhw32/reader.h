@@ -85,11 +85,6 @@ class WordReader {
   virtual Answer wordAt(const Question& question) = 0;
 };
 
-/// Returns the reader for all windows: it chooses the kind of reader by the window's class
-/// (readerKindFor) for each question and backs off from windows that keep timing out (Backoff).
-/// The thread has to be per-monitor DPI aware. Implemented in router_win.cpp.
-std::unique_ptr<WordReader> makeWindowReader();
-
 /// Returns the current time; tests pass a clock of their own.
 using Clock = std::function<std::chrono::steady_clock::time_point()>;
 

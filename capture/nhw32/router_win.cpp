@@ -1,10 +1,11 @@
+#include "capture/nhw32/router.h"
+
 #include <windows.h>
 
 #include <array>
 
 #include "capture/nhw32/controls/readers.h"
 #include "capture/nhw32/policy.h"
-#include "capture/nhw32/reader.h"
 #include "capture/nhw32/uia/client.h"
 
 namespace nhw32 {

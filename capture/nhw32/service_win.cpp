@@ -38,7 +38,7 @@ class ScopedCount {
 Answer answerOf(WordReader& reader, const Question& question) {
   try {
     return reader.wordAt(question);
-  } catch (const std::exception&) {
+  } catch (...) {
     return {};
   }
 }

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "capture/nhw32/reader.h"
+#include "capture/nhw32/router.h"
 #include "tests/support/process/controls.h"
 #include "tests/support/process/find.h"
 #include "tests/support/wait.h"

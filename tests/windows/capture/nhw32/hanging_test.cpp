@@ -10,6 +10,7 @@
 #include "capture/nhw32/nhw32.h"
 #include "capture/nhw32/policy.h"
 #include "capture/nhw32/reader.h"
+#include "capture/nhw32/router.h"
 #include "capture/nhw32/service.h"
 #include "tests/support/process/find.h"
 #include "tests/support/wait.h"

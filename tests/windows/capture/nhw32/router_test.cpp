@@ -3,6 +3,7 @@
 
 #include <thread>
 
+#include "capture/nhw32/router.h"
 #include "tests/support/window/uia_test.h"
 
 namespace support {
