@@ -4,8 +4,9 @@
 #
 #   scripts/check.sh
 #
-# clang-tidy examines the portable sources for everything that .clang-tidy names, other sources for
-# their names only, which takes a tenth of the time; scripts/tidy.sh examines all for everything.
+# clang-tidy examines the portable sources for everything that .clang-tidy names; the sources for
+# Windows and the portable tests for their names only, which takes a tenth of the time; the other
+# tests and the benchmarks not at all. scripts/tidy.sh examines all of them for everything.
 set -euo pipefail
 
 # shellcheck source=setup.sh

@@ -5,11 +5,11 @@
 # lacks an include of its own is found.
 configure_tidy() {
   local preset
+  # Each time: a source that was added since is in no database.
   for preset in native windows; do
-    [[ -f build/tidy/$preset/compile_commands.json ]] ||
-      step "Configuring clang-tidy ($preset)" "configure-tidy-$preset.log" \
+    step "Configuring clang-tidy ($preset)" "configure-tidy-$preset.log" \
         "If the message names a missing tool, install it." \
-        cmake --preset "$preset" -B "build/tidy/$preset" -DLEXILO_PRECOMPILE=OFF
+      cmake --preset "$preset" -B "build/tidy/$preset" -DLEXILO_PRECOMPILE=OFF
   done
 }
 
@@ -28,26 +28,34 @@ built_by() {
 # tidy CHECKS FILE...: prints the findings, and fails if there are any. CHECKS as the option --checks
 # of clang-tidy takes them, without the compiler's warnings; "" for those of .clang-tidy.
 tidy() {
-  local checks=$1 file native=() windows=() flags status=0
+  local checks=$1 file native=() windows=() flags status=0 log=build/logs/tidy.log
   shift
+  (($# > 0)) || fail "there are no sources to examine."
   configure_tidy
+  : >"$log"
   for file; do
     if built_by native "$file"; then
       native+=("$file")
     elif built_by windows "$file"; then
       windows+=("$file")
+    else
+      say "$file: neither preset compiles it"
+      status=1
     fi
   done
   flags=(--quiet --extra-arg=-Wno-unknown-warning-option ${checks:+"--checks=$checks" --extra-arg=-w})
   if ((${#native[@]} > 0)); then
     printf '%s\0' "${native[@]}" |
-      xargs -0 -n 1 -P "$(nproc)" clang-tidy "${flags[@]}" -p build/tidy/native 2>/dev/null || status=1
+      xargs -0 -n 1 -P "$(nproc)" clang-tidy "${flags[@]}" -p build/tidy/native 2>>"$log" || status=1
   fi
   if ((${#windows[@]} > 0)); then
     mapfile -t -O "${#flags[@]}" flags < <(windows_flags)
     printf '%s\0' "${windows[@]}" |
-      xargs -0 -n 1 -P "$(nproc)" clang-tidy "${flags[@]}" -p build/tidy/windows 2>/dev/null ||
+      xargs -0 -n 1 -P "$(nproc)" clang-tidy "${flags[@]}" -p build/tidy/windows 2>>"$log" ||
       status=1
   fi
+  # Other errors than findings, such as a missing clang-tidy.
+  grep -vE 'warnings? (and [0-9]+ errors? )?generated|^Error while processing|errors? generated' "$log" |
+    tail -n 5 || true
   return "$status"
 }
