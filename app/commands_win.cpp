@@ -43,14 +43,17 @@ constexpr const Command* kSeparator = nullptr;
 
 }  // namespace
 
-const Command kMultiQuery{u"多功能查询", u"多功能查询", IDI_MULTI_QUERY, showMultiQuery};
-const Command kQuickLookup{u"快速查询", u"快速查询", IDI_QUICK_LOOKUP, show<frmSub>};
-const Command kCapture{u"鼠标取词", {}, 0, nullptr};
-const Command kDictSettings{u"字典设置", u"查询设置", IDI_DICT_SETTINGS, show<frmdictSetting>};
-const Command kHelp{u"帮助", {}, IDI_HELP_PAGE, showHelp};
-const Command kAbout{u"关于", {}, 0, show<frmAbout>};
-const Command kHomePage{u"访问我们的网站", {}, 0, openHomePage};
-const Command kExit{u"退出", {}, 0, win32::endProgram};
+constinit const Command kMultiQuery{u"多功能查询", u"多功能查询", IDI_MULTI_QUERY, showMultiQuery};
+constinit const Command kQuickLookup{u"快速查询", u"快速查询", IDI_QUICK_LOOKUP, show<frmSub>};
+constinit const Command kCapture{u"鼠标取词", {}, 0, nullptr};
+// Deliberate: the menu and the tool tip call it by different names.
+constinit const Command kDictSettings{u"字典设置", u"查询设置", IDI_DICT_SETTINGS,
+                                      show<frmdictSetting>};
+constinit const Command kHelp{u"帮助", {}, IDI_HELP_PAGE, showHelp};
+constinit const Command kAbout{u"关于", {}, 0, show<frmAbout>};
+constinit const Command kHomePage{u"访问我们的网站", {}, 0, openHomePage};
+// Deliberate: no form is unloaded and no connection closed first.
+constinit const Command kExit{u"退出", {}, 0, win32::endProgram};
 
 std::span<const Command* const> menuCommands() {
   static constexpr std::array<const Command*, 11> kMenu{

@@ -29,7 +29,7 @@ class frmTop : public forms::Form {
   forms::Button cmdMouseNot{*this, forms::Picture(IDI_CAPTURE_OFF), {}};
   forms::Timer Timer1{*this};
   data::DataControl Adodc1;
-  data::DataControl Adodc2;
+  data::DataControl Adodc2;  // Deliberate: connected, and never queried
 
   /// Switches capture on or off, as the picture on the button says it is not. The menu's item does
   /// the same.

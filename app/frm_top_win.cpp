@@ -142,6 +142,7 @@ void frmTop::cmdMouse_Click() {
   }
 }
 
+// Deliberate: the tool tip names the state, allowed or forbidden, not what a click does.
 void frmTop::showCapture(bool on) {
   cmdMouse.setToolTip(on ? u"允许鼠标取词" : u"禁止鼠标取词");
   cmdMouse.setPicture(on ? cmdMouseYes.picture() : cmdMouseNot.picture());
