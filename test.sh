@@ -45,7 +45,7 @@ wanted() {
   return 1
 }
 
-# What only computes gives way (nice) to what waits for windows, with deadlines.
+# Layers that only compute run at a lower priority (nice): the others wait for windows with deadlines.
 run_layer() {
   local programs=build/windows/bin/program_tests.exe source name
   case $1 in

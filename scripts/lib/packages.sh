@@ -34,7 +34,7 @@ install_packages() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$@"
 }
 
-# ensure_packages PACKAGE...: sees to it that these are installed. Node.js counts as installed where
+# ensure_packages PACKAGE...: installs those that are missing. Node.js counts as installed where
 # its commands are there, whoever packaged it.
 ensure_packages() {
   command -v apt-get >/dev/null ||

@@ -3,7 +3,7 @@
 
 wine_base=$LEXILO_ROOT/build/wine/base
 
-# What Wine itself has to say, and the backtraces of programs that crashed. None of it is for the
+# Wine's own messages, and the backtraces of programs that crashed. None of it is for the
 # terminal: it is partly in Chinese, in whatever code page, and says nothing to a user.
 wine_log=$LEXILO_ROOT/build/logs/wine.log
 crash_log=$LEXILO_ROOT/build/logs/crashes.log

@@ -17,16 +17,16 @@
 namespace support {
 namespace {
 
-class Harness : public ::testing::Test {};
+class Support : public ::testing::Test {};
 
-TEST_F(Harness, TypesIntoAnotherProgramAndReadsItBack) {
+TEST_F(Support, TypesIntoAnotherProgramAndReadsItBack) {
   const Notepad notepad;
   notepad.clickIntoText();
   input::type(L"data 数据 做");
   waitFor("the typed text", [&] { return notepad.text() == L"data 数据 做"; });
 }
 
-TEST_F(Harness, SelectsWithTheMouseAndCopiesWithKeys) {
+TEST_F(Support, SelectsWithTheMouseAndCopiesWithKeys) {
   setClipboardText(L"before");
   const Notepad notepad;
   notepad.clickIntoText();
@@ -46,7 +46,7 @@ TEST_F(Harness, SelectsWithTheMouseAndCopiesWithKeys) {
   waitFor("the copied text", [] { return clipboardText() == L"bandwidth"; });
 }
 
-TEST_F(Harness, SeesWhichNodesATreeShows) {
+TEST_F(Support, SeesWhichNodesATreeShows) {
   const Process registry(L"C:\\windows\\regedit.exe");
   HWND window = waitForWindow({.process = registry.id(), .className = {}, .title = {}});
   HWND tree = waitForChild(window, L"SysTreeView32");
@@ -59,7 +59,7 @@ TEST_F(Harness, SeesWhichNodesATreeShows) {
   EXPECT_EQ(treeNodeRect(tree, 1), std::nullopt);
 }
 
-TEST_F(Harness, ReadsColoursAndPlacesInARichTextBox) {
+TEST_F(Support, ReadsColoursAndPlacesInARichTextBox) {
   const Process wordpad(L"C:\\Program Files\\Windows NT\\Accessories\\wordpad.exe");
   HWND window = waitForWindow({.process = wordpad.id(), .className = {}, .title = {}});
   HWND pane = waitForChild(window, L"RichEdit20W");
@@ -72,7 +72,7 @@ TEST_F(Harness, ReadsColoursAndPlacesInARichTextBox) {
   EXPECT_EQ(selectionOf(pane), (Selection{1, 2}));
 }
 
-TEST_F(Harness, SeesWhatIsOnTheScreen) {
+TEST_F(Support, SeesWhatIsOnTheScreen) {
   const Notepad notepad;
   notepad.place({100, 100, 500, 400});
   const RECT text = clientRectOf(onlyChild(notepad.window(), L"Edit"));
@@ -85,7 +85,7 @@ TEST_F(Harness, SeesWhatIsOnTheScreen) {
   EXPECT_GT(std::filesystem::file_size("build/shots/notepad.png"), 1000U);
 }
 
-TEST_F(Harness, ReadsAndAnswersAMessageBox) {
+TEST_F(Support, ReadsAndAnswersAMessageBox) {
   // The shell reports a missing program in a message box.
   const Process shell(L"C:\\windows\\system32\\winhlp32.exe", L"nothing-of-this-name.hlp");
   const ShownMessage box = waitForMessageBox(shell);
@@ -95,14 +95,14 @@ TEST_F(Harness, ReadsAndAnswersAMessageBox) {
   EXPECT_EQ(findMessageBox(shell), std::nullopt);
 }
 
-TEST_F(Harness, SettingsAreWrittenReadAndCleared) {
-  settings::write(L"HarnessKey", L"4711");
-  EXPECT_EQ(settings::read(L"HarnessKey"), L"4711");
+TEST_F(Support, SettingsAreWrittenReadAndCleared) {
+  settings::write(L"SupportKey", L"4711");
+  EXPECT_EQ(settings::read(L"SupportKey"), L"4711");
   settings::clear();
-  EXPECT_EQ(settings::read(L"HarnessKey"), L"");
+  EXPECT_EQ(settings::read(L"SupportKey"), L"");
 }
 
-TEST_F(Harness, KnowsHowAProgramEnded) {
+TEST_F(Support, KnowsHowAProgramEnded) {
   const Process shell(L"C:\\windows\\system32\\cmd.exe", L"/c exit 3");
   EXPECT_EQ(shell.waitForExit(), 3U);
   EXPECT_FALSE(shell.running());

@@ -91,13 +91,13 @@ void reportRetry(const std::string& what);
 /// When actUntil() acts again.
 struct Retries {
   int most = 5;         ///< times that it acts, at most
-  DWORD after = 2'000;  ///< it acts again when it has looked in vain for so long
+  DWORD after = 2'000;  ///< it acts again when `look` was false for so long
   DWORD lasting = 0;    ///< what is looked for has to stay for so long; a window manager may answer
                         ///< a window's earlier place, size or activation late
 };
 
-/// Acts until `look` returns true, as a user does who sees that nothing came of it: busy displays
-/// lose acts. Each repetition is reported. Throws Failure naming `what` after the last one.
+/// Acts until `look` returns true, as a user does who sees that nothing came of it: a busy display
+/// may lose a click. Each repetition is reported. Throws Failure naming `what` after the last one.
 template <class Act, class Look>
 void actUntil(const std::string& what, Act act, Look look, Retries retries = {}) {
   const auto seen = [&](DWORD milliseconds) {

@@ -156,12 +156,12 @@ INSTANTIATE_TEST_SUITE_P(Faces, Nhw32EditFont,
                                                               u"Courier New"),
                                             ::testing::Values(96, 144, 192, 384)));
 
-TEST_P(Nhw32EditFont, ASingleLineTellsItsWordsFromItsUpperToItsLowerEdge) {
+TEST_P(Nhw32EditFont, ASingleLineIsReadFromItsUpperToItsLowerEdge) {
   const HookedTextWindow target(design(ES_AUTOHSCROLL), u"The catalyst");
   EXPECT_EQ(wordRows(target.control(), 6), lineHeight());
 }
 
-TEST_P(Nhw32EditFont, ALoneLineTellsItsWordsDownToItsLowerEdgeAndLittleBelow) {
+TEST_P(Nhw32EditFont, ALoneLineIsReadDownToItsLowerEdgeAndLittleBelow) {
   const HookedTextWindow target(design(ES_MULTILINE), u"The catalyst");
   const int rows = wordRows(target.control(), 6);
   EXPECT_GE(rows, lineHeight());
@@ -326,7 +326,7 @@ void derive(const wchar_t* base, const wchar_t* name) {
   ASSERT_NE(RegisterClassW(&windowClass), 0);
 }
 
-TEST_F(Nhw32Edit, ATextBoxOfVisualBasicTellsItsWordsToo) {
+TEST_F(Nhw32Edit, ReadsTextBoxesOfVisualBasic) {
   for (const wchar_t* name : {L"ThunderRT6TextBox", L"ThunderRT5TextBox", L"ThunderTextBox"}) {
     derive(L"EDIT", name);
     const HookedTextWindow target({.className = name}, u"older words");
@@ -334,7 +334,7 @@ TEST_F(Nhw32Edit, ATextBoxOfVisualBasicTellsItsWordsToo) {
   }
 }
 
-TEST_F(Nhw32Edit, AnEditControlUnderAnotherNameTellsItsWordsWhereTheSystemKnowsIt) {
+TEST_F(Nhw32Edit, ReadsEditControlsOfAnotherClassNameIfWindowsReturnsTheirRealClass) {
   derive(L"EDIT", L"TNoteEdit");
   const HookedTextWindow target({.className = L"TNoteEdit"}, u"older words");
   // Windows returns the real class of its own controls; Wine returns the name again, and the

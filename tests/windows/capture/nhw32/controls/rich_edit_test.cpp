@@ -149,7 +149,7 @@ int lineHeightOf(int points) {
   return lineDistance(lines.control(), 0, 4);
 }
 
-TEST_F(Nhw32RichEdit, ALastLineTellsItsWordsDownToItsLowerEdgeAndLittleBelow) {
+TEST_F(Nhw32RichEdit, ALastLineIsReadDownToItsLowerEdgeAndLittleBelow) {
   for (const int points : {8, 12, 18, 36, 48}) {
     const int height = lineHeightOf(points);
     for (const auto& above : std::vector<std::vector<SizedLines::Line>>{
@@ -224,7 +224,7 @@ TEST_F(Nhw32RichEdit, NothingWhereItsWindowShrinksInMidQuestion) {
   expectNoWordOnceArmed(design, armed);
 }
 
-TEST_F(Nhw32RichEdit, OneWhoseTextIsBytesTellsItsWordsToo) {
+TEST_F(Nhw32RichEdit, ReadsControlsWhoseTextIsBytes) {
   const HookedTextWindow target(
       {.className = L"RichEdit20A", .style = ES_MULTILINE | ES_AUTOVSCROLL}, u"字典 mixed words");
   ASSERT_FALSE(IsWindowUnicode(target.control()));
