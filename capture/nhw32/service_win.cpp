@@ -43,12 +43,24 @@ Answer answerOf(WordReader& reader, const Question& question) {
   }
 }
 
+/// Returns a new reader, null if there is none to be had, for lack of memory say. An exception that
+/// left the worker would end the program.
+std::unique_ptr<WordReader> readerOf(const ReaderFactory& factory) {
+  try {
+    return factory();
+  } catch (...) {
+    return nullptr;
+  }
+}
+
 /// The worker's thread function. Per-monitor awareness makes the coordinates that Windows returns
 /// physical pixels (ScreenPoint).
 void work(ProbeMailbox& mailbox, const ReaderFactory& factory) {
   SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
-  const std::unique_ptr<WordReader> reader = factory();
-  while (const auto question = mailbox.take()) mailbox.deliver(answerOf(*reader, *question));
+  const std::unique_ptr<WordReader> reader = readerOf(factory);
+  while (const auto question = mailbox.take()) {
+    mailbox.deliver(reader == nullptr ? Answer{} : answerOf(*reader, *question));
+  }
 }
 
 /// Removes the message from the host's queue; returns whether it was there. PM_QS_POSTMESSAGE and

@@ -91,15 +91,15 @@ Question about(WindowId window) { return {.window = window, .point = {}}; }
 class Silent : public WordReader {
  public:
   Answer wordAt(const Question& question) override {
-    asked_.push_back(question.window);
+    asked.push_back(question.window);
     return {.outcome = question.window == 1 ? Outcome::kOutOfTime : Outcome::kWord, .word = {}};
   }
-  std::vector<WindowId> asked_;
+  std::vector<WindowId> asked;
 };
 
 TEST(BackoffReader, DoesNotAskAWindowThatKeepsTimingOut) {
   auto silent = std::make_unique<Silent>();
-  auto& asked = silent->asked_;
+  auto& asked = silent->asked;
   Backoff::Time now = kStart;
   BackoffReader reader(std::move(silent), [&] { return now; });
   for (int i = 0; i < 3; ++i) EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::kOutOfTime);

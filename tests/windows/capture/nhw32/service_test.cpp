@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <memory>
+#include <new>
 
 #include "capture/nhw32/nhw32.h"
 #include "tests/support/process/find.h"
 #include "tests/support/wait.h"
 #include "tests/support/window/hooked_text_window.h"
+#include "tests/support/window/plain_window.h"
 #include "tests/support/window/word_host.h"
 
 namespace support {
@@ -141,6 +144,19 @@ TEST_F(Nhw32Service, ManyWordsInARowNeedOneThread) {
     nhw32::SetNHW32();
   }
   EXPECT_EQ(nhw32::service().workers(), 1);
+}
+
+TEST(Nhw32ServiceWithoutAReader, FindsNoWordAndGoesOn) {
+  const PlainWindow window(L"STATIC", {300, 300, 400, 400});
+  WordHost host;
+  nhw32::Service service([]() -> std::unique_ptr<nhw32::WordReader> { throw std::bad_alloc(); },
+                         RegisterWindowMessageA("BL_HASSTRING"));
+  service.start();
+  service.arm(host.window(), {350, 350});
+  EXPECT_TRUE(never([&] { return !host.words().empty(); }, 200));
+  EXPECT_EQ(service.workers(), 1);
+  service.stop();
+  EXPECT_TRUE(eventually([&] { return service.workers() == 0; }));
 }
 
 }  // namespace
