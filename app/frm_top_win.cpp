@@ -174,8 +174,12 @@ void frmTop::Image1_MouseUp() {
   Timer1.setEnabled(false);
 }
 
+// The toolbar's rectangle in screen pixels, for drags.
 void frmTop::Get_Windows_Rect() { GetWindowRect(handle(), &WindowRect); }
 
+// The first tick reads the headword index, once the toolbar is on the screen; a failure is not
+// repeated. While the mouse button is down on the grip, a tick arms the drag's offset for the next
+// press.
 void frmTop::Timer1_Timer() {
   IsDragArmed = IsDragging;
   if (!IdxPending) return;

@@ -19,6 +19,8 @@ void dropPress(const Widget& widget) {
 
 }  // namespace
 
+// The menu is made anew each time from the items' states. TPM_RETURNCMD returns the choice instead
+// of sending WM_COMMAND; the identifier 0 means none, so they count from 1.
 const PopupMenu::Item* PopupMenu::choose(const Form& owner, POINT screen,
                                          const Widget* opener) const {
   const win32::OwnedMenu menu(CreatePopupMenu());

@@ -95,7 +95,8 @@ struct Stack {
 
 /// Windows that `self` owns are left out: the system itself keeps them above it.
 Stack stackAround(HWND self) {
-  // GetWindow in a loop may go round in circles when windows are moved meanwhile.
+  // From the top down to the first window that is seen and not topmost. Other programs move windows
+  // meanwhile: Windows documents that GetWindow in a loop may then not end.
   constexpr int kMaxSteps = 1'000;
   Stack stack;
   HWND window = GetTopWindow(nullptr);

@@ -26,6 +26,8 @@ void TreeView::add(const std::u16string& text) {
   nodes_.back().item = insert(nodes_.size(), TVI_LAST);
 }
 
+// The control asks for the text during the insertion, before the item's handle is known here:
+// giveText then takes the node that is being inserted.
 HTREEITEM TreeView::insert(std::size_t number, HTREEITEM after) {
   TVINSERTSTRUCTW insert{};
   insert.hParent = TVI_ROOT;
@@ -38,6 +40,8 @@ HTREEITEM TreeView::insert(std::size_t number, HTREEITEM after) {
   return reinterpret_cast<HTREEITEM>(item);
 }
 
+// The new item is inserted and selected before the old one is deleted, so that the control does not
+// select a neighbour meanwhile.
 void TreeView::measureAgain(std::size_t number) {
   const HTREEITEM old = nodes_.at(number - 1).item;
   const bool wasSelected = selected() == number;
@@ -150,6 +154,8 @@ LRESULT TreeView::notify(const NMHDR& header) {
   return 0;
 }
 
+// The control greys the selected node while the focus is elsewhere; its colours are set for each
+// row.
 LRESULT TreeView::highlight(NMTVCUSTOMDRAW& drawing) const {
   if (!keepsHighlight_) return CDRF_DODEFAULT;
   if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;

@@ -87,6 +87,8 @@ Widget::~Widget() {
   }
 }
 
+// A control may be destroyed before its widget, with the form's window: from WM_NCDESTROY on the
+// widget has no handle, and its functions call Windows with null, which does nothing.
 LRESULT CALLBACK Widget::widgetProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* widget = reinterpret_cast<Widget*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (message == WM_NCDESTROY) {
@@ -112,9 +114,11 @@ LRESULT Widget::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       }
       break;
     case WM_SETCURSOR:
+      // The form's shape comes first; with none of its own it returns FALSE.
       if (SendMessageW(form_.handle(), message, wParam, lParam) != FALSE) return TRUE;
       break;
     case WM_GETDLGCODE:
+      // IsDialogMessage asks with the key's message: a key that has a handler is not a dialog's.
       if (const auto* key = reinterpret_cast<const MSG*>(lParam);
           key != nullptr && takesKey(key->message, key->wParam)) {
         return CallWindowProcW(controlProc_, handle_, message, wParam, lParam) | DLGC_WANTMESSAGE;
@@ -122,6 +126,8 @@ LRESULT Widget::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_KEYDOWN:
       if (takesKey(message, wParam)) {
+        // A copy: the handler may destroy the widget. The focus events that are due come first, as
+        // for a mouse button.
         const auto handler = onKeyDown.find(wParam)->second;
         dropCharacterOf(wParam);
         raisePendingFocusEvents();
@@ -132,6 +138,7 @@ LRESULT Widget::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
       raiseMouseEvents(message, lParam);
   }
+  // A handler may have destroyed the control.
   return handle_ == nullptr ? 0 : CallWindowProcW(controlProc_, handle_, message, wParam, lParam);
 }
 
