@@ -88,7 +88,7 @@ Widget::~Widget() {
 }
 
 // A control may be destroyed before its widget, with the form's window: from WM_NCDESTROY on the
-// widget has no handle, and its functions call Windows with null, which does nothing.
+// widget has no handle.
 LRESULT CALLBACK Widget::widgetProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* widget = reinterpret_cast<Widget*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (message == WM_NCDESTROY) {
