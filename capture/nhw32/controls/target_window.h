@@ -25,7 +25,7 @@ class TargetWindow {
   static constexpr std::chrono::milliseconds kMessageTime{50};
   static constexpr std::chrono::milliseconds kQuestionTime{150};
 
-  explicit TargetWindow(WindowId window);
+  explicit TargetWindow(WindowId window, Clock clock = std::chrono::steady_clock::now);
 
   [[nodiscard]] HWND handle() const { return window_; }
   [[nodiscard]] bool visible() const { return IsWindowVisible(window_) != FALSE; }
@@ -42,6 +42,7 @@ class TargetWindow {
 
  private:
   HWND window_;
+  Clock clock_;
   std::chrono::steady_clock::time_point deadline_;
 };
 

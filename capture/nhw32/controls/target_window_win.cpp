@@ -1,6 +1,7 @@
 #include "capture/nhw32/controls/target_window.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "capture/nhw32/policy.h"
 
@@ -38,9 +39,10 @@ HANDLE openProgramOf(HWND window) {
 
 }  // namespace
 
-TargetWindow::TargetWindow(WindowId window)
+TargetWindow::TargetWindow(WindowId window, Clock clock)
     : window_(reinterpret_cast<HWND>(window)),
-      deadline_(std::chrono::steady_clock::now() + kQuestionTime) {}
+      clock_(std::move(clock)),
+      deadline_(clock_() + kQuestionTime) {}
 
 DWORD TargetWindow::style() const {
   return static_cast<DWORD>(GetWindowLongPtrW(window_, GWL_STYLE));
@@ -54,8 +56,7 @@ bool TargetWindow::isOurs() const {
 
 LRESULT TargetWindow::ask(UINT message, WPARAM wParam, LPARAM lParam) const {
   // What is left of the question's time limits the message too; rounded up, so that it is not 0.
-  const auto left =
-      std::chrono::ceil<std::chrono::milliseconds>(deadline_ - std::chrono::steady_clock::now());
+  const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline_ - clock_());
   if (left.count() <= 0) throw NoAnswer(Outcome::kOutOfTime);
   const auto time = static_cast<UINT>(std::min(left, kMessageTime).count());
   DWORD_PTR answer = 0;
