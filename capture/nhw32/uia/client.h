@@ -15,7 +15,7 @@ struct UiaSystem {
   /// May throw or succeed without storing a client, both of which count as failures.
   std::function<HRESULT(IUIAutomation2** client)> makeClient;
   /// The clock of the time limits.
-  Clock now;
+  Clock now = std::chrono::steady_clock::now;
 };
 
 /// Delay before the client is created again after a failure: on a system without UI Automation each

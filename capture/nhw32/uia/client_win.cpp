@@ -98,7 +98,7 @@ class UiaReader : public WordReader {
 }  // namespace
 
 std::unique_ptr<WordReader> makeUiaReader() {
-  return makeUiaReader({makeSystemClient, std::chrono::steady_clock::now});
+  return makeUiaReader({.makeClient = makeSystemClient});
 }
 
 std::unique_ptr<WordReader> makeUiaReader(UiaSystem system) {
