@@ -56,6 +56,7 @@ void ThreadedWindow::create() {
 }
 
 void ThreadedWindow::run(HANDLE ready) {
+  if (design_.awareness != nullptr) SetThreadDpiAwarenessContext(design_.awareness);
   create();
   ShowWindow(window_, SW_SHOWNOACTIVATE);
   UpdateWindow(window_);

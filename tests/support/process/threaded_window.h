@@ -25,6 +25,8 @@ class ThreadedWindow {
     /// Called there for the window's messages; what it does not answer goes the usual way.
     std::function<std::optional<LRESULT>(HWND window, UINT message, WPARAM wParam, LPARAM lParam)>
         handle = {};
+    /// Of the window's thread, in whose pixels `place` is; null: the program's.
+    DPI_AWARENESS_CONTEXT awareness = nullptr;
   };
 
   /// Returns when the window is shown.
