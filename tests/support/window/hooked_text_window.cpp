@@ -81,13 +81,12 @@ std::optional<RECT> characterCell(HWND control, std::size_t position) {
 }
 
 nhw32::Answer answerTo(const nhw32::Question& question) {
-  nhw32::Answer answer;
-  for (int tries = 0; tries < 20; ++tries) {
+  for (int tries = 1;; ++tries) {
     // A new one, which backs off from no window yet.
-    answer = nhw32::makeWindowReader()->wordAt(question);
-    if (answer.outcome != nhw32::Outcome::kOutOfTime) break;
+    const nhw32::Answer answer = nhw32::makeWindowReader()->wordAt(question);
+    if (answer.outcome != nhw32::Outcome::kOutOfTime || tries == 20) return answer;
+    reportRetry("a question that had no answer in time");
   }
-  return answer;
 }
 
 nhw32::Question questionAt(HWND control, POINT point) {

@@ -14,6 +14,8 @@
 #include "capture/nhw32/service.h"
 #include "tests/support/process/find.h"
 #include "tests/support/wait.h"
+#include "tests/support/window/counted_service.h"
+#include "tests/support/window/gate.h"
 #include "tests/support/window/heap_blocks.h"
 #include "tests/support/window/hooked_text_window.h"
 #include "tests/support/window/latency_recorder.h"
@@ -38,19 +40,20 @@ class Hanging {
                  .style = style,
                  .hook =
                      [this, message](HWND, UINT sent, WPARAM, LPARAM structure) {
-                       const bool late = hangs_ && message == sent;
-                       while (hangs_ && (message == WM_NULL || message == sent)) Sleep(1);
+                       if (message != WM_NULL && message != sent) return std::optional<LRESULT>();
+                       const bool late = gate_.closed() && message == sent;
+                       gate_.pass();
                        if (late && !inUse(structure)) ++lost_;
                        return std::optional<LRESULT>();
                      }},
                 u"stubborn words") {
     place_ = centreOf(*characterCell(target_.control(), 3));
   }
-  ~Hanging() { hangs_ = false; }
+  ~Hanging() { gate_.open(); }
   Hanging(const Hanging&) = delete;
   Hanging& operator=(const Hanging&) = delete;
 
-  void hang(bool hangs) { hangs_ = hangs; }
+  void hang(bool hangs) { hangs ? gate_.close() : gate_.open(); }
   /// How often the memory that `message` was given was gone when its time came.
   [[nodiscard]] int lost() const { return lost_; }
   [[nodiscard]] POINT place() const { return place_; }
@@ -63,7 +66,7 @@ class Hanging {
     return memory.State == MEM_COMMIT && !isFreeInHeap(reinterpret_cast<const void*>(address));
   }
 
-  std::atomic<bool> hangs_ = false;
+  Gate gate_;
   std::atomic<int> lost_ = 0;
   HookedTextWindow target_;
   POINT place_{};
@@ -116,23 +119,24 @@ TEST_F(Nhw32Hanging, RemoteMemoryOutlivesAMessageThatTimedOut) {
 }
 
 TEST_F(Nhw32Hanging, ProbingNeverBlocksTheCaller) {
-  constexpr int kTargets = 4;
-  nhw32::SetNHW32();
+  CountedService counted;
   LatencyRecorder probing;
-  for (int i = 0; i < kTargets; ++i) {
+  for (int i = 0; i < 4; ++i) {
     Hanging target;
-    ASSERT_EQ(host_.wordAt(target.place()), "stubborn");
+    ASSERT_EQ(answerTo(target.question()).word.text, u"stubborn");
     target.hang(true);
     for (int probe = 0; probe < nhw32::Backoff::kMaxTimeouts; ++probe) {
+      const int answers = counted.answers();
       probing.measure([&] {
-        host_.probe(target.place());
-        nhw32::SetNHW32();
+        counted.probe(host_.window(), target.place());
+        counted.service().start();
       });
-      passTime(60);  // longer than a message may wait, so that the next probe asks anew
+      // Otherwise the next probe would adopt this one's question.
+      waitFor("the question to end", [&] { return counted.answers() > answers; });
     }
   }
   EXPECT_FALSE(probing.wait());
-  EXPECT_EQ(host_.words().size(), static_cast<std::size_t>(kTargets));
+  EXPECT_TRUE(host_.words().empty());
 }
 
 TEST_F(Nhw32Hanging, StartingAndStoppingTwoHundredTimesLeavesNoThreads) {
@@ -148,7 +152,9 @@ TEST_F(Nhw32Hanging, StartingAndStoppingTwoHundredTimesLeavesNoThreads) {
         nhw32::ResetNHW32();
       });
       most = std::max(most, nhw32::service().workers());
-      if (round % 20 == 0) passTime(20);
+      if (round % 20 == 0) {
+        EXPECT_TRUE(eventually([] { return nhw32::service().workers() == 0; }));
+      }
     }
     EXPECT_FALSE(restarting.wait());
     EXPECT_LE(most, 2) << "a worker that hangs in a question is kept, not replaced";
@@ -156,21 +162,24 @@ TEST_F(Nhw32Hanging, StartingAndStoppingTwoHundredTimesLeavesNoThreads) {
   }
 }
 
-/// Takes its time, fails, or answers at once.
+/// Fails left of x = 100, waits left of x = 200 until its gate is open, or answers at once.
 class Stubborn : public nhw32::WordReader {
  public:
   nhw32::Answer wordAt(const nhw32::Question& question) override {
     ++asked;
     if (question.point.x < 100) throw std::runtime_error("fails");
-    Sleep(question.point.x < 200 ? 250 : 0);
+    const bool slow = question.point.x < 200;
+    if (slow) gate.pass();
     return {.outcome = nhw32::Outcome::kWord,
-            .word = {.text = question.point.x < 200 ? u"slow" : u"quick", .box = {}}};
+            .word = {.text = slow ? u"slow" : u"quick", .box = {}}};
   }
   static inline std::atomic<int> asked = 0;
+  static inline Gate gate;
 };
 
 TEST_F(Nhw32Hanging, AReaderSlowerThanTheProbesDeliversAndAThrowingOneDoesNoHarm) {
   Stubborn::asked = 0;
+  Stubborn::gate.close();
   nhw32::Service service([] { return std::make_unique<Stubborn>(); },
                          RegisterWindowMessageA(nhw32::kMessageName));
   service.start();
@@ -185,13 +194,17 @@ TEST_F(Nhw32Hanging, AReaderSlowerThanTheProbesDeliversAndAThrowingOneDoesNoHarm
     MSG queued;
     return PeekMessageW(&queued, host_.window(), message, message, PM_NOREMOVE) != FALSE;
   };
-  int probes = 0;
-  for (; probes < 10 && !announced(); ++probes) {
+  probe({150, 500});
+  ASSERT_TRUE(eventually([] { return Stubborn::asked == 2; }));
+  for (int probes = 0; probes < 10; ++probes) {
     probe({150, 500});
-    Sleep(100);
+    EXPECT_FALSE(announced());
   }
-  EXPECT_TRUE(announced());
-  EXPECT_GE(probes, 3);
+  Stubborn::gate.open();
+  {
+    const ScopedSleepingWaits sleeping;  // the message stays in the queue
+    EXPECT_TRUE(eventually(announced));
+  }
   EXPECT_EQ(Stubborn::asked, 2);
   EXPECT_EQ(service.word()->text, u"slow");
   probe({150, 500});

@@ -5,10 +5,12 @@
 
 #include "capture/nhw32/nhw32.h"
 #include "capture/nhw32/policy.h"
+#include "capture/nhw32/router.h"
 #include "capture/nhw32/service.h"
 #include "tests/support/process/find.h"
 #include "tests/support/process/process.h"
 #include "tests/support/wait.h"
+#include "tests/support/window/counted_service.h"
 #include "tests/support/window/hooked_text_window.h"
 #include "tests/support/window/latency_recorder.h"
 #include "tests/support/window/mixed_page.h"
@@ -106,9 +108,10 @@ TEST_P(Nhw32Programs, AStoppedProgramHoldsNobodyUpAndLivesOn) {
   {
     const SuspendedProcess stopped(program.mark());
     LatencyRecorder probing;
+    CountedService counted;
     for (int probe = 0; probe < nhw32::Backoff::kMaxTimeouts; ++probe) {
-      probing.measure([&] { host.probe(point); });
-      passTime(60);
+      probing.measure([&] { counted.probe(host.window(), point); });
+      waitFor("the question to end", [&] { return counted.answers() > probe; });
     }
     EXPECT_FALSE(probing.wait());
     RecordProperty("longest_probe_microseconds", static_cast<int>(probing.longest().count()));
@@ -128,7 +131,7 @@ TEST_P(Nhw32Programs, AStoppedProgramHoldsNobodyUpAndLivesOn) {
   }
   // It has all our late messages before it and answers them now.
   waitFor("the program to answer again",
-          [&] { return answerTo(question).word.text == u"patient"; });
+          [&] { return nhw32::makeWindowReader()->wordAt(question).word.text == u"patient"; });
   EXPECT_TRUE(program.process().running());
   EXPECT_EQ(textOf(program.control()), L"patient words");
 }

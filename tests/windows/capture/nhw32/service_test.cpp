@@ -3,12 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <atomic>
 #include <memory>
 #include <new>
 
 #include "capture/nhw32/nhw32.h"
 #include "tests/support/process/find.h"
 #include "tests/support/wait.h"
+#include "tests/support/window/counted_service.h"
+#include "tests/support/window/gate.h"
 #include "tests/support/window/hooked_text_window.h"
 #include "tests/support/window/plain_window.h"
 #include "tests/support/window/word_host.h"
@@ -134,6 +137,40 @@ TEST_F(Nhw32Service, OtherFlagsDoNothing) {
   for (const std::uint32_t flag : {0U, 1001U, 1003U}) nhw32::BL_SetFlag32(flag, nullptr, 0, 0);
   EXPECT_EQ(textNow(), "first");
   EXPECT_EQ(host_.nextWord(), "first");
+}
+
+// The pointer at rest on a blank: what a probe costs the window is one question, however often the
+// same place is armed while that question is in work.
+TEST(Nhw32ServiceAtRest, AsksTheWindowOnceAProbe) {
+  std::atomic<int> questions = 0;
+  Gate gate;
+  const HookedTextWindow target({.hook =
+                                     [&](HWND, UINT message, WPARAM, LPARAM) {
+                                       if (message == EM_CHARFROMPOS) {
+                                         ++questions;
+                                         gate.pass();
+                                       }
+                                       return std::optional<LRESULT>();
+                                     }},
+                                u"one   two\r\nx");
+  const POINT blank = pointOf(target.control(), 4);
+  const WordHost host;
+  CountedService counted;
+  const int before = questions;
+  for (int probe = 1; probe <= 10; ++probe) {
+    counted.probe(host.window(), blank);
+    waitFor("the answer", [&] { return counted.answers() == probe; });
+    EXPECT_EQ(questions - before, probe);
+  }
+  EXPECT_TRUE(never([&] { return questions - before > 10; }, 200)) << "asked without a probe";
+  gate.close();
+  counted.probe(host.window(), blank);
+  waitFor("the question", [&] { return questions - before == 11; });
+  for (int probe = 0; probe < 10; ++probe) counted.probe(host.window(), blank);
+  gate.open();
+  waitFor("the answer", [&] { return counted.answers() == 11; });
+  EXPECT_TRUE(never([&] { return questions - before > 11; }, 200)) << "adopted, yet asked again";
+  EXPECT_TRUE(host.words().empty());
 }
 
 TEST_F(Nhw32Service, ManyWordsInARowNeedOneThread) {
