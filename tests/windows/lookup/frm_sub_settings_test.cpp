@@ -1,3 +1,5 @@
+#include <filesystem>
+
 #include "settings/settings_file.h"
 #include "tests/support/window/frm_sub_test.h"
 #include "tests/support/window/unwritable_settings.h"
@@ -38,6 +40,15 @@ class FrmSubSettings : public FrmSubTest {
   static void close() {
     sub().unload();
     forms::doEvents();
+  }
+  /// Closes it, with the focus in its box, while its sizes cannot be written: the window goes, and
+  /// capture runs again.
+  void expectClosesInSilence() {
+    ASSERT_FALSE(captureRuns());
+    PostMessageW(sub().handle(), WM_SYSCOMMAND, SC_CLOSE, 0);
+    ASSERT_TRUE(eventually([] { return !forms::isLoaded<frmSub>(); }));
+    EXPECT_TRUE(captureRuns());
+    EXPECT_TRUE(always([this] { return boxes.count() == 0; }, 60));
   }
   void openAs(const Stored& stored, int width, int height, int list) {
     openAs([&] { store(stored); }, width, height, list);
@@ -157,6 +168,34 @@ TEST_F(FrmSubSettings, AFileThatCannotBeWrittenGivesWayToOneOfTheUsersOwn) {
   expectSizes(7005, 5505, 2000);
   close();
   DeleteFileW(win32::wide(own));
+}
+
+TEST_F(FrmSubSettings, AFileThatWasLockedMeanwhileIsClosedWithInSilence) {
+  openAs({L"6005", L"5003", L"2107"}, 6005, 5003, 2107);
+  resize(sub(), 7005, 5505);
+  {
+    const UnwritableSettings held;
+    expectClosesInSilence();
+  }
+  expectStored(L"6005", L"5003", L"2107");
+}
+
+TEST_F(FrmSubSettings, AFolderThatIsGoneMeanwhileIsClosedWithInSilence) {
+  const UnwritableSettings held;
+  open();
+  const std::filesystem::path own(user::settingsFile());
+  ASSERT_NE(own.u16string(), user::systemDirectory() + u"\\system.ini");
+  resize(sub(), 7005, 5505);
+  std::filesystem::remove_all(own.parent_path());
+  ASSERT_FALSE(std::filesystem::exists(own.parent_path()));
+  expectClosesInSilence();
+  EXPECT_FALSE(std::filesystem::exists(own));
+  // The next time it is as it was without any.
+  open();
+  expectSizes(3500, 3200, 2000);
+  close();
+  EXPECT_TRUE(std::filesystem::exists(own));
+  std::filesystem::remove(own);
 }
 
 }  // namespace

@@ -188,5 +188,15 @@ TEST_F(FrmSubSplitter, ThePointerShowsWhereItCanBeDragged) {
   EXPECT_TRUE(eventually([&] { return GetCursor() == LoadCursorW(nullptr, IDC_ARROW); }));
 }
 
+TEST_F(FrmSubSplitter, ClosingTheWindowGivesThePointerItsOwnShapeBack) {
+  frmSub& form = openWith(5000, 4000, L"2100");
+  injected::moveTo(centreOf(form.Image1));
+  ASSERT_TRUE(eventually([] { return GetCursor() == LoadCursorW(nullptr, IDC_SIZEWE); }));
+  // The keys close it, so that the pointer stays where it is.
+  input::key(VK_F4, {VK_MENU});
+  ASSERT_TRUE(eventually([] { return !forms::isLoaded<frmSub>(); }));
+  EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+}
+
 }  // namespace
 }  // namespace support
