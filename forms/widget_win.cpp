@@ -11,6 +11,25 @@
 // changes are only noted here; events follow in order (focus.h). A control hands the mouse to the
 // form, by HTTRANSPARENT, where a neighbour grabs it, and the form passes it on.
 namespace forms {
+namespace {
+
+/// A tool tip asks itself, by this message, which window is under the pointer before it shows that
+/// window's text. Beside a widget that takes the mouse there too, it is to show the widget's: then
+/// the point is moved onto the widget, as the message's documentation suggests.
+LRESULT CALLBACK toolTipProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                             UINT_PTR /*id*/, DWORD_PTR host) {
+  if (message == TTM_WINDOWFROMPOINT) {
+    auto& point = *reinterpret_cast<POINT*>(lParam);
+    if (const Widget* grabber = reinterpret_cast<const WidgetHost*>(host)->grabberAt(point)) {
+      RECT rect{};
+      GetWindowRect(grabber->handle(), &rect);
+      point.x = std::clamp(point.x, rect.left, rect.right - 1);
+    }
+  }
+  return DefSubclassProc(window, message, wParam, lParam);
+}
+
+}  // namespace
 
 Widget* WidgetHost::widgetAt(POINT screen, const Widget* except) const {
   const auto found = std::ranges::find_if(widgets_, [&](const Widget* widget) {
@@ -43,6 +62,7 @@ void WidgetHost::createToolTip() {
                              WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
                              CW_USEDEFAULT, CW_USEDEFAULT, handle_, nullptr,
                              GetModuleHandleW(nullptr), nullptr);
+  SetWindowSubclass(toolTip_, toolTipProc, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 
 void WidgetHost::setToolTip(const Widget& widget, const std::u16string& text) {

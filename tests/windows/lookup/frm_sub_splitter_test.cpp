@@ -1,3 +1,5 @@
+#include <commctrl.h>
+
 #include "tests/support/window/frm_sub_test.h"
 #include "tests/support/window/open_menu.h"
 
@@ -27,6 +29,25 @@ class FrmSubSplitter : public FrmSubTest {
     passTime(20);
     injected::releaseLeft();
     ASSERT_TRUE(eventually([] { return !sub().Image1.isDragged(); }));
+  }
+
+  /// Moves the pointer to a place beside the splitter's line, in pixels to the right, or onto it,
+  /// and leaves it there.
+  static void restBesideLine(int beside) {
+    const RECT line = rectOf(sub().Image1.handle());
+    const POINT place{line.left + beside, centreOf(line).y};
+    injected::moveTo({place.x, place.y - 20});
+    forms::doEvents();
+    injected::moveTo(place);
+  }
+
+  /// Whether the splitter's tool tip is on the screen, beside the pointer.
+  static bool toolTipIsShown() {
+    HWND tip = nullptr;
+    while ((tip = FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
+      if (GetWindow(tip, GW_OWNER) == sub().handle() && IsWindowVisible(tip) != FALSE) break;
+    }
+    return tip != nullptr && forms::windowText(tip) == u"拖动以调解窗体宽度";
   }
 
   static void expectPlaced(int listWidth) {
@@ -196,6 +217,23 @@ TEST_F(FrmSubSplitter, ClosingTheWindowGivesThePointerItsOwnShapeBack) {
   input::key(VK_F4, {VK_MENU});
   ASSERT_TRUE(eventually([] { return !forms::isLoaded<frmSub>(); }));
   EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+}
+
+TEST_F(FrmSubSplitter, ItsToolTipAppearsWhereThePointerRestsOnIt) {
+  openWith(5000, 4000, L"2100");
+  restBesideLine(0);
+  EXPECT_TRUE(eventually(toolTipIsShown));
+}
+
+TEST_F(FrmSubSplitter, ItsToolTipAppearsWhereItCanBeTakenHoldOfBesideItsLine) {
+  openWith(5000, 4000, L"2100");
+  for (const int beside : {-2, 3}) {
+    SCOPED_TRACE(beside);
+    restBesideLine(beside);
+    EXPECT_TRUE(eventually(toolTipIsShown));
+    injected::moveTo(centreOf(sub().txtOut));
+    EXPECT_TRUE(eventually([] { return !toolTipIsShown(); }));
+  }
 }
 
 }  // namespace
