@@ -40,6 +40,10 @@ void pressRight() { inject(MOUSEEVENTF_RIGHTDOWN); }
 
 void releaseRight() { inject(MOUSEEVENTF_RIGHTUP); }
 
+void pressMiddle() { inject(MOUSEEVENTF_MIDDLEDOWN); }
+
+void releaseMiddle() { inject(MOUSEEVENTF_MIDDLEUP); }
+
 void click(POINT point) {
   moveTo(point);
   pressLeft();

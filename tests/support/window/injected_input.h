@@ -12,6 +12,8 @@ void pressLeft();
 void releaseLeft();
 void pressRight();
 void releaseRight();
+void pressMiddle();
+void releaseMiddle();
 void click(POINT point);
 void rightClick(POINT point);
 

@@ -1,7 +1,16 @@
+#include <limits>
+
 #include "tests/support/window/frm_top_test.h"
+#include "tests/support/window/scoped_import.h"
+
+extern "C" decltype(&GetCursorPos) __imp_GetCursorPos;
+extern "C" decltype(&MoveWindow) __imp_MoveWindow;
 
 namespace support {
 namespace {
+
+constexpr LONG kLeast = std::numeric_limits<LONG>::min();
+constexpr LONG kMost = std::numeric_limits<LONG>::max();
 
 class FrmTopDrag : public FrmTopTest {
  protected:
@@ -29,6 +38,56 @@ class FrmTopDrag : public FrmTopTest {
     injected::releaseLeft();
     ASSERT_TRUE(eventually([] { return !top().Timer1.enabled(); }));
   }
+
+  /// Starts the toolbar and drags it to a place, as the first drag does; later ones are armed then.
+  void startDraggedTo(LONG x, LONG y) {
+    start();
+    grip(5, 12);
+    moveTo(x, y);
+    letGo();
+    ASSERT_TRUE(cornerAt(x, y));
+  }
+
+  /// Drags it by a place of its handle, which the pointer is to stay on.
+  static void expectDraggedBy(int dx, int dy) {
+    const POINT before = corner();
+    grip(dx, dy);
+    moveTo(before.x + dx + 50, before.y + dy + 60);
+    EXPECT_TRUE(cornerAt(before.x + 50, before.y + 60));
+    moveTo(before.x + dx + 120, before.y + dy - 30);
+    EXPECT_TRUE(cornerAt(before.x + 120, before.y - 30));
+    letGo();
+  }
+
+  /// What the handle hears of a button that is pressed, and let go of, wherever the pointer is.
+  static void sendPress() { SendMessageW(top().Image1.handle(), WM_LBUTTONDOWN, MK_LBUTTON, 0); }
+  static void sendRelease() { SendMessageW(top().Image1.handle(), WM_LBUTTONUP, 0, 0); }
+
+  /// Has the handle hear of a move when the system's pointer is at `place`, which may lie far
+  /// beyond the screen. Whoever asks for the pointer after the handle is told another place.
+  static void sendMoveTo(POINT place) {
+    pointer() = place;
+    const ScopedImport<decltype(&GetCursorPos)> import(__imp_GetCursorPos, [](POINT* told) -> BOOL {
+      *told = std::exchange(pointer(), kNowhere);
+      return TRUE;
+    });
+    SendMessageW(top().Image1.handle(), WM_MOUSEMOVE, MK_LBUTTON, 0);
+  }
+
+  /// What an error that no handler traps leads to.
+  void expectUncaughtError() {
+    const auto seen = boxes.take();
+    ASSERT_EQ(seen.size(), 1U);
+    EXPECT_FALSE(seen[0].text.empty());
+    EXPECT_EQ(seen[0].icon, Icon::kError);
+    EXPECT_EQ(seen[0].title, u"");
+  }
+
+ private:
+  static POINT& pointer() {
+    static POINT place{};
+    return place;
+  }
 };
 
 TEST_F(FrmTopDrag, TheFirstTimeItsCornerJumpsToThePointer) {
@@ -43,28 +102,13 @@ TEST_F(FrmTopDrag, TheFirstTimeItsCornerJumpsToThePointer) {
 }
 
 TEST_F(FrmTopDrag, FromTheSecondTimeOnItKeepsThePointWhereItWasGripped) {
-  start();
-  grip(5, 12);
-  moveTo(400, 300);
-  letGo();
-  ASSERT_TRUE(cornerAt(400, 300));
-  for (const auto& [dx, dy] : {std::pair{3, 8}, {10, 20}}) {
-    const POINT before = corner();
-    grip(dx, dy);
-    moveTo(before.x + dx + 50, before.y + dy + 60);
-    EXPECT_TRUE(cornerAt(before.x + 50, before.y + 60));
-    moveTo(before.x + dx + 120, before.y + dy - 30);
-    EXPECT_TRUE(cornerAt(before.x + 120, before.y - 30));
-    letGo();
-  }
+  startDraggedTo(400, 300);
+  expectDraggedBy(3, 8);
+  expectDraggedBy(10, 20);
 }
 
 TEST_F(FrmTopDrag, TheGripIsWhereTheMouseMovedLastNotWhereThePointerIs) {
-  start();
-  grip(5, 12);
-  moveTo(400, 300);
-  letGo();
-  ASSERT_TRUE(cornerAt(400, 300));
+  startDraggedTo(400, 300);
   moveTo(403, 308);
   // The pointer goes on without the handle hearing of it, and then the button is pressed.
   injected::moveTo(kNowhere);
@@ -80,20 +124,84 @@ TEST_F(FrmTopDrag, TheGripIsWhereTheMouseMovedLastNotWhereThePointerIs) {
 }
 
 TEST_F(FrmTopDrag, EveryButtonOfTheMouseDragsIt) {
+  startDraggedTo(400, 300);
+  for (const auto& [press, release] : {std::pair{&injected::pressRight, &injected::releaseRight},
+                                       {&injected::pressMiddle, &injected::releaseMiddle}}) {
+    const POINT before = corner();
+    moveTo(before.x + 3, before.y + 8);
+    press();
+    ASSERT_TRUE(eventually([] { return top().Timer1.enabled(); }));
+    moveTo(before.x + 53, before.y + 68);
+    EXPECT_TRUE(cornerAt(before.x + 50, before.y + 60));
+    release();
+    ASSERT_TRUE(eventually([] { return !top().Timer1.enabled(); }));
+    moveTo(800, 700);
+    EXPECT_TRUE(cornerAt(before.x + 50, before.y + 60));
+  }
+}
+
+TEST_F(FrmTopDrag, PlacesBeyond16BitsAreReckonedWith) {
   start();
-  grip(5, 12);
-  moveTo(400, 300);
-  letGo();
-  ASSERT_TRUE(cornerAt(400, 300));
-  moveTo(403, 308);
-  injected::pressRight();
-  ASSERT_TRUE(eventually([] { return top().Timer1.enabled(); }));
-  moveTo(453, 368);
-  EXPECT_TRUE(cornerAt(450, 360));
-  injected::releaseRight();
-  ASSERT_TRUE(eventually([] { return !top().Timer1.enabled(); }));
-  moveTo(600, 500);
-  EXPECT_TRUE(cornerAt(450, 360));
+  static RECT moved{};  // left, top, width and height that the window was given
+  {
+    const ScopedImport<decltype(&MoveWindow)> import(
+        __imp_MoveWindow, [](HWND, int x, int y, int width, int height, BOOL) -> BOOL {
+          moved = {x, y, width, height};
+          return TRUE;
+        });
+    const SIZE size = sizeOf(rectOf(top().handle()));
+    sendPress();
+    sendMoveTo({70'000, -40'000});
+    EXPECT_EQ(moved.left, 70'000);
+    EXPECT_EQ(moved.top, -40'000);
+    EXPECT_EQ(moved.right, size.cx);
+    EXPECT_EQ(moved.bottom, size.cy);
+    sendRelease();
+  }
+  unloadAll();
+  startDraggedTo(400, 300);
+  sendMoveTo({70'000, -40'000});
+  sendPress();
+  sendMoveTo({70'010, -39'980});
+  EXPECT_TRUE(cornerAt(410, 320));
+  sendRelease();
+}
+
+TEST_F(FrmTopDrag, AGripBeyond32BitsIsAnUncaughtErrorAndDragsNothing) {
+  for (const POINT beyond : {POINT{kLeast, 308}, {403, kLeast}}) {
+    startDraggedTo(400, 300);
+    sendMoveTo(beyond);
+    EXPECT_EQ(boxes.count(), 0U);
+    sendPress();
+    ASSERT_NO_FATAL_FAILURE(expectUncaughtError());
+    EXPECT_TRUE(top().Timer1.enabled());
+    sendMoveTo({600, 500});
+    EXPECT_TRUE(cornerAt(400, 300));
+    sendRelease();
+    EXPECT_FALSE(top().Timer1.enabled());
+    // While the box was up the timer may have taken the arming back; the next drag arms again.
+    grip(5, 12);
+    moveTo(450, 350);
+    letGo();
+    expectDraggedBy(3, 8);
+    unloadAll();
+  }
+}
+
+TEST_F(FrmTopDrag, APlaceBeyond32BitsIsAnUncaughtErrorAndTheWindowStays) {
+  startDraggedTo(400, 300);
+  for (const auto& [from, to] : {std::pair{POINT{kMost, 308}, POINT{kLeast, 308}},
+                                 {POINT{403, kMost}, POINT{403, kLeast}}}) {
+    sendMoveTo(from);
+    sendPress();
+    EXPECT_EQ(boxes.count(), 0U);
+    sendMoveTo(to);
+    ASSERT_NO_FATAL_FAILURE(expectUncaughtError());
+    EXPECT_TRUE(cornerAt(400, 300));
+    sendRelease();
+    EXPECT_FALSE(top().Timer1.enabled());
+  }
+  expectDraggedBy(3, 8);
 }
 
 TEST_F(FrmTopDrag, ItsSizeStays) {

@@ -92,6 +92,7 @@ TEST_F(FrmTop, HelpStartsTheBrowserWithThePage) {
   EXPECT_EQ(browser.program, user::BrowserPath) << "another program was started";
   EXPECT_EQ(browser.name, user::BrowserPath);
   EXPECT_EQ(browser.page, win32::applicationFolder() + u"\\help\\help.htm");
+  EXPECT_EQ(browser.show, SW_SHOWNORMAL);
 }
 
 TEST_F(FrmTop, APageWhosePathHasBlanksReachesTheBrowserAsItStands) {
