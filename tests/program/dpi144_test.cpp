@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "forms/geometry.h"
+#include "tests/program/dpi144_fixture.h"
 #include "tests/support/process/controls.h"
 #include "tests/support/process/dictionary_windows.h"
 #include "tests/support/process/input.h"
@@ -19,24 +20,14 @@
 namespace support {
 namespace {
 
-constexpr int kDpi = 144;
-
-class Dpi144 : public ::testing::Test {
- protected:
-  Dpi144() { settings::clear(); }
-  ~Dpi144() override { settings::clear(); }
-
-  void SetUp() override { ASSERT_EQ(GetDpiForSystem(), static_cast<UINT>(kDpi)); }
-};
-
 TEST_F(Dpi144, TheToolbarIsLargerAndStillNearTheTopRightCorner) {
   const Lexilo lexilo(AppFolder::withFullDictionary());
   const RECT rect = rectOf(lexilo.waitUntilSeen());
   const int screen = forms::toTwips(GetSystemMetrics(SM_CXSCREEN), kDpi);
   const int width = forms::toTwips(rect.right - rect.left, kDpi);
-  EXPECT_EQ(rect.top, forms::toPixels(375, kDpi));
-  EXPECT_EQ(rect.bottom - rect.top, forms::toPixels(375, kDpi));
-  EXPECT_NEAR(rect.left, forms::toPixels(screen - width - 1300, kDpi), 1);
+  EXPECT_EQ(rect.top, pixels(375));
+  EXPECT_EQ(rect.bottom - rect.top, pixels(375));
+  EXPECT_NEAR(rect.left, pixels(screen - width - 1300), 1);
   saveScreenshot("build/shots/toolbar-144dpi.png");
 }
 
@@ -45,7 +36,7 @@ TEST_F(Dpi144, TheMenuOpensBelowTheToolbar) {
   const RECT bar = rectOf(lexilo.waitUntilSeen());
   const RECT menu = rectOf(lexilo.dropMenu());
   EXPECT_EQ(menu.left, bar.left);
-  EXPECT_EQ(menu.top, bar.top + forms::toPixels(345, kDpi));
+  EXPECT_EQ(menu.top, bar.top + pixels(345));
   popup_menu::dismiss(lexilo.process());
 }
 
@@ -56,7 +47,6 @@ TEST_F(Dpi144, TheQuickLookupWindowIsLaidOutInTwips) {
   window.lookUp(L"data");
   saveScreenshot("build/shots/quick-lookup-144dpi.png");
   const RECT client = clientRectOf(window.window());
-  const auto pixels = [](int twips) { return forms::toPixels(twips, kDpi); };
   EXPECT_NEAR(client.right - client.left, pixels(3500 - forms::kFrameWidth), 1);
   EXPECT_NEAR(client.bottom - client.top, pixels(3200 - forms::kFrameHeight), 1);
   const RECT list = rectOf(window.list());
@@ -78,7 +68,7 @@ TEST_F(Dpi144, TheSplitterCountsInTwips) {
     input::drag(handle, {rectOf(window.list()).left + 20, handle.y});
   };
   actUntil("the least list", drag,
-           [&] { return sizeOf(rectOf(window.list())).cx == forms::toPixels(1600, kDpi); });
+           [&] { return sizeOf(rectOf(window.list())).cx == pixels(1600); });
 }
 
 TEST_F(Dpi144, SizesAreKept) {
@@ -131,8 +121,8 @@ TEST_F(Dpi144, ThePopupIsLargerAsWell) {
   const RECT rect = rectOf(popup.window());
   EXPECT_EQ(rect.left, pointer.x + 10);
   EXPECT_EQ(rect.top, pointer.y + 10);
-  EXPECT_EQ(rect.right - rect.left, forms::toPixels(2500, kDpi));
-  EXPECT_EQ(rect.bottom - rect.top, forms::toPixels(900, kDpi));
+  EXPECT_EQ(rect.right - rect.left, pixels(2500));
+  EXPECT_EQ(rect.bottom - rect.top, pixels(900));
   const RECT box = rectOf(GetWindow(popup.window(), GW_CHILD));
   EXPECT_TRUE(EqualRect(&box, &rect)) << "the text box fills the popup";
   saveScreenshot("build/shots/popup-144dpi.png");

@@ -3,34 +3,13 @@
 
 #include <string>
 
-#include "forms/geometry.h"
-#include "tests/support/process/input.h"
 #include "tests/support/process/lexilo.h"
 #include "tests/support/process/message_box.h"
+#include "tests/support/process/quick_lookup_sizes.h"
 #include "tests/support/process/settings.h"
 
 namespace support {
 namespace {
-
-/// Sizes in twips, as the settings keep them.
-struct Sizes {
-  int width = 0;
-  int height = 0;
-  int list = 0;
-  bool operator==(const Sizes&) const = default;
-};
-
-void PrintTo(const Sizes& sizes, std::ostream* out) {
-  *out << sizes.width << " x " << sizes.height << ", list " << sizes.list;
-}
-
-Sizes sizesOf(const QuickLookup& window) {
-  const int dpi = static_cast<int>(GetDpiForWindow(window.window()));
-  const SIZE client = sizeOf(clientRectOf(window.window()));
-  return {forms::toTwips(client.cx, dpi) + forms::kFrameWidth,
-          forms::toTwips(client.cy, dpi) + forms::kFrameHeight,
-          forms::toTwips(sizeOf(rectOf(window.list())).cx, dpi)};
-}
 
 Sizes savedSizes() {
   return {std::stoi(settings::read(L"WindowWidth")), std::stoi(settings::read(L"WindowHeight")),
@@ -43,41 +22,11 @@ void store(const Sizes& sizes) {
   settings::write(L"TreeWidth", std::to_wstring(sizes.list));
 }
 
-/// Whether two sizes are the same but for the rounding of twips to pixels.
-bool alike(const Sizes& one, const Sizes& other) {
-  return std::abs(one.width - other.width) < 15 && std::abs(one.height - other.height) < 15 &&
-         std::abs(one.list - other.list) < 15;
-}
-
 class SizesKept : public ::testing::Test {
  protected:
   SizesKept() { settings::clear(); }
   ~SizesKept() override { settings::clear(); }
 };
-
-/// Drags the window's lower right corner by the window manager's frame, below and beside the client
-/// area, to where that would have `pixels`, and waits until the window has these sizes.
-void dragCorner(const QuickLookup& window, SIZE pixels, const Sizes& sizes) {
-  const auto place = [](LONG x, LONG y) { return std::to_string(x) + " " + std::to_string(y); };
-  const auto drag = [&] {
-    const RECT client = clientRectOf(window.window());
-    runBelow("xdotool mousemove " + place(client.right - 2, client.bottom + 2) +
-             " mousedown 1 sleep 0.1 mousemove_relative -- 5 5 sleep 0.1 mousemove " +
-             place(client.left + pixels.cx - 2, client.top + pixels.cy + 2) +
-             " sleep 0.2 mouseup 1");
-  };
-  actUntil("the new size", drag, [&] { return alike(sizesOf(window), sizes); });
-}
-
-/// Drags the splitter to a place on the screen's width until `look` likes the window's sizes.
-template <class Look>
-void dragSplitter(const QuickLookup& window, LONG target, Look look) {
-  const auto drag = [&] {
-    const POINT handle = centreOf(window.splitter());
-    input::drag(handle, {target, handle.y});
-  };
-  actUntil("the list to be as wide", drag, [&] { return look(sizesOf(window)); });
-}
 
 /// Opens the window, which is to have these sizes. It is opened only once and nothing is stored
 /// here: the sizes are those that the program has kept.
