@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// What a UTF-16 code unit of running text is to a word, and how words are spelled in dictionaries.
+/// All functions are pure.
+namespace text {
+
+enum class UnitKind : std::uint8_t {
+  kBreak,       ///< a blank, a line end, or anything that no headword contains
+  kLetter,      ///< a Latin letter, a combining mark or the soft hyphen (U+00AD)
+  kDigit,       ///< 0 to 9, also full-width or subscript, as in CO₂
+  kHyphen,      ///< "-", U+2010, U+2011
+  kApostrophe,  ///< "'", and the characters that are typed or set in its place
+  kHan,
+  kInner,  ///< what the headwords of some terms contain besides: . , / & + # ( ) [ ] and U+2013
+};
+
+/// Returns the kind of a unit; full-width forms (U+FF01 to U+FF5E) are of the kind of the narrow
+/// ones.
+UnitKind unitKind(char16_t unit);
+
+/// Returns the ASCII character for a full-width one; every other unit unchanged.
+constexpr char16_t narrow(char16_t unit) {
+  return unit >= 0xFF01 && unit <= 0xFF5E ? static_cast<char16_t>(unit - 0xFF01 + u'!') : unit;
+}
+
+/// The soft hyphen marks where a word may be divided, and is seen only where a line ends there.
+inline constexpr char16_t kSoftHyphen = 0xAD;
+
+/// Returns `text` as dictionaries spell it: full-width forms and subscript digits as the ASCII
+/// ones, typographic hyphens, apostrophes and U+2013 as "-" and "'", ligatures (U+FB00 to U+FB06)
+/// as their letters, without soft hyphens. Letters keep their accents (see accents.h).
+std::u16string spelled(std::u16string_view text);
+
+}  // namespace text
