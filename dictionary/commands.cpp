@@ -1,17 +1,20 @@
 // The command line. Each command is a call of the function that does the work (build.h, check.h,
-// word_lookup.h); here are only arguments, output and exit codes. There are no options: the number
-// of arguments decides, and a file name may begin with any character.
+// word_lookup.h, coverage.h); here are only arguments, output and exit codes. There are no options:
+// the number of arguments decides, and a file name may begin with any character.
 
 #include "dictionary/commands.h"
 
+#include <algorithm>
 #include <exception>
 #include <iomanip>
+#include <iterator>
 #include <sstream>
 #include <string_view>
 
 #include "dictionary/build.h"
 #include "dictionary/check/check.h"
 #include "dictionary/console.h"
+#include "dictionary/coverage/coverage.h"
 #include "dictionary/word_lookup.h"
 #include "text/utf.h"
 
@@ -24,11 +27,14 @@ constexpr std::string_view kUsage =
     "  kkbuild build SOURCE.csv OUTPUT   builds OUTPUT from comma-separated source data\n"
     "  kkbuild check FILE                checks every rule of a database\n"
     "  kkbuild lookup FILE WORD          shows what the quick lookup window shows for WORD\n"
+    "  kkbuild coverage FILE TEXT...     counts the words of English texts that the popup finds\n"
     "  kkbuild --help                    shows this text\n"
     "\n"
     "build replaces an existing OUTPUT only by a complete and checked new one; it reports lines\n"
-    "that cannot be read and goes on. The exit code is 0 for success, 1 if the database could not\n"
-    "be built, breaks a rule or has no such word, 2 for wrong arguments.\n";
+    "that cannot be read and goes on. coverage reads plain texts and HTML, packed by gzip or not.\n"
+    "The exit code is 0 for success, 1 if the database could not be built, breaks a rule or has "
+    "no\n"
+    "such word, or a file cannot be read, 2 for wrong arguments.\n";
 
 /// A share as "0.8 %"; "0.0 %" of nothing.
 std::string percentage(std::size_t part, std::size_t whole) {
@@ -70,6 +76,13 @@ ExitCode runLookup(const std::string& file, const std::string& word, std::ostrea
   return kSuccess;
 }
 
+ExitCode runCoverage(const std::vector<std::string>& arguments, std::ostream& out) {
+  std::vector<std::filesystem::path> texts;
+  std::transform(arguments.begin() + 2, arguments.end(), std::back_inserter(texts), pathOf);
+  reportCoverage(pathOf(arguments[1]), texts, out);
+  return kSuccess;
+}
+
 ExitCode dispatch(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
   const std::string command = arguments.empty() ? "" : arguments[0];
   if (command == "--help" || command == "-h" || command == "help") {
@@ -84,6 +97,7 @@ ExitCode dispatch(const std::vector<std::string>& arguments, std::ostream& out, 
   if (command == "lookup" && arguments.size() == 3) {
     return runLookup(arguments[1], arguments[2], out, err);
   }
+  if (command == "coverage" && arguments.size() >= 3) return runCoverage(arguments, out);
   err << kUsage;
   return kMisused;
 }

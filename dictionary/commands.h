@@ -17,6 +17,7 @@ enum ExitCode : int {
 ///     build SOURCE.csv OUTPUT   (build.h)
 ///     check FILE                (check/check.h)
 ///     lookup FILE WORD          (word_lookup.h)
+///     coverage FILE TEXT...     (coverage/coverage.h)
 ///     --help
 /// `arguments` are in UTF-8, without the program's own name. Results go to `out`, progress and
 /// messages to `err`, both in UTF-8. Never throws a std::exception: one becomes a message and

@@ -37,8 +37,9 @@ const mayInclude = {
     'dictionary/arrange'],
   'dictionary/check': [...builder, 'dictionary/source', 'dictionary/translation',
     'dictionary/arrange', 'dictionary/database'],
+  'dictionary/coverage': builder,
   dictionary: ['text', 'data', 'dictionary/source', 'dictionary/translation', 'dictionary/arrange',
-    'dictionary/database', 'dictionary/check'],
+    'dictionary/database', 'dictionary/check', 'dictionary/coverage'],
 };
 // Components that may know one another: the host of word capture opens the popup, which starts
 // capture again when it closes.
@@ -51,7 +52,7 @@ const partOf = {
 };
 // These are built without Windows; of all system headers that end in .h they may know these, and only
 // their sources x_win.cpp the others.
-const portableHeaders = ['sqlite3.h', 'sys/resource.h'];
+const portableHeaders = ['sqlite3.h', 'sys/resource.h', 'libxml/HTMLparser.h', 'zlib.h'];
 const withoutWindows = /^(text|data|dictionary)(\/|$)/;
 const maxLines = 400;
 const maxFiles = (folder) => (folder === 'forms' ? 45 : 25);

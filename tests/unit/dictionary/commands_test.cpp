@@ -39,6 +39,8 @@ TEST(Commands, ShowHowTheyAreUsed) {
                                                 {"build", "a"},
                                                 {"check"},
                                                 {"lookup", "a"},
+                                                {"coverage"},
+                                                {"coverage", "a"},
                                                 {"make"},
                                                 {"check", "a", "b"}}) {
     const Outcome outcome = run(wrong);
@@ -92,6 +94,22 @@ TEST(Commands, LookupShowsListAndMeaning) {
   EXPECT_EQ(outcome.code, dictionary::kSuccess);
   EXPECT_EQ(outcome.out.find("bit\nbite\n"), 0U);
   EXPECT_NE(outcome.out.find("\n\n bit\n 比特；\n 位\n"), std::string::npos);
+}
+
+TEST(Commands, CoverageCountsWords) {
+  const support::TempFolder folder;
+  const std::string text = support::utf8Path(folder.file(u"text"));
+  EXPECT_EQ(run({"coverage", small(), text}).err, "kkbuild: there is no file \"" + text + "\"\n");
+  support::writeFile(folder.file(u"text"), "data bits");
+  const Outcome outcome = run({"coverage", small(), text});
+#ifdef _WIN32
+  EXPECT_EQ(outcome.code, dictionary::kFailed);
+  EXPECT_EQ(outcome.err.find("kkbuild: kkbuild for Windows cannot read texts"), 0U);
+#else
+  EXPECT_EQ(outcome.code, dictionary::kSuccess);
+  EXPECT_EQ(outcome.out.find("\"" + text + "\"\n  2 words, 2 of them"), 0U);
+  EXPECT_EQ(outcome.err, "");
+#endif
 }
 
 TEST(Commands, LookupFindsNothingBehindTheLastWord) {
