@@ -1,5 +1,6 @@
 // The order matters: entity codes are decoded first, since they may spell a blank or a bracket;
-// then line breaks, since the lines are cleaned one by one; then substitutes are restored, and
+// titles are marked before tags are deleted, since "<<OED>>" contains one; then lines are broken,
+// since they are cleaned one by one; then substitutes are restored, and
 // blanks folded last, since deleting a substitute may leave two blanks together.
 
 #include "dictionary/source/cleanup.h"
@@ -104,7 +105,7 @@ std::optional<std::u16string> headword(std::u16string_view word) {
 
 std::vector<std::u16string> translationLines(std::u16string_view translation) {
   std::vector<std::u16string> lines;
-  const std::u16string plain = breakLines(decodeEntities(translation));
+  const std::u16string plain = breakLines(markTitles(decodeEntities(translation)));
   for (std::size_t begin = 0; begin <= plain.size();) {
     const std::size_t end = std::min(plain.find(u'\n', begin), plain.size());
     std::u16string line = foldBlanks(restoreSubstitutes(plain.substr(begin, end - begin)));

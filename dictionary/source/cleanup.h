@@ -14,9 +14,10 @@ namespace dictionary {
 /// backslash, a leading question mark, or markup.
 std::optional<std::u16string> headword(std::u16string_view word);
 
-/// Returns the lines of a translation after cleaning: entity codes and markup decoded, blanks
-/// folded and trimmed, invisible characters deleted, known substitutes for lost Han characters
-/// restored. Empty lines and lines that name the source of the others are left out.
+/// Returns the lines of a translation after cleaning: entity codes and markup decoded, titles
+/// marked (markTitles()), blanks folded and trimmed, invisible characters deleted, known
+/// substitutes for lost Han characters restored. Empty lines and lines that name the source of the
+/// others are left out.
 std::vector<std::u16string> translationLines(std::u16string_view translation);
 
 /// Returns `text` with blanks trimmed at both ends and runs of blanks folded to one space. Tabs,

@@ -134,6 +134,14 @@ std::size_t tagLength(std::u16string_view text) {
   return plain ? end + 1 : 0;
 }
 
+/// Length of the title with its marks at the beginning of `text`, "<<可兰经>>"; 0 if there is none.
+std::size_t titleLength(std::u16string_view text) {
+  if (!text.starts_with(u"<<")) return 0;
+  const std::size_t end = text.find_first_of(u"<>\\\n", 2);
+  const bool closed = end != std::u16string_view::npos && text.substr(end).starts_with(u">>");
+  return closed && end > 2 ? end + 2 : 0;
+}
+
 /// "<br>", "<BR/>", "<br />", but not "<break>".
 bool isLineBreakTag(std::u16string_view tag) {
   return tag.size() >= 4 && text::lowerAscii(tag[1]) == u'b' && text::lowerAscii(tag[2]) == u'r' &&
@@ -155,6 +163,22 @@ std::u16string decodeEntities(std::u16string_view text) {
     }
   }
   return decoded;
+}
+
+std::u16string markTitles(std::u16string_view text) {
+  std::u16string marked;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const std::size_t length = titleLength(text.substr(i));
+    if (length == 0) {
+      marked += text[i];
+      continue;
+    }
+    marked += u'《';
+    marked += text.substr(i + 2, length - 4);
+    marked += u'》';
+    i += length - 1;
+  }
+  return marked;
 }
 
 std::u16string breakLines(std::u16string_view text) {

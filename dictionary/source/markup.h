@@ -14,6 +14,10 @@ namespace dictionary {
 /// could not write ("<&14&>").
 std::u16string decodeEntities(std::u16string_view text);
 
+/// Returns `text` with the marks around titles that were written as "<<" and ">>" replaced by the
+/// proper ones: "<<可兰经>>" becomes "《可兰经》". Marks without their counterpart are unchanged.
+std::u16string markTitles(std::u16string_view text);
+
 /// Returns `text` with every spelling of a line break ("<br />", a backslash with "n", one with
 /// "r") replaced by a line feed and other tags deleted ("<i>").
 std::u16string breakLines(std::u16string_view text);

@@ -31,6 +31,18 @@ TEST(Markup, ReplacesANumberedCharacterByUFffd) {
   EXPECT_EQ(dictionary::decodeEntities(u"<&&> <&14> <甲&14&> <&"), u"<&&> <&14> <甲&14&> <&");
 }
 
+// Koran "n. <<可兰经>>", C.O.D. "<<简明牛津词典>>", Hera "n. 赫拉(<<宙斯神之妻)"
+TEST(Markup, MarksTitles) {
+  EXPECT_EQ(dictionary::markTitles(u"n. <<可兰经>>"), u"n. 《可兰经》");
+  EXPECT_EQ(dictionary::markTitles(u"<<申命记>>(<<旧约全书>>中的一卷)"),
+            u"《申命记》(《旧约全书》中的一卷)");
+  EXPECT_EQ(dictionary::markTitles(u"n. 赫拉(<<宙斯神之妻)"), u"n. 赫拉(<<宙斯神之妻)");
+  EXPECT_EQ(dictionary::markTitles(u"<<>> <甲> <<乙> <<丙\\n丁>> <<<戊>>"),
+            u"<<>> <甲> <<乙> <<丙\\n丁>> <《戊》");
+  EXPECT_EQ(dictionary::translationLines(u"<<OED>>\\n[经] <<汉堡规则>>"),
+            (std::vector<std::u16string>{u"《OED》", u"[经] 《汉堡规则》"}));
+}
+
 TEST(Markup, IsFoundByHasMarkup) {
   for (const std::u16string text : {u"维生素A&-{2}", u"H&+{-3}", u"fog&{2}", u"内<&14&>动脉",
                                     u"&beta;", u"<br />", u"甲\\n乙"}) {

@@ -28,6 +28,22 @@ std::u16string text(std::u16string_view line, Subject subject) {
   return subjectText(parseLine(line), subject);
 }
 
+/// An entry of the source, cleaned and parsed.
+dictionary::Entry entryOf(const std::string& translation) {
+  return dictionary::extractEntry({"word", translation, false}).value();
+}
+
+/// The Chinese headwords of the entry.
+Texts wordsOf(const std::string& translation) {
+  Texts result;
+  for (const dictionary::TranslationLine& line : entryOf(translation).lines) {
+    for (const Piece& piece : line.pieces) {
+      if (!piece.equivalent.word.empty()) result.push_back(piece.equivalent.word);
+    }
+  }
+  return result;
+}
+
 TEST(ReadHead, ReadsMarksTagsAndNotes) {
   const dictionary::LineHead head = dictionary::readHead(u"(data 的复数) n. [计] 数据", true);
   EXPECT_EQ(head.subjects, setOf(Subject::kComputing));
@@ -166,6 +182,17 @@ TEST(ParseLine, ReturnsTheInflectionNote) {
 
 TEST(ExtractEntry, RefusesAWordThatCannotBeLookedUp) {
   EXPECT_FALSE(dictionary::extractEntry({"100%", "百分之百", false}).has_value());
+}
+
+// "Koran | n. <<可兰经>>", "torah | n. 教导, 律法, <<旧约>>之首五卷", "hamburg rules | [经]
+// <<汉堡规则>>"
+TEST(ExtractEntry, TakesTitlesForText) {
+  EXPECT_EQ(wordsOf("n. <<可兰经>>"), (Texts{u"可兰经"}));
+  EXPECT_EQ(wordsOf("a. 天启的, <<启示录>>的"), (Texts{u"天启的", u"《启示录》的"}));
+  EXPECT_EQ(wordsOf("n. 教导, 律法, <<旧约>>之首五卷"),
+            (Texts{u"教导", u"律法", u"《旧约》之首五卷"}));
+  EXPECT_EQ(subjectText(entryOf("[经] <<汉堡规则>>").lines.at(0), Subject::kEconomy),
+            u"《汉堡规则》");
 }
 
 }  // namespace
