@@ -148,6 +148,15 @@ bool isLineBreakTag(std::u16string_view tag) {
          !isAsciiLetter(tag[3]);
 }
 
+/// Tags that stand between two senses in the files from which the source was compiled.
+constexpr std::array kSenseTags = {std::u16string_view(u"<X>"), std::u16string_view(u"<DDX>")};
+
+/// The text in place of a tag: a line break or the end of a sense; "" for tags of formatting.
+std::u16string_view textForTag(std::u16string_view tag) {
+  if (isLineBreakTag(tag)) return u"\n";
+  return std::ranges::find(kSenseTags, tag) != kSenseTags.end() ? u"；" : u"";
+}
+
 }  // namespace
 
 std::u16string decodeEntities(std::u16string_view text) {
@@ -189,7 +198,7 @@ std::u16string breakLines(std::u16string_view text) {
       broken += u'\n';
       ++i;
     } else if (const std::size_t length = tagLength(rest); length > 0) {
-      if (isLineBreakTag(rest.substr(0, length))) broken += u'\n';
+      broken += textForTag(rest.substr(0, length));
       i += length - 1;
     } else {
       broken += text[i];

@@ -19,7 +19,8 @@ std::u16string decodeEntities(std::u16string_view text);
 std::u16string markTitles(std::u16string_view text);
 
 /// Returns `text` with every spelling of a line break ("<br />", a backslash with "n", one with
-/// "r") replaced by a line feed and other tags deleted ("<i>").
+/// "r") replaced by a line feed, tags between senses ("<X>") by a semicolon, and other tags deleted
+/// ("<i>").
 std::u16string breakLines(std::u16string_view text);
 
 /// Returns whether decodeEntities() or breakLines() would change `text`.

@@ -195,4 +195,11 @@ TEST(ExtractEntry, TakesTitlesForText) {
             u"《汉堡规则》");
 }
 
+// cluttered
+TEST(ExtractEntry, EndsASenseAtATag) {
+  EXPECT_EQ(
+      wordsOf("v. 杂物, 零乱的东西<X>零乱<DDX>vt.( clutter的过去式和过去分词 ); 乱糟糟地堆满"),
+      (Texts{u"杂物", u"零乱的东西", u"零乱", u"乱糟糟地堆满"}));
+}
+
 }  // namespace
