@@ -18,6 +18,7 @@
 #include "dictionary/source/cleanup.h"
 #include "dictionary/source/markup.h"
 #include "dictionary/translation/brackets.h"
+#include "dictionary/translation/explanations.h"
 #include "dictionary/translation/names.h"
 #include "dictionary/translation/part_of_speech.h"
 #include "dictionary/translation/pieces.h"
@@ -88,6 +89,9 @@ class LineParser {
 
   std::vector<Piece> pieces();
 
+  /// Whether the line ends with the description of a command. After pieces().
+  [[nodiscard]] bool endsInCommand() const { return command_; }
+
  private:
   /// `next` is the separator after the piece, 0 for the last.
   void addPiece(const RawPiece& raw, char16_t next);
@@ -98,6 +102,7 @@ class LineParser {
   LineHead head_;
   SubjectSet current_;       ///< subjects of pieces without a tag of their own
   bool explaining_ = false;  ///< whether an explanation began since the last semicolon
+  bool command_ = false;     ///< whether the description of a command did
   std::vector<Piece> pieces_;
 };
 
@@ -130,11 +135,15 @@ void LineParser::addPiece(const RawPiece& raw, char16_t next) {
   }
   // A semicolon ends an explanation; a tag of names replaces the line's subjects for the pieces
   // after it too; in a list of places, every item is one.
-  if (raw.separator == u'；') explaining_ = false;
+  if (raw.separator == u'；') explaining_ = command_ = false;
   if ((head.subjects & kNameSubjects) != 0) current_ = head.subjects;
   const SubjectSet named = namedByNote(text);
   const bool listedPlace = current_ == setOf(Subject::kPlace) && raw.separator == u'、';
   const bool introduced = first || head.subjects != 0 || named != 0 || listedPlace;
+
+  // What a command does is no meaning of the word, not even for a subject dictionary.
+  command_ = command_ || describesCommand(text);
+  if (command_) return;
 
   Piece piece;
   piece.separator = pieces_.empty() ? u'\0' : raw.separator;
@@ -196,7 +205,9 @@ LineHead readHead(std::u16string_view text, bool shortTags) {
 }
 
 TranslationLine parseLine(std::u16string_view line) {
-  return {LineParser(line).pieces(), inflectionNote(line)};
+  LineParser parser(line);
+  std::vector<Piece> pieces = parser.pieces();
+  return {std::move(pieces), inflectionNote(line), parser.endsInCommand()};
 }
 
 std::u16string subjectText(const TranslationLine& line, Subject subject) {
@@ -218,8 +229,12 @@ std::optional<Entry> extractEntry(const SourceEntry& source) {
   Entry entry;
   entry.headword = std::move(*word);
   entry.important = source.important;
+  bool inCommand = false;
   for (const std::u16string& line : translationLines(text::toUtf16(source.translation))) {
+    // A description is continued by lines without a head.
+    if (inCommand && readHead(line, true).length == 0) continue;
     entry.lines.push_back(parseLine(line));
+    inCommand = entry.lines.back().endsInCommand;
     for (const Piece& piece : entry.lines.back().pieces) {
       if (const auto reference = referenceIn(piece)) entry.references.push_back(*reference);
     }

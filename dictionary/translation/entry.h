@@ -41,6 +41,8 @@ struct TranslationLine {
   std::vector<Piece> pieces;
   /// "apple的复数" if a note says so, otherwise "".
   std::u16string inflection;
+  /// Whether its last piece, which is left out, describes a command (describesCommand()).
+  bool endsInCommand = false;
 };
 
 /// Parses one line as translationLines() returns it: part-of-speech marks, subject tags and notes

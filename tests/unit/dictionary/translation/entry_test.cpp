@@ -195,6 +195,23 @@ TEST(ExtractEntry, TakesTitlesForText) {
             u"《汉堡规则》");
 }
 
+// copy, ATTRIB, EMM386.EXE, "more | [计] DOS外部命令:显示满屏后自动暂停, 并显示:"--More--",
+// 按任意键继续"
+TEST(ExtractEntry, LeavesOutWhatACommandDoes) {
+  const std::string copy =
+      "[计] 副本; 复制; DOS内部命令:复制文件\\n将几个文件合并成一个文件, 以及将文件传至外设\\nv. "
+      "复印";
+  EXPECT_EQ(wordsOf(copy), (Texts{u"副本", u"复制", u"复印"}));
+  EXPECT_EQ(subjectText(entryOf(copy).lines.at(0), Subject::kComputing), u"副本；复制");
+  EXPECT_EQ(wordsOf("[计] DOS外部命令:显示满屏后自动暂停, 并显示:\"--More--\", 按任意键继续"),
+            Texts());
+  EXPECT_EQ(wordsOf("[计] DOS外部命令:显示文件的属性\\n只读(R), 保存(A)等"), Texts());
+  EXPECT_EQ(wordsOf("[计] DOS设备驱动程序\\n该程序有两项功能"), Texts());
+  EXPECT_EQ(wordsOf("[计] DOS批处理命令:改变流程; 转到"), (Texts{u"转到"}));
+  EXPECT_EQ(wordsOf("[计] 光盘, 压缩盘, DOS内部命令:显示或改变当前目录"),
+            (Texts{u"光盘", u"压缩盘"}));
+}
+
 // cluttered
 TEST(ExtractEntry, EndsASenseAtATag) {
   EXPECT_EQ(

@@ -6,18 +6,6 @@ namespace {
 
 using dictionary::Subject;
 
-TEST(SplitExplanation, CutsOffWhatFollowsTheColon) {
-  const dictionary::Explained explained = dictionary::splitExplanation(u"拜药：乳香的一种");
-  EXPECT_EQ(explained.word, u"拜药");
-  EXPECT_TRUE(explained.explains);
-  EXPECT_EQ(dictionary::splitExplanation(u"表示：跑").word, u"跑");
-  EXPECT_EQ(dictionary::splitExplanation(u"人名：莎拉").word, u"莎拉");
-  EXPECT_EQ(dictionary::splitExplanation(u"道路：motordrome").word, u"道路");
-  EXPECT_FALSE(dictionary::splitExplanation(u"道路：motordrome").explains);
-  EXPECT_EQ(dictionary::splitExplanation(u"用3:1混合").word, u"用3:1混合");
-  EXPECT_EQ(dictionary::splitExplanation(u"甲(注：乙)丙").word, u"甲(注：乙)丙");
-}
-
 TEST(LeadingName, EndsWhereAnExplanationBegins) {
   EXPECT_EQ(dictionary::leadingName(u"巴克 Barker的变体"), u"巴克");
   EXPECT_EQ(dictionary::leadingName(u"塔隆来源于日耳曼语人名"), u"塔隆");
