@@ -42,18 +42,29 @@ bool endsLikePerson(std::u16string_view note) {
                              [&](std::u16string_view end) { return note.ends_with(end); });
 }
 
+/// Returns whether an explanation begins at `at`, or the name in its own letters after a blank.
+bool endsName(std::u16string_view piece, std::size_t at) {
+  const std::u16string_view rest = piece.substr(at);
+  const bool ownLetters =
+      at > 0 && rest.size() > 1 && rest[0] == u' ' && isHan(piece[at - 1]) && isLatin(rest[1]);
+  return ownLetters ||
+         std::ranges::any_of(kExplanations, [&](auto phrase) { return rest.starts_with(phrase); });
+}
+
 }  // namespace
 
 std::u16string_view leadingName(std::u16string_view piece) {
-  std::size_t end = piece.size();
-  for (const std::u16string_view explanation : kExplanations) {
-    end = std::min(end, piece.find(explanation));
+  for (std::size_t i = 0; i < piece.size(); ++i) {
+    const std::size_t close = openingBracket(piece[i]) == Bracket::kNone
+                                  ? std::u16string_view::npos
+                                  : closingPosition(piece, i);
+    if (close != std::u16string_view::npos) {
+      i = close;  // a note is taken out as a whole later
+    } else if (endsName(piece, i)) {
+      return piece.substr(0, i);
+    }
   }
-  // The name in its own letters follows after a blank. `end` ends the loop as well.
-  for (std::size_t i = 1; i + 1 < end; ++i) {
-    if (piece[i] == u' ' && isHan(piece[i - 1]) && isLatin(piece[i + 1])) end = i;
-  }
-  return piece.substr(0, end);
+  return piece;
 }
 
 SubjectSet namedByNote(std::u16string_view piece) {

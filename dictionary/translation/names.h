@@ -11,7 +11,7 @@ namespace dictionary {
 
 /// Returns the name at the beginning of a piece that then explains it without a separator:
 /// "巴克 Barker的变体" gives 巴克, "塔隆来源于日耳曼语人名" gives 塔隆. Returns the whole of a
-/// piece without such an explanation.
+/// piece without such an explanation, or with one in brackets only.
 std::u16string_view leadingName(std::u16string_view piece);
 
 /// Returns the subjects in notes after the name: "鲍曼（姓氏）" is a person, "青木（地名）" a

@@ -13,6 +13,17 @@ TEST(LeadingName, EndsWhereAnExplanationBegins) {
   EXPECT_EQ(dictionary::leadingName(u"埃格德"), u"埃格德");
 }
 
+// "Emmie | (英)埃米(女子教名Emma的昵称)", Kirsty, "Munroe | 芒罗（Munro的变体）（人名）"
+TEST(LeadingName, IsNotCutInsideBrackets) {
+  for (const std::u16string_view piece :
+       {u"(英)埃米(女子教名Emma的昵称)", u"(英)柯丝蒂(教名 Christiana、Katherine 的昵称)",
+        u"芒罗（Munro的变体）（人名）", u"弗兰（昵称 Fran）"}) {
+    EXPECT_EQ(dictionary::leadingName(piece), piece) << piece.size();
+  }
+  EXPECT_EQ(dictionary::leadingName(u"(英)埃米(女名)的昵称"), u"(英)埃米(女名)");
+  EXPECT_EQ(dictionary::leadingName(u"埃米(Emma的昵称"), u"埃米(Emma");
+}
+
 TEST(NamedByNote, ReturnsTheSubjectThatTheNoteNames) {
   EXPECT_EQ(dictionary::namedByNote(u"鲍曼（姓氏）"), setOf(Subject::kPerson));
   EXPECT_EQ(dictionary::namedByNote(u"约翰(男子名)"), setOf(Subject::kPerson));
