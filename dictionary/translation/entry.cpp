@@ -22,6 +22,7 @@
 #include "dictionary/translation/names.h"
 #include "dictionary/translation/part_of_speech.h"
 #include "dictionary/translation/pieces.h"
+#include "dictionary/translation/questions.h"
 #include "text/strings.h"
 #include "text/utf.h"
 
@@ -77,7 +78,8 @@ std::u16string notedText(std::u16string_view piece) {
     noted += cleanNote(piece.substr(i, close + 1 - i));
     i = close;
   }
-  if (!isIntact(withoutNotes(noted)) || hasMarkup(noted)) return {};
+  const std::u16string plain = withoutNotes(noted);
+  if (!isIntact(plain) || hasLostCharacterMark(plain) || hasMarkup(noted)) return {};
   return foldBlanks(noted);
 }
 

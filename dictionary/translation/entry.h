@@ -32,7 +32,7 @@ LineHead readHead(std::u16string_view text, bool shortTags);
 struct Piece {
   Equivalent equivalent;   ///< as a Chinese headword
   std::u16string noted;    ///< as a subject dictionary shows it, notes included; "" if unusable
-  char16_t separator = 0;  ///< ，；、！ before it, 0 for the first
+  char16_t separator = 0;  ///< ，；、！？ before it, 0 for the first
   SubjectSet subjects = 0;
 };
 

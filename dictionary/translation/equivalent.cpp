@@ -13,6 +13,7 @@
 
 #include "dictionary/source/characters.h"
 #include "dictionary/translation/brackets.h"
+#include "dictionary/translation/questions.h"
 
 namespace dictionary {
 namespace {
@@ -87,6 +88,18 @@ std::u16string_view trimmed(std::u16string_view text) {
   return text;
 }
 
+/// Removes a mark that the source has by mistake before the Chinese text: "+体育馆"; of a quotation
+/// mark without its counterpart also a letter after it: "\"F带武器的".
+std::u16string_view withoutStrayMark(std::u16string_view text) {
+  if (text.empty() || !isOneOf(text[0], u"+*`︽\"")) return text;
+  const std::size_t marks = std::min(text.find_first_not_of(text[0]), text.size());
+  const bool quote = text[0] == u'"';
+  if (quote && std::ranges::count(text, u'"') > 1) return text;
+  const std::size_t begin =
+      quote && marks + 1 < text.size() && isAsciiLetter(text[marks]) ? marks + 1 : marks;
+  return begin < text.size() && isHan(text[begin]) ? text.substr(begin) : text;
+}
+
 /// Removes the hyphen that a deleted note leaves at the beginning: "(Z)-丁烯酸".
 std::u16string_view withoutHyphen(std::u16string_view text) {
   const bool left =
@@ -151,7 +164,7 @@ std::u16string withoutChineseBlanks(std::u16string_view text) {
 
 /// The text of a piece as a Chinese headword is written, whether or not it can be one.
 std::u16string headwordText(std::u16string_view piece, bool abbreviation) {
-  const std::u16string plain = narrowed(curled(withoutNotes(piece)));
+  const std::u16string plain = narrowed(curled(withoutStrayMark(withoutNotes(piece))));
   const std::u16string bare = withoutQuotes(trimmed(plain));
   const std::u16string_view chinese =
       withoutHyphen(withoutTail(withoutExpansion(bare, abbreviation)));
@@ -238,7 +251,10 @@ std::string_view describe(PieceFault fault) {
 
 Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation) {
   std::u16string word = headwordText(piece, abbreviation);
-  const PieceFault fault = findFault(word);
+  PieceFault fault = findFault(word);
+  if (fault != PieceFault::kNoHan && hasLostCharacterMark(withoutNotes(piece))) {
+    fault = PieceFault::kLostCharacter;
+  }
   if (fault != PieceFault::kNone) word.clear();
   return {std::move(word), fault};
 }

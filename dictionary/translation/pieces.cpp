@@ -7,6 +7,7 @@
 #include "dictionary/source/characters.h"
 #include "dictionary/translation/brackets.h"
 #include "dictionary/translation/part_of_speech.h"
+#include "dictionary/translation/questions.h"
 #include "text/strings.h"
 
 namespace dictionary {
@@ -38,6 +39,9 @@ char16_t separatorAt(char16_t unit) {
     case u'!':
     case u'！':
       return u'！';
+    case u'?':
+    case u'？':
+      return u'？';
     default:
       return 0;
   }
@@ -52,13 +56,35 @@ bool isLocant(char16_t unit) {
 /// "N,N-二甲基". A letter before it and a part-of-speech mark after it are the end of one piece and
 /// the beginning of the next.
 bool joinsLocants(std::u16string_view text, std::size_t comma) {
-  if ((text[comma] != u',' && text[comma] != u'，') || comma == 0) return false;
+  if (comma == 0) return false;
   std::size_t next = comma + 1;
   if (isLatin(text[comma - 1]) && partOfSpeechLength(text.substr(next, kMaxMark)) > 0) return false;
   if (next < text.size() && text[next] == u' ' && isDigit(text[comma - 1])) {
     return next + 1 < text.size() && isDigit(text[next + 1]);
   }
   return next < text.size() && isLocant(text[comma - 1]) && isLocant(text[next]);
+}
+
+/// Returns whether the question mark at `mark` parts the question from `begin` on from further
+/// text. At the end of a piece it stays: a subject dictionary shows it.
+bool partsQuestions(std::u16string_view text, std::size_t begin, std::size_t mark) {
+  const std::u16string_view rest = text::trimBlanks(text.substr(mark + 1));
+  return !rest.empty() && (isHan(rest[0]) || rest[0] == u'.' || rest[0] == u'…') &&
+         isQuestion(text, begin, mark);
+}
+
+/// Returns whether the text from `begin` ends at the separator at `at`.
+bool separates(std::u16string_view text, std::size_t begin, std::size_t at) {
+  switch (separatorAt(text[at])) {
+    case 0:
+      return false;
+    case u'，':
+      return !joinsLocants(text, at);
+    case u'？':
+      return partsQuestions(text, begin, at);
+    default:
+      return true;
+  }
 }
 
 /// Returns whether another sense begins at `at` without a separator: after a Han character, with or
@@ -101,14 +127,13 @@ std::vector<RawPiece> splitPieces(std::u16string_view text) {
   };
   for (std::size_t i = 0; i < text.size();) {
     const std::size_t groupEnd = closedGroupEnd(text, i);
-    const char16_t separator = separatorAt(text[i]);
     if (groupEnd != std::u16string_view::npos) {
       i = groupEnd;
       continue;
     }
-    if (separator != 0 && !joinsLocants(text, i)) {
+    if (separates(text, begin, i)) {
       finish(i);
-      before = separator;
+      before = separatorAt(text[i]);
       begin = i + 1;
     } else if (runsIntoNextSense(text, i)) {
       finish(i);

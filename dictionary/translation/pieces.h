@@ -10,13 +10,14 @@ namespace dictionary {
 /// A part of a line between two separators, blanks trimmed, never empty.
 struct RawPiece {
   std::u16string_view text;
-  char16_t separator;  ///< ，；、！ before it, in its wide form; 0 for the first
+  char16_t separator;  ///< ，；、！？ before it, in its wide form; 0 for the first
 };
 
-/// Splits `text` at commas, semicolons, enumeration commas and exclamation marks, narrow or wide,
-/// outside brackets and quotation marks. A comma between digits or foreign letters ("2,4-二氯苯")
-/// is not a separator. A part-of-speech mark right after Chinese text begins a new piece, as if a
-/// semicolon preceded it. Takes time proportional to the length. The pieces refer into `text`.
+/// Splits `text` at commas, semicolons, enumeration commas, exclamation marks and the question
+/// marks between two questions, narrow or wide, outside brackets and quotation marks. A comma
+/// between digits or foreign letters ("2,4-二氯苯") is not a separator. A part-of-speech mark right
+/// after Chinese text begins a new piece, as if a semicolon preceded it. Takes time proportional to
+/// the length. The pieces refer into `text`.
 std::vector<RawPiece> splitPieces(std::u16string_view text);
 
 /// Returns "apple的复数" if a note in the line, "(apple的复数)", marks its headword as an

@@ -212,6 +212,12 @@ TEST(ExtractEntry, LeavesOutWhatACommandDoes) {
             (Texts{u"光盘", u"压缩盘"}));
 }
 
+// "cymene | [医] 对异丙基甲苯, ?花烃", "cui bono | <拉>何人得益？为何目的？"
+TEST(SubjectText, LeavesOutAQuestionMarkForALostCharacter) {
+  EXPECT_EQ(text(u"[医] 对异丙基甲苯, ?花烃", Subject::kMedicine), u"对异丙基甲苯");
+  EXPECT_EQ(text(u"[法] 何人得益？为何目的？", Subject::kLaw), u"何人得益？为何目的？");
+}
+
 // cluttered
 TEST(ExtractEntry, EndsASenseAtATag) {
   EXPECT_EQ(

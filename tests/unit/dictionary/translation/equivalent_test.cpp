@@ -82,12 +82,28 @@ TEST(MakeEquivalent, RefusesMoreThanTwentyCharacters) {
 TEST(MakeEquivalent, RefusesPunctuation) {
   for (const std::u16string_view piece :
        {u"甲(乙", u"乙)丙", u"甲“乙", u"10%溶液", u"甲_乙", u"甲*乙", u"甲\\乙", u"甲<乙",
-        u"甲。乙", u"&j压", u"+体育馆", u"甲？乙", u"G～希腊人", u"--见-able", u"甲=乙",
-        u"甲:乙"}) {
+        u"甲。乙", u"&j压", u"+1法师", u"G～希腊人", u"--见-able", u"甲=乙", u"甲:乙"}) {
     EXPECT_EQ(faultOf(piece), PieceFault::kPunctuation) << std::string(piece.begin(), piece.end());
   }
   EXPECT_EQ(faultOf(u"750～1258年"), PieceFault::kNone);
   EXPECT_EQ(faultOf(u"输入/输出"), PieceFault::kNone);
+}
+
+// "gym | n. +体育馆, 体育训练", "armed | [法] 武装的, 持械的, "F带武器的", "hashed |
+// （尤指电话上的）#号", Shavian, "coagency | n. "合作机构, 协作机构"
+TEST(MakeEquivalent, RemovesAStrayMarkBeforeChineseText) {
+  EXPECT_EQ(word(u"+体育馆"), u"体育馆");
+  EXPECT_EQ(word(u"\"F带武器的"), u"带武器的");
+  EXPECT_EQ(word(u"\"合作机构"), u"合作机构");
+  EXPECT_EQ(word(u"```萧伯纳(风格,作品)的"), u"萧伯纳的");
+  EXPECT_EQ(faultOf(u"（尤指电话上的）#号"), PieceFault::kPunctuation);
+  EXPECT_EQ(word(u"\"或\"操作"), u"“或”操作");
+}
+
+TEST(MakeEquivalent, RefusesAQuestionMarkForALostCharacter) {
+  EXPECT_EQ(faultOf(u"苯？唑"), PieceFault::kLostCharacter);
+  EXPECT_EQ(faultOf(u"树？"), PieceFault::kLostCharacter);
+  EXPECT_EQ(word(u"好吗?"), u"好吗");
 }
 
 TEST(MakeEquivalent, RefusesSubstitutesForLostCharacters) {

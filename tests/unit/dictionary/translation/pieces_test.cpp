@@ -24,13 +24,22 @@ TEST(SplitPieces, SplitsAtNarrowAndWideSeparators) {
   EXPECT_EQ(split(u""), Texts());
 }
 
+// "eh | interj. 啊!嗯!是吗?好吗?", "would you...? | 你能不能...?...可以吗?", ssx
+TEST(SplitPieces, SplitsBetweenQuestions) {
+  EXPECT_EQ(split(u"啊!嗯!是吗?好吗?"), (Texts{u"啊", u"嗯", u"是吗", u"好吗?"}));
+  EXPECT_EQ(split(u"你能不能...?...可以吗?"), (Texts{u"你能不能...", u"...可以吗?"}));
+  EXPECT_EQ(split(u"何人得益？ 为何目的？；[俚语]惩罚"),
+            (Texts{u"何人得益", u"为何目的？", u"[俚语]惩罚"}));
+  EXPECT_EQ(split(u"磺胺异？唑, 鼠？[产于北美]"), (Texts{u"磺胺异？唑", u"鼠？[产于北美]"}));
+}
+
 TEST(SplitPieces, ReturnsTheSeparatorBeforeEachPiece) {
-  const std::u16string text = u"甲,乙；丙、丁!戊";
+  const std::u16string text = u"甲,乙；丙、丁!戊吗?己";
   std::u16string separators;
   for (const dictionary::RawPiece& piece : dictionary::splitPieces(text)) {
     separators += piece.separator == 0 ? u'0' : piece.separator;
   }
-  EXPECT_EQ(separators, u"0，；、！");
+  EXPECT_EQ(separators, u"0，；、！？");
 }
 
 TEST(SplitPieces, DoesNotSplitInsideBracketsAndQuotes) {
