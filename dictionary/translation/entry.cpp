@@ -156,7 +156,9 @@ void LineParser::addPiece(const RawPiece& raw, char16_t next) {
 }
 
 std::vector<Piece> LineParser::pieces() {
-  const std::vector<RawPiece> raws = splitPieces(line_.substr(head_.length));
+  const bool law = (head_.subjects & setOf(Subject::kLaw)) != 0;
+  const std::vector<RawPiece> raws =
+      splitPieces(line_.substr(head_.length), law ? Colons::kAreCommas : Colons::kExplain);
   for (std::size_t i = 0; i < raws.size(); ++i) {
     addPiece(raws[i], i + 1 < raws.size() ? raws[i + 1].separator : u'\0');
   }

@@ -73,6 +73,13 @@ bool partsQuestions(std::u16string_view text, std::size_t begin, std::size_t mar
          isQuestion(text, begin, mark);
 }
 
+/// Returns whether the colon at `at` was typed for a comma: a narrow one between Han characters. An
+/// explanation has a wide one.
+bool isMistypedComma(std::u16string_view text, std::size_t at) {
+  return text[at] == u':' && at > 0 && at + 1 < text.size() && isHan(text[at - 1]) &&
+         isHan(text[at + 1]);
+}
+
 /// Returns whether the text from `begin` ends at the separator at `at`.
 bool separates(std::u16string_view text, std::size_t begin, std::size_t at) {
   switch (separatorAt(text[at])) {
@@ -116,7 +123,7 @@ bool isInflection(std::u16string_view note) {
 
 }  // namespace
 
-std::vector<RawPiece> splitPieces(std::u16string_view text) {
+std::vector<RawPiece> splitPieces(std::u16string_view text, Colons colons) {
   std::vector<RawPiece> pieces;
   std::size_t begin = 0;
   char16_t before = 0;
@@ -134,6 +141,10 @@ std::vector<RawPiece> splitPieces(std::u16string_view text) {
     if (separates(text, begin, i)) {
       finish(i);
       before = separatorAt(text[i]);
+      begin = i + 1;
+    } else if (colons == Colons::kAreCommas && isMistypedComma(text, i)) {
+      finish(i);
+      before = u'，';
       begin = i + 1;
     } else if (runsIntoNextSense(text, i)) {
       finish(i);

@@ -13,12 +13,16 @@ struct RawPiece {
   char16_t separator;  ///< ，；、！？ before it, in its wide form; 0 for the first
 };
 
+/// What a narrow colon between Han characters is: in lines of law it was typed for a comma
+/// ("邪恶的, 罪恶的:堕落的, 不合法的"); in others it introduces an explanation.
+enum class Colons { kExplain, kAreCommas };
+
 /// Splits `text` at commas, semicolons, enumeration commas, exclamation marks and the question
 /// marks between two questions, narrow or wide, outside brackets and quotation marks. A comma
 /// between digits or foreign letters ("2,4-二氯苯") is not a separator. A part-of-speech mark right
 /// after Chinese text begins a new piece, as if a semicolon preceded it. Takes time proportional to
 /// the length. The pieces refer into `text`.
-std::vector<RawPiece> splitPieces(std::u16string_view text);
+std::vector<RawPiece> splitPieces(std::u16string_view text, Colons colons);
 
 /// Returns "apple的复数" if a note in the line, "(apple的复数)", marks its headword as an
 /// inflected form; otherwise "".

@@ -218,6 +218,14 @@ TEST(SubjectText, LeavesOutAQuestionMarkForALostCharacter) {
   EXPECT_EQ(text(u"[法] 何人得益？为何目的？", Subject::kLaw), u"何人得益？为何目的？");
 }
 
+// residential
+TEST(ParseLine, TakesAColonInALineOfLawForAComma) {
+  const std::u16string line = u"[法] 有关居住的, 房产的:居所的, 适于居住的";
+  EXPECT_EQ(words(line), (Texts{u"有关居住的", u"房产的", u"居所的", u"适于居住的"}));
+  EXPECT_EQ(text(line, Subject::kLaw), u"有关居住的，房产的，居所的，适于居住的");
+  EXPECT_EQ(words(u"[化] 泡碱:氧化钠"), (Texts{u"泡碱"}));
+}
+
 // cluttered
 TEST(ExtractEntry, EndsASenseAtATag) {
   EXPECT_EQ(

@@ -7,11 +7,12 @@
 
 namespace {
 
+using dictionary::Colons;
 using Texts = std::vector<std::u16string>;
 
-Texts split(std::u16string_view text) {
+Texts split(std::u16string_view text, Colons colons = Colons::kExplain) {
   Texts texts;
-  for (const dictionary::RawPiece& piece : dictionary::splitPieces(text)) {
+  for (const dictionary::RawPiece& piece : dictionary::splitPieces(text, colons)) {
     texts.emplace_back(piece.text);
   }
   return texts;
@@ -36,10 +37,20 @@ TEST(SplitPieces, SplitsBetweenQuestions) {
 TEST(SplitPieces, ReturnsTheSeparatorBeforeEachPiece) {
   const std::u16string text = u"甲,乙；丙、丁!戊吗?己";
   std::u16string separators;
-  for (const dictionary::RawPiece& piece : dictionary::splitPieces(text)) {
+  for (const dictionary::RawPiece& piece : dictionary::splitPieces(text, Colons::kExplain)) {
     separators += piece.separator == 0 ? u'0' : piece.separator;
   }
   EXPECT_EQ(separators, u"0，；、！？");
+}
+
+// "presumable | [法] 可假定的:可推测的, 可推定的:可能的"
+TEST(SplitPieces, TakesColonsForCommasOnDemand) {
+  EXPECT_EQ(split(u"可假定的:可推测的, 可推定的:可能的", Colons::kAreCommas),
+            (Texts{u"可假定的", u"可推测的", u"可推定的", u"可能的"}));
+  EXPECT_EQ(split(u"可假定的:可推测的, 可推定的:可能的"),
+            (Texts{u"可假定的:可推测的", u"可推定的:可能的"}));
+  EXPECT_EQ(split(u"拉丁语：事实, 1:3, 乙:B, 甲:", Colons::kAreCommas),
+            (Texts{u"拉丁语：事实", u"1:3", u"乙:B", u"甲:"}));
 }
 
 TEST(SplitPieces, DoesNotSplitInsideBracketsAndQuotes) {
