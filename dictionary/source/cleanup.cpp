@@ -69,6 +69,21 @@ constexpr std::array kSubstitutes = {
     Substitute{0xE41F, u"踇"},   Substitute{0xE490, u"䏡"}, Substitute{0xE7AB, u"啰"},  // rale
 };
 
+/// Joins the halves of a word that was broken at a hyphen and a comma: "国际计算机-, 有限公司". A
+/// comma after a hyphen joins nothing else in Chinese text.
+std::u16string withoutBreaks(std::u16string_view line) {
+  constexpr std::u16string_view kBreak = u"-, ";
+  std::u16string joined;
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    const std::size_t next = i + kBreak.size();
+    const bool broken = i > 0 && line.substr(i).starts_with(kBreak) && next < line.size() &&
+                        isHan(line[i - 1]) && isHan(line[next]);
+    if (broken) i = next;
+    joined += line[i];
+  }
+  return joined;
+}
+
 /// A Cyrillic letter on its own is a substitute; next to another one it is a letter.
 bool insideCyrillicWord(std::u16string_view text, std::size_t position) {
   return isCyrillic(text[position]) &&
@@ -108,7 +123,8 @@ std::vector<std::u16string> translationLines(std::u16string_view translation) {
   const std::u16string plain = breakLines(markTitles(decodeEntities(translation)));
   for (std::size_t begin = 0; begin <= plain.size();) {
     const std::size_t end = std::min(plain.find(u'\n', begin), plain.size());
-    std::u16string line = foldBlanks(restoreSubstitutes(plain.substr(begin, end - begin)));
+    std::u16string line =
+        withoutBreaks(foldBlanks(restoreSubstitutes(plain.substr(begin, end - begin))));
     if (!line.empty() && !line.starts_with(kCitation)) lines.push_back(std::move(line));
     begin = end + 1;
   }

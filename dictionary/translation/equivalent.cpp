@@ -84,7 +84,7 @@ bool isOneOf(char16_t unit, std::u16string_view units) {
 
 std::u16string_view trimmed(std::u16string_view text) {
   while (!text.empty() && isOneOf(text.front(), u" …。.:=·,")) text.remove_prefix(1);
-  while (!text.empty() && isOneOf(text.back(), u" …。.!?:=·,-")) text.remove_suffix(1);
+  while (!text.empty() && isOneOf(text.back(), u" …。.!?:=·,-/")) text.remove_suffix(1);
   return text;
 }
 
@@ -100,10 +100,11 @@ std::u16string_view withoutStrayMark(std::u16string_view text) {
   return begin < text.size() && isHan(text[begin]) ? text.substr(begin) : text;
 }
 
-/// Removes the hyphen that a deleted note leaves at the beginning: "(Z)-丁烯酸".
+/// Removes the hyphen of a word element ("-皮") and the one that a deleted note leaves at the
+/// beginning: "(Z)-丁烯酸", "(Z)-Δ13-廿二碳烯酸".
 std::u16string_view withoutHyphen(std::u16string_view text) {
-  const bool left =
-      text.size() > 2 && text[0] == u'-' && (isHan(text[1]) || isDigit(text[1]) || text[1] == u' ');
+  const bool left = text.size() > 1 && text[0] == u'-' &&
+                    (isHan(text[1]) || isDigit(text[1]) || isGreek(text[1]) || text[1] == u' ');
   return left ? text.substr(text[1] == u' ' ? 2 : 1) : text;
 }
 
@@ -118,7 +119,8 @@ std::u16string withoutQuotes(std::u16string_view text) {
 }
 
 /// Removes the foreign words before a blank and the Chinese text: the expansion of an abbreviation
-/// ("National Gallery 国家美术馆"), or forms of the headword ("-dled, -dling 逃走").
+/// ("National Gallery 国家美术馆"), or forms of the headword ("-dled, -dling 逃走"). Words before
+/// 的 are what it refers to ("Black Sea 的古名"); of these only a part-of-speech mark is removed.
 std::u16string_view withoutExpansion(std::u16string_view text, bool abbreviation) {
   const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
   std::size_t length = 0;
@@ -127,6 +129,7 @@ std::u16string_view withoutExpansion(std::u16string_view text, bool abbreviation
   const auto blanks = std::ranges::count(foreign, u' ');
   const bool parted = foreign.ends_with(u' ') || (abbreviation && blanks > 1);
   if (length == text.size() || length < 2 || !isHan(text[length]) || !parted) return text;
+  if (text[length] == u'的') return text.substr(text.starts_with(u"v ") ? 2 : 0);
   const auto small = std::ranges::count_if(foreign, isSmall);
   const bool words =
       isLatin(foreign[0]) && small > 1 && (abbreviation || std::ranges::count(foreign, u' ') > 1);
@@ -157,7 +160,8 @@ std::u16string withoutChineseBlanks(std::u16string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool betweenForeign =
         i > 0 && i + 1 < text.size() && text[i - 1] < kAlphabetsEnd && text[i + 1] < kAlphabetsEnd;
-    if (text[i] != u' ' || betweenForeign) result += text[i];
+    const bool doubled = i + 1 < text.size() && text[i + 1] == u' ';
+    if (text[i] != u' ' || (betweenForeign && !doubled)) result += text[i];
   }
   return result;
 }
@@ -205,11 +209,18 @@ bool hasLooseEnds(std::u16string_view word) {
          word.find(u"--") != std::u16string_view::npos;
 }
 
-/// "见 -ion" refers to another entry; "的简写" is what remains after a foreign word is removed.
+/// What a note or a separator leaves of "ess [esse] 的复数", "by God! 的爱尔兰形式".
+constexpr std::array kForms = {u"简写"sv, u"缩写"sv,     u"变形"sv,     u"变体"sv,   u"复数"sv,
+                               u"形式"sv, u"过去分词"sv, u"现在分词"sv, u"过去式"sv, u"写法"sv};
+
+/// "见 -ion" refers to another entry, "的复数" is what remains after a foreign word is removed, and
+/// "dragon lady 的意思是" precedes an explanation.
 bool isReference(std::u16string_view word) {
   const bool elsewhere =
       word.size() > 1 && word[0] == u'见' && (isLatin(word[1]) || word[1] == u'-');
-  return elsewhere || word == u"的简写" || word == u"的缩写";
+  const bool form = std::ranges::any_of(kForms, [&](auto end) { return word.ends_with(end); });
+  const bool meaning = isLatin(word[0]) && word.ends_with(u"的意思是");
+  return elsewhere || (form && word.starts_with(u'的')) || meaning;
 }
 
 /// The first fault that applies, of those that a headword's text shows; kExplanation is given by

@@ -42,6 +42,12 @@ TEST(TranslationLines, CleansEachLine) {
   EXPECT_EQ(translationLines(u"<德> n. 甲"), (Lines{u"<德> n. 甲"}));
 }
 
+// "ICL | [计] 国际计算机-, 有限公司", "5'-, 3'-核苷酸" is no break
+TEST(TranslationLines, JoinsWhatWasBroken) {
+  EXPECT_EQ(translationLines(u"[计] 国际计算机-,  有限公司"), (Lines{u"[计] 国际计算机有限公司"}));
+  EXPECT_EQ(translationLines(u"甲-, B; 5'-, 乙; 甲-"), (Lines{u"甲-, B; 5'-, 乙; 甲-"}));
+}
+
 TEST(TranslationLines, DropsCitations) {
   EXPECT_EQ(translationLines(u"打脚的\\n以上来源于：《某某词典》"), (Lines{u"打脚的"}));
 }

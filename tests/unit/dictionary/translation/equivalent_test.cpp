@@ -67,6 +67,33 @@ TEST(MakeEquivalent, RemovesTheHyphenAfterADeletedNote) {
   EXPECT_EQ(word(u"2-(1-萘甲基)-咪唑啉"), u"2-(1-萘甲基)-咪唑啉");
 }
 
+// "cuti | [医]-皮", "brassidic acid | [化] 巴西烯酸; 反芜酸; (Z)-Δ13-廿二碳烯酸"
+TEST(MakeEquivalent, RemovesTheHyphenOfAWordElement) {
+  EXPECT_EQ(word(u"-皮"), u"皮");
+  EXPECT_EQ(word(u"(Z)-Δ13-廿二碳烯酸"), u"Δ13-廿二碳烯酸");
+  EXPECT_EQ(faultOf(u"-"), PieceFault::kNoHan);
+}
+
+// "allotransplanted | vt. 同种异基因个体移植 —／，æ-ləu'trænsplɑ:nt；-plænt／", "durno | [人名]
+// 杜尔诺/////"
+TEST(MakeEquivalent, RemovesMarksAtTheEnd) {
+  EXPECT_EQ(word(u"同种异基因个体移植 —／"), u"同种异基因个体移植");
+  EXPECT_EQ(word(u"杜尔诺/////"), u"杜尔诺");
+}
+
+// "Euxine Sea | Black Sea 的古名", "retrodden | v retread 的过去分词",
+// "esses | ess [esse] 的复数", "begorra | int. by God! 的爱尔兰形式"
+TEST(MakeEquivalent, KeepsTheWordThatAFormRefersTo) {
+  EXPECT_EQ(word(u"Black Sea 的古名"), u"Black Sea的古名");
+  EXPECT_EQ(word(u"v retread 的过去分词"), u"retread的过去分词");
+  EXPECT_EQ(word(u"ess [esse] 的复数"), u"ess的复数");
+  EXPECT_EQ(faultOf(u"[ similarity ]的复数形式"), PieceFault::kLabel);
+  EXPECT_EQ(faultOf(u"的爱尔兰形式"), PieceFault::kLabel);
+  EXPECT_EQ(word(u"的黎波里"), u"的黎波里");
+  EXPECT_EQ(faultOf(u"dragon lady 的意思是"), PieceFault::kLabel);
+  EXPECT_EQ(word(u"我的意思是"), u"我的意思是");
+}
+
 TEST(MakeEquivalent, RefusesTextWithoutHan) {
   EXPECT_EQ(faultOf(u"= bleak"), PieceFault::kNoHan);
   EXPECT_EQ(faultOf(u"(只有注释)"), PieceFault::kNoHan);
