@@ -112,13 +112,13 @@ class LineParser {
 /// it. `introduced`: the piece has a tag or note of its own, or begins the line.
 Equivalent LineParser::equivalentOf(std::u16string_view text, SubjectSet subjects,
                                     bool introduced) {
-  if (explaining_) return {u"", PieceFault::kExplanation};
+  if (explaining_) return {{}, PieceFault::kExplanation, {}};
   const Explained explained = splitExplanation(text);
   explaining_ = explained.explains;
   if ((subjects & kNameSubjects) == 0) return makeEquivalent(explained.word, head_.abbreviation);
   // After a tagged name, a piece without a tag or note of its own explains where the name is from.
   const bool isName = introduced || (head_.subjects & kNameSubjects) == 0;
-  if (!isName) return {u"", PieceFault::kExplanation};
+  if (!isName) return {{}, PieceFault::kExplanation, {}};
   return makeEquivalent(leadingName(explained.word), false);
 }
 
@@ -171,6 +171,29 @@ std::optional<std::u16string> referenceIn(const Piece& piece) {
   const std::u16string text = foldBlanks(withoutNotes(piece.noted));
   if (!text.starts_with(u'=') && !text.starts_with(u'＝')) return std::nullopt;
   return headword(std::u16string_view(text).substr(1));
+}
+
+/// Returns whether the general dictionary has something to show for the entry.
+bool hasMeaning(const Entry& entry) {
+  return !entry.references.empty() ||
+         std::ranges::any_of(entry.lines, [](const TranslationLine& line) {
+           return !line.inflection.empty() ||
+                  std::ranges::any_of(line.pieces, [](const Piece& piece) {
+                    return piece.equivalent.fault == PieceFault::kNone;
+                  });
+         });
+}
+
+/// Makes an equivalent of the first explanation that can serve as one.
+void useExplanation(Entry& entry) {
+  for (TranslationLine& line : entry.lines) {
+    for (Piece& piece : line.pieces) {
+      Equivalent& equivalent = piece.equivalent;
+      if (equivalent.explanation.empty()) continue;
+      equivalent = {std::move(equivalent.explanation), PieceFault::kNone, {}};
+      return;
+    }
+  }
 }
 
 }  // namespace
@@ -243,6 +266,7 @@ std::optional<Entry> extractEntry(const SourceEntry& source) {
       if (const auto reference = referenceIn(piece)) entry.references.push_back(*reference);
     }
   }
+  if (!hasMeaning(entry)) useExplanation(entry);
   return entry;
 }
 

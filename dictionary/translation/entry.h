@@ -64,7 +64,9 @@ struct Entry {
   std::vector<std::u16string> references;
 };
 
-/// Parses an entry of the source; nullopt if its word cannot be a headword (see headword()).
+/// Parses an entry of the source. The first piece that is only too long becomes the equivalent of
+/// an entry that would have none (Equivalent::explanation). Returns nullopt if its word cannot be a
+/// headword (see headword()).
 std::optional<Entry> extractEntry(const SourceEntry& source);
 
 }  // namespace dictionary

@@ -124,7 +124,7 @@ std::u16string withoutQuotes(std::u16string_view text) {
 std::u16string_view withoutExpansion(std::u16string_view text, bool abbreviation) {
   const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
   std::size_t length = 0;
-  while (length < text.size() && isForeign(text[length])) ++length;
+  while (length < text.size() && (isForeign(text[length]) || text[length] == u'′')) ++length;
   const std::u16string_view foreign = text.substr(0, length);
   const auto blanks = std::ranges::count(foreign, u' ');
   const bool parted = foreign.ends_with(u' ') || (abbreviation && blanks > 1);
@@ -175,9 +175,14 @@ std::u16string headwordText(std::u16string_view piece, bool abbreviation) {
   return withoutChineseBlanks(trimmed(chinese));
 }
 
-/// Characters of the longest Chinese headword; longer pieces are explanations. Named in describe()
-/// and in PieceFault.
-constexpr std::size_t kMaxWord = 20;
+/// Han characters of the longest Chinese headword; longer pieces are explanations. Foreign letters,
+/// digits and marks are not counted: names of compounds and foreign names have many. Named in
+/// describe() and in PieceFault.
+constexpr std::size_t kMaxHan = 20;
+/// Han characters of an explanation that may be the only equivalent of an entry.
+constexpr std::size_t kMaxExplanation = 30;
+/// Characters of any headword: the windows show some 40 in a line.
+constexpr std::size_t kMaxWord = 40;
 
 /// Words that translate nothing by themselves.
 constexpr std::array kLabels = {u"人名"sv, u"的"sv, u"亦作"sv, u"又作"sv, u"略作"sv};
@@ -191,6 +196,10 @@ bool isAllowed(char16_t unit) {
 }
 
 bool hasHan(std::u16string_view text) { return std::ranges::any_of(text, isHan); }
+
+std::size_t hanCount(std::u16string_view text) {
+  return static_cast<std::size_t>(std::ranges::count_if(text, isHan));
+}
 
 /// Returns whether `word` contains marks whose counterpart was deleted or lost: an unpaired bracket
 /// or quotation mark, a range without its beginning, a link without its first part; or is a suffix
@@ -230,7 +239,7 @@ PieceFault findFault(std::u16string_view word) {
   if (!isIntact(word)) return PieceFault::kLostCharacter;
   if (!std::ranges::all_of(word, isAllowed)) return PieceFault::kPunctuation;
   if (hasLooseEnds(word)) return PieceFault::kPunctuation;
-  if (word.size() > kMaxWord) return PieceFault::kTooLong;
+  if (word.size() > kMaxWord || hanCount(word) > kMaxHan) return PieceFault::kTooLong;
   if (isReference(word) || std::ranges::find(kLabels, word) != kLabels.end()) {
     return PieceFault::kLabel;
   }
@@ -247,7 +256,7 @@ std::string_view describe(PieceFault fault) {
     case PieceFault::kNoHan:
       return "no Han character";
     case PieceFault::kTooLong:
-      return "longer than 20 characters";
+      return "longer than 20 Han characters";
     case PieceFault::kPunctuation:
       return "punctuation left over";
     case PieceFault::kLostCharacter:
@@ -266,8 +275,11 @@ Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation) {
   if (fault != PieceFault::kNoHan && hasLostCharacterMark(withoutNotes(piece))) {
     fault = PieceFault::kLostCharacter;
   }
-  if (fault != PieceFault::kNone) word.clear();
-  return {std::move(word), fault};
+  if (fault == PieceFault::kNone) return {std::move(word), fault, {}};
+  const bool mayServe =
+      fault == PieceFault::kTooLong && word.size() <= kMaxWord && hanCount(word) <= kMaxExplanation;
+  if (!mayServe) word.clear();
+  return {{}, fault, std::move(word)};
 }
 
 bool isIntact(std::u16string_view text) {

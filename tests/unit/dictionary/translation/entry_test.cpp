@@ -226,6 +226,15 @@ TEST(ParseLine, TakesAColonInALineOfLawForAComma) {
   EXPECT_EQ(words(u"[化] 泡碱:氧化钠"), (Texts{u"泡碱"}));
 }
 
+// patio
+TEST(ExtractEntry, UsesAnExplanationWhereThereIsNothingElse) {
+  const std::string patio = "n. 屋子与花园之间的一片供晴天休息用的石砌空地";
+  EXPECT_EQ(wordsOf(patio), (Texts{u"屋子与花园之间的一片供晴天休息用的石砌空地"}));
+  EXPECT_EQ(wordsOf(patio + ", 露台"), (Texts{u"露台"}));
+  EXPECT_EQ(wordsOf(patio + "\\n= terrace"), Texts());
+  EXPECT_EQ(wordsOf("(patio 的复数) " + patio), Texts());
+}
+
 // cluttered
 TEST(ExtractEntry, EndsASenseAtATag) {
   EXPECT_EQ(

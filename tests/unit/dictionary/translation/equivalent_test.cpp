@@ -101,9 +101,26 @@ TEST(MakeEquivalent, RefusesTextWithoutHan) {
   EXPECT_EQ(faultOf(u"カツ"), PieceFault::kNoHan);
 }
 
-TEST(MakeEquivalent, RefusesMoreThanTwentyCharacters) {
+// "misunderstood | misunderstand的过去式和过去分词", "POWERPC | n.
+// IBM和Apple公司联合生产的个人台式机", "YWCAs | Young Women's Christian Association 基督教女青年会"
+TEST(MakeEquivalent, RefusesMoreThanTwentyHanCharacters) {
   EXPECT_EQ(faultOf(std::u16string(20, u'长')), PieceFault::kNone);
   EXPECT_EQ(faultOf(std::u16string(21, u'长')), PieceFault::kTooLong);
+  EXPECT_EQ(word(u"misunderstand的过去式和过去分词"), u"misunderstand的过去式和过去分词");
+  EXPECT_EQ(word(u"IBM和Apple公司联合生产的个人台式机"), u"IBM和Apple公司联合生产的个人台式机");
+  EXPECT_EQ(word(u"Young Women's Christian Association 基督教女青年会"), u"基督教女青年会");
+  EXPECT_EQ(faultOf(std::u16string(39, u'a') + u"长"), PieceFault::kNone);
+  EXPECT_EQ(faultOf(std::u16string(40, u'a') + u"长"), PieceFault::kTooLong);
+}
+
+TEST(MakeEquivalent, ReturnsAnExplanationOfUpToThirtyHanCharacters) {
+  const auto explanation = [](std::size_t length) {
+    return dictionary::makeEquivalent(std::u16string(length, u'长'), false).explanation.size();
+  };
+  EXPECT_EQ(explanation(20), 0U);
+  EXPECT_EQ(explanation(21), 21U);
+  EXPECT_EQ(explanation(30), 30U);
+  EXPECT_EQ(explanation(31), 0U);
 }
 
 TEST(MakeEquivalent, RefusesPunctuation) {
