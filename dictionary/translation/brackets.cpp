@@ -28,6 +28,13 @@ Bracket kindAt(std::size_t index) {
   return index < kFirstAngle ? Bracket::kSquare : Bracket::kAngle;
 }
 
+/// Returns whether the bracket at `at` was typed twice and closes once: "印锑（（秘鲁货币单位）".
+bool isDoubled(std::u16string_view text, std::size_t at) {
+  return at + 1 < text.size() && openingBracket(text[at]) != Bracket::kNone &&
+         text[at + 1] == text[at] && closingPosition(text, at) == std::u16string_view::npos &&
+         closingPosition(text, at + 1) != std::u16string_view::npos;
+}
+
 /// "III" in 四氯合金(III)酸钾.
 bool isValence(std::u16string_view content) {
   return !content.empty() && content.find_first_not_of(u"IVX") == std::u16string_view::npos;
@@ -92,6 +99,7 @@ std::size_t quotationEnd(std::u16string_view text, std::size_t open) {
 std::u16string withoutNotes(std::u16string_view text) {
   std::u16string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
+    if (isDoubled(text, i)) continue;
     const std::size_t close = openingBracket(text[i]) == Bracket::kNone ? std::u16string_view::npos
                                                                         : closingPosition(text, i);
     if (close == std::u16string_view::npos) {

@@ -25,7 +25,8 @@ std::size_t closingPosition(std::u16string_view text, std::size_t open);
 std::size_t quotationEnd(std::u16string_view text, std::size_t open);
 
 /// Returns `text` without its bracketed notes. Brackets that are part of a chemical name are kept
-/// ("苯并[c]呋喃", "2-(1-萘甲基)-咪唑啉", "四氯合金(III)酸钾"), and so is one that does not close.
+/// ("苯并[c]呋喃", "2-(1-萘甲基)-咪唑啉", "四氯合金(III)酸钾"), and so is one that does not close,
+/// except for the first of two that close once.
 std::u16string withoutNotes(std::u16string_view text);
 
 }  // namespace dictionary

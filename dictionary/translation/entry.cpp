@@ -105,6 +105,7 @@ class LineParser {
   SubjectSet current_;       ///< subjects of pieces without a tag of their own
   bool explaining_ = false;  ///< whether an explanation began since the last semicolon
   bool command_ = false;     ///< whether the description of a command did
+  bool life_ = false;        ///< whether the rest of the line tells a person's life
   std::vector<Piece> pieces_;
 };
 
@@ -112,7 +113,19 @@ class LineParser {
 /// it. `introduced`: the piece has a tag or note of its own, or begins the line.
 Equivalent LineParser::equivalentOf(std::u16string_view text, SubjectSet subjects,
                                     bool introduced) {
-  if (explaining_) return {{}, PieceFault::kExplanation, {}};
+  const std::size_t life = pieces_.empty() ? std::u16string_view::npos : lifePosition(text);
+  const bool firstName = life != std::u16string_view::npos;
+  // The bracket before a life often does not close.
+  life_ = life_ || (firstName && closingPosition(text, life) == std::u16string_view::npos);
+  const std::u16string_view name = nameBeforeYears(text);
+  const bool withYears = !name.empty();
+  if (firstName || life_ || explainsName(text) || (explaining_ && !withYears)) {
+    return {{}, PieceFault::kExplanation, {}};
+  }
+  if (withYears) {
+    explaining_ = true;
+    return makeEquivalent(name, false);
+  }
   const Explained explained = splitExplanation(text);
   explaining_ = explained.explains;
   if ((subjects & kNameSubjects) == 0) return makeEquivalent(explained.word, head_.abbreviation);
@@ -151,8 +164,14 @@ void LineParser::addPiece(const RawPiece& raw, char16_t next) {
   piece.separator = pieces_.empty() ? u'\0' : raw.separator;
   piece.subjects = (head.subjects != 0 ? head.subjects : current_) | named;
   piece.noted = notedText(noted);
-  piece.equivalent = equivalentOf(text, piece.subjects, introduced);
-  pieces_.push_back(std::move(piece));
+  const std::u16string_view quoted = quotedMeaning(text);
+  if (quoted.empty()) piece.equivalent = equivalentOf(text, piece.subjects, introduced);
+  // The first of several equivalents in one quotation carries the text for a subject dictionary.
+  for (const RawPiece& part : splitPieces(quoted, Colons::kExplain)) {
+    piece.equivalent = makeEquivalent(part.text, false);
+    pieces_.push_back(std::exchange(piece, {{}, {}, u'，', piece.subjects}));
+  }
+  if (quoted.empty()) pieces_.push_back(std::move(piece));
 }
 
 std::vector<Piece> LineParser::pieces() {

@@ -64,6 +64,46 @@ std::u16string_view withoutClosingLabel(std::u16string_view word) {
   return word;
 }
 
+/// Returns whether a quoted meaning may end before `rest`: before 之义, an example, a note or
+/// nothing.
+bool endsMeaning(std::u16string_view rest) {
+  constexpr std::array kTails = {u"之义"sv, u"之意"sv, u"等义"sv};
+  return rest.empty() || isColon(rest[0]) || rest[0] == u' ' ||
+         openingBracket(rest[0]) != Bracket::kNone ||
+         std::ranges::any_of(kTails, [&](auto tail) { return rest.starts_with(tail); });
+}
+
+/// Beginnings of pieces that tell what a name means.
+constexpr std::array kNameMeanings = {u"含义是"sv, u"涵义是"sv, u"含意是"sv, u"原意为"sv,
+                                      u"原意是"sv};
+
+/// What may follow the years of a life without a comma: a profession.
+constexpr std::array kProfessions = {u"家"sv, u"诗人"sv, u"将领"sv};
+
+/// "1844-1910", with any kind of dash; a year may be uncertain ("1440？").
+bool isLife(std::u16string_view note) {
+  constexpr std::size_t kYear = 4;
+  constexpr std::u16string_view kDashes = u"-–—－~～";
+  const auto beginsWithYear = [](std::u16string_view text) {
+    return text.size() >= kYear && std::ranges::all_of(text.substr(0, kYear), isDigit);
+  };
+  if (!beginsWithYear(note)) return false;
+  note.remove_prefix(kYear);
+  if (note.starts_with(u'?') || note.starts_with(u'？')) note.remove_prefix(1);
+  if (note.empty() || kDashes.find(note[0]) == std::u16string_view::npos) return false;
+  return beginsWithYear(note.substr(1)) && note.size() == 1 + kYear;
+}
+
+/// Index of the bracket before the years of a life; npos if there is none.
+std::size_t yearsPosition(std::u16string_view piece) {
+  for (std::size_t i = 0; i < piece.size(); ++i) {
+    if (openingBracket(piece[i]) != Bracket::kRound) continue;
+    const std::size_t close = closingPosition(piece, i);
+    if (close != std::u16string_view::npos && isLife(piece.substr(i + 1, close - i - 1))) return i;
+  }
+  return std::u16string_view::npos;
+}
+
 }  // namespace
 
 Explained splitExplanation(std::u16string_view piece) {
@@ -77,6 +117,47 @@ Explained splitExplanation(std::u16string_view piece) {
 
 bool describesCommand(std::u16string_view piece) {
   return contains(kCommandLabels, piece.substr(0, colonPosition(piece)));
+}
+
+std::u16string_view quotedMeaning(std::u16string_view piece) {
+  for (const std::u16string_view verb : {u"表示"sv, u"意为"sv}) {
+    if (!piece.starts_with(verb) || piece.size() == verb.size()) continue;
+    const std::u16string_view quoted = piece.substr(verb.size());
+    // Straight quotation marks are their own counterpart.
+    const std::size_t end = quoted[0] == u'"' ? quoted.find(u'"', 1) + 1 : quotationEnd(quoted, 0);
+    if (end > 2 && end <= quoted.size() && endsMeaning(quoted.substr(end))) {
+      return quoted.substr(1, end - 2);
+    }
+  }
+  return {};
+}
+
+bool explainsName(std::u16string_view piece) {
+  return std::ranges::any_of(kNameMeanings, [&](auto begin) { return piece.starts_with(begin); });
+}
+
+std::size_t lifePosition(std::u16string_view piece) {
+  for (std::size_t i = 1; i + 2 < piece.size(); ++i) {
+    const bool twice = openingBracket(piece[i]) == Bracket::kRound &&
+                       openingBracket(piece[i + 1]) == Bracket::kRound;
+    const std::u16string_view life = piece.substr(i + 2);
+    if (twice && (isDigit(life[0]) || life.starts_with(u"生于"))) return i;
+  }
+  return std::u16string_view::npos;
+}
+
+std::u16string_view nameBeforeYears(std::u16string_view piece) {
+  const std::size_t life = yearsPosition(piece);
+  if (life == std::u16string_view::npos) return {};
+  const std::u16string_view rest = piece.substr(closingPosition(piece, life) + 1);
+  const bool profession =
+      std::ranges::any_of(kProfessions, [&](auto word) { return rest.ends_with(word); });
+  if (!rest.empty() && !profession) return {};
+  std::u16string_view name = piece.substr(0, life);
+  name.remove_prefix(
+      name.size() -
+      static_cast<std::size_t>(std::find_if(name.rbegin(), name.rend(), isLatin) - name.rbegin()));
+  return name.substr(std::min(name.find_first_not_of(u" .,"), name.size()));
 }
 
 }  // namespace dictionary

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 /// Explanations and labels in a piece, which translate nothing: "拜药：乳香的一种",
@@ -22,5 +23,21 @@ Explained splitExplanation(std::u16string_view piece);
 /// Returns whether the piece says what a command or driver of DOS does, "DOS内部命令:复制文件", or
 /// only that the word is one.
 bool describesCommand(std::u16string_view piece);
+
+/// Returns what stands between the quotation marks of "表示“水, 波浪”之义" or "意为“解热剂”", which
+/// translates a word element; "" if the piece does not begin so.
+std::u16string_view quotedMeaning(std::u16string_view piece);
+
+/// Returns whether the piece tells what a name means ("含义是“愉快的保护”").
+bool explainsName(std::u16string_view piece);
+
+/// Returns the index of the bracket after the first name of a person whose life begins there: "约翰
+/// ((1906-1984) 英国诗人". The surname is the piece before. Returns npos for any other piece.
+std::size_t lifePosition(std::u16string_view piece);
+
+/// Returns the name in a piece that has the years of a person's life behind it, without
+/// anything in foreign letters before it: "Hanri 卢梭(1844-1910)", "麦克道尔(1818-1885)美国将领".
+/// Returns "" for any other piece. Pieces after it, up to the next semicolon, describe the person.
+std::u16string_view nameBeforeYears(std::u16string_view piece);
 
 }  // namespace dictionary

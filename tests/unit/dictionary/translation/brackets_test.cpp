@@ -11,6 +11,13 @@ TEST(WithoutNotes, DeletesBracketedNotes) {
   EXPECT_EQ(dictionary::withoutNotes(u"甲)乙"), u"甲)乙");
 }
 
+// "inti | n. 印锑（（秘鲁货币单位）"
+TEST(WithoutNotes, TakesABracketTypedTwiceForOne) {
+  EXPECT_EQ(dictionary::withoutNotes(u"印锑（（秘鲁货币单位）"), u"印锑");
+  EXPECT_EQ(dictionary::withoutNotes(u"甲((乙)丙)丁"), u"甲丁");
+  EXPECT_EQ(dictionary::withoutNotes(u"甲((乙"), u"甲((乙");
+}
+
 TEST(WithoutNotes, KeepsBracketsOfChemicalNames) {
   EXPECT_EQ(dictionary::withoutNotes(u"苯并[c]呋喃酮"), u"苯并[c]呋喃酮");
   EXPECT_EQ(dictionary::withoutNotes(u"茚并[1,2-b]吲哚"), u"茚并[1,2-b]吲哚");

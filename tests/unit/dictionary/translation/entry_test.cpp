@@ -235,6 +235,24 @@ TEST(ExtractEntry, UsesAnExplanationWhereThereIsNothingElse) {
   EXPECT_EQ(wordsOf("(patio 的复数) " + patio), Texts());
 }
 
+// und; -merism
+TEST(ParseLine, DividesAQuotedMeaning) {
+  EXPECT_EQ(words(u"comb. 表示“水, 波浪”"), (Texts{u"水", u"波浪"}));
+  EXPECT_EQ(text(u"[医] 表示“水, 波浪”之义; 浪", Subject::kMedicine), u"表示“水, 波浪”之义；浪");
+}
+
+// Rousseau, Zola, betjeman, beuys, Eamon
+TEST(ParseLine, LeavesOutWhatTellsALife) {
+  EXPECT_EQ(words(u"Hanri 卢梭(1844-1910), 法国画家, Pierre 卢梭(1812-1867), 法国风景画家; 卢梭"),
+            (Texts{u"卢梭", u"卢梭", u"卢梭"}));
+  EXPECT_EQ(words(u"左拉(1840-1902), 法国作家, 小说家"), (Texts{u"左拉"}));
+  EXPECT_EQ(words(u"贝杰曼; 约翰((1906-1984) 英国诗人; 其作品常有怀旧情绪"), (Texts{u"贝杰曼"}));
+  EXPECT_EQ(words(u"博伊于斯, 约瑟夫((1921-1986) 德国艺术家); [电影]波依斯"),
+            (Texts{u"博伊于斯", u"波依斯"}));
+  EXPECT_EQ(words(u"埃蒙（男子名, 爱尔兰语）, 含义是“愉快的保护”（happy protection）"),
+            (Texts{u"埃蒙"}));
+}
+
 // cluttered
 TEST(ExtractEntry, EndsASenseAtATag) {
   EXPECT_EQ(

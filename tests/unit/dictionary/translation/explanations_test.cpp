@@ -47,4 +47,38 @@ TEST(DescribesCommand, KnowsTheLabels) {
   }
 }
 
+// "und | comb. 表示“水, 波浪”", "Mc- | 意为“麦当劳式的”", "alack | int. 表示“忧伤,惊恐”的感叹词"
+TEST(QuotedMeaning, IsTheMeaningOfAWordElement) {
+  EXPECT_EQ(dictionary::quotedMeaning(u"表示“水, 波浪”"), u"水, 波浪");
+  EXPECT_EQ(dictionary::quotedMeaning(u"表示“薄片, 鳃瓣”之义"), u"薄片, 鳃瓣");
+  EXPECT_EQ(dictionary::quotedMeaning(u"表示“分裂”：karyokinesis"), u"分裂");
+  EXPECT_EQ(dictionary::quotedMeaning(u"表示\"腹(部)\""), u"腹(部)");
+  EXPECT_EQ(dictionary::quotedMeaning(u"意为“麦当劳式的”"), u"麦当劳式的");
+  for (const std::u16string_view piece : {u"表示“忧伤, 惊恐”的感叹词", u"表示同意", u"表示",
+                                          u"表示“水", u"表示“”", u"用以表示“水”", u"表示\"水"}) {
+    EXPECT_EQ(dictionary::quotedMeaning(piece), u"") << piece.size();
+  }
+}
+
+// "Rousseau | Hanri 卢梭(1844-1910), 法国原始派风格画家", "boiardo |
+// 博亚尔多，马泰奥·玛丽((1440？-1494) …", "assignat | n. 法国大革命时期(1789-1796)发行的纸币"
+TEST(NameBeforeYears, IsTheNameOfAPerson) {
+  EXPECT_EQ(dictionary::nameBeforeYears(u"Jean Jacques 卢梭(1712-1778)"), u"卢梭");
+  EXPECT_EQ(dictionary::nameBeforeYears(u"梅尔巴(女子名) Nellie 内利梅抱(1861-1931)澳大利亚歌唱家"),
+            u"内利梅抱");
+  EXPECT_EQ(dictionary::nameBeforeYears(u"兰费朗克(1005?～1089)"), u"兰费朗克");
+  for (const std::u16string_view piece :
+       {u"法国大革命时期(1789-1796)发行的纸币", u"梅塔斯塔齐奥(1698)", u"射线(2700-3020埃)", u"甲",
+        u"(1789-1794 年流行的)短上衣"}) {
+    EXPECT_EQ(dictionary::nameBeforeYears(piece), u"") << piece.size();
+  }
+}
+
+TEST(LifePosition, IsBehindTheFirstName) {
+  EXPECT_EQ(dictionary::lifePosition(u"约翰((1906-1984) 英国诗人"), 2U);
+  EXPECT_EQ(dictionary::lifePosition(u"卡里姆（（生于 1947） 美国篮球运动员"), 3U);
+  EXPECT_EQ(dictionary::lifePosition(u"印锑（（秘鲁货币单位）"), std::u16string_view::npos);
+  EXPECT_EQ(dictionary::lifePosition(u"约翰(1906-1984)"), std::u16string_view::npos);
+}
+
 }  // namespace
