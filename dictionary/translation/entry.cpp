@@ -51,6 +51,9 @@ std::size_t strayLength(std::u16string_view text, bool afterNote) {
   return partOfSpeechLength(text.substr(length)) > 0 ? length : 0;
 }
 
+/// A tag of two meanings: readHead() tells them apart.
+constexpr std::u16string_view kPrintingOrIndian = u"印";
+
 /// Subjects whose lines do so in their pieces as well.
 constexpr SubjectSet kLongTagsOnly = setOf(Subject::kMedicine);
 
@@ -87,7 +90,7 @@ std::u16string notedText(std::u16string_view piece) {
 class LineParser {
  public:
   explicit LineParser(std::u16string_view line)
-      : line_(line), head_(readHead(line, true)), current_(head_.subjects) {}
+      : line_(line), head_(readHead(line, true, false)), current_(head_.subjects) {}
 
   std::vector<Piece> pieces();
 
@@ -138,7 +141,8 @@ Equivalent LineParser::equivalentOf(std::u16string_view text, SubjectSet subject
 void LineParser::addPiece(const RawPiece& raw, char16_t next) {
   // The first piece has the head of the line, which pieces() has cut off already.
   const bool first = raw.separator == 0;
-  const LineHead head = first ? head_ : readHead(raw.text, (head_.subjects & kLongTagsOnly) == 0);
+  const LineHead head =
+      first ? head_ : readHead(raw.text, (head_.subjects & kLongTagsOnly) == 0, head_.marked);
   const std::u16string_view text = first ? raw.text : raw.text.substr(head.length);
   const std::u16string noted = head.notes + std::u16string(text);
   // A piece that only announces names sets the subject of those after it and is not kept: before a
@@ -217,8 +221,9 @@ void useExplanation(Entry& entry) {
 
 }  // namespace
 
-LineHead readHead(std::u16string_view text, bool shortTags) {
+LineHead readHead(std::u16string_view text, bool shortTags, bool marked) {
   LineHead head;
+  head.marked = marked;
   std::size_t position = 0;
   bool afterNote = false;
   for (;;) {
@@ -229,7 +234,9 @@ LineHead readHead(std::u16string_view text, bool shortTags) {
     const std::size_t skipped = std::max(partOfSpeechLength(rest), strayLength(rest, afterNote));
     if (skipped > 0) {
       position += skipped;
-      head.abbreviation = head.abbreviation || rest.starts_with(u"abbr");
+      const bool abbreviation = rest.starts_with(u"abbr");
+      head.abbreviation = head.abbreviation || abbreviation;
+      head.marked = head.marked || !abbreviation;
       continue;
     }
     const Bracket kind = openingBracket(text[position]);
@@ -241,7 +248,8 @@ LineHead readHead(std::u16string_view text, bool shortTags) {
     const std::u16string_view tag =
         text::trimBlanks(text.substr(position + 1, close - position - 1));
     const bool mayBeTag = kind == Bracket::kSquare && (shortTags || tag.size() > 1) &&
-                          (tag.size() > 1 || (head.subjects & kNoShortTagsAfter) == 0);
+                          (tag.size() > 1 || (head.subjects & kNoShortTagsAfter) == 0) &&
+                          (head.marked || tag != kPrintingOrIndian);
     const SubjectSet subjects = mayBeTag ? subjectsOfTag(tag) : 0;
     if (subjects == 0) head.notes += text.substr(position, close + 1 - position);
     head.subjects |= subjects;
@@ -278,7 +286,7 @@ std::optional<Entry> extractEntry(const SourceEntry& source) {
   bool inCommand = false;
   for (const std::u16string& line : translationLines(text::toUtf16(source.translation))) {
     // A description is continued by lines without a head.
-    if (inCommand && readHead(line, true).length == 0) continue;
+    if (inCommand && readHead(line, true, false).length == 0) continue;
     entry.lines.push_back(parseLine(line));
     inCommand = entry.lines.back().endsInCommand;
     for (const Piece& piece : entry.lines.back().pieces) {

@@ -21,12 +21,15 @@ struct LineHead {
   SubjectSet subjects = 0;    ///< of its subject tags
   std::u16string notes;       ///< its other bracketed notes, unchanged
   bool abbreviation = false;  ///< whether it marks the word as an abbreviation
+  bool marked = false;        ///< whether it has any other part-of-speech mark
 };
 
 /// Reads part-of-speech marks, subject tags and notes at the beginning of `text`, in any order and
 /// number. If `shortTags` is false, tags of one character count as notes: medical lines enclose
-/// optional characters in the same brackets ("腹[部]").
-LineHead readHead(std::u16string_view text, bool shortTags);
+/// optional characters in the same brackets ("腹[部]"). `marked`: the line has a part-of-speech
+/// mark before `text`. Without one, "[印]" means Indian English ("[印]骑兵"), with one printing
+/// ("n. [印] 铝版术").
+LineHead readHead(std::u16string_view text, bool shortTags, bool marked);
 
 /// One of the equivalents that a line of a translation lists.
 struct Piece {

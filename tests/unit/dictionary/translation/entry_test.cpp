@@ -45,19 +45,21 @@ Texts wordsOf(const std::string& translation) {
 }
 
 TEST(ReadHead, ReadsMarksTagsAndNotes) {
-  const dictionary::LineHead head = dictionary::readHead(u"(data 的复数) n. [计] 数据", true);
+  const dictionary::LineHead head =
+      dictionary::readHead(u"(data 的复数) n. [计] 数据", true, false);
   EXPECT_EQ(head.subjects, setOf(Subject::kComputing));
   EXPECT_EQ(head.notes, u"(data 的复数)");
   EXPECT_FALSE(head.abbreviation);
-  EXPECT_TRUE(dictionary::readHead(u"abbr. [计] 甲", true).abbreviation);
+  EXPECT_TRUE(dictionary::readHead(u"abbr. [计] 甲", true, false).abbreviation);
 }
 
 TEST(ReadHead, ReadsSeveralTags) {
-  EXPECT_EQ(dictionary::readHead(u"n. [数][天] 横坐标", true).subjects,
+  EXPECT_EQ(dictionary::readHead(u"n. [数][天] 横坐标", true, false).subjects,
             setOf(Subject::kMathematics) | setOf(Subject::kPhysics));
-  EXPECT_EQ(dictionary::readHead(u"[计][修]逐块", true).subjects, setOf(Subject::kComputing));
-  EXPECT_EQ(dictionary::readHead(u"【动物学】甲", true).subjects, setOf(Subject::kZoology));
-  EXPECT_EQ(dictionary::readHead(u"〔植〕甲", true).subjects, setOf(Subject::kBotany));
+  EXPECT_EQ(dictionary::readHead(u"[计][修]逐块", true, false).subjects,
+            setOf(Subject::kComputing));
+  EXPECT_EQ(dictionary::readHead(u"【动物学】甲", true, false).subjects, setOf(Subject::kZoology));
+  EXPECT_EQ(dictionary::readHead(u"〔植〕甲", true, false).subjects, setOf(Subject::kBotany));
 }
 
 TEST(ParseLine, SkipsStrayMarksBeforeAPartOfSpeech) {
@@ -251,6 +253,17 @@ TEST(ParseLine, LeavesOutWhatTellsALife) {
             (Texts{u"博伊于斯", u"波依斯"}));
   EXPECT_EQ(words(u"埃蒙（男子名, 爱尔兰语）, 含义是“愉快的保护”（happy protection）"),
             (Texts{u"埃蒙"}));
+}
+
+// sowar, arna; aluminography, reglet, "ntc | abbr. [印]国家纺织公司"
+TEST(ReadHead, TellsIndianEnglishFromPrinting) {
+  EXPECT_EQ(text(u"[印]骑兵, 传令骑兵", Subject::kLightIndustry), u"");
+  EXPECT_EQ(text(u"(sowar 的复数) [印]骑兵", Subject::kLightIndustry), u"");
+  EXPECT_EQ(text(u"abbr. [印]国家纺织公司", Subject::kLightIndustry), u"");
+  EXPECT_EQ(words(u"[印]骑兵, 传令骑兵"), (Texts{u"骑兵", u"传令骑兵"}));
+  EXPECT_EQ(text(u"n. [印]铝版术", Subject::kLightIndustry), u"铝版术");
+  EXPECT_EQ(text(u"n. 平条, 扁条, [印] (排版用)木嵌条", Subject::kLightIndustry),
+            u"(排版用)木嵌条");
 }
 
 // cluttered
