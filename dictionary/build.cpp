@@ -10,8 +10,10 @@
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "dictionary/arrange/block_packing.h"
+#include "dictionary/arrange/short_forms.h"
 #include "dictionary/arrange/tables.h"
 #include "dictionary/arrange/vocabulary.h"
 #include "dictionary/check/check.h"
@@ -47,10 +49,13 @@ class Builder {
   void reportBadLine(const SourceReader& reader);
   void reportFurtherBadLines();
   void addEntry(const SourceEntry& source);
+  void addParsed(const Entry& entry);
 
   std::ostream& log_;
   Progress progress_;
   BuildReport report_;
+  ShortForms shortForms_;
+  std::vector<Entry> withShortForms_;  ///< wait until all words are known
   PairCollector pairs_;
   SubjectCollector subjects_;
   DatabaseContent content_;
@@ -76,13 +81,22 @@ void Builder::reportFurtherBadLines() {
 }
 
 void Builder::addEntry(const SourceEntry& source) {
-  const std::optional<Entry> entry = extractEntry(source);
+  std::optional<Entry> entry = extractEntry(source);
   if (!entry) {
     report_.addBadHeadword();
     return;
   }
-  report_.addEntry(*entry, pairs_.add(*entry));
-  subjects_.add(*entry);
+  shortForms_.record(*entry);
+  if (hasShortForm(*entry)) {
+    withShortForms_.push_back(std::move(*entry));
+  } else {
+    addParsed(*entry);
+  }
+}
+
+void Builder::addParsed(const Entry& entry) {
+  report_.addEntry(entry, pairs_.add(entry));
+  subjects_.add(entry);
 }
 
 void Builder::readSource(std::istream& stream) {
@@ -99,6 +113,12 @@ void Builder::readSource(std::istream& stream) {
     if (++entries % kProgressStep == 0) progress_.report(grouped(entries) + " entries so far");
   }
   reportFurtherBadLines();
+  for (Entry& entry : withShortForms_) {
+    shortForms_.complete(entry);
+    addParsed(entry);
+  }
+  withShortForms_.clear();
+  shortForms_ = {};
   progress_.report(grouped(entries) + " entries read");
 }
 

@@ -20,6 +20,7 @@
 #include "dictionary/translation/brackets.h"
 #include "dictionary/translation/explanations.h"
 #include "dictionary/translation/names.h"
+#include "dictionary/translation/optional_characters.h"
 #include "dictionary/translation/part_of_speech.h"
 #include "dictionary/translation/pieces.h"
 #include "dictionary/translation/questions.h"
@@ -100,6 +101,13 @@ class LineParser {
  private:
   /// `next` is the separator after the piece, 0 for the last.
   void addPiece(const RawPiece& raw, char16_t next);
+  /// Sets the equivalent and the short form of a piece, which has the text `text`, and `noted` with
+  /// its optional characters.
+  void setEquivalents(Piece& piece, std::u16string_view text, std::u16string_view noted,
+                      bool introduced);
+  [[nodiscard]] bool hasOptionalCharacters() const {
+    return (head_.subjects & kLongTagsOnly) != 0 && !head_.marked;
+  }
   [[nodiscard]] Equivalent equivalentOf(std::u16string_view text, SubjectSet subjects,
                                         bool introduced);
 
@@ -138,13 +146,27 @@ Equivalent LineParser::equivalentOf(std::u16string_view text, SubjectSet subject
   return makeEquivalent(leadingName(explained.word), false);
 }
 
+void LineParser::setEquivalents(Piece& piece, std::u16string_view text, std::u16string_view noted,
+                                bool introduced) {
+  const std::u16string plain = withoutNotes(text);
+  const std::u16string full = withoutNotes(noted);
+  piece.equivalent = equivalentOf(full == plain ? text : noted, piece.subjects, introduced);
+  if (full == plain || piece.equivalent.fault == PieceFault::kExplanation) return;
+  Equivalent shortened = makeEquivalent(splitExplanation(text).word, head_.abbreviation);
+  if (piece.equivalent.fault == PieceFault::kNone) {
+    piece.shortForm = std::move(shortened.word);
+  } else {
+    piece.equivalent = std::move(shortened);
+  }
+}
+
 void LineParser::addPiece(const RawPiece& raw, char16_t next) {
   // The first piece has the head of the line, which pieces() has cut off already.
   const bool first = raw.separator == 0;
   const LineHead head =
       first ? head_ : readHead(raw.text, (head_.subjects & kLongTagsOnly) == 0, head_.marked);
   const std::u16string_view text = first ? raw.text : raw.text.substr(head.length);
-  const std::u16string noted = head.notes + std::u16string(text);
+  std::u16string noted = head.notes + std::u16string(text);
   // A piece that only announces names sets the subject of those after it and is not kept: before a
   // semicolon, or as a line of its own without a head. With a head ("n. 人名") it is an equivalent.
   const bool wholeLine = first && next == u'\0' && head_.length == 0;
@@ -167,13 +189,16 @@ void LineParser::addPiece(const RawPiece& raw, char16_t next) {
   Piece piece;
   piece.separator = pieces_.empty() ? u'\0' : raw.separator;
   piece.subjects = (head.subjects != 0 ? head.subjects : current_) | named;
+  if (hasOptionalCharacters()) noted = withOptionalCharacters(noted);
   piece.noted = notedText(noted);
   const std::u16string_view quoted = quotedMeaning(text);
-  if (quoted.empty()) piece.equivalent = equivalentOf(text, piece.subjects, introduced);
+  if (quoted.empty()) setEquivalents(piece, text, noted, introduced);
   // The first of several equivalents in one quotation carries the text for a subject dictionary.
   for (const RawPiece& part : splitPieces(quoted, Colons::kExplain)) {
     piece.equivalent = makeEquivalent(part.text, false);
-    pieces_.push_back(std::exchange(piece, {{}, {}, u'，', piece.subjects}));
+    pieces_.push_back(piece);
+    piece.noted.clear();
+    piece.separator = u'，';
   }
   if (quoted.empty()) pieces_.push_back(std::move(piece));
 }

@@ -33,7 +33,9 @@ LineHead readHead(std::u16string_view text, bool shortTags, bool marked);
 
 /// One of the equivalents that a line of a translation lists.
 struct Piece {
-  Equivalent equivalent;   ///< as a Chinese headword
+  Equivalent equivalent;  ///< as a Chinese headword
+  /// The Chinese headword without its optional characters; "" if it has none or is unusable.
+  std::u16string shortForm;
   std::u16string noted;    ///< as a subject dictionary shows it, notes included; "" if unusable
   char16_t separator = 0;  ///< ，；、！？ before it, 0 for the first
   SubjectSet subjects = 0;

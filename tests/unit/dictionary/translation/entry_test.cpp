@@ -85,14 +85,14 @@ TEST(ParseLine, SplitsSensesWithoutASeparator) {
 
 TEST(ParseLine, ReturnsThePieces) {
   EXPECT_EQ(words(u"n. 罩；风帽；（布质）面罩"), (Texts{u"罩", u"风帽", u"面罩"}));
-  EXPECT_EQ(words(u"[医] [心]加速纤维"), (Texts{u"加速纤维"}));
+  EXPECT_EQ(words(u"[医] [心]加速纤维"), (Texts{u"心加速纤维"}));
   EXPECT_EQ(words(u"n. [有化] 醋酸盐, [有化] 乙酸盐"), (Texts{u"醋酸盐", u"乙酸盐"}));
   EXPECT_EQ(words(u"= bleak"), Texts());
 }
 
 TEST(ParseLine, AppliesALeadingTagToTheLine) {
   EXPECT_EQ(text(u"[医] 小脑[多发性]硬化, 硬化(症)", Subject::kMedicine),
-            u"小脑[多发性]硬化，硬化(症)");
+            u"小脑多发性硬化，硬化(症)");
   EXPECT_EQ(text(u"[医] 甲, 乙", Subject::kChemistry), u"");
 }
 
@@ -102,11 +102,11 @@ TEST(ParseLine, AppliesATagInsideTheLineToItsPiece) {
   EXPECT_EQ(words(line), (Texts{u"恶习", u"缺点", u"老虎钳", u"卖淫"}));
 }
 
-TEST(ParseLine, TakesShortTagsInMedicalLinesForNotes) {
+TEST(ParseLine, TakesShortTagsInMedicalLinesForCharacters) {
   const std::u16string line = u"[医] 体液排出过多, [体]液溢, 脑脊液溢";
   EXPECT_EQ(text(line, Subject::kSport), u"");
-  EXPECT_EQ(text(line, Subject::kMedicine), u"体液排出过多，[体]液溢，脑脊液溢");
-  EXPECT_EQ(words(line), (Texts{u"体液排出过多", u"液溢", u"脑脊液溢"}));
+  EXPECT_EQ(text(line, Subject::kMedicine), u"体液排出过多，体液溢，脑脊液溢");
+  EXPECT_EQ(words(line), (Texts{u"体液排出过多", u"体液溢", u"脑脊液溢"}));
 }
 
 TEST(ParseLine, IgnoresMarksOfUsage) {
@@ -264,6 +264,25 @@ TEST(ReadHead, TellsIndianEnglishFromPrinting) {
   EXPECT_EQ(text(u"n. [印]铝版术", Subject::kLightIndustry), u"铝版术");
   EXPECT_EQ(text(u"n. 平条, 扁条, [印] (排版用)木嵌条", Subject::kLightIndustry),
             u"(排版用)木嵌条");
+}
+
+// "systolic | [医] 收缩[期]的", "halfan | [医]卤泛群[抗疟药]"
+// "oscillator | [计] 振子[器]"
+TEST(ParseLine, ReturnsTheFullAndTheShortForm) {
+  const Piece systolic = parseLine(u"[医] 收缩[期]的").pieces.at(0);
+  EXPECT_EQ(systolic.equivalent.word, u"收缩期的");
+  EXPECT_EQ(systolic.shortForm, u"收缩的");
+  EXPECT_EQ(systolic.noted, u"收缩期的");
+  const Piece drug = parseLine(u"[医]卤泛群[抗疟药]").pieces.at(0);
+  EXPECT_EQ(drug.equivalent.word, u"卤泛群");
+  EXPECT_EQ(drug.shortForm, u"");
+  EXPECT_EQ(drug.noted, u"卤泛群[抗疟药]");
+  EXPECT_EQ(parseLine(u"[医] 体液排出过多, [体]液溢").pieces.at(1).shortForm, u"液溢");
+  EXPECT_EQ(parseLine(u"[计] 振子[器]").pieces.at(0).equivalent.word, u"振子");
+  EXPECT_EQ(parseLine(u"n. [医] 喉镜[检查]").pieces.at(0).equivalent.word, u"喉镜");
+  const Piece tooLong = parseLine(u"[医] " + std::u16string(20, u'长') + u"[的]").pieces.at(0);
+  EXPECT_EQ(tooLong.equivalent.word, std::u16string(20, u'长'));
+  EXPECT_EQ(tooLong.shortForm, u"");
 }
 
 // cluttered
