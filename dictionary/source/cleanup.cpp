@@ -6,12 +6,12 @@
 #include "dictionary/source/cleanup.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <utility>
 
 #include "dictionary/source/characters.h"
 #include "dictionary/source/markup.h"
+#include "dictionary/source/substitutes.h"
 
 namespace dictionary {
 namespace {
@@ -39,36 +39,6 @@ bool isHeadwordCharacter(char16_t unit) {
   return unit >= 0x20 && unit < 0x7F && kUnsearchable.find(unit) == std::u16string_view::npos;
 }
 
-/// A character that the source has in place of `meant`.
-struct Substitute {
-  char16_t character;
-  std::u16string_view meant;
-};
-
-/// Found by comparing the entries that contain the substitute with the English words that they
-/// translate. A substitute whose meaning is not certain is not listed: isSubstitute() then keeps
-/// the text out of the dictionary.
-constexpr std::array kSubstitutes = {
-    Substitute{0x0401, u"呎"},    // foot-pound
-    Substitute{0x0416, u"牙合"},  // occlusal; the one character for it lies beyond U+FFFF
-    Substitute{0x0436, u"䏡"},    // albumose, proteose
-    Substitute{0x0449, u"伞"},    // cyme, corymb
-    Substitute{0x044B, u"踇"},    // hallux
-    Substitute{0x0451, u"腘"},    // popliteal
-    Substitute{0x2502, u""},      // a stray mark before some words
-    Substitute{0x25CB, u"〇"},    // the digit in names of compounds
-    Substitute{0x2609, u""},      // a stray mark before some words
-    Substitute{0x2522, u"棓"},    // gallic
-    Substitute{0x252D, u"噁"},    // oxazole
-    Substitute{0x2533, u"䓬"},    // azepine, tropylium
-    Substitute{0x2534, u"芪"},    // stilbene
-    Substitute{0x2535, u"萮"},    // behenic
-    Substitute{0x2537, u"呫"},    // xanthene
-    Substitute{0x2539, u"鎓"},    // onium
-    Substitute{0xE23A, u"棓"},   Substitute{0xE23C, u"噁"}, Substitute{0xE24D, u"鎓"},
-    Substitute{0xE41F, u"踇"},   Substitute{0xE490, u"䏡"}, Substitute{0xE7AB, u"啰"},  // rale
-};
-
 /// Joins the halves of a word that was broken at a hyphen and a comma: "国际计算机-, 有限公司". A
 /// comma after a hyphen joins nothing else in Chinese text.
 std::u16string withoutBreaks(std::u16string_view line) {
@@ -82,13 +52,6 @@ std::u16string withoutBreaks(std::u16string_view line) {
     joined += line[i];
   }
   return joined;
-}
-
-/// A Cyrillic letter on its own is a substitute; next to another one it is a letter.
-bool insideCyrillicWord(std::u16string_view text, std::size_t position) {
-  return isCyrillic(text[position]) &&
-         ((position > 0 && isCyrillic(text[position - 1])) ||
-          (position + 1 < text.size() && isCyrillic(text[position + 1])));
 }
 
 }  // namespace
@@ -129,19 +92,6 @@ std::vector<std::u16string> translationLines(std::u16string_view translation) {
     begin = end + 1;
   }
   return lines;
-}
-
-std::u16string restoreSubstitutes(std::u16string_view text) {
-  std::u16string restored;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const auto* const found = std::ranges::find(kSubstitutes, text[i], &Substitute::character);
-    if (found == kSubstitutes.end() || insideCyrillicWord(text, i)) {
-      restored += text[i];
-    } else {
-      restored += found->meant;
-    }
-  }
-  return restored;
 }
 
 }  // namespace dictionary

@@ -25,9 +25,4 @@ std::vector<std::u16string> translationLines(std::u16string_view translation);
 /// order mark) are deleted.
 std::u16string foldBlanks(std::u16string_view text);
 
-/// Returns `text` with those Han characters restored for which the source has a substitute (a
-/// Cyrillic letter, a box drawing or private-use character) and whose meaning is certain. Cyrillic
-/// letters next to another Cyrillic letter are unchanged: they belong to a Cyrillic word.
-std::u16string restoreSubstitutes(std::u16string_view text);
-
 }  // namespace dictionary

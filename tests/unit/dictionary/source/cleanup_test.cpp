@@ -52,18 +52,10 @@ TEST(TranslationLines, DropsCitations) {
   EXPECT_EQ(translationLines(u"打脚的\\n以上来源于：《某某词典》"), (Lines{u"打脚的"}));
 }
 
-TEST(RestoreSubstitutes, RestoresHanCharactersThatAreCertain) {
-  EXPECT_EQ(dictionary::restoreSubstitutes(u"异┭唑, 苯胺┹离子, │恶性黑瘤"),
-            u"异噁唑, 苯胺鎓离子, 恶性黑瘤");
-  EXPECT_EQ(dictionary::restoreSubstitutes(u"ё弓状韧带, 聚щ花序, 类ж"),
-            u"腘弓状韧带, 聚伞花序, 类䏡");
-  EXPECT_EQ(dictionary::restoreSubstitutes(u"邻Ж的"), u"邻牙合的");
-  EXPECT_EQ(dictionary::restoreSubstitutes(u"一六○五"), u"一六〇五");
-  EXPECT_EQ(dictionary::restoreSubstitutes(u"苯并\uE23C唑"), u"苯并噁唑");
-}
-
-TEST(RestoreSubstitutes, LeavesCyrillicWordsAlone) {
-  EXPECT_EQ(dictionary::restoreSubstitutes(u"жизнь, ещё"), u"жизнь, ещё");
+// Lines like those of acetylsulfisoxazole and gantanol.
+TEST(TranslationLines, RestoreSubstitutes) {
+  EXPECT_EQ(translationLines(u"[化] 异\u252D唑\\n[医] 异\u2527唑"),
+            (Lines{u"[化] 异噁唑", u"[医] 异噁唑"}));
 }
 
 }  // namespace

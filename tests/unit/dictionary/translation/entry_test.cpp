@@ -267,7 +267,6 @@ TEST(ReadHead, TellsIndianEnglishFromPrinting) {
 }
 
 // "systolic | [医] 收缩[期]的", "halfan | [医]卤泛群[抗疟药]"
-// "oscillator | [计] 振子[器]"
 TEST(ParseLine, ReturnsTheFullAndTheShortForm) {
   const Piece systolic = parseLine(u"[医] 收缩[期]的").pieces.at(0);
   EXPECT_EQ(systolic.equivalent.word, u"收缩期的");
