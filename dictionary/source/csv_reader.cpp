@@ -6,6 +6,8 @@
 #include "dictionary/source/csv_reader.h"
 
 #include <algorithm>
+#include <charconv>
+#include <system_error>
 
 #include "dictionary/console.h"
 #include "dictionary/source/characters.h"
@@ -38,6 +40,13 @@ LineFault readQuoted(std::string_view line, std::size_t& position, std::string& 
     }
   }
   return LineFault::kOpenQuote;
+}
+
+/// The number that the field holds; 0 if it holds none.
+std::uint32_t numberIn(std::string_view field) {
+  std::uint32_t number = 0;
+  const auto [end, error] = std::from_chars(field.data(), field.data() + field.size(), number);
+  return error == std::errc() && end == field.data() + field.size() ? number : 0;
 }
 
 }  // namespace
@@ -96,6 +105,8 @@ SourceReader::SourceReader(std::istream& stream) : stream_(stream) {
   for (const std::string_view name : {"collins", "oxford", "tag", "bnc", "frq"}) {
     importanceColumns_.push_back(columnOf(name));
   }
+  rankColumns_ = {columnOf("bnc"), columnOf("frq")};
+  exchangeColumn_ = columnOf("exchange");
 }
 
 std::size_t SourceReader::columnOf(std::string_view name) const {
@@ -141,6 +152,12 @@ SourceReader::Result SourceReader::next() {
     const std::string& value = fields_[column];
     return !value.empty() && value != "0";
   });
+  entry_.exchange = fields_[exchangeColumn_];
+  entry_.rank = 0;
+  for (const std::size_t column : rankColumns_) {
+    const std::uint32_t rank = numberIn(fields_[column]);
+    if (rank != 0 && (entry_.rank == 0 || rank < entry_.rank)) entry_.rank = rank;
+  }
   return Result::kEntry;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <istream>
 #include <string>
 #include <string_view>
@@ -38,6 +39,12 @@ struct SourceEntry {
   /// Whether the source gives the word a frequency rank, an examination's list or a place in a
   /// learner's dictionary.
   bool important = false;
+  /// The better of the word's ranks by frequency in two corpora, 1 for the most frequent word; 0 if
+  /// it has none. Ranks are of lemmas: a form of a word ("asked") has none, or one as a word of its
+  /// own.
+  std::uint32_t rank = 0;
+  /// Forms and lemma, see inflection.h.
+  std::string exchange = {};
 };
 
 /// Reads the source entry by entry. A line that cannot be read is reported by its number and does
@@ -77,7 +84,9 @@ class SourceReader {
   std::size_t columns_ = 0;
   std::size_t wordColumn_ = 0;
   std::size_t translationColumn_ = 0;
+  std::size_t exchangeColumn_ = 0;
   std::vector<std::size_t> importanceColumns_;
+  std::vector<std::size_t> rankColumns_;
 };
 
 }  // namespace dictionary

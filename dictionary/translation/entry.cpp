@@ -12,6 +12,7 @@
 #include "dictionary/translation/entry.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "dictionary/source/characters.h"
@@ -24,6 +25,7 @@
 #include "dictionary/translation/part_of_speech.h"
 #include "dictionary/translation/pieces.h"
 #include "dictionary/translation/questions.h"
+#include "dictionary/translation/supplement.h"
 #include "text/strings.h"
 #include "text/utf.h"
 
@@ -87,13 +89,43 @@ std::u16string notedText(std::u16string_view piece) {
   return foldBlanks(noted);
 }
 
+/// Returns whether one of the notes marks slang, dialect, or rare, obsolete or poetic use:
+/// "[美俚]",
+/// "<古>".
+bool marksSlang(std::u16string_view notes) {
+  using namespace std::string_view_literals;
+  constexpr std::array kMarks = {u"方"sv,     u"英方"sv, u"美方"sv,   u"方言"sv,    u"英国方言"sv,
+                                 u"古"sv,     u"古语"sv, u"废"sv,     u"废语"sv,    u"罕"sv,
+                                 u"罕用语"sv, u"诗"sv,   u"蔑"sv,     u"粗"sv,      u"旧"sv,
+                                 u"儿语"sv,   u"黑话"sv, u"苏格兰"sv, u"主苏格兰"sv};
+  for (std::size_t i = 0; i < notes.size(); ++i) {
+    const std::size_t close = openingBracket(notes[i]) == Bracket::kNone
+                                  ? std::u16string_view::npos
+                                  : closingPosition(notes, i);
+    if (close == std::u16string_view::npos) continue;
+    const std::u16string_view note = text::trimBlanks(notes.substr(i + 1, close - i - 1));
+    constexpr std::size_t kLongestMark = 5;  // "美国俚语" and one more
+    if (std::ranges::find(kMarks, note) != kMarks.end() ||
+        (note.size() <= kLongestMark && note.find(u'俚') != std::u16string_view::npos)) {
+      return true;
+    }
+    i = close;
+  }
+  return false;
+}
+
 /// Parses one line. The members are the state that carries over from one piece to the next.
 class LineParser {
  public:
   explicit LineParser(std::u16string_view line)
-      : line_(line), head_(readHead(line, true, false)), current_(head_.subjects) {}
+      : line_(line),
+        head_(readHead(line, true, false)),
+        current_(head_.subjects),
+        slang_(marksSlang(head_.notes)) {}
 
   std::vector<Piece> pieces();
+  /// The parts of speech of the line's head.
+  [[nodiscard]] PartOfSpeechSet parts() const { return head_.parts; }
 
   /// Whether the line ends with the description of a command. After pieces().
   [[nodiscard]] bool endsInCommand() const { return command_; }
@@ -114,6 +146,7 @@ class LineParser {
   std::u16string_view line_;
   LineHead head_;
   SubjectSet current_;       ///< subjects of pieces without a tag of their own
+  bool slang_;               ///< whether pieces without a note of their own are slang
   bool explaining_ = false;  ///< whether an explanation began since the last semicolon
   bool command_ = false;     ///< whether the description of a command did
   bool life_ = false;        ///< whether the rest of the line tells a person's life
@@ -178,6 +211,9 @@ void LineParser::addPiece(const RawPiece& raw, char16_t next) {
   // after it too; in a list of places, every item is one.
   if (raw.separator == u'；') explaining_ = command_ = false;
   if ((head.subjects & kNameSubjects) != 0) current_ = head.subjects;
+  // A mark of usage holds up to the next semicolon, or for the line if it is at its head.
+  if (raw.separator == u'；') slang_ = marksSlang(head_.notes);
+  if (!first && marksSlang(head.notes)) slang_ = true;
   const SubjectSet named = namedByNote(text);
   const bool listedPlace = current_ == setOf(Subject::kPlace) && raw.separator == u'、';
   const bool introduced = first || head.subjects != 0 || named != 0 || listedPlace;
@@ -190,6 +226,7 @@ void LineParser::addPiece(const RawPiece& raw, char16_t next) {
   piece.separator = pieces_.empty() ? u'\0' : raw.separator;
   piece.subjects = (head.subjects != 0 ? head.subjects : current_) | named;
   if (hasOptionalCharacters()) noted = withOptionalCharacters(noted);
+  piece.slang = slang_;
   piece.noted = notedText(noted);
   const std::u16string_view quoted = quotedMeaning(text);
   if (quoted.empty()) setEquivalents(piece, text, noted, introduced);
@@ -244,6 +281,30 @@ void useExplanation(Entry& entry) {
   }
 }
 
+/// Parses `translation` and adds its lines and references.
+void addLines(Entry& entry, std::u16string_view translation) {
+  bool inCommand = false;
+  for (const std::u16string& line : translationLines(translation)) {
+    // A description is continued by lines without a head.
+    if (inCommand && readHead(line, true, false).length == 0) continue;
+    entry.lines.push_back(parseLine(line));
+    inCommand = entry.lines.back().endsInCommand;
+    for (const Piece& piece : entry.lines.back().pieces) {
+      if (const auto reference = referenceIn(piece)) entry.references.push_back(*reference);
+    }
+  }
+}
+
+/// Returns whether the entry has an equivalent that is not the form of another word.
+bool hasEquivalent(const Entry& entry) {
+  const auto means = [](const Piece& piece) {
+    return !piece.equivalent.word.empty() && !inflectionIn(piece.equivalent.word);
+  };
+  return std::ranges::any_of(entry.lines, [&](const TranslationLine& line) {
+    return std::ranges::any_of(line.pieces, means);
+  });
+}
+
 }  // namespace
 
 LineHead readHead(std::u16string_view text, bool shortTags, bool marked) {
@@ -262,6 +323,8 @@ LineHead readHead(std::u16string_view text, bool shortTags, bool marked) {
       const bool abbreviation = rest.starts_with(u"abbr");
       head.abbreviation = head.abbreviation || abbreviation;
       head.marked = head.marked || !abbreviation;
+      head.parts =
+          static_cast<PartOfSpeechSet>(head.parts | partsOfSpeechIn(rest.substr(0, skipped)));
       continue;
     }
     const Bracket kind = openingBracket(text[position]);
@@ -286,7 +349,7 @@ LineHead readHead(std::u16string_view text, bool shortTags, bool marked) {
 TranslationLine parseLine(std::u16string_view line) {
   LineParser parser(line);
   std::vector<Piece> pieces = parser.pieces();
-  return {std::move(pieces), inflectionNote(line), parser.endsInCommand()};
+  return {std::move(pieces), parser.parts(), inflectionNote(line), parser.endsInCommand()};
 }
 
 std::u16string subjectText(const TranslationLine& line, Subject subject) {
@@ -308,15 +371,13 @@ std::optional<Entry> extractEntry(const SourceEntry& source) {
   Entry entry;
   entry.headword = std::move(*word);
   entry.important = source.important;
-  bool inCommand = false;
-  for (const std::u16string& line : translationLines(text::toUtf16(source.translation))) {
-    // A description is continued by lines without a head.
-    if (inCommand && readHead(line, true, false).length == 0) continue;
-    entry.lines.push_back(parseLine(line));
-    inCommand = entry.lines.back().endsInCommand;
-    for (const Piece& piece : entry.lines.back().pieces) {
-      if (const auto reference = referenceIn(piece)) entry.references.push_back(*reference);
-    }
+  entry.rank = source.rank;
+  entry.inflection = inflectionOf(source.exchange, source.word);
+  addLines(entry, text::toUtf16(source.translation));
+  const std::u16string_view supplement = supplementaryTranslation(entry.headword);
+  if (!supplement.empty() && !hasEquivalent(entry)) {
+    entry.references.clear();
+    addLines(entry, supplement);
   }
   if (!hasMeaning(entry)) useExplanation(entry);
   return entry;

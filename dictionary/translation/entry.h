@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -8,6 +9,8 @@
 
 #include "dictionary/source/csv_reader.h"
 #include "dictionary/translation/equivalent.h"
+#include "dictionary/translation/inflection.h"
+#include "dictionary/translation/part_of_speech.h"
 #include "dictionary/translation/subjects.h"
 
 /// Parsing a translation: an entry has lines, a line has a head and pieces. The source's grammar is
@@ -22,6 +25,7 @@ struct LineHead {
   std::u16string notes;       ///< its other bracketed notes, unchanged
   bool abbreviation = false;  ///< whether it marks the word as an abbreviation
   bool marked = false;        ///< whether it has any other part-of-speech mark
+  PartOfSpeechSet parts = 0;  ///< the parts of speech that it names
 };
 
 /// Reads part-of-speech marks, subject tags and notes at the beginning of `text`, in any order and
@@ -39,11 +43,13 @@ struct Piece {
   std::u16string noted;    ///< as a subject dictionary shows it, notes included; "" if unusable
   char16_t separator = 0;  ///< ，；、！？ before it, 0 for the first
   SubjectSet subjects = 0;
+  bool slang = false;  ///< whether a note marks it as slang, dialect, rare or obsolete
 };
 
 /// A parsed line of a translation.
 struct TranslationLine {
   std::vector<Piece> pieces;
+  PartOfSpeechSet parts = 0;  ///< of its head
   /// "apple的复数" if a note says so, otherwise "".
   std::u16string inflection;
   /// Whether its last piece, which is left out, describes a command (describesCommand()).
@@ -63,7 +69,9 @@ std::u16string subjectText(const TranslationLine& line, Subject subject);
 /// A headword with its parsed translation.
 struct Entry {
   std::u16string headword;
-  bool important = false;  ///< as in SourceEntry
+  bool important = false;                ///< as in SourceEntry
+  std::uint32_t rank = 0;                ///< as in SourceEntry
+  std::optional<Inflection> inflection;  ///< by the column "exchange"
   std::vector<TranslationLine> lines;
   /// Other headwords that the entry gives as its meaning: "= groundsheet".
   std::vector<std::u16string> references;

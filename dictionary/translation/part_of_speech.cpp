@@ -28,6 +28,33 @@ constexpr std::array kBareMarks = {u"n"sv, u"v"sv, u"a"sv, u"vt"sv, u"vi"sv, u"a
 /// Characters between the marks of one sense: "vt. & vi.".
 constexpr std::u16string_view kLinks = u"&,/，、";
 
+/// What the marks mean; "aux." is a verb and a function word.
+struct MarkMeaning {
+  std::u16string_view mark;
+  PartOfSpeechSet parts;
+};
+
+constexpr PartOfSpeechSet kNoun = setOf(PartOfSpeech::kNoun);
+constexpr PartOfSpeechSet kVerb = setOf(PartOfSpeech::kVerb);
+constexpr PartOfSpeechSet kAdjective = setOf(PartOfSpeech::kAdjective);
+constexpr PartOfSpeechSet kAdverb = setOf(PartOfSpeech::kAdverb);
+constexpr PartOfSpeechSet kFunction = setOf(PartOfSpeech::kFunction);
+
+constexpr std::array<MarkMeaning, 24> kMeanings = {{
+    {u"n", kNoun},          {u"un", kNoun},
+    {u"pl", kNoun},         {u"pn", kNoun},
+    {u"v", kVerb},          {u"vt", kVerb},
+    {u"vi", kVerb},         {u"vbl", kVerb},
+    {u"pp", kVerb},         {u"ing", kVerb},
+    {u"a", kAdjective},     {u"adj", kAdjective},
+    {u"adv", kAdverb},      {u"ad", kAdverb},
+    {u"prep", kFunction},   {u"pron", kFunction},
+    {u"num", kFunction},    {u"conj", kFunction},
+    {u"art", kFunction},    {u"quant", kFunction},
+    {u"int", kFunction},    {u"interj", kFunction},
+    {u"exclam", kFunction}, {u"aux", static_cast<PartOfSpeechSet>(kVerb | kFunction)},
+}};
+
 /// Number of blanks from `position` on.
 std::size_t blanksAt(std::u16string_view text, std::size_t position) {
   std::size_t length = 0;
@@ -122,6 +149,18 @@ bool beginsFurtherSense(std::u16string_view text) {
   if (!isBareMark(text.substr(0, letters)) || letters == text.size()) return false;
   const std::u16string_view sense = text.substr(letters + 1);
   return isStop(text[letters]) && beginsChinese(sense) && !sense.starts_with(u'的');
+}
+
+PartOfSpeechSet partsOfSpeechIn(std::u16string_view marks) {
+  PartOfSpeechSet parts = 0;
+  for (std::size_t i = 0; i < marks.size(); ++i) {
+    const std::size_t letters = lettersAt(marks.substr(i));
+    const auto* const known =
+        std::ranges::find(kMeanings, marks.substr(i, letters), &MarkMeaning::mark);
+    if (known != kMeanings.end()) parts = static_cast<PartOfSpeechSet>(parts | known->parts);
+    i += letters;
+  }
+  return parts;
 }
 
 }  // namespace dictionary

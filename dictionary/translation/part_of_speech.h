@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 /// Part-of-speech marks, which the source writes before an equivalent in many ways: "n.", "vt. &
@@ -13,6 +14,27 @@ namespace dictionary {
 /// only if it is a frequent one and is followed by a blank and Chinese text ("n 苹果"), by a note
 /// and the full stop ("n<古>."), or by a link and a mark with a full stop ("vt,vi.").
 std::size_t partOfSpeechLength(std::u16string_view text);
+
+/// Parts of speech, as far as it matters which senses a form of a word has.
+enum class PartOfSpeech : std::uint8_t {
+  kNoun,
+  kVerb,
+  kAdjective,
+  kAdverb,
+  kFunction,  ///< articles, pronouns, prepositions, conjunctions, numerals, auxiliary verbs
+};
+
+/// A set of parts of speech, a bit each; 0 if the source says nothing.
+using PartOfSpeechSet = std::uint8_t;
+inline constexpr PartOfSpeechSet kAnyPartOfSpeech = 0x1F;
+
+constexpr PartOfSpeechSet setOf(PartOfSpeech part) {
+  return static_cast<PartOfSpeechSet>(1U << static_cast<unsigned>(part));
+}
+
+/// Returns the parts of speech that `marks` names, text whose partOfSpeechLength() is its length.
+/// Marks such as "abbr." and "pref." name none.
+PartOfSpeechSet partsOfSpeechIn(std::u16string_view marks);
 
 /// Returns whether `text` begins with a mark that introduces another sense even without a separator
 /// before it: "渗透现象v.使渗透", "脱离轨道 ll n.脱离轨道" (the source has ll for Ⅱ). Not so before

@@ -41,7 +41,7 @@ void checkTexts(const dictionary::Vocabulary& vocabulary,
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  std::istringstream stream("word,translation,collins,oxford,tag,bnc,frq\n" +
+  std::istringstream stream("word,translation,collins,oxford,tag,bnc,frq,exchange\n" +
                             std::string(FuzzInput(data, size).rest()));
   SourceReader reader(stream);
   dictionary::PairCollector pairs;

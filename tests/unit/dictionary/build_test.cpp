@@ -68,7 +68,7 @@ TEST(BuildDatabase, KeepsTheFormerDatabaseWhenTheSourceIsBad) {
   support::writeFile(folder.file(u"empty.csv"), "");
   support::writeFile(folder.file(u"header.csv"), "word,meaning\na,b\n");
   support::writeFile(folder.file(u"short.csv"),
-                     "word,translation,collins,oxford,tag,bnc,frq\na,甲,,,,0,0\n");
+                     "word,translation,collins,oxford,tag,bnc,frq,exchange\na,甲,,,,0,0,\n");
   EXPECT_NE(failureOf(folder.file(u"none.csv"), folder.file(u"kk.dat")), "");
   EXPECT_NE(failureOf(folder.path(), folder.file(u"kk.dat")), "");
   EXPECT_NE(failureOf(folder.file(u"empty.csv"), folder.file(u"kk.dat")), "");

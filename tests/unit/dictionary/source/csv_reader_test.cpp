@@ -51,12 +51,14 @@ std::vector<std::string> readAll(const std::string& bytes) {
 
 std::string faultOf(LineFault fault) { return std::string(dictionary::describe(fault)); }
 
-bool isImportant(const std::string& line) {
+dictionary::SourceEntry entryOf(const std::string& line) {
   std::istringstream stream(kHeader + line);
   SourceReader reader(stream);
   EXPECT_EQ(reader.next(), Result::kEntry);
-  return reader.entry().important;
+  return reader.entry();
 }
+
+bool isImportant(const std::string& line) { return entryOf(line).important; }
 
 std::string headerFailure(const std::string& bytes) {
   std::istringstream stream(bytes);
@@ -121,7 +123,7 @@ TEST(SourceReader, AcceptsCrLfAndAMissingLastLineFeed) {
 }
 
 TEST(SourceReader, FindsColumnsByName) {
-  EXPECT_EQ(readAll("tag,frq,bnc,oxford,collins,translation,word\n,0,0,,,甲,a\n"),
+  EXPECT_EQ(readAll("tag,frq,bnc,oxford,collins,exchange,translation,word\n,0,0,,,,甲,a\n"),
             (std::vector<std::string>{"a=甲"}));
 }
 
@@ -159,6 +161,19 @@ TEST(SourceReader, MarksEntriesAsImportant) {
   EXPECT_TRUE(isImportant("a,,,甲,,,,zk,0,0,,,\n"));
   EXPECT_TRUE(isImportant("a,,,甲,,,,,5,0,,,\n"));
   EXPECT_TRUE(isImportant("a,,,甲,,,,,0,7,,,\n"));
+}
+
+TEST(SourceReader, ReadsTheBetterOfTwoRanks) {
+  EXPECT_EQ(entryOf("a,,,甲,,,,,163,174,,,\n").rank, 163U);
+  EXPECT_EQ(entryOf("a,,,甲,,,,,20,7,,,\n").rank, 7U);
+  EXPECT_EQ(entryOf("a,,,甲,,,,,0,7,,,\n").rank, 7U);
+  EXPECT_EQ(entryOf("a,,,甲,,,,,5,,,,\n").rank, 5U);
+  EXPECT_EQ(entryOf("a,,,甲,,,,,0,0,,,\n").rank, 0U);
+  EXPECT_EQ(entryOf("a,,,甲,,,,,5x,-3,,,\n").rank, 0U) << "no numbers";
+}
+
+TEST(SourceReader, ReadsTheFormsOfAWord) {
+  EXPECT_EQ(entryOf("asked,,,问,,,,,0,0,0:ask/1:pd,,\n").exchange, "0:ask/1:pd");
 }
 
 TEST(SourceReader, ThrowsWithoutAProperHeader) {

@@ -1,0 +1,105 @@
+#include "dictionary/translation/inflection.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "dictionary/translation/part_of_speech.h"
+
+namespace {
+
+using dictionary::Inflection;
+using dictionary::inflectionIn;
+using dictionary::inflectionOf;
+using dictionary::inflectionText;
+using dictionary::PartOfSpeech;
+using dictionary::partsOfSpeechOf;
+using dictionary::setOf;
+
+/// The note that the exchange column of `headword` amounts to; "none" without a lemma.
+std::u16string noteOf(std::string_view exchange, std::string_view headword) {
+  const auto inflection = inflectionOf(exchange, headword);
+  return inflection ? inflectionText(*inflection) : u"none";
+}
+
+TEST(Inflection, ReadsTheSourcesColumnOfForms) {
+  EXPECT_EQ(noteOf("0:ask/1:pd", "asked"), u"ask的过去式和过去分词");
+  EXPECT_EQ(noteOf("1:i/0:have", "having"), u"have的现在分词");
+  EXPECT_EQ(noteOf("0:hand/1:s3", "hands"), u"hand的复数和第三人称单数");
+  EXPECT_EQ(noteOf("0:look/1:i/i:looking/s:lookings", "looking"), u"look的现在分词");
+  EXPECT_EQ(noteOf("0:large/1:r", "larger"), u"large的比较级");
+  EXPECT_EQ(noteOf("0:good/1:t/r:best/3:bests", "best"), u"good的最高级");
+}
+
+TEST(Inflection, TakesAWordThatIsItsOwnLemmaForNoForm) {
+  EXPECT_EQ(noteOf("s:asks/i:asking", "ask"), u"none");
+  EXPECT_EQ(noteOf("", "was"), u"none");
+  EXPECT_EQ(noteOf("p:came/0:come/1:d", "Come"), u"none");
+  EXPECT_EQ(noteOf("0:/1:d", "x"), u"none");
+  EXPECT_EQ(noteOf("0", "x"), u"none");
+}
+
+TEST(Inflection, KnowsALemmaWhoseFormIsNotGiven) {
+  const auto inflection = inflectionOf("0:Kudo", "kudos");
+  ASSERT_TRUE(inflection.has_value());
+  EXPECT_EQ(inflection->lemma, u"kudo");
+  EXPECT_EQ(inflection->forms, 0);
+  EXPECT_EQ(inflectionText(*inflection), u"");
+}
+
+/// "lemma: note"; "none" where the text is none.
+std::u16string read(std::u16string_view text) {
+  const auto inflection = inflectionIn(text);
+  return inflection ? inflection->lemma + u": " + inflectionText(*inflection) : u"none";
+}
+
+TEST(Inflection, ReadsTranslationsThatNameAForm) {
+  EXPECT_EQ(read(u"take的过去分词"), u"take: take的过去分词");
+  EXPECT_EQ(read(u"feel的过去式和过去分词"), u"feel: feel的过去式和过去分词");
+  EXPECT_EQ(read(u"agora的复数形"), u"agora: agora的复数");
+  EXPECT_EQ(read(u"appear的过去形式"), u"appear: appear的过去式");
+  EXPECT_EQ(read(u"have的第三人称单数现在式"), u"have: have的第三人称单数");
+  EXPECT_EQ(read(u"be的现在时复数或第二人称单数"), u"be: be的第三人称单数");
+  EXPECT_EQ(read(u"abscess的三单形式"), u"abscess: abscess的第三人称单数");
+  EXPECT_EQ(read(u"A-list的变形"), u"a-list: ");
+  EXPECT_EQ(read(u"o′clock的复数"), u"o'clock: o′clock的复数");
+  EXPECT_EQ(read(u"grow up的过去式"), u"grow up: grow up的过去式");
+}
+
+TEST(Inflection, TakesNoOtherTextForAForm) {
+  EXPECT_EQ(read(u"苹果的复数"), u"none");
+  EXPECT_EQ(read(u"的复数"), u"none");
+  EXPECT_EQ(read(u"X的射线"), u"none");
+  EXPECT_EQ(read(u"take"), u"none");
+  EXPECT_EQ(read(u"A甲的复数"), u"none");
+  EXPECT_EQ(read(u""), u"none");
+}
+
+TEST(Inflection, KnowsThePartsOfSpeechOfTheLemma) {
+  const auto parts = [](std::u16string_view note) {
+    return partsOfSpeechOf(inflectionIn(note).value_or(Inflection()).forms);
+  };
+  EXPECT_EQ(parts(u"x的复数"), setOf(PartOfSpeech::kNoun));
+  EXPECT_EQ(parts(u"x的过去式"), setOf(PartOfSpeech::kVerb));
+  EXPECT_EQ(parts(u"x的复数和第三人称单数"), setOf(PartOfSpeech::kVerb));
+  EXPECT_EQ(parts(u"x的最高级"), setOf(PartOfSpeech::kAdjective) | setOf(PartOfSpeech::kAdverb));
+  EXPECT_EQ(parts(u"x的变形"), dictionary::kAnyPartOfSpeech);
+  EXPECT_EQ(partsOfSpeechOf(inflectionOf("0:hand/1:s3", "hands")->forms),
+            setOf(PartOfSpeech::kNoun) | setOf(PartOfSpeech::kVerb));
+}
+
+TEST(PartsOfSpeech, AreReadFromTheMarks) {
+  using dictionary::partsOfSpeechIn;
+  EXPECT_EQ(partsOfSpeechIn(u"n. "), setOf(PartOfSpeech::kNoun));
+  EXPECT_EQ(partsOfSpeechIn(u"vt. & vi. "), setOf(PartOfSpeech::kVerb));
+  EXPECT_EQ(partsOfSpeechIn(u"a., n. "),
+            setOf(PartOfSpeech::kAdjective) | setOf(PartOfSpeech::kNoun));
+  EXPECT_EQ(partsOfSpeechIn(u"aux. "), setOf(PartOfSpeech::kVerb) | setOf(PartOfSpeech::kFunction));
+  EXPECT_EQ(partsOfSpeechIn(u"link-v. "), setOf(PartOfSpeech::kVerb));
+  EXPECT_EQ(partsOfSpeechIn(u"adv. "), setOf(PartOfSpeech::kAdverb));
+  EXPECT_EQ(partsOfSpeechIn(u"conj. "), setOf(PartOfSpeech::kFunction));
+  EXPECT_EQ(partsOfSpeechIn(u"abbr. "), 0);
+  EXPECT_EQ(partsOfSpeechIn(u""), 0);
+}
+
+}  // namespace
