@@ -1,8 +1,14 @@
-// Rating: an entry's equivalents are listed in three kinds, ordinary ones, then names, then those
-// from the web, each in the order of the source. The tier of a pair depends on its kind, on whether
-// it is the first of its kind, whether the kind is the entry's best, and on the headword:
-// important, an inflected form, or neither. So a headword's first equivalent is given up later than
-// its others.
+// Rating: the tier of a pair depends on the kind of the equivalent (senses.h), on whether it is the
+// first of its kind, whether the kind is the entry's best, and on the headword: important or not, a
+// form of another word or not. So a headword's first equivalent is given up later than its others.
+//
+// Forms: whether an entry is a form of another word is known when it is added; that word's
+// equivalents only in the end, since it may come later. Three kinds of entries take some of them
+// over:
+// - those that name the form among their equivalents ("take的过去分词", "毛毯, 毡\n feel的过去式");
+// - those that have nothing at all, but are a form by the column "exchange";
+// - those that are a form by that column and mean something else, where the form is met more often
+//   ("asked" is 卖方要价); hides() estimates which of the two is.
 //
 // Pairs hold indexes while they are collected; the words are sorted once in the end, and the
 // indexes replaced. An equivalent in several lines of an entry, or under spellings that differ in
@@ -23,53 +29,34 @@ namespace {
 /// Equivalents that an entry takes over from the headword that it refers to: its main meanings. The
 /// headword itself has them all.
 constexpr std::size_t kMaxFollowed = 4;
+/// Equivalents that a form takes over from its lemma: of an important one, of another one.
+constexpr std::size_t kMaxTaken = 3;
+constexpr std::size_t kMaxTakenOfRare = 2;
+/// Equivalents of a lemma among which those of the right part of speech are looked for.
+constexpr std::size_t kMaxMeanings = 40;
+/// Noted names of an important word that are worth as much as its further equivalents.
+constexpr std::size_t kMaxNames = 3;
 
-/// Kinds of equivalents, by the subject tags of their lines.
-enum class Kind : std::uint8_t { kOrdinary, kWeb, kName };
-
-/// An equivalent that an entry offers; the word belongs to the entry.
-struct Candidate {
-  const std::u16string* word;
-  Kind kind;
-};
-
-/// A web tag outweighs a name's.
-Kind kindOf(SubjectSet subjects) {
-  if ((subjects & setOf(Subject::kWeb)) != 0) return Kind::kWeb;
-  return (subjects & kNameSubjects) != 0 ? Kind::kName : Kind::kOrdinary;
+/// The tier of the equivalent `sense` of an important word. `first`: it is the entry's first of its
+/// kind; `only`: the entry has no equivalents of a kind that comes before it.
+Tier importantTier(const Sense& sense, bool only, std::size_t nth) {
+  const bool first = nth == 0;
+  if (only) return first ? Tier::kImportantFirst : Tier::kImportant;
+  if (sense.kind == SenseKind::kName) return nth < kMaxNames ? Tier::kImportant : Tier::kName;
+  return first ? Tier::kWebFirst : Tier::kWeb;
 }
 
-/// The entry's distinct equivalents: ordinary ones, then names, then those from the web.
-std::vector<Candidate> candidatesOf(const Entry& entry) {
-  std::vector<Candidate> candidates;
-  for (const Kind kind : {Kind::kOrdinary, Kind::kName, Kind::kWeb}) {
-    for (const TranslationLine& line : entry.lines) {
-      for (const Piece& piece : line.pieces) {
-        const std::u16string& word = piece.equivalent.word;
-        if (word.empty() || kindOf(piece.subjects) != kind) continue;
-        const bool known = std::ranges::any_of(
-            candidates, [&](const Candidate& other) { return *other.word == word; });
-        if (!known) candidates.push_back({&word, kind});
-      }
-    }
-  }
-  return candidates;
-}
-
-/// The tier of an equivalent of that kind. `first`: it is the entry's first of its kind; `only`:
-/// the entry has no equivalents of a kind that comes before it.
-Tier tierOf(const Entry& entry, bool inflected, Kind kind, bool only, bool first) {
-  if (entry.important && only && kind != Kind::kOrdinary) {
-    return first ? Tier::kImportantFirst : Tier::kImportant;
-  }
-  if (kind == Kind::kWeb) {
+/// The tier of any equivalent. `nth`: how many of its kind come before it.
+Tier tierOf(const Entry& entry, bool form, const Sense& sense, bool only, std::size_t nth) {
+  if (entry.important) return importantTier(sense, only, nth);
+  const bool first = nth == 0;
+  if (sense.kind == SenseKind::kWeb) {
     if (!first) return Tier::kWeb;
     return only ? Tier::kOnly : Tier::kWebFirst;
   }
-  if (kind == Kind::kName) return first && only ? Tier::kOnly : Tier::kName;
-  if (entry.important) return first ? Tier::kImportantFirst : Tier::kImportant;
-  if (inflected) return first ? Tier::kInflectedFirst : Tier::kInflected;
-  return first ? Tier::kFirst : Tier::kOrdinary;
+  if (sense.kind == SenseKind::kName) return first && only ? Tier::kOnly : Tier::kName;
+  if (first) return Tier::kFirst;
+  return form ? Tier::kInflected : Tier::kOrdinary;
 }
 
 /// Sorts `words`, removes all but the first of those that are equal, and returns the new index of
@@ -96,22 +83,57 @@ std::vector<std::uint32_t> sortWords(std::vector<std::u16string>& words) {
 
 }  // namespace
 
-/// Adds a pair of the headword added last.
-void PairCollector::addPair(const std::u16string& chinese, Tier tier, std::size_t position) {
+void PairCollector::addHeadword(const std::u16string& word, std::uint32_t rank, bool important) {
+  english_.push_back(word);
+  headwords_.push_back({rank, important});
+}
+
+/// `parts` are the parts of speech of the equivalent's line.
+void PairCollector::addPair(std::uint32_t english, const std::u16string& chinese, Tier tier,
+                            std::size_t position, PartOfSpeechSet parts) {
   const auto next = static_cast<std::uint32_t>(chinese_.size());
   const auto [place, isNew] = chineseIds_.try_emplace(chinese, next);
   if (isNew) chinese_.push_back(chinese);
-  const auto english = static_cast<std::uint32_t>(english_.size() - 1);
   pairs_.push_back({english, place->second, tier,
                     static_cast<std::uint8_t>(std::min(position, Pair::kMaxPosition))});
+  parts_.push_back(parts);
+}
+
+/// Notes that the entry, whose own pairs are added, is a form, unless its translation gives the
+/// form's meaning: "离弃( abandon的第三人称单数 ); 放弃". Returns the number of pairs added.
+std::size_t PairCollector::addForm(const Entry& entry, const std::vector<Sense>& senses) {
+  const auto noting = std::ranges::find_if(
+      entry.lines, [](const TranslationLine& line) { return !line.inflection.empty(); });
+  const bool inNote = noting != entry.lines.end();
+  const auto named = std::ranges::find_if(senses, &Sense::reference);
+  FormEntry form{.english = 0, .inflection = {}, .noted = true, .alone = true, .next = 0};
+  form.alone = std::ranges::all_of(senses, &Sense::reference);
+  std::u16string note;
+  if (named != senses.end()) {
+    form.inflection = *inflectionIn(*named->word);
+  } else if (inNote && senses.empty()) {
+    note = noting->inflection;
+    form.inflection = inflectionIn(note).value_or(Inflection());
+  } else if (!inNote && entry.inflection) {
+    form.noted = false;
+    form.inflection = *entry.inflection;
+    if (senses.empty()) note = inflectionText(form.inflection);
+  }
+  if (senses.empty() && note.empty()) return 0;
+  if (senses.empty()) {
+    addHeadword(entry.headword, entry.rank, entry.important);
+    addPair(static_cast<std::uint32_t>(english_.size() - 1), note,
+            entry.important ? Tier::kImportantFirst : Tier::kFirst, 0);
+  }
+  form.english = static_cast<std::uint32_t>(english_.size() - 1);
+  form.next = std::max<std::size_t>(senses.size(), 1);
+  if (!form.inflection.lemma.empty()) forms_.push_back(std::move(form));
+  return senses.empty() ? 1 : 0;
 }
 
 std::size_t PairCollector::add(const Entry& entry) {
-  const auto inflectedLine = std::ranges::find_if(
-      entry.lines, [](const TranslationLine& line) { return !line.inflection.empty(); });
-  const bool inflected = inflectedLine != entry.lines.end();
-  const std::vector<Candidate> candidates = candidatesOf(entry);
-  if (candidates.empty() && !entry.references.empty()) {
+  const std::vector<Sense> senses = sensesOf(entry);
+  if (senses.empty() && !entry.references.empty()) {
     Reference reference{entry.headword, {}, entry.important};
     for (const std::u16string& other : entry.references) {
       reference.others.push_back(text::toLower(other));
@@ -119,54 +141,128 @@ std::size_t PairCollector::add(const Entry& entry) {
     references_.push_back(std::move(reference));
     return 0;
   }
-  if (candidates.empty() && !inflected) return 0;
-
-  // "apple的复数" is the only meaning of many inflected forms.
-  english_.push_back(entry.headword);
-  if (candidates.empty()) {
-    addPair(inflectedLine->inflection, tierOf(entry, true, Kind::kOrdinary, true, true), 0);
-    return 1;
+  if (senses.empty()) return addForm(entry, senses);
+  addHeadword(entry.headword, entry.rank, entry.important);
+  const auto english = static_cast<std::uint32_t>(english_.size() - 1);
+  const bool form = entry.inflection || std::ranges::any_of(senses, &Sense::reference) ||
+                    std::ranges::any_of(entry.lines, [](const TranslationLine& line) {
+                      return !line.inflection.empty();
+                    });
+  std::size_t nth = 0;
+  for (std::size_t i = 0; i < senses.size(); ++i) {
+    nth = i > 0 && senses[i - 1].kind == senses[i].kind ? nth + 1 : 0;
+    const bool only = senses[0].kind == senses[i].kind;
+    addPair(english, *senses[i].word, tierOf(entry, form, senses[i], only, nth), i,
+            senses[i].parts);
   }
-  for (std::size_t i = 0; i < candidates.size(); ++i) {
-    const Kind kind = candidates[i].kind;
-    const bool first = i == 0 || candidates[i - 1].kind != kind;
-    const bool only = candidates[0].kind == kind;
-    addPair(*candidates[i].word, tierOf(entry, inflected, kind, only, first), i);
-  }
-  return candidates.size();
+  addForm(entry, senses);
+  return senses.size();
 }
 
-/// Done in the end, since an entry may refer to one that comes after it. References to references
-/// are not followed.
+/// Adds the first equivalents of `words`: neither names nor what is from the web, unless there is
+/// nothing else, nor that they are forms themselves.
+void PairCollector::collectMeanings(ReferredWords& words) const {
+  for (std::size_t i = 0; i < pairs_.size(); ++i) {
+    const Pair& pair = pairs_[i];
+    if (pair.tier >= Tier::kOnly) continue;
+    const auto found = words.find(text::toLower(english_[pair.english]));
+    if (found == words.end() || found->second.meanings.size() == kMaxMeanings) continue;
+    if (inflectionIn(chinese_[pair.chinese])) continue;
+    found->second.rank = headwords_[pair.english].rank;
+    found->second.important = headwords_[pair.english].important;
+    found->second.meanings.push_back({pair.chinese, parts_[i]});
+  }
+}
+
+/// References to references are not followed.
 void PairCollector::followReferences() {
-  std::unordered_map<std::u16string, std::vector<std::uint32_t>> meanings;
+  ReferredWords words;
   for (const Reference& reference : references_) {
-    for (const std::u16string& other : reference.others) meanings.try_emplace(other);
+    for (const std::u16string& other : reference.others) words.try_emplace(other);
   }
-  for (const Pair& pair : pairs_) {
-    const auto found = meanings.find(text::toLower(english_[pair.english]));
-    const bool wanted =
-        found != meanings.end() && pair.tier < Tier::kOnly && found->second.size() < kMaxFollowed;
-    if (wanted) found->second.push_back(pair.chinese);
-  }
+  collectMeanings(words);
   for (const Reference& reference : references_) {
-    english_.push_back(reference.headword);
+    addHeadword(reference.headword, 0, reference.important);
+    const auto english = static_cast<std::uint32_t>(english_.size() - 1);
     std::size_t position = 0;
     for (const std::u16string& other : reference.others) {
-      for (const std::uint32_t chinese : meanings[other]) {
+      std::size_t followed = 0;
+      for (const Meaning& meaning : words.at(other).meanings) {
+        if (followed++ == kMaxFollowed) break;
         const bool first = position == 0;
         const Tier tier = reference.important ? (first ? Tier::kImportantFirst : Tier::kImportant)
                                               : (first ? Tier::kFirst : Tier::kOrdinary);
         // A copy: addPair() may grow the list that holds the word.
-        addPair(std::u16string(chinese_[chinese]), tier, position++);
+        addPair(english, std::u16string(chinese_[meaning.chinese]), tier, position++,
+                meaning.parts);
       }
     }
   }
-  references_.clear();
+}
+
+/// Whether readers who meet the form most often meet it as one of its lemma, although it has a
+/// meaning of its own: whether it has no rank as a word of its own, or one behind that of the
+/// lemma's form. The source ranks lemmas. A verb's single forms have some 2/7 of its occurrences
+/// each, and a part of speech that the source names after others is rarer: "used" (641) is a form
+/// of "use" (87, a noun first) to most readers, "evening" (651) none of "even" (107, an adjective).
+bool PairCollector::hides(const FormEntry& form, const Referred& lemma) const {
+  const PartOfSpeechSet wanted = partsOfSpeechOf(form.inflection.forms);
+  const auto matches = [&](const Meaning& meaning) { return (meaning.parts & wanted) != 0; };
+  if (std::ranges::none_of(lemma.meanings, matches)) return false;
+  const std::uint64_t rank = headwords_[form.english].rank;
+  if (rank == 0) return true;
+  if (lemma.rank == 0) return false;
+  const std::uint64_t rarity = matches(lemma.meanings.front()) ? 1 : 2;
+  return std::uint64_t{lemma.rank} * rarity * 7 / 2 < rank;
+}
+
+/// Adds what a form takes over from its lemma: the note whose form it is and the lemma's first
+/// equivalents of that part of speech; of two parts of speech ("hands") from both.
+void PairCollector::followForm(const FormEntry& form, const Referred& lemma) {
+  const bool important = lemma.important || headwords_[form.english].important;
+  const Tier first = important ? Tier::kImportantFirst : Tier::kFirst;
+  const Tier further = important ? Tier::kImportant : Tier::kInflected;
+  const std::u16string note = inflectionText(form.inflection);
+  if (!form.noted && !note.empty()) addPair(form.english, note, further, form.next);
+
+  const PartOfSpeechSet wanted = partsOfSpeechOf(form.inflection.forms);
+  std::vector<Meaning> fitting;
+  for (const Meaning& meaning : lemma.meanings) {
+    if ((meaning.parts & wanted) != 0) fitting.push_back(meaning);
+  }
+  if (fitting.empty()) fitting = lemma.meanings;
+  const std::size_t limit = important ? kMaxTaken : kMaxTakenOfRare;
+  // The last place is for another part of speech, if there is one.
+  const auto other = std::ranges::find_if(fitting, [&](const Meaning& meaning) {
+    return (meaning.parts & fitting.front().parts) == 0;
+  });
+  if (fitting.size() > limit && other - fitting.begin() >= static_cast<std::ptrdiff_t>(limit) &&
+      other != fitting.end()) {
+    fitting[limit - 1] = *other;
+  }
+  fitting.resize(std::min(fitting.size(), limit));
+  std::size_t position = form.next;
+  for (const Meaning& meaning : fitting) {
+    const Tier tier = form.alone && position == form.next ? first : further;
+    addPair(form.english, std::u16string(chinese_[meaning.chinese]), tier, ++position);
+  }
+}
+
+/// After references were followed: "randomised" is a form of "randomise", which is "= randomize".
+void PairCollector::followForms() {
+  ReferredWords words;
+  for (const FormEntry& form : forms_) words.try_emplace(form.inflection.lemma);
+  collectMeanings(words);
+  for (const FormEntry& form : forms_) {
+    const Referred& lemma = words.at(form.inflection.lemma);
+    if (lemma.meanings.empty()) continue;
+    if (form.noted || form.alone || hides(form, lemma)) followForm(form, lemma);
+  }
 }
 
 Vocabulary PairCollector::finish() && {
   followReferences();
+  followForms();
   chineseIds_.clear();
   const std::vector<std::uint32_t> englishPlaces = sortWords(english_);
   const std::vector<std::uint32_t> chinesePlaces = sortWords(chinese_);

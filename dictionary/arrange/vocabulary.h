@@ -6,27 +6,44 @@
 #include <unordered_map>
 #include <vector>
 
+#include "dictionary/arrange/senses.h"
 #include "dictionary/translation/entry.h"
 
 /// The pairs that could be rows of the general dictionary, and what each is worth.
 namespace dictionary {
 
-/// Value of a pair where not all of them fit, the most valuable first. "Important" words are those
-/// of SourceEntry::important; names and web equivalents are those with such a subject tag.
+/// Value of a pair where not all of them fit, the most valuable first: what readers of running text
+/// meet most is kept.
+///
+/// A word is important if the source gives it a frequency rank, a place in a learner's dictionary
+/// or in an examination's list (SourceEntry::important), and so are the forms of such a word, which
+/// the source ranks under their lemma only ("went" has no rank, "go" has 37). That is measured on
+/// words, not on equivalents; among the equivalents of one word the source's order counts, which is
+/// its order of importance, and which of a common word's many equivalents are offered at all is
+/// decided before (sensesOf). From this follows the order of the tiers:
+///
+/// 1. Every important word has a row, and a form has one that is not only the note whose form it
+/// is.
+/// 2. Then all that is offered for important words: further equivalents, what a form takes over
+///    from its lemma, and noted names ("詹姆斯（姓氏, 男子名）").
+/// 3. Then one row for every other word that has an ordinary equivalent: a reader who meets the
+///    word is helped by the first meaning far more than by a fifth one of another rare word.
+/// 4. Further equivalents of these words, then what their forms take over.
+/// 5. Words without a sign of importance that have only names or equivalents from the web, and
+///    further ones of both kinds. There is room for few of these.
 enum class Tier : std::uint8_t {
   kImportantFirst,  ///< first equivalent of an important word
   kImportant,       ///< further equivalent of an important word
   kFirst,           ///< first equivalent of another word
   kOrdinary,        ///< further equivalent of another word
-  kInflectedFirst,  ///< first equivalent of an inflected form
-  kInflected,       ///< further equivalent of an inflected form
+  kInflected,       ///< further equivalent of another word's form
   kOnly,            ///< first equivalent of a word that has only names or web equivalents
   kWebFirst,        ///< first web equivalent of a word that has others
   kName,            ///< any other name
   kWeb,             ///< any other web equivalent
 };
 
-inline constexpr std::size_t kTierCount = 10;
+inline constexpr std::size_t kTierCount = 9;
 
 /// An English headword and a Chinese equivalent, as indexes into the vocabulary's lists.
 struct Pair {
@@ -50,7 +67,9 @@ struct Vocabulary {
 class PairCollector {
  public:
   /// Adds the entry's pairs and returns their number. Copies the texts. An entry that has none but
-  /// refers to another headword gets the first four of that one's pairs in finish().
+  /// refers to another headword gets the first four of that one's pairs in finish(). An entry that
+  /// is a form of another word gets that one's first equivalents there, unless its own translation
+  /// gives them or is what readers most often mean by it.
   std::size_t add(const Entry& entry);
 
   /// Returns everything added, sorted; words that are equal in the text order (they differ in case
@@ -58,6 +77,12 @@ class PairCollector {
   [[nodiscard]] Vocabulary finish() &&;
 
  private:
+  /// A headword with pairs, and what is known of it.
+  struct Headword {
+    std::uint32_t rank = 0;
+    bool important = false;
+  };
+
   /// An entry that gives other headwords, here in lower case, as its meaning.
   struct Reference {
     std::u16string headword;
@@ -65,14 +90,47 @@ class PairCollector {
     bool important = false;
   };
 
+  /// A headword that is a form of another one.
+  struct FormEntry {
+    std::uint32_t english = 0;  ///< index of the headword; its pairs are added
+    Inflection inflection;
+    bool noted = false;    ///< whether the translation names the form
+    bool alone = false;    ///< whether it gives nothing else
+    std::size_t next = 0;  ///< position after those of its own pairs
+  };
+
+  /// A pair of a word that others refer to.
+  struct Meaning {
+    std::uint32_t chinese = 0;
+    PartOfSpeechSet parts = 0;
+  };
+
+  /// Such a word.
+  struct Referred {
+    std::uint32_t rank = 0;
+    bool important = false;
+    std::vector<Meaning> meanings;
+  };
+  using ReferredWords = std::unordered_map<std::u16string, Referred>;
+
+  std::size_t addForm(const Entry& entry, const std::vector<Sense>& senses);
+  void collectMeanings(ReferredWords& words) const;
   void followReferences();
-  void addPair(const std::u16string& chinese, Tier tier, std::size_t position);
+  void followForms();
+  void followForm(const FormEntry& form, const Referred& lemma);
+  [[nodiscard]] bool hides(const FormEntry& form, const Referred& lemma) const;
+  void addHeadword(const std::u16string& word, std::uint32_t rank, bool important);
+  void addPair(std::uint32_t english, const std::u16string& chinese, Tier tier,
+               std::size_t position, PartOfSpeechSet parts = 0);
 
   std::vector<std::u16string> english_;  ///< one for each entry with pairs, in their order
+  std::vector<Headword> headwords_;      ///< by index into english_
   std::vector<std::u16string> chinese_;  ///< distinct, in the order of their first use
   std::unordered_map<std::u16string, std::uint32_t> chineseIds_;  ///< indexes into chinese_
   std::vector<Pair> pairs_;
+  std::vector<PartOfSpeechSet> parts_;  ///< by index into pairs_
   std::vector<Reference> references_;
+  std::vector<FormEntry> forms_;
 };
 
 }  // namespace dictionary

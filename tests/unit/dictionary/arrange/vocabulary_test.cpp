@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -16,8 +18,10 @@ using dictionary::PairCollector;
 using dictionary::Tier;
 using dictionary::Vocabulary;
 
-Entry entry(const std::string& word, const std::string& translation, bool important = false) {
-  std::optional<Entry> extracted = dictionary::extractEntry({word, translation, important});
+Entry entry(const std::string& word, const std::string& translation, bool important = false,
+            std::uint32_t rank = 0, const std::string& exchange = "") {
+  std::optional<Entry> extracted =
+      dictionary::extractEntry({word, translation, important, rank, exchange});
   EXPECT_TRUE(extracted.has_value());
   return std::move(*extracted);
 }
@@ -77,7 +81,7 @@ TEST(PairCollector, RatesPairs) {
   EXPECT_EQ(tierOf(vocabulary, u"数码"), Tier::kWeb);
   EXPECT_EQ(tierOf(vocabulary, u"算盘"), Tier::kFirst);
   EXPECT_EQ(tierOf(vocabulary, u"顶板"), Tier::kOrdinary);
-  EXPECT_EQ(tierOf(vocabulary, u"苹果"), Tier::kInflectedFirst);
+  EXPECT_EQ(tierOf(vocabulary, u"苹果"), Tier::kFirst);
   EXPECT_EQ(tierOf(vocabulary, u"苹果树"), Tier::kInflected);
   EXPECT_EQ(tierOf(vocabulary, u"瑞克洋"), Tier::kOnly);
   EXPECT_EQ(tierOf(vocabulary, u"古洋"), Tier::kWeb);
@@ -88,6 +92,118 @@ TEST(PairCollector, RatesPairs) {
 TEST(PairCollector, RatesANameInCommonUseAsImportant) {
   const Vocabulary vocabulary = collect({entry("alexander", "n. 亚历山大（男子名）", true)});
   EXPECT_EQ(tierOf(vocabulary, u"亚历山大"), Tier::kImportantFirst);
+}
+
+// james "n. 詹姆斯（姓氏, 男子名）；[圣]《雅各书》" had 雅各书 only.
+TEST(PairCollector, RatesNotedNamesOfAnImportantWordLikeItsFurtherSenses) {
+  const Vocabulary vocabulary = collect(
+      {entry("james", "n. 詹姆斯（姓氏, 男子名）；[圣]《雅各书》", true, 981),
+       entry("rarely", "n. 少见\\n[人名] 雷利", false),
+       entry("many", "n. 多\\nn. (Many)人名；(法)马尼；(意)马纳；(英)梅尼；(德)曼尼", true)});
+  EXPECT_EQ(tierOf(vocabulary, u"詹姆斯"), Tier::kImportant);
+  EXPECT_EQ(tierOf(vocabulary, u"雷利"), Tier::kName);
+  EXPECT_EQ(tierOf(vocabulary, u"梅尼"), Tier::kImportant);
+  EXPECT_EQ(tierOf(vocabulary, u"曼尼"), Tier::kName);
+}
+
+/// The Chinese texts of a headword, in the order of their value.
+std::vector<std::u16string> valued(const Vocabulary& vocabulary, std::u16string_view english) {
+  std::vector<Pair> pairs;
+  for (const Pair& pair : vocabulary.pairs) {
+    if (vocabulary.english[pair.english] == english) pairs.push_back(pair);
+  }
+  std::ranges::stable_sort(pairs, {},
+                           [](const Pair& pair) { return std::tuple(pair.tier, pair.position); });
+  std::vector<std::u16string> texts;
+  for (const Pair& pair : pairs) texts.push_back(vocabulary.chinese[pair.chinese]);
+  return texts;
+}
+
+using Texts = std::vector<std::u16string>;
+
+// The first three of the verb's, not of the noun's; it comes later in the source.
+TEST(PairCollector, GivesAFormTheFirstEquivalentsOfItsLemma) {
+  const Vocabulary vocabulary =
+      collect({entry("taken", "take的过去分词", true, 32667, "0:take/1:d/d:taken"),
+               entry("take", "n. 捕获量\\nvt. 拿, 取, 抓, 占领\\nvi. 获得", true, 51)});
+  EXPECT_EQ(valued(vocabulary, u"taken"), (Texts{u"take的过去分词", u"拿", u"取", u"抓"}));
+  EXPECT_EQ(tierOf(vocabulary, u"take的过去分词"), Tier::kImportantFirst);
+  EXPECT_EQ(texts(vocabulary).size(), 10U);
+}
+
+// "went" has no sign of importance itself.
+TEST(PairCollector, TakesAFormForAsImportantAsItsLemma) {
+  const Vocabulary vocabulary =
+      collect({entry("went", "go的过去式", false, 0, "0:go/1:p"),
+               entry("go", "vi. 去, 走, 达到, 运转", true, 37),
+               entry("abided", "abide的过去式和过去分词"), entry("abide", "vt. 容忍, 忍受, 等候")});
+  const auto tier = [&](std::u16string_view english, std::u16string_view chinese) {
+    for (const Pair& pair : vocabulary.pairs) {
+      if (vocabulary.english[pair.english] == english &&
+          vocabulary.chinese[pair.chinese] == chinese) {
+        return pair.tier;
+      }
+    }
+    return Tier::kWeb;
+  };
+  EXPECT_EQ(valued(vocabulary, u"went"), (Texts{u"去", u"走", u"达到", u"go的过去式"}));
+  EXPECT_EQ(tier(u"went", u"去"), Tier::kImportantFirst);
+  EXPECT_EQ(tier(u"went", u"走"), Tier::kImportant);
+  EXPECT_EQ(valued(vocabulary, u"abided"), (Texts{u"abide的过去式和过去分词", u"容忍", u"忍受"}));
+  EXPECT_EQ(tier(u"abided", u"容忍"), Tier::kFirst);
+  EXPECT_EQ(tier(u"abided", u"忍受"), Tier::kInflected);
+}
+
+TEST(PairCollector, GivesAFormOfTwoPartsOfSpeechBoth) {
+  const Vocabulary vocabulary =
+      collect({entry("hand", "n. 手, 爪, 指针\\nvt. 交给, 支持", true, 163),
+               entry("hands", "n. 拥有, 所有\\n[计] 动手", false, 0, "0:hand/1:s3")});
+  EXPECT_EQ(valued(vocabulary, u"hands"),
+            (Texts{u"hand的复数和第三人称单数", u"手", u"爪", u"交给", u"拥有", u"所有", u"动手"}));
+}
+
+// "asked n. 卖方要价", "evening n. 傍晚, 晚间", "felt n. 毛毡 … feel的过去式和过去分词".
+TEST(PairCollector, GivesItToAFormWhoseOwnMeaningHidesItsCommonUse) {
+  const Vocabulary vocabulary =
+      collect({entry("asked", "n. 卖方要价", false, 0, "0:ask/1:pd"),
+               entry("ask", "vt. 问, 要求, 邀请", true, 121),
+               entry("evening", "n. 傍晚, 晚间", true, 651, "1:i/0:even"),
+               entry("even", "a. 平坦的, 相等的\\nvt. 使平坦, 使相等", true, 107),
+               entry("used", "a. 使用过的, 二手的", true, 641, "0:use/1:dp"),
+               entry("use", "n. 使用, 习惯\\nvt. 使用, 利用, 运用", true, 87),
+               entry("felt", "n. 毛毯, 毡\\nfeel的过去式和过去分词", true, 100, "0:feel/1:pd"),
+               entry("feel", "vt. 感觉, 觉得, 触摸", true, 134)});
+  EXPECT_EQ(valued(vocabulary, u"asked"),
+            (Texts{u"ask的过去式和过去分词", u"问", u"要求", u"邀请", u"卖方要价"}));
+  EXPECT_EQ(valued(vocabulary, u"evening"), (Texts{u"傍晚", u"晚间"}));
+  EXPECT_EQ(valued(vocabulary, u"used"),
+            (Texts{u"使用过的", u"二手的", u"use的过去式和过去分词", u"使用", u"利用", u"运用"}));
+  EXPECT_EQ(valued(vocabulary, u"felt").size(), 6U) << "the translation names the form";
+}
+
+// "outs n. 未现赢张": "out" has no noun. "abandons" has what the form means already.
+TEST(PairCollector, LeavesOtherFormsAsTheyAre) {
+  const Vocabulary vocabulary = collect(
+      {entry("outs", "n. 未现赢张", false, 0, "0:out/1:s"),
+       entry("out", "a. 外面的\\nadv. 在外", true, 62),
+       entry("abandons", "v. 离弃( abandon的第三人称单数 ); 放弃", false, 0, "0:abandon/1:3"),
+       entry("abandon", "vt. 遗弃, 沉溺", true, 3000), entry("carven", "caeve的过去分词")});
+  EXPECT_EQ(valued(vocabulary, u"outs"), (Texts{u"未现赢张"}));
+  EXPECT_EQ(valued(vocabulary, u"abandons"), (Texts{u"离弃", u"放弃"}));
+  EXPECT_EQ(valued(vocabulary, u"carven"), (Texts{u"caeve的过去分词"})) << "no such lemma";
+}
+
+TEST(PairCollector, FollowsAFormToALemmaThatIsAReference) {
+  const Vocabulary vocabulary = collect({entry("randomised", "randomise的变形"),
+                                         entry("randomise", "vt. [主英国英语]＝randomize"),
+                                         entry("randomize", "vt. 随机化, 使随机化")});
+  EXPECT_EQ(valued(vocabulary, u"randomised"), (Texts{u"randomise的变形", u"随机化", u"使随机化"}));
+}
+
+TEST(PairCollector, MakesAnEntryOfAFormWithoutAnyTranslation) {
+  const Vocabulary vocabulary =
+      collect({entry("sayed", "", false, 0, "0:say/1:p"), entry("say", "vt. 说, 讲", true, 31)});
+  EXPECT_EQ(valued(vocabulary, u"sayed"), (Texts{u"说", u"say的过去式", u"讲"}));
 }
 
 TEST(PairCollector, PairsABareInflectedFormWithItsNote) {

@@ -1,0 +1,125 @@
+#include "dictionary/arrange/senses.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace dictionary {
+namespace {
+
+/// Senses of a common word that are kept: as many as the popup and the pane show at a glance.
+constexpr std::size_t kMaxSenses = 10;
+/// Of these, senses from the lines of subjects.
+constexpr std::size_t kMaxSubjectSenses = 2;
+
+/// A web tag outweighs a name's.
+SenseKind kindOf(SubjectSet subjects) {
+  if ((subjects & setOf(Subject::kWeb)) != 0) return SenseKind::kWeb;
+  return (subjects & kNameSubjects) != 0 ? SenseKind::kName : SenseKind::kOrdinary;
+}
+
+/// A sense, and what decides whether it is kept.
+struct Candidate {
+  Sense sense;
+  std::size_t line = 0;
+  bool subject = false;
+  bool slang = false;
+};
+
+bool isOrdinary(const Candidate& candidate) { return candidate.sense.kind == SenseKind::kOrdinary; }
+
+/// All distinct senses, by kind.
+std::vector<Candidate> candidatesOf(const Entry& entry) {
+  std::vector<Candidate> candidates;
+  for (const SenseKind kind : {SenseKind::kOrdinary, SenseKind::kName, SenseKind::kWeb}) {
+    for (std::size_t i = 0; i < entry.lines.size(); ++i) {
+      const TranslationLine& line = entry.lines[i];
+      for (const Piece& piece : line.pieces) {
+        const std::u16string& word = piece.equivalent.word;
+        if (word.empty() || kindOf(piece.subjects) != kind) continue;
+        const auto known = std::ranges::find_if(
+            candidates, [&](const Candidate& other) { return *other.sense.word == word; });
+        if (known != candidates.end()) {
+          // "n. 使用, 习惯\nvt. 使用, 利用": a noun's equivalent and a verb's.
+          known->sense.parts = static_cast<PartOfSpeechSet>(known->sense.parts | line.parts);
+          continue;
+        }
+        const bool reference = inflectionIn(word).has_value();
+        candidates.push_back(
+            {{&word, kind, line.parts, reference}, i, piece.subjects != 0, piece.slang});
+      }
+    }
+  }
+  return candidates;
+}
+
+/// Returns at most `limit` candidates, chosen in turn from each line, the first of every line
+/// first; in their order.
+std::vector<Candidate> inTurn(const std::vector<Candidate>& candidates, std::size_t limit) {
+  std::vector<std::size_t> turns(candidates.size());
+  std::vector<std::size_t> order;
+  for (std::size_t i = 0; i < candidates.size(); ++i) {
+    const bool sameLine = i > 0 && candidates[i].line == candidates[i - 1].line;
+    turns[i] = sameLine ? turns[i - 1] + 1 : 0;
+    order.push_back(i);
+  }
+  std::ranges::stable_sort(order, {}, [&](std::size_t index) { return turns[index]; });
+  if (order.size() > limit) order.resize(limit);
+  std::ranges::sort(order);
+  std::vector<Candidate> taken;
+  for (const std::size_t index : order) taken.push_back(candidates[index]);
+  return taken;
+}
+
+/// What is kept of a common word's senses.
+std::vector<Candidate> chosen(std::vector<Candidate> candidates) {
+  const auto plain = [](const Candidate& one) {
+    return isOrdinary(one) && !one.slang && !one.subject;
+  };
+  const auto plainSenses = std::ranges::count_if(candidates, plain);
+  if (plainSenses > 0) {
+    std::erase_if(candidates, [](const Candidate& one) {
+      return one.sense.kind == SenseKind::kWeb || (isOrdinary(one) && one.slang);
+    });
+  }
+  const bool functionWord = std::ranges::any_of(candidates, [](const Candidate& one) {
+    return (one.sense.parts & setOf(PartOfSpeech::kFunction)) != 0;
+  });
+  // Beside "be的单数第一人称" alone, the senses of subjects are those of abbreviations in capitals.
+  const bool onlyForm =
+      plainSenses > 0 && std::ranges::all_of(candidates, [&](const Candidate& one) {
+        return !plain(one) || one.sense.reference;
+      });
+  const bool none = functionWord || onlyForm;
+  const std::size_t fromSubjects = plainSenses == 0 ? kMaxSenses : none ? 0 : kMaxSubjectSenses;
+  std::vector<Candidate> general;
+  std::vector<Candidate> subject;
+  std::vector<Candidate> others;
+  for (Candidate& candidate : candidates) {
+    const bool counted = isOrdinary(candidate) && !candidate.sense.reference;
+    (counted ? candidate.subject ? subject : general : others).push_back(candidate);
+  }
+  subject = inTurn(subject, fromSubjects);
+  std::vector<Candidate> result = inTurn(general, kMaxSenses - subject.size());
+  result.insert(result.end(), subject.begin(), subject.end());
+  result.insert(result.end(), others.begin(), others.end());
+  // References of forms are ordinary senses, names and what is from the web come after them.
+  std::ranges::stable_sort(result, {},
+                           [](const Candidate& candidate) { return candidate.sense.kind; });
+  return result;
+}
+
+}  // namespace
+
+std::vector<Sense> sensesOf(const Entry& entry) {
+  std::vector<Candidate> candidates = candidatesOf(entry);
+  // A form has no rank, but may be as common as its lemma.
+  const bool form = std::ranges::any_of(
+      candidates, [](const Candidate& candidate) { return candidate.sense.reference; });
+  if (isCommon(entry) || form) candidates = chosen(std::move(candidates));
+  std::vector<Sense> senses;
+  senses.reserve(candidates.size());
+  for (const Candidate& candidate : candidates) senses.push_back(candidate.sense);
+  return senses;
+}
+
+}  // namespace dictionary

@@ -1,0 +1,95 @@
+// Translations are those of the source, some shortened.
+#include "dictionary/arrange/senses.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "dictionary/translation/entry.h"
+
+namespace {
+
+using dictionary::Entry;
+using dictionary::sensesOf;
+
+constexpr std::uint32_t kRare = 60'000;
+
+Entry entry(const std::string& word, const std::string& translation, std::uint32_t rank) {
+  auto extracted = dictionary::extractEntry({word, translation, true, rank, ""});
+  EXPECT_TRUE(extracted.has_value());
+  return std::move(*extracted);
+}
+
+std::vector<std::u16string> words(const Entry& entry) {
+  std::vector<std::u16string> words;
+  for (const dictionary::Sense& sense : sensesOf(entry)) words.push_back(*sense.word);
+  return words;
+}
+
+using Words = std::vector<std::u16string>;
+
+TEST(Senses, OfARareWordAreAllOrdinaryFirstThenNamesThenFromTheWeb) {
+  const Entry rare = entry(
+      "abaci", "[网络] 算盘\\n[人名] 阿巴奇\\nn. 顶板, 甲, 乙, 丙, 丁, 戊, 己, 庚, 辛, 壬, 癸, 子",
+      kRare);
+  EXPECT_EQ(words(rare), (Words{u"顶板", u"甲", u"乙", u"丙", u"丁", u"戊", u"己", u"庚", u"辛",
+                                u"壬", u"癸", u"子", u"阿巴奇", u"算盘"}));
+}
+
+TEST(Senses, AreDistinct) {
+  EXPECT_EQ(words(entry("bit", "n. 位, 比特\\n[计] 位", kRare)), (Words{u"位", u"比特"}));
+}
+
+TEST(Senses, OfACommonWordAreTenInTurnFromEachLine) {
+  const std::string hand =
+      "n. 手, 爪, 指针, 掌握, 协助, 人手, 手艺, 手迹, 支配, 插手\\n"
+      "vt. 交给, 支持, 搀扶";
+  EXPECT_EQ(words(entry("hand", hand, 163)), (Words{u"手", u"爪", u"指针", u"掌握", u"协助",
+                                                    u"人手", u"手艺", u"交给", u"支持", u"搀扶"}));
+  EXPECT_EQ(words(entry("hand", hand, dictionary::kCommonRank)).size(), 10U);
+  EXPECT_EQ(words(entry("hand", hand, dictionary::kCommonRank + 1)).size(), 13U);
+  EXPECT_EQ(words(entry("hand", hand, 0)).size(), 13U) << "0 is no rank";
+}
+
+TEST(Senses, OfACommonWordAreNoSlangBesideOthers) {
+  EXPECT_EQ(words(entry("william", "n. 威廉（男子名）；[常作W-][美俚]钞票, 纸币", 1122)),
+            (Words{u"钞票", u"纸币", u"威廉"}))
+      << "a name is no other ordinary sense";
+  EXPECT_EQ(words(entry("copper", "n. 铜, 铜币；[俚]警察, 巡警；红铜色", 2500)),
+            (Words{u"铜", u"铜币", u"红铜色"}));
+  EXPECT_EQ(words(entry("thou", "pron. <古>你, 汝\\nn. 千", 4000)), (Words{u"千"}));
+  EXPECT_EQ(words(entry("thou", "pron. <古>你, 汝", 4000)), (Words{u"你", u"汝"}));
+  EXPECT_EQ(words(entry("copper", "n. 铜；[俚]警察", kRare)), (Words{u"铜", u"警察"}));
+}
+
+TEST(Senses, OfACommonWordAreTwoOfASubjectAtMost) {
+  EXPECT_EQ(words(entry("cell", "n. 小屋, 细胞\\n[计] 单元格, 单元, 存储元\\n[医] 小房", 927)),
+            (Words{u"小屋", u"细胞", u"单元格", u"小房"}));
+  EXPECT_EQ(words(entry("greatest", "[计] 最大的, 甲, 乙", 1597)), (Words{u"最大的", u"甲", u"乙"}))
+      << "there is nothing else";
+}
+
+TEST(Senses, OfAFunctionWordAreNoneOfASubject) {
+  EXPECT_EQ(words(entry("at", "prep. 在, 对, 向\\n[计] 地址转换器", 19)),
+            (Words{u"在", u"对", u"向"}));
+  EXPECT_EQ(words(entry("am", "be的单数第一人称\\n[计] 存取管理程序, 寻址方式", 0)),
+            (Words{u"be的单数第一人称"}));
+}
+
+TEST(Senses, OfACommonWordAreNoneFromTheWebBesideOthers) {
+  EXPECT_EQ(words(entry("data", "pl. 资料, 数据\\n[网络] 数值", 552)), (Words{u"资料", u"数据"}));
+  EXPECT_EQ(words(entry("brexit", "[网络] 脱欧；英国脱欧", 900)), (Words{u"脱欧", u"英国脱欧"}));
+}
+
+TEST(Senses, KnowTheirPartOfSpeechAndWhetherTheyNameAForm) {
+  const Entry saw = entry("saw", "n. 锯子\\nvt. 锯\\nsee的过去式", 6947);
+  const auto senses = sensesOf(saw);
+  ASSERT_EQ(senses.size(), 3U);
+  EXPECT_EQ(senses[0].parts, setOf(dictionary::PartOfSpeech::kNoun));
+  EXPECT_EQ(senses[1].parts, setOf(dictionary::PartOfSpeech::kVerb));
+  EXPECT_FALSE(senses[1].reference);
+  EXPECT_TRUE(senses[2].reference);
+}
+
+}  // namespace
