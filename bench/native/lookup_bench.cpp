@@ -16,7 +16,9 @@
 #include "bench/timings.h"
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
+#include "data/headword_test.h"
 #include "text/query_text.h"
+#include "text/readings.h"
 #include "text/strings.h"
 #include "text/utf.h"
 
@@ -31,6 +33,8 @@ constexpr std::size_t kChineseWords = 2000;
 /// What a keystroke may take at the median, in ms.
 constexpr double kEnglishAim = 0.2;
 constexpr double kChineseAim = 1;
+/// What the readings of one word may take at the median, in ms.
+constexpr double kReadingsAim = 1;
 
 data::RecordSet& run(data::DataControl& control, std::u16string_view sql) {
   control.setRecordSource(sql);
@@ -137,6 +141,24 @@ void timeStart(const char* file) {
   start.print();
 }
 
+/// The readings of one word under the pointer, of which only the last one is a headword.
+void timeReadings(const char* file, const data::IndexWords& indexWords, const Words& words) {
+  data::HeadwordTest test(indexWords);
+  test.setConnectionString(data::connectionString(text::toUtf16(file)));
+  Timings readings("eight readings, none of them a headword", kReadingsAim);
+  for (const std::u16string& word : words) {
+    if (word.size() < text::kMaxReadings) continue;
+    readings.time([&] {
+      bool known = false;
+      for (std::size_t i = 0; i < text::kMaxReadings; ++i) {
+        known = test.has(word.substr(0, word.size() - i) + u"q") || known;
+      }
+      return known;
+    });
+  }
+  readings.print();
+}
+
 int runAll(const std::vector<const char*>& arguments) {
   const char* file = arguments.front();
   data::DataControl control;
@@ -160,6 +182,9 @@ int runAll(const std::vector<const char*>& arguments) {
   Keystroke chineseTimes("Chinese", kChineseAim);
   typist.type(chinese, chineseTimes);
   chineseTimes.print();
+
+  Timings::printHeading("Words under the pointer");
+  timeReadings(file, indexWords, english);
 
   Timings::printHeading("Search in the largest subject dictionary");
   bench::timeSearches(file);

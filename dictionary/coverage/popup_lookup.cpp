@@ -51,8 +51,11 @@ bool isReference(std::u16string_view meaning) {
          });
 }
 
-PopupLookup::PopupLookup(const std::filesystem::path& database) : lookup_(index_, kRules) {
-  control_.setConnectionString(data::connectionString(text::toUtf16(utf8Path(database))));
+PopupLookup::PopupLookup(const std::filesystem::path& database)
+    : test_(index_), lookup_(index_, kRules) {
+  const std::u16string file = data::connectionString(text::toUtf16(utf8Path(database)));
+  control_.setConnectionString(file);
+  test_.setConnectionString(file);
   index_ = data::readIndexWords(control_);
 }
 
@@ -60,8 +63,7 @@ bool PopupLookup::isHeadword(std::u16string_view word) {
   const std::u16string key = text::toLower(word);
   const auto known = headwords_.find(key);
   if (known != headwords_.end()) return known->second;
-  std::u16string escaped(word);
-  const bool found = !meanings(user::escapeQuote(escaped)).empty();
+  const bool found = test_.has(word);
   headwords_.emplace(key, found);
   return found;
 }

@@ -9,6 +9,7 @@
 
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
+#include "data/headword_test.h"
 #include "data/index_words.h"
 
 namespace dictionary {
@@ -44,6 +45,7 @@ class PopupLookup {
 
   data::DataControl control_;
   data::IndexWords index_;
+  data::HeadwordTest test_;
   data::HeadwordLookup lookup_;
   // What was found, by the word in lower case: case makes no difference to the lookups.
   std::unordered_map<std::u16string, bool> headwords_;
