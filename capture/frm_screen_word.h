@@ -4,6 +4,7 @@
 
 #include "capture/probe.h"
 #include "data/data_control.h"
+#include "data/headword_test.h"
 #include "forms/form.h"
 #include "forms/timer.h"
 
@@ -39,6 +40,8 @@ class frmScreenWord : public forms::Form {
   forms::Timer timScreenWord2{*this, 60000, true};
   /// Deliberate: connected, but not used; the popup has its own.
   data::DataControl Adodc1;
+  /// Tells the service which reading of a word is a headword; by a connection of its own.
+  data::HeadwordTest headwords;
 
   /// Returns the pointer's position in screen pixels; tests set one of their own.
   std::function<POINT()> pointerPlace = [] {

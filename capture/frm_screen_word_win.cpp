@@ -104,7 +104,7 @@ LRESULT frmScreen::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
-frmScreenWord::frmScreenWord() : Form(hostDesign()) {
+frmScreenWord::frmScreenWord() : Form(hostDesign()), headwords(user::IdxWords) {
   timScreenWord1.onTimer = [this] { timScreenWord1_Timer(); };
   Timer1.onTimer = [this] { Timer1_Timer(); };
   // The toolbar shows the host for a moment at start-up, which loads it: left of and above all
@@ -116,6 +116,8 @@ frmScreenWord::frmScreenWord() : Form(hostDesign()) {
 
 void frmScreenWord::Form_Load() {
   Adodc1.setConnectionString(user::ConnectionString);
+  headwords.setConnectionString(user::ConnectionString);
+  nhw32::setHeadwordTest([this](std::u16string_view word) { return headwords.has(word); });
   ScreenWord::hScreenWordWnd = handle();
   ScreenWord::MsgHasString = RegisterWindowMessageA(nhw32::kMessageName);
   ScreenWord::OldWndProc =
@@ -130,6 +132,7 @@ void frmScreenWord::Form_Unload() {
   nhw32::BL_SetFlag32(nhw32::kDisarm, nullptr, 0, 0);
   setProcedure(handle(), ScreenWord::OldWndProc);
   nhw32::ResetNHW32();
+  nhw32::setHeadwordTest(nullptr);
 }
 
 void frmScreenWord::timScreenWord1_Timer() try {

@@ -118,15 +118,15 @@ void Collector::addWord(Range range) {
   setOtherwise(word, range);
 }
 
-bool holds(const IsHeadword& isHeadword, std::u16string_view word) {
+}  // namespace
+
+bool asks(const IsHeadword& isHeadword, std::u16string_view word) {
   try {
-    return isHeadword(word);
+    return isHeadword && isHeadword(word);
   } catch (const std::exception&) {
     return false;
   }
 }
-
-}  // namespace
 
 Readings readingsAt(std::u16string_view text, std::size_t index) {
   if (const auto han = hanRunAt(text, index)) {
@@ -147,7 +147,7 @@ Readings readingsAt(std::u16string_view text, std::size_t index) {
 
 std::optional<Reading> chooseReading(const Readings& readings, const IsHeadword& isHeadword) {
   for (const Reading& candidate : readings.candidates) {
-    if (holds(isHeadword, candidate.word)) return candidate;
+    if (asks(isHeadword, candidate.word)) return candidate;
   }
   return readings.otherwise;
 }

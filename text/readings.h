@@ -54,9 +54,11 @@ struct Readings {
 /// sides of `index`: the cost does not depend on the length of the text.
 Readings readingsAt(std::u16string_view text, std::size_t index);
 
-/// Tells whether a dictionary has a word as a headword. May throw std::exception, which counts as
-/// no.
+/// Tells whether a dictionary has a word as a headword. May throw std::exception.
 using IsHeadword = std::function<bool(std::u16string_view word)>;
+
+/// Asks whether `word` is a headword. No function and one that throws count as no.
+bool asks(const IsHeadword& isHeadword, std::u16string_view word);
 
 /// Returns the first candidate that is a headword, or `readings.otherwise`. Asks for no word after
 /// the first that is one.

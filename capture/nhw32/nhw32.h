@@ -4,7 +4,9 @@
 
 #include <cstdint>
 
-/// The screen-text service: finds the word under a point of the screen, in any program. These four
+#include "text/readings.h"
+
+/// The screen-text service: finds the word under a point of the screen, in any program. These
 /// functions are all that word capture knows of it. To be called by the thread that owns the host
 /// window only; no function throws or waits for another process.
 namespace nhw32 {
@@ -15,6 +17,11 @@ inline constexpr std::uint32_t kDisarm = 1002;
 
 /// RegisterWindowMessage name of the message that announces a word.
 inline constexpr char kMessageName[] = "BL_HASSTRING";
+
+/// Sets the function that tells whether a text is a headword; null, as at first, counts as no for
+/// every text. BL_GetText32 alone calls it, at most text::kMaxReadings times a call, and on its own
+/// thread; if it throws, that counts as no.
+void setHeadwordTest(text::IsHeadword isHeadword);
 
 /// Starts the service; does nothing if it is started. The worker thread is created by the first
 /// kArm.
@@ -32,7 +39,9 @@ void ResetNHW32();
 void BL_SetFlag32(std::uint32_t flag, HWND window, std::int16_t x, std::int16_t y);
 
 /// Copies the announced word, "" if there is none, into `buffer`, and its rectangle in physical
-/// screen pixels into `word` (may be null; all 0 without a word). The buffer holds `size` bytes and
+/// screen pixels into `word` (may be null; all 0 without a word). Of the readings of what is there,
+/// the first that is a headword counts, otherwise the word itself; "" if that touches digits
+/// ("1st"). The buffer holds `size` bytes and
 /// one more for the NUL; the text is in the ANSI code page and truncated at a character boundary.
 /// "" as well if the code page lacks a character of the word, or if another window has come to the
 /// foreground since it was armed.

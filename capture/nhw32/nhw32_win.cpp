@@ -2,6 +2,7 @@
 #include "capture/nhw32/router.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "capture/nhw32/reader.h"
 #include "capture/nhw32/service.h"
@@ -35,6 +36,10 @@ Service& service() {
   return instance;
 }
 
+void setHeadwordTest(text::IsHeadword isHeadword) {
+  service().setHeadwordTest(std::move(isHeadword));
+}
+
 void SetNHW32() { service().start(); }
 
 void ResetNHW32() { service().stop(); }
@@ -51,7 +56,8 @@ void BL_GetText32(char* buffer, std::int32_t size, RECT* word) {
     *word = {found.box.left, found.box.top, found.box.right, found.box.bottom};
   }
   if (buffer == nullptr || size < 0) return;
-  const std::string text = ansiWord(found.text, static_cast<std::size_t>(size), toAnsi);
+  const std::string text =
+      ansiWord(chosenText(found, service().headwordTest()), static_cast<std::size_t>(size), toAnsi);
   *std::ranges::copy(text, buffer).out = '\0';
 }
 

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 /// What a word reader is asked and answers. Portable: a window is a number here.
 ///
@@ -43,10 +44,14 @@ struct Question {
   bool operator==(const Question&) const = default;
 };
 
-/// A word as the window holds it, and its rectangle.
+/// The word at a place, and its rectangle. What is meant there depends on a dictionary, which the
+/// service does not have: see text::readingsAt.
 struct Word {
+  /// Handed over if no candidate is a headword; "" hands over nothing ("1st").
   std::u16string text;
   ScreenBox box;
+  /// The readings to be asked for, in this order; may be empty.
+  std::vector<std::u16string> candidates = {};
   bool operator==(const Word&) const = default;
 };
 

@@ -6,8 +6,10 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "capture/nhw32/mailbox.h"
+#include "text/readings.h"
 
 namespace nhw32 {
 
@@ -42,6 +44,11 @@ class Service {
   /// foreground since the question was armed: a late word must not appear over that window.
   [[nodiscard]] std::optional<Word> word() const;
 
+  /// The function that tells which reading of a word is a headword; null at first. The service
+  /// keeps it for the caller, and does not call it.
+  void setHeadwordTest(text::IsHeadword isHeadword) { isHeadword_ = std::move(isHeadword); }
+  [[nodiscard]] const text::IsHeadword& headwordTest() const { return isHeadword_; }
+
   /// Returns the number of worker threads, including those that are to end but still wait for a
   /// window. For tests and measurements.
   [[nodiscard]] int workers() const { return *workers_; }
@@ -59,6 +66,7 @@ class Service {
   std::shared_ptr<ProbeMailbox> mailbox_;
   HWND foreground_ = nullptr;  ///< the foreground window when the question was armed
   bool started_ = false;
+  text::IsHeadword isHeadword_;
 };
 
 }  // namespace nhw32

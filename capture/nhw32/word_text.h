@@ -5,34 +5,38 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
-/// What a word is, and how it is passed on in a code page. Portable; all functions are pure.
+#include "capture/nhw32/reader.h"
+#include "text/readings.h"
+
+/// The word at a place of a text, and how it is passed on in a code page. Portable; all functions
+/// are pure but for the functions that they are given.
 namespace nhw32 {
 
-/// Maximum length of a word in UTF-16 code units. A longer run is data, not language.
-inline constexpr std::size_t kMaxWord = 128;
-
-/// A half-open range of UTF-16 code units.
-struct Range {
-  std::size_t begin = 0;
-  std::size_t end = 0;
-  bool operator==(const Range&) const = default;
+/// The readings of a word (see Word), and its range in the text: that of the word that is handed
+/// over unasked, otherwise of the first candidate.
+struct FoundWord {
+  std::u16string text;
+  std::vector<std::u16string> candidates;
+  text::Range range;
 };
 
-/// Returns the word that contains the code unit at `index`: a run of Latin letters with single
-/// hyphens and apostrophes between letters, or a run of Han characters. Returns nullopt for any
-/// other character, for an index past the end, and for a run longer than kMaxWord. Reads at most
-/// kMaxWord code units on each side of `index`.
-std::optional<Range> wordAt(std::u16string_view text, std::size_t index);
+/// Returns the word at `index`, nullopt if there is none. Reads at most text::kMaxReading code
+/// units on each side, and where a line's end divides the word further ones after it.
+std::optional<FoundWord> wordAt(std::u16string_view text, std::size_t index);
+
+/// Returns what is handed over: the first candidate that is a headword, otherwise `word.text`.
+/// Throws nothing that `isHeadword` throws.
+std::u16string_view chosenText(const Word& word, const text::IsHeadword& isHeadword);
 
 /// Converts one character (a UTF-16 code unit or a surrogate pair) to the bytes of a code page.
 /// Returns nullopt if the code page does not contain the character.
 using CharacterToBytes = std::function<std::optional<std::string>(std::u16string_view character)>;
 
 /// Converts `word` to the bytes of a code page, at most `capacity` bytes, truncated at a character
-/// boundary. Typographic hyphens and apostrophes become "-" and "'", as dictionaries spell them.
-/// Returns "" if any character is missing from the code page: question marks in its place could be
-/// mistaken for a word.
+/// boundary. Returns "" if any character is missing from the code page: question marks in its place
+/// could be mistaken for a word.
 std::string ansiWord(std::u16string_view word, std::size_t capacity,
                      const CharacterToBytes& toBytes);
 

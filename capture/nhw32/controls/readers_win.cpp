@@ -9,11 +9,11 @@
 #include <cstring>
 #include <limits>
 #include <memory>
+#include <utility>
 
 #include "capture/nhw32/controls/control_layout.h"
 #include "capture/nhw32/controls/target_window.h"
 #include "capture/nhw32/controls/text_geometry.h"
-#include "capture/nhw32/word_text.h"
 #include "win32/win32.h"
 
 // A question about a control takes four steps (readControl): convert the point to the target's
@@ -53,7 +53,7 @@ class EditText : public ControlText {
 
   /// Reads from the beginning: EM_GETLINE, which would copy less, is not safe across processes.
   TextPart textAround(std::size_t position) override {
-    const std::size_t capacity = position + kMaxWord + 2;  // with the NUL
+    const std::size_t capacity = position + kReach + 1;  // with the NUL
     auto buffer = std::make_unique<wchar_t[]>(capacity);
     const auto length = number(askInto(WM_GETTEXT, capacity, buffer));
     return {{buffer.get(), buffer.get() + std::min(length, capacity - 1)}, 0};
@@ -120,7 +120,7 @@ class EditText : public ControlText {
 constexpr std::size_t kStructure = 0;
 constexpr std::size_t kText = 64;
 /// Characters that textAround reads at most.
-constexpr std::size_t kMaxText = 2 * (kMaxWord + 1);
+constexpr std::size_t kMaxText = 2 * kReach;
 /// In UTF-8, the widest ANSI code page, a code unit takes up to three bytes.
 constexpr std::size_t kTextSize = 3 * (kMaxText + 1);
 constexpr std::size_t kMemory = kText + kTextSize;
@@ -139,9 +139,8 @@ class RichEditText : public ControlText {
   }
 
   TextPart textAround(std::size_t position) override {
-    const std::size_t reach = kMaxWord + 1;
-    const std::size_t begin = position > reach ? position - reach : 0;
-    const std::size_t end = std::min(position + reach, length());
+    const std::size_t begin = position > kReach ? position - kReach : 0;
+    const std::size_t end = std::min(position + kReach, length());
     if (begin >= end) return {};
     const auto bitness = memory_.inProgramOf32Bits() ? Bitness::kBits32 : Bitness::kBits64;
     auto bytes = textRangeBytes(bitness, static_cast<std::int32_t>(begin),
@@ -252,13 +251,15 @@ std::optional<Word> readControl(const Question& question) {
   const TargetPoint asked = toTarget(scale, question.point);
   const ClientPoint point = toClient(window, asked);
   if (!inClientArea(window, point)) return std::nullopt;
-  const auto word = wordIn<Text>(target, point);
+  auto word = wordIn<Text>(target, point);
   // The window may have been closed, moved or resized meanwhile.
   if (!word || !target.visible() || toClient(window, asked) != point ||
       !inClientArea(window, point)) {
     return std::nullopt;
   }
-  return Word{word->text, toScreen(scale, fromClient(window, inClientArea(window, word->box)))};
+  return Word{std::move(word->text),
+              toScreen(scale, fromClient(window, inClientArea(window, word->box))),
+              std::move(word->candidates)};
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string_view>
+#include <utility>
 
 #include "capture/nhw32/word_text.h"
 
@@ -120,7 +121,7 @@ class Line {
   }
 
   /// Returns the part of a range that is on this line.
-  [[nodiscard]] Range clipped(Range range) const {
+  [[nodiscard]] text::Range clipped(text::Range range) const {
     return {std::max(range.begin, start_), next_ ? std::min(range.end, *next_) : range.end};
   }
 
@@ -155,7 +156,7 @@ class Line {
 std::optional<PlacedWord> wordOf(ControlText& control, const TextPart& part, std::size_t position,
                                  ClientPoint point) {
   if (position < part.first) return std::nullopt;
-  const auto word = wordAt(part.text, position - part.first);
+  auto word = wordAt(part.text, position - part.first);
   const auto corner = word ? control.cornerOf(position) : std::nullopt;
   if (!corner || point.x < corner->x || point.y < corner->y) return std::nullopt;
   Line line(control, position, *corner);
@@ -163,7 +164,8 @@ std::optional<PlacedWord> wordOf(ControlText& control, const TextPart& part, std
   if (point.x >= letterEnd) return std::nullopt;
   const auto known = line.knownBottom();
   if (known && point.y >= *known) return std::nullopt;
-  const Range shown = line.clipped({part.first + word->begin, part.first + word->end});
+  const text::Range shown =
+      line.clipped({part.first + word->range.begin, part.first + word->range.end});
   // The text may have changed since the first message.
   if (position < shown.begin || position >= shown.end) return std::nullopt;
   const int left = line.leftOf(shown.begin).value_or(corner->x);
@@ -174,7 +176,8 @@ std::optional<PlacedWord> wordOf(ControlText& control, const TextPart& part, std
       known ? *known
             : line.likelyBottom(estimatedHeight(letters, right - left, letterEnd - corner->x));
   if (point.y >= bottom) return std::nullopt;
-  return PlacedWord{.text = part.text.substr(word->begin, word->end - word->begin),
+  return PlacedWord{.text = std::move(word->text),
+                    .candidates = std::move(word->candidates),
                     .box = {left, corner->y, right, bottom}};
 }
 

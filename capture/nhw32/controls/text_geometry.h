@@ -3,10 +3,15 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "capture/nhw32/controls/coordinates.h"
+#include "text/word_ranges.h"
 
 namespace nhw32 {
+
+/// Characters that are read on each side of a point: one more than a word can have.
+inline constexpr std::size_t kReach = text::kMaxReading + 1;
 
 /// Part of a control's text. `first` is the control's position of its first character.
 struct TextPart {
@@ -24,7 +29,7 @@ class ControlText {
   /// Returns the position nearest to a point: that of the character there or of the next one.
   /// Returns nullopt if the control has none or does not identify it.
   virtual std::optional<std::size_t> positionNear(ClientPoint point) = 0;
-  /// Returns the text around a position: kMaxWord + 1 characters on each side, fewer at the ends.
+  /// Returns the text around a position: kReach characters on each side, fewer at the ends.
   virtual TextPart textAround(std::size_t position) = 0;
   /// Returns the top left corner of the character at a position, nullopt past the end of the text.
   virtual std::optional<ClientPoint> cornerOf(std::size_t position) = 0;
@@ -41,9 +46,10 @@ class ControlText {
   [[nodiscard]] virtual int dpi() const = 0;
 };
 
-/// A word and its box; of a word that wraps, the box of the part on the point's line.
+/// A word (see Word) and its box; of a word that wraps, the box of the part on the point's line.
 struct PlacedWord {
   std::u16string text;
+  std::vector<std::u16string> candidates;
   ClientBox box;
 };
 

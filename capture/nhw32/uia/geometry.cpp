@@ -1,8 +1,7 @@
 #include "capture/nhw32/uia/geometry.h"
 
 #include <cmath>
-
-#include "capture/nhw32/word_text.h"
+#include <utility>
 
 // Providers are programs of many makers: rectangles may be NaN, negative or of another screen, and
 // a "character" may be a word or a line. What does not make sense is no answer, never a wrong word.
@@ -61,11 +60,12 @@ std::optional<ScreenBox> boxUnder(std::span<const double> rectangles, ScreenPoin
 bool isOneCharacter(std::u16string_view text) { return text.size() == 1 || text.size() == 2; }
 
 // A unit that is one word is the whole of the text without its blanks.
-std::u16string_view onlyWord(std::u16string_view text) {
+std::optional<FoundWord> onlyWord(std::u16string_view text) {
   while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
   while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-  const auto word = wordAt(text, 0);
-  return word == Range{0, text.size()} ? text : std::u16string_view{};
+  auto word = wordAt(text, 0);
+  const bool whole = word && word->range == text::Range{0, text.size()};
+  return whole ? std::move(word) : std::nullopt;
 }
 
 }  // namespace nhw32

@@ -100,7 +100,7 @@ class ElementWalk {
 };
 
 /// Characters that are read on each side of the point: as far as a word can reach.
-constexpr int kReach = static_cast<int>(kMaxWord);
+constexpr int kReach = static_cast<int>(text::kMaxReading);
 /// Maximum code units of one read; more than `kReach` characters take.
 constexpr int kMaxText = 2 * kReach + 1;
 
@@ -119,9 +119,9 @@ class TextAtPoint {
     if (!character) return std::nullopt;
     if (isOneCharacter(*character)) return wordAround(*character);
     // The program does not support character units; the unit is used if it is one word.
-    const auto word = onlyWord(*character);
-    if (word.empty()) return std::nullopt;
-    return Word{std::u16string(word), *box};
+    auto word = onlyWord(*character);
+    if (!word) return std::nullopt;
+    return Word{std::move(word->text), *box, std::move(word->candidates)};
   }
 
  private:
@@ -146,21 +146,20 @@ class TextAtPoint {
     if (!after) return std::nullopt;
     const std::u16string text = *before + character + *after;
     const std::size_t begin = before->size();
-    const auto place = wordAt(text, begin);
-    if (!place) return std::nullopt;
+    auto word = wordAt(text, begin);
+    if (!word) return std::nullopt;
+    const auto [first, last] = word->range;
 
     const TextRange range = copyOfCell();
-    if (!range || !moveEnd(range, TextPatternRangeEndpoint_Start, place->begin, begin) ||
-        !moveEnd(range, TextPatternRangeEndpoint_End, place->end, begin + character.size())) {
+    if (!range || !moveEnd(range, TextPatternRangeEndpoint_Start, first, begin) ||
+        !moveEnd(range, TextPatternRangeEndpoint_End, last, begin + character.size())) {
       return std::nullopt;
     }
     // The text may have changed meanwhile, or its units may not be code units or pairs.
-    Word word{text.substr(place->begin, place->end - place->begin), {}};
-    if (textOf(range) != word.text) return std::nullopt;
+    if (textOf(range) != text.substr(first, last - first)) return std::nullopt;
     const auto box = boxOf(range);
     if (!box) return std::nullopt;
-    word.box = *box;
-    return word;
+    return Word{std::move(word->text), *box, std::move(word->candidates)};
   }
 
   /// Returns the text before the start of cell_, or after its end, up to kReach characters.

@@ -6,10 +6,11 @@
 
 namespace support {
 
-/// A page of made-up text that knows the word each of its characters belongs to.
+/// A page of made-up text that knows, for each of its characters, which word is handed over there
+/// if no dictionary is asked.
 struct MixedPage {
   std::u16string text;
-  std::vector<std::u16string> words;  ///< of each character; "" where it belongs to none
+  std::vector<std::u16string> words;  ///< of each character; "" where there is none
 };
 
 struct MixedPageDesign {

@@ -38,6 +38,18 @@ TEST_F(FrmScreenWord, LoadingStartsTheCycle) {
             reinterpret_cast<LONG_PTR>(&ScreenWord::WindowProc));
 }
 
+TEST_F(FrmScreenWord, LoadingGivesTheServiceTheHeadwords) {
+  host().unload();
+  EXPECT_FALSE(nhw32::service().headwordTest());
+  host();
+  const auto& isHeadword = nhw32::service().headwordTest();
+  ASSERT_TRUE(isHeadword);
+  EXPECT_TRUE(isHeadword(u"Data"));
+  EXPECT_TRUE(isHeadword(u"it's"));
+  EXPECT_FALSE(isHeadword(u"data's"));
+  EXPECT_FALSE(isHeadword(u"数据"));
+}
+
 TEST_F(FrmScreenWord, IsNeverSeenNorActive) {
   EXPECT_FALSE(IsWindowVisible(host().handle()));
   EXPECT_TRUE(refusesActivation(host().handle()));

@@ -2,10 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <memory>
 #include <new>
+#include <set>
+#include <stdexcept>
+#include <tuple>
+#include <vector>
 
 #include "capture/nhw32/nhw32.h"
 #include "tests/support/process/find.h"
@@ -36,6 +41,7 @@ class Nhw32Service : public ::testing::Test {
   Nhw32Service() { nhw32::SetNHW32(); }
   ~Nhw32Service() override {
     nhw32::ResetNHW32();
+    nhw32::setHeadwordTest(nullptr);
     EXPECT_TRUE(eventually([] { return nhw32::service().workers() == 0; }));
   }
 
@@ -65,7 +71,77 @@ TEST_F(Nhw32Service, HandsTextsOverInTheAnsiCodePage) {
   const HookedTextWindow target({}, u"字典 don\u2019t caf\u00E9 \r\nx");
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 1)), "\xD7\xD6\xB5\xE4");
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 4)), "don't");
+  EXPECT_EQ(host_.wordAt(pointOf(target.control(), 10)), "cafe");
+  nhw32::setHeadwordTest([](std::u16string_view word) { return word == u"caf\u00E9"; });
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 10)), "caf\xA8\xA6");
+}
+
+/// Where `part` begins in `text`.
+std::size_t placeOf(std::u16string_view text, std::u16string_view part) {
+  const std::size_t place = text.find(part);
+  if (place == std::u16string_view::npos) throw Failure("no such part of the text");
+  return place;
+}
+
+TEST_F(Nhw32Service, HandsOverTheFirstReadingThatIsAHeadword) {
+  const std::u16string text =
+      u"the man's well-known click-and-drag, CO2 (1st) it's e.g. a caf\u00E9\r\n"
+      u"an associ-\r\nated firm of the U.S. state \r\nx";
+  const HookedTextWindow target({.size = {900, 220}}, text);
+  const std::set<std::u16string, std::less<>> headwords{
+      u"man", u"well-known", u"well", u"known",      u"drag", u"CO2", u"it's",
+      u"it",  u"e.g.",       u"cafe", u"associated", u"U.S.", u"st",  u"CO"};
+  nhw32::setHeadwordTest([&](std::u16string_view word) { return headwords.contains(word); });
+  for (const auto& [part, offset, word] : {std::tuple(u"man's", 1, "man"),
+                                           {u"well-known", 6, "well-known"},
+                                           {u"and-drag", 5, "drag"},
+                                           {u"CO2", 0, "CO2"},
+                                           {u"it's", 3, "it's"},
+                                           {u"e.g.", 2, "e.g."},
+                                           {u"caf", 1, "cafe"},
+                                           {u"associ-", 2, "associated"},
+                                           {u"ated firm", 1, "associated"},
+                                           {u"U.S.", 0, "U.S."},
+                                           {u"firm", 1, "firm"}}) {
+    const std::size_t place = placeOf(text, part) + static_cast<std::size_t>(offset);
+    EXPECT_EQ(host_.wordAt(pointOf(target.control(), place)), word);
+  }
+}
+
+TEST_F(Nhw32Service, HandsNothingOverWhereLettersTouchDigits) {
+  const HookedTextWindow target({}, u"the 1st day \r\nx");
+  nhw32::setHeadwordTest([](std::u16string_view word) { return word == u"st"; });
+  EXPECT_EQ(host_.wordAt(pointOf(target.control(), 5)), "");
+}
+
+// The worker reads; the dictionary is the caller's.
+TEST_F(Nhw32Service, AsksOnTheCallersThreadAndOnlyForAWordThatIsFetched) {
+  const HookedTextWindow target({}, u"na\u00EFve-caf\u00E9's-r\u00E9sum\u00E9's word \r\nx");
+  std::vector<DWORD> askers;
+  nhw32::setHeadwordTest([&](std::u16string_view) {
+    askers.push_back(GetCurrentThreadId());
+    return false;
+  });
+  const POINT point = pointOf(target.control(), 8);
+  {
+    const ScopedSleepingWaits sleeping;
+    waitFor("a word", [&] {
+      host_.probe(point);
+      return eventually([] { return nhw32::service().word().has_value(); }, 100);
+    });
+  }
+  EXPECT_TRUE(askers.empty());
+  EXPECT_NE(textNow(), "");
+  EXPECT_GT(askers.size(), 2U);
+  EXPECT_LE(askers.size(), 8U);
+  EXPECT_EQ(std::ranges::count(askers, GetCurrentThreadId()),
+            static_cast<std::ptrdiff_t>(askers.size()));
+}
+
+TEST_F(Nhw32Service, TakesAFailingDictionaryForOneWithoutTheWord) {
+  const HookedTextWindow target({}, u"man's word \r\nx");
+  nhw32::setHeadwordTest([](std::u16string_view) -> bool { throw std::runtime_error("damaged"); });
+  EXPECT_EQ(host_.wordAt(pointOf(target.control(), 1)), "man");
 }
 
 TEST_F(Nhw32Service, CutsAtAWholeCharacter) {

@@ -68,15 +68,19 @@ TEST(OneCharacter, IsAUnitAPairOrALineEnd) {
 }
 
 TEST(OnlyWord, StandsBetweenBlanks) {
-  EXPECT_EQ(nhw32::onlyWord(u"word"), u"word");
-  EXPECT_EQ(nhw32::onlyWord(u"\t word\u3000\u00A0\r\n"), u"word");
-  EXPECT_EQ(nhw32::onlyWord(u"well-known "), u"well-known");
-  EXPECT_EQ(nhw32::onlyWord(u" 中文"), u"中文");
+  const auto only = [](std::u16string_view text) {
+    return nhw32::onlyWord(text).value_or(nhw32::FoundWord()).text;
+  };
+  EXPECT_EQ(only(u"word"), u"word");
+  EXPECT_EQ(only(u"\t word\u3000\u00A0\r\n"), u"word");
+  EXPECT_EQ(only(u"well-known "), u"well-known");
+  EXPECT_EQ(only(u"man's"), u"man");
+  EXPECT_EQ(only(u" 中文"), u"中文");
 }
 
 TEST(OnlyWord, IsNoneAmongOthers) {
   for (const auto* text : {u"", u"  ", u"two words", u"word.", u"(word", u"42", u"word中文"}) {
-    EXPECT_TRUE(nhw32::onlyWord(text).empty());
+    EXPECT_FALSE(nhw32::onlyWord(text).has_value());
   }
 }
 
