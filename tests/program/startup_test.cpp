@@ -76,8 +76,9 @@ TEST_F(Startup, LooksUpEnglishAlsoWhenTheToolbarLosesTheFocusAtOnce) {
   });
   lexilo.waitUntilSeen();
   const QuickLookup window = lexilo.openQuickLookupAtA();
-  window.lookUp(L"data");
   EXPECT_GT(window.words().size(), 10U);
+  window.lookUp(L"data");
+  EXPECT_EQ(window.words().front(), L"data");
 }
 
 TEST_F(Startup, TheFirstButtonPressedAtOnceStillShowsTheFirstWords) {
