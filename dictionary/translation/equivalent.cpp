@@ -13,6 +13,7 @@
 
 #include "dictionary/source/characters.h"
 #include "dictionary/translation/brackets.h"
+#include "dictionary/translation/objects.h"
 #include "dictionary/translation/questions.h"
 
 namespace dictionary {
@@ -168,7 +169,7 @@ std::u16string withoutChineseBlanks(std::u16string_view text) {
 
 /// The text of a piece as a Chinese headword is written, whether or not it can be one.
 std::u16string headwordText(std::u16string_view piece, bool abbreviation) {
-  const std::u16string plain = narrowed(curled(withoutStrayMark(withoutNotes(piece))));
+  const std::u16string plain = narrowed(curled(withoutStrayMark(withoutNotes(withObjects(piece)))));
   const std::u16string bare = withoutQuotes(trimmed(plain));
   const std::u16string_view chinese =
       withoutHyphen(withoutTail(withoutExpansion(bare, abbreviation)));
