@@ -233,6 +233,17 @@ bool isReference(std::u16string_view word) {
   return elsewhere || (form && word.starts_with(u'的')) || meaning;
 }
 
+/// What a word that begins with the particle 的 may be: 的确, 的士, the first characters of names.
+constexpr std::u16string_view kAfterParticle = u"确士黎里息克卡斯";
+
+/// Removes the particle 的 that a trimmed ellipsis or a deleted note leaves at the beginning:
+/// "...的大杂烩", "（汽车等）的前灯".
+void removeLeftParticle(std::u16string& word) {
+  const bool left = word.size() > 1 && word[0] == u'的' && isHan(word[1]) && word[1] != u'的' &&
+                    kAfterParticle.find(word[1]) == std::u16string_view::npos;
+  if (left) word.erase(0, 1);
+}
+
 /// The first fault that applies, of those that a headword's text shows; kExplanation is given by
 /// the line's parser.
 PieceFault findFault(std::u16string_view word) {
@@ -276,7 +287,10 @@ Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation) {
   if (fault != PieceFault::kNoHan && hasLostCharacterMark(withoutNotes(piece))) {
     fault = PieceFault::kLostCharacter;
   }
-  if (fault == PieceFault::kNone) return {std::move(word), fault, {}};
+  if (fault == PieceFault::kNone) {
+    removeLeftParticle(word);
+    return {std::move(word), fault, {}};
+  }
   const bool mayServe =
       fault == PieceFault::kTooLong && word.size() <= kMaxWord && hanCount(word) <= kMaxExplanation;
   if (!mayServe) word.clear();

@@ -168,4 +168,14 @@ TEST(MakeEquivalent, RefusesLabels) {
   EXPECT_EQ(faultOf(u"看见"), PieceFault::kNone);
 }
 
+// "a gross medley of... | ...的大杂烩", "headlights | n. （汽车等）的前灯( headlight的复数形式 )"
+TEST(MakeEquivalent, RemovesTheParticleThatATrimmedEllipsisOrANoteLeaves) {
+  EXPECT_EQ(word(u"...的大杂烩"), u"大杂烩");
+  EXPECT_EQ(word(u"(汽车等)的前灯"), u"前灯");
+  EXPECT_EQ(word(u"的确"), u"的确");
+  EXPECT_EQ(word(u"的里雅斯特湾"), u"的里雅斯特湾");
+  EXPECT_EQ(faultOf(u"...的"), PieceFault::kLabel);
+  EXPECT_EQ(faultOf(u"的复数"), PieceFault::kLabel);
+}
+
 }  // namespace
