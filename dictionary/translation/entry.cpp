@@ -281,6 +281,21 @@ void useExplanation(Entry& entry) {
   }
 }
 
+/// "-phagous" and "oleo-", which are translated in sentences: "表示食, 吃".
+bool isWordElement(std::u16string_view headword) {
+  return headword.starts_with(u'-') || headword.ends_with(u'-');
+}
+
+/// Takes the lead-ins off the equivalents of a word element.
+void removeLeadIns(TranslationLine& line) {
+  for (Piece& piece : line.pieces) {
+    Equivalent& equivalent = piece.equivalent;
+    if (equivalent.fault != PieceFault::kNone) continue;
+    equivalent.word = std::u16string(elementMeaning(equivalent.word));
+    if (equivalent.word.empty()) equivalent.fault = PieceFault::kLabel;
+  }
+}
+
 /// Parses `translation` and adds its lines and references.
 void addLines(Entry& entry, std::u16string_view translation) {
   bool inCommand = false;
@@ -288,6 +303,7 @@ void addLines(Entry& entry, std::u16string_view translation) {
     // A description is continued by lines without a head.
     if (inCommand && readHead(line, true, false).length == 0) continue;
     entry.lines.push_back(parseLine(line));
+    if (isWordElement(entry.headword)) removeLeadIns(entry.lines.back());
     inCommand = entry.lines.back().endsInCommand;
     for (const Piece& piece : entry.lines.back().pieces) {
       if (const auto reference = referenceIn(piece)) entry.references.push_back(*reference);

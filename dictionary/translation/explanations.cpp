@@ -132,6 +132,18 @@ std::u16string_view quotedMeaning(std::u16string_view piece) {
   return {};
 }
 
+std::u16string_view elementMeaning(std::u16string_view word) {
+  // The longer lead-ins come first.
+  for (const std::u16string_view leadIn : {u"用以表示"sv, u"用于表示"sv, u"表示"sv, u"意为"sv}) {
+    if (!word.starts_with(leadIn)) continue;
+    const std::u16string_view meaning = word.substr(leadIn.size());
+    if (meaning.empty() || meaning.starts_with(u"之")) return {};
+    const bool quoted = quotationEnd(meaning, 0) == meaning.size();
+    return quoted ? meaning.substr(1, meaning.size() - 2) : meaning;
+  }
+  return word;
+}
+
 bool explainsName(std::u16string_view piece) {
   return std::ranges::any_of(kNameMeanings, [&](auto begin) { return piece.starts_with(begin); });
 }

@@ -28,6 +28,10 @@ bool describesCommand(std::u16string_view piece);
 /// translates a word element; "" if the piece does not begin so.
 std::u16string_view quotedMeaning(std::u16string_view piece);
 
+/// Returns the equivalent of a word element without a lead-in and the quotation marks after it:
+/// "表示食" gives 食, "表示“油”" gives 油; "" if nothing else is left ("表示之义").
+std::u16string_view elementMeaning(std::u16string_view word);
+
 /// Returns whether the piece tells what a name means ("含义是“愉快的保护”").
 bool explainsName(std::u16string_view piece);
 

@@ -291,4 +291,19 @@ TEST(ExtractEntry, EndsASenseAtATag) {
       (Texts{u"杂物", u"零乱的东西", u"零乱", u"乱糟糟地堆满"}));
 }
 
+// "-phagous |  表示食, 吃", "dors- | 表示之义", "oleo- | 表示(=oil, =olein)\"油\", \"油的"
+TEST(ExtractEntry, OfAWordElementHasItsMeaningWithoutTheLeadIn) {
+  const auto wordsOfElement = [](const std::string& word, const std::string& translation) {
+    Texts result;
+    const auto entry = dictionary::extractEntry({word, translation, false}).value();
+    for (const Piece& piece : entry.lines.at(0).pieces) result.push_back(piece.equivalent.word);
+    return result;
+  };
+  EXPECT_EQ(wordsOfElement("-phagous", "表示食, 吃"), (Texts{u"食", u"吃"}));
+  EXPECT_EQ(wordsOfElement("-ad", "意为向…方"), (Texts{u"向…方"}));
+  EXPECT_EQ(wordsOfElement("oleo-", "表示(=oil, =olein)\"油\""), (Texts{u"油"}));
+  EXPECT_EQ(wordsOfElement("dors-", "表示之义, 背"), (Texts{u"", u"背"}));
+  EXPECT_EQ(wordsOfElement("hunger strike", "n. 表示抗议的绝食"), (Texts{u"表示抗议的绝食"}));
+}
+
 }  // namespace

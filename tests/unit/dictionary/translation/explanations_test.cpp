@@ -60,6 +60,16 @@ TEST(QuotedMeaning, IsTheMeaningOfAWordElement) {
   }
 }
 
+TEST(ElementMeaning, HasNeitherLeadInNorQuotationMarks) {
+  EXPECT_EQ(dictionary::elementMeaning(u"表示食"), u"食");
+  EXPECT_EQ(dictionary::elementMeaning(u"表示“喜…的”"), u"喜…的");
+  EXPECT_EQ(dictionary::elementMeaning(u"表示“甲”和“乙”"), u"“甲”和“乙”");
+  EXPECT_EQ(dictionary::elementMeaning(u"意为测定"), u"测定");
+  EXPECT_EQ(dictionary::elementMeaning(u"用于表示体制"), u"体制");
+  EXPECT_EQ(dictionary::elementMeaning(u"表示之义"), u"");
+  EXPECT_EQ(dictionary::elementMeaning(u"表面"), u"表面");
+}
+
 // "Rousseau | Hanri 卢梭(1844-1910), 法国原始派风格画家", "boiardo |
 // 博亚尔多，马泰奥·玛丽((1440？-1494) …", "assignat | n. 法国大革命时期(1789-1796)发行的纸币"
 TEST(NameBeforeYears, IsTheNameOfAPerson) {
