@@ -53,13 +53,14 @@ bool isLocant(char16_t unit) {
 }
 
 /// Returns whether the comma is inside a chemical name or a number: "2,4-二氯苯", "1, 4-二氮杂苯",
-/// "N,N-二甲基". A letter before it and a part-of-speech mark after it are the end of one piece and
-/// the beginning of the next.
+/// "Δ, 3-丁烯醇", "N,N-二甲基". A letter before it and a part-of-speech mark after it are the end
+/// of one piece and the beginning of the next.
 bool joinsLocants(std::u16string_view text, std::size_t comma) {
   if (comma == 0) return false;
   std::size_t next = comma + 1;
   if (isLatin(text[comma - 1]) && partOfSpeechLength(text.substr(next, kMaxMark)) > 0) return false;
-  if (next < text.size() && text[next] == u' ' && isDigit(text[comma - 1])) {
+  const bool locant = isDigit(text[comma - 1]) || isGreek(text[comma - 1]);
+  if (next < text.size() && text[next] == u' ' && locant) {
     return next + 1 < text.size() && isDigit(text[next + 1]);
   }
   return next < text.size() && isLocant(text[comma - 1]) && isLocant(text[next]);

@@ -69,6 +69,8 @@ TEST(SplitPieces, KeepsCommasInsideChemicalNames) {
   EXPECT_EQ(split(u"2,4-二氯苯, 1,2-二溴乙烷"), (Texts{u"2,4-二氯苯", u"1,2-二溴乙烷"}));
   EXPECT_EQ(split(u"N,N-二甲基; 4',5-甲"), (Texts{u"N,N-二甲基", u"4',5-甲"}));
   EXPECT_EQ(split(u"1, 4-二氮杂苯"), (Texts{u"1, 4-二氮杂苯"}));
+  EXPECT_EQ(split(u"烯丙基甲醇; Δ, 3-丁烯醇"), (Texts{u"烯丙基甲醇", u"Δ, 3-丁烯醇"}));
+  EXPECT_EQ(split(u"5α, 22α-螺甾烷"), (Texts{u"5α, 22α-螺甾烷"}));
   EXPECT_EQ(split(u"维生素A, B"), (Texts{u"维生素A", u"B"}));
 }
 
