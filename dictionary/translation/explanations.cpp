@@ -57,6 +57,19 @@ bool isLeadIn(std::u16string_view word) {
          std::ranges::any_of(kBrandLabels, [&](auto label) { return word.ends_with(label); });
 }
 
+/// Removes what makes a sentence of an equivalent: "又称蹄兔", "是一种抗疟药".
+std::u16string_view withoutSentenceStart(std::u16string_view piece) {
+  if (piece.starts_with(u"是一种")) return piece.substr(1);
+  for (const std::u16string_view verb : {u"又称"sv, u"亦称"sv, u"也称"sv, u"俗称"sv}) {
+    if (!piece.starts_with(verb) || piece.size() == verb.size()) continue;
+    const std::u16string_view name = piece.substr(verb.size());
+    // "又称为..." and "又称作..." are verbs.
+    const bool named = (isHan(name[0]) && name[0] != u'为' && name[0] != u'作') || name[0] == u'“';
+    if (named) return name;
+  }
+  return piece;
+}
+
 std::u16string_view withoutClosingLabel(std::u16string_view word) {
   for (const std::u16string_view label : kClosingLabels) {
     if (word.ends_with(label)) return word.substr(0, word.size() - label.size());
@@ -107,6 +120,7 @@ std::size_t yearsPosition(std::u16string_view piece) {
 }  // namespace
 
 Explained splitExplanation(std::u16string_view piece) {
+  piece = withoutSentenceStart(piece);
   const std::size_t colon = colonPosition(piece);
   if (colon == std::u16string_view::npos) return {piece, false};
   const std::u16string_view word = piece.substr(0, colon);

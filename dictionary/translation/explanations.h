@@ -18,6 +18,7 @@ struct Explained {
 /// Returns the piece without an explanation after a colon: "拜药：乳香的一种" gives 拜药,
 /// "海宁全名： Justine Henin" gives 海宁. Of a lead-in such as "表示：" or "意大利服装名牌：" the
 /// text after it is returned instead. A colon between digits or inside a note does not count.
+/// Also removes the beginning of a sentence: "又称蹄兔" gives 蹄兔, "是一种抗疟药" 一种抗疟药.
 Explained splitExplanation(std::u16string_view piece);
 
 /// Returns whether the piece says what a command or driver of DOS does, "DOS内部命令:复制文件", or

@@ -35,6 +35,18 @@ TEST(SplitExplanation, DropsLabelsAfterAName) {
   EXPECT_EQ(dictionary::splitExplanation(u"公司总部所在地").word, u"公司总部所在地");
 }
 
+// "wachovia | n. （美国）美联银行，又称“瓦霍维亚银行”", "rock rabbit | n. 岩兔, 又称蹄兔",
+// "lariam | [医]是一种抗疟药（含mefloquine hydrochloride）"
+TEST(SplitExplanation, DropsLeadInsWithoutAColon) {
+  EXPECT_EQ(dictionary::splitExplanation(u"又称“瓦霍维亚银行”").word, u"“瓦霍维亚银行”");
+  EXPECT_EQ(dictionary::splitExplanation(u"又称蹄兔").word, u"蹄兔");
+  EXPECT_EQ(dictionary::splitExplanation(u"是一种抗疟药（含甲）").word, u"一种抗疟药（含甲）");
+  for (const std::u16string_view word :
+       {u"又称为...", u"俗称...", u"简称", u"亦称", u"是...的名手", u"是幸运的"}) {
+    EXPECT_EQ(dictionary::splitExplanation(word).word, word);
+  }
+}
+
 TEST(DescribesCommand, KnowsTheLabels) {
   for (const std::u16string_view piece :
        {u"DOS内部命令:复制文件", u"DOS批处理命令", u"DOS设备驱动程序:设定打印机的页码",
