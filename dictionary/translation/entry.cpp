@@ -12,7 +12,6 @@
 #include "dictionary/translation/entry.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "dictionary/source/characters.h"
@@ -20,6 +19,7 @@
 #include "dictionary/source/markup.h"
 #include "dictionary/translation/brackets.h"
 #include "dictionary/translation/explanations.h"
+#include "dictionary/translation/headword_rest.h"
 #include "dictionary/translation/names.h"
 #include "dictionary/translation/optional_characters.h"
 #include "dictionary/translation/part_of_speech.h"
@@ -339,7 +339,7 @@ LineHead readHead(std::u16string_view text, bool shortTags, bool marked) {
 }
 
 TranslationLine parseLine(std::u16string_view line) {
-  LineParser parser(line);
+  LineParser parser(withoutHeadwordRest(line));
   std::vector<Piece> pieces = parser.pieces();
   return {std::move(pieces), parser.parts(), inflectionNote(line), parser.endsInCommand()};
 }

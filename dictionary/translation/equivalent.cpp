@@ -145,7 +145,8 @@ std::u16string_view withoutTail(std::u16string_view text) {
   std::size_t begin = text.size();
   while (begin > 0 && isForeign(text[begin - 1])) --begin;
   const std::u16string_view foreign = text.substr(begin);
-  const bool words = begin > 0 && isHan(text[begin - 1]) &&
+  const bool reference = begin == 1 && text[0] == u'见';  // to another entry: "见 Bohai Sea"
+  const bool words = begin > 0 && isHan(text[begin - 1]) && !reference &&
                      foreign.find(u' ', 1) != std::u16string_view::npos &&
                      std::ranges::count_if(foreign, isSmall) > 4;
   return words ? text.substr(0, begin) : text;
