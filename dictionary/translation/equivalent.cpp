@@ -64,6 +64,14 @@ std::u16string curled(std::u16string_view text) {
   return result;
 }
 
+/// Returns whether the mark at `at` is between numerals: "第1、3人称", "第一、二人称".
+bool isBetweenNumerals(std::u16string_view text, std::size_t at) {
+  const auto isNumeral = [](char16_t unit) {
+    return isDigit(unit) || u"一二三四五六七八九十"sv.find(unit) != std::u16string_view::npos;
+  };
+  return at > 0 && at + 1 < text.size() && isNumeral(text[at - 1]) && isNumeral(text[at + 1]);
+}
+
 /// Narrows every character, replaces three full stops by an ellipsis and folds ellipses to one.
 std::u16string narrowed(std::u16string_view text) {
   std::u16string result;
@@ -73,6 +81,7 @@ std::u16string narrowed(std::u16string_view text) {
       unit = u'…';
       i += 2;
     }
+    if (unit == u'、' && isBetweenNumerals(text, i)) unit = u',';
     if (unit == u'…' && result.ends_with(u'…')) continue;
     result += unit;
   }
@@ -187,7 +196,8 @@ constexpr std::size_t kMaxExplanation = 30;
 constexpr std::size_t kMaxWord = 40;
 
 /// Words that translate nothing by themselves.
-constexpr std::array kLabels = {u"人名"sv, u"的"sv, u"亦作"sv, u"又作"sv, u"略作"sv};
+constexpr std::array kLabels = {u"人名"sv, u"的"sv,   u"亦作"sv, u"又作"sv,
+                                u"略作"sv, u"尤指"sv, u"特指"sv, u"指的是"sv};
 
 /// Characters of headwords: Han, letters, digits, Roman numerals (U+2160 to U+217F), and marks that
 /// belong to a word.

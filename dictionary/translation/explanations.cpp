@@ -60,7 +60,7 @@ bool isLeadIn(std::u16string_view word) {
 /// Removes what makes a sentence of an equivalent: "又称蹄兔", "是一种抗疟药".
 std::u16string_view withoutSentenceStart(std::u16string_view piece) {
   if (piece.starts_with(u"是一种")) return piece.substr(1);
-  for (const std::u16string_view verb : {u"又称"sv, u"亦称"sv, u"也称"sv, u"俗称"sv}) {
+  for (const std::u16string_view verb : {u"又称"sv, u"亦称"sv, u"也称"sv, u"俗称"sv, u"尤指"sv}) {
     if (!piece.starts_with(verb) || piece.size() == verb.size()) continue;
     const std::u16string_view name = piece.substr(verb.size());
     // "又称为..." and "又称作..." are verbs.

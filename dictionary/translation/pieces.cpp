@@ -66,6 +66,18 @@ bool joinsLocants(std::u16string_view text, std::size_t comma) {
   return next < text.size() && isLocant(text[comma - 1]) && isLocant(text[next]);
 }
 
+/// Returns whether the mark at `at` joins ordinal numbers of one noun: "第1、3人称", "第一、二、三
+/// 人称". `begin`: of the piece.
+bool joinsOrdinals(std::u16string_view text, std::size_t begin, std::size_t at) {
+  const auto isNumeral = [](char16_t unit) {
+    return isDigit(unit) || u"一二三四五六七八九十"sv.find(unit) != std::u16string_view::npos;
+  };
+  if (at + 1 >= text.size() || !isNumeral(text[at + 1])) return false;
+  std::size_t first = at;
+  while (first > begin && (isNumeral(text[first - 1]) || text[first - 1] == u'、')) --first;
+  return first > begin && first < at && text[first - 1] == u'第';
+}
+
 /// Returns whether the question mark at `mark` parts the question from `begin` on from further
 /// text. At the end of a piece it stays: a subject dictionary shows it.
 bool partsQuestions(std::u16string_view text, std::size_t begin, std::size_t mark) {
@@ -90,6 +102,8 @@ bool separates(std::u16string_view text, std::size_t begin, std::size_t at) {
       return !joinsLocants(text, at);
     case u'？':
       return partsQuestions(text, begin, at);
+    case u'、':
+      return !joinsOrdinals(text, begin, at);
     default:
       return true;
   }

@@ -168,6 +168,14 @@ TEST(MakeEquivalent, RefusesLabels) {
   EXPECT_EQ(faultOf(u"看见"), PieceFault::kNone);
 }
 
+// "swing state | n. 摇摆州; …; 指的是, 在总统大选中，…", "arounds | adv. 周围；尤指；在周围"
+TEST(MakeEquivalent, RefusesTheBeginningOfASentence) {
+  EXPECT_EQ(faultOf(u"指的是"), PieceFault::kLabel);
+  EXPECT_EQ(faultOf(u"尤指"), PieceFault::kLabel);
+  EXPECT_EQ(faultOf(u"“爱情、自由”的庆祝"), PieceFault::kPunctuation);
+  EXPECT_EQ(word(u"wit的第1、3人称单数现在式"), u"wit的第1,3人称单数现在式");
+}
+
 // "a gross medley of... | ...的大杂烩", "headlights | n. （汽车等）的前灯( headlight的复数形式 )"
 TEST(MakeEquivalent, RemovesTheParticleThatATrimmedEllipsisOrANoteLeaves) {
   EXPECT_EQ(word(u"...的大杂烩"), u"大杂烩");

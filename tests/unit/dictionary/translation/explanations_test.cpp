@@ -36,13 +36,15 @@ TEST(SplitExplanation, DropsLabelsAfterAName) {
 }
 
 // "wachovia | n. （美国）美联银行，又称“瓦霍维亚银行”", "rock rabbit | n. 岩兔, 又称蹄兔",
-// "lariam | [医]是一种抗疟药（含mefloquine hydrochloride）"
+// "clivers | n. [植]拉拉藤属植物,尤指猪殃殃", "lariam | [医]是一种抗疟药（含mefloquine
+// hydrochloride）"
 TEST(SplitExplanation, DropsLeadInsWithoutAColon) {
   EXPECT_EQ(dictionary::splitExplanation(u"又称“瓦霍维亚银行”").word, u"“瓦霍维亚银行”");
   EXPECT_EQ(dictionary::splitExplanation(u"又称蹄兔").word, u"蹄兔");
   EXPECT_EQ(dictionary::splitExplanation(u"是一种抗疟药（含甲）").word, u"一种抗疟药（含甲）");
+  EXPECT_EQ(dictionary::splitExplanation(u"尤指猪殃殃").word, u"猪殃殃");
   for (const std::u16string_view word :
-       {u"又称为...", u"俗称...", u"简称", u"亦称", u"是...的名手", u"是幸运的"}) {
+       {u"尤指", u"又称为...", u"俗称...", u"简称", u"亦称", u"是...的名手", u"是幸运的"}) {
     EXPECT_EQ(dictionary::splitExplanation(word).word, word);
   }
 }

@@ -65,6 +65,14 @@ TEST(SplitPieces, IgnoresABracketThatDoesNotClose) {
   EXPECT_EQ(split(u"甲“乙,丙"), (Texts{u"甲“乙", u"丙"}));
 }
 
+// "wot | vbl.wit的第1、3人称单数现在式", "areed | be的第一、二、三人称复数和第二人称单数, …"
+TEST(SplitPieces, KeepsNumeralsTogether) {
+  EXPECT_EQ(split(u"wit的第1、3人称单数"), (Texts{u"wit的第1、3人称单数"}));
+  EXPECT_EQ(split(u"be的第一、二、三人称复数, 甲"), (Texts{u"be的第一、二、三人称复数", u"甲"}));
+  EXPECT_EQ(split(u"第一、第二"), (Texts{u"第一", u"第二"}));
+  EXPECT_EQ(split(u"一、二"), (Texts{u"一", u"二"}));
+}
+
 TEST(SplitPieces, KeepsCommasInsideChemicalNames) {
   EXPECT_EQ(split(u"2,4-二氯苯, 1,2-二溴乙烷"), (Texts{u"2,4-二氯苯", u"1,2-二溴乙烷"}));
   EXPECT_EQ(split(u"N,N-二甲基; 4',5-甲"), (Texts{u"N,N-二甲基", u"4',5-甲"}));
