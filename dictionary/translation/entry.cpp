@@ -21,6 +21,7 @@
 #include "dictionary/translation/explanations.h"
 #include "dictionary/translation/headword_rest.h"
 #include "dictionary/translation/names.h"
+#include "dictionary/translation/objects.h"
 #include "dictionary/translation/optional_characters.h"
 #include "dictionary/translation/part_of_speech.h"
 #include "dictionary/translation/pieces.h"
@@ -148,7 +149,11 @@ Equivalent LineParser::equivalentOf(std::u16string_view text, SubjectSet subject
   }
   const Explained explained = splitExplanation(text);
   explaining_ = explained.explains;
-  if ((subjects & kNameSubjects) == 0) return makeEquivalent(explained.word, head_.abbreviation);
+  if ((subjects & kNameSubjects) == 0) {
+    const bool verb = head_.parts == setOf(PartOfSpeech::kVerb);
+    return verb ? makeEquivalent(withVerbObjects(explained.word), false)
+                : makeEquivalent(explained.word, head_.abbreviation);
+  }
   // After a tagged name, a piece without a tag or note of its own explains where the name is from.
   const bool isName = introduced || (head_.subjects & kNameSubjects) == 0;
   if (!isName) return {{}, PieceFault::kExplanation, {}};

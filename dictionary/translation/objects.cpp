@@ -68,6 +68,15 @@ bool isObject(std::u16string_view text, const Note& note) {
          kPrepositionsOnly.find(before[0]) != std::u16string_view::npos;
 }
 
+/// Returns whether `note` has what follows it: "记入（账户）的借方". An alternative to the word
+/// before it does not count: "伸长脖子看（或听）的人".
+bool hasThing(std::u16string_view text, const Note& note) {
+  const std::u16string_view rest = text::trimBlanks(text.substr(note.close + 1));
+  const bool alternative = !note.content.empty() && note.content[0] == u'或';
+  return note.open > 0 && isHan(text[note.open - 1]) && !alternative && rest.size() > 1 &&
+         rest[0] == u'的' && isHan(rest[1]);
+}
+
 /// Returns whether something must follow `text`.
 bool endsOpen(std::u16string_view text) {
   text = text::trimBlanks(text);
@@ -86,6 +95,19 @@ void forEachNote(std::u16string_view text, Visitor visit) {
 }
 
 }  // namespace
+
+std::u16string withVerbObjects(std::u16string_view piece) {
+  std::u16string result;
+  std::size_t copied = 0;
+  forEachNote(piece, [&](const Note& note) {
+    if (isPlaceholder(note.content) || !hasThing(piece, note)) return;
+    result += piece.substr(copied, note.open - copied);
+    result += u'…';
+    copied = note.close + 1;
+  });
+  result += piece.substr(copied);
+  return result;
+}
 
 std::u16string withObjects(std::u16string_view piece) {
   bool needed = false;

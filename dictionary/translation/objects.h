@@ -13,4 +13,8 @@ namespace dictionary {
 /// text before it needs an object ("将…传给…"). Any other note stays as it is.
 std::u16string withObjects(std::u16string_view piece);
 
+/// Returns the piece of a verb's line with an ellipsis for each note that has something: "记入（账
+/// 户）的借方" gives 记入…的借方.
+std::u16string withVerbObjects(std::u16string_view piece);
+
 }  // namespace dictionary

@@ -291,6 +291,16 @@ TEST(ExtractEntry, EndsASenseAtATag) {
       (Texts{u"杂物", u"零乱的东西", u"零乱", u"乱糟糟地堆满"}));
 }
 
+// "debiting | v. 记入（账户）的借方( debit的现在分词 )", "uncock | vt.把(枪枝)的击铁扳至非击发位置"
+TEST(ParseLine, KeepsThePlaceOfAVerbsObject) {
+  EXPECT_EQ(words(u"v. 记入（账户）的借方( debit的现在分词 )"), (Texts{u"记入…的借方"}));
+  EXPECT_EQ(words(u"vt. 结扎(人或动物)的输精管"), (Texts{u"结扎…的输精管"}));
+  EXPECT_EQ(words(u"vt.把(枪枝)的击铁扳开"), (Texts{u"把…的击铁扳开"}));
+  EXPECT_EQ(words(u"v. 伸长脖子看（或听）的人"), (Texts{u"伸长脖子看的人"}));
+  EXPECT_EQ(words(u"n. 国王(英国)的权利"), (Texts{u"国王的权利"}));
+  EXPECT_EQ(words(u"vt. 移动(某物)"), (Texts{u"移动"}));
+}
+
 // "-phagous |  表示食, 吃", "dors- | 表示之义", "oleo- | 表示(=oil, =olein)\"油\", \"油的"
 TEST(ExtractEntry, OfAWordElementHasItsMeaningWithoutTheLeadIn) {
   const auto wordsOfElement = [](const std::string& word, const std::string& translation) {
