@@ -177,9 +177,27 @@ std::u16string withoutChineseBlanks(std::u16string_view text) {
   return result;
 }
 
+/// Returns the equivalent beside a round bracket whose counterpart is missing: the text after a
+/// note
+/// ("挖土机等的)铲") or before one ("承认(比赛"). `afterNote`: notes were deleted, so that a
+/// bracket at the end is one too many ("布鲁姆（地名））"); without them, the text before it may be
+/// a note.
+std::u16string_view withoutLooseBracket(std::u16string_view text, bool afterNote) {
+  constexpr std::u16string_view kRound = u"()（）﹙﹚";
+  const std::size_t at = text.find_first_of(kRound);
+  const bool single = at != std::u16string_view::npos &&
+                      text.find_first_of(kRound, at + 1) == std::u16string_view::npos;
+  if (!single) return text;
+  if (openingBracket(text[at]) != Bracket::kNone) return at == 0 ? text : text.substr(0, at);
+  if (at + 1 < text.size()) return text.substr(at + 1);
+  return afterNote ? text.substr(0, at) : text;
+}
+
 /// The text of a piece as a Chinese headword is written, whether or not it can be one.
 std::u16string headwordText(std::u16string_view piece, bool abbreviation) {
-  const std::u16string plain = narrowed(curled(withoutStrayMark(withoutNotes(withObjects(piece)))));
+  const std::u16string noteless = withoutNotes(withObjects(piece));
+  const std::u16string plain = narrowed(
+      curled(withoutStrayMark(withoutLooseBracket(noteless, noteless.size() < piece.size()))));
   const std::u16string bare = withoutQuotes(trimmed(plain));
   const std::u16string_view chinese =
       withoutHyphen(withoutTail(withoutExpansion(bare, abbreviation)));

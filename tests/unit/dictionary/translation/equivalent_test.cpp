@@ -125,8 +125,8 @@ TEST(MakeEquivalent, ReturnsAnExplanationOfUpToThirtyHanCharacters) {
 
 TEST(MakeEquivalent, RefusesPunctuation) {
   for (const std::u16string_view piece :
-       {u"甲(乙", u"乙)丙", u"甲“乙", u"10%溶液", u"甲_乙", u"甲*乙", u"甲\\乙", u"甲<乙",
-        u"甲。乙", u"&j压", u"+1法师", u"G～希腊人", u"--见-able", u"甲=乙", u"甲:乙"}) {
+       {u"甲“乙", u"10%溶液", u"甲_乙", u"甲*乙", u"甲\\乙", u"甲<乙", u"甲。乙", u"&j压",
+        u"+1法师", u"G～希腊人", u"--见-able", u"甲=乙", u"甲:乙"}) {
     EXPECT_EQ(faultOf(piece), PieceFault::kPunctuation) << std::string(piece.begin(), piece.end());
   }
   EXPECT_EQ(faultOf(u"750～1258年"), PieceFault::kNone);
@@ -166,6 +166,18 @@ TEST(MakeEquivalent, RefusesLabels) {
   EXPECT_EQ(faultOf(u"地名"), PieceFault::kNone);
   EXPECT_EQ(faultOf(u"等等"), PieceFault::kNone);
   EXPECT_EQ(faultOf(u"看见"), PieceFault::kNone);
+}
+
+// "shovels | n. …; 推土机、挖土机等的)铲", "Broome | n. 布鲁姆（地名））", "concedes | v. …;
+// 承认(比赛、 选举等失败", "banya | 巴尼亚（地名）（保加利亚"
+TEST(MakeEquivalent, ReadsTheTextBesideABracketWithoutCounterpart) {
+  EXPECT_EQ(word(u"挖土机等的)铲"), u"铲");
+  EXPECT_EQ(word(u"布鲁姆（地名））"), u"布鲁姆");
+  EXPECT_EQ(word(u"承认(比赛"), u"承认");
+  EXPECT_EQ(word(u"巴尼亚（地名）（保加利亚"), u"巴尼亚");
+  EXPECT_EQ(word(u"强制推销("), u"强制推销");
+  EXPECT_EQ(faultOf(u"(比赛"), PieceFault::kPunctuation);
+  EXPECT_EQ(faultOf(u"甲)乙)丙"), PieceFault::kPunctuation);
 }
 
 // "swing state | n. 摇摆州; …; 指的是, 在总统大选中，…", "arounds | adv. 周围；尤指；在周围"
