@@ -80,7 +80,10 @@ std::u16string notedText(std::u16string_view piece) {
                                   ? std::u16string_view::npos
                                   : closingPosition(piece, i);
     if (close == std::u16string_view::npos) {
-      if (piece[i] != u'\\') noted += piece[i];
+      // "布鲁姆（地名））"
+      const bool tooMany = i > 0 && i + 1 == piece.size() && piece[i] == piece[i - 1] &&
+                           closingBracket(piece[i]) != Bracket::kNone;
+      if (piece[i] != u'\\' && !tooMany) noted += piece[i];
       continue;
     }
     noted += cleanNote(piece.substr(i, close + 1 - i));

@@ -291,6 +291,12 @@ TEST(ExtractEntry, EndsASenseAtATag) {
       (Texts{u"杂物", u"零乱的东西", u"零乱", u"乱糟糟地堆满"}));
 }
 
+// "Broome | n. 布鲁姆（地名））"
+TEST(SubjectText, HasNoBracketTooMany) {
+  EXPECT_EQ(text(u"n. 布鲁姆（地名））", Subject::kPlace), u"布鲁姆（地名）");
+  EXPECT_EQ(text(u"[医] 甲(乙)丙)", Subject::kMedicine), u"甲(乙)丙)");
+}
+
 // "debiting | v. 记入（账户）的借方( debit的现在分词 )", "uncock | vt.把(枪枝)的击铁扳至非击发位置"
 TEST(ParseLine, KeepsThePlaceOfAVerbsObject) {
   EXPECT_EQ(words(u"v. 记入（账户）的借方( debit的现在分词 )"), (Texts{u"记入…的借方"}));
