@@ -258,7 +258,7 @@ bool isReference(std::u16string_view word) {
   const bool elsewhere =
       word.size() > 1 && word[0] == u'见' && (isLatin(word[1]) || word[1] == u'-');
   const bool form = std::ranges::any_of(kForms, [&](auto end) { return word.ends_with(end); });
-  const bool meaning = isLatin(word[0]) && word.ends_with(u"的意思是");
+  const bool meaning = isLatin(word[0]) && word.find(u"的意思是") != std::u16string_view::npos;
   return elsewhere || (form && word.starts_with(u'的')) || meaning;
 }
 

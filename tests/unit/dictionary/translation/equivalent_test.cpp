@@ -184,6 +184,8 @@ TEST(MakeEquivalent, ReadsTheTextBesideABracketWithoutCounterpart) {
 TEST(MakeEquivalent, RefusesTheBeginningOfASentence) {
   EXPECT_EQ(faultOf(u"指的是"), PieceFault::kLabel);
   EXPECT_EQ(faultOf(u"尤指"), PieceFault::kLabel);
+  EXPECT_EQ(faultOf(u"yahoo的意思是各种野蛮"), PieceFault::kLabel);
+  EXPECT_EQ(word(u"误解某人的意思"), u"误解某人的意思");
   EXPECT_EQ(faultOf(u"“爱情、自由”的庆祝"), PieceFault::kPunctuation);
   EXPECT_EQ(word(u"wit的第1、3人称单数现在式"), u"wit的第1,3人称单数现在式");
 }
