@@ -137,6 +137,11 @@ std::u16string_view quotedMeaning(std::u16string_view piece) {
   for (const std::u16string_view verb : {u"表示"sv, u"意为"sv}) {
     if (!piece.starts_with(verb) || piece.size() == verb.size()) continue;
     const std::u16string_view quoted = piece.substr(verb.size());
+    if (openingBracket(quoted[0]) == Bracket::kRound) {
+      const std::size_t close = closingPosition(quoted, 0);
+      if (close == std::u16string_view::npos || quoted.substr(close + 1) != u"之义") return {};
+      return quoted.substr(1, close - 1);
+    }
     // Straight quotation marks are their own counterpart.
     const std::size_t end = quoted[0] == u'"' ? quoted.find(u'"', 1) + 1 : quotationEnd(quoted, 0);
     if (end > 2 && end <= quoted.size() && endsMeaning(quoted.substr(end))) {

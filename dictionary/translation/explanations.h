@@ -25,8 +25,9 @@ Explained splitExplanation(std::u16string_view piece);
 /// only that the word is one.
 bool describesCommand(std::u16string_view piece);
 
-/// Returns what stands between the quotation marks of "表示“水, 波浪”之义" or "意为“解热剂”", which
-/// translates a word element; "" if the piece does not begin so.
+/// Returns what stands between the quotation marks of "表示“水, 波浪”之义" or "意为“解热剂”", or
+/// the brackets of "表示(含铁)之义", which translates a word element; "" if the piece does not
+/// begin so.
 std::u16string_view quotedMeaning(std::u16string_view piece);
 
 /// Returns the equivalent of a word element without a lead-in and the quotation marks after it:

@@ -68,6 +68,8 @@ TEST(QuotedMeaning, IsTheMeaningOfAWordElement) {
   EXPECT_EQ(dictionary::quotedMeaning(u"表示“分裂”：karyokinesis"), u"分裂");
   EXPECT_EQ(dictionary::quotedMeaning(u"表示\"腹(部)\""), u"腹(部)");
   EXPECT_EQ(dictionary::quotedMeaning(u"意为“麦当劳式的”"), u"麦当劳式的");
+  EXPECT_EQ(dictionary::quotedMeaning(u"表示(含铁)之义"), u"含铁");
+  EXPECT_EQ(dictionary::quotedMeaning(u"表示(含铁)"), u"");
   for (const std::u16string_view piece : {u"表示“忧伤, 惊恐”的感叹词", u"表示同意", u"表示",
                                           u"表示“水", u"表示“”", u"用以表示“水”", u"表示\"水"}) {
     EXPECT_EQ(dictionary::quotedMeaning(piece), u"") << piece.size();
