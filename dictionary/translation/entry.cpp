@@ -234,12 +234,15 @@ std::vector<Piece> LineParser::pieces() {
   return std::move(pieces_);
 }
 
-/// The headword after an equals sign if the piece is nothing else: "= groundsheet".
+/// The headword that the piece refers to if it is nothing else: "= groundsheet", "见metal
+/// detector", "即Ezekiel".
 std::optional<std::u16string> referenceIn(const Piece& piece) {
-  if (piece.equivalent.fault != PieceFault::kNoHan) return std::nullopt;
+  if (piece.equivalent.fault == PieceFault::kNone) return std::nullopt;
   const std::u16string text = foldBlanks(withoutNotes(piece.noted));
-  if (!text.starts_with(u'=') && !text.starts_with(u'＝')) return std::nullopt;
-  return headword(std::u16string_view(text).substr(1));
+  constexpr std::u16string_view kSigns = u"=＝见即";
+  if (text.empty() || kSigns.find(text[0]) == std::u16string_view::npos) return std::nullopt;
+  const std::u16string_view other = std::u16string_view(text).substr(1);
+  return std::ranges::all_of(other, isForeign) ? headword(other) : std::nullopt;
 }
 
 /// Returns whether the general dictionary has something to show for the entry.

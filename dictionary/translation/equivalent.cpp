@@ -252,11 +252,13 @@ bool hasLooseEnds(std::u16string_view word) {
 constexpr std::array kForms = {u"简写"sv, u"缩写"sv,     u"变形"sv,     u"变体"sv,   u"复数"sv,
                                u"形式"sv, u"过去分词"sv, u"现在分词"sv, u"过去式"sv, u"写法"sv};
 
-/// "见 -ion" refers to another entry, "的复数" is what remains after a foreign word is removed, and
-/// "dragon lady 的意思是" precedes an explanation.
+/// "见 -ion" and "即Ezekiel" refer to another entry, "的复数" is what remains after a foreign word
+/// is removed, and "dragon lady 的意思是" precedes an explanation.
 bool isReference(std::u16string_view word) {
-  const bool elsewhere =
-      word.size() > 1 && word[0] == u'见' && (isLatin(word[1]) || word[1] == u'-');
+  const bool sees = word.size() > 1 && word[0] == u'见' && (isLatin(word[1]) || word[1] == u'-');
+  const bool same =
+      word.size() > 1 && word[0] == u'即' && std::ranges::all_of(word.substr(1), isForeign);
+  const bool elsewhere = sees || same;
   const bool form = std::ranges::any_of(kForms, [&](auto end) { return word.ends_with(end); });
   const bool meaning = isLatin(word[0]) && word.find(u"的意思是") != std::u16string_view::npos;
   return elsewhere || (form && word.starts_with(u'的')) || meaning;

@@ -297,6 +297,18 @@ TEST(SubjectText, HasNoBracketTooMany) {
   EXPECT_EQ(text(u"[医] 甲(乙)丙)", Subject::kMedicine), u"甲(乙)丙)");
 }
 
+// "electronic locator | [电] 见metal detector", "Ezechiel | 即Ezekiel", "Tungting | Lake见Dongting
+// Lake"
+TEST(ExtractEntry, ReferencesAreAlsoThoseWithAVerb) {
+  EXPECT_EQ(entryOf("[电] 见metal detector").references, (Texts{u"metal detector"}));
+  EXPECT_EQ(entryOf("即Ezekiel").references, (Texts{u"Ezekiel"}));
+  EXPECT_EQ(wordsOf("即Ezekiel"), Texts());
+  EXPECT_EQ(entryOf("Lake见Dongting Lake").references, (Texts{u"Dongting Lake"}));
+  EXPECT_EQ(entryOf("即 TCP协议").references, Texts());
+  EXPECT_EQ(entryOf("见").references, Texts());
+  EXPECT_EQ(wordsOf("vi. 见"), (Texts{u"见"}));
+}
+
 // "debiting | v. 记入（账户）的借方( debit的现在分词 )", "uncock | vt.把(枪枝)的击铁扳至非击发位置"
 TEST(ParseLine, KeepsThePlaceOfAVerbsObject) {
   EXPECT_EQ(words(u"v. 记入（账户）的借方( debit的现在分词 )"), (Texts{u"记入…的借方"}));
