@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <limits>
 
 namespace dictionary {
 namespace {
@@ -10,6 +11,10 @@ namespace {
 constexpr std::size_t kMaxSenses = 10;
 /// Of these, senses from the lines of subjects.
 constexpr std::size_t kMaxSubjectSenses = 2;
+
+/// Up to this rank by frequency, that is, among function words and verbs such as "be" and "get",
+/// what a subject adds is nearly always an abbreviation in capitals or a command.
+constexpr std::uint32_t kBasicRank = 120;
 
 /// A web tag outweighs a name's.
 SenseKind kindOf(SubjectSet subjects) {
@@ -23,6 +28,8 @@ struct Candidate {
   std::size_t line = 0;
   bool subject = false;
   bool slang = false;
+  /// Best place in another line that repeats it, from 0.
+  std::size_t repeated = std::numeric_limits<std::size_t>::max();
 };
 
 bool isOrdinary(const Candidate& candidate) { return candidate.sense.kind == SenseKind::kOrdinary; }
@@ -33,6 +40,7 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
   for (const SenseKind kind : {SenseKind::kOrdinary, SenseKind::kName, SenseKind::kWeb}) {
     for (std::size_t i = 0; i < entry.lines.size(); ++i) {
       const TranslationLine& line = entry.lines[i];
+      std::size_t place = 0;
       for (const Piece& piece : line.pieces) {
         const std::u16string& word = piece.equivalent.word;
         if (word.empty() || kindOf(piece.subjects) != kind) continue;
@@ -41,8 +49,11 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
         if (known != candidates.end()) {
           // "n. 使用, 习惯\nvt. 使用, 利用": a noun's equivalent and a verb's.
           known->sense.parts = static_cast<PartOfSpeechSet>(known->sense.parts | line.parts);
+          if (known->line != i) known->repeated = std::min(known->repeated, place);
+          ++place;
           continue;
         }
+        ++place;
         const bool reference = inflectionIn(word).has_value();
         candidates.push_back(
             {{&word, kind, line.parts, reference}, i, piece.subjects != 0, piece.slang});
@@ -53,7 +64,8 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
 }
 
 /// Returns at most `limit` candidates, chosen in turn from each line, the first of every line
-/// first; in their order.
+/// first; in their order. A candidate that another line repeats has its best turn in either: in
+/// "n. 切口, 割伤, 降低, 切\nvt. 切, 割, 减少" 切 is the verb's first.
 std::vector<Candidate> inTurn(const std::vector<Candidate>& candidates, std::size_t limit) {
   std::vector<std::size_t> turns(candidates.size());
   std::vector<std::size_t> order;
@@ -61,6 +73,9 @@ std::vector<Candidate> inTurn(const std::vector<Candidate>& candidates, std::siz
     const bool sameLine = i > 0 && candidates[i].line == candidates[i - 1].line;
     turns[i] = sameLine ? turns[i - 1] + 1 : 0;
     order.push_back(i);
+  }
+  for (std::size_t i = 0; i < candidates.size(); ++i) {
+    turns[i] = std::min(turns[i], candidates[i].repeated);
   }
   std::ranges::stable_sort(order, {}, [&](std::size_t index) { return turns[index]; });
   if (order.size() > limit) order.resize(limit);
@@ -70,8 +85,8 @@ std::vector<Candidate> inTurn(const std::vector<Candidate>& candidates, std::siz
   return taken;
 }
 
-/// What is kept of a common word's senses.
-std::vector<Candidate> chosen(std::vector<Candidate> candidates) {
+/// What is kept of a common word's senses. `basic`: the word is one of the most frequent.
+std::vector<Candidate> chosen(std::vector<Candidate> candidates, bool basic) {
   const auto plain = [](const Candidate& one) {
     return isOrdinary(one) && !one.slang && !one.subject;
   };
@@ -89,7 +104,7 @@ std::vector<Candidate> chosen(std::vector<Candidate> candidates) {
       plainSenses > 0 && std::ranges::all_of(candidates, [&](const Candidate& one) {
         return !plain(one) || one.sense.reference;
       });
-  const bool none = functionWord || onlyForm;
+  const bool none = basic || functionWord || onlyForm;
   const std::size_t fromSubjects = plainSenses == 0 ? kMaxSenses : none ? 0 : kMaxSubjectSenses;
   std::vector<Candidate> general;
   std::vector<Candidate> subject;
@@ -115,7 +130,10 @@ std::vector<Sense> sensesOf(const Entry& entry) {
   // A form has no rank, but may be as common as its lemma.
   const bool form = std::ranges::any_of(
       candidates, [](const Candidate& candidate) { return candidate.sense.reference; });
-  if (isCommon(entry) || form) candidates = chosen(std::move(candidates));
+  if (isCommon(entry) || form) {
+    const bool basic = entry.rank > 0 && entry.rank <= kBasicRank;
+    candidates = chosen(std::move(candidates), basic);
+  }
   std::vector<Sense> senses;
   senses.reserve(candidates.size());
   for (const Candidate& candidate : candidates) senses.push_back(candidate.sense);

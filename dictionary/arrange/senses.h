@@ -31,7 +31,8 @@ inline bool isCommon(const Entry& entry) { return entry.rank > 0 && entry.rank <
 /// are returned, since its rows are sorted by their Chinese text, so that any rare sense may come
 /// first: at most ten ordinary ones, taken in turn from its lines (that is, of each part of
 /// speech); no slang beside others; at most two from lines of a subject, which that subject's
-/// dictionary has as well, and none of these for a function word; none from the web beside others.
+/// dictionary has as well, and none of these for a function word or one of the most frequent; none
+/// from the web beside others.
 std::vector<Sense> sensesOf(const Entry& entry);
 
 }  // namespace dictionary

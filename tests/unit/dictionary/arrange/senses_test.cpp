@@ -52,6 +52,15 @@ TEST(Senses, OfACommonWordAreTenInTurnFromEachLine) {
   EXPECT_EQ(words(entry("hand", hand, 0)).size(), 13U) << "0 is no rank";
 }
 
+TEST(Senses, OfACommonWordHaveTheBestTurnOfTheLinesThatRepeatThem) {
+  const std::string cut =
+      "n. 切口, 割伤, 降低, 切, 割, 砍\\na. 经切割的, 缩减的\\nvt. 切, 割, 减少, 刺痛\\n"
+      "vi. 切, 割, 相交, 抄近路, 剪辑";
+  EXPECT_EQ(words(entry("cut", cut, 414)),
+            (Words{u"切口", u"割伤", u"切", u"割", u"经切割的", u"缩减的", u"减少", u"刺痛",
+                   u"相交", u"抄近路"}));
+}
+
 TEST(Senses, OfACommonWordAreNoSlangBesideOthers) {
   EXPECT_EQ(words(entry("william", "n. 威廉（男子名）；[常作W-][美俚]钞票, 纸币", 1122)),
             (Words{u"钞票", u"纸币", u"威廉"}))
@@ -75,6 +84,12 @@ TEST(Senses, OfAFunctionWordAreNoneOfASubject) {
             (Words{u"在", u"对", u"向"}));
   EXPECT_EQ(words(entry("am", "be的单数第一人称\\n[计] 存取管理程序, 寻址方式", 0)),
             (Words{u"be的单数第一人称"}));
+}
+
+TEST(Senses, OfOneOfTheMostFrequentWordsAreNoneOfASubject) {
+  const std::string put = "vt. 放, 安置\\n[计] 发送文件";
+  EXPECT_EQ(words(entry("put", put, 120)), (Words{u"放", u"安置"}));
+  EXPECT_EQ(words(entry("put", put, 121)), (Words{u"放", u"安置", u"发送文件"}));
 }
 
 TEST(Senses, OfACommonWordAreNoneFromTheWebBesideOthers) {
