@@ -99,8 +99,8 @@ void PairCollector::addPair(std::uint32_t english, const std::u16string& chinese
   parts_.push_back(parts);
 }
 
-/// Notes that the entry, whose own pairs are added, is a form, unless its translation gives the
-/// form's meaning: "离弃( abandon的第三人称单数 ); 放弃". Returns the number of pairs added.
+/// Notes that the entry, whose own pairs are added, is a form. Its translation may give the form's
+/// meaning: "离弃( abandon的第三人称单数 ); 放弃". Returns the number of pairs added.
 std::size_t PairCollector::addForm(const Entry& entry, const std::vector<Sense>& senses) {
   const auto noting = std::ranges::find_if(
       entry.lines, [](const TranslationLine& line) { return !line.inflection.empty(); });
@@ -111,10 +111,11 @@ std::size_t PairCollector::addForm(const Entry& entry, const std::vector<Sense>&
   std::u16string note;
   if (named != senses.end()) {
     form.inflection = *inflectionIn(*named->word);
-  } else if (inNote && senses.empty()) {
-    note = noting->inflection;
-    form.inflection = inflectionIn(note).value_or(Inflection());
-  } else if (!inNote && entry.inflection) {
+  } else if (inNote) {
+    form.given = !senses.empty();
+    form.inflection = inflectionIn(noting->inflection).value_or(Inflection());
+    if (senses.empty()) note = noting->inflection;
+  } else if (entry.inflection) {
     form.noted = false;
     form.inflection = *entry.inflection;
     if (senses.empty()) note = inflectionText(form.inflection);
@@ -127,6 +128,7 @@ std::size_t PairCollector::addForm(const Entry& entry, const std::vector<Sense>&
   }
   form.english = static_cast<std::uint32_t>(english_.size() - 1);
   form.next = std::max<std::size_t>(senses.size(), 1);
+  form.firstPair = pairs_.size() - form.next;
   if (!form.inflection.lemma.empty()) forms_.push_back(std::move(form));
   return senses.empty() ? 1 : 0;
 }
@@ -248,6 +250,16 @@ void PairCollector::followForm(const FormEntry& form, const Referred& lemma) {
   }
 }
 
+/// A form that gives its own meaning ("go的第三人称单数" says 行走) is as important as its lemma.
+void PairCollector::raiseForm(const FormEntry& form, const Referred& lemma) {
+  if (!lemma.important) return;
+  for (std::size_t i = form.firstPair; i < form.firstPair + form.next; ++i) {
+    Tier& tier = pairs_[i].tier;
+    if (tier == Tier::kFirst) tier = Tier::kImportantFirst;
+    if (tier == Tier::kInflected) tier = Tier::kImportant;
+  }
+}
+
 /// After references were followed: "randomised" is a form of "randomise", which is "= randomize".
 void PairCollector::followForms() {
   ReferredWords words;
@@ -256,6 +268,10 @@ void PairCollector::followForms() {
   for (const FormEntry& form : forms_) {
     const Referred& lemma = words.at(form.inflection.lemma);
     if (lemma.meanings.empty()) continue;
+    if (form.given) {
+      raiseForm(form, lemma);
+      continue;
+    }
     if (form.noted || form.alone || hides(form, lemma)) followForm(form, lemma);
   }
 }

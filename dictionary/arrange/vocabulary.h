@@ -94,9 +94,11 @@ class PairCollector {
   struct FormEntry {
     std::uint32_t english = 0;  ///< index of the headword; its pairs are added
     Inflection inflection;
-    bool noted = false;    ///< whether the translation names the form
-    bool alone = false;    ///< whether it gives nothing else
-    std::size_t next = 0;  ///< position after those of its own pairs
+    bool noted = false;         ///< whether the translation names the form
+    bool alone = false;         ///< whether it gives nothing else
+    bool given = false;         ///< whether it gives the form's own meaning
+    std::size_t next = 0;       ///< position after those of its own pairs
+    std::size_t firstPair = 0;  ///< index into pairs_ of its first own pair; there are `next`
   };
 
   /// A pair of a word that others refer to.
@@ -118,6 +120,7 @@ class PairCollector {
   void followReferences();
   void followForms();
   void followForm(const FormEntry& form, const Referred& lemma);
+  void raiseForm(const FormEntry& form, const Referred& lemma);
   [[nodiscard]] bool hides(const FormEntry& form, const Referred& lemma) const;
   void addHeadword(const std::u16string& word, std::uint32_t rank, bool important);
   void addPair(std::uint32_t english, const std::u16string& chinese, Tier tier,

@@ -154,6 +154,17 @@ TEST(PairCollector, TakesAFormForAsImportantAsItsLemma) {
   EXPECT_EQ(tier(u"abided", u"忍受"), Tier::kInflected);
 }
 
+TEST(PairCollector, TakesAFormThatGivesItsOwnMeaningForAsImportantAsItsLemma) {
+  const Entry goes = entry("goes", "v. 前进；行走（go的第三人称单数形式）");
+  const Vocabulary common = collect({goes, entry("go", "vi. 去", true, 37)});
+  EXPECT_EQ(tierOf(common, u"前进"), Tier::kImportantFirst);
+  EXPECT_EQ(tierOf(common, u"行走"), Tier::kImportant);
+  EXPECT_EQ(texts(common).size(), 3U) << "it takes nothing over";
+  const Vocabulary rare = collect({goes, entry("go", "vi. 去")});
+  EXPECT_EQ(tierOf(rare, u"前进"), Tier::kFirst);
+  EXPECT_EQ(tierOf(rare, u"行走"), Tier::kInflected);
+}
+
 TEST(PairCollector, GivesAFormOfTwoPartsOfSpeechBoth) {
   const Vocabulary vocabulary =
       collect({entry("hand", "n. 手, 爪, 指针\\nvt. 交给, 支持", true, 163),
