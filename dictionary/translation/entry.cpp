@@ -298,10 +298,12 @@ void addLines(Entry& entry, std::u16string_view translation) {
   }
 }
 
-/// Returns whether the entry has an equivalent that is not the form of another word.
+/// Returns whether the entry has an equivalent that is neither the form of another word nor from
+/// the web.
 bool hasEquivalent(const Entry& entry) {
   const auto means = [](const Piece& piece) {
-    return !piece.equivalent.word.empty() && !inflectionIn(piece.equivalent.word);
+    return !piece.equivalent.word.empty() && (piece.subjects & setOf(Subject::kWeb)) == 0 &&
+           !inflectionIn(piece.equivalent.word);
   };
   return std::ranges::any_of(entry.lines, [&](const TranslationLine& line) {
     return std::ranges::any_of(line.pieces, means);
@@ -376,7 +378,11 @@ std::optional<Entry> extractEntry(const SourceEntry& source) {
   entry.important = source.important;
   entry.rank = source.rank;
   entry.inflection = inflectionOf(source.exchange, source.word);
-  addLines(entry, text::toUtf16(source.translation));
+  const std::u16string_view corrected = correctedTranslation(entry.headword);
+  addLines(entry,
+           corrected.empty() ? text::toUtf16(source.translation) : std::u16string(corrected));
+  const std::u16string_view name = missingGivenName(entry.headword);
+  if (!name.empty()) addLines(entry, name);
   const std::u16string_view supplement = supplementaryTranslation(entry.headword);
   if (!supplement.empty() && !hasEquivalent(entry)) {
     entry.references.clear();

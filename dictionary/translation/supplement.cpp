@@ -91,15 +91,80 @@ constexpr std::array<Supplement, 71> kSupplements = {{
     {u"yours faithfully", u"谨上, 谨启"},
 }};
 
+/// Contractions that the source expands, describes or has as something else; in the order of their
+/// code units.
+constexpr auto kCorrected = std::to_array<Supplement>({
+    {u"doesn't", u"不"},
+    {u"haven't", u"没有, 尚未"},
+    {u"here's", u"这是, 这里有"},
+    {u"it'll", u"它将, 它会"},
+    {u"it's", u"它是, 它有"},
+    {u"mustn't", u"不准, 不得, 不可"},
+    {u"needn't", u"不必, 不需要"},
+    {u"that's", u"那是, 那就是"},
+    {u"they'd", u"他们会, 他们已经"},
+    {u"they've", u"他们已经, 他们有"},
+    {u"what's", u"什么是, 是什么"},
+});
+
+/// Given names, in the order of their code units. The source ranks these words by their use as
+/// names.
+constexpr auto kGivenNames = std::to_array<Supplement>({
+    {u"al", u"n. 阿尔（男子名）"},          {u"alice", u"n. 爱丽丝（女子名）"},
+    {u"ben", u"n. 本（男子名）"},           {u"bill", u"n. 比尔（男子名）"},
+    {u"billy", u"n. 比利（男子名）"},       {u"bob", u"n. 鲍勃（男子名）"},
+    {u"bobby", u"n. 博比（男子名）"},       {u"carol", u"n. 卡萝尔（女子名）"},
+    {u"catherine", u"n. 凯瑟琳（女子名）"}, {u"charlie", u"n. 查利（男子名）"},
+    {u"charlotte", u"n. 夏洛特（女子名）"}, {u"dan", u"n. 丹（男子名）"},
+    {u"dean", u"n. 迪安（男子名）"},        {u"dick", u"n. 迪克（男子名）"},
+    {u"don", u"n. 唐（男子名）"},           {u"ed", u"n. 埃德（男子名）"},
+    {u"eric", u"n. 埃里克（男子名）"},      {u"frank", u"n. 弗兰克（男子名）"},
+    {u"graham", u"n. 格雷厄姆（男子名）"},  {u"guy", u"n. 盖伊（男子名）"},
+    {u"harry", u"n. 哈里（男子名）"},       {u"jack", u"n. 杰克（男子名）"},
+    {u"jake", u"n. 杰克（男子名）"},        {u"janet", u"n. 珍妮特（女子名）"},
+    {u"jenny", u"n. 珍妮（女子名）"},       {u"jerry", u"n. 杰里（男子名）"},
+    {u"jimmy", u"n. 吉米（男子名）"},       {u"john", u"n. 约翰（男子名）"},
+    {u"johnny", u"n. 约翰尼（男子名）"},    {u"josh", u"n. 乔希（男子名）"},
+    {u"ken", u"n. 肯（男子名）"},           {u"leo", u"n. 利奥（男子名）"},
+    {u"lewis", u"n. 刘易斯（男子名）"},     {u"matt", u"n. 马特（男子名）"},
+    {u"max", u"n. 马克斯（男子名）"},       {u"mike", u"n. 迈克（男子名）"},
+    {u"molly", u"n. 莫莉（女子名）"},       {u"nancy", u"n. 南希（女子名）"},
+    {u"nick", u"n. 尼克（男子名）"},        {u"norman", u"n. 诺曼（男子名）"},
+    {u"oliver", u"n. 奥利弗（男子名）"},    {u"pat", u"n. 帕特（男子名）"},
+    {u"peter", u"n. 彼得（男子名）"},       {u"phil", u"n. 菲尔（男子名）"},
+    {u"ray", u"n. 雷（男子名）"},           {u"rob", u"n. 罗布（男子名）"},
+    {u"robert", u"n. 罗伯特（男子名）"},    {u"roger", u"n. 罗杰（男子名）"},
+    {u"ron", u"n. 罗恩（男子名）"},         {u"rosa", u"n. 罗莎（女子名）"},
+    {u"ruth", u"n. 露丝（女子名）"},        {u"sally", u"n. 萨莉（女子名）"},
+    {u"sam", u"n. 萨姆（男子名）"},         {u"stella", u"n. 斯特拉（女子名）"},
+    {u"ted", u"n. 特德（男子名）"},         {u"terry", u"n. 特里（男子名）"},
+    {u"thomas", u"n. 托马斯（男子名）"},    {u"tom", u"n. 汤姆（男子名）"},
+    {u"tony", u"n. 托尼（男子名）"},        {u"victor", u"n. 维克托（男子名）"},
+});
+
 static_assert(std::ranges::is_sorted(kSupplements, {}, &Supplement::word));
+static_assert(std::ranges::is_sorted(kCorrected, {}, &Supplement::word));
+static_assert(std::ranges::is_sorted(kGivenNames, {}, &Supplement::word));
+
+template <typename Table>
+std::u16string_view translationIn(const Table& table, std::u16string_view word) {
+  const std::u16string lower = text::toLower(word);
+  const auto found = std::ranges::lower_bound(table, lower, {}, &Supplement::word);
+  return found != table.end() && found->word == lower ? found->translation : std::u16string_view();
+}
 
 }  // namespace
 
 std::u16string_view supplementaryTranslation(std::u16string_view word) {
-  const std::u16string lower = text::toLower(word);
-  const auto* const found = std::ranges::lower_bound(kSupplements, lower, {}, &Supplement::word);
-  return found != kSupplements.end() && found->word == lower ? found->translation
-                                                             : std::u16string_view();
+  return translationIn(kSupplements, word);
+}
+
+std::u16string_view correctedTranslation(std::u16string_view word) {
+  return translationIn(kCorrected, word);
+}
+
+std::u16string_view missingGivenName(std::u16string_view word) {
+  return translationIn(kGivenNames, word);
 }
 
 }  // namespace dictionary

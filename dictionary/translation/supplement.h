@@ -2,11 +2,21 @@
 
 #include <string_view>
 
+/// Translations of words that people meet, in the grammar of the source, written for this
+/// dictionary where the source fails. Words are compared without regard to the case of ASCII
+/// letters.
 namespace dictionary {
 
-/// Returns a translation, in the grammar of the source, of a word that people meet and whose
-/// translation there cannot be used ("=has not", "（等于I have）"); otherwise "". `word` is
-/// compared without regard to the case of ASCII letters. Written for this dictionary.
+/// Returns a translation for a word whose translation in the source cannot be used ("=has not",
+/// "（等于I have）"), or comes from the web alone; otherwise "".
 std::u16string_view supplementaryTranslation(std::u16string_view word);
+
+/// Returns a translation to be used instead of the source's, which gives an expansion ("must not
+/// 之缩写"), a description (表示否定) or something else than what the word means; otherwise "".
+std::u16string_view correctedTranslation(std::u16string_view word);
+
+/// Returns the Chinese form of a given name for which the source has other meanings only ("john" is
+/// 盥洗室, 厕所, 嫖客 there), as a noted name; otherwise "".
+std::u16string_view missingGivenName(std::u16string_view word);
 
 }  // namespace dictionary

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "dictionary/arrange/senses.h"
 #include "dictionary/translation/entry.h"
 
 namespace {
@@ -35,6 +36,11 @@ TEST(Supplement, TranslatesContractions) {
   EXPECT_EQ(equivalents("y'all", ""), (Words{u"你们", u"你们大家"}));
 }
 
+TEST(Supplement, ComesBesideWhatIsFromTheWebAlone) {
+  const std::string translation = "abbr. (=you will； you shall)\\n[网络] 你将；你应该";
+  EXPECT_EQ(equivalents("you'll", translation), (Words{u"你将", u"你应该", u"你将", u"你会"}));
+}
+
 TEST(Supplement, DoesNotRefer) {
   const auto entry = dictionary::extractEntry({"hasn't", " =has not"});
   EXPECT_TRUE(entry->references.empty());
@@ -56,6 +62,34 @@ TEST(Supplement, FindsEveryWordWithoutRegardToCase) {
   }
   EXPECT_TRUE(dictionary::supplementaryTranslation(u"patios").empty());
   EXPECT_TRUE(dictionary::supplementaryTranslation(u"").empty());
+}
+
+std::vector<std::u16string> senses(const std::string& word, const std::string& translation) {
+  const auto entry = dictionary::extractEntry({word, translation});
+  std::vector<std::u16string> words;
+  for (const dictionary::Sense& sense : dictionary::sensesOf(*entry)) words.push_back(*sense.word);
+  return words;
+}
+
+// The translations are those of the source.
+TEST(Corrections, TakeThePlaceOfAnExpansionOrDescription) {
+  EXPECT_EQ(senses("mustn't", "must not 之缩写"), (Words{u"不准", u"不得", u"不可"}));
+  EXPECT_EQ(senses("doesn't", "aux. 表示否定"), (Words{u"不"}));
+  EXPECT_EQ(senses("It's", "it is的缩写, it has的缩写"), (Words{u"它是", u"它有"}));
+}
+
+TEST(Corrections, AddAGivenNameToOtherMeanings) {
+  EXPECT_EQ(senses("john", "n. 盥洗室, 厕所, 嫖客"), (Words{u"盥洗室", u"厕所", u"嫖客", u"约翰"}));
+  const auto entry = dictionary::extractEntry({"John", "n. 厕所"});
+  EXPECT_EQ(dictionary::sensesOf(*entry).back().kind, dictionary::SenseKind::kName);
+}
+
+TEST(Corrections, LeaveOtherWordsAlone) {
+  EXPECT_EQ(senses("isn't", "不是"), (Words{u"不是"}));
+  for (const std::u16string_view word : {u"", u"johns", u"its", u"zzz"}) {
+    EXPECT_TRUE(dictionary::correctedTranslation(word).empty());
+    EXPECT_TRUE(dictionary::missingGivenName(word).empty());
+  }
 }
 
 }  // namespace
