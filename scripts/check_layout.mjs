@@ -37,7 +37,7 @@ const mayInclude = {
     'dictionary/arrange'],
   'dictionary/check': [...builder, 'dictionary/source', 'dictionary/translation',
     'dictionary/arrange', 'dictionary/database'],
-  'dictionary/coverage': builder,
+  'dictionary/coverage': [...builder, 'dictionary/source', 'dictionary/translation'],
   dictionary: ['text', 'data', 'dictionary/source', 'dictionary/translation', 'dictionary/arrange',
     'dictionary/database', 'dictionary/check', 'dictionary/coverage'],
 };

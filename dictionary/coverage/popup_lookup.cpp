@@ -1,10 +1,9 @@
 #include "dictionary/coverage/popup_lookup.h"
 
 #include <algorithm>
-#include <array>
 
 #include "dictionary/console.h"
-#include "text/characters.h"
+#include "dictionary/translation/inflection.h"
 #include "text/order.h"
 #include "text/query_text.h"
 #include "text/utf.h"
@@ -15,41 +14,7 @@ namespace {
 /// Those of the popup (frmScreenWordMeaning).
 constexpr data::LookupOptions kRules{.lambdaUpperKey = true, .chineseMeaningFindsBounds = true};
 
-/// What a reference says of the other word, which stands before it: "boxes" is "box的复数". Names
-/// and abbreviations ("…的缩写") are no such forms: what they stand for is their meaning.
-constexpr auto kForms = std::to_array<std::u16string_view>(
-    {u"变形", u"复数", u"单数", u"过去式", u"过去时", u"分词", u"进行式", u"动名词", u"人称",
-     u"比较级", u"最高级", u"所有格", u"宾格", u"形式", u"变体", u"异体", u"古体"});
-/// What a reference begins with if the other word is at its end.
-constexpr auto kEquals =
-    std::to_array<std::u16string_view>({u"等于", u"同", u"参见", u"见", u"即"});
-
-std::size_t firstHan(std::u16string_view text) {
-  const auto* const found = std::find_if(text.begin(), text.end(), text::isHan);
-  return static_cast<std::size_t>(found - text.begin());
-}
-
-bool hasLetter(std::u16string_view text) {
-  return std::any_of(text.begin(), text.end(), [](char16_t unit) {
-    return text::lowerAscii(unit) >= u'a' && text::lowerAscii(unit) <= u'z';
-  });
-}
-
 }  // namespace
-
-bool isReference(std::u16string_view meaning) {
-  for (const std::u16string_view equals : kEquals) {
-    if (!meaning.starts_with(equals)) continue;
-    const std::u16string_view rest = meaning.substr(equals.size());
-    return hasLetter(rest) && firstHan(rest) == rest.size();
-  }
-  const std::size_t han = firstHan(meaning);
-  const std::u16string_view form = meaning.substr(han);
-  return hasLetter(meaning.substr(0, han)) && form.starts_with(u'的') &&
-         std::any_of(kForms.begin(), kForms.end(), [&](std::u16string_view name) {
-           return form.find(name) != std::u16string_view::npos;
-         });
-}
 
 PopupLookup::PopupLookup(const std::filesystem::path& database)
     : test_(index_), lookup_(index_, kRules) {
@@ -77,20 +42,26 @@ Shown PopupLookup::shown(std::u16string_view word) {
   return found;
 }
 
-std::vector<std::u16string> PopupLookup::meanings(std::u16string_view escapedWord) {
+std::vector<std::u16string> PopupLookup::meaningsOfEscaped(std::u16string_view escapedWord) {
   control_.setRecordSource(lookup_.findword(user::getEorC(escapedWord), escapedWord, control_));
   control_.refresh();
   return data::readMeanings(control_.recordset());
 }
 
+std::vector<std::u16string> PopupLookup::meanings(std::u16string_view word) {
+  std::u16string escaped(word);
+  user::escapeQuote(escaped);
+  return meaningsOfEscaped(escaped);
+}
+
 Shown PopupLookup::lookUp(std::u16string_view word) {
   std::u16string escaped(word);
-  auto found = meanings(user::escapeQuote(escaped));
+  auto found = meaningsOfEscaped(user::escapeQuote(escaped));
   Shown shown = Shown::kMeaning;
   if (found.empty()) {
     // Deliberate: quotes that are doubled already are doubled again, as the popup does.
     std::u16string shorter = escaped.substr(0, escaped.size() - 1);
-    found = meanings(user::escapeQuote(shorter));
+    found = meaningsOfEscaped(user::escapeQuote(shorter));
     shown = Shown::kShortened;
   }
   if (found.empty()) return Shown::kNothing;

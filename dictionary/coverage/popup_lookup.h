@@ -23,10 +23,6 @@ enum class Shown : std::uint8_t {
 };
 inline constexpr std::size_t kShownCount = 4;
 
-/// Returns whether a meaning only names another word, of which the headword is a form or another
-/// spelling: "take的过去式", "等于complainer".
-bool isReference(std::u16string_view meaning);
-
 /// Looks English words up as the popup does, with the same functions and queries, and remembers the
 /// results. Opens the file for reading only. All functions throw data::Error where the database
 /// cannot be read.
@@ -38,9 +34,11 @@ class PopupLookup {
   bool isHeadword(std::u16string_view word);
   /// Returns what the popup shows for `word`, which is not empty.
   Shown shown(std::u16string_view word);
+  /// Returns what the popup lists for `word`, not empty and not shortened: its Chinese words.
+  std::vector<std::u16string> meanings(std::u16string_view word);
 
  private:
-  [[nodiscard]] std::vector<std::u16string> meanings(std::u16string_view escapedWord);
+  [[nodiscard]] std::vector<std::u16string> meaningsOfEscaped(std::u16string_view escapedWord);
   Shown lookUp(std::u16string_view word);
 
   data::DataControl control_;

@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "dictionary/source/characters.h"
+#include "text/characters.h"
 #include "text/order.h"
 #include "text/utf.h"
 
@@ -84,6 +85,26 @@ bool isWordUnit(char16_t unit) {
          unit == u'.';
 }
 
+/// What a reference says of the other word, which stands before it: "boxes" is "box的复数". Names
+/// and abbreviations ("…的缩写") are no such forms: what they stand for is their meaning.
+constexpr auto kForms = std::to_array<std::u16string_view>(
+    {u"变形", u"复数", u"单数", u"过去式", u"过去时", u"分词", u"进行式", u"动名词", u"人称",
+     u"比较级", u"最高级", u"所有格", u"宾格", u"形式", u"变体", u"异体", u"古体"});
+/// What a reference begins with if the other word is at its end.
+constexpr auto kEquals =
+    std::to_array<std::u16string_view>({u"等于", u"同", u"参见", u"见", u"即"});
+
+std::size_t firstHan(std::u16string_view text) {
+  const auto* const found = std::find_if(text.begin(), text.end(), text::isHan);
+  return static_cast<std::size_t>(found - text.begin());
+}
+
+bool hasLetter(std::u16string_view text) {
+  return std::any_of(text.begin(), text.end(), [](char16_t unit) {
+    return text::lowerAscii(unit) >= u'a' && text::lowerAscii(unit) <= u'z';
+  });
+}
+
 }  // namespace
 
 std::optional<Inflection> inflectionOf(std::string_view exchange, std::string_view headword) {
@@ -138,6 +159,20 @@ PartOfSpeechSet partsOfSpeechOf(FormSet forms) {
     parts |= setOf(PartOfSpeech::kAdjective) | setOf(PartOfSpeech::kAdverb);
   }
   return static_cast<PartOfSpeechSet>(parts);
+}
+
+bool isReference(std::u16string_view meaning) {
+  for (const std::u16string_view equals : kEquals) {
+    if (!meaning.starts_with(equals)) continue;
+    const std::u16string_view rest = meaning.substr(equals.size());
+    return hasLetter(rest) && firstHan(rest) == rest.size();
+  }
+  const std::size_t han = firstHan(meaning);
+  const std::u16string_view form = meaning.substr(han);
+  return hasLetter(meaning.substr(0, han)) && form.starts_with(u'的') &&
+         std::any_of(kForms.begin(), kForms.end(), [&](std::u16string_view name) {
+           return form.find(name) != std::u16string_view::npos;
+         });
 }
 
 }  // namespace dictionary

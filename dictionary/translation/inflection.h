@@ -38,6 +38,11 @@ std::optional<Inflection> inflectionOf(std::string_view exchange, std::string_vi
 /// Reads "take的过去分词", which must be the whole text; otherwise nullopt.
 std::optional<Inflection> inflectionIn(std::u16string_view text);
 
+/// Returns whether `meaning` only names another word, of which the headword is a form or another
+/// spelling: "take的过去式", "等于complainer". Recognises more than inflectionIn(), which reads
+/// what it is a form of.
+bool isReference(std::u16string_view meaning);
+
 /// Returns the text that inflectionIn() reads, "take的过去式和过去分词"; "" if `forms` is 0.
 std::u16string inflectionText(const Inflection& inflection);
 

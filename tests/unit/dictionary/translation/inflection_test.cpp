@@ -12,6 +12,7 @@ using dictionary::Inflection;
 using dictionary::inflectionIn;
 using dictionary::inflectionOf;
 using dictionary::inflectionText;
+using dictionary::isReference;
 using dictionary::PartOfSpeech;
 using dictionary::partsOfSpeechOf;
 using dictionary::setOf;
@@ -100,6 +101,23 @@ TEST(PartsOfSpeech, AreReadFromTheMarks) {
   EXPECT_EQ(partsOfSpeechIn(u"conj. "), setOf(PartOfSpeech::kFunction));
   EXPECT_EQ(partsOfSpeechIn(u"abbr. "), 0);
   EXPECT_EQ(partsOfSpeechIn(u""), 0);
+}
+
+TEST(IsReference, NamesAnotherFormOfTheWord) {
+  for (const std::u16string_view meaning :
+       {u"take的过去式", u"take的过去式和过去分词", u"A-list的变形", u"agora的复数形",
+        u"well-off的最高级形式", u"be的单数第一人称", u"direct的第三人称单数现在式", u"Body的变体",
+        u"等于complainer", u"同“abbreviated”", u"参见bit"}) {
+    EXPECT_TRUE(isReference(meaning));
+  }
+}
+
+TEST(IsReference, IsNoMeaningOfItsOwn) {
+  for (const std::u16string_view meaning :
+       {u"", u"位", u"复数", u"复数的", u"等于", u"同", u"同意", u"同X射线", u"过去式的take",
+        u"take的", u"Atlas的七个女儿", u"AS KNOW AS的缩写", u"be", u"，的复数", u"X射线的形式"}) {
+    EXPECT_FALSE(isReference(meaning));
+  }
 }
 
 }  // namespace
