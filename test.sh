@@ -5,8 +5,8 @@
 #   ./test.sh unit format        only some layers
 #   ./test.sh windows 'FrmSub*'  only the tests of one layer whose names match a GoogleTest filter
 #
-# The layers: format help unit threads fuzz wine-unit windows program dpi144. A filter is for those
-# that are GoogleTest executables: unit threads wine-unit windows program dpi144.
+# The layers: format help unit words threads fuzz wine-unit windows program dpi144. A filter is for
+# those that are GoogleTest executables: unit words threads wine-unit windows program dpi144.
 #
 # The last line says how many passed and failed; the exit status is 0 when none failed.
 set -euo pipefail
@@ -19,7 +19,7 @@ source "$LEXILO_ROOT/scripts/lib/tests.sh"
 source "$LEXILO_ROOT/scripts/lib/lanes.sh"
 cd "$LEXILO_ROOT"
 
-all_layers=(format help unit threads fuzz wine-unit windows program dpi144)
+all_layers=(format help unit words threads fuzz wine-unit windows program dpi144)
 layers=()
 filter=
 for argument; do
@@ -50,6 +50,7 @@ run_layer() {
   local programs=build/windows/bin/program_tests.exe source name
   case $1 in
     unit) run_gtest unit 480 "$filter" nice -n 5 build/native/bin/unit_tests ;;
+    words) run_gtest words 60 "$filter" nice -n 5 build/native/bin/word_tests ;;
     threads) run_gtest threads 120 "$filter" nice -n 5 build/tsan/bin/thread_tests ;;
     fuzz)
       for source in tests/fuzz/*_fuzz.cpp; do
@@ -93,11 +94,10 @@ start_counting
 if wanted format; then run_test format 60 scripts/format.sh --check; fi
 if wanted help; then run_test help 20 node scripts/check_help.mjs; fi
 
-if wanted unit wine-unit program dpi144; then
-  build tools kkbuild
-  ensure_small_database
-fi
+if wanted unit words wine-unit program dpi144; then build tools kkbuild; fi
+if wanted unit wine-unit program dpi144; then ensure_small_database; fi
 if wanted unit; then build native unit_tests; fi
+if wanted words; then build native word_tests; fi
 if wanted threads; then build tsan thread_tests; fi
 if wanted fuzz; then build fuzz fuzz_targets; fi
 
@@ -106,8 +106,8 @@ if wanted wine-unit; then targets+=(unit_tests); fi
 if wanted windows; then targets+=(window_tests); fi
 if wanted program dpi144; then targets+=(lexilo program_tests); fi
 if ((${#targets[@]} > 0)); then build windows "${targets[@]}"; fi
+if wanted words program dpi144; then ensure_full_database; fi
 if wanted program dpi144; then
-  ensure_full_database
   assemble_app
   rm -rf build/shots build/program
 fi
@@ -116,7 +116,7 @@ if wanted program; then build_licence_page; fi
 # Two lanes that take about the same time. Not a third one for the native layers: with that, windows
 # came to the front later than tests wait on two cores.
 start_lane run_lane test-1 program wine-unit dpi144 fuzz
-start_lane run_lane test-2 windows unit threads
+start_lane run_lane test-2 windows unit words threads
 wait_for_lanes
 
 tell_of_crashes
