@@ -298,12 +298,12 @@ void addLines(Entry& entry, std::u16string_view translation) {
   }
 }
 
-/// Returns whether the entry has an equivalent that is neither the form of another word nor from
+/// Returns whether the entry has an equivalent that is neither a reference to another word nor from
 /// the web.
 bool hasEquivalent(const Entry& entry) {
   const auto means = [](const Piece& piece) {
     return !piece.equivalent.word.empty() && (piece.subjects & setOf(Subject::kWeb)) == 0 &&
-           !inflectionIn(piece.equivalent.word);
+           !inflectionIn(piece.equivalent.word) && !isReference(piece.equivalent.word);
   };
   return std::ranges::any_of(entry.lines, [&](const TranslationLine& line) {
     return std::ranges::any_of(line.pieces, means);

@@ -17,7 +17,7 @@ struct Supplement {
 /// In the order of their code units. Contractions; words that the source only explains, refers to
 /// another spelling or writes with lost characters; abbreviations that it expands without
 /// translating them; names that it announces without giving them.
-constexpr std::array<Supplement, 71> kSupplements = {{
+constexpr auto kSupplements = std::to_array<Supplement>({
     {u"adml", u"abbr. 海军上将"},
     {u"ampersand", u"n. 和号"},
     {u"anachronistically", u"adv. 不合时代地"},
@@ -32,6 +32,7 @@ constexpr std::array<Supplement, 71> kSupplements = {{
     {u"cobden", u"n. 科布登（姓氏）"},
     {u"cockcroft", u"n. 考克饶夫（姓氏）"},
     {u"coleridge", u"n. 柯勒律治（姓氏）"},
+    {u"consensually", u"adv. 双方同意地"},
     {u"cracow", u"n. 克拉科夫（波兰城市）"},
     {u"dumpty", u"n. 矮胖的人"},
     {u"eaton", u"n. 伊顿（姓氏）"},
@@ -44,17 +45,20 @@ constexpr std::array<Supplement, 71> kSupplements = {{
     {u"hasn't", u"没有, 尚未, 不曾"},
     {u"hj", u"abbr. 长眠于此"},
     {u"hobbit", u"n. 霍比特人"},
+    {u"holistically", u"adv. 整体地, 全面地"},
     {u"hypercholesterolaemic", u"a. 高胆固醇血症的"},
     {u"i've", u"我已经, 我有"},
     {u"largemouth", u"a. 大口的"},
     {u"lautrec", u"n. 劳特累克（姓氏）"},
     {u"leics", u"abbr. 莱斯特郡"},
+    {u"leys", u"n. 草地"},
     {u"lifelessness", u"n. 无生命, 枯燥无味"},
     {u"lindsay", u"n. 琳赛（女子名）, 林赛（姓氏）"},
     {u"mayn't", u"不可以, 可能不"},
     {u"melba", u"n. 梅尔巴（女子名）"},
     {u"mem", u"n. 存储器, 内存"},
     {u"middx", u"abbr. 米德尔塞克斯郡"},
+    {u"mutualistic", u"a. 互利共生的, 互助论的"},
     {u"nalgo", u"abbr. 全国和地方政府官员协会"},
     {u"natured", u"a. 性情…的, 本性…的"},
     {u"ordinator", u"n. 任命者"},
@@ -63,16 +67,19 @@ constexpr std::array<Supplement, 71> kSupplements = {{
     {u"pasadena", u"n. 帕萨迪纳（美国城市）"},
     {u"patio", u"n. 露台, 天井, 庭院"},
     {u"phone-in", u"n. 听众来电直播节目"},
+    {u"photonic", u"a. 光子的"},
     {u"pickwick", u"n. 匹克威克（小说主角）"},
     {u"plata", u"n. 拉普拉塔（河名）"},
     {u"powerpc", u"n. 威力芯片"},
     {u"quince", u"n. 榅桲"},
     {u"rata", u"n. 比例"},
     {u"retinoic", u"a. 视黄的"},
+    {u"saith", u"v. 说"},
     {u"scratchboard", u"n. 刮画板"},
     {u"sheba", u"n. 示巴（古国名）"},
     {u"snickering", u"n. 窃笑"},
     {u"sqn", u"abbr. 空军中队"},
+    {u"substitutionary", u"a. 替代的, 代用的"},
     {u"swansong", u"n. 绝唱, 最后的作品"},
     {u"umm", u"interj. 嗯"},
     {u"unpredictably", u"adv. 无法预料地, 不可预见地"},
@@ -82,14 +89,17 @@ constexpr std::array<Supplement, 71> kSupplements = {{
     {u"we'll", u"我们将, 我们会"},
     {u"we're", u"我们是"},
     {u"we've", u"我们已经, 我们有"},
+    {u"wenceslas", u"n. 瓦茨拉夫（人名）"},
     {u"whomever", u"pron. 无论谁, 任何人"},
+    {u"whomsoever", u"pron. 无论谁, 任何人"},
     {u"worcs", u"abbr. 伍斯特郡"},
     {u"wouldn't", u"不会, 不愿, 不肯"},
     {u"y'all", u"pron. 你们, 你们大家"},
     {u"you'd", u"你会, 你已经"},
     {u"you'll", u"你将, 你会"},
     {u"yours faithfully", u"谨上, 谨启"},
-}};
+    {u"zon", u"n. 亚马逊"},
+});
 
 /// Contractions that the source expands, describes or has as something else; in the order of their
 /// code units.

@@ -41,6 +41,10 @@ TEST(Supplement, ComesBesideWhatIsFromTheWebAlone) {
   EXPECT_EQ(equivalents("you'll", translation), (Words{u"你将", u"你应该", u"你将", u"你会"}));
 }
 
+TEST(Supplement, ComesBesideAReferenceAlone) {
+  EXPECT_EQ(equivalents("saith", "says的古体"), (Words{u"says的古体", u"说"}));
+}
+
 TEST(Supplement, DoesNotRefer) {
   const auto entry = dictionary::extractEntry({"hasn't", " =has not"});
   EXPECT_TRUE(entry->references.empty());
