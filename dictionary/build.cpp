@@ -40,7 +40,7 @@ class Builder {
   void readSource(std::istream& stream);
   void arrangeContent();
   void publish(const std::filesystem::path& target) {
-    publishDatabase(content_, target, log_, progress_);
+    publishDatabase(content_, facts_, target, log_, progress_);
   }
   void printReport() const { report_.print(log_); }
   void reportCost();
@@ -54,6 +54,7 @@ class Builder {
   std::ostream& log_;
   Progress progress_;
   BuildReport report_;
+  SourceFacts facts_;
   ShortForms shortForms_;
   std::vector<Entry> withShortForms_;  ///< wait until all words are known
   PairCollector pairs_;
@@ -81,6 +82,7 @@ void Builder::reportFurtherBadLines() {
 }
 
 void Builder::addEntry(const SourceEntry& source) {
+  facts_.add(source);
   std::optional<Entry> entry = extractEntry(source);
   if (!entry) {
     report_.addBadHeadword();
@@ -141,12 +143,12 @@ void Builder::reportCost() {
 
 }  // namespace
 
-void publishDatabase(const DatabaseContent& content, const std::filesystem::path& target,
-                     std::ostream& log, Progress& progress) {
+void publishDatabase(const DatabaseContent& content, const SourceFacts& facts,
+                     const std::filesystem::path& target, std::ostream& log, Progress& progress) {
   const TemporaryFile temporary(target);  // deleted at the end unless it was renamed
   writeDatabase(content, temporary.path());
   progress.report("database written");
-  const CheckResult check = checkDatabase(temporary.path());
+  const CheckResult check = checkDatabase(temporary.path(), &facts);
   if (!check.findings.empty()) {
     check.findings.print(log);
     throw Failure("the new database breaks the rules above; " + displayName(target) +

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <ostream>
 
+#include "dictionary/check/source_check.h"
 #include "dictionary/console.h"
 #include "dictionary/database/writer.h"
 
@@ -19,10 +20,10 @@ void buildDatabase(const std::filesystem::path& source, const std::filesystem::p
                    std::ostream& log);
 
 /// The last stage of buildDatabase(): writes the content to a temporary file beside `target`,
-/// checks it by every rule, and renames it to `target`. Broken rules go to `log`, the steps to
-/// `progress`. Throws Failure, also if a rule is broken; the target is unchanged and the temporary
-/// file is deleted then.
-void publishDatabase(const DatabaseContent& content, const std::filesystem::path& target,
-                     std::ostream& log, Progress& progress);
+/// checks it by every rule and against the facts of its source, and renames it to `target`. Broken
+/// rules go to `log`, the steps to `progress`. Throws Failure, also if a rule is broken; the target
+/// is unchanged and the temporary file is deleted then.
+void publishDatabase(const DatabaseContent& content, const SourceFacts& facts,
+                     const std::filesystem::path& target, std::ostream& log, Progress& progress);
 
 }  // namespace dictionary

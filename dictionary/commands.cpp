@@ -8,6 +8,7 @@
 #include <exception>
 #include <iomanip>
 #include <iterator>
+#include <optional>
 #include <sstream>
 #include <string_view>
 
@@ -25,13 +26,14 @@ constexpr std::string_view kUsage =
     "kkbuild makes and checks kk.dat, the dictionary database.\n"
     "\n"
     "  kkbuild build SOURCE.csv OUTPUT   builds OUTPUT from comma-separated source data\n"
-    "  kkbuild check FILE                checks every rule of a database\n"
+    "  kkbuild check FILE [SOURCE.csv]   checks every rule of a database\n"
     "  kkbuild lookup FILE WORD          shows what the quick lookup window shows for WORD\n"
     "  kkbuild coverage FILE TEXT...     counts the words of English texts that the popup finds\n"
     "  kkbuild --help                    shows this text\n"
     "\n"
     "build replaces an existing OUTPUT only by a complete and checked new one; it reports lines\n"
-    "that cannot be read and goes on. coverage reads plain texts and HTML, packed by gzip or not.\n"
+    "that cannot be read and goes on. check needs the source for the rules about what a database\n"
+    "must have of it. coverage reads plain texts and HTML, packed by gzip or not.\n"
     "The exit code is 0 for success, 1 if the database could not be built, breaks a rule or has "
     "no\n"
     "such word, or a file cannot be read, 2 for wrong arguments.\n";
@@ -46,8 +48,10 @@ std::string percentage(std::size_t part, std::size_t whole) {
 }
 
 /// Lists that end cut are reported, but break no rule: building without any is impossible.
-ExitCode runCheck(const std::string& file, std::ostream& out) {
-  const CheckResult result = checkDatabase(pathOf(file));
+ExitCode runCheck(const std::vector<std::string>& arguments, std::ostream& out) {
+  std::optional<SourceFacts> facts;
+  if (arguments.size() > 2) facts = readSourceFacts(pathOf(arguments[2]));
+  const CheckResult result = checkDatabase(pathOf(arguments[1]), facts ? &*facts : nullptr);
   result.findings.print(out);
   out << grouped(result.pairs) << " pairs of " << grouped(result.englishHeadwords)
       << " English and " << grouped(result.chineseHeadwords) << " Chinese headwords; "
@@ -56,6 +60,7 @@ ExitCode runCheck(const std::string& file, std::ostream& out) {
       << grouped(result.cutLists) << " of " << grouped(result.chineseLists) << " Chinese lists ("
       << percentage(result.cutLists, result.chineseLists)
       << ") end with a headword of which not all meanings are shown\n"
+      << (facts ? "" : "the rules about the source are not checked without it\n")
       << (result.findings.empty() ? "all rules are kept\n"
                                   : "the database breaks the rules above\n");
   return result.findings.empty() ? kSuccess : kFailed;
@@ -93,7 +98,9 @@ ExitCode dispatch(const std::vector<std::string>& arguments, std::ostream& out, 
     buildDatabase(pathOf(arguments[1]), pathOf(arguments[2]), err);
     return kSuccess;
   }
-  if (command == "check" && arguments.size() == 2) return runCheck(arguments[1], out);
+  if (command == "check" && (arguments.size() == 2 || arguments.size() == 3)) {
+    return runCheck(arguments, out);
+  }
   if (command == "lookup" && arguments.size() == 3) {
     return runLookup(arguments[1], arguments[2], out, err);
   }

@@ -15,7 +15,7 @@ enum ExitCode : int {
 
 /// Runs one command of kkbuild:
 ///     build SOURCE.csv OUTPUT   (build.h)
-///     check FILE                (check/check.h)
+///     check FILE [SOURCE.csv]   (check/check.h)
 ///     lookup FILE WORD          (word_lookup.h)
 ///     coverage FILE TEXT...     (coverage/coverage.h)
 ///     --help

@@ -86,6 +86,18 @@ std::string_view describe(Rule rule) {
     // Results are listed in this order, and a headword has one line.
     case Rule::kSubjectOrder:
       return "a subject dictionary has its headwords in the text order, each once";
+    // What readers would be misled by or miss. That the words of running text are found is what
+    // the choice of pairs is for (arrange/vocabulary.h).
+    case Rule::kLabels:
+      return "no Chinese headword is only a label";
+    case Rule::kImportantWords:
+      return "every headword that the source marks as important has a row";
+    case Rule::kOwnMeanings:
+      return "no important headword has only references to other words";
+    case Rule::kTitles:
+      return "titles in << >> of the source are kept";
+    case Rule::kCommands:
+      return "what the source says that a command does is no Chinese headword";
     case Rule::kCount:
       break;
   }

@@ -13,7 +13,7 @@ namespace dictionary {
 
 /// The rules that a dictionary database must keep; describe() returns what each one is. In the
 /// order in which findings are printed: file, tables, general dictionary, lookups, subject
-/// dictionaries.
+/// dictionaries, words. The last four are checked with the source only (source_check.h).
 enum class Rule : std::uint8_t {
   kUndamaged,
   kTables,
@@ -42,6 +42,11 @@ enum class Rule : std::uint8_t {
   kCatalogueDefault,
   kSubjectRows,
   kSubjectOrder,
+  kLabels,
+  kImportantWords,
+  kOwnMeanings,
+  kTitles,
+  kCommands,
   kCount,
 };
 

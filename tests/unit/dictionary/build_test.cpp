@@ -88,11 +88,25 @@ TEST(PublishDatabase, RefusesContentThatBreaksARule) {
   content.general.cdict = {{0, 1}, {1, 2}};
   std::ostringstream log;
   dictionary::Progress progress(log);
-  EXPECT_THROW(dictionary::publishDatabase(content, folder.file(u"kk.dat"), log, progress),
+  EXPECT_THROW(dictionary::publishDatabase(content, {}, folder.file(u"kk.dat"), log, progress),
                dictionary::Failure);
   EXPECT_NE(log.str().find(dictionary::describe(dictionary::Rule::kOrder)), std::string::npos);
   EXPECT_EQ(support::readFile(folder.file(u"kk.dat")), "former");
   EXPECT_EQ(support::entryCount(folder.path()), 1);
+}
+
+// An important word whose only equivalent is a reference to another word.
+TEST(BuildDatabase, RefusesWhatLacksAFactOfTheSource) {
+  const TempFolder folder;
+  std::string source = support::readFile(support::smallSource());
+  source += "zyzzyvas,,,同zyzzyva,,5,1,gre,1,1,,,\n";
+  support::writeFile(folder.file(u"source.csv"), source);
+  std::ostringstream log;
+  EXPECT_THROW(dictionary::buildDatabase(folder.file(u"source.csv"), folder.file(u"kk.dat"), log),
+               dictionary::Failure);
+  EXPECT_NE(log.str().find(dictionary::describe(dictionary::Rule::kOwnMeanings)),
+            std::string::npos);
+  EXPECT_NE(log.str().find("«zyzzyvas» has only «同zyzzyva»"), std::string::npos);
 }
 
 TEST(BuildDatabase, KeepsATargetThatCannotBeReplaced) {

@@ -42,11 +42,11 @@ TEST(Commands, ShowHowTheyAreUsed) {
                                                 {"coverage"},
                                                 {"coverage", "a"},
                                                 {"make"},
-                                                {"check", "a", "b"}}) {
+                                                {"check", "a", "b", "c"}}) {
     const Outcome outcome = run(wrong);
     EXPECT_EQ(outcome.code, dictionary::kMisused);
     EXPECT_EQ(outcome.out, "");
-    EXPECT_NE(outcome.err.find("kkbuild check FILE"), std::string::npos);
+    EXPECT_NE(outcome.err.find("kkbuild check FILE [SOURCE.csv]"), std::string::npos);
   }
 }
 
@@ -60,6 +60,22 @@ TEST(Commands, BuildThenCheck) {
   EXPECT_EQ(checked.code, dictionary::kSuccess);
   EXPECT_NE(checked.out.find("all rules are kept"), std::string::npos);
   EXPECT_NE(checked.out.find("24 subject dictionaries"), std::string::npos);
+  EXPECT_NE(checked.out.find("not checked without it"), std::string::npos);
+}
+
+TEST(Commands, CheckComparesWithTheSource) {
+  const support::TempFolder folder;
+  const std::string source = support::utf8Path(folder.file(u"source.csv"));
+  support::writeFile(folder.file(u"source.csv"), support::readFile(support::smallSource()));
+  const Outcome same = run({"check", small(), source});
+  EXPECT_EQ(same.code, dictionary::kSuccess);
+  EXPECT_EQ(same.out.find("not checked"), std::string::npos);
+  support::writeFile(folder.file(u"source.csv"), support::readFile(support::smallSource()) +
+                                                     "zyzzyva,,,象鼻虫,,5,1,gre,1,1,,,\n");
+  const Outcome other = run({"check", small(), source});
+  EXPECT_EQ(other.code, dictionary::kFailed);
+  EXPECT_NE(other.out.find("marks as important has a row\n    «zyzzyva»"), std::string::npos);
+  EXPECT_EQ(run({"check", small(), small()}).code, dictionary::kFailed) << "no source";
 }
 
 TEST(Commands, SayInOneSentenceWhatFailed) {

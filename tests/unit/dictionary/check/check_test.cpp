@@ -134,6 +134,8 @@ const std::vector<Damage> kDamages = {
     {Rule::kSubjectOrder,
      "drop table math;create table math (word text collate lexilo, meaning text collate lexilo);"
      "insert into math values ('a', '甲'), ('A', '乙')"},
+    {Rule::kLabels, "update cdict set word='法国服装名牌' where cid=5"},
+    {Rule::kLabels, "update cdict set word='DOS外部命令' where cid=5"},
 };
 
 class CheckDatabase : public testing::Test {
@@ -194,7 +196,11 @@ TEST(CheckDatabaseRules, ReportsEveryBrokenRule) {
     EXPECT_NE(text.str().find(dictionary::describe(damage.rule)), std::string::npos);
     covered[static_cast<std::size_t>(damage.rule)] = true;
   }
-  covered[static_cast<std::size_t>(Rule::kUndamaged)] = true;  // the next test
+  covered[static_cast<std::size_t>(Rule::kUndamaged)] = true;  // a test below
+  for (const Rule rule :
+       {Rule::kImportantWords, Rule::kOwnMeanings, Rule::kTitles, Rule::kCommands}) {
+    covered[static_cast<std::size_t>(rule)] = true;  // source_check_test.cpp
+  }
   for (std::size_t rule = 0; rule < covered.size(); ++rule) {
     EXPECT_TRUE(covered[rule]) << dictionary::describe(static_cast<Rule>(rule));
   }

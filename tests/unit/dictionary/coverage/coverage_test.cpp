@@ -22,7 +22,7 @@ const std::filesystem::path& database() {
   static const support::TempFolder folder;
   static const std::filesystem::path file = [] {
     support::writeFile(folder.file(u"source.csv"), support::readFile(support::smallSource()) +
-                                                       "took,,,take的过去式,,3,,zk,101,0,,,\n");
+                                                       "took,,,take的过去式,,,,,0,0,,,\n");
     std::ostringstream log;
     dictionary::buildDatabase(folder.file(u"source.csv"), folder.file(u"kk.dat"), log);
     return folder.file(u"kk.dat");
