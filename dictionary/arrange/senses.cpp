@@ -81,6 +81,7 @@ std::vector<Candidate> inTurn(const std::vector<Candidate>& candidates, std::siz
   if (order.size() > limit) order.resize(limit);
   std::ranges::sort(order);
   std::vector<Candidate> taken;
+  taken.reserve(order.size());
   for (const std::size_t index : order) taken.push_back(candidates[index]);
   return taken;
 }

@@ -28,6 +28,7 @@ SourceFacts factsOf(const std::string& word, const std::string& translation,
 /// "headword: text" of each.
 std::vector<std::u16string> texts(const std::vector<dictionary::SourceText>& facts) {
   std::vector<std::u16string> result;
+  result.reserve(facts.size());
   for (const dictionary::SourceText& fact : facts) {
     result.push_back(fact.headword + u": " + fact.text);
   }
