@@ -20,19 +20,25 @@ struct Sense {
   bool reference = false;     ///< names the form of another word: "take的过去分词"
 };
 
-/// Up to this rank by frequency a word is common: it occurs on every page or two of running text.
+/// Up to this rank by frequency a word is common. The words up to it make up most of running text;
+/// every eighth of them has ten equivalents or more in the source.
 inline constexpr std::uint32_t kCommonRank = 5'000;
 
 /// Returns whether the word of the entry is common.
 inline bool isCommon(const Entry& entry) { return entry.rank > 0 && entry.rank <= kCommonRank; }
 
 /// Returns the entry's distinct equivalents: ordinary ones, then names, then those from the web,
-/// each in the order of the source, which is its order of importance. Of a common word only some
-/// are returned, since its rows are sorted by their Chinese text, so that any rare sense may come
-/// first: at most ten ordinary ones, taken in turn from its lines (that is, of each part of
-/// speech); no slang beside others; at most two from lines of a subject, which that subject's
-/// dictionary has as well, and none of these for a function word or one of the most frequent; none
-/// from the web beside others.
+/// each in the order of the source, which is its order of importance.
+///
+/// Of a common word, and of an entry that names the form of another word and may be as common as
+/// that, only some are returned, since its rows are sorted by their Chinese text, so that any rare
+/// sense may come first:
+/// - at most ten ordinary ones, besides names of forms ("take的过去分词"). They are taken in turn
+///   from the entry's lines, that is, from its parts of speech;
+/// - among these at most two of a subject, which that subject's dictionary has as well, and none if
+///   the word is a function word or one of the most frequent, or if all else is the name of a form;
+/// - no slang and none from the web.
+/// The last two hold only beside an ordinary sense that is neither slang nor of a subject.
 std::vector<Sense> sensesOf(const Entry& entry);
 
 }  // namespace dictionary

@@ -4,7 +4,8 @@
 //
 // Forms: whether an entry is a form of another word is known when it is added; that word's
 // equivalents only in the end, since it may come later. Three kinds of entries take some of them
-// over:
+// over; a fourth, which notes the form and gives its meaning ("行走（go的第三人称单数形式）"),
+// takes the lemma's importance only:
 // - those that name the form among their equivalents ("take的过去分词", "毛毯, 毡\n feel的过去式");
 // - those that have nothing at all, but are a form by the column "exchange";
 // - those that are a form by that column and mean something else, where the form is met more often

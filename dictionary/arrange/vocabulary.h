@@ -13,31 +13,33 @@
 namespace dictionary {
 
 /// Value of a pair where not all of them fit, the most valuable first: what readers of running text
-/// meet most is kept.
+/// meet most is kept. Pairs of one tier are given up from the headword's last equivalent on.
 ///
-/// A word is important if the source gives it a frequency rank, a place in a learner's dictionary
-/// or in an examination's list (SourceEntry::important), and so are the forms of such a word, which
-/// the source ranks under their lemma only ("went" has no rank, "go" has 37). That is measured on
-/// words, not on equivalents; among the equivalents of one word the source's order counts, which is
-/// its order of importance, and which of a common word's many equivalents are offered at all is
-/// decided before (sensesOf). From this follows the order of the tiers:
+/// Importance is measured on words, not on equivalents. A word is important if the source gives it
+/// a frequency rank, a place in a learner's dictionary or in an examination's list
+/// (SourceEntry::important). The source ranks forms under their lemma only ("went" has no rank,
+/// "go" has 37), so that what a form takes over from an important lemma, or says itself of what it
+/// means as a form, is rated as the lemma's. Among the equivalents of one word the source's order
+/// counts, which is its order of importance. Which of a common word's many equivalents are offered
+/// at all is decided before (sensesOf). From this follows the order of the tiers:
 ///
-/// 1. Every important word has a row, and a form has one that is not only the note whose form it
-/// is.
-/// 2. Then all that is offered for important words: further equivalents, what a form takes over
-///    from its lemma, and noted names ("詹姆斯（姓氏, 男子名）").
+/// 1. Every important word has a row, and every form of one has a row besides the note whose form
+///    it is.
+/// 2. Then further equivalents of important words, what their forms take over, and up to three
+///    names ("詹姆斯（姓氏, 男子名）").
 /// 3. Then one row for every other word that has an ordinary equivalent: a reader who meets the
 ///    word is helped by the first meaning far more than by a fifth one of another rare word.
-/// 4. Further equivalents of these words, then what their forms take over.
-/// 5. Words without a sign of importance that have only names or equivalents from the web, and
-///    further ones of both kinds. There is room for few of these.
+/// 4. Then further equivalents of these words, and after them those of their forms.
+/// 5. Last names and equivalents from the web: the first one of a word that has nothing else and no
+///    sign of importance, then those of any word beside its ordinary equivalents, and all further
+///    ones. There is room for few of these.
 enum class Tier : std::uint8_t {
-  kImportantFirst,  ///< first equivalent of an important word
-  kImportant,       ///< further equivalent of an important word
-  kFirst,           ///< first equivalent of another word
-  kOrdinary,        ///< further equivalent of another word
-  kInflected,       ///< further equivalent of another word's form
-  kOnly,            ///< first equivalent of a word that has only names or web equivalents
+  kImportantFirst,  ///< first equivalent of an important word, of whatever kind it has
+  kImportant,       ///< further equivalent of an important word, of the same kind, or a name
+  kFirst,           ///< first ordinary equivalent of another word
+  kOrdinary,        ///< further ordinary equivalent of another word
+  kInflected,       ///< further equivalent, its own or taken over, of another word that is a form
+  kOnly,            ///< first equivalent of another word that has only names or web equivalents
   kWebFirst,        ///< first web equivalent of a word that has others
   kName,            ///< any other name
   kWeb,             ///< any other web equivalent
@@ -69,7 +71,8 @@ class PairCollector {
   /// Adds the entry's pairs and returns their number. Copies the texts. An entry that has none but
   /// refers to another headword gets the first four of that one's pairs in finish(). An entry that
   /// is a form of another word gets that one's first equivalents there, unless its own translation
-  /// gives them or is what readers most often mean by it.
+  /// gives them, which then are as important as that word, or is what readers most often mean by
+  /// it.
   std::size_t add(const Entry& entry);
 
   /// Returns everything added, sorted; words that are equal in the text order (they differ in case
