@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <numeric>
 #include <tuple>
+#include <unordered_set>
 #include <utility>
 
 #include "text/order.h"
@@ -134,7 +135,31 @@ std::size_t PairCollector::addForm(const Entry& entry, const std::vector<Sense>&
   return senses.empty() ? 1 : 0;
 }
 
+/// Two words may have the same form: the one that the source lists first counts.
+void PairCollector::recordForms(const Entry& entry) {
+  if (entry.inflection) return;
+  for (const WordForm& form : entry.forms) {
+    listedForms_.try_emplace(form.word, Inflection{text::toLower(entry.headword), form.forms});
+  }
+}
+
+/// Adds the listed forms of important words that have no entry of their own: "actioned".
+void PairCollector::addMissingForms() {
+  std::unordered_set<std::u16string> known;
+  for (const std::u16string& word : english_) known.insert(text::toLower(word));
+  for (auto& [word, inflection] : listedForms_) {
+    if (known.contains(word) || !known.contains(inflection.lemma)) continue;
+    addHeadword(word, 0, true);
+    FormEntry form{.english = 0, .inflection = {}, .noted = false, .alone = true, .next = 0};
+    form.english = static_cast<std::uint32_t>(english_.size() - 1);
+    form.inflection = std::move(inflection);
+    forms_.push_back(std::move(form));
+  }
+  listedForms_.clear();
+}
+
 std::size_t PairCollector::add(const Entry& entry) {
+  recordForms(entry);
   const std::vector<Sense> senses = sensesOf(entry);
   if (senses.empty() && !entry.references.empty()) {
     Reference reference{entry.headword, {}, entry.important};
@@ -279,6 +304,7 @@ void PairCollector::followForms() {
 
 Vocabulary PairCollector::finish() && {
   followReferences();
+  addMissingForms();
   followForms();
   chineseIds_.clear();
   const std::vector<std::uint32_t> englishPlaces = sortWords(english_);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -118,6 +119,8 @@ class PairCollector {
   };
   using ReferredWords = std::unordered_map<std::u16string, Referred>;
 
+  void recordForms(const Entry& entry);
+  void addMissingForms();
   std::size_t addForm(const Entry& entry, const std::vector<Sense>& senses);
   void collectMeanings(ReferredWords& words) const;
   void followReferences();
@@ -137,6 +140,7 @@ class PairCollector {
   std::vector<PartOfSpeechSet> parts_;  ///< by index into pairs_
   std::vector<Reference> references_;
   std::vector<FormEntry> forms_;
+  std::map<std::u16string, Inflection> listedForms_;  ///< of important words, by the form
 };
 
 }  // namespace dictionary

@@ -378,6 +378,7 @@ std::optional<Entry> extractEntry(const SourceEntry& source) {
   entry.important = source.important;
   entry.rank = source.rank;
   entry.inflection = inflectionOf(source.exchange, source.word);
+  if (entry.important) entry.forms = formsIn(source.exchange);
   const std::u16string_view corrected = correctedTranslation(entry.headword);
   addLines(entry,
            corrected.empty() ? text::toUtf16(source.translation) : std::u16string(corrected));

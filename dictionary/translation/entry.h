@@ -72,6 +72,7 @@ struct Entry {
   bool important = false;                ///< as in SourceEntry
   std::uint32_t rank = 0;                ///< as in SourceEntry
   std::optional<Inflection> inflection;  ///< by the column "exchange"
+  std::vector<WordForm> forms;           ///< of an important word, by that column
   std::vector<TranslationLine> lines;
   /// Other headwords that the entry gives as its meaning: "= groundsheet".
   std::vector<std::u16string> references;

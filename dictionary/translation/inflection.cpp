@@ -80,6 +80,14 @@ std::string_view itemOf(std::string_view exchange, char key) {
   return {};
 }
 
+bool isPlainWord(std::u16string_view word) {
+  const auto inside = [](char16_t unit) {
+    return isAsciiLetter(unit) || unit == u'-' || unit == u'\'';
+  };
+  return word.size() > 1 && isAsciiLetter(word.front()) && isAsciiLetter(word.back()) &&
+         std::ranges::all_of(word, inside);
+}
+
 bool isWordUnit(char16_t unit) {
   return isAsciiLetter(unit) || unit == u'-' || unit == u'′' || unit == u'\'' || unit == u' ' ||
          unit == u'.';
@@ -118,6 +126,21 @@ std::optional<Inflection> inflectionOf(std::string_view exchange, std::string_vi
     }
   }
   return inflection;
+}
+
+std::vector<WordForm> formsIn(std::string_view exchange) {
+  std::vector<WordForm> listed;
+  for (const FormName& known : kFormNames) {
+    const std::u16string word = text::toLower(text::toUtf16(itemOf(exchange, known.letter)));
+    if (!isPlainWord(word)) continue;
+    const auto other = std::ranges::find(listed, word, &WordForm::word);
+    if (other != listed.end()) {
+      other->forms = static_cast<FormSet>(other->forms | bit(known.form));
+    } else {
+      listed.push_back({word, bit(known.form)});
+    }
+  }
+  return listed;
 }
 
 std::optional<Inflection> inflectionIn(std::u16string_view text) {

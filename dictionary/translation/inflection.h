@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "dictionary/translation/part_of_speech.h"
 
@@ -34,6 +35,16 @@ struct Inflection {
 /// after "1:" are p, d, i, 3, r, t, s as the source documents them. Returns nullopt if the column
 /// names no lemma or `headword` itself (UTF-8, any case) as the lemma.
 std::optional<Inflection> inflectionOf(std::string_view exchange, std::string_view headword);
+
+/// Reads the forms that the column "exchange" of a lemma lists: "d:taken/p:took/i:taking/3:takes".
+/// A form is in lower case and has a FormSet of one or more forms; what is no single word of ASCII
+/// letters, with hyphens or apostrophes inside, is left out.
+struct WordForm {
+  std::u16string word;
+  FormSet forms = 0;
+  bool operator==(const WordForm&) const = default;
+};
+std::vector<WordForm> formsIn(std::string_view exchange);
 
 /// Reads "take的过去分词", which must be the whole text; otherwise nullopt.
 std::optional<Inflection> inflectionIn(std::u16string_view text);

@@ -204,6 +204,21 @@ TEST(PairCollector, LeavesOtherFormsAsTheyAre) {
   EXPECT_EQ(valued(vocabulary, u"carven"), (Texts{u"caeve的过去分词"})) << "no such lemma";
 }
 
+// action "d:actioned/i:actioning/p:actioned/s:actions"; "actions" has an entry.
+TEST(PairCollector, MakesEntriesOfTheFormsOfImportantWordsThatHaveNone) {
+  const std::string forms = "d:actioned/i:actioning/p:actioned/s:actions";
+  const Vocabulary vocabulary = collect(
+      {entry("action", "n. 行动, 作用\\nvt. 对…起诉", true, 340, forms),
+       entry("actions", "n. 动作", true, 0, "0:action/1:s"),
+       entry("rare", "vt. 稀", false, 0, "d:rared"), entry("empty", "", true, 0, "d:emptied")});
+  EXPECT_EQ(valued(vocabulary, u"actioned"), (Texts{u"对…起诉", u"action的过去式和过去分词"}));
+  EXPECT_EQ(valued(vocabulary, u"actioning"), (Texts{u"对…起诉", u"action的现在分词"}));
+  EXPECT_EQ(tierOf(vocabulary, u"action的现在分词"), Tier::kImportant);
+  EXPECT_EQ(valued(vocabulary, u"rared"), Texts()) << "no sign of importance";
+  EXPECT_EQ(std::ranges::count(vocabulary.english, u"actions"), 1);
+  EXPECT_EQ(std::ranges::count(vocabulary.english, u"emptied"), 0) << "nothing to take over";
+}
+
 TEST(PairCollector, FollowsAFormToALemmaThatIsAReference) {
   const Vocabulary vocabulary = collect({entry("randomised", "randomise的变形"),
                                          entry("randomise", "vt. [主英国英语]＝randomize"),

@@ -48,6 +48,27 @@ TEST(Inflection, KnowsALemmaWhoseFormIsNotGiven) {
   EXPECT_EQ(inflectionText(*inflection), u"");
 }
 
+TEST(Inflection, ReadsTheFormsOfALemma) {
+  using dictionary::formsIn;
+  using dictionary::WordForm;
+  const auto forms = formsIn("d:taken/p:took/i:taking/3:takes");
+  ASSERT_EQ(forms.size(), 4U);
+  EXPECT_EQ(forms[0], (WordForm{u"takes", 2}));
+  EXPECT_EQ(forms[1], (WordForm{u"took", 4}));
+  EXPECT_EQ(formsIn("p:asked/d:asked"), (std::vector<WordForm>{{u"asked", 12}}));
+  EXPECT_EQ(formsIn("3:Takes/s:takes"), (std::vector<WordForm>{{u"takes", 3}}));
+}
+
+// can "d:/i:", daydream "3:daydreams'", replete "b:more replete", ski "d:ski'd".
+TEST(Inflection, LeavesOutWhatIsNoSingleWord) {
+  using dictionary::formsIn;
+  using dictionary::WordForm;
+  EXPECT_TRUE(formsIn("d:/i:/3:daydreams'/t:most replete/r:-er/s:a").empty());
+  EXPECT_TRUE(formsIn("0:take/1:d").empty());
+  EXPECT_EQ(formsIn("d:ski'd/p:day-dreamed"),
+            (std::vector<WordForm>{{u"day-dreamed", 4}, {u"ski'd", 8}}));
+}
+
 /// "lemma: note"; "none" where the text is none.
 std::u16string read(std::u16string_view text) {
   const auto inflection = inflectionIn(text);
