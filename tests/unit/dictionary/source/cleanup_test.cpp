@@ -58,4 +58,13 @@ TEST(TranslationLines, RestoreSubstitutes) {
             (Lines{u"[化] 异噁唑", u"[医] 异噁唑"}));
 }
 
+TEST(TranslationLines, DecodesEntitiesBeforeItBreaksLines) {
+  EXPECT_EQ(translationLines(u"甲&lt;br&gt;乙"), (Lines{u"甲", u"乙"}));
+}
+
+TEST(FoldBlanks, DeletesInvisibleCharacters) {
+  EXPECT_EQ(dictionary::foldBlanks(u"co\u00ADop\u2060er\u200Ba\u200Fte\uFEFF"), u"cooperate");
+  EXPECT_EQ(dictionary::foldBlanks(u"甲 \u00AD 乙"), u"甲 乙");
+}
+
 }  // namespace
