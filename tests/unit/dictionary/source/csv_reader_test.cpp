@@ -91,7 +91,8 @@ TEST(SplitCsvLine, ReturnsTheFault) {
   EXPECT_EQ(split(R"(a,"b"c,d)").fault, LineFault::kTextAfterQuote);
   EXPECT_EQ(split("a,\0,b"s).fault, LineFault::kControlCharacter);
   EXPECT_EQ(split("a,\x1b[0m,b").fault, LineFault::kControlCharacter);
-  EXPECT_EQ(split("a\tb").fault, LineFault::kNone);
+  EXPECT_EQ(split("a\x7F").fault, LineFault::kControlCharacter);
+  EXPECT_EQ(split("a\tb~").fault, LineFault::kNone);
 }
 
 TEST(SplitCsvLine, RefusesInvalidUtf8) {
@@ -183,6 +184,16 @@ TEST(SourceReader, ThrowsWithoutAProperHeader) {
   EXPECT_NE(headerFailure("a,,,甲\n").find("\"word\""), std::string::npos);
   EXPECT_NE(headerFailure("word,\"translation\n").find("header"), std::string::npos);
   EXPECT_NE(headerFailure("\xFF\xFE w o r d").find("UTF-8"), std::string::npos);
+}
+
+TEST(SourceReader, ReadsLinesOfUpToAMegabyte) {
+  const std::string begin = "a,,,";
+  const std::string end = ",,,,,0,0,,,";
+  const std::size_t room = (std::size_t{1} << 20U) - begin.size() - end.size();
+  const std::string longest = begin + std::string(room, 'b') + end + "\n";
+  EXPECT_EQ(readAll(kHeader + longest), (std::vector<std::string>{"a=" + std::string(room, 'b')}));
+  EXPECT_EQ(readAll(kHeader + "b" + longest),
+            (std::vector<std::string>{"2:" + faultOf(LineFault::kTooLong)}));
 }
 
 }  // namespace
