@@ -14,6 +14,7 @@ TEST(Markup, DecodesEntities) {
   EXPECT_EQ(dictionary::decodeEntities(u"R&D; &;&#;&nothing;"), u"R\uFFFD &;\uFFFD\uFFFD");
   EXPECT_EQ(dictionary::decodeEntities(u"&#1;&#x10FFFF;&#xZ;&#99999999;"),
             u"\uFFFD\uFFFD\uFFFD\uFFFD");
+  EXPECT_EQ(dictionary::decodeEntities(u"&#31;&#32;&#65535;&#65536;"), u"\uFFFD \uFFFF\uFFFD");
   EXPECT_EQ(dictionary::decodeEntities(u"S&P；甲 & 乙;"), u"S&P；甲 & 乙;");
 }
 
@@ -51,6 +52,15 @@ TEST(Markup, IsFoundByHasMarkup) {
   for (const std::u16string text : {u"A&B", u"<德>甲", u"{2}", u"甲 & 乙"}) {
     EXPECT_FALSE(dictionary::hasMarkup(text)) << text.size();
   }
+}
+
+// "etanercept | [医]依那西普<TNF-α拮抗剂，抗类风湿关节炎药>"
+TEST(Markup, TakesOnlyAsciiBetweenAngleBracketsForATag) {
+  const std::u16string note = u"[医]依那西普<TNF-α拮抗剂，抗类风湿关节炎药>";
+  EXPECT_EQ(dictionary::breakLines(note), note);
+  EXPECT_FALSE(dictionary::hasMarkup(note));
+  EXPECT_EQ(dictionary::breakLines(u"甲<a<i>乙"), u"甲<a乙");
+  EXPECT_EQ(dictionary::breakLines(u"甲<bread>乙<br2>丙"), u"甲乙\n丙");
 }
 
 }  // namespace
