@@ -43,4 +43,10 @@ TEST(RestoreSubstitutes, LeavesCyrillicWordsAlone) {
   EXPECT_EQ(restoreSubstitutes(u"жизнь, ещё"), u"жизнь, ещё");
 }
 
+// "armoracia | [医] 西洋山┯菜, 香辣根", "behenic acid | [化] 山┵酸"
+TEST(RestoreSubstitutes, KnowsTheSameCharacterInBothBooks) {
+  EXPECT_EQ(restoreSubstitutes(u"[医] 西洋山\u252F菜, 香辣根"), u"[医] 西洋山萮菜, 香辣根");
+  EXPECT_EQ(restoreSubstitutes(u"[化] 山\u2535酸"), u"[化] 山萮酸");
+}
+
 }  // namespace
