@@ -27,4 +27,11 @@ TEST(SubjectsOfTag, IgnoresMarksOfUsage) {
   }
 }
 
+// "medio | n. 中部；[美俚]五分镍币；[经贸]月中付款"
+TEST(SubjectsOfTag, KnowsTheSpellingsOfATag) {
+  for (const std::u16string_view tag : {u"经", u"商", u"贸易", u"经贸", u"会计", u"证券"}) {
+    EXPECT_EQ(dictionary::subjectsOfTag(tag), setOf(Subject::kEconomy)) << tag.size();
+  }
+}
+
 }  // namespace
