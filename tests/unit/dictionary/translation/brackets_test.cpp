@@ -27,4 +27,21 @@ TEST(WithoutNotes, KeepsBracketsOfChemicalNames) {
   EXPECT_EQ(dictionary::withoutNotes(u"爱克斯[X]射线"), u"爱克斯射线");
 }
 
+// A note may be a sentence: "AAAS | [American Association for the Advancement of Science
+// 的缩略]美国科学发展协会". One without an end is none.
+TEST(ClosingPosition, IsLookedForWithinFourHundredCharacters) {
+  const std::u16string longest = u'(' + std::u16string(398, u'a') + u')';
+  EXPECT_EQ(dictionary::closingPosition(longest, 0), 399U);
+  EXPECT_EQ(dictionary::withoutNotes(longest + u"甲"), u"甲");
+  const std::u16string longer = u'(' + std::u16string(399, u'a') + u')';
+  EXPECT_EQ(dictionary::closingPosition(longer, 0), std::u16string_view::npos);
+}
+
+TEST(QuotationEnd, IsLookedForWithinFourHundredCharacters) {
+  const std::u16string longest = u'“' + std::u16string(398, u'甲') + u'”';
+  EXPECT_EQ(dictionary::quotationEnd(longest, 0), 400U);
+  const std::u16string longer = u'“' + std::u16string(399, u'甲') + u'”';
+  EXPECT_EQ(dictionary::quotationEnd(longer, 0), std::u16string_view::npos);
+}
+
 }  // namespace
