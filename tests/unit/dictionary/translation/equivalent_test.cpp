@@ -162,7 +162,9 @@ TEST(MakeEquivalent, RefusesSubstitutesForLostCharacters) {
 TEST(MakeEquivalent, RefusesLabels) {
   EXPECT_EQ(faultOf(u"…的"), PieceFault::kLabel);
   EXPECT_EQ(faultOf(u"见 jilin"), PieceFault::kLabel);
-  EXPECT_EQ(faultOf(u"人名"), PieceFault::kLabel);
+  for (const std::u16string_view label : {u"人名", u"亦作", u"又作", u"略作"}) {
+    EXPECT_EQ(faultOf(label), PieceFault::kLabel);
+  }
   EXPECT_EQ(faultOf(u"地名"), PieceFault::kNone);
   EXPECT_EQ(faultOf(u"等等"), PieceFault::kNone);
   EXPECT_EQ(faultOf(u"看见"), PieceFault::kNone);
@@ -198,6 +200,34 @@ TEST(MakeEquivalent, RemovesTheParticleThatATrimmedEllipsisOrANoteLeaves) {
   EXPECT_EQ(word(u"的里雅斯特湾"), u"的里雅斯特湾");
   EXPECT_EQ(faultOf(u"...的"), PieceFault::kLabel);
   EXPECT_EQ(faultOf(u"的复数"), PieceFault::kLabel);
+}
+
+// "synthetic C10-16 aliphatic alcohols | [化] 合成C10~16脂肪醇", "absolutizing | vt. 使……绝对化",
+// "feto- | [医]胎儿-", "Bladan | 一六○五", "pott | n. 375×312mm纸张"
+TEST(MakeEquivalent, WritesEachMarkInOneWay) {
+  EXPECT_EQ(word(u"合成C10~16脂肪醇"), u"合成C10～16脂肪醇");
+  EXPECT_EQ(word(u"使……绝对化"), u"使…绝对化");
+  EXPECT_EQ(word(u"使......绝对化"), u"使…绝对化");
+  EXPECT_EQ(word(u"胎儿-"), u"胎儿");
+  EXPECT_EQ(word(u"一六〇五"), u"一六〇五");
+  EXPECT_EQ(word(u"375×312mm纸张"), u"375×312mm纸张");
+}
+
+// "common lynx | [网络] 常见的ly x"
+TEST(MakeEquivalent, RemovesATailOfMoreThanFourSmallLetters) {
+  EXPECT_EQ(word(u"常见的ly xz"), u"常见的ly xz");
+  EXPECT_EQ(word(u"常见的ly xyz"), u"常见的");
+  EXPECT_EQ(word(u"常见的lyxyz"), u"常见的lyxyz") << "one word";
+}
+
+// "NCSA | ( NATIONAL … APPLICATIONS 的缩写。…)", "ifan | [男子名] 伊凡 John的威尔士语形式",
+// "esses | ess [esse] 的复数", "badder | a. 的非正式写法", "retrodden | v retread 的过去分词"
+TEST(MakeEquivalent, RefusesAFormWithoutItsWord) {
+  for (const std::u16string_view form :
+       {u"的简写", u"的缩写", u"的变形", u"的变体", u"的复数", u"的威尔士语形式", u"的过去分词",
+        u"的现在分词", u"的过去式", u"的非正式写法"}) {
+    EXPECT_EQ(faultOf(form), PieceFault::kLabel) << std::string(form.begin(), form.end());
+  }
 }
 
 }  // namespace
