@@ -6,12 +6,14 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "dictionary/check/check.h"
 #include "dictionary/console.h"
 #include "tests/support/data/sample_database.h"
 #include "tests/support/data/small_dictionary.h"
 #include "tests/support/data/temp_folder.h"
+#include "tests/support/data/unprivileged.h"
 
 namespace {
 
@@ -199,5 +201,48 @@ TEST(BuildDatabase, FillsSubjectDictionaries) {
   rows.moveFirst();
   EXPECT_EQ(rows.field(u"meaning").text, u"2,4-二硝基苯；间二硝基苯");
 }
+
+TEST(BuildDatabase, ReportsWhatItSkipped) {
+  const TempFolder folder;
+  std::string source = support::readFile(support::smallSource());
+  for (int i = 0; i < 21; ++i) source += "bad,\"line\n";
+  for (int i = 0; i < 2; ++i) source += "100%,,,百分之百,,,,,0,0,,,\n";
+  support::writeFile(folder.file(u"source.csv"), source);
+  const std::string log = build(folder.file(u"source.csv"), folder.file(u"kk.dat"));
+  EXPECT_NE(log.find("         21  lines skipped: a quoted field does not end\n"),
+            std::string::npos);
+  EXPECT_NE(log.find("          2  entries left out: the word cannot be looked up\n"),
+            std::string::npos);
+  EXPECT_NE(log.find("\nfurther bad lines are named when all is read\n"), std::string::npos);
+}
+
+// "endothelioma dural | [医] 硬脑[脊]膜内皮瘤"
+TEST(BuildDatabase, AddsShortFormsThatAreWords) {
+  const TempFolder folder;
+  support::writeFile(folder.file(u"source.csv"),
+                     support::readFile(support::smallSource()) +
+                         "endothelioma dural,,,[医] 硬脑[脊]膜内皮瘤,,5,1,gre,1,1,,,\n"
+                         "dural tumour,,,[医] 硬脑膜内皮瘤,,5,1,gre,1,1,,,\n");
+  build(folder.file(u"source.csv"), folder.file(u"kk.dat"));
+  data::DataControl control = support::opened(
+      folder.file(u"kk.dat"), u"select word from cdict where word like '硬脑%' order by word");
+  EXPECT_EQ(support::column(control.recordset(), u"word"),
+            (std::vector<std::u16string>{u"硬脑脊膜内皮瘤", u"硬脑膜内皮瘤", u"硬脑膜内皮瘤"}));
+}
+
+#ifndef _WIN32  // where permissions do not keep a file from being read
+
+TEST(BuildDatabase, SaysThatASourceCannotBeRead) {
+  const TempFolder folder;
+  const auto source = folder.file(u"source.csv");
+  support::writeFile(source, "word,translation\n");
+  std::filesystem::permissions(source, std::filesystem::perms::none);
+  EXPECT_TRUE(support::passesUnprivileged([&] {
+    EXPECT_EQ(failureOf(source, folder.file(u"kk.dat")),
+              "cannot read " + dictionary::displayName(source));
+  }));
+}
+
+#endif
 
 }  // namespace
