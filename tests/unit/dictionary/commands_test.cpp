@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "dictionary/console.h"
+#include "dictionary/translation/subjects.h"
 #include "tests/support/data/sample_database.h"
 #include "tests/support/data/small_dictionary.h"
 #include "tests/support/data/temp_folder.h"
@@ -42,7 +44,9 @@ TEST(Commands, ShowHowTheyAreUsed) {
                                                 {"coverage"},
                                                 {"coverage", "a"},
                                                 {"make"},
-                                                {"check", "a", "b", "c"}}) {
+                                                {"check", "a", "b", "c"},
+                                                {"build", "a", "b", "c"},
+                                                {"lookup", "a", "b", "c"}}) {
     const Outcome outcome = run(wrong);
     EXPECT_EQ(outcome.code, dictionary::kMisused);
     EXPECT_EQ(outcome.out, "");
@@ -149,6 +153,36 @@ TEST(Commands, LookupSaysWhatTheWindowWouldNotLookUp) {
     EXPECT_EQ(outcome.err, "kkbuild: there is nothing to look up\n");
   }
   EXPECT_EQ(run({"lookup", small(), "?数"}).err.find("wildcard"), std::string::npos);
+}
+
+/// A query for the number of rows of each subject dictionary.
+std::string rowCounts() {
+  std::string sql;
+  for (const dictionary::SubjectInfo& subject : dictionary::kSubjectInfos) {
+    if (!sql.empty()) sql += " union all ";
+    sql += "select count(*) as rows from " + std::string(subject.table);
+  }
+  return sql;
+}
+
+TEST(Commands, CheckCountsWhatItRead) {
+  const support::TempFolder folder;
+  const auto file = folder.file(u"kk.dat");
+  std::filesystem::copy_file(support::smallDatabase(), file);
+  support::Writer database(file);
+  const auto number = [&](const std::string& sql) {
+    return dictionary::grouped(static_cast<std::size_t>(database.number(sql)));
+  };
+  const std::string counts = number("select count(*) from edict") + " pairs of " +
+                             number("select count(distinct word) from edict") + " English and " +
+                             number("select count(distinct word) from cdict") +
+                             " Chinese headwords; 24 subject " + "dictionaries with " +
+                             number("select sum(rows) from (" + rowCounts() + ")") + " rows\n";
+  EXPECT_EQ(run({"check", support::utf8Path(file)}).out.find(counts), 0U) << counts;
+
+  database.run("delete from cdict;delete from cdictidx");
+  EXPECT_NE(run({"check", support::utf8Path(file)}).out.find("0 of 0 Chinese lists (0.0 %) end"),
+            std::string::npos);
 }
 
 }  // namespace
