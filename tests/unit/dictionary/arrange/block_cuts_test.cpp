@@ -101,4 +101,16 @@ TEST(ChooseCutsJoining, FallsBackToOneBlock) {
   EXPECT_EQ(rowsOf(cuts), (std::vector<std::size_t>{0, 1000}));
 }
 
+// The cut with less deviation from the equal share gives up three wanted pairs.
+TEST(ChooseCuts, PrefersADeviationToLosingAWantedPair) {
+  EXPECT_EQ(unitsOf(chooseCuts(countsOf({{5, 4, 2}, {6, 3, 4}, {1, 6, 4}, {2, 6, 3}}), 2, 10)),
+            (std::vector<std::size_t>{0, 1, 4}));
+}
+
+// The cut with less deviation takes a reserve pair more.
+TEST(ChooseCuts, PrefersADeviationToAReservePair) {
+  EXPECT_EQ(unitsOf(chooseCuts(countsOf({{0, 6, 4}, {0, 6, 1}, {5, 0, 3}, {5, 4, 4}}), 2, 10)),
+            (std::vector<std::size_t>{0, 2, 4}));
+}
+
 }  // namespace
