@@ -18,6 +18,7 @@ struct Edge {
   std::uint32_t chinese;
   Tier tier;
   bool kept;
+  std::uint8_t position = 0;
 };
 
 /// Blocks of both languages and the pairs kept in them.
@@ -28,7 +29,7 @@ class Blocks {
     english_.rows = std::move(englishRows);
     chinese_.rows = std::move(chineseRows);
     for (const Edge& edge : edges) {
-      pairs_.push_back({0, 0, edge.tier, 0});
+      pairs_.push_back({0, 0, edge.tier, edge.position});
       english_.blockOf.push_back(edge.english);
       chinese_.blockOf.push_back(edge.chinese);
       kept.push_back(edge.kept);
@@ -105,6 +106,26 @@ TEST(MaxFlow, FillsEnglishBlocksWithoutRegardToChinese) {
   EXPECT_FALSE(blocks.run(Tier::kImportantFirst));
   blocks.fillEnglish();
   EXPECT_EQ(blocks.kept, (std::vector<bool>{false, true, true}));
+}
+
+TEST(MaxFlow, AddsTheMostValuablePair) {
+  Blocks tiers({{0, 0, Tier::kWeb, false, 0}, {0, 0, Tier::kName, false, 7}}, {1}, {1});
+  EXPECT_TRUE(tiers.run(Tier::kImportantFirst));
+  EXPECT_EQ(tiers.kept, (std::vector<bool>{false, true}));
+  Blocks positions({{0, 0, Tier::kWeb, false, 7}, {0, 0, Tier::kWeb, false, 3}}, {1}, {1});
+  EXPECT_TRUE(positions.run(Tier::kImportantFirst));
+  EXPECT_EQ(positions.kept, (std::vector<bool>{false, true}));
+}
+
+TEST(MaxFlow, RemovesTheLeastValuablePair) {
+  // Adding (0, 0) overfills Chinese block 0, so that one of two pairs of English block 1 goes.
+  Blocks blocks({{0, 0, Tier::kWeb, false},
+                 {1, 0, Tier::kOrdinary, true},
+                 {1, 0, Tier::kWeb, true},
+                 {1, 1, Tier::kWeb, false}},
+                {1, 2}, {2, 1});
+  EXPECT_TRUE(blocks.run(Tier::kImportantFirst));
+  EXPECT_EQ(blocks.kept, (std::vector<bool>{true, true, false, true}));
 }
 
 }  // namespace
