@@ -282,4 +282,37 @@ TEST(ChoosePairs, KeepsWholeBlocksForRandomVocabularies) {
   }
 }
 
+/// Which pairs are kept of one headword with a pair more than a block has rows.
+std::vector<bool> keptOfTooMany(const std::vector<std::pair<Tier, std::uint8_t>>& values) {
+  Vocabulary vocabulary = vocabularyOf({{u"a", values.size()}});
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    vocabulary.pairs[i].tier = values[i].first;
+    vocabulary.pairs[i].position = values[i].second;
+  }
+  return choosePairs(vocabulary, LookupLimits());
+}
+
+TEST(ChoosePairs, LeavesOutTheWorstTierThenTheLastPosition) {
+  std::vector<std::pair<Tier, std::uint8_t>> values;
+  for (std::uint8_t i = 0; i < 101; ++i) values.emplace_back(Tier::kOrdinary, i);
+  values[0].first = Tier::kWeb;
+  std::vector<bool> kept = keptOfTooMany(values);
+  EXPECT_FALSE(kept[0]);
+  EXPECT_EQ(keptCount(kept), 100U);
+
+  values[0] = {Tier::kOrdinary, 200};
+  kept = keptOfTooMany(values);
+  EXPECT_FALSE(kept[0]);
+  EXPECT_EQ(keptCount(kept), 100U);
+}
+
+TEST(ChoosePairs, PartsWordsThatAreEqualUpToAnApostropheOnly) {
+  std::vector<Word> words = singles(40, u"a");
+  words.push_back({u"o'clock", 60});
+  words.push_back({u"oak", 60});
+  for (Word& word : singles(40, u"p")) words.push_back(word);
+  const Vocabulary vocabulary = vocabularyOf(words);
+  EXPECT_EQ(keptCount(choosePairs(vocabulary, LookupLimits())), 200U);
+}
+
 }  // namespace
