@@ -107,4 +107,27 @@ TEST(Senses, KnowTheirPartOfSpeechAndWhetherTheyNameAForm) {
   EXPECT_TRUE(senses[2].reference);
 }
 
+TEST(Senses, WithAWebTagAreFromTheWeb) {
+  EXPECT_EQ(words(entry("hood", "[网络] 胡德（姓氏）\\n[人名] 胡特\\nn. 头巾", kRare)),
+            (Words{u"头巾", u"胡特", u"胡德"}));
+}
+
+TEST(Senses, ThatAreNamesAreNoSlang) {
+  EXPECT_EQ(words(entry("copper", "n. 铜\\n[俚] 科珀（姓氏）", 2500)), (Words{u"铜", u"科珀"}));
+}
+
+// "felt n. 毛毯, 毡 … feel的过去式和过去分词"
+TEST(Senses, ThatNameAFormAreNotAmongTheTen) {
+  EXPECT_EQ(
+      words(entry("felt", "n. 甲, 乙, 丙, 丁, 戊, 己, 庚, 辛, 壬, 癸, 子\\nfeel的过去式", 100)),
+      (Words{u"甲", u"乙", u"丙", u"丁", u"戊", u"己", u"庚", u"辛", u"壬", u"癸",
+             u"feel的过去式"}));
+}
+
+TEST(Senses, OfASubjectAreAmongTheTen) {
+  EXPECT_EQ(words(entry("cell", "n. 甲, 乙, 丙, 丁, 戊, 己, 庚, 辛, 壬, 癸\\n[计] 单元格, 单元, 元",
+                        927)),
+            (Words{u"甲", u"乙", u"丙", u"丁", u"戊", u"己", u"庚", u"辛", u"单元格", u"单元"}));
+}
+
 }  // namespace
