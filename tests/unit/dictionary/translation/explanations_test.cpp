@@ -107,4 +107,18 @@ TEST(LifePosition, IsBehindTheFirstName) {
   EXPECT_EQ(dictionary::lifePosition(u"约翰(1906-1984)"), std::u16string_view::npos);
 }
 
+// "-able | suf. 表示：“能…的,会…的”", "callowness | 意为：不成熟", "wild pink | 尤指：加罗林雪轮",
+// "calodorant | [化] 指:煤气添臭剂", "dragon lady | …即：傲慢专横或残暴的妇女", "djokovic |
+// 全名：Novak Djokovic…", "sharapova | 人名：莎拉波娃", "NDX | n. DOS文件扩展名:索引文件"
+TEST(SplitExplanation, DropsEveryLeadIn) {
+  for (const std::u16string_view leadIn :
+       {u"表示", u"意为", u"尤指", u"指", u"意指", u"即", u"全名", u"人名", u"DOS文件扩展名"}) {
+    for (const char16_t colon : std::u16string_view(u":：∶")) {
+      const std::u16string piece = std::u16string(leadIn) + colon + u"跑";
+      EXPECT_EQ(dictionary::splitExplanation(piece).word, u"跑") << leadIn.size();
+    }
+  }
+  EXPECT_EQ(dictionary::splitExplanation(u"手指：跑").word, u"手指");
+}
+
 }  // namespace
