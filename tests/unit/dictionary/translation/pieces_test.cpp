@@ -107,4 +107,19 @@ TEST(InflectionNote, IsReadFromALine) {
   EXPECT_EQ(dictionary::inflectionNote(u"名词的复数, (名词的复数)"), u"");
 }
 
+// "perpetuates | v. 使永存（ perpetuate的第三人称 ）; 使持续", "abinger | (abing 的比较级) AB血型",
+// "ablest | a. 能够…的( able的最高级 )", "-fisted | v. 拳打（fist的过去式）"
+TEST(InflectionNote, KnowsEveryForm) {
+  for (const std::u16string form : {u"x的复数", u"x的过去式", u"x的过去分词", u"x的现在分词",
+                                    u"x的第三人称", u"x的比较级", u"x的最高级"}) {
+    EXPECT_EQ(dictionary::inflectionNote(u"甲( " + form + u" )"), form) << form.size();
+  }
+}
+
+TEST(InflectionNote, HasAtMostFortyEightCharacters) {
+  const std::u16string longest = std::u16string(45, u'x') + u"的复数";
+  EXPECT_EQ(dictionary::inflectionNote(u'(' + longest + u')'), longest);
+  EXPECT_EQ(dictionary::inflectionNote(u"(x" + longest + u')'), u"");
+}
+
 }  // namespace
