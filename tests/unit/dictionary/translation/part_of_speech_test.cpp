@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -23,6 +25,8 @@ TEST(PartOfSpeechLength, CoversLinkedMarks) {
   EXPECT_EQ(rest(u"vt.vi. 加速"), u"加速");
   EXPECT_EQ(rest(u"n.&vt. 加速"), u"加速");
   EXPECT_EQ(rest(u"vt., vi. 加速"), u"加速");
+  EXPECT_EQ(rest(u"n.、v. 加速"), u"加速");
+  EXPECT_EQ(rest(u"n.，v. 加速"), u"加速");
   EXPECT_EQ(rest(u"a. & 加速"), u"加速");
 }
 
@@ -65,6 +69,23 @@ TEST(PartOfSpeechLength, IsZeroForOtherWords) {
       EXPECT_EQ(rest(text), u"");
     } else {
       EXPECT_EQ(rest(text), text);
+    }
+  }
+}
+
+TEST(PartsOfSpeechIn, KnowsEveryMark) {
+  using dictionary::PartOfSpeech;
+  const std::vector<std::pair<PartOfSpeech, std::vector<std::u16string>>> marks = {
+      {PartOfSpeech::kNoun, {u"n", u"un", u"pl", u"pn"}},
+      {PartOfSpeech::kVerb, {u"v", u"vt", u"vi", u"vbl", u"pp", u"ing"}},
+      {PartOfSpeech::kAdjective, {u"a", u"adj"}},
+      {PartOfSpeech::kAdverb, {u"adv", u"ad"}},
+      {PartOfSpeech::kFunction,
+       {u"prep", u"pron", u"num", u"conj", u"art", u"quant", u"int", u"interj", u"exclam"}}};
+  for (const auto& [part, names] : marks) {
+    for (const std::u16string& name : names) {
+      EXPECT_EQ(dictionary::partsOfSpeechIn(name + u". "), setOf(part))
+          << std::string(name.begin(), name.end());
     }
   }
 }
