@@ -334,4 +334,69 @@ TEST(ExtractEntry, OfAWordElementHasItsMeaningWithoutTheLeadIn) {
   EXPECT_EQ(wordsOfElement("hunger strike", "n. 表示抗议的绝食"), (Texts{u"表示抗议的绝食"}));
 }
 
+// "polys | n. [医]多形核白细胞…( poly的复数形式 )", "ophthalmometer | n. [医]检眼计 ,( 眼 ) 屈光计"
+TEST(SubjectText, HasNoBlanksInsideTheBracketsOfNotes) {
+  EXPECT_EQ(text(u"n. [医]检眼计 ,( 眼 ) 屈光计", Subject::kMedicine), u"检眼计，(眼)屈光计");
+  EXPECT_EQ(text(u"[医]甲( 乙)丙(丁 )", Subject::kMedicine), u"甲(乙)丙(丁)");
+}
+
+// "payara |  似鯖水狼脂鯉\\大胸水狼脂鯉"
+TEST(SubjectText, HasNoBackslashes) {
+  EXPECT_EQ(text(u"[鱼] 似鯖水狼脂鯉\\大胸水狼脂鯉", Subject::kZoology),
+            u"似鯖水狼脂鯉大胸水狼脂鯉");
+}
+
+TEST(ParseLine, TakesEveryItemOfAListOfPlacesForOne) {
+  EXPECT_EQ(words(u"[地名] 甲地、乙地, 在某国"), (Texts{u"甲地", u"乙地"}));
+  EXPECT_EQ(words(u"[人名] 甲、乙"), (Texts{u"甲"}));
+}
+
+// "verbi gratia | (=for example)(略 v. g.). [拉]例如", "calyptra | n[植].藓帽, 冠状部"
+TEST(ReadHead, SkipsTheFullStopAfterANote) {
+  EXPECT_EQ(dictionary::readHead(u"(=for example)(略 v. g.). [拉]例如", true, false).notes,
+            u"(=for example)(略 v. g.)[拉]");
+  EXPECT_EQ(dictionary::readHead(u"n[植].[动]藓帽", true, false).subjects,
+            setOf(Subject::kBotany) | setOf(Subject::kZoology));
+  EXPECT_EQ(dictionary::readHead(u".[植]藓帽", true, false).subjects, 0U);
+}
+
+TEST(ReadHead, CollectsThePartsOfSpeech) {
+  EXPECT_EQ(dictionary::readHead(u"n. [计] vt. 甲", true, false).parts,
+            setOf(dictionary::PartOfSpeech::kNoun) | setOf(dictionary::PartOfSpeech::kVerb));
+}
+
+TEST(ReadHead, RemembersThatItReadAnAbbreviation) {
+  const dictionary::LineHead head = dictionary::readHead(u"abbr. [计] n. 甲", true, false);
+  EXPECT_TRUE(head.abbreviation);
+  EXPECT_TRUE(head.marked);
+  EXPECT_FALSE(dictionary::readHead(u"abbr. 甲", true, false).marked);
+}
+
+// "bargham | [英方]马颈环", "bosque | <美方> n.树丛", "agees | [英国方言]歪(的)", "adjournal | n.
+// <废>", "abhominable | a. [废语]", "almery | n. [罕用语]", "antre | n. <古>[诗]洞窟", "boogie |
+// …[蔑]黑人", "cripes | int. <粗>", "bubber | …[儿语]兄弟", "aiblins | adv. <苏格兰>可能"
+TEST(ParseLine, KnowsTheMarksOfRareUse) {
+  for (const std::u16string mark :
+       {u"方",   u"英方",   u"美方",     u"方言", u"英国方言", u"古",        u"古语", u"废",
+        u"废语", u"罕",     u"罕用语",   u"诗",   u"蔑",       u"粗",        u"旧",   u"儿语",
+        u"黑话", u"苏格兰", u"主苏格兰", u"俚",   u"美国俚语", u"英国的俚语"}) {
+    EXPECT_TRUE(parseLine(u"n. <" + mark + u">甲").pieces.at(0).slang)
+        << std::string(mark.begin(), mark.end());
+  }
+  for (const std::u16string note : {u"美", u"口", u"古生物", u"英国海军俚语", u"旧约"}) {
+    EXPECT_FALSE(parseLine(u"n. <" + note + u">甲").pieces.at(0).slang)
+        << std::string(note.begin(), note.end());
+  }
+}
+
+TEST(ParseLine, AppliesAMarkOfUsageAtTheHeadToTheLine) {
+  for (const Piece& piece : parseLine(u"n. <俚>甲；乙").pieces) EXPECT_TRUE(piece.slang);
+  const std::vector<Piece> pieces = parseLine(u"n. 甲；<俚>乙, 丙；丁").pieces;
+  ASSERT_EQ(pieces.size(), 4U);
+  EXPECT_FALSE(pieces[0].slang);
+  EXPECT_TRUE(pieces[1].slang);
+  EXPECT_TRUE(pieces[2].slang);
+  EXPECT_FALSE(pieces[3].slang);
+}
+
 }  // namespace
