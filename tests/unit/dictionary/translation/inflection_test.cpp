@@ -38,6 +38,7 @@ TEST(Inflection, TakesAWordThatIsItsOwnLemmaForNoForm) {
   EXPECT_EQ(noteOf("p:came/0:come/1:d", "Come"), u"none");
   EXPECT_EQ(noteOf("0:/1:d", "x"), u"none");
   EXPECT_EQ(noteOf("0", "x"), u"none");
+  EXPECT_EQ(noteOf("01:ask/1:d", "x"), u"none") << "another key";
 }
 
 TEST(Inflection, KnowsALemmaWhoseFormIsNotGiven) {
@@ -85,12 +86,19 @@ TEST(Inflection, ReadsTranslationsThatNameAForm) {
   EXPECT_EQ(read(u"abscess的三单形式"), u"abscess: abscess的第三人称单数");
   EXPECT_EQ(read(u"A-list的变形"), u"a-list: ");
   EXPECT_EQ(read(u"o′clock的复数"), u"o'clock: o′clock的复数");
+  EXPECT_EQ(read(u"o'clock的复数"), u"o'clock: o′clock的复数");
   EXPECT_EQ(read(u"grow up的过去式"), u"grow up: grow up的过去式");
+  EXPECT_EQ(read(u"grow up 的过去式"), u"grow up: grow up的过去式");
+  EXPECT_EQ(read(u"p.m.的复数"), u"p.m.: p.m.的复数");
+  EXPECT_EQ(read(u"go的现在分词"), u"go: go的现在分词");
+  EXPECT_EQ(read(u"large的比较级"), u"large: large的比较级");
+  EXPECT_EQ(read(u"be的单三形式"), u"be: be的第三人称单数");
 }
 
 TEST(Inflection, TakesNoOtherTextForAForm) {
   EXPECT_EQ(read(u"苹果的复数"), u"none");
   EXPECT_EQ(read(u"的复数"), u"none");
+  EXPECT_EQ(read(u"-ism的复数"), u"none");
   EXPECT_EQ(read(u"X的射线"), u"none");
   EXPECT_EQ(read(u"take"), u"none");
   EXPECT_EQ(read(u"A甲的复数"), u"none");
@@ -104,6 +112,8 @@ TEST(Inflection, KnowsThePartsOfSpeechOfTheLemma) {
   EXPECT_EQ(parts(u"x的复数"), setOf(PartOfSpeech::kNoun));
   EXPECT_EQ(parts(u"x的过去式"), setOf(PartOfSpeech::kVerb));
   EXPECT_EQ(parts(u"x的复数和第三人称单数"), setOf(PartOfSpeech::kVerb));
+  EXPECT_EQ(parts(u"x的现在分词"), setOf(PartOfSpeech::kVerb));
+  EXPECT_EQ(parts(u"x的比较级"), setOf(PartOfSpeech::kAdjective) | setOf(PartOfSpeech::kAdverb));
   EXPECT_EQ(parts(u"x的最高级"), setOf(PartOfSpeech::kAdjective) | setOf(PartOfSpeech::kAdverb));
   EXPECT_EQ(parts(u"x的变形"), dictionary::kAnyPartOfSpeech);
   EXPECT_EQ(partsOfSpeechOf(inflectionOf("0:hand/1:s3", "hands")->forms),
