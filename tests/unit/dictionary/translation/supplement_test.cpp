@@ -96,4 +96,10 @@ TEST(Corrections, LeaveOtherWordsAlone) {
   }
 }
 
+// "unpredictably | unpredictable的变形"
+TEST(Supplement, TranslatesWordsThatAreOnlyReferredToAnother) {
+  EXPECT_EQ(equivalents("unpredictably", "unpredictable的变形"),
+            (Words{u"unpredictable的变形", u"无法预料地", u"不可预见地"}));
+}
+
 }  // namespace
