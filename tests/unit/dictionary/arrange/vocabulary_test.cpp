@@ -252,4 +252,152 @@ TEST(PairCollector, FollowsReferences) {
   EXPECT_EQ(tierOf(vocabulary, u"铺地防潮布"), Tier::kOrdinary);
 }
 
+Pair pairOf(const Vocabulary& vocabulary, std::u16string_view english,
+            std::u16string_view chinese) {
+  for (const Pair& pair : vocabulary.pairs) {
+    if (vocabulary.english[pair.english] == english &&
+        vocabulary.chinese[pair.chinese] == chinese) {
+      return pair;
+    }
+  }
+  ADD_FAILURE() << "no such pair";
+  return {};
+}
+
+TEST(PairCollector, GivesEqualPairsTheBestTierAndPosition) {
+  const Vocabulary tier = collect({entry("bit", "n. 位"), entry("Bit", "n. 甲, 位", true)});
+  EXPECT_EQ(pairOf(tier, u"bit", u"位").tier, Tier::kImportant);
+  const Vocabulary position = collect({entry("bit", "n. 甲, 乙, 位"), entry("Bit", "n. 丙, 位")});
+  EXPECT_EQ(pairOf(position, u"bit", u"位").position, 1U);
+}
+
+TEST(PairCollector, GivesTheGreatestPositionToAllThatFollow) {
+  std::string translation = "n. ";
+  for (int i = 0; i < 300; ++i) translation += "第" + std::to_string(i) + "号, ";
+  const Vocabulary vocabulary = collect({entry("number", translation)});
+  EXPECT_EQ(pairOf(vocabulary, u"number", u"第254号").position, 254U);
+  EXPECT_EQ(pairOf(vocabulary, u"number", u"第255号").position, 255U);
+  EXPECT_EQ(pairOf(vocabulary, u"number", u"第256号").position, 255U);
+  EXPECT_EQ(pairOf(vocabulary, u"number", u"第299号").position, 255U);
+}
+
+TEST(PairCollector, CountsANoteAsAPair) {
+  PairCollector collector;
+  EXPECT_EQ(collector.add(entry("backslidden", "(backslide 的过去分词)")), 1U);
+  EXPECT_EQ(collector.add(entry("sayed", "", false, 0, "0:say/1:p")), 1U);
+}
+
+TEST(PairCollector, RatesANoteByItsWord) {
+  const Vocabulary vocabulary = collect({entry("backslidden", "(backslide 的过去分词)", true),
+                                         entry("bewept", "(beweep 的过去分词)")});
+  EXPECT_EQ(tierOf(vocabulary, u"backslide的过去分词"), Tier::kImportantFirst);
+  EXPECT_EQ(tierOf(vocabulary, u"beweep的过去分词"), Tier::kFirst);
+}
+
+// "choses | v. choose 的过去式, 选择", "asked | n. 卖方要价"
+TEST(PairCollector, RatesTheFurtherEquivalentsOfAForm) {
+  const Vocabulary vocabulary = collect({entry("choses", "v. choose的过去式, 选择, 挑选"),
+                                         entry("asked", "n. 卖方要价, 要价", false, 0, "0:ask/1:p"),
+                                         entry("chose", "n. 物体, 动产")});
+  EXPECT_EQ(tierOf(vocabulary, u"选择"), Tier::kFirst);
+  EXPECT_EQ(tierOf(vocabulary, u"挑选"), Tier::kInflected);
+  EXPECT_EQ(tierOf(vocabulary, u"要价"), Tier::kInflected);
+  EXPECT_EQ(tierOf(vocabulary, u"动产"), Tier::kOrdinary);
+}
+
+TEST(PairCollector, FindsALemmaWithoutRegardToCase) {
+  const Vocabulary vocabulary =
+      collect({entry("kudos", "kudo的复数"), entry("Kudo", "n. 荣誉, 声誉")});
+  EXPECT_EQ(valued(vocabulary, u"kudos"), (Texts{u"kudo的复数", u"荣誉", u"声誉"}));
+}
+
+TEST(PairCollector, GivesAFormNoFormOfItsLemma) {
+  const Vocabulary vocabulary =
+      collect({entry("sawed", "saw的过去式", true), entry("saw", "锯, see的过去式, 锯开")});
+  EXPECT_EQ(valued(vocabulary, u"sawed"), (Texts{u"saw的过去式", u"锯", u"锯开"}));
+}
+
+TEST(PairCollector, LooksForThePartOfSpeechAmongFortyEquivalents) {
+  const auto taken = [](int nouns) {
+    std::string translation = "n. ";
+    for (int i = 0; i < nouns; ++i) translation += "第" + std::to_string(i) + "号, ";
+    const Vocabulary vocabulary =
+        collect({entry("taken", "take的过去分词"), entry("take", translation + "\\nvt. 拿")});
+    return valued(vocabulary, u"taken");
+  };
+  EXPECT_EQ(taken(39), (Texts{u"take的过去分词", u"拿"}));
+  EXPECT_EQ(taken(40), (Texts{u"take的过去分词", u"第0号", u"第1号"}));
+}
+
+TEST(PairCollector, GivesAFormWhatThereIsWithoutItsPartOfSpeech) {
+  const Vocabulary vocabulary =
+      collect({entry("lasers", "laser的复数"), entry("laser", "vt. 照射"),
+               entry("outs", "", false, 0, "0:out/1:s"), entry("out", "a. 外面的", true, 62)});
+  EXPECT_EQ(valued(vocabulary, u"lasers"), (Texts{u"laser的复数", u"照射"}));
+  EXPECT_EQ(valued(vocabulary, u"outs"), (Texts{u"外面的", u"out的复数"}));
+}
+
+TEST(PairCollector, KeepsAnotherPartOfSpeechThatHasAPlace) {
+  const Vocabulary vocabulary = collect({entry("hand", "n. 手\\nvt. 交给\\nn. 爪, 指针", true, 163),
+                                         entry("hands", "", false, 0, "0:hand/1:s3")});
+  EXPECT_EQ(valued(vocabulary, u"hands"),
+            (Texts{u"手", u"hand的复数和第三人称单数", u"交给", u"爪"}));
+}
+
+TEST(PairCollector, TakesAnImportantFormForImportantWhateverItsLemma) {
+  const Vocabulary vocabulary = collect(
+      {entry("laden", "lade的过去分词", true), entry("lade", "vt. 装载, 汲取, 加负担, 舀出")});
+  EXPECT_EQ(valued(vocabulary, u"laden"), (Texts{u"lade的过去分词", u"装载", u"汲取", u"加负担"}));
+  EXPECT_EQ(pairOf(vocabulary, u"laden", u"加负担").tier, Tier::kImportant);
+}
+
+// A verb's single form has some 2/7 of its occurrences.
+TEST(PairCollector, ComparesTheRanksOfAFormAndItsLemma) {
+  const auto takes = [](std::uint32_t form, std::uint32_t lemma) {
+    const Vocabulary vocabulary = collect({entry("asked", "n. 卖方要价", true, form, "0:ask/1:p"),
+                                           entry("ask", "vt. 问", true, lemma)});
+    return valued(vocabulary, u"asked").size() > 1;
+  };
+  EXPECT_FALSE(takes(350, 100));
+  EXPECT_TRUE(takes(351, 100));
+  EXPECT_FALSE(takes(350, 0)) << "0 is no rank";
+}
+
+// "kudos | 0:kudo", without the letter of a form.
+TEST(PairCollector, AddsNoNoteOnAFormThatIsNotNamed) {
+  const Vocabulary vocabulary = collect(
+      {entry("kudos", "n. 荣誉", false, 0, "0:kudo"), entry("kudo", "n. 声誉", true, 4000)});
+  EXPECT_EQ(valued(vocabulary, u"kudos"), (Texts{u"声誉", u"荣誉"}));
+}
+
+TEST(PairCollector, RatesAReferenceByItsWord) {
+  const Vocabulary vocabulary =
+      collect({entry("randomise", "=randomize", true), entry("randomized", "=randomize"),
+               entry("randomize", "n. 甲, 乙, 丙\\nvt. 随机化, 使随机化, 打乱, 搞乱"),
+               entry("randomised", "randomise的过去式")});
+  EXPECT_EQ(pairOf(vocabulary, u"randomise", u"甲").tier, Tier::kImportantFirst);
+  EXPECT_EQ(pairOf(vocabulary, u"randomise", u"乙").tier, Tier::kImportant);
+  EXPECT_EQ(pairOf(vocabulary, u"randomized", u"甲").tier, Tier::kFirst);
+  EXPECT_EQ(valued(vocabulary, u"randomised"), (Texts{u"随机化", u"randomise的过去式"}))
+      << "its part of speech, and the value of the word that it is a form of";
+}
+
+TEST(PairCollector, FollowsNeitherNamesNorWhatIsFromTheWeb) {
+  const Vocabulary vocabulary =
+      collect({entry("abaci", "= abacus"), entry("abacused", "abacus的变形"),
+               entry("abacus", "n. 算盘\\n[人名] 阿巴\\n[网络] 珠算；珠")});
+  EXPECT_EQ(valued(vocabulary, u"abaci"), (Texts{u"算盘"}));
+  EXPECT_EQ(valued(vocabulary, u"abacused"), (Texts{u"abacus的变形", u"算盘"}));
+  EXPECT_EQ(valued(vocabulary, u"abacus").size(), 4U);
+}
+
+TEST(PairCollector, PutsTheNoteOnAFormBeforeWhatItTakesOver) {
+  const Vocabulary vocabulary = collect({entry("asked", "n. 卖方要价", false, 0, "0:ask/1:p"),
+                                         entry("ask", "vt. 问, 要求", true, 121)});
+  EXPECT_EQ(pairOf(vocabulary, u"asked", u"卖方要价").position, 0U);
+  EXPECT_EQ(pairOf(vocabulary, u"asked", u"ask的过去式").position, 1U);
+  EXPECT_EQ(pairOf(vocabulary, u"asked", u"问").position, 2U);
+  EXPECT_EQ(pairOf(vocabulary, u"asked", u"要求").position, 3U);
+}
+
 }  // namespace
