@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <sstream>
 #include <string>
@@ -17,12 +18,14 @@ namespace {
 using dictionary::Coverage;
 using dictionary::Shown;
 
-/// The small dictionary with a word that is nothing but a form of another.
+/// The small dictionary with two forms of other words, of which one is nothing else.
 const std::filesystem::path& database() {
   static const support::TempFolder folder;
   static const std::filesystem::path file = [] {
     support::writeFile(folder.file(u"source.csv"), support::readFile(support::smallSource()) +
-                                                       "took,,,take的过去式,,,,,0,0,,,\n");
+                                                       "took,,,take的过去式,,,,,0,0,,,\n"
+                                                       "felt,,,\"n. 毛毡\\nfeel的过去式\",,3,,zk,"
+                                                       "101,0,,,\n");
     std::ostringstream log;
     dictionary::buildDatabase(folder.file(u"source.csv"), folder.file(u"kk.dat"), log);
     return folder.file(u"kk.dat");
@@ -77,6 +80,16 @@ TEST(CoverageOf, CountsLettersWithDigitsApart) {
             (Coverage::Words{{u"1st", 2}, {u"2nd", 1}, {u"B12's", 1}, {u"CO2", 1}}));
 }
 
+TEST(CoverageOf, CountsAFormWithAMeaningOfItsOwnAsFound) {
+  const Coverage coverage = coverageOf(u"felt took");
+  EXPECT_EQ(coverage.all, (Coverage::Counts{1, 0, 1, 0}));
+  EXPECT_EQ(count(coverage, Shown::kMeaning, u"felt"), 1U);
+}
+
+TEST(CoverageOf, LeavesApostrophesAroundLettersWithDigitsOut) {
+  EXPECT_EQ(coverageOf(u"'1st' 2nd'").unread, (Coverage::Words{{u"1st", 1}, {u"2nd", 1}}));
+}
+
 TEST(CoverageOf, CountsNothingInOtherTexts) {
   for (const std::u16string_view text : {u"", u" \r\n", u"42 — 7%", u"\U00020000", u"Жук"}) {
     EXPECT_EQ(coverageOf(text).all, Coverage::Counts{});
@@ -102,6 +115,27 @@ TEST(PrintCoverage, ShowsSharesAndTheMostFrequentWords) {
             "         1  another\n"
             "  letters and digits but no word, 1 different:\n"
             "         1  MP3x\n");
+}
+
+TEST(PrintCoverage, SortsEquallyFrequentWordsInTheTextOrder) {
+  std::vector<std::u16string> words = {u"xyzzy", u"Zeta", u"Xyzzy", u"yota", u"XYZZY"};
+  for (int order = 0; order < 2; ++order) {  // the hash table keeps them in either order
+    Coverage coverage;
+    for (const std::u16string& word : words) {
+      coverage.words.at(static_cast<std::size_t>(Shown::kNothing))[word] = 1;
+    }
+    coverage.unread = {{u"1st", 2}, {u"2nd", 1}};
+    const std::string text = printed(coverage);
+    EXPECT_NE(text.find("5 different:\n"
+                        "         1  XYZZY\n"
+                        "         1  Xyzzy\n"
+                        "         1  xyzzy\n"
+                        "         1  yota\n"
+                        "         1  Zeta\n"),
+              std::string::npos);
+    EXPECT_NE(text.find("  3 places with letters and digits but no word\n"), std::string::npos);
+    std::ranges::reverse(words);
+  }
 }
 
 TEST(PrintCoverage, ShowsFortyWordsOfAList) {

@@ -143,6 +143,20 @@ TEST(IsReference, NamesAnotherFormOfTheWord) {
   }
 }
 
+TEST(IsReference, KnowsEveryForm) {
+  for (const std::u16string_view form :
+       {u"变形", u"复数", u"单数", u"过去式", u"过去时", u"现在分词", u"进行式", u"动名词",
+        u"第一人称", u"比较级", u"最高级", u"所有格", u"宾格", u"方言形式", u"变体", u"异体",
+        u"古体"}) {
+    EXPECT_TRUE(isReference(u"take的" + std::u16string(form)))
+        << std::string(form.begin(), form.end());
+  }
+  for (const std::u16string_view equals : {u"等于", u"同", u"参见", u"见", u"即"}) {
+    EXPECT_TRUE(isReference(std::u16string(equals) + u"take"))
+        << std::string(equals.begin(), equals.end());
+  }
+}
+
 TEST(IsReference, IsNoMeaningOfItsOwn) {
   for (const std::u16string_view meaning :
        {u"", u"位", u"复数", u"复数的", u"等于", u"同", u"同意", u"同X射线", u"过去式的take",
