@@ -77,6 +77,16 @@ TEST_F(ReadRunningText, EndsWordsAtBlocksOnly) {
   EXPECT_TRUE(has(u"H2O"));
 }
 
+TEST_F(ReadRunningText, EndsNoWordAtElementsWithinALine) {
+  for (const std::string name :
+       {"a",    "abbr",   "acronym", "b",   "bdi", "bdo",  "big", "cite", "del",
+        "dfn",  "em",     "font",    "i",   "ins", "mark", "q",   "s",    "small",
+        "span", "strike", "strong",  "sub", "sup", "u",    "wbr"}) {
+    const std::u16string text = read("<p>in<" + name + ">ter</" + name + ">face</p>");
+    EXPECT_NE(text.find(u"interface"), text.npos) << name;
+  }
+}
+
 TEST_F(ReadRunningText, LeavesOutProgramTexts) {
   for (const std::string name : {"script", "style", "pre", "code", "tt", "kbd", "samp", "var"}) {
     const std::string element = "<" + name + ">left<b>out</b></" + name + ">";
@@ -130,6 +140,12 @@ TEST_F(ReadRunningText, RefusesEndlessTexts) {
   }
   gzclose(file);
   EXPECT_EQ(failure(), dictionary::displayName(file_) + " is too long");
+}
+
+TEST_F(ReadRunningText, ReadsTagsInCapitals) {
+  const std::u16string text = read("<P>in<I>ter</I>face<BR>a<SCRIPT>left</SCRIPT>b</P>");
+  EXPECT_NE(text.find(u"\n\ninterface\n"), text.npos);
+  EXPECT_NE(text.find(u"a  b"), text.npos);
 }
 
 }  // namespace
