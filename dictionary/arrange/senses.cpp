@@ -88,9 +88,8 @@ std::vector<Candidate> inTurn(const std::vector<Candidate>& candidates, std::siz
 
 /// What is kept of a common word's senses. `basic`: the word is one of the most frequent.
 std::vector<Candidate> chosen(std::vector<Candidate> candidates, bool basic) {
-  const auto plain = [](const Candidate& one) {
-    return isOrdinary(one) && !one.slang && !one.subject;
-  };
+  // Names and what is from the web have a subject.
+  const auto plain = [](const Candidate& one) { return !one.slang && !one.subject; };
   const auto plainSenses = std::ranges::count_if(candidates, plain);
   if (plainSenses > 0) {
     std::erase_if(candidates, [](const Candidate& one) {
@@ -101,10 +100,8 @@ std::vector<Candidate> chosen(std::vector<Candidate> candidates, bool basic) {
     return (one.sense.parts & setOf(PartOfSpeech::kFunction)) != 0;
   });
   // Beside "be的单数第一人称" alone, the senses of subjects are those of abbreviations in capitals.
-  const bool onlyForm =
-      plainSenses > 0 && std::ranges::all_of(candidates, [&](const Candidate& one) {
-        return !plain(one) || one.sense.reference;
-      });
+  const bool onlyForm = std::ranges::all_of(
+      candidates, [&](const Candidate& one) { return !plain(one) || one.sense.reference; });
   const bool none = basic || functionWord || onlyForm;
   const std::size_t fromSubjects = plainSenses == 0 ? kMaxSenses : none ? 0 : kMaxSubjectSenses;
   std::vector<Candidate> general;
@@ -117,10 +114,8 @@ std::vector<Candidate> chosen(std::vector<Candidate> candidates, bool basic) {
   subject = inTurn(subject, fromSubjects);
   std::vector<Candidate> result = inTurn(general, kMaxSenses - subject.size());
   result.insert(result.end(), subject.begin(), subject.end());
+  // References of forms, which are ordinary senses, then names, then what is from the web.
   result.insert(result.end(), others.begin(), others.end());
-  // References of forms are ordinary senses, names and what is from the web come after them.
-  std::ranges::stable_sort(result, {},
-                           [](const Candidate& candidate) { return candidate.sense.kind; });
   return result;
 }
 

@@ -28,7 +28,6 @@ void ShortForms::complete(Entry& entry) const {
       if (!words_.contains(piece.shortForm)) continue;
       Piece& form = forms.emplace_back();
       form.equivalent.word = piece.shortForm;
-      form.separator = u'，';
       form.subjects = piece.subjects;
     }
     for (Piece& form : forms) line.pieces.push_back(std::move(form));

@@ -197,7 +197,7 @@ void LineParser::addPiece(const RawPiece& raw, char16_t next) {
   if ((head.subjects & kNameSubjects) != 0) current_ = head.subjects;
   // A mark of usage holds up to the next semicolon, or for the line if it is at its head.
   if (raw.separator == u'；') slang_ = marksSlang(head_.notes);
-  if (!first && marksSlang(head.notes)) slang_ = true;
+  if (marksSlang(head.notes)) slang_ = true;
   const SubjectSet named = namedByNote(text);
   const bool listedPlace = current_ == setOf(Subject::kPlace) && raw.separator == u'、';
   const bool introduced = first || head.subjects != 0 || named != 0 || listedPlace;
@@ -219,7 +219,6 @@ void LineParser::addPiece(const RawPiece& raw, char16_t next) {
     piece.equivalent = makeEquivalent(part.text, false);
     pieces_.push_back(piece);
     piece.noted.clear();
-    piece.separator = u'，';
   }
   if (quoted.empty()) pieces_.push_back(std::move(piece));
 }

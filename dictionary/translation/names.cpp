@@ -15,10 +15,10 @@ using namespace std::string_view_literals;
 
 /// Phrases that begin an explanation right after a name.
 constexpr std::array kExplanations = {
-    u"来源于"sv, u"取自"sv,     u"绰号"sv,     u"住所名称"sv, u"地貌名称"sv, u"职业名称"sv,
-    u"盖尔语"sv, u"威尔士语"sv, u"的变体"sv,   u"的昵称"sv,   u"的异体"sv,   u"的英语形式"sv,
-    u"英语化"sv, u"涵义"sv,     u"含义"sv,     u"源自"sv,     u"爱尔兰语"sv, u"同"sv,
-    u"可能"sv,   u"爱称"sv,     u"缩写形式"sv, u"职业"sv,     u"住所"sv,     u"新娘"sv,
+    u"来源于"sv,   u"取自"sv,   u"绰号"sv,     u"地貌名称"sv,   u"盖尔语"sv, u"威尔士语"sv,
+    u"的变体"sv,   u"的昵称"sv, u"的异体"sv,   u"的英语形式"sv, u"英语化"sv, u"涵义"sv,
+    u"含义"sv,     u"源自"sv,   u"爱尔兰语"sv, u"同"sv,         u"可能"sv,   u"爱称"sv,
+    u"缩写形式"sv, u"职业"sv,   u"住所"sv,     u"新娘"sv,
 };
 
 /// Endings of notes that mark a piece as the name of a person.
