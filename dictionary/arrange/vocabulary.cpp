@@ -187,8 +187,8 @@ std::size_t PairCollector::add(const Entry& entry) {
   return senses.size();
 }
 
-/// Adds the first equivalents of `words`: neither names nor what is from the web, unless there is
-/// nothing else, nor that they are forms themselves.
+/// Adds the first equivalents of `words`. Names and what is from the web count for important words
+/// only; that a word is a form itself never does.
 void PairCollector::collectMeanings(ReferredWords& words) const {
   for (std::size_t i = 0; i < pairs_.size(); ++i) {
     const Pair& pair = pairs_[i];

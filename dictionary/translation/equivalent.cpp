@@ -12,9 +12,9 @@
 #include <cstddef>
 
 #include "dictionary/source/characters.h"
+#include "dictionary/translation/bracketed_text.h"
 #include "dictionary/translation/brackets.h"
-#include "dictionary/translation/objects.h"
-#include "dictionary/translation/questions.h"
+#include "dictionary/translation/pieces.h"
 
 namespace dictionary {
 namespace {

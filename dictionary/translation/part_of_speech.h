@@ -6,7 +6,8 @@
 
 /// Part-of-speech marks, which the source writes before an equivalent in many ways: "n.", "vt. &
 /// vi.", "a., n.", "adj", "n<古>.", "comb. form", "link-v.". They are deleted, since neither kind
-/// of dictionary shows them. The functions are pure.
+/// of dictionary shows them. And marks of usage, which it writes as notes: "[美俚]", "<古>". The
+/// functions are pure.
 namespace dictionary {
 
 /// Returns the length of the part-of-speech marks at the beginning of `text`, including the links
@@ -40,5 +41,9 @@ PartOfSpeechSet partsOfSpeechIn(std::u16string_view marks);
 /// before it: "渗透现象v.使渗透", "脱离轨道 ll n.脱离轨道" (the source has ll for Ⅱ). Not so before
 /// 的, with which a mark is part of the text ("adv.的").
 bool beginsFurtherSense(std::u16string_view text);
+
+/// Returns whether one of the notes in `notes` marks slang, dialect, or rare, obsolete or poetic
+/// use. Text outside brackets does not count.
+bool marksSlang(std::u16string_view notes);
 
 }  // namespace dictionary

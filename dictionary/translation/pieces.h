@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,5 +28,15 @@ std::vector<RawPiece> splitPieces(std::u16string_view text, Colons colons);
 /// Returns "apple的复数" if a note in the line, "(apple的复数)", marks its headword as an
 /// inflected form; otherwise "".
 std::u16string inflectionNote(std::u16string_view line);
+
+/// Question marks end a question, or stand for a character that was lost when the source was
+/// converted ("苯？唑", "?切迹").
+
+/// Returns whether the text from `begin` to the question mark at `mark`, without it, is a question:
+/// whether it has an interrogative (吗, 什么, 怎 …, 是不是) or is in a foreign language.
+bool isQuestion(std::u16string_view text, std::size_t begin, std::size_t mark);
+
+/// Returns whether a question mark in `text` stands for a lost character.
+bool hasLostCharacterMark(std::u16string_view text);
 
 }  // namespace dictionary

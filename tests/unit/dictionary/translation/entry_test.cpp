@@ -44,24 +44,6 @@ Texts wordsOf(const std::string& translation) {
   return result;
 }
 
-TEST(ReadHead, ReadsMarksTagsAndNotes) {
-  const dictionary::LineHead head =
-      dictionary::readHead(u"(data 的复数) n. [计] 数据", true, false);
-  EXPECT_EQ(head.subjects, setOf(Subject::kComputing));
-  EXPECT_EQ(head.notes, u"(data 的复数)");
-  EXPECT_FALSE(head.abbreviation);
-  EXPECT_TRUE(dictionary::readHead(u"abbr. [计] 甲", true, false).abbreviation);
-}
-
-TEST(ReadHead, ReadsSeveralTags) {
-  EXPECT_EQ(dictionary::readHead(u"n. [数][天] 横坐标", true, false).subjects,
-            setOf(Subject::kMathematics) | setOf(Subject::kPhysics));
-  EXPECT_EQ(dictionary::readHead(u"[计][修]逐块", true, false).subjects,
-            setOf(Subject::kComputing));
-  EXPECT_EQ(dictionary::readHead(u"【动物学】甲", true, false).subjects, setOf(Subject::kZoology));
-  EXPECT_EQ(dictionary::readHead(u"〔植〕甲", true, false).subjects, setOf(Subject::kBotany));
-}
-
 TEST(ParseLine, SkipsStrayMarksBeforeAPartOfSpeech) {
   EXPECT_EQ(words(u"a. [通常作表语], adv. 在晕厥中(的)"), (Texts{u"在晕厥中"}));
   EXPECT_EQ(words(u"[鱼]Ⅰ adj.总鳃类的"), (Texts{u"总鳃类的"}));
@@ -155,20 +137,9 @@ TEST(ParseLine, KeepsWordsForNamesThatAreTheTranslation) {
   EXPECT_EQ(text(u"n. 地名, 以地名命名者", Subject::kPlace), u"");
 }
 
-TEST(SubjectText, PutsWebLinesIntoTheirOwnDictionary) {
-  EXPECT_EQ(text(u"[网络] 胡德；兜帽", Subject::kWeb), u"胡德；兜帽");
-}
-
 TEST(ParseLine, EndsAnExplanationAtTheNextSemicolon) {
   EXPECT_EQ(words(u"[医]大菱形肌：起于胸椎横突，止于肩胛骨内缘；菱形肌"),
             (Texts{u"大菱形肌", u"菱形肌"}));
-}
-
-TEST(SubjectText, LeavesOutLostCharacters) {
-  EXPECT_EQ(text(u"[化] 酸┏; 变性蛋白", Subject::kChemistry), u"变性蛋白");
-  EXPECT_EQ(text(u"[化] 甲(C\uE00917)乙", Subject::kChemistry), u"甲乙");
-  EXPECT_EQ(text(u"[化] 酸┏", Subject::kChemistry), u"");
-  EXPECT_EQ(text(u"[化] ABC", Subject::kChemistry), u"");
 }
 
 TEST(ParseLine, RefusesPiecesWithAnUnwritableCharacter) {
@@ -214,12 +185,6 @@ TEST(ExtractEntry, LeavesOutWhatACommandDoes) {
             (Texts{u"光盘", u"压缩盘"}));
 }
 
-// "cymene | [医] 对异丙基甲苯, ?花烃", "cui bono | <拉>何人得益？为何目的？"
-TEST(SubjectText, LeavesOutAQuestionMarkForALostCharacter) {
-  EXPECT_EQ(text(u"[医] 对异丙基甲苯, ?花烃", Subject::kMedicine), u"对异丙基甲苯");
-  EXPECT_EQ(text(u"[法] 何人得益？为何目的？", Subject::kLaw), u"何人得益？为何目的？");
-}
-
 // residential
 TEST(ParseLine, TakesAColonInALineOfLawForAComma) {
   const std::u16string line = u"[法] 有关居住的, 房产的:居所的, 适于居住的";
@@ -255,17 +220,6 @@ TEST(ParseLine, LeavesOutWhatTellsALife) {
             (Texts{u"埃蒙"}));
 }
 
-// sowar, arna; aluminography, reglet, "ntc | abbr. [印]国家纺织公司"
-TEST(ReadHead, TellsIndianEnglishFromPrinting) {
-  EXPECT_EQ(text(u"[印]骑兵, 传令骑兵", Subject::kLightIndustry), u"");
-  EXPECT_EQ(text(u"(sowar 的复数) [印]骑兵", Subject::kLightIndustry), u"");
-  EXPECT_EQ(text(u"abbr. [印]国家纺织公司", Subject::kLightIndustry), u"");
-  EXPECT_EQ(words(u"[印]骑兵, 传令骑兵"), (Texts{u"骑兵", u"传令骑兵"}));
-  EXPECT_EQ(text(u"n. [印]铝版术", Subject::kLightIndustry), u"铝版术");
-  EXPECT_EQ(text(u"n. 平条, 扁条, [印] (排版用)木嵌条", Subject::kLightIndustry),
-            u"(排版用)木嵌条");
-}
-
 // "systolic | [医] 收缩[期]的", "halfan | [医]卤泛群[抗疟药]"
 TEST(ParseLine, ReturnsTheFullAndTheShortForm) {
   const Piece systolic = parseLine(u"[医] 收缩[期]的").pieces.at(0);
@@ -289,12 +243,6 @@ TEST(ExtractEntry, EndsASenseAtATag) {
   EXPECT_EQ(
       wordsOf("v. 杂物, 零乱的东西<X>零乱<DDX>vt.( clutter的过去式和过去分词 ); 乱糟糟地堆满"),
       (Texts{u"杂物", u"零乱的东西", u"零乱", u"乱糟糟地堆满"}));
-}
-
-// "Broome | n. 布鲁姆（地名））"
-TEST(SubjectText, HasNoBracketTooMany) {
-  EXPECT_EQ(text(u"n. 布鲁姆（地名））", Subject::kPlace), u"布鲁姆（地名）");
-  EXPECT_EQ(text(u"[医] 甲(乙)丙)", Subject::kMedicine), u"甲(乙)丙)");
 }
 
 // "electronic locator | [电] 见metal detector", "Ezechiel | 即Ezekiel", "Tungting | Lake见Dongting
@@ -334,42 +282,9 @@ TEST(ExtractEntry, OfAWordElementHasItsMeaningWithoutTheLeadIn) {
   EXPECT_EQ(wordsOfElement("hunger strike", "n. 表示抗议的绝食"), (Texts{u"表示抗议的绝食"}));
 }
 
-// "polys | n. [医]多形核白细胞…( poly的复数形式 )", "ophthalmometer | n. [医]检眼计 ,( 眼 ) 屈光计"
-TEST(SubjectText, HasNoBlanksInsideTheBracketsOfNotes) {
-  EXPECT_EQ(text(u"n. [医]检眼计 ,( 眼 ) 屈光计", Subject::kMedicine), u"检眼计，(眼)屈光计");
-  EXPECT_EQ(text(u"[医]甲( 乙)丙(丁 )", Subject::kMedicine), u"甲(乙)丙(丁)");
-}
-
-// "payara |  似鯖水狼脂鯉\\大胸水狼脂鯉"
-TEST(SubjectText, HasNoBackslashes) {
-  EXPECT_EQ(text(u"[鱼] 似鯖水狼脂鯉\\大胸水狼脂鯉", Subject::kZoology),
-            u"似鯖水狼脂鯉大胸水狼脂鯉");
-}
-
 TEST(ParseLine, TakesEveryItemOfAListOfPlacesForOne) {
   EXPECT_EQ(words(u"[地名] 甲地、乙地, 在某国"), (Texts{u"甲地", u"乙地"}));
   EXPECT_EQ(words(u"[人名] 甲、乙"), (Texts{u"甲"}));
-}
-
-// "verbi gratia | (=for example)(略 v. g.). [拉]例如", "calyptra | n[植].藓帽, 冠状部"
-TEST(ReadHead, SkipsTheFullStopAfterANote) {
-  EXPECT_EQ(dictionary::readHead(u"(=for example)(略 v. g.). [拉]例如", true, false).notes,
-            u"(=for example)(略 v. g.)[拉]");
-  EXPECT_EQ(dictionary::readHead(u"n[植].[动]藓帽", true, false).subjects,
-            setOf(Subject::kBotany) | setOf(Subject::kZoology));
-  EXPECT_EQ(dictionary::readHead(u".[植]藓帽", true, false).subjects, 0U);
-}
-
-TEST(ReadHead, CollectsThePartsOfSpeech) {
-  EXPECT_EQ(dictionary::readHead(u"n. [计] vt. 甲", true, false).parts,
-            setOf(dictionary::PartOfSpeech::kNoun) | setOf(dictionary::PartOfSpeech::kVerb));
-}
-
-TEST(ReadHead, RemembersThatItReadAnAbbreviation) {
-  const dictionary::LineHead head = dictionary::readHead(u"abbr. [计] n. 甲", true, false);
-  EXPECT_TRUE(head.abbreviation);
-  EXPECT_TRUE(head.marked);
-  EXPECT_FALSE(dictionary::readHead(u"abbr. 甲", true, false).marked);
 }
 
 // "bargham | [英方]马颈环", "bosque | <美方> n.树丛", "agees | [英国方言]歪(的)", "adjournal | n.

@@ -1,5 +1,5 @@
 // Translations are those of the source.
-#include "dictionary/translation/objects.h"
+#include "dictionary/translation/bracketed_text.h"
 
 #include <gtest/gtest.h>
 

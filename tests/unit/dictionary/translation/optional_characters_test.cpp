@@ -1,4 +1,4 @@
-#include "dictionary/translation/optional_characters.h"
+#include "dictionary/translation/bracketed_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "dictionary/translation/questions.h"
+#include "dictionary/translation/pieces.h"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,18 @@
 #include <string>
 #include <string_view>
 
-/// Objects of prepositions and verbs, which the source encloses in round brackets: "把(乐曲)分成短
-/// 句", "合(某人)的口味". Without them the rest would be no sentence part. The functions are pure.
+/// Text in brackets that is not a note but a part of the equivalent. The source encloses
+/// - optional characters of a term, in lines of medicine, in square brackets: "硬脑[脊]膜" is both
+///   硬脑脊膜 and 硬脑膜;
+/// - objects of prepositions and verbs in round ones: "把(乐曲)分成短句", "合(某人)的口味". Without
+///   them the rest would be no sentence part.
+/// The functions are pure.
 namespace dictionary {
+
+/// Returns `text` with the brackets around optional characters deleted: the full form. Brackets
+/// around a note stay: a kind of drug behind its name ("卤泛群[抗疟药]"), a mark of usage, anything
+/// longer than six characters or not of Han characters only.
+std::u16string withOptionalCharacters(std::u16string_view text);
 
 /// Returns `piece` with an ellipsis for the bracketed object of its first word ("把…分成短句") and
 /// without the brackets around placeholders that Chinese text follows ("合某人的口味"), then also
