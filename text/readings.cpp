@@ -95,14 +95,15 @@ void Collector::addDivision(const Division& division) {
 /// A full stop after a run with none in it is nearly always the sentence's: asked for first, "in."
 /// would be the inch, "no." a number, "as." arsenic, "man." a handful, "but." butter and "art." the
 /// article. So it is asked for after the run without it, for abbreviations that are headwords with
-/// it only. A run with a full stop in it ("e.g.", "U.S.") is mostly an abbreviation, of which the
-/// last one is a part.
+/// it only, and not with the pointer on the stop itself. A run with a full stop in it ("e.g.",
+/// "U.S.") is mostly an abbreviation, of which the last one is a part.
 void Collector::addRun(const Run& run) {
   const std::u16string word = spelledIn(run.range);
   const Range withStop{run.range.begin, run.range.end + 1};
   if (run.stopFollows && run.hasInnerStop) add(word + u'.', withStop);
   add(word, run.range);
-  if (run.stopFollows && !run.hasInnerStop) add(word + u'.', withStop);
+  const bool onStop = !run.range.contains(index_);
+  if (run.stopFollows && !run.hasInnerStop && !onStop) add(word + u'.', withStop);
   add(withoutPossessive(word), run.range);
 }
 
@@ -119,14 +120,6 @@ void Collector::addWord(Range range) {
 }
 
 }  // namespace
-
-bool asks(const IsHeadword& isHeadword, std::u16string_view word) {
-  try {
-    return isHeadword && isHeadword(word);
-  } catch (const std::exception&) {
-    return false;
-  }
-}
 
 Readings readingsAt(std::u16string_view text, std::size_t index) {
   if (const auto han = hanRunAt(text, index)) {
@@ -146,8 +139,12 @@ Readings readingsAt(std::u16string_view text, std::size_t index) {
 }
 
 std::optional<Reading> chooseReading(const Readings& readings, const IsHeadword& isHeadword) {
-  for (const Reading& candidate : readings.candidates) {
-    if (asks(isHeadword, candidate.word)) return candidate;
+  try {
+    for (const Reading& candidate : readings.candidates) {
+      if (isHeadword && isHeadword(candidate.word)) return candidate;
+    }
+  } catch (const std::exception&) {
+    // As if no further candidate were a headword.
   }
   return readings.otherwise;
 }

@@ -57,11 +57,10 @@ Readings readingsAt(std::u16string_view text, std::size_t index);
 /// Tells whether a dictionary has a word as a headword. May throw std::exception.
 using IsHeadword = std::function<bool(std::u16string_view word)>;
 
-/// Asks whether `word` is a headword. No function and one that throws count as no.
-bool asks(const IsHeadword& isHeadword, std::u16string_view word);
-
-/// Returns the first candidate that is a headword, or `readings.otherwise`. Asks for no word after
-/// the first that is one.
+/// Returns the first candidate that is a headword, otherwise `readings.otherwise`. No function
+/// counts as no for every word; one that throws, for that word and all after it, which are not
+/// asked for: a dictionary that fails may take seconds to do so. Throws nothing that the function
+/// throws.
 std::optional<Reading> chooseReading(const Readings& readings, const IsHeadword& isHeadword);
 
 }  // namespace text

@@ -1,5 +1,6 @@
 #include "capture/nhw32/word_text.h"
 
+#include <exception>
 #include <utility>
 
 namespace nhw32 {
@@ -28,8 +29,12 @@ std::optional<FoundWord> wordAt(std::u16string_view text, std::size_t index) {
 }
 
 std::u16string_view chosenText(const Word& word, const text::IsHeadword& isHeadword) {
-  for (const std::u16string& candidate : word.candidates) {
-    if (text::asks(isHeadword, candidate)) return candidate;
+  try {
+    for (const std::u16string& candidate : word.candidates) {
+      if (isHeadword && isHeadword(candidate)) return candidate;
+    }
+  } catch (const std::exception&) {
+    // As if no further candidate were a headword.
   }
   return word.text;
 }

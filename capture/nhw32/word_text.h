@@ -26,8 +26,8 @@ struct FoundWord {
 /// units on each side, and where a line's end divides the word further ones after it.
 std::optional<FoundWord> wordAt(std::u16string_view text, std::size_t index);
 
-/// Returns what is handed over: the first candidate that is a headword, otherwise `word.text`.
-/// Throws nothing that `isHeadword` throws.
+/// Returns what is handed over: the first candidate that is a headword, otherwise `word.text`; as
+/// text::chooseReading, without places.
 std::u16string_view chosenText(const Word& word, const text::IsHeadword& isHeadword);
 
 /// Converts one character (a UTF-16 code unit or a surrogate pair) to the bytes of a code page.
