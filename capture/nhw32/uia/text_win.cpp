@@ -117,7 +117,7 @@ class TextAtPoint {
     if (!box) return std::nullopt;
     const auto character = textOf(cell_);
     if (!character) return std::nullopt;
-    if (isOneCharacter(*character)) return wordAround(*character);
+    if (isOneCharacter(*character)) return wordAround(*character, *box);
     // The program does not support character units; the unit is used if it is one word.
     auto word = onlyWord(*character);
     if (!word) return std::nullopt;
@@ -139,7 +139,8 @@ class TextAtPoint {
     return moved == -1 ? boxOf(cell_) : std::nullopt;
   }
 
-  std::optional<Word> wordAround(const std::u16string& character) {
+  /// `cellBox` is the box of cell_, whose text is `character`.
+  std::optional<Word> wordAround(const std::u16string& character, const ScreenBox& cellBox) {
     const auto before = textBeside(TextPatternRangeEndpoint_Start);
     if (!before) return std::nullopt;
     const auto after = textBeside(TextPatternRangeEndpoint_End);
@@ -149,6 +150,11 @@ class TextAtPoint {
     auto word = wordAt(text, begin);
     if (!word) return std::nullopt;
     const auto [first, last] = word->range;
+    // Programs count CR LF as one character or as two: the ends of a word that a line's end divides
+    // cannot be reached by counting. Its box is that of the character then.
+    if (text.substr(first, last - first).find_first_of(u"\r\n\v\u2028") != text.npos) {
+      return Word{std::move(word->text), cellBox, std::move(word->candidates)};
+    }
 
     const TextRange range = copyOfCell();
     if (!range || !moveEnd(range, TextPatternRangeEndpoint_Start, first, begin) ||

@@ -62,6 +62,17 @@ TEST_F(UiaTextTest, KeepsWordsWithHyphensAndApostrophesWhole) {
   EXPECT_EQ(wordAt(grid::at(0, 20)), u"tis");
 }
 
+TEST_F(UiaTextTest, JoinsAWordThatALinesEndDivides) {
+  showText(u"an associ-\nated word");
+  for (const auto& place : {grid::at(0, 5), grid::at(1, 2)}) {
+    const nhw32::Answer answer = ask(place);
+    EXPECT_EQ(answer.word.text, u"associated");
+    ASSERT_FALSE(answer.word.candidates.empty());
+    EXPECT_EQ(answer.word.candidates.front(), u"associated");
+    EXPECT_TRUE(answer.word.box.left <= place.x && place.x < answer.word.box.right);
+  }
+}
+
 TEST_F(UiaTextTest, PartsEnglishFromChinese) {
   showText(u"请看word这里");
   EXPECT_EQ(wordAt(grid::at(0, 2)), u"word");
