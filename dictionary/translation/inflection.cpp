@@ -69,6 +69,18 @@ std::optional<FormSet> formsNamed(std::u16string_view name) {
   return named ? std::optional(forms) : std::nullopt;
 }
 
+std::size_t firstHan(std::u16string_view text) {
+  const auto* const found = std::find_if(text.begin(), text.end(), text::isHan);
+  return static_cast<std::size_t>(found - text.begin());
+}
+
+/// Returns whether `text` begins with the whole name of a form.
+bool beginsWithFormName(std::u16string_view text) {
+  return text.starts_with(u"变形") || std::ranges::any_of(kFormNames, [&](const FormName& known) {
+           return text.starts_with(known.name);
+         });
+}
+
 /// The value of one item of the column: of "0:take/1:d" the item '0' has "take".
 std::string_view itemOf(std::string_view exchange, char key) {
   for (std::size_t begin = 0; begin < exchange.size();) {
@@ -101,11 +113,6 @@ constexpr auto kForms = std::to_array<std::u16string_view>(
 /// What a reference begins with if the other word is at its end.
 constexpr auto kEquals =
     std::to_array<std::u16string_view>({u"等于", u"同", u"参见", u"见", u"即"});
-
-std::size_t firstHan(std::u16string_view text) {
-  const auto* const found = std::find_if(text.begin(), text.end(), text::isHan);
-  return static_cast<std::size_t>(found - text.begin());
-}
 
 bool hasLetter(std::u16string_view text) {
   return std::any_of(text.begin(), text.end(), [](char16_t unit) {
@@ -144,11 +151,14 @@ std::vector<WordForm> formsIn(std::string_view exchange) {
 }
 
 std::optional<Inflection> inflectionIn(std::u16string_view text) {
-  const std::size_t of = text.find(u'的');
-  if (of == 0 || of == std::u16string_view::npos || !isAsciiLetter(text[0])) return std::nullopt;
+  const std::size_t of = firstHan(text);
+  if (of == 0 || of == text.size() || !isAsciiLetter(text[0])) return std::nullopt;
   const std::u16string_view lemma = text.substr(0, of);
   if (!std::ranges::all_of(lemma, isWordUnit)) return std::nullopt;
-  const std::optional<FormSet> forms = formsNamed(text.substr(of + 1));
+  // "partake过去式": without 的 the name of the form must follow at once.
+  const std::u16string_view name = text.substr(of);
+  if (!name.starts_with(u'的') && !beginsWithFormName(name)) return std::nullopt;
+  const std::optional<FormSet> forms = formsNamed(name);
   if (!forms) return std::nullopt;
   // Chinese headwords hold a prime where the word has an apostrophe.
   std::u16string word = text::toLower(lemma);
@@ -192,6 +202,7 @@ bool isReference(std::u16string_view meaning) {
   }
   const std::size_t han = firstHan(meaning);
   const std::u16string_view form = meaning.substr(han);
+  if (inflectionIn(meaning)) return true;
   return hasLetter(meaning.substr(0, han)) && form.starts_with(u'的') &&
          std::any_of(kForms.begin(), kForms.end(), [&](std::u16string_view name) {
            return form.find(name) != std::u16string_view::npos;

@@ -87,6 +87,10 @@ TEST(Inflection, ReadsTranslationsThatNameAForm) {
   EXPECT_EQ(read(u"A-list的变形"), u"a-list: ");
   EXPECT_EQ(read(u"o′clock的复数"), u"o'clock: o′clock的复数");
   EXPECT_EQ(read(u"o'clock的复数"), u"o'clock: o′clock的复数");
+  EXPECT_EQ(read(u"partake过去式"), u"partake: partake的过去式");
+  EXPECT_EQ(read(u"bind过去式和过去分词"), u"bind: bind的过去式和过去分词");
+  EXPECT_EQ(read(u"post-structuralism变形"), u"post-structuralism: ");
+  EXPECT_EQ(read(u"Fourier变换的复数"), u"none");
   EXPECT_EQ(read(u"grow up的过去式"), u"grow up: grow up的过去式");
   EXPECT_EQ(read(u"grow up 的过去式"), u"grow up: grow up的过去式");
   EXPECT_EQ(read(u"p.m.的复数"), u"p.m.: p.m.的复数");
