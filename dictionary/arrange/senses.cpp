@@ -1,8 +1,12 @@
 #include "dictionary/arrange/senses.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <limits>
+#include <string_view>
+
+#include "dictionary/source/characters.h"
 
 namespace dictionary {
 namespace {
@@ -28,9 +32,22 @@ struct Candidate {
   std::size_t line = 0;
   bool subject = false;
   bool slang = false;
+  bool program = false;  ///< see namesProgram()
   /// Best place in another line that repeats it, from 0.
   std::size_t repeated = std::numeric_limits<std::size_t>::max();
 };
+
+/// Returns whether a sense of computing names a program, a command or a protocol, or what an
+/// abbreviation in capitals stands for, of which a common word's line of computing has many: "nut |
+/// [计] Novell NetWare服务器实用程序, TCP实用程序", "grant | [计] 授权命令".
+bool namesProgram(const Piece& piece) {
+  using namespace std::string_view_literals;
+  constexpr std::array kEndings = {u"程序"sv, u"命令"sv, u"语句"sv, u"协议"sv, u"信息包"sv};
+  const std::u16string& word = piece.equivalent.word;
+  return (piece.subjects & setOf(Subject::kComputing)) != 0 &&
+         (std::ranges::any_of(word, isAsciiLetter) ||
+          std::ranges::any_of(kEndings, [&](auto ending) { return word.ends_with(ending); }));
+}
 
 bool isOrdinary(const Candidate& candidate) { return candidate.sense.kind == SenseKind::kOrdinary; }
 
@@ -55,8 +72,11 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
         }
         ++place;
         const bool reference = inflectionIn(word).has_value();
-        candidates.push_back(
-            {{&word, kind, line.parts, reference}, i, piece.subjects != 0, piece.slang});
+        candidates.push_back({{&word, kind, line.parts, reference},
+                              i,
+                              piece.subjects != 0,
+                              piece.slang,
+                              namesProgram(piece)});
       }
     }
   }
@@ -93,7 +113,7 @@ std::vector<Candidate> chosen(std::vector<Candidate> candidates, bool basic) {
   const auto plainSenses = std::ranges::count_if(candidates, plain);
   if (plainSenses > 0) {
     std::erase_if(candidates, [](const Candidate& one) {
-      return one.sense.kind == SenseKind::kWeb || (isOrdinary(one) && one.slang);
+      return one.sense.kind == SenseKind::kWeb || (isOrdinary(one) && (one.slang || one.program));
     });
   }
   const bool functionWord = std::ranges::any_of(candidates, [](const Candidate& one) {

@@ -79,6 +79,16 @@ TEST(Senses, OfACommonWordAreTwoOfASubjectAtMost) {
       << "there is nothing else";
 }
 
+TEST(Senses, OfACommonWordAreNoProgramsNorCommands) {
+  const std::string nut = "n. 坚果, 螺母\\n[计] Novell NetWare服务器实用程序, TCP实用程序";
+  EXPECT_EQ(words(entry("nut", nut, 3900)), (Words{u"坚果", u"螺母"}));
+  EXPECT_EQ(words(entry("grant", "n. 授与, 拨款\\n[计] 授权, 授权命令", 1000)),
+            (Words{u"授与", u"拨款", u"授权"}));
+  EXPECT_EQ(words(entry("nut", nut, kRare)).size(), 4U);
+  EXPECT_EQ(words(entry("grep", "[计] 查找命令", 4000)), (Words{u"查找命令"}))
+      << "there is nothing else";
+}
+
 TEST(Senses, OfAFunctionWordAreNoneOfASubject) {
   EXPECT_EQ(words(entry("at", "prep. 在, 对, 向\\n[计] 地址转换器", 19)),
             (Words{u"在", u"对", u"向"}));
