@@ -180,7 +180,7 @@ TEST_F(Lookup, ATextThatStartsWithAWildcardIsRefused) {
   }
 }
 
-TEST_F(Lookup, ATextBehindTheLastWordLeavesTheListAsItWas) {
+TEST_F(Lookup, ATextAfterTheLastWordLeavesTheListAsItWas) {
   window.lookUp(L"data");
   const std::vector<std::wstring> words = window.words();
   window.type(L"~~");

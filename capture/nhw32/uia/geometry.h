@@ -23,7 +23,7 @@ std::optional<ScreenBox> boxUnder(std::span<const double> rectangles, ScreenPoin
 bool isOneCharacter(std::u16string_view text);
 
 /// Returns the word that `text` consists of, but for blanks around it; nullopt if it is anything
-/// else than one word.
+/// other than one word.
 std::optional<FoundWord> onlyWord(std::u16string_view text);
 
 /// Delays further attempts after a failure. Not thread-safe.

@@ -25,7 +25,7 @@ TEST(PopupTextTest, HasTheMeaningsOnTheSecondLine) {
   EXPECT_EQ(text.meaningLength, 3);
 }
 
-TEST(PopupTextTest, HasNoSeparatorBehindTheLastMeaning) {
+TEST(PopupTextTest, HasNoSeparatorAfterTheLastMeaning) {
   EXPECT_EQ(popupText(u"cat", {u"猫"}).body, u"cat\r\n猫");
   EXPECT_EQ(popupText(u"cat", {u"", u"猫", u""}).body, u"cat\r\n；猫；");
 }

@@ -42,7 +42,7 @@ TEST(ProbedWindows, AreNoOthers) {
   }
 }
 
-TEST(ProbedWindows, AreFoundInABufferWithItsNulsBehindTheName) {
+TEST(ProbedWindows, AreFoundInABufferWithItsNulsAfterTheName) {
   std::string buffer(100, '\0');
   buffer.replace(0, 4, "Edit");
   EXPECT_TRUE(isProbed(buffer));

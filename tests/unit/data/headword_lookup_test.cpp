@@ -44,7 +44,7 @@ TEST(EnglishBounds, ReachBelowZeroInTheFirstBlock) {
   EXPECT_EQ(boundsOf(kWords, kWindow, u""), (Bounds{-100, 100}));
 }
 
-TEST(EnglishBounds, StayWhereTheyAreBehindTheLastIndexWord) {
+TEST(EnglishBounds, StayWhereTheyAreAfterTheLastIndexWord) {
   DataControl control;
   HeadwordLookup lookup(kWords, kWindow);
   lookup.getBound(u"zz", control);
@@ -124,7 +124,7 @@ TEST_F(ChineseBoundsTest, AreAtMostFiveHundredRowsWide) {
   EXPECT_EQ(boundsOf(u"发"), (Bounds{-100, 400}));
 }
 
-TEST_F(ChineseBoundsTest, BeforeAndBehindAllIndexWords) {
+TEST_F(ChineseBoundsTest, BeforeAndAfterAllIndexWords) {
   makeIndex("('发',7),('在',9)");
   EXPECT_EQ(boundsOf(u"阿"), (Bounds{0, 500}));
   EXPECT_EQ(boundsOf(u"做"), (Bounds{700, 1200}));

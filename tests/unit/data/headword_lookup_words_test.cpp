@@ -132,7 +132,7 @@ TEST_F(HeadwordLookupTest, FindsChineseHeadwordsAnewForThePopup) {
   EXPECT_EQ(meanings(popup, u"bits"), Texts{});
 }
 
-TEST_F(HeadwordLookupTest, RunsWithTheFormerBoundsBehindTheLastIndexWord) {
+TEST_F(HeadwordLookupTest, RunsWithTheFormerBoundsAfterTheLastIndexWord) {
   HeadwordLookup lookup(words_, {});
   EXPECT_EQ(list(lookup, u"zzzzz"), Texts{}) << "both bounds are 0 at first";
   list(lookup, u"ma");
@@ -146,7 +146,7 @@ TEST(MeaningText, PutsOneMeaningOnALine) {
   EXPECT_EQ(text.headLength, 6U);
 }
 
-TEST(MeaningText, HasNoSemicolonBehindTheOnlyMeaning) {
+TEST(MeaningText, HasNoSemicolonAfterTheOnlyMeaning) {
   EXPECT_EQ(meaningLines(u"word", {u"词"}).body, u" word\r\n 词");
 }
 

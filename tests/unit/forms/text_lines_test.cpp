@@ -80,7 +80,7 @@ TEST(TextPositions, BetweenTheTwoHalvesIsBeforeThePair) {
   EXPECT_EQ(controlPosition(u"\r\n\r\n", 3), 1U);
 }
 
-TEST(TextPositions, BehindTheEndIsTheEnd) {
+TEST(TextPositions, PastTheEndIsTheEnd) {
   EXPECT_EQ(controlPosition(u"ab\r\n", 99), 3U);
   EXPECT_EQ(textPosition(u"ab\r\n", 99), 4U);
 }

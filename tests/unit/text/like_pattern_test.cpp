@@ -13,7 +13,7 @@ namespace {
 using text::LikePattern;
 using text::likeUtf8;
 
-/// What the pattern says of a copy of `text` that nothing readable lies behind.
+/// What the pattern says of a copy of `text` that nothing readable follows.
 bool matches(const LikePattern& pattern, std::string_view text) {
   const auto exact = std::make_unique<char[]>(text.size());
   text.copy(exact.get(), text.size());

@@ -91,7 +91,7 @@ TEST(Weight, KeepsTheOrderOfExistingDatabases) {
   EXPECT_EQ(hash, 9836642206398924586U);
 }
 
-TEST(Weight, PutsZuoBehindEveryOtherCommonCharacter) {
+TEST(Weight, PutsZuoAfterEveryOtherCommonCharacter) {
   ASSERT_EQ(kCommonCharacters.size(), 6763U);
   for (const char16_t unit : kCommonCharacters) {
     ASSERT_TRUE(isHan(unit));

@@ -226,7 +226,7 @@ TEST(ReadTyped, FindsNothingInBlanks) {
   }
 }
 
-TEST(ReadTyped, RefusesEnglishBehindAWildcard) {
+TEST(ReadTyped, RefusesEnglishAfterAWildcard) {
   for (const std::u16string_view text :
        {u"?abc", u"*", u"_data", u"%abc", u"  ?x", u"%", u"?caf\u00E9"}) {
     EXPECT_EQ(readTyped(text).kind, Typed::kRefused);

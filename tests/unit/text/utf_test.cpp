@@ -70,7 +70,7 @@ TEST(ToUtf16, ReplacesEachByteOfACutOffSequence) {
   EXPECT_EQ(toUtf16("\xF0\x9F\x98中"), replacements(3) + u"中");
 }
 
-TEST(ToUtf16, ReadsNothingBehindTheTextsEnd) {
+TEST(ToUtf16, ReadsNothingPastTheTextsEnd) {
   constexpr std::string_view kLonger = "é中😀";
   EXPECT_EQ(toUtf16(kLonger.substr(0, 1)), replacements(1));
   EXPECT_EQ(toUtf16(kLonger.substr(2, 1)), replacements(1));

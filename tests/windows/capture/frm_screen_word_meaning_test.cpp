@@ -144,7 +144,7 @@ TEST_F(FrmScreenWordMeaning, AChineseWordFindsItsBoundsAnew) {
   EXPECT_NE(form.bounds(), first);
 }
 
-TEST_F(FrmScreenWordMeaning, AWildcardSortsBehindEveryIndexWordInTheUpperKey) {
+TEST_F(FrmScreenWordMeaning, AWildcardSortsAfterEveryIndexWordInTheUpperKey) {
   auto& form = popup();
   form.getBound(u"c", form.Adodc1);
   const auto plain = form.bounds();

@@ -144,7 +144,7 @@ int widestGap(HWND window, COLORREF colour) {
   return widest;
 }
 
-// Wine's control breaks a line behind its leading blank where the rest, Han characters without
+// Wine's control breaks a line after its leading blank where the rest, Han characters without
 // blanks, does not fit beside it: an empty line would stand before a long meaning. Windows' breaks
 // between Han characters. The no-break space that the control is given reads well in both.
 TEST_F(RichTextBoxTest, NoEmptyLineStandsBeforeALongMeaning) {

@@ -69,7 +69,7 @@ TEST_F(TreeViewTest, NewTextsAreShownToo) {
   EXPECT_EQ(shown(), (std::vector{word(1), std::u16string(u"data"), word(3)}));
 }
 
-TEST_F(TreeViewTest, RemovingRenumbersTheNodesBehind) {
+TEST_F(TreeViewTest, RemovingRenumbersTheNodesAfterIt) {
   open();
   fill(4);
   tree().remove(2);
@@ -152,7 +152,7 @@ TEST_F(TreeViewTest, AClickOnANodeIsAChoiceAlsoOnTheSelectedOne) {
   EXPECT_EQ(chosen(), (std::vector<std::size_t>{3, 3}));
 }
 
-TEST_F(TreeViewTest, AClickBehindTheTextChoosesTheRow) {
+TEST_F(TreeViewTest, AClickRightOfTheTextChoosesTheRow) {
   open();
   fill(5);
   POINT point = nodePoint(2);

@@ -76,7 +76,7 @@ TEST_F(FrmSubSplitter, DroppedOnTheListItTakesOff30Twips) {
   expectPlaced(1770);
 }
 
-TEST_F(FrmSubSplitter, JustBehind1600ItComesOutBelow) {
+TEST_F(FrmSubSplitter, JustPast1600ItComesOutBelow) {
   openWith(5000, 4000, L"2100");
   dropAt(inWidget(sub().TreeView1, 1605, 1500));
   expectPlaced(1575);

@@ -146,7 +146,7 @@ TEST_F(FrmSubTyping, AWildcardBeforeChineseIsChinese) {
   EXPECT_EQ(form.txtInput.text(), u"?数");
 }
 
-TEST_F(FrmSubTyping, BehindTheLastWordTheListStays) {
+TEST_F(FrmSubTyping, AfterTheLastWordTheListStays) {
   frmSub& form = open();
   form.txtInput.setText(u"data");
   const auto before = list();

@@ -108,7 +108,7 @@ TEST_F(FrmMainSearching, EasyShowsAHundredAndComplexTwoHundred) {
   EXPECT_EQ(lines().size(), 100U);
 }
 
-TEST_F(FrmMainSearching, ALongerWordBehindTheSampleGetsTwoBlanks) {
+TEST_F(FrmMainSearching, ALongerWordAfterTheSampleGetsTwoBlanks) {
   store("insert into comp values ('bit29999 longer than its column','长')");
   choose(2);
   complex(u"bit2");

@@ -95,7 +95,7 @@ TEST(Dialect, AddsTheRangeOfALikePattern) {
             "word<'heau' collate lexilo) and meaning like '%x%'");
 }
 
-TEST(Dialect, LimitsBehindTheRangeOfALikePattern) {
+TEST(Dialect, LimitsAfterTheRangeOfALikePattern) {
   EXPECT_EQ(sqlOf("select top 5 word from med where word like 'a%'"),
             "select  word from med where (word like 'a%' and word>='a' collate lexilo and "
             "word<'b' collate lexilo) limit 5");

@@ -11,7 +11,7 @@ using nhw32::boxUnder;
 using nhw32::ScreenBox;
 using namespace std::chrono_literals;
 
-TEST(BoxUnder, HoldsItsFirstPixelsAndNotThoseBehindIt) {
+TEST(BoxUnder, HoldsItsFirstPixelsAndNotThoseAfterIt) {
   const std::vector<double> box{10, 20, 30, 5};
   const ScreenBox whole{10, 20, 40, 25};
   EXPECT_EQ(boxUnder(box, {10, 20}), whole);

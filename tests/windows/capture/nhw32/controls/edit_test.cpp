@@ -71,7 +71,7 @@ TEST_F(Nhw32Edit, AlsoInASingleLineThatIsScrolled) {
   compare(target, page, 50);
 }
 
-TEST_F(Nhw32Edit, AlsoBehind64KCharacters) {
+TEST_F(Nhw32Edit, AlsoAfter64KCharacters) {
   const MixedPage page = makeMixedPage({.length = 400'000});
   const HookedTextWindow target({}, page.text);
   for (const int line : {1'000, 1'100, 2'500, 5'500}) {
@@ -81,7 +81,7 @@ TEST_F(Nhw32Edit, AlsoBehind64KCharacters) {
   }
 }
 
-TEST_F(Nhw32Edit, AlsoBehind64KLines) {
+TEST_F(Nhw32Edit, AlsoAfter64KLines) {
   const MixedPage page = makeMixedPage({.length = 400'000, .lineLength = 1});
   const HookedTextWindow target({}, page.text);
   const auto lines = SendMessageW(target.control(), EM_GETLINECOUNT, 0, 0);
