@@ -31,8 +31,8 @@ struct Trouble {
   bool throws = false;
 };
 
-/// What TextUnit_Character covers.
-enum class Units { kCharacters, kWords, kAll };
+/// What TextUnit_Character covers; programs differ in whether CR LF is one character or two.
+enum class Units { kCharacters, kCharactersWithCrLf, kWords, kAll };
 
 /// What GetBoundingRectangles returns.
 enum class Rectangles { kRight, kNothing, kNone, kOdd, kIntegers, kTwoDimensions, kInfinite };

@@ -119,12 +119,18 @@ class Range : public Counted<UiaTextRangeStub> {
     if (begin_ > end_) (moved == nhw32::TextPatternRangeEndpoint_Start ? end_ : begin_) = at(moved);
   }
 
+  [[nodiscard]] bool isSecondOfPair(std::size_t index) const {
+    return text()[index] >= 0xDC00 && text()[index] <= 0xDFFF;
+  }
+
   /// Whether a unit of the text begins at `index`.
   [[nodiscard]] bool isEdge(std::size_t index) const {
     if (index == 0 || index >= text().size()) return true;
     switch (in_.plan.units) {
       case Units::kCharacters:
-        return text()[index] < 0xDC00 || text()[index] > 0xDFFF;
+        return !isSecondOfPair(index);
+      case Units::kCharactersWithCrLf:
+        return !isSecondOfPair(index) && !(text()[index - 1] == u'\r' && text()[index] == u'\n');
       case Units::kWords:
         return text()[index - 1] == u' ' && text()[index] != u' ';
       case Units::kAll:

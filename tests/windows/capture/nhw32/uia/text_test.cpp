@@ -63,13 +63,16 @@ TEST_F(UiaTextTest, KeepsWordsWithHyphensAndApostrophesWhole) {
 }
 
 TEST_F(UiaTextTest, JoinsAWordThatALinesEndDivides) {
-  showText(u"an associ-\nated word");
-  for (const auto& place : {grid::at(0, 5), grid::at(1, 2)}) {
-    const nhw32::Answer answer = ask(place);
-    EXPECT_EQ(answer.word.text, u"associated");
-    ASSERT_FALSE(answer.word.candidates.empty());
-    EXPECT_EQ(answer.word.candidates.front(), u"associated");
-    EXPECT_TRUE(answer.word.box.left <= place.x && place.x < answer.word.box.right);
+  showText(u"an associ-\r\nated word");
+  for (const Units units : {Units::kCharacters, Units::kCharactersWithCrLf}) {
+    plan().units = units;
+    for (const auto& place : {grid::at(0, 5), grid::at(1, 2)}) {
+      const nhw32::Answer answer = ask(place);
+      EXPECT_EQ(answer.word.text, u"associated") << static_cast<int>(units);
+      ASSERT_FALSE(answer.word.candidates.empty());
+      EXPECT_EQ(answer.word.candidates.front(), u"associated");
+      EXPECT_TRUE(answer.word.box.left <= place.x && place.x < answer.word.box.right);
+    }
   }
 }
 
