@@ -1,11 +1,15 @@
+#include <array>
+
 #include "capture/nhw32/nhw32.h"
 #include "capture/nhw32/service.h"
 #include "forms/dispatcher.h"
 #include "forms/loaded_forms.h"
 #include "tests/support/process/find.h"
 #include "tests/support/window/capture_test.h"
+#include "tests/support/window/hooked_text_window.h"
 #include "tests/support/window/window_everywhere.h"
 #include "tests/support/window/window_pos_recorders.h"
+#include "tests/support/window/word_host.h"
 
 namespace support {
 namespace {
@@ -16,6 +20,19 @@ class FrmScreenWord : public CaptureTest {
   static void report(const std::u16string& word) {
     ScreenWord::StartCapture();
     ScreenWord::strScreenWord = word;
+  }
+
+  /// What BL_GetText32 hands over for a place. Handles no messages meanwhile.
+  static std::string fetchedFrom(POINT place) {
+    const ScopedSleepingWaits sleeping;
+    const WordHost receiver;
+    waitFor("a word", [&] {
+      receiver.probe(place);
+      return eventually([] { return nhw32::service().word().has_value(); }, 100);
+    });
+    std::array<char, 101> buffer{};
+    nhw32::BL_GetText32(buffer.data(), 100, nullptr);
+    return buffer.data();
   }
 
   static std::u16string headword() {
@@ -48,6 +65,19 @@ TEST_F(FrmScreenWord, LoadingGivesTheServiceTheHeadwords) {
   EXPECT_TRUE(isHeadword(u"it's"));
   EXPECT_FALSE(isHeadword(u"data's"));
   EXPECT_FALSE(isHeadword(u"数据"));
+}
+
+TEST_F(FrmScreenWord, IsNotAskedForHeadwordsOnceItIsUnloaded) {
+  const HookedTextWindow target({}, u"so it's here \r\nx");
+  const auto cell = characterCell(target.control(), 4);
+  ASSERT_TRUE(cell);
+  const POINT place{cell->left + 1, (cell->top + cell->bottom) / 2};
+  host();
+  EXPECT_EQ(fetchedFrom(place), "it's");
+  // No message is handled until the word is fetched, and so the unloaded host is there to be asked.
+  host().unload();
+  nhw32::SetNHW32();
+  EXPECT_EQ(fetchedFrom(place), "it");
 }
 
 TEST_F(FrmScreenWord, IsNeverSeenNorActive) {
