@@ -20,6 +20,11 @@ namespace text {
 /// accents, a hyphen and a possessive ending.
 inline constexpr std::size_t kMaxReadings = 8;
 
+/// Maximum number of code units on each side of a place that readingsAt() reads. Farthest away is,
+/// of a word that a line's end divides, the digit before an apostrophe before its first part: from
+/// the last unit of the second part over the gap, the hyphen and the first part.
+inline constexpr std::size_t kMaxReach = (2 * kMaxReading) + kMaxGap + 2;
+
 /// One reading, spelled as in a dictionary (spelled() in word_units.h), and the half-open range of
 /// the text that it stands for: the possessive ending that the word lacks included; of a word that
 /// is divided at a line's end, both parts and what is between them.
@@ -50,8 +55,8 @@ struct Readings {
 /// 3. the word: letters with single hyphens and apostrophes between them;
 /// 4. the word without possessive ending ("man's" is "man");
 /// 5. the part of it between hyphens, and that without possessive ending.
-/// A reading with accents is followed by the one without. Reads a bounded stretch of text on both
-/// sides of `index`: the cost does not depend on the length of the text.
+/// A reading with accents is followed by the one without. Reads at most kMaxReach units before
+/// `index` and as many after it: the cost does not depend on the length of the text.
 Readings readingsAt(std::u16string_view text, std::size_t index);
 
 /// Tells whether a dictionary has a word as a headword. May throw std::exception.

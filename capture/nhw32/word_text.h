@@ -22,8 +22,7 @@ struct FoundWord {
   text::Range range;
 };
 
-/// Returns the word at `index`, nullopt if there is none. Reads at most text::kMaxReading code
-/// units on each side, and where a line's end divides the word further ones after it.
+/// Returns the word at `index`, nullopt if there is none. Reads as far as text::readingsAt.
 std::optional<FoundWord> wordAt(std::u16string_view text, std::size_t index);
 
 /// Returns what is handed over: the first candidate that is a headword, otherwise `word.text`; as

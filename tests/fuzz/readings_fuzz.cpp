@@ -12,9 +12,6 @@
 
 namespace {
 
-/// How far a word can be read to either side: both parts of a divided word and what is between.
-constexpr std::size_t kReach = 2 * text::kMaxReading + text::kMaxGap + 8;
-
 void checkReading(const text::Reading& reading, std::size_t size, std::size_t index) {
   require(!reading.word.empty() && reading.word.size() <= text::kMaxReading);
   require(reading.begin <= index && index < reading.end && reading.end <= size);
@@ -34,8 +31,9 @@ void checkReadings(const text::Readings& readings, std::size_t size, std::size_t
 
 /// What is farther away makes no difference.
 void checkReach(std::u16string_view text, std::size_t index, const text::Readings& readings) {
-  const std::size_t begin = index > kReach ? index - kReach : 0;
-  text::Readings near = text::readingsAt(text.substr(begin, 2 * kReach), index - begin);
+  const std::size_t begin = index > text::kMaxReach ? index - text::kMaxReach : 0;
+  const std::u16string_view around = text.substr(begin, index + 1 + text::kMaxReach - begin);
+  text::Readings near = text::readingsAt(around, index - begin);
   const auto move = [&](text::Reading& reading) {
     reading.begin += begin;
     reading.end += begin;

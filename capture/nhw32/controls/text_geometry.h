@@ -6,12 +6,13 @@
 #include <vector>
 
 #include "capture/nhw32/controls/coordinates.h"
-#include "text/word_ranges.h"
+#include "text/readings.h"
 
 namespace nhw32 {
 
-/// Characters that are read on each side of a point: one more than a word can have.
-inline constexpr std::size_t kReach = text::kMaxReading + 1;
+/// Characters that are read on each side of a position: as far as the readings of the character at
+/// it, and of the one before, can depend on them.
+inline constexpr std::size_t kReach = text::kMaxReach + 1;
 
 /// Part of a control's text. `first` is the control's position of its first character.
 struct TextPart {

@@ -54,8 +54,8 @@ class UiaCalls {
 ComPtr<IUIAutomationTextPattern> textPatternAt(IUIAutomation& client, const Question& question,
                                                UiaCalls& calls);
 
-/// Returns the word under `point` and its box, otherwise nullopt. Reads at most some hundred
-/// characters around the point, however long the text is. Throws NoAnswer.
+/// Returns the word under `point` and its box, otherwise nullopt. Reads at most
+/// text::kMaxReach characters on each side of the point, however long the text is. Throws NoAnswer.
 std::optional<Word> wordUnder(IUIAutomationTextPattern& pattern, ScreenPoint point,
                               UiaCalls& calls);
 

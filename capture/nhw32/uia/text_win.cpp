@@ -99,8 +99,9 @@ class ElementWalk {
   ComPtr<IUIAutomationTreeWalker> walker_;
 };
 
-/// Characters that are read on each side of the point: as far as a word can reach.
-constexpr int kReach = static_cast<int>(text::kMaxReading);
+/// Characters that are read on each side of the point: as far as the readings there can depend on
+/// them. It is one call for each side, however many there are.
+constexpr int kReach = static_cast<int>(text::kMaxReach);
 /// Maximum code units of one read; more than `kReach` characters take.
 constexpr int kMaxText = 2 * kReach + 1;
 

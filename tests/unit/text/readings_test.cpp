@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <set>
 #include <stdexcept>
@@ -298,6 +299,34 @@ TEST(Readings, ReadNothingOutsideTheText) {
     text.copy(copy.get(), text.size());
     for (std::size_t i = 0; i <= text.size(); ++i) text::readingsAt({copy.get(), text.size()}, i);
   }
+}
+
+/// What is asked for with a reach of `reach` units on each side of the place.
+Words askedWithin(std::size_t reach, std::u16string_view marked) {
+  const Pointed pointed(marked);
+  const std::size_t begin = pointed.index - std::min(pointed.index, reach);
+  const std::u16string near = pointed.text.substr(begin, pointed.index + 1 + reach - begin);
+  Words words;
+  for (const auto& reading : text::readingsAt(near, pointed.index - begin).candidates) {
+    words.push_back(reading.word);
+  }
+  return words;
+}
+
+// Both parts as long as they may be, the gap as wide. Soft hyphens have no place in the
+// dictionary's spelling, so that the parts fit in one reading.
+TEST(Readings, DependOnNothingBeyondTheirReach) {
+  const std::u16string soft(text::kMaxReading - 2, u'\u00AD');
+  const std::u16string gap = u'\n' + std::u16string(text::kMaxGap - 1, u' ');
+  const std::u16string left = u"l" + soft + u"e-" + gap + u"f" + soft + u"|t";
+  const std::u16string right = u"|l" + soft + u"e-" + gap + u"f" + soft + u"t";
+  EXPECT_EQ(asked(left), (Words{u"left", u"le-ft", u"ft"}));
+  EXPECT_EQ(asked(right), (Words{u"left", u"le-ft", u"le"}));
+  // A digit before the apostrophe, and a joint after a part that is as long as a word may be.
+  EXPECT_EQ(askedWithin(text::kMaxReach, u"7'" + left), Words{u"ft"});
+  EXPECT_EQ(askedWithin(text::kMaxReach - 1, u"7'" + left).front(), u"left");
+  EXPECT_EQ(askedWithin(text::kMaxReach, right + u"-x"), Words{u"le"});
+  EXPECT_EQ(askedWithin(text::kMaxReach - 1, right + u"-x").front(), u"left");
 }
 
 TEST(ChooseReading, IsTheFirstHeadword) {

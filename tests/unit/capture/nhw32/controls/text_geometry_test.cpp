@@ -313,6 +313,12 @@ TEST(ControlText, ALetterWithAnAccentOfItsOwnIsFoundAllOver) {
   }
 }
 
+TEST(ControlText, ADividedWordIsJoinedAcrossADeepIndentation) {
+  const Grid grid(u"associ-\n" + std::u16string(127, u' ') + u"ated");
+  EXPECT_EQ(under(grid, 1, 5), u"associated");
+  EXPECT_EQ(under(grid, 1309, kHeight + 5), u"associated") << "nearest to the end of the text";
+}
+
 TEST(ControlText, FarFromTheBeginningToo) {
   std::u16string text;
   for (int i = 0; i < 5000; ++i) text += u"ab cd\n";

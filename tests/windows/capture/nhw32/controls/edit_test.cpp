@@ -90,6 +90,11 @@ TEST_F(Nhw32Edit, AlsoAfter64KLines) {
   compare(target, page, 50);
 }
 
+TEST_F(Nhw32Edit, JoinsADividedWordAcrossADeepIndentation) {
+  const HookedTextWindow target({}, u"associ-\r\n" + std::u16string(126, u' ') + u"ated");
+  EXPECT_EQ(wordAbout(target, 0), u"associated");
+}
+
 TEST_F(Nhw32Edit, ASelectionStaysAndDoesNotMatter) {
   const HookedTextWindow target({}, u"some selected words");
   SendMessageW(target.control(), EM_SETSEL, 5, 13);

@@ -55,6 +55,14 @@ TEST_F(Nhw32RichEdit, TellsTheWordUnderThePoint) {
   }
 }
 
+TEST_F(Nhw32RichEdit, JoinsADividedWordAcrossADeepIndentation) {
+  HookedTextWindow::Design wide = richDesign(ES_MULTILINE | ES_AUTOHSCROLL);
+  wide.size.cx = 900;
+  const HookedTextWindow target(wide, u"associ-\r" + std::u16string(127, u' ') + u"ated");
+  EXPECT_EQ(wordAt(questionAbout(target.control(), 0)), u"associated");
+  EXPECT_EQ(wordAt(questionAbout(target.control(), 137)), u"associated");
+}
+
 TEST_F(Nhw32RichEdit, ASelectionStaysAndDoesNotMatter) {
   const HookedTextWindow target(richDesign(), u"some selected words");
   SendMessageW(target.control(), EM_SETSEL, 5, 13);
