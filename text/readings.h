@@ -43,6 +43,15 @@ struct Readings {
   /// run of Han characters, which is no word to be asked for, is given here alone. None where
   /// letters touch digits: "st" of "1st" is no word.
   std::optional<Reading> otherwise;
+
+  [[nodiscard]] bool empty() const { return candidates.empty() && !otherwise; }
+  /// Returns what is to be marked as the word: the range of `otherwise` or, where there is none, of
+  /// the first candidate. Not for empty ones.
+  [[nodiscard]] Range range() const {
+    const Reading& shown = otherwise ? *otherwise : candidates.front();
+    return {shown.begin, shown.end};
+  }
+  bool operator==(const Readings&) const = default;
 };
 
 /// Returns the readings of what is at `index`; none for a blank, a quotation mark or punctuation

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "capture/nhw32/ansi_word.h"
 #include "capture/nhw32/reader.h"
 #include "capture/nhw32/service.h"
-#include "capture/nhw32/word_text.h"
 
 namespace nhw32 {
 namespace {
@@ -56,8 +56,9 @@ void BL_GetText32(char* buffer, std::int32_t size, RECT* word) {
     *word = {found.box.left, found.box.top, found.box.right, found.box.bottom};
   }
   if (buffer == nullptr || size < 0) return;
+  const auto chosen = text::chooseReading(found.readings, service().headwordTest());
   const std::string text =
-      ansiWord(chosenText(found, service().headwordTest()), static_cast<std::size_t>(size), toAnsi);
+      chosen ? ansiWord(chosen->word, static_cast<std::size_t>(size), toAnsi) : std::string();
   *std::ranges::copy(text, buffer).out = '\0';
 }
 

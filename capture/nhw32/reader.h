@@ -5,8 +5,8 @@
 #include <exception>
 #include <functional>
 #include <memory>
-#include <string>
-#include <vector>
+
+#include "text/readings.h"
 
 /// What a word reader is asked and answers. Portable: a window is a number here.
 ///
@@ -44,14 +44,12 @@ struct Question {
   bool operator==(const Question&) const = default;
 };
 
-/// The word at a place, and its rectangle. What is meant there depends on a dictionary, which the
-/// service does not have: see text::readingsAt.
+/// The word at a place, and its rectangle. Which reading is meant there depends on a dictionary,
+/// which the service does not have. Their ranges are those in the text that the reader has read,
+/// which is gone.
 struct Word {
-  /// Handed over if no candidate is a headword; "" hands over nothing ("1st").
-  std::u16string text;
+  text::Readings readings;
   ScreenBox box;
-  /// The readings to be asked for, in this order; may be empty.
-  std::vector<std::u16string> candidates = {};
   bool operator==(const Word&) const = default;
 };
 

@@ -257,9 +257,8 @@ std::optional<Word> readControl(const Question& question) {
       !inClientArea(window, point)) {
     return std::nullopt;
   }
-  return Word{std::move(word->text),
-              toScreen(scale, fromClient(window, inClientArea(window, word->box))),
-              std::move(word->candidates)};
+  return Word{std::move(word->readings),
+              toScreen(scale, fromClient(window, inClientArea(window, word->box)))};
 }
 
 }  // namespace

@@ -5,8 +5,6 @@
 #include <string_view>
 #include <utility>
 
-#include "capture/nhw32/word_text.h"
-
 // EM_CHARFROMPOS and its like return the position nearest to a point, wherever the point is: also
 // right of a line's end and below the last line. So the point is checked against the cell of the
 // character, and the word's box is computed. Controls report only the top left corner of a
@@ -156,16 +154,16 @@ class Line {
 std::optional<PlacedWord> wordOf(ControlText& control, const TextPart& part, std::size_t position,
                                  ClientPoint point) {
   if (position < part.first) return std::nullopt;
-  auto word = wordAt(part.text, position - part.first);
-  const auto corner = word ? control.cornerOf(position) : std::nullopt;
+  text::Readings readings = text::readingsAt(part.text, position - part.first);
+  const auto corner = readings.empty() ? std::nullopt : control.cornerOf(position);
   if (!corner || point.x < corner->x || point.y < corner->y) return std::nullopt;
   Line line(control, position, *corner);
   const int letterEnd = line.rightOf(position, corner->x);
   if (point.x >= letterEnd) return std::nullopt;
   const auto known = line.knownBottom();
   if (known && point.y >= *known) return std::nullopt;
-  const text::Range shown =
-      line.clipped({part.first + word->range.begin, part.first + word->range.end});
+  const text::Range word = readings.range();
+  const text::Range shown = line.clipped({part.first + word.begin, part.first + word.end});
   // The text may have changed since the first message.
   if (position < shown.begin || position >= shown.end) return std::nullopt;
   const int left = line.leftOf(shown.begin).value_or(corner->x);
@@ -176,9 +174,7 @@ std::optional<PlacedWord> wordOf(ControlText& control, const TextPart& part, std
       known ? *known
             : line.likelyBottom(estimatedHeight(letters, right - left, letterEnd - corner->x));
   if (point.y >= bottom) return std::nullopt;
-  return PlacedWord{.text = std::move(word->text),
-                    .candidates = std::move(word->candidates),
-                    .box = {left, corner->y, right, bottom}};
+  return PlacedWord{std::move(readings), {left, corner->y, right, bottom}};
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "capture/nhw32/controls/coordinates.h"
 #include "text/readings.h"
@@ -47,10 +46,10 @@ class ControlText {
   [[nodiscard]] virtual int dpi() const = 0;
 };
 
-/// A word (see Word) and its box; of a word that wraps, the box of the part on the point's line.
+/// The readings of a word and its box; of a word that wraps, the box of the part on the point's
+/// line.
 struct PlacedWord {
-  std::u16string text;
-  std::vector<std::u16string> candidates;
+  text::Readings readings;
   ClientBox box;
 };
 

@@ -60,12 +60,12 @@ std::optional<ScreenBox> boxUnder(std::span<const double> rectangles, ScreenPoin
 bool isOneCharacter(std::u16string_view text) { return text.size() == 1 || text.size() == 2; }
 
 // A unit that is one word is the whole of the text without its blanks.
-std::optional<FoundWord> onlyWord(std::u16string_view text) {
+std::optional<text::Readings> onlyWord(std::u16string_view text) {
   while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
   while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-  auto word = wordAt(text, 0);
-  const bool whole = word && word->range == text::Range{0, text.size()};
-  return whole ? std::move(word) : std::nullopt;
+  text::Readings readings = text::readingsAt(text, 0);
+  if (readings.empty() || readings.range() != text::Range{0, text.size()}) return std::nullopt;
+  return readings;
 }
 
 }  // namespace nhw32

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "capture/nhw32/reader.h"
-#include "capture/nhw32/word_text.h"
+#include "text/readings.h"
 
 /// The portable part of reading by UI Automation: its rectangles, texts and retries. What comes
 /// from a provider is checked here before it is used.
@@ -22,9 +22,9 @@ std::optional<ScreenBox> boxUnder(std::span<const double> rectangles, ScreenPoin
 /// Returns whether `text` is as long as one character: a code unit, a surrogate pair or a CR LF.
 bool isOneCharacter(std::u16string_view text);
 
-/// Returns the word that `text` consists of, but for blanks around it; nullopt if it is anything
-/// other than one word.
-std::optional<FoundWord> onlyWord(std::u16string_view text);
+/// Returns the readings of the word that `text` consists of, but for blanks around it; nullopt if
+/// it is anything other than one word.
+std::optional<text::Readings> onlyWord(std::u16string_view text);
 
 /// Delays further attempts after a failure. Not thread-safe.
 class Retry {

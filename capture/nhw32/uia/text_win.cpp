@@ -6,11 +6,11 @@
 
 #include "capture/nhw32/uia/com.h"
 #include "capture/nhw32/uia/geometry.h"
-#include "capture/nhw32/word_text.h"
+#include "text/readings.h"
 
 // The word is found in two steps. ElementWalk goes from the element under the point up to the first
 // one with a text pattern. TextAtPoint takes the character of that text whose rectangle contains
-// the point, reads kReach characters on each side of it, and lets wordAt find the word in them.
+// the point, reads kReach characters on each side of it, and finds the word in them.
 //
 // Every call may go to another process and is made by UiaCalls, which ends the question by NoAnswer
 // at the first one that fails. What a provider returns is not relied on: a call that succeeds may
@@ -120,9 +120,9 @@ class TextAtPoint {
     if (!character) return std::nullopt;
     if (isOneCharacter(*character)) return wordAround(*character, *box);
     // The program does not support character units; the unit is used if it is one word.
-    auto word = onlyWord(*character);
-    if (!word) return std::nullopt;
-    return Word{std::move(word->text), *box, std::move(word->candidates)};
+    auto readings = onlyWord(*character);
+    if (!readings) return std::nullopt;
+    return Word{std::move(*readings), *box};
   }
 
  private:
@@ -148,13 +148,13 @@ class TextAtPoint {
     if (!after) return std::nullopt;
     const std::u16string text = *before + character + *after;
     const std::size_t begin = before->size();
-    auto word = wordAt(text, begin);
-    if (!word) return std::nullopt;
-    const auto [first, last] = word->range;
+    text::Readings readings = text::readingsAt(text, begin);
+    if (readings.empty()) return std::nullopt;
+    const auto [first, last] = readings.range();
     // Programs count CR LF as one character or as two: the ends of a word that a line's end divides
     // cannot be reached by counting. Its box is that of the character then.
     if (text.substr(first, last - first).find_first_of(u"\r\n\v\u2028") != text.npos) {
-      return Word{std::move(word->text), cellBox, std::move(word->candidates)};
+      return Word{std::move(readings), cellBox};
     }
 
     const TextRange range = copyOfCell();
@@ -166,7 +166,7 @@ class TextAtPoint {
     if (textOf(range) != text.substr(first, last - first)) return std::nullopt;
     const auto box = boxOf(range);
     if (!box) return std::nullopt;
-    return Word{std::move(word->text), *box, std::move(word->candidates)};
+    return Word{std::move(readings), *box};
   }
 
   /// Returns the text before the start of cell_, or after its end, up to kReach characters.

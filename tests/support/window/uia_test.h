@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "capture/nhw32/uia/client.h"
+#include "tests/support/data/plain_readings.h"
 #include "tests/support/window/fake_uia.h"
 
 namespace support {
@@ -50,7 +51,7 @@ class UiaTest : public ::testing::Test {
   /// The word there, empty if there is none.
   std::u16string wordAt(nhw32::ScreenPoint point) {
     const auto answer = ask(point);
-    return answer.outcome == nhw32::Outcome::kWord ? answer.word.text : std::u16string();
+    return plainWord(answer.word.readings);
   }
 
   FakeUiaPlan& plan() { return uia_.plan; }

@@ -81,6 +81,25 @@ TEST(Readings, AreNoneBesideWords) {
   EXPECT_FALSE(text::readingsAt(u"", 0).otherwise);
 }
 
+TEST(Readings, AreNoneForOtherCharacters) {
+  constexpr std::u16string_view kText = u" \t\r\n\u00A0.,;:!?\"()_@\u3000\u00D7\u00F7\uFFFC，。";
+  for (std::size_t i = 0; i <= kText.size(); ++i) {
+    EXPECT_TRUE(text::readingsAt(kText, i).empty()) << i;
+  }
+}
+
+TEST(Readings, MarkTheWordThoughACandidateIsWider) {
+  EXPECT_EQ(readings(u"the m|an's hat").range(), (text::Range{4, 9}));
+  EXPECT_EQ(readings(u"a|nd/or").range(), (text::Range{0, 3}));
+  EXPECT_EQ(readings(u"cafe\u0301|s").range(), (text::Range{0, 6}));
+  EXPECT_EQ(readings(u"as|soci-\r\nated").range(), (text::Range{0, 13}));
+  EXPECT_EQ(readings(u"我的computer坏|了").range(), (text::Range{10, 12}));
+}
+
+TEST(Readings, MarkTheFirstCandidateWhereOnlyADictionaryKnowsTheWord) {
+  EXPECT_EQ(readings(u"of C|O2.").range(), (text::Range{3, 6}));
+}
+
 TEST(Readings, BeginWithTheRunBetweenBlanks) {
   for (const std::u16string run : {u"TCP/IP", u"CO2", u"MP3", u"AT&T", u"and/or", u"I/O", u"C++",
                                    u"C#", u"N,N-dimethyl", u"chiral(ity)", u"(chloro)ethane"}) {
@@ -345,6 +364,7 @@ TEST(ChooseReading, IsTheOtherOneWithoutHeadwords) {
   EXPECT_EQ(chosen(u"the |xyz's", {}), u"xyz");
   EXPECT_EQ(chosen(u"the |x1", {}), u"");
   EXPECT_EQ(chosen(u"|我的", {}), u"我的");
+  EXPECT_EQ(text::chooseReading(readings(u"the |xyz's"), nullptr)->word, u"xyz");
 }
 
 TEST(ChooseReading, AsksAFailingDictionaryOnce) {

@@ -9,6 +9,8 @@
 #include <string>
 #include <thread>
 
+#include "tests/support/data/plain_readings.h"
+
 /// The mailbox between the thread that arms and a worker, under the thread sanitizer.
 namespace nhw32 {
 namespace {
@@ -21,7 +23,8 @@ Answer answerTo(const Question& question, int number, Outcome outcome = Outcome:
   const std::string text = "word at " + std::to_string(question.point.x) + " in window " +
                            std::to_string(question.window);
   return {.outcome = outcome,
-          .word = {.text = {text.begin(), text.end()}, .box = {.left = number}}};
+          .word = {.readings = support::plainReadings({text.begin(), text.end()}),
+                   .box = {.left = number}}};
 }
 
 /// A host's message queue.
@@ -98,7 +101,7 @@ class Host {
     mailbox_.disarm();
     const auto word = mailbox_.word();
     ASSERT_TRUE(word) << "an announcement without a word";
-    EXPECT_EQ(word->text, answerTo(*armed_, 0).word.text) << "the word of another question";
+    EXPECT_EQ(word->readings, answerTo(*armed_, 0).word.readings) << "the word of another question";
     EXPECT_GT(word->box.left, tooOld_) << "the answer to an older question of the same kind";
     tooOld_ = word->box.left;
     armed_.reset();

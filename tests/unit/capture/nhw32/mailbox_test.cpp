@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "tests/support/data/plain_readings.h"
+
 namespace nhw32 {
 namespace {
 
@@ -13,12 +15,16 @@ constexpr Question kThere{.window = 1, .point = {11, 20}};
 constexpr Question kOtherWindow{.window = 2, .point = {10, 20}};
 
 Answer wordAnswer(const std::u16string& text) {
-  return {.outcome = Outcome::kWord, .word = {.text = text, .box = {1, 2, 3, 4}}};
+  return {.outcome = Outcome::kWord,
+          .word = {.readings = support::plainReadings(text), .box = {1, 2, 3, 4}}};
 }
 
 class MailboxTest : public ::testing::Test {
  protected:
-  std::u16string word() { return mailbox_.word().value_or(Word{u"(none)", {}}).text; }
+  std::u16string word() {
+    return support::plainWord(
+        mailbox_.word().value_or(Word{support::plainReadings(u"(none)"), {}}).readings);
+  }
 
   bool hostListens_ = true;
   std::vector<WindowId> announced_;

@@ -12,6 +12,7 @@
 #include "capture/nhw32/reader.h"
 #include "capture/nhw32/router.h"
 #include "capture/nhw32/service.h"
+#include "tests/support/data/plain_readings.h"
 #include "tests/support/process/find.h"
 #include "tests/support/wait.h"
 #include "tests/support/window/counted_service.h"
@@ -86,7 +87,7 @@ TEST_F(Nhw32Hanging, AQuestionEndsInTimeAndTheWindowIsLeftAloneForAWhile) {
   for (const wchar_t* className : {L"EDIT", L"RichEdit20W"}) {
     Hanging target(className);
     const auto router = nhw32::makeWindowReader();
-    ASSERT_EQ(answerTo(target.question()).word.text, u"stubborn");
+    ASSERT_EQ(plainWord(answerTo(target.question()).word.readings), u"stubborn");
     target.hang(true);
     for (int i = 0; i < 3; ++i) {
       const auto begin = steady_clock::now();
@@ -96,7 +97,7 @@ TEST_F(Nhw32Hanging, AQuestionEndsInTimeAndTheWindowIsLeftAloneForAWhile) {
     EXPECT_EQ(router->wordAt(target.question()).outcome, nhw32::Outcome::kNone);
     target.hang(false);
     EXPECT_EQ(router->wordAt(target.question()).outcome, nhw32::Outcome::kNone);
-    EXPECT_EQ(answerTo(target.question()).word.text, u"stubborn");
+    EXPECT_EQ(plainWord(answerTo(target.question()).word.readings), u"stubborn");
   }
 }
 
@@ -112,7 +113,7 @@ TEST_F(Nhw32Hanging, RemoteMemoryOutlivesAMessageThatTimedOut) {
       EXPECT_EQ(nhw32::makeWindowReader()->wordAt(target.question()).outcome,
                 nhw32::Outcome::kOutOfTime);
       target.hang(false);
-      EXPECT_EQ(answerTo(target.question()).word.text, u"stubborn");
+      EXPECT_EQ(plainWord(answerTo(target.question()).word.readings), u"stubborn");
     }
     EXPECT_EQ(target.lost(), 0);
   }
@@ -123,7 +124,7 @@ TEST_F(Nhw32Hanging, ProbingNeverBlocksTheCaller) {
   LatencyRecorder probing;
   for (int i = 0; i < 4; ++i) {
     Hanging target;
-    ASSERT_EQ(answerTo(target.question()).word.text, u"stubborn");
+    ASSERT_EQ(plainWord(answerTo(target.question()).word.readings), u"stubborn");
     target.hang(true);
     for (int probe = 0; probe < nhw32::Backoff::kMaxTimeouts; ++probe) {
       const int answers = counted.answers();
@@ -171,7 +172,7 @@ class Stubborn : public nhw32::WordReader {
     const bool slow = question.point.x < 200;
     if (slow) gate.pass();
     return {.outcome = nhw32::Outcome::kWord,
-            .word = {.text = slow ? u"slow" : u"quick", .box = {}}};
+            .word = {.readings = plainReadings(slow ? u"slow" : u"quick"), .box = {}}};
   }
   static inline std::atomic<int> asked = 0;
   static inline Gate gate;
@@ -206,11 +207,11 @@ TEST_F(Nhw32Hanging, AReaderSlowerThanTheProbesDeliversAndAThrowingOneDoesNoHarm
     EXPECT_TRUE(eventually(announced));
   }
   EXPECT_EQ(Stubborn::asked, 2);
-  EXPECT_EQ(service.word()->text, u"slow");
+  EXPECT_EQ(plainWord(service.word()->readings), u"slow");
   probe({150, 500});
   probe({250, 500});
   ASSERT_TRUE(eventually([&] { return service.word().has_value(); }));
-  EXPECT_EQ(service.word()->text, u"quick");
+  EXPECT_EQ(plainWord(service.word()->readings), u"quick");
   service.stop();
   EXPECT_TRUE(eventually([&] { return service.workers() == 0; }));
 }

@@ -7,6 +7,7 @@
 #include "capture/nhw32/policy.h"
 #include "capture/nhw32/router.h"
 #include "capture/nhw32/service.h"
+#include "tests/support/data/plain_readings.h"
 #include "tests/support/process/find.h"
 #include "tests/support/process/process.h"
 #include "tests/support/wait.h"
@@ -67,7 +68,7 @@ TEST_P(Nhw32Programs, TheServiceTellsTheWordAtTwoHundredPlaces) {
     // What is no word is asked for directly: nothing would tell when to stop waiting for it.
     const std::u16string& word = page.words[place.position];
     if (word.empty()) {
-      EXPECT_EQ(answerTo(questionAt(program.control(), place.point)).word.text, u"");
+      EXPECT_EQ(plainWord(answerTo(questionAt(program.control(), place.point)).word.readings), u"");
     } else {
       ASSERT_EQ(host.wordAt(place.point), ansi(word)) << "at character " << place.position;
     }
@@ -87,7 +88,8 @@ TEST_P(Nhw32Programs, TellsTheWordsOfALongTextQuickly) {
       nhw32::Answer answer;
       times.push_back(
           timeOf([&] { answer = answerTo(questionAt(program.control(), place.point)); }));
-      ASSERT_EQ(answer.word.text, page.words[place.position]) << "at character " << place.position;
+      ASSERT_EQ(plainWord(answer.word.readings), page.words[place.position])
+          << "at character " << place.position;
     }
     ASSERT_EQ(times.size(), 40U);
     std::ranges::sort(times);
@@ -101,7 +103,7 @@ TEST_P(Nhw32Programs, AStoppedProgramHoldsNobodyUpAndLivesOn) {
   const SystemEditor program(GetParam(), u"patient words");
   const nhw32::Question question = questionAbout(program.control(), 3);
   const POINT point{question.point.x, question.point.y};
-  ASSERT_EQ(answerTo(question).word.text, u"patient");
+  ASSERT_EQ(plainWord(answerTo(question).word.readings), u"patient");
   WordHost host;
   nhw32::SetNHW32();
   {
@@ -129,8 +131,9 @@ TEST_P(Nhw32Programs, AStoppedProgramHoldsNobodyUpAndLivesOn) {
     EXPECT_TRUE(eventually([] { return nhw32::service().workers() == 0; }));
   }
   // It has all our late messages before it and answers them now.
-  waitFor("the program to answer again",
-          [&] { return nhw32::makeWindowReader()->wordAt(question).word.text == u"patient"; });
+  waitFor("the program to answer again", [&] {
+    return plainWord(nhw32::makeWindowReader()->wordAt(question).word.readings) == u"patient";
+  });
   EXPECT_TRUE(program.process().running());
   EXPECT_EQ(textOf(program.control()), L"patient words");
 }
@@ -148,7 +151,7 @@ void forbidOpening(HANDLE process) {
 TEST(Nhw32Refusal, AProgramThatMayNotBeOpenedGivesNoWordOfItsRichEditControl) {
   const SystemEditor program(SystemEditor::Kind::kWordPad, u"guarded words");
   const nhw32::Question question = questionAbout(program.control(), 3);
-  ASSERT_EQ(answerTo(question).word.text, u"guarded");
+  ASSERT_EQ(plainWord(answerTo(question).word.readings), u"guarded");
   forbidOpening(program.process().handle());
   EXPECT_EQ(answerTo(question).outcome, nhw32::Outcome::kRefused);
 }
@@ -156,7 +159,7 @@ TEST(Nhw32Refusal, AProgramThatMayNotBeOpenedGivesNoWordOfItsRichEditControl) {
 TEST_P(Nhw32Programs, AProgramThatDiesGivesNoWord) {
   const SystemEditor program(GetParam(), u"mortal words");
   const nhw32::Question question = questionAbout(program.control(), 3);
-  ASSERT_EQ(answerTo(question).word.text, u"mortal");
+  ASSERT_EQ(plainWord(answerTo(question).word.readings), u"mortal");
   program.process().kill();
   EXPECT_EQ(answerTo(question).outcome, nhw32::Outcome::kNone);
 }

@@ -5,6 +5,8 @@
 #include <limits>
 #include <vector>
 
+#include "tests/support/data/plain_readings.h"
+
 namespace {
 
 using nhw32::boxUnder;
@@ -69,7 +71,7 @@ TEST(OneCharacter, IsAUnitAPairOrALineEnd) {
 
 TEST(OnlyWord, StandsBetweenBlanks) {
   const auto only = [](std::u16string_view text) {
-    return nhw32::onlyWord(text).value_or(nhw32::FoundWord()).text;
+    return support::plainWord(nhw32::onlyWord(text).value_or(text::Readings()));
   };
   EXPECT_EQ(only(u"word"), u"word");
   EXPECT_EQ(only(u"\t word\u3000\u00A0\r\n"), u"word");

@@ -4,6 +4,7 @@
 
 #include "capture/nhw32/controls/target_window.h"
 #include "forms/graphics.h"
+#include "tests/support/data/plain_readings.h"
 #include "tests/support/process/find.h"
 #include "tests/support/window/hooked_text_window.h"
 #include "tests/support/window/mixed_page.h"
@@ -29,7 +30,7 @@ class Nhw32Edit : public ::testing::Test {
   std::u16string wordAt(const HookedTextWindow& /*target*/, const nhw32::Question& question) {
     const nhw32::Answer answer = answerTo(question);
     EXPECT_NE(answer.outcome, Outcome::kOutOfTime);
-    return answer.outcome == Outcome::kWord ? answer.word.text : u"";
+    return plainWord(answer.word.readings);
   }
 
   /// Compares the words at `count` random places in sight with those of the page.
@@ -106,7 +107,7 @@ TEST_F(Nhw32Edit, ASelectionStaysAndDoesNotMatter) {
 TEST_F(Nhw32Edit, TellsThePlaceOfTheWord) {
   const HookedTextWindow target({}, u"one well-known word\r\nnext");
   const nhw32::Answer answer = answerTo(questionAbout(target.control(), 8));
-  ASSERT_EQ(answer.word.text, u"well-known");
+  ASSERT_EQ(plainWord(answer.word.readings), u"well-known");
   const POINT begin = *characterCorner(target.control(), 4);
   const POINT end = *characterCorner(target.control(), 14);
   const POINT below = *characterCorner(target.control(), 21);

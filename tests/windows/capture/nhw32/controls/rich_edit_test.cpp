@@ -3,6 +3,7 @@
 
 #include <atomic>
 
+#include "tests/support/data/plain_readings.h"
 #include "tests/support/process/find.h"
 #include "tests/support/window/hooked_text_window.h"
 #include "tests/support/window/mixed_page.h"
@@ -23,7 +24,7 @@ class Nhw32RichEdit : public ::testing::Test {
   std::u16string wordAt(const nhw32::Question& question) {
     const nhw32::Answer answer = answerTo(question);
     EXPECT_NE(answer.outcome, Outcome::kOutOfTime);
-    return answer.outcome == Outcome::kWord ? answer.word.text : u"";
+    return plainWord(answer.word.readings);
   }
 
   std::u16string wordAtPoint(const HookedTextWindow& target, POINT point) {

@@ -1,5 +1,6 @@
 #include <string>
 
+#include "tests/support/data/plain_readings.h"
 #include "tests/support/window/uia_test.h"
 
 namespace support {
@@ -16,7 +17,7 @@ TEST_F(UiaTextTest, FindsTheWordUnderEveryPixelOfIt) {
     for (int right = 0; right < grid::kWidth; ++right) {
       const auto answer = ask(grid::at(0, column, right));
       ASSERT_EQ(answer.outcome, Outcome::kWord) << column << " + " << right;
-      ASSERT_EQ(answer.word.text, u"hello") << column << " + " << right;
+      ASSERT_EQ(plainWord(answer.word.readings), u"hello") << column << " + " << right;
       ASSERT_EQ(answer.word.box, grid::box(0, 4, 5));
     }
   }
@@ -47,7 +48,7 @@ TEST_F(UiaTextTest, TakesNoNearestWordThatIsNotUnderThePoint) {
 TEST_F(UiaTextTest, FindsWordsInLaterLines) {
   showText(u"a\nbb cc\nddd");
   const auto answer = ask(grid::at(1, 3));
-  EXPECT_EQ(answer.word.text, u"cc");
+  EXPECT_EQ(plainWord(answer.word.readings), u"cc");
   EXPECT_EQ(answer.word.box, grid::box(1, 3, 2));
 }
 
@@ -68,9 +69,9 @@ TEST_F(UiaTextTest, JoinsAWordThatALinesEndDivides) {
     plan().units = units;
     for (const auto& place : {grid::at(0, 5), grid::at(1, 2)}) {
       const nhw32::Answer answer = ask(place);
-      EXPECT_EQ(answer.word.text, u"associated") << static_cast<int>(units);
-      ASSERT_FALSE(answer.word.candidates.empty());
-      EXPECT_EQ(answer.word.candidates.front(), u"associated");
+      EXPECT_EQ(plainWord(answer.word.readings), u"associated") << static_cast<int>(units);
+      ASSERT_FALSE(answer.word.readings.candidates.empty());
+      EXPECT_EQ(answer.word.readings.candidates.front().word, u"associated");
       EXPECT_TRUE(answer.word.box.left <= place.x && place.x < answer.word.box.right);
     }
   }
