@@ -1,5 +1,6 @@
 #include "capture/nhw32/uia/geometry.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -59,12 +60,25 @@ std::optional<ScreenBox> boxUnder(std::span<const double> rectangles, ScreenPoin
 
 bool isOneCharacter(std::u16string_view text) { return text.size() == 1 || text.size() == 2; }
 
-// A unit that is one word is the whole of the text without its blanks.
+// The point may be anywhere in the unit, so that a reading of a part of it may not be the one
+// there. A full stop at its end is a part of the word or the sentence's.
 std::optional<text::Readings> onlyWord(std::u16string_view text) {
   while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
   while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
   text::Readings readings = text::readingsAt(text, 0);
-  if (readings.empty() || readings.range() != text::Range{0, text.size()}) return std::nullopt;
+  auto& [candidates, otherwise] = readings;
+  const auto isWhole = [&](const text::Reading& reading) {
+    return reading.begin == 0 && reading.end == text.size();
+  };
+  const auto isPart = [&](const text::Reading& reading) {
+    return !isWhole(reading) && (reading.begin != 0 || text.substr(reading.end) != u".");
+  };
+  if (std::none_of(candidates.begin(), candidates.end(), isWhole) &&
+      !(otherwise && isWhole(*otherwise))) {
+    return std::nullopt;
+  }
+  std::erase_if(candidates, isPart);
+  if (otherwise && isPart(*otherwise)) otherwise.reset();
   return readings;
 }
 

@@ -22,8 +22,9 @@ std::optional<ScreenBox> boxUnder(std::span<const double> rectangles, ScreenPoin
 /// Returns whether `text` is as long as one character: a code unit, a surrogate pair or a CR LF.
 bool isOneCharacter(std::u16string_view text);
 
-/// Returns the readings of the word that `text` consists of, but for blanks around it; nullopt if
-/// it is anything other than one word.
+/// Returns the readings of `text` without the blanks around it, other than those of a part of it
+/// ("well" of "well-known"); nullopt if no reading is the whole of it. A full stop at its end may
+/// belong to a reading or not.
 std::optional<text::Readings> onlyWord(std::u16string_view text);
 
 /// Delays further attempts after a failure. Not thread-safe.

@@ -80,8 +80,26 @@ TEST(OnlyWord, StandsBetweenBlanks) {
   EXPECT_EQ(only(u" 中文"), u"中文");
 }
 
+TEST(OnlyWord, HasNoReadingsOfAPart) {
+  using Words = std::vector<std::u16string>;
+  const auto asked = [](std::u16string_view text) {
+    Words words;
+    const auto readings = nhw32::onlyWord(text).value_or(text::Readings());
+    for (const text::Reading& reading : readings.candidates) words.push_back(reading.word);
+    if (readings.otherwise) words.push_back(u"otherwise " + readings.otherwise->word);
+    return words;
+  };
+  EXPECT_EQ(asked(u"AT&T "), Words{u"AT&T"});
+  EXPECT_EQ(asked(u"e.g."), (Words{u"e.g.", u"e.g"}));
+  EXPECT_EQ(asked(u"1st"), Words{u"1st"});
+  EXPECT_EQ(asked(u"man's"), (Words{u"man's", u"man", u"otherwise man"}));
+  EXPECT_EQ(asked(u"well-known"), (Words{u"well-known", u"otherwise well-known"}));
+  EXPECT_EQ(asked(u"word."), (Words{u"word", u"word.", u"otherwise word"}));
+}
+
 TEST(OnlyWord, IsNoneAmongOthers) {
-  for (const auto* text : {u"", u"  ", u"two words", u"word.", u"(word", u"42", u"word中文"}) {
+  for (const auto* text :
+       {u"", u"  ", u"two words", u"word,", u"word..", u"(word", u"42", u"word中文"}) {
     EXPECT_FALSE(nhw32::onlyWord(text).has_value());
   }
 }

@@ -104,6 +104,12 @@ TEST_F(UiaTextTest, ReadsTextsWhoseCharacterUnitIsAWord) {
   plan().units = Units::kWords;
   EXPECT_EQ(wordAt(grid::at(0, 6)), u"hello");
   EXPECT_EQ(wordAt(grid::at(0, 13)), u"two");
+  showText(u"at AT&T e.g. so");
+  for (const auto& [column, word] : {std::pair(4, u"AT&T"), {9, u"e.g."}}) {
+    const nhw32::Answer answer = ask(grid::at(0, column));
+    ASSERT_EQ(answer.outcome, Outcome::kWord) << column;
+    EXPECT_EQ(answer.word.readings.candidates.front().word, word);
+  }
 }
 
 TEST_F(UiaTextTest, FindsNoneIfTheUnitHoldsMoreThanAWord) {
