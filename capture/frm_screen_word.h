@@ -4,7 +4,7 @@
 
 #include "capture/probe.h"
 #include "data/data_control.h"
-#include "data/headword_test.h"
+#include "data/headword_lookup.h"
 #include "forms/form.h"
 #include "forms/timer.h"
 
@@ -41,7 +41,7 @@ class frmScreenWord : public forms::Form {
   /// Deliberate: connected, but not used; the popup has its own.
   data::DataControl Adodc1;
   /// Tells the service which reading of a word is a headword; by a connection of its own.
-  data::HeadwordTest headwords;
+  data::KnownHeadwords headwords;
 
   /// Returns the pointer's position in screen pixels; tests set one of their own.
   std::function<POINT()> pointerPlace = [] {

@@ -117,7 +117,7 @@ frmScreenWord::frmScreenWord() : Form(hostDesign()), headwords(user::IdxWords) {
 void frmScreenWord::Form_Load() {
   Adodc1.setConnectionString(user::ConnectionString);
   headwords.setConnectionString(user::ConnectionString);
-  nhw32::setHeadwordTest([this](std::u16string_view word) { return headwords.has(word); });
+  nhw32::setIsHeadword([this](std::u16string_view word) { return headwords.has(word); });
   ScreenWord::hScreenWordWnd = handle();
   ScreenWord::MsgHasString = RegisterWindowMessageA(nhw32::kMessageName);
   ScreenWord::OldWndProc =
@@ -132,7 +132,7 @@ void frmScreenWord::Form_Unload() {
   nhw32::BL_SetFlag32(nhw32::kDisarm, nullptr, 0, 0);
   setProcedure(handle(), ScreenWord::OldWndProc);
   nhw32::ResetNHW32();
-  nhw32::setHeadwordTest(nullptr);
+  nhw32::setIsHeadword(nullptr);
 }
 
 void frmScreenWord::timScreenWord1_Timer() try {

@@ -152,6 +152,26 @@ std::u16string HeadwordLookup::findword(std::u16string_view EorC, std::u16string
   return {};
 }
 
+KnownHeadwords::KnownHeadwords(const IndexWords& indexWords)
+    : lookup_(indexWords, {.lambdaUpperKey = true, .chineseMeaningFindsBounds = true}) {
+  // Of the cache that a connection may use by default, a few words need little.
+  constexpr int kCacheKiB = 256;
+  control_.setCacheKiB(kCacheKiB);
+}
+
+void KnownHeadwords::setConnectionString(std::u16string_view connectionString) {
+  control_.setConnectionString(connectionString);
+}
+
+bool KnownHeadwords::has(std::u16string_view word) {
+  if (word.empty() || user::getEorC(word) != user::kEnglish) return false;
+  std::u16string escaped(word);
+  user::escapeQuote(escaped);
+  control_.setRecordSource(lookup_.findword(user::kEnglish, escaped, control_));
+  control_.refresh();
+  return control_.recordset().recordCount() > 0;
+}
+
 std::vector<std::u16string> readMeanings(RecordSet& rows) {
   std::vector<std::u16string> meanings;
   // The count reads all rows at once; they would be read one by one otherwise.

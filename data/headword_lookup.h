@@ -68,6 +68,26 @@ class HeadwordLookup {
   Bounds bounds_;
 };
 
+/// Tells whether English words are headwords of [edict], by the bounds and the meaning query of the
+/// popup, so that it knows what the popup finds. Has a connection of its own. Natively 0.1 ms for a
+/// word.
+class KnownHeadwords {
+ public:
+  /// `indexWords` is kept by reference and has to outlive the object; it may be filled later.
+  explicit KnownHeadwords(const IndexWords& indexWords);
+
+  /// Sets the connection string; the file is opened by the next call of has().
+  void setConnectionString(std::u16string_view connectionString);
+
+  /// Returns whether `word`, as it is typed, is an English headword. "" and Chinese words are none.
+  /// Throws Error where the database fails.
+  bool has(std::u16string_view word);
+
+ private:
+  DataControl control_;
+  HeadwordLookup lookup_;
+};
+
 /// Returns column "Meaning" of every row of a meaning query, from the first on. Throws Error.
 std::vector<std::u16string> readMeanings(RecordSet& rows);
 

@@ -16,7 +16,6 @@
 #include "bench/timings.h"
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
-#include "data/headword_test.h"
 #include "text/query_text.h"
 #include "text/readings.h"
 #include "text/strings.h"
@@ -143,15 +142,15 @@ void timeStart(const char* file) {
 
 /// The readings of one word under the pointer, of which only the last one is a headword.
 void timeReadings(const char* file, const data::IndexWords& indexWords, const Words& words) {
-  data::HeadwordTest test(indexWords);
-  test.setConnectionString(data::connectionString(text::toUtf16(file)));
+  data::KnownHeadwords headwords(indexWords);
+  headwords.setConnectionString(data::connectionString(text::toUtf16(file)));
   Timings readings("eight readings, none of them a headword", kReadingsAim);
   for (const std::u16string& word : words) {
     if (word.size() < text::kMaxReadings) continue;
     readings.time([&] {
       bool known = false;
       for (std::size_t i = 0; i < text::kMaxReadings; ++i) {
-        known = test.has(word.substr(0, word.size() - i) + u"q") || known;
+        known = headwords.has(word.substr(0, word.size() - i) + u"q") || known;
       }
       return known;
     });

@@ -21,7 +21,7 @@ inline constexpr char kMessageName[] = "BL_HASSTRING";
 /// Sets the function that tells whether a text is a headword; null, as at first, counts as no for
 /// every text. BL_GetText32 alone calls it, at most text::kMaxReadings times a call, and on its own
 /// thread; if it throws, no further text is asked for.
-void setHeadwordTest(text::IsHeadword isHeadword);
+void setIsHeadword(text::IsHeadword isHeadword);
 
 /// Starts the service; does nothing if it is started. The worker thread is created by the first
 /// kArm.

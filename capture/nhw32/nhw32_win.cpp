@@ -36,9 +36,7 @@ Service& service() {
   return instance;
 }
 
-void setHeadwordTest(text::IsHeadword isHeadword) {
-  service().setHeadwordTest(std::move(isHeadword));
-}
+void setIsHeadword(text::IsHeadword isHeadword) { service().setIsHeadword(std::move(isHeadword)); }
 
 void SetNHW32() { service().start(); }
 
@@ -56,7 +54,7 @@ void BL_GetText32(char* buffer, std::int32_t size, RECT* word) {
     *word = {found.box.left, found.box.top, found.box.right, found.box.bottom};
   }
   if (buffer == nullptr || size < 0) return;
-  const auto chosen = text::chooseReading(found.readings, service().headwordTest());
+  const auto chosen = text::chooseReading(found.readings, service().isHeadword());
   const std::string text =
       chosen ? ansiWord(chosen->word, static_cast<std::size_t>(size), toAnsi) : std::string();
   *std::ranges::copy(text, buffer).out = '\0';

@@ -46,8 +46,8 @@ class Service {
 
   /// The function that tells which reading of a word is a headword; null at first. The service
   /// keeps it for the caller, and does not call it.
-  void setHeadwordTest(text::IsHeadword isHeadword) { isHeadword_ = std::move(isHeadword); }
-  [[nodiscard]] const text::IsHeadword& headwordTest() const { return isHeadword_; }
+  void setIsHeadword(text::IsHeadword isHeadword) { isHeadword_ = std::move(isHeadword); }
+  [[nodiscard]] const text::IsHeadword& isHeadword() const { return isHeadword_; }
 
   /// Returns the number of worker threads, including those that are to end but still wait for a
   /// window. For tests and measurements.

@@ -17,10 +17,10 @@ constexpr data::LookupOptions kRules{.lambdaUpperKey = true, .chineseMeaningFind
 }  // namespace
 
 PopupLookup::PopupLookup(const std::filesystem::path& database)
-    : test_(index_), lookup_(index_, kRules) {
+    : known_(index_), lookup_(index_, kRules) {
   const std::u16string file = data::connectionString(text::toUtf16(utf8Path(database)));
   control_.setConnectionString(file);
-  test_.setConnectionString(file);
+  known_.setConnectionString(file);
   index_ = data::readIndexWords(control_);
 }
 
@@ -28,7 +28,7 @@ bool PopupLookup::isHeadword(std::u16string_view word) {
   const std::u16string key = text::toLower(word);
   const auto known = headwords_.find(key);
   if (known != headwords_.end()) return known->second;
-  const bool found = test_.has(word);
+  const bool found = known_.has(word);
   headwords_.emplace(key, found);
   return found;
 }

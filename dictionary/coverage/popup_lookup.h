@@ -9,7 +9,6 @@
 
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
-#include "data/headword_test.h"
 #include "data/index_words.h"
 
 namespace dictionary {
@@ -43,7 +42,7 @@ class PopupLookup {
 
   data::DataControl control_;
   data::IndexWords index_;
-  data::HeadwordTest test_;
+  data::KnownHeadwords known_;
   data::HeadwordLookup lookup_;
   // What was found, by the word in lower case: case makes no difference to the lookups.
   std::unordered_map<std::u16string, bool> headwords_;

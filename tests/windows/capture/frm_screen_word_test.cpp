@@ -57,9 +57,9 @@ TEST_F(FrmScreenWord, LoadingStartsTheCycle) {
 
 TEST_F(FrmScreenWord, LoadingGivesTheServiceTheHeadwords) {
   host().unload();
-  EXPECT_FALSE(nhw32::service().headwordTest());
+  EXPECT_FALSE(nhw32::service().isHeadword());
   host();
-  const auto& isHeadword = nhw32::service().headwordTest();
+  const auto& isHeadword = nhw32::service().isHeadword();
   ASSERT_TRUE(isHeadword);
   EXPECT_TRUE(isHeadword(u"Data"));
   EXPECT_TRUE(isHeadword(u"it's"));

@@ -41,7 +41,7 @@ class Nhw32Service : public ::testing::Test {
   Nhw32Service() { nhw32::SetNHW32(); }
   ~Nhw32Service() override {
     nhw32::ResetNHW32();
-    nhw32::setHeadwordTest(nullptr);
+    nhw32::setIsHeadword(nullptr);
     EXPECT_TRUE(eventually([] { return nhw32::service().workers() == 0; }));
   }
 
@@ -72,7 +72,7 @@ TEST_F(Nhw32Service, HandsTextsOverInTheAnsiCodePage) {
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 1)), "\xD7\xD6\xB5\xE4");
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 4)), "don't");
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 10)), "cafe");
-  nhw32::setHeadwordTest([](std::u16string_view word) { return word == u"caf\u00E9"; });
+  nhw32::setIsHeadword([](std::u16string_view word) { return word == u"caf\u00E9"; });
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 10)), "caf\xA8\xA6");
 }
 
@@ -91,7 +91,7 @@ TEST_F(Nhw32Service, HandsOverTheFirstReadingThatIsAHeadword) {
   const std::set<std::u16string, std::less<>> headwords{
       u"man", u"well-known", u"well", u"known",      u"drag", u"CO2", u"it's",
       u"it",  u"e.g.",       u"cafe", u"associated", u"U.S.", u"st",  u"CO"};
-  nhw32::setHeadwordTest([&](std::u16string_view word) { return headwords.contains(word); });
+  nhw32::setIsHeadword([&](std::u16string_view word) { return headwords.contains(word); });
   for (const auto& [part, offset, word] : {std::tuple(u"man's", 1, "man"),
                                            {u"well-known", 6, "well-known"},
                                            {u"and-drag", 5, "drag"},
@@ -110,7 +110,7 @@ TEST_F(Nhw32Service, HandsOverTheFirstReadingThatIsAHeadword) {
 
 TEST_F(Nhw32Service, HandsNothingOverWhereLettersTouchDigits) {
   const HookedTextWindow target({}, u"the 1st day \r\nx");
-  nhw32::setHeadwordTest([](std::u16string_view word) { return word == u"st"; });
+  nhw32::setIsHeadword([](std::u16string_view word) { return word == u"st"; });
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 5)), "");
 }
 
@@ -118,7 +118,7 @@ TEST_F(Nhw32Service, HandsNothingOverWhereLettersTouchDigits) {
 TEST_F(Nhw32Service, AsksOnTheCallersThreadAndOnlyForAWordThatIsFetched) {
   const HookedTextWindow target({}, u"na\u00EFve-caf\u00E9's-r\u00E9sum\u00E9's word \r\nx");
   std::vector<DWORD> askers;
-  nhw32::setHeadwordTest([&](std::u16string_view) {
+  nhw32::setIsHeadword([&](std::u16string_view) {
     askers.push_back(GetCurrentThreadId());
     return false;
   });
@@ -140,7 +140,7 @@ TEST_F(Nhw32Service, AsksOnTheCallersThreadAndOnlyForAWordThatIsFetched) {
 
 TEST_F(Nhw32Service, TakesAFailingDictionaryForOneWithoutTheWord) {
   const HookedTextWindow target({}, u"man's word \r\nx");
-  nhw32::setHeadwordTest([](std::u16string_view) -> bool { throw std::runtime_error("damaged"); });
+  nhw32::setIsHeadword([](std::u16string_view) -> bool { throw std::runtime_error("damaged"); });
   EXPECT_EQ(host_.wordAt(pointOf(target.control(), 1)), "man");
 }
 

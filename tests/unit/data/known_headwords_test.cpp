@@ -1,4 +1,4 @@
-#include "data/headword_test.h"
+#include "data/headword_lookup.h"
 
 #include <gtest/gtest.h>
 
@@ -12,12 +12,12 @@
 
 namespace {
 
-/// A test of the words of a database file; the index is that file's.
+/// The headwords of a database file, with its index.
 class Words {
  public:
   explicit Words(const std::filesystem::path& file)
       : connection_(data::connectionString(text::toUtf16(file.string()))) {
-    test.setConnectionString(connection_);
+    known.setConnectionString(connection_);
   }
 
   void readIndex() {
@@ -31,38 +31,38 @@ class Words {
   data::IndexWords index_;
 
  public:
-  data::HeadwordTest test{index_};
+  data::KnownHeadwords known{index_};
 };
 
-TEST(HeadwordTest, HasTheHeadwordsWhateverTheirCase) {
+TEST(KnownHeadwords, HasTheHeadwordsWhateverTheirCase) {
   Words words(support::smallDatabase());
   words.readIndex();
   for (const std::u16string_view word : {u"bit", u"Bit", u"BIT", u"X-ray", u"it's", u"data"}) {
-    EXPECT_TRUE(words.test.has(word));
+    EXPECT_TRUE(words.known.has(word));
   }
 }
 
-TEST(HeadwordTest, HasNoOtherWords) {
+TEST(KnownHeadwords, HasNoOtherWords) {
   Words words(support::smallDatabase());
   words.readIndex();
   for (const std::u16string_view word :
        {u"", u"bits", u"bi", u"bi_", u"bi%", u"it''s", u"' or 1=1 --", u"zzzz", u"0", u" bit"}) {
-    EXPECT_FALSE(words.test.has(word));
+    EXPECT_FALSE(words.known.has(word));
   }
 }
 
 // Chinese ones are in the other table.
-TEST(HeadwordTest, HasNoChineseWords) {
+TEST(KnownHeadwords, HasNoChineseWords) {
   Words words(support::smallDatabase());
   words.readIndex();
-  EXPECT_FALSE(words.test.has(u"数据"));
-  EXPECT_FALSE(words.test.has(u"bi\u0142"));
+  EXPECT_FALSE(words.known.has(u"数据"));
+  EXPECT_FALSE(words.known.has(u"bi\u0142"));
 }
 
-TEST(HeadwordTest, FailsWhereTheDatabaseDoes) {
+TEST(KnownHeadwords, FailsWhereTheDatabaseDoes) {
   const support::TempFolder folder;
   Words words(folder.file(u"none.dat"));
-  EXPECT_THROW(words.test.has(u"bit"), data::Error);
+  EXPECT_THROW(words.known.has(u"bit"), data::Error);
 }
 
 }  // namespace
