@@ -38,13 +38,15 @@ void ResetNHW32();
 /// does nothing. Does nothing if the service is not started.
 void BL_SetFlag32(std::uint32_t flag, HWND window, std::int16_t x, std::int16_t y);
 
-/// Copies the announced word, "" if there is none, into `buffer`, and its rectangle in physical
-/// screen pixels into `word` (may be null; all 0 without a word). Of the readings of what is there,
-/// the first that is a headword counts, otherwise the word itself; "" if that touches digits
-/// ("1st"). The buffer holds `size` bytes and
-/// one more for the NUL; the text is in the ANSI code page and truncated at a character boundary.
-/// "" as well if the code page lacks a character of the word, or if another window has come to the
-/// foreground since it was armed.
+/// Copies the announced word into `buffer`: of the readings of what is there, the first that is a
+/// headword, otherwise the word itself (text::chooseReading). The buffer holds `size` bytes and one
+/// more for the NUL; the text is in the ANSI code page and truncated at a character boundary. The
+/// text is "" where
+/// - no word is announced, or another window has come to the foreground since it was armed;
+/// - letters touch digits ("1st") and no reading is a headword;
+/// - the code page lacks a character of the word.
+/// `word`, which may be null, receives the rectangle of what is there in physical screen pixels,
+/// also in the last two cases; all 0 in the first.
 void BL_GetText32(char* buffer, std::int32_t size, RECT* word);
 
 class Service;

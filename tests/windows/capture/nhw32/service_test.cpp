@@ -111,7 +111,10 @@ TEST_F(Nhw32Service, HandsOverTheFirstReadingThatIsAHeadword) {
 TEST_F(Nhw32Service, HandsNothingOverWhereLettersTouchDigits) {
   const HookedTextWindow target({}, u"the 1st day \r\nx");
   nhw32::setIsHeadword([](std::u16string_view word) { return word == u"st"; });
-  EXPECT_EQ(host_.wordAt(pointOf(target.control(), 5)), "");
+  const POINT point = pointOf(target.control(), 5);
+  EXPECT_EQ(host_.wordAt(point), "");
+  const RECT rect = host_.rect();
+  EXPECT_TRUE(PtInRect(&rect, point));
 }
 
 // The worker reads; the dictionary is the caller's.
