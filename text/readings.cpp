@@ -4,9 +4,8 @@
 #include <exception>
 #include <utility>
 
-#include "text/accents.h"
 #include "text/characters.h"
-#include "text/word_units.h"
+#include "text/word_characters.h"
 
 namespace text {
 namespace {

@@ -25,9 +25,9 @@ inline constexpr std::size_t kMaxReadings = 8;
 /// the last unit of the second part over the gap, the hyphen and the first part.
 inline constexpr std::size_t kMaxReach = (2 * kMaxReading) + kMaxGap + 2;
 
-/// One reading, spelled as in a dictionary (spelled() in word_units.h), and the half-open range of
-/// the text that it stands for: the possessive ending that the word lacks included; of a word that
-/// is divided at a line's end, both parts and what is between them.
+/// One reading, spelled as in a dictionary (spelled() in word_characters.h), and the half-open
+/// range of the text that it stands for: the possessive ending that the word lacks included; of a
+/// word that is divided at a line's end, both parts and what is between them.
 struct Reading {
   std::u16string word;
   std::size_t begin = 0;

@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-#include "text/word_units.h"
+#include "text/word_characters.h"
 
 namespace text {
 namespace {

@@ -11,7 +11,7 @@
 #include "text/order.h"
 #include "text/readings.h"
 #include "text/utf.h"
-#include "text/word_units.h"
+#include "text/word_characters.h"
 
 namespace dictionary {
 namespace {

@@ -4,8 +4,9 @@
 #include <string>
 #include <string_view>
 
-/// What a UTF-16 code unit of running text is to a word, and how words are spelled in dictionaries.
-/// All functions are pure.
+/// The characters of words: what a UTF-16 code unit of running text is to a word, how dictionaries
+/// spell it, and which letter it is without its accent. All functions are pure and throw nothing
+/// but std::bad_alloc.
 namespace text {
 
 enum class UnitKind : std::uint8_t {
@@ -32,7 +33,13 @@ inline constexpr char16_t kSoftHyphen = 0xAD;
 
 /// Returns `text` as dictionaries spell it: full-width forms and subscript digits as the ASCII
 /// ones, typographic hyphens, apostrophes and U+2013 as "-" and "'", ligatures (U+FB00 to U+FB06)
-/// as their letters, without soft hyphens. Letters keep their accents (see accents.h).
+/// as their letters, without soft hyphens. Letters keep their accents.
 std::u16string spelled(std::u16string_view text);
+
+/// Returns `word` without accents: each letter of Latin-1, Latin Extended-A, -B and Additional as
+/// the letter of A to Z that it is a form of, combining marks (U+0300 to U+036F) left out, and ß,
+/// æ, œ, þ and the like written out with two letters. Every other unit is unchanged, as are letters
+/// that are no form of one of A to Z, such as U+0292. The result may be longer than `word`.
+std::u16string withoutAccents(std::u16string_view word);
 
 }  // namespace text
