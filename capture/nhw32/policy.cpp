@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "text/characters.h"
+
 namespace nhw32 {
 namespace {
 
@@ -14,14 +16,11 @@ constexpr std::array<std::u16string_view, 4> kEditClasses{u"Edit", u"ThunderRT6T
 constexpr std::uint32_t kErrorSuccess = 0;
 constexpr std::uint32_t kErrorTimeout = 1460;
 
-constexpr char16_t lower(char16_t unit) {
-  return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
-}
-
 /// ASCII case-insensitive, as class names are for Windows.
 bool isEdit(std::u16string_view name) {
   return std::ranges::any_of(kEditClasses, [&](std::u16string_view known) {
-    return std::ranges::equal(known, name, {}, lower, lower);
+    return std::ranges::equal(known, name, {}, text::lowerAscii<char16_t>,
+                              text::lowerAscii<char16_t>);
   });
 }
 
