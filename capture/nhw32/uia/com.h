@@ -3,6 +3,7 @@
 // First: the other headers rest on it.
 #include <windows.h>
 
+#include <objbase.h>
 #include <oleauto.h>
 
 #include <cstddef>
@@ -52,13 +53,34 @@ class UniqueDoubleArray {
   UniqueDoubleArray() = default;
   UniqueDoubleArray(const UniqueDoubleArray&) = delete;
   UniqueDoubleArray& operator=(const UniqueDoubleArray&) = delete;
-  ~UniqueDoubleArray();
+  // A locked array cannot be destroyed.
+  ~UniqueDoubleArray() {
+    if (locked_) SafeArrayUnaccessData(array_);
+    SafeArrayDestroy(array_);
+  }
 
   /// For one call that stores an array.
   SAFEARRAY** out() { return &array_; }
   /// Returns the elements, valid as long as this object; empty if it is not a one-dimensional array
   /// of doubles. To be called once.
-  std::span<const double> values();
+  std::span<const double> values() {
+    VARTYPE type = VT_EMPTY;
+    LONG first = 0;
+    LONG last = -1;
+    void* data = nullptr;
+    if (locked_ || array_ == nullptr || SafeArrayGetDim(array_) != 1 ||
+        FAILED(SafeArrayGetVartype(array_, &type)) || type != VT_R8 ||
+        FAILED(SafeArrayGetLBound(array_, 1, &first)) ||
+        FAILED(SafeArrayGetUBound(array_, 1, &last)) || last < first ||
+        FAILED(SafeArrayAccessData(array_, &data))) {
+      return {};
+    }
+    // The data is valid while the array is locked; the destructor unlocks it.
+    locked_ = true;
+    // In 64 bits: the bounds may be any 32-bit numbers.
+    const auto count = static_cast<std::size_t>(static_cast<long long>(last) - first + 1);
+    return {static_cast<const double*>(data), count};
+  }
 
  private:
   SAFEARRAY* array_ = nullptr;
@@ -69,10 +91,13 @@ class UniqueDoubleArray {
 /// be destroyed on the same thread.
 class ScopedCom {
  public:
-  ScopedCom();
+  ScopedCom() : ready_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED))) {}
   ScopedCom(const ScopedCom&) = delete;
   ScopedCom& operator=(const ScopedCom&) = delete;
-  ~ScopedCom();
+  // Only a successful CoInitializeEx is to be balanced; S_FALSE (initialised already) is one.
+  ~ScopedCom() {
+    if (ready_) CoUninitialize();
+  }
 
   /// Returns false if the thread is in a single-threaded apartment already.
   [[nodiscard]] bool ready() const { return ready_; }
