@@ -153,7 +153,7 @@ class TextAtPoint {
     const auto [first, last] = readings.range();
     // Programs count CR LF as one character or as two: the ends of a word that a line's end divides
     // cannot be reached by counting. Its box is that of the character then.
-    if (text.substr(first, last - first).find_first_of(u"\r\n\v\u2028") != text.npos) {
+    if (text.substr(first, last - first).find_first_of(u"\r\n\v\u2028") != std::u16string::npos) {
       return Word{std::move(readings), cellBox};
     }
 
