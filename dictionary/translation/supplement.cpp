@@ -8,12 +8,6 @@
 namespace dictionary {
 namespace {
 
-/// The word in lower case, and its translation.
-struct Supplement {
-  std::u16string_view word;
-  std::u16string_view translation;
-};
-
 /// In the order of their code units. Contractions; words that the source only explains, refers to
 /// another spelling or writes with lost characters; abbreviations that it expands without
 /// translating them; names that it announces without giving them.
@@ -26,7 +20,6 @@ constexpr auto kSupplements = std::to_array<Supplement>({
     {u"benzodiazepine", u"n. 苯二氮䓬"},
     {u"betel", u"n. 蒌叶"},
     {u"broome", u"n. 布鲁姆（姓氏、地名）"},
-    {u"brownian", u"a. 布朗的"},
     {u"cambs", u"abbr. 剑桥郡"},
     {u"chalcedonian", u"a. 卡尔西登的"},
     {u"cobden", u"n. 科布登（姓氏）"},
@@ -48,29 +41,21 @@ constexpr auto kSupplements = std::to_array<Supplement>({
     {u"holistically", u"adv. 整体地, 全面地"},
     {u"hypercholesterolaemic", u"a. 高胆固醇血症的"},
     {u"i've", u"我已经, 我有"},
-    {u"largemouth", u"a. 大口的"},
     {u"lautrec", u"n. 劳特累克（姓氏）"},
     {u"leics", u"abbr. 莱斯特郡"},
     {u"leys", u"n. 草地"},
-    {u"lifelessness", u"n. 无生命, 枯燥无味"},
     {u"lindsay", u"n. 琳赛（女子名）, 林赛（姓氏）"},
     {u"mayn't", u"不可以, 可能不"},
-    {u"melba", u"n. 梅尔巴（女子名）"},
     {u"mem", u"n. 存储器, 内存"},
     {u"middx", u"abbr. 米德尔塞克斯郡"},
     {u"mutualistic", u"a. 互利共生的, 互助论的"},
-    {u"nalgo", u"abbr. 全国和地方政府官员协会"},
-    {u"natured", u"a. 性情…的, 本性…的"},
     {u"ordinator", u"n. 任命者"},
     {u"oughtn't", u"不应该, 不该"},
     {u"pacey", u"a. 快速的"},
-    {u"pasadena", u"n. 帕萨迪纳（美国城市）"},
     {u"patio", u"n. 露台, 天井, 庭院"},
     {u"phone-in", u"n. 听众来电直播节目"},
     {u"photonic", u"a. 光子的"},
-    {u"pickwick", u"n. 匹克威克（小说主角）"},
     {u"plata", u"n. 拉普拉塔（河名）"},
-    {u"powerpc", u"n. 威力芯片"},
     {u"quince", u"n. 榅桲"},
     {u"rata", u"n. 比例"},
     {u"retinoic", u"a. 视黄的"},
@@ -82,7 +67,6 @@ constexpr auto kSupplements = std::to_array<Supplement>({
     {u"substitutionary", u"a. 替代的, 代用的"},
     {u"swansong", u"n. 绝唱, 最后的作品"},
     {u"umm", u"interj. 嗯"},
-    {u"unpredictably", u"adv. 无法预料地, 不可预见地"},
     {u"utero", u"n. 子宫内"},
     {u"ver", u"n. 版本"},
     {u"vol", u"abbr. 卷, 册, 音量"},
@@ -98,58 +82,67 @@ constexpr auto kSupplements = std::to_array<Supplement>({
     {u"you'd", u"你会, 你已经"},
     {u"you'll", u"你将, 你会"},
     {u"yours faithfully", u"谨上, 谨启"},
-    {u"zon", u"n. 亚马逊"},
 });
 
-/// Contractions that the source expands, describes or has as something else; in the order of their
-/// code units.
+/// Contractions that the source expands, describes or has as something else, and words of which it
+/// translates an example, a person or the other word of a term, or divides a note; in the order of
+/// their code units.
 constexpr auto kCorrected = std::to_array<Supplement>({
+    {u"brownian", u"a. 布朗的"},
     {u"doesn't", u"不"},
     {u"haven't", u"没有, 尚未"},
     {u"here's", u"这是, 这里有"},
     {u"it'll", u"它将, 它会"},
     {u"it's", u"它是, 它有"},
+    {u"largemouth", u"n. 大口黑鲈"},
+    {u"lifelessness", u"n. 无生命, 枯燥无味"},
+    {u"melba", u"n. 梅尔巴（女子名）"},
     {u"mustn't", u"不准, 不得, 不可"},
     {u"needn't", u"不必, 不需要"},
+    {u"pickwick", u"n. 匹克威克（小说主角）"},
+    {u"powerpc", u"n. PowerPC微处理器"},
     {u"that's", u"那是, 那就是"},
     {u"they'd", u"他们会, 他们已经"},
     {u"they've", u"他们已经, 他们有"},
+    {u"unpredictably", u"adv. 无法预料地, 不可预见地"},
     {u"what's", u"什么是, 是什么"},
+    {u"zon", u"n. 亚马逊"},
 });
 
 /// Given names, in the order of their code units. The source ranks these words by their use as
 /// names.
 constexpr auto kGivenNames = std::to_array<Supplement>({
-    {u"al", u"n. 阿尔（男子名）"},          {u"alice", u"n. 爱丽丝（女子名）"},
-    {u"ben", u"n. 本（男子名）"},           {u"bill", u"n. 比尔（男子名）"},
-    {u"billy", u"n. 比利（男子名）"},       {u"bob", u"n. 鲍勃（男子名）"},
-    {u"bobby", u"n. 博比（男子名）"},       {u"carol", u"n. 卡萝尔（女子名）"},
-    {u"catherine", u"n. 凯瑟琳（女子名）"}, {u"charlie", u"n. 查利（男子名）"},
-    {u"charlotte", u"n. 夏洛特（女子名）"}, {u"dan", u"n. 丹（男子名）"},
-    {u"dean", u"n. 迪安（男子名）"},        {u"dick", u"n. 迪克（男子名）"},
-    {u"don", u"n. 唐（男子名）"},           {u"ed", u"n. 埃德（男子名）"},
-    {u"eric", u"n. 埃里克（男子名）"},      {u"frank", u"n. 弗兰克（男子名）"},
-    {u"graham", u"n. 格雷厄姆（男子名）"},  {u"guy", u"n. 盖伊（男子名）"},
-    {u"harry", u"n. 哈里（男子名）"},       {u"jack", u"n. 杰克（男子名）"},
-    {u"jake", u"n. 杰克（男子名）"},        {u"janet", u"n. 珍妮特（女子名）"},
-    {u"jenny", u"n. 珍妮（女子名）"},       {u"jerry", u"n. 杰里（男子名）"},
-    {u"jimmy", u"n. 吉米（男子名）"},       {u"john", u"n. 约翰（男子名）"},
-    {u"johnny", u"n. 约翰尼（男子名）"},    {u"josh", u"n. 乔希（男子名）"},
-    {u"ken", u"n. 肯（男子名）"},           {u"leo", u"n. 利奥（男子名）"},
-    {u"lewis", u"n. 刘易斯（男子名）"},     {u"matt", u"n. 马特（男子名）"},
-    {u"max", u"n. 马克斯（男子名）"},       {u"mike", u"n. 迈克（男子名）"},
-    {u"molly", u"n. 莫莉（女子名）"},       {u"nancy", u"n. 南希（女子名）"},
-    {u"nick", u"n. 尼克（男子名）"},        {u"norman", u"n. 诺曼（男子名）"},
-    {u"oliver", u"n. 奥利弗（男子名）"},    {u"pat", u"n. 帕特（男子名）"},
-    {u"peter", u"n. 彼得（男子名）"},       {u"phil", u"n. 菲尔（男子名）"},
-    {u"ray", u"n. 雷（男子名）"},           {u"rob", u"n. 罗布（男子名）"},
-    {u"robert", u"n. 罗伯特（男子名）"},    {u"roger", u"n. 罗杰（男子名）"},
-    {u"ron", u"n. 罗恩（男子名）"},         {u"rosa", u"n. 罗莎（女子名）"},
-    {u"ruth", u"n. 露丝（女子名）"},        {u"sally", u"n. 萨莉（女子名）"},
-    {u"sam", u"n. 萨姆（男子名）"},         {u"stella", u"n. 斯特拉（女子名）"},
-    {u"ted", u"n. 特德（男子名）"},         {u"terry", u"n. 特里（男子名）"},
-    {u"thomas", u"n. 托马斯（男子名）"},    {u"tom", u"n. 汤姆（男子名）"},
-    {u"tony", u"n. 托尼（男子名）"},        {u"victor", u"n. 维克托（男子名）"},
+    {u"al", u"n. 阿尔（男子名）"},       {u"alex", u"n. 亚历克斯（男子名）"},
+    {u"alice", u"n. 爱丽丝（女子名）"},  {u"ben", u"n. 本（男子名）"},
+    {u"bill", u"n. 比尔（男子名）"},     {u"billy", u"n. 比利（男子名）"},
+    {u"bob", u"n. 鲍勃（男子名）"},      {u"bobby", u"n. 博比（男子名）"},
+    {u"carol", u"n. 卡萝尔（女子名）"},  {u"catherine", u"n. 凯瑟琳（女子名）"},
+    {u"charlie", u"n. 查利（男子名）"},  {u"charlotte", u"n. 夏洛特（女子名）"},
+    {u"dan", u"n. 丹（男子名）"},        {u"dean", u"n. 迪安（男子名）"},
+    {u"dick", u"n. 迪克（男子名）"},     {u"don", u"n. 唐（男子名）"},
+    {u"ed", u"n. 埃德（男子名）"},       {u"eric", u"n. 埃里克（男子名）"},
+    {u"frank", u"n. 弗兰克（男子名）"},  {u"graham", u"n. 格雷厄姆（男子名）"},
+    {u"guy", u"n. 盖伊（男子名）"},      {u"harry", u"n. 哈里（男子名）"},
+    {u"jack", u"n. 杰克（男子名）"},     {u"jake", u"n. 杰克（男子名）"},
+    {u"janet", u"n. 珍妮特（女子名）"},  {u"jenny", u"n. 珍妮（女子名）"},
+    {u"jerry", u"n. 杰里（男子名）"},    {u"jimmy", u"n. 吉米（男子名）"},
+    {u"john", u"n. 约翰（男子名）"},     {u"johnny", u"n. 约翰尼（男子名）"},
+    {u"josh", u"n. 乔希（男子名）"},     {u"ken", u"n. 肯（男子名）"},
+    {u"leo", u"n. 利奥（男子名）"},      {u"lewis", u"n. 刘易斯（男子名）"},
+    {u"matt", u"n. 马特（男子名）"},     {u"max", u"n. 马克斯（男子名）"},
+    {u"mike", u"n. 迈克（男子名）"},     {u"molly", u"n. 莫莉（女子名）"},
+    {u"nancy", u"n. 南希（女子名）"},    {u"nick", u"n. 尼克（男子名）"},
+    {u"norman", u"n. 诺曼（男子名）"},   {u"oliver", u"n. 奥利弗（男子名）"},
+    {u"pat", u"n. 帕特（男子名）"},      {u"peter", u"n. 彼得（男子名）"},
+    {u"phil", u"n. 菲尔（男子名）"},     {u"ray", u"n. 雷（男子名）"},
+    {u"rob", u"n. 罗布（男子名）"},      {u"robert", u"n. 罗伯特（男子名）"},
+    {u"roger", u"n. 罗杰（男子名）"},    {u"ron", u"n. 罗恩（男子名）"},
+    {u"rosa", u"n. 罗莎（女子名）"},     {u"ruth", u"n. 露丝（女子名）"},
+    {u"sally", u"n. 萨莉（女子名）"},    {u"sam", u"n. 萨姆（男子名）"},
+    {u"stella", u"n. 斯特拉（女子名）"}, {u"ted", u"n. 特德（男子名）"},
+    {u"terry", u"n. 特里（男子名）"},    {u"thomas", u"n. 托马斯（男子名）"},
+    {u"tom", u"n. 汤姆（男子名）"},      {u"tony", u"n. 托尼（男子名）"},
+    {u"victor", u"n. 维克托（男子名）"},
 });
 
 static_assert(std::ranges::is_sorted(kSupplements, {}, &Supplement::word));
@@ -164,6 +157,12 @@ std::u16string_view translationIn(const Table& table, std::u16string_view word) 
 }
 
 }  // namespace
+
+std::span<const Supplement> supplements() { return kSupplements; }
+
+std::span<const Supplement> corrections() { return kCorrected; }
+
+std::span<const Supplement> givenNames() { return kGivenNames; }
 
 std::u16string_view supplementaryTranslation(std::u16string_view word) {
   return translationIn(kSupplements, word);

@@ -7,10 +7,13 @@
 #include <filesystem>
 #include <fstream>
 #include <set>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "dictionary/coverage/popup_lookup.h"
+#include "dictionary/translation/entry.h"
+#include "dictionary/translation/supplement.h"
 #include "text/order.h"
 #include "text/utf.h"
 
@@ -115,5 +118,27 @@ TEST_F(CommonWords, HaveNothingThatMisleads) {
     }
   }
 }
+
+/// Expects the equivalents that `table` gives its words among the rows of these.
+void expectRows(dictionary::PopupLookup& lookup, std::span<const dictionary::Supplement> table) {
+  for (const dictionary::Supplement& one : table) {
+    const Texts meanings = lookup.meanings(one.word);
+    const auto entry = dictionary::extractEntry({text::toUtf8(one.word), ""});
+    for (const dictionary::TranslationLine& line : entry.value().lines) {
+      for (const dictionary::Piece& piece : line.pieces) {
+        EXPECT_EQ(std::ranges::count(meanings, piece.equivalent.word), 1)
+            << text::toUtf8(one.word) << " lacks " << text::toUtf8(piece.equivalent.word)
+            << ", has " << joined(meanings);
+      }
+    }
+  }
+}
+
+// A supplement for a word that has a translation in the source changes nothing, and nobody sees it.
+TEST_F(CommonWords, HaveTheirSupplements) { expectRows(lookup_, dictionary::supplements()); }
+
+TEST_F(CommonWords, HaveTheirCorrections) { expectRows(lookup_, dictionary::corrections()); }
+
+TEST_F(CommonWords, HaveTheirGivenNames) { expectRows(lookup_, dictionary::givenNames()); }
 
 }  // namespace

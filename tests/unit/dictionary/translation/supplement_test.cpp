@@ -7,6 +7,7 @@
 
 #include "dictionary/arrange/senses.h"
 #include "dictionary/translation/entry.h"
+#include "text/utf.h"
 
 namespace {
 
@@ -59,9 +60,27 @@ TEST(Supplement, DividesItsLines) {
   EXPECT_EQ(equivalents("antinomian", "a. 〈宗〉(基)"), (Words{u"反律法主义的", u"反律法主义者"}));
 }
 
+// A text that the parser refuses would leave its word without a row.
+TEST(Supplement, HasTextsThatTheParserTakesWhole) {
+  for (const auto table : {dictionary::supplements(), dictionary::corrections()}) {
+    for (const dictionary::Supplement& one : table) {
+      const auto entry = dictionary::extractEntry({text::toUtf8(one.word), ""});
+      ASSERT_TRUE(entry) << text::toUtf8(one.word);
+      EXPECT_FALSE(entry->lines.empty()) << text::toUtf8(one.word);
+      for (const auto& line : entry->lines) {
+        EXPECT_FALSE(line.pieces.empty()) << text::toUtf8(one.word);
+        for (const auto& piece : line.pieces) {
+          EXPECT_EQ(piece.equivalent.fault, dictionary::PieceFault::kNone)
+              << text::toUtf8(one.word);
+        }
+      }
+    }
+  }
+}
+
 // A table whose order is broken finds some of its words and not others.
 TEST(Supplement, FindsEveryWordWithoutRegardToCase) {
-  for (const std::u16string_view word : {u"adml", u"Brownian", u"I've", u"PATIO", u"you'll"}) {
+  for (const std::u16string_view word : {u"adml", u"Betel", u"I've", u"PATIO", u"you'll"}) {
     EXPECT_FALSE(dictionary::supplementaryTranslation(word).empty());
   }
   EXPECT_TRUE(dictionary::supplementaryTranslation(u"patios").empty());
@@ -82,6 +101,23 @@ TEST(Corrections, TakeThePlaceOfAnExpansionOrDescription) {
   EXPECT_EQ(senses("It's", "it is的缩写, it has的缩写"), (Words{u"它是", u"它有"}));
 }
 
+// "brownian | a. 苏格兰的植物学家Robert Brown 的", "melba | 梅尔巴(女子名) Nellie
+// 内利梅抱(1861-1931)澳大利亚花腔女高音歌唱家", "zon | n. [暗黑破坏神]见"ama"": what the source has
+// is an equivalent, so that no supplement would be asked for.
+TEST(Corrections, TakeThePlaceOfADescription) {
+  EXPECT_EQ(senses("brownian", "a. 苏格兰的植物学家Robert Brown 的"), (Words{u"布朗的"}));
+  EXPECT_EQ(senses("melba", "梅尔巴(女子名) Nellie 内利梅抱(1861-1931)澳大利亚花腔女高音歌唱家"),
+            (Words{u"梅尔巴"}));
+  EXPECT_EQ(senses("pickwick", "n. Dickens 著 Pickwick Papers 中的主角"), (Words{u"匹克威克"}));
+  EXPECT_EQ(senses("largemouth", "bass,large-mouthed[-maJTd](black)bass[鱼]黑鲈"),
+            (Words{u"大口黑鲈"}));
+  EXPECT_EQ(senses("powerpc", "n. IBM和Apple公司联合生产的个人台式机"),
+            (Words{u"PowerPC微处理器"}));
+  EXPECT_EQ(senses("unpredictably", "adv. 无法预言地）；不可预见地（不能预料地"),
+            (Words{u"无法预料地", u"不可预见地"}));
+  EXPECT_EQ(senses("zon", "n. [暗黑破坏神]见\"ama\""), (Words{u"亚马逊"}));
+}
+
 TEST(Corrections, AddAGivenNameToOtherMeanings) {
   EXPECT_EQ(senses("john", "n. 盥洗室, 厕所, 嫖客"), (Words{u"盥洗室", u"厕所", u"嫖客", u"约翰"}));
   const auto entry = dictionary::extractEntry({"John", "n. 厕所"});
@@ -94,12 +130,6 @@ TEST(Corrections, LeaveOtherWordsAlone) {
     EXPECT_TRUE(dictionary::correctedTranslation(word).empty());
     EXPECT_TRUE(dictionary::missingGivenName(word).empty());
   }
-}
-
-// "unpredictably | unpredictable的变形"
-TEST(Supplement, TranslatesWordsThatAreOnlyReferredToAnother) {
-  EXPECT_EQ(equivalents("unpredictably", "unpredictable的变形"),
-            (Words{u"unpredictable的变形", u"无法预料地", u"不可预见地"}));
 }
 
 }  // namespace
