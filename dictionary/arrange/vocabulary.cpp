@@ -161,13 +161,15 @@ void PairCollector::addMissingForms() {
 std::size_t PairCollector::add(const Entry& entry) {
   recordForms(entry);
   const std::vector<Sense> senses = sensesOf(entry);
-  if (senses.empty() && !entry.references.empty()) {
+  const bool ordinary = std::ranges::any_of(
+      senses, [](const Sense& sense) { return sense.kind == SenseKind::kOrdinary; });
+  if (!ordinary && !entry.references.empty()) {
     Reference reference{entry.headword, {}, entry.important};
     for (const std::u16string& other : entry.references) {
       reference.others.push_back(text::toLower(other));
     }
     references_.push_back(std::move(reference));
-    return 0;
+    if (senses.empty()) return 0;
   }
   if (senses.empty()) return addForm(entry, senses);
   addHeadword(entry.headword, entry.rank, entry.important);

@@ -69,11 +69,11 @@ struct Vocabulary {
 /// Makes the vocabulary: takes the entries one by one, rates their pairs and sorts them in the end.
 class PairCollector {
  public:
-  /// Adds the entry's pairs and returns their number. Copies the texts. An entry that has none but
-  /// refers to another headword gets the first four of that one's pairs in finish(). An entry that
-  /// is a form of another word gets that one's first equivalents there, unless its own translation
-  /// gives them, which then are as important as that word, or is what readers most often mean by
-  /// it.
+  /// Adds the entry's pairs and returns their number. Copies the texts. An entry that has no
+  /// ordinary equivalent but refers to another headword gets the first four of that one's pairs in
+  /// finish(). An entry that is a form of another word gets that one's first equivalents there,
+  /// unless its own translation gives them, which then are as important as that word, or is what
+  /// readers most often mean by it.
   std::size_t add(const Entry& entry);
 
   /// Returns everything added, sorted; words that are equal in the text order (they differ in case

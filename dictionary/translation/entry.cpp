@@ -20,7 +20,7 @@
 #include "dictionary/translation/bracketed_text.h"
 #include "dictionary/translation/brackets.h"
 #include "dictionary/translation/explanations.h"
-#include "dictionary/translation/headword_rest.h"
+#include "dictionary/translation/foreign_words.h"
 #include "dictionary/translation/names.h"
 #include "dictionary/translation/part_of_speech.h"
 #include "dictionary/translation/pieces.h"
@@ -231,13 +231,16 @@ std::vector<Piece> LineParser::pieces() {
 }
 
 /// The headword that the piece refers to if it is nothing else: "= groundsheet", "见metal
-/// detector", "即Ezekiel".
+/// detector", "即Ezekiel", "同“diameter”".
 std::optional<std::u16string> referenceIn(const Piece& piece) {
   if (piece.equivalent.fault == PieceFault::kNone) return std::nullopt;
   const std::u16string text = foldBlanks(withoutNotes(piece.noted));
-  constexpr std::u16string_view kSigns = u"=＝见即";
+  constexpr std::u16string_view kSigns = u"=＝见即同";
   if (text.empty() || kSigns.find(text[0]) == std::u16string_view::npos) return std::nullopt;
-  const std::u16string_view other = std::u16string_view(text).substr(1);
+  std::u16string_view other = std::u16string_view(text).substr(1);
+  if (other.size() > 1 && quotationEnd(other, 0) == other.size()) {
+    other = other.substr(1, other.size() - 2);
+  }
   return std::ranges::all_of(other, isForeign) ? headword(other) : std::nullopt;
 }
 
@@ -279,6 +282,18 @@ void removeLeadIns(TranslationLine& line) {
   }
 }
 
+/// Takes foreign words that are not part of them off the equivalents. Those from the web stay: they
+/// are terms of which a word was left untranslated ("katabatic风").
+void removeForeignWords(TranslationLine& line, std::u16string_view headword) {
+  for (Piece& piece : line.pieces) {
+    Equivalent& equivalent = piece.equivalent;
+    const bool web = (piece.subjects & setOf(Subject::kWeb)) != 0;
+    if (web || equivalent.fault != PieceFault::kNone) continue;
+    equivalent.word = std::u16string(withoutForeignWords(equivalent.word, headword));
+    if (equivalent.word.empty()) equivalent.fault = PieceFault::kLabel;
+  }
+}
+
 /// Parses `translation` and adds its lines and references.
 void addLines(Entry& entry, std::u16string_view translation) {
   bool inCommand = false;
@@ -287,6 +302,7 @@ void addLines(Entry& entry, std::u16string_view translation) {
     if (inCommand && readHead(line, true, false).length == 0) continue;
     entry.lines.push_back(parseLine(line));
     if (isWordElement(entry.headword)) removeLeadIns(entry.lines.back());
+    removeForeignWords(entry.lines.back(), entry.headword);
     inCommand = entry.lines.back().endsInCommand;
     for (const Piece& piece : entry.lines.back().pieces) {
       if (const auto reference = referenceIn(piece)) entry.references.push_back(*reference);

@@ -14,6 +14,7 @@
 #include "dictionary/source/characters.h"
 #include "dictionary/translation/bracketed_text.h"
 #include "dictionary/translation/brackets.h"
+#include "dictionary/translation/foreign_words.h"
 #include "dictionary/translation/pieces.h"
 
 namespace dictionary {
@@ -128,39 +129,6 @@ std::u16string withoutQuotes(std::u16string_view text) {
   return std::u16string(quoted) + std::u16string(text.substr(end));
 }
 
-/// Removes the foreign words before a blank and the Chinese text: the expansion of an abbreviation
-/// ("National Gallery 国家美术馆"), or forms of the headword ("-dled, -dling 逃走"). Words before
-/// 的 are what it refers to ("Black Sea 的古名"); of these only a part-of-speech mark is removed.
-std::u16string_view withoutExpansion(std::u16string_view text, bool abbreviation) {
-  const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
-  std::size_t length = 0;
-  while (length < text.size() && (isForeign(text[length]) || text[length] == u'′')) ++length;
-  const std::u16string_view foreign = text.substr(0, length);
-  const auto blanks = std::ranges::count(foreign, u' ');
-  const bool parted = foreign.ends_with(u' ') || (abbreviation && blanks > 1);
-  if (length == text.size() || length < 2 || !isHan(text[length]) || !parted) return text;
-  if (text[length] == u'的') return text.substr(text.starts_with(u"v ") ? 2 : 0);
-  const auto small = std::ranges::count_if(foreign, isSmall);
-  const bool words =
-      isLatin(foreign[0]) && small > 1 && (abbreviation || std::ranges::count(foreign, u' ') > 1);
-  const bool forms = foreign[0] == u'-' && small > 0;
-  return words || forms ? text.substr(length) : text;
-}
-
-/// Removes the expansion of an abbreviation after its translation ("商用货架产品 commercial
-/// off-the-shelf"): two words or more with more than four small letters.
-std::u16string_view withoutTail(std::u16string_view text) {
-  const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
-  std::size_t begin = text.size();
-  while (begin > 0 && isForeign(text[begin - 1])) --begin;
-  const std::u16string_view foreign = text.substr(begin);
-  const bool reference = begin == 1 && text[0] == u'见';  // to another entry: "见 Bohai Sea"
-  const bool words = begin > 0 && isHan(text[begin - 1]) && !reference &&
-                     foreign.find(u' ', 1) != std::u16string_view::npos &&
-                     std::ranges::count_if(foreign, isSmall) > 4;
-  return words ? text.substr(0, begin) : text;
-}
-
 /// Letters of all alphabets in the source, Greek included, are below it; from U+2000 on there are
 /// punctuation marks, symbols and Han characters.
 constexpr char16_t kAlphabetsEnd = 0x2000;
@@ -252,13 +220,15 @@ bool hasLooseEnds(std::u16string_view word) {
 constexpr std::array kForms = {u"简写"sv, u"缩写"sv,     u"变形"sv,     u"变体"sv,   u"复数"sv,
                                u"形式"sv, u"过去分词"sv, u"现在分词"sv, u"过去式"sv, u"写法"sv};
 
-/// "见 -ion" and "即Ezekiel" refer to another entry, "的复数" is what remains after a foreign word
-/// is removed, and "dragon lady 的意思是" precedes an explanation.
-bool isReference(std::u16string_view word) {
+/// "见 -ion", "即Ezekiel" and "同“abbreviation”" refer to another entry, "的复数" is what remains
+/// after a foreign word is removed, and "dragon lady 的意思是" precedes an explanation.
+bool refersElsewhere(std::u16string_view word) {
   const bool sees = word.size() > 1 && word[0] == u'见' && (isLatin(word[1]) || word[1] == u'-');
-  const bool same =
-      word.size() > 1 && word[0] == u'即' && std::ranges::all_of(word.substr(1), isForeign);
-  const bool elsewhere = sees || same;
+  const bool same = word.size() > 1 && (word[0] == u'即' || word[0] == u'同') &&
+                    std::ranges::all_of(word.substr(1), isForeign);
+  const bool quoted = word.size() > 2 && (word[0] == u'见' || word[0] == u'同') &&
+                      word[1] == u'“' && isLatin(word[2]) && word.ends_with(u'”');
+  const bool elsewhere = sees || same || quoted;
   const bool form = std::ranges::any_of(kForms, [&](auto end) { return word.ends_with(end); });
   const bool meaning = isLatin(word[0]) && word.find(u"的意思是") != std::u16string_view::npos;
   return elsewhere || (form && word.starts_with(u'的')) || meaning;
@@ -283,7 +253,7 @@ PieceFault findFault(std::u16string_view word) {
   if (!std::ranges::all_of(word, isAllowed)) return PieceFault::kPunctuation;
   if (hasLooseEnds(word)) return PieceFault::kPunctuation;
   if (word.size() > kMaxWord || hanCount(word) > kMaxHan) return PieceFault::kTooLong;
-  if (isReference(word) || std::ranges::find(kLabels, word) != kLabels.end()) {
+  if (refersElsewhere(word) || std::ranges::find(kLabels, word) != kLabels.end()) {
     return PieceFault::kLabel;
   }
   return PieceFault::kNone;

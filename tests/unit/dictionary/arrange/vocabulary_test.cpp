@@ -78,6 +78,17 @@ TEST(PairCollector, FollowsReferences) {
   EXPECT_EQ(tierOf(vocabulary, u"铺地防潮布"), Tier::kOrdinary);
 }
 
+// "leucaemia | n. 同“leukemia”\n[网络] 白血病"
+TEST(PairCollector, FollowsReferencesBesideWhatIsFromTheWeb) {
+  const Vocabulary vocabulary = collect(
+      {entry("leucaemia", "n. 同“leukemia”\\n[网络] 白血病"), entry("leukemia", "n. 白血球过多症"),
+       entry("wake", "v. 唤醒"), entry("woke up", "na. 同“wake”；叫醒")});
+  EXPECT_EQ(texts(vocabulary),
+            (std::vector<std::u16string>{u"leucaemia=白血病", u"leucaemia=白血球过多症",
+                                         u"leukemia=白血球过多症", u"wake=唤醒", u"woke up=叫醒"}));
+  EXPECT_EQ(pairOf(vocabulary, u"leucaemia", u"白血球过多症").tier, Tier::kFirst);
+}
+
 TEST(PairCollector, GivesEqualPairsTheBestTierAndPosition) {
   const Vocabulary tier = collect({entry("bit", "n. 位"), entry("Bit", "n. 甲, 位", true)});
   EXPECT_EQ(pairOf(tier, u"bit", u"位").tier, Tier::kImportant);

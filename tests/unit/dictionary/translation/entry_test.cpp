@@ -252,6 +252,9 @@ TEST(ExtractEntry, ReferencesAreAlsoThoseWithAVerb) {
   EXPECT_EQ(entryOf("即Ezekiel").references, (Texts{u"Ezekiel"}));
   EXPECT_EQ(wordsOf("即Ezekiel"), Texts());
   EXPECT_EQ(entryOf("Lake见Dongting Lake").references, (Texts{u"Dongting Lake"}));
+  EXPECT_EQ(entryOf("na. 同“diameter”；“di.”的变体").references, (Texts{u"diameter"}));
+  EXPECT_EQ(wordsOf("na. 同\"stir\"；叫醒"), (Texts{u"叫醒"}));
+  EXPECT_EQ(entryOf("同 nolo contendere").references, (Texts{u"nolo contendere"}));
   EXPECT_EQ(entryOf("即 TCP协议").references, Texts());
   EXPECT_EQ(entryOf("见").references, Texts());
   EXPECT_EQ(wordsOf("vi. 见"), (Texts{u"见"}));
@@ -280,6 +283,13 @@ TEST(ExtractEntry, OfAWordElementHasItsMeaningWithoutTheLeadIn) {
   EXPECT_EQ(wordsOfElement("oleo-", "表示(=oil, =olein)\"油\""), (Texts{u"油"}));
   EXPECT_EQ(wordsOfElement("dors-", "表示之义, 背"), (Texts{u"", u"背"}));
   EXPECT_EQ(wordsOfElement("hunger strike", "n. 表示抗议的绝食"), (Texts{u"表示抗议的绝食"}));
+}
+
+// "bibliog | bibliographic 书目的；bibliographical 书目的", "coelenterate genus | [网络]
+// coelenterata属"
+TEST(ExtractEntry, LeavesOutForeignWordsButInWhatIsFromTheWeb) {
+  EXPECT_EQ(wordsOf("n. origin 起源, 本源; novice等"), (Texts{u"起源", u"本源"}));
+  EXPECT_EQ(wordsOf("[网络] katabatic风"), (Texts{u"katabatic风"}));
 }
 
 TEST(ParseLine, TakesEveryItemOfAListOfPlacesForOne) {
