@@ -32,7 +32,7 @@ struct Candidate {
   std::size_t line = 0;
   bool subject = false;
   bool slang = false;
-  bool program = false;  ///< see namesProgram()
+  bool program = false;  ///< see namesProgram() and isExpansion()
   /// Best place in another line that repeats it, from 0.
   std::size_t repeated = std::numeric_limits<std::size_t>::max();
 };
@@ -47,6 +47,30 @@ bool namesProgram(const Piece& piece) {
   return (piece.subjects & setOf(Subject::kComputing)) != 0 &&
          (std::ranges::any_of(word, isAsciiLetter) ||
           std::ranges::any_of(kEndings, [&](auto ending) { return word.ends_with(ending); }));
+}
+
+/// Returns whether the entry translates an ordinary word: whether a line that names its part of
+/// speech has an equivalent that is of no subject.
+bool isWord(const Entry& entry) {
+  return std::ranges::any_of(entry.lines, [](const TranslationLine& line) {
+    return line.parts != 0 && std::ranges::any_of(line.pieces, [](const Piece& piece) {
+             return piece.subjects == 0 && !piece.equivalent.word.empty();
+           });
+  });
+}
+
+/// Returns whether a sense of a short word is what an abbreviation in capitals stands for: a long
+/// one from a line of computing, or from a line that names neither a subject nor a part of speech:
+/// "cat | n. 猫, 恶妇\nvi. 呕吐\n计算机辅助教育, 计算机辅助测试\n[计] 计算机辅助排字". Only the
+/// length tells: translations of the word itself are shorter.
+bool isExpansion(const Entry& entry, const TranslationLine& line, const Piece& piece) {
+  constexpr std::size_t kLongestAbbreviation = 5;
+  constexpr auto kShortestExpansion = 5;
+  const bool computing = (piece.subjects & setOf(Subject::kComputing)) != 0;
+  const bool bare = line.parts == 0 && piece.subjects == 0;
+  return entry.headword.size() <= kLongestAbbreviation && (computing || bare) &&
+         !inflectionIn(piece.equivalent.word) &&
+         std::ranges::count_if(piece.equivalent.word, isHan) >= kShortestExpansion && isWord(entry);
 }
 
 bool isOrdinary(const Candidate& candidate) { return candidate.sense.kind == SenseKind::kOrdinary; }
@@ -67,6 +91,8 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
           // "n. 使用, 习惯\nvt. 使用, 利用": a noun's equivalent and a verb's.
           known->sense.parts = static_cast<PartOfSpeechSet>(known->sense.parts | line.parts);
           if (known->line != i) known->repeated = std::min(known->repeated, place);
+          // "gap | n. 缝隙, 通用汇编程序\n[计] 通用汇编程序"
+          if (isExpansion(entry, line, piece)) known->program = true;
           ++place;
           continue;
         }
@@ -76,7 +102,7 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
                               i,
                               piece.subjects != 0,
                               piece.slang,
-                              namesProgram(piece)});
+                              namesProgram(piece) || isExpansion(entry, line, piece)});
       }
     }
   }

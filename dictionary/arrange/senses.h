@@ -37,7 +37,8 @@ inline bool isCommon(const Entry& entry) { return entry.rank > 0 && entry.rank <
 ///   from the entry's lines, that is, from its parts of speech;
 /// - among these at most two of a subject, which that subject's dictionary has as well, and none if
 ///   the word is a function word or one of the most frequent, or if all else is the name of a form;
-/// - no slang, no program, command or protocol of computing, and none from the web.
+/// - no slang, no program, command or protocol of computing, nothing that the word in capitals
+///   stands for as an abbreviation ("cat": 计算机辅助测试), and none from the web.
 /// The last two hold only beside an ordinary sense that is neither slang nor of a subject.
 std::vector<Sense> sensesOf(const Entry& entry);
 

@@ -89,6 +89,29 @@ TEST(Senses, OfACommonWordAreNoProgramsNorCommands) {
       << "there is nothing else";
 }
 
+TEST(Senses, OfACommonWordAreNoExpansionsOfAnAbbreviation) {
+  const std::string cat =
+      "n. 猫, 恶妇\\nvi. 呕吐\\n计算机辅助教育, 计算机辅助测试\\n[计] 计算机辅助教学, 词目";
+  EXPECT_EQ(words(entry("cat", cat, 1712)), (Words{u"猫", u"恶妇", u"呕吐", u"词目"}));
+  EXPECT_EQ(words(entry("cat", cat, kRare)).size(), 7U);
+  EXPECT_EQ(words(entry("gap", "n. 缝隙, 通用汇编装置\\n[计] 通用汇编装置, 间距", 1988)),
+            (Words{u"缝隙", u"间距"}))
+      << "it is one wherever it stands";
+  EXPECT_EQ(words(entry("lamps", "n. 灯\\n[计] 逻辑模拟系统", 3340)), (Words{u"灯"}));
+  EXPECT_EQ(words(entry("tables", "n. 桌子\\n[计] 模拟运算表", 410)),
+            (Words{u"桌子", u"模拟运算表"}))
+      << "a longer word is no abbreviation";
+  EXPECT_EQ(words(entry("rose", "n. 玫瑰\\nrise的过去式", 2179)),
+            (Words{u"玫瑰", u"rise的过去式"}));
+  EXPECT_EQ(words(entry("legal", "a. 法律的\\n[法] 法律上规定的", 764)),
+            (Words{u"法律的", u"法律上规定的"}));
+}
+
+TEST(Senses, OfAnAbbreviationAreItsExpansions) {
+  EXPECT_EQ(words(entry("IBM", "美国国际商用机器公司\\n[计] 国际商用机器公司", 1909)).size(), 2U);
+  EXPECT_EQ(words(entry("ceo", "abbr. 首席执行官员", 3000)), (Words{u"首席执行官员"}));
+}
+
 TEST(Senses, OfAFunctionWordAreNoneOfASubject) {
   EXPECT_EQ(words(entry("at", "prep. 在, 对, 向\\n[计] 地址转换器", 19)),
             (Words{u"在", u"对", u"向"}));
