@@ -59,9 +59,15 @@ ExitCode runCheck(const std::vector<std::string>& arguments, std::ostream& out) 
       << grouped(result.subjectRows) << " rows\n"
       << grouped(result.cutLists) << " of " << grouped(result.chineseLists) << " Chinese lists ("
       << percentage(result.cutLists, result.chineseLists)
-      << ") end with a headword of which not all meanings are shown\n"
-      << (facts ? "" : "the rules about the source are not checked without it\n")
-      << (result.findings.empty() ? (facts ? "all rules are kept\n" : "all other rules are kept\n")
+      << ") end with a headword of which not all meanings are shown\n";
+  if (facts) {
+    out << grouped(result.untranslatedWords)
+        << " important words have no Chinese text in the source; "
+        << grouped(result.untranslatedWithoutRow) << " of them have no row\n";
+  } else {
+    out << "the rules about the source are not checked without it\n";
+  }
+  out << (result.findings.empty() ? (facts ? "all rules are kept\n" : "all other rules are kept\n")
                                   : "the database breaks the rules above\n");
   return result.findings.empty() ? kSuccess : kFailed;
 }

@@ -32,7 +32,7 @@ CheckResult checkOpened(sqlite3* connection, const SourceFacts* facts) {
   checkReach(tables, result);
   checkSubjects(connection, result);
   checkLabels(tables.cdict, result.findings);
-  if (facts != nullptr) checkSourceFacts(connection, *facts, tables, result.findings);
+  if (facts != nullptr) checkSourceFacts(connection, *facts, tables, result);
   return result;
 }
 

@@ -100,6 +100,9 @@ struct CheckResult {
   /// headword that has rows after those searched, so that choosing it shows some meanings only.
   std::size_t chineseLists = 0;
   std::size_t cutLists = 0;
+  /// Important headwords for which the source has no Chinese text, and those of them without a row.
+  std::size_t untranslatedWords = 0;
+  std::size_t untranslatedWithoutRow = 0;
 };
 
 }  // namespace dictionary

@@ -28,8 +28,8 @@ namespace {
 using namespace std::string_view_literals;
 
 /// What the source calls commands of DOS, before a colon and what they do.
-constexpr std::array kCommandLabels = {u"DOS内部命令"sv, u"DOS外部命令"sv, u"DOS批处理命令"sv,
-                                       u"DOS命令"sv};
+constexpr std::array kCommandLabels = {u"DOS内部命令"sv, u"DOS外部命令"sv,     u"DOS批处理命令"sv,
+                                       u"DOS命令"sv,     u"DOS设备驱动程序"sv, u"DOS驱动程序"sv};
 
 /// Marks between the pieces of a translation.
 constexpr std::u16string_view kSeparators = u",，;；、";
@@ -115,6 +115,14 @@ void checkImportant(const SourceFacts& facts, const Rows& rows, Findings& findin
   }
 }
 
+/// Of words that the source does not translate, only their number is reported: for some of them the
+/// dictionary has a translation of its own, but it cannot have one for any word.
+void countUntranslated(const SourceFacts& facts, const Rows& rows, CheckResult& result) {
+  result.untranslatedWords = facts.untranslated.size();
+  result.untranslatedWithoutRow = static_cast<std::size_t>(std::ranges::count_if(
+      facts.untranslated, [&](const std::u16string& word) { return rows.of(word).empty(); }));
+}
+
 void checkDescriptions(const SourceFacts& facts, const Rows& rows, Findings& findings) {
   for (const SourceText& fact : facts.descriptions) {
     const std::vector<std::u16string> meanings = rows.of(fact.headword);
@@ -163,7 +171,9 @@ void SourceFacts::add(const SourceEntry& entry) {
   const std::optional<std::u16string> word = headword(text::toUtf16(entry.word));
   if (!word) return;
   const std::u16string translation = text::toUtf16(entry.translation);
-  if (entry.important && std::ranges::any_of(translation, isHan)) important.push_back(*word);
+  if (entry.important) {
+    (std::ranges::any_of(translation, isHan) ? important : untranslated).push_back(*word);
+  }
   std::u16string_view rest = translation;
   while (!rest.empty()) {
     constexpr std::u16string_view kLineBreak = u"\\n";  // two characters in the source
@@ -188,12 +198,17 @@ SourceFacts readSourceFacts(const std::filesystem::path& source) {
 }
 
 bool isLabel(std::u16string_view word) {
-  constexpr std::array kAlone = {u"人名"sv, u"亦作"sv,   u"又作"sv,
-                                 u"略作"sv, u"之缩写"sv, u"的缩写"sv};
+  constexpr std::array kAlone = {u"人名"sv,   u"亦作"sv,   u"又作"sv, u"略作"sv,
+                                 u"之缩写"sv, u"的缩写"sv, u"尤指"sv, u"特指"sv};
   constexpr std::array kBrands = {u"服装名牌"sv, u"世界名车"sv};
+  // "海宁全名: Justine Henin"; 全名 itself is what "full name" means.
+  constexpr std::array kAfterName = {u"全名"sv, u"总部所在地"sv};
   return std::ranges::find(kAlone, word) != kAlone.end() ||
          std::ranges::find(kCommandLabels, word) != kCommandLabels.end() ||
-         std::ranges::any_of(kBrands, [&](auto brand) { return word.ends_with(brand); });
+         std::ranges::any_of(kBrands, [&](auto brand) { return word.ends_with(brand); }) ||
+         std::ranges::any_of(kAfterName, [&](auto label) {
+           return word.size() > label.size() && word.ends_with(label);
+         });
 }
 
 void checkLabels(const HeadwordTable& cdict, Findings& findings) {
@@ -205,11 +220,12 @@ void checkLabels(const HeadwordTable& cdict, Findings& findings) {
 }
 
 void checkSourceFacts(sqlite3* connection, const SourceFacts& facts, const GeneralTables& tables,
-                      Findings& findings) {
+                      CheckResult& result) {
   const Rows rows(tables);
-  checkImportant(facts, rows, findings);
-  checkDescriptions(facts, rows, findings);
-  checkTitles(connection, facts, rows, findings);
+  checkImportant(facts, rows, result.findings);
+  countUntranslated(facts, rows, result);
+  checkDescriptions(facts, rows, result.findings);
+  checkTitles(connection, facts, rows, result.findings);
 }
 
 }  // namespace dictionary

@@ -24,6 +24,7 @@ struct SourceText {
 struct SourceFacts {
   /// Headwords with a sign of importance (SourceEntry::important) and a translation in Chinese.
   std::vector<std::u16string> important;
+  std::vector<std::u16string> untranslated;  ///< with such a sign, but no Chinese text
   std::vector<SourceText> titles;        ///< in << >> outside round brackets
   std::vector<SourceText> descriptions;  ///< pieces that say what a command of DOS does
 
@@ -35,17 +36,18 @@ struct SourceFacts {
 /// or its header cannot be read.
 SourceFacts readSourceFacts(const std::filesystem::path& source);
 
-/// Returns whether a Chinese headword is only a label that the source sets before or behind what it
-/// means: a kind of brand ("法国服装名牌"), "DOS内部命令", "之缩写".
+/// Returns whether a Chinese headword is only a label that the source sets before or after what it
+/// means: a kind of brand ("法国服装名牌"), "DOS内部命令", "之缩写", "海宁全名".
 bool isLabel(std::u16string_view word);
 
 /// Checks that no Chinese headword is only a label.
 void checkLabels(const HeadwordTable& cdict, Findings& findings);
 
 /// Checks the facts: important headwords have rows of their own, titles stand in a row of the
-/// general or of a subject dictionary, descriptions of commands in none of the general one.
+/// general or of a subject dictionary, descriptions of commands in none of the general one. Adds
+/// what breaks a rule to the findings of `result`, and counts the words without a translation.
 /// `connection` is that from which `tables` were read; throws data::Error if it cannot be read.
 void checkSourceFacts(sqlite3* connection, const SourceFacts& facts, const GeneralTables& tables,
-                      Findings& findings);
+                      CheckResult& result);
 
 }  // namespace dictionary

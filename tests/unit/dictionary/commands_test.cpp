@@ -74,6 +74,15 @@ TEST(Commands, CheckComparesWithTheSource) {
   const Outcome same = run({"check", small(), source});
   EXPECT_EQ(same.code, dictionary::kSuccess);
   EXPECT_EQ(same.out.find("not checked"), std::string::npos);
+  EXPECT_NE(same.out.find("0 important words have no Chinese text in the source; 0 of them"),
+            std::string::npos);
+  support::writeFile(folder.file(u"source.csv"), support::readFile(support::smallSource()) +
+                                                     "cooty,,,n. =cootie,,5,1,gre,1,1,,,\n");
+  const Outcome untranslated = run({"check", small(), source});
+  EXPECT_EQ(untranslated.code, dictionary::kSuccess);
+  EXPECT_NE(
+      untranslated.out.find("1 important words have no Chinese text in the source; 1 of them"),
+      std::string::npos);
   support::writeFile(folder.file(u"source.csv"), support::readFile(support::smallSource()) +
                                                      "zyzzyva,,,象鼻虫,,5,1,gre,1,1,,,\n");
   const Outcome other = run({"check", small(), source});

@@ -41,6 +41,9 @@ TEST(SourceFacts, NameImportantWordsWithATranslationInChinese) {
   EXPECT_EQ(factsOf("bit", "n. 位", true).important, Texts{u"bit"});
   EXPECT_EQ(factsOf("bit", "n. 位").important, Texts());
   EXPECT_EQ(factsOf("bit", "n. bite", true).important, Texts());
+  EXPECT_EQ(factsOf("bit", "n. bite", true).untranslated, Texts{u"bit"});
+  EXPECT_EQ(factsOf("bit", "n. bite").untranslated, Texts());
+  EXPECT_EQ(factsOf("bit", "n. 位", true).untranslated, Texts());
   EXPECT_EQ(factsOf("b*t", "n. 位", true).important, Texts()) << "no headword";
 }
 
@@ -59,6 +62,10 @@ TEST(SourceFacts, NameDescriptionsOfCommands) {
       (Texts{u"more: 显示满屏后暂停", u"more: 并显示"}));
   EXPECT_EQ(texts(factsOf("for", "[计] DOS批处理命令：重复执行\\n为了").descriptions),
             Texts{u"for: 重复执行"});
+  EXPECT_EQ(texts(factsOf("ansi", "[计] DOS设备驱动程序:控制屏幕").descriptions),
+            Texts{u"ansi: 控制屏幕"});
+  EXPECT_EQ(texts(factsOf("himem", "[计] DOS驱动程序:管理内存").descriptions),
+            Texts{u"himem: 管理内存"});
   EXPECT_EQ(texts(factsOf("dosgen", "[计] DOS命令").descriptions), Texts());
 }
 
@@ -89,6 +96,16 @@ TEST_F(SourceCheck, MissesAnImportantWordWithoutARow) {
   EXPECT_EQ(findings.examples(Rule::kImportantWords)[0], "«wordless»");
   EXPECT_TRUE(check(factsOf("wordless", "a. 无言的")).empty());
   EXPECT_TRUE(check(factsOf("BIT", "n. 位", true)).empty()) << "case makes no difference";
+}
+
+// "cooty | n. =cootie"
+TEST_F(SourceCheck, CountsImportantWordsThatTheSourceDoesNotTranslate) {
+  SourceFacts facts = factsOf("bit", "n. =bite", true);
+  facts.add({"cooty", "n. =cootie", true});
+  const dictionary::CheckResult result = dictionary::checkDatabase(file_, &facts);
+  EXPECT_TRUE(result.findings.empty());
+  EXPECT_EQ(result.untranslatedWords, 2U);
+  EXPECT_EQ(result.untranslatedWithoutRow, 1U);
 }
 
 TEST_F(SourceCheck, FindsAnImportantWordWithReferencesOnly) {
@@ -129,10 +146,12 @@ TEST(ReadSourceFacts, ThrowsForAFileThatCannotBeRead) {
 
 TEST(IsLabel, NamesAKindOfWordOrThing) {
   for (const std::u16string_view label :
-       {u"法国服装名牌", u"意大利世界名车", u"DOS内部命令", u"之缩写", u"人名"}) {
+       {u"法国服装名牌", u"意大利世界名车", u"DOS内部命令", u"之缩写", u"人名", u"尤指", u"特指",
+        u"DOS驱动程序", u"DOS设备驱动程序", u"海宁全名", u"圣戈班公司总部所在地"}) {
     EXPECT_TRUE(dictionary::isLabel(label));
   }
-  for (const std::u16string_view word : {u"名牌", u"", u"内部命令", u"DOS提示符", u"人名表"}) {
+  for (const std::u16string_view word :
+       {u"名牌", u"", u"内部命令", u"DOS提示符", u"人名表", u"全名", u"驱动程序"}) {
     EXPECT_FALSE(dictionary::isLabel(word));
   }
 }
