@@ -85,8 +85,9 @@ constexpr auto kSupplements = std::to_array<Supplement>({
 });
 
 /// Contractions that the source expands, describes or has as something else, and words of which it
-/// translates an example, a person or the other word of a term, or divides a note; in the order of
-/// their code units.
+/// translates an example, a person or the other word of a term, divides a note, or has a common
+/// meaning far back, where it is lost among those of a common word; in the order of their code
+/// units.
 constexpr auto kCorrected = std::to_array<Supplement>({
     {u"brownian", u"a. 布朗的"},
     {u"doesn't", u"不"},
@@ -101,6 +102,7 @@ constexpr auto kCorrected = std::to_array<Supplement>({
     {u"needn't", u"不必, 不需要"},
     {u"pickwick", u"n. 匹克威克（小说主角）"},
     {u"powerpc", u"n. PowerPC微处理器"},
+    {u"rest", u"n. 休息, 其余者, 剩余部分, 睡眠, 静止\\nvi. 休息, 停止, 依赖\\nvt. 使休息"},
     {u"that's", u"那是, 那就是"},
     {u"they'd", u"他们会, 他们已经"},
     {u"they've", u"他们已经, 他们有"},
