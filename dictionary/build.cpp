@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "dictionary/arrange/block_packing.h"
-#include "dictionary/arrange/short_forms.h"
+#include "dictionary/arrange/senses.h"
 #include "dictionary/arrange/tables.h"
 #include "dictionary/arrange/vocabulary.h"
 #include "dictionary/check/check.h"

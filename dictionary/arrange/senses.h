@@ -2,11 +2,13 @@
 
 #include <cstdint>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "dictionary/translation/entry.h"
 
-/// Which of an entry's equivalents the general dictionary offers, in their order of importance.
+/// Which of an entry's equivalents the general dictionary offers, in their order of importance, and
+/// which terms it offers without their optional characters.
 namespace dictionary {
 
 /// Kinds of equivalents, by the subject tags of their lines.
@@ -41,5 +43,24 @@ inline bool isCommon(const Entry& entry) { return entry.rank > 0 && entry.rank <
 ///   stands for as an abbreviation ("cat": 计算机辅助测试), and none from the web.
 /// The last two hold only beside an ordinary sense that is neither slang nor of a subject.
 std::vector<Sense> sensesOf(const Entry& entry);
+
+/// Returns whether a piece of the entry has a short form, that is, optional characters.
+bool hasShortForm(const Entry& entry);
+
+/// The Chinese headwords of all entries, in which short forms are looked up: of "硬脑[脊]膜" the
+/// short form 硬脑膜 is a word, of "全适供[血]者" it is not; the source tells by having it
+/// somewhere else as it stands.
+class ShortForms {
+ public:
+  /// Adds the entry's headwords. Copies the texts.
+  void record(const Entry& entry);
+
+  /// Adds those short forms of the entry's pieces which are headwords by themselves, as pieces at
+  /// the end of their lines without a text for subject dictionaries.
+  void complete(Entry& entry) const;
+
+ private:
+  std::unordered_set<std::u16string> words_;
+};
 
 }  // namespace dictionary

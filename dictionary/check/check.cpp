@@ -10,7 +10,6 @@
 #include "data/connection.h"
 #include "data/error.h"
 #include "dictionary/check/general.h"
-#include "dictionary/check/general_tables.h"
 #include "dictionary/check/reach.h"
 #include "dictionary/check/schema_check.h"
 #include "dictionary/check/subjects_check.h"

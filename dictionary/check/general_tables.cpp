@@ -1,7 +1,7 @@
 // The kinds of the values are checked while they are read, since afterwards they are gone: SQLite
 // stores any kind of value in any column, and converts it when it is asked for another.
 
-#include "dictionary/check/general_tables.h"
+#include "dictionary/check/general.h"
 
 #include <limits>
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "dictionary/check/general_tables.h"
+#include "dictionary/check/general.h"
 #include "dictionary/check/rules.h"
 
 /// Whether lookups find every row: the program's bound step, repeated for every headword.

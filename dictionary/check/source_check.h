@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/check/general_tables.h"
+#include "dictionary/check/general.h"
 #include "dictionary/check/rules.h"
 #include "dictionary/source/csv_reader.h"
 
@@ -25,8 +25,8 @@ struct SourceFacts {
   /// Headwords with a sign of importance (SourceEntry::important) and a translation in Chinese.
   std::vector<std::u16string> important;
   std::vector<std::u16string> untranslated;  ///< with such a sign, but no Chinese text
-  std::vector<SourceText> titles;        ///< in << >> outside round brackets
-  std::vector<SourceText> descriptions;  ///< pieces that say what a command of DOS does
+  std::vector<SourceText> titles;            ///< in << >> outside round brackets
+  std::vector<SourceText> descriptions;      ///< pieces that say what a command of DOS does
 
   /// Adds what the entry tells. One whose word cannot be a headword tells nothing.
   void add(const SourceEntry& entry);

@@ -163,4 +163,25 @@ TEST(Senses, OfASubjectAreAmongTheTen) {
             (Words{u"甲", u"乙", u"丙", u"丁", u"戊", u"己", u"庚", u"辛", u"单元格", u"单元"}));
 }
 
+// "硬脑[脊]膜" is 硬脑膜 as well, since that stands elsewhere; "全适供[血]者" is not 全适供者.
+TEST(ShortForms, AreAddedWhereTheyAreWords) {
+  Entry term = entry("word", "[医] 硬脑[脊]膜, 全适供[血]者, 10%溶液", 0);
+  dictionary::ShortForms forms;
+  forms.record(term);
+  forms.record(entry("word", "n. 硬脑膜, 10%溶液", 0));
+  ASSERT_TRUE(hasShortForm(term));
+  forms.complete(term);
+  ASSERT_EQ(term.lines.at(0).pieces.size(), 4U);
+  const dictionary::Piece& form = term.lines.at(0).pieces.at(3);
+  EXPECT_EQ(form.equivalent.word, u"硬脑膜");
+  EXPECT_EQ(form.noted, u"");
+  EXPECT_EQ(form.subjects, setOf(dictionary::Subject::kMedicine));
+  EXPECT_EQ(subjectText(term.lines.at(0), dictionary::Subject::kMedicine),
+            u"硬脑脊膜，全适供血者，10%溶液");
+}
+
+TEST(ShortForms, AreNotNeededWithoutOptionalCharacters) {
+  EXPECT_FALSE(hasShortForm(entry("word", "[医] 硬脑膜\\nn. 人[语]", 0)));
+}
+
 }  // namespace

@@ -1,4 +1,4 @@
-#include "dictionary/check/general_tables.h"
+#include "dictionary/check/general.h"
 
 #include <gtest/gtest.h>
 
