@@ -65,4 +65,39 @@ bool isSubstitute(char16_t unit) {
          within(unit, 0x25A0, 0x25FF);
 }
 
+char16_t narrow(char16_t unit) {
+  if (unit >= 0xFF01 && unit <= 0xFF5D) return static_cast<char16_t>(unit - 0xFEE0);
+  switch (unit) {
+    case u'\'':
+    case u'’':
+    case u'‘':
+      return u'′';
+    case u'•':
+    case u'‧':
+    case u'・':
+      return u'·';
+    case u'—':
+    case u'–':
+    case u'―':
+      return u'-';
+    case u'º':
+      return u'°';
+    case u'~':
+      return u'～';
+    default:
+      return unit;
+  }
+}
+
+bool isIntact(std::u16string_view text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (isForbidden(text[i]) || isSubstitute(text[i])) return false;
+    // A single accented letter is the remnant of a lost Han character.
+    const bool afterLatin = i > 0 && isLatin(text[i - 1]);
+    const bool beforeLatin = i + 1 < text.size() && isLatin(text[i + 1]);
+    if (isLatin1Letter(text[i]) && !afterLatin && !beforeLatin) return false;
+  }
+  return true;
+}
+
 }  // namespace dictionary

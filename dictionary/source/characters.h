@@ -36,4 +36,11 @@ bool isForbidden(char16_t unit);
 /// vowels with pinyin tone marks, geometric shapes. A Chinese text with one left is not used.
 bool isSubstitute(char16_t unit);
 
+/// Returns whether `text` contains neither forbidden characters nor substitutes for lost ones.
+bool isIntact(std::u16string_view text);
+
+/// Returns the form of a character that headwords use: ASCII for wide forms, one character for each
+/// kind of prime, middle dot, hyphen and so on.
+char16_t narrow(char16_t unit);
+
 }  // namespace dictionary

@@ -5,7 +5,10 @@
 #include <cstddef>
 
 #include "dictionary/source/characters.h"
+#include "dictionary/source/cleanup.h"
+#include "dictionary/source/markup.h"
 #include "dictionary/translation/brackets.h"
+#include "dictionary/translation/pieces.h"
 #include "text/strings.h"
 
 namespace dictionary {
@@ -115,6 +118,15 @@ void forEachNote(std::u16string_view text, Visitor visit) {
   }
 }
 
+/// A note without the blanks inside its brackets; "" if it contains forbidden characters.
+std::u16string cleanNote(std::u16string_view note) {
+  if (std::ranges::any_of(note, isForbidden)) return {};
+  std::u16string clean(note);
+  if (clean.size() > 2 && clean[1] == u' ') clean.erase(1, 1);
+  if (clean.size() > 2 && clean[clean.size() - 2] == u' ') clean.erase(clean.size() - 2, 1);
+  return clean;
+}
+
 }  // namespace
 
 std::u16string withOptionalCharacters(std::u16string_view text) {
@@ -166,6 +178,27 @@ std::u16string withObjects(std::u16string_view piece) {
   });
   result += piece.substr(copied);
   return result;
+}
+
+std::u16string notedText(std::u16string_view piece) {
+  std::u16string noted;
+  for (std::size_t i = 0; i < piece.size(); ++i) {
+    const std::size_t close = openingBracket(piece[i]) == Bracket::kNone
+                                  ? std::u16string_view::npos
+                                  : closingPosition(piece, i);
+    if (close == std::u16string_view::npos) {
+      // "布鲁姆（地名））"
+      const bool tooMany = i > 0 && i + 1 == piece.size() && piece[i] == piece[i - 1] &&
+                           closingBracket(piece[i]) != Bracket::kNone;
+      if (piece[i] != u'\\' && !tooMany) noted += piece[i];
+      continue;
+    }
+    noted += cleanNote(piece.substr(i, close + 1 - i));
+    i = close;
+  }
+  const std::u16string plain = withoutNotes(noted);
+  if (!isIntact(plain) || hasLostCharacterMark(plain) || hasMarkup(noted)) return {};
+  return foldBlanks(noted);
 }
 
 }  // namespace dictionary

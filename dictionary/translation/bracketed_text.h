@@ -3,7 +3,8 @@
 #include <string>
 #include <string_view>
 
-/// Text in brackets that is not a note but a part of the equivalent. The source encloses
+/// Text in brackets that is shown: notes, and what is no note but a part of the equivalent. Of the
+/// latter the source encloses
 /// - optional characters of a term, in lines of medicine, in square brackets: "硬脑[脊]膜" is both
 ///   硬脑脊膜 and 硬脑膜;
 /// - objects of prepositions and verbs in round ones: "把(乐曲)分成短句", "合(某人)的口味". Without
@@ -25,5 +26,10 @@ std::u16string withObjects(std::u16string_view piece);
 /// Returns the piece of a verb's line with an ellipsis for each note that has something: "记入（账
 /// 户）的借方" gives 记入…的借方.
 std::u16string withVerbObjects(std::u16string_view piece);
+
+/// Returns the piece as a subject dictionary shows it: with its notes, except for those that
+/// contain forbidden characters. Returns "" if such a character, or a substitute for a lost one,
+/// occurs outside notes.
+std::u16string notedText(std::u16string_view piece);
 
 }  // namespace dictionary

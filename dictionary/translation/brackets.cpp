@@ -112,4 +112,39 @@ std::u16string withoutNotes(std::u16string_view text) {
   return plain;
 }
 
+std::u16string curled(std::u16string_view text) {
+  std::u16string result(text);
+  const std::size_t single = text.find(u'\'');
+  const bool singleQuotes = single + 1 < text.size() && isHan(text[single + 1]) &&
+                            std::ranges::count(text, u'\'') % 2 == 0;
+  bool open = false;
+  for (char16_t& unit : result) {
+    if (unit == u'"' || unit == u'＂' || (unit == u'\'' && singleQuotes)) {
+      open = !open;
+      unit = open ? u'“' : u'”';
+    }
+  }
+  return result;
+}
+
+std::u16string withoutQuotes(std::u16string_view text) {
+  const std::size_t end = text.empty() ? std::u16string_view::npos : quotationEnd(text, 0);
+  if (end == std::u16string_view::npos) return std::u16string(text);
+  const std::u16string_view quoted = text.substr(1, end - 2);
+  const bool foreign = std::ranges::all_of(quoted, isForeign);
+  if (end != text.size() && !foreign) return std::u16string(text);
+  return std::u16string(quoted) + std::u16string(text.substr(end));
+}
+
+std::u16string_view withoutLooseBracket(std::u16string_view text, bool afterNote) {
+  constexpr std::u16string_view kRound = u"()（）﹙﹚";
+  const std::size_t at = text.find_first_of(kRound);
+  const bool single = at != std::u16string_view::npos &&
+                      text.find_first_of(kRound, at + 1) == std::u16string_view::npos;
+  if (!single) return text;
+  if (openingBracket(text[at]) != Bracket::kNone) return at == 0 ? text : text.substr(0, at);
+  if (at + 1 < text.size()) return text.substr(at + 1);
+  return afterNote ? text.substr(0, at) : text;
+}
+
 }  // namespace dictionary

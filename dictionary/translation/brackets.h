@@ -29,4 +29,19 @@ std::size_t quotationEnd(std::u16string_view text, std::size_t open);
 /// except for the first of two that close once.
 std::u16string withoutNotes(std::u16string_view text);
 
+/// Returns `text` with straight quotation marks turned into opening and closing ones by turns.
+/// Single ones are quotation marks if the first precedes Chinese text and their number is even;
+/// otherwise they are primes.
+std::u16string curled(std::u16string_view text);
+
+/// Returns `text` without quotation marks around the whole of it or around a foreign word at its
+/// beginning.
+std::u16string withoutQuotes(std::u16string_view text);
+
+/// Returns the equivalent beside a round bracket whose counterpart is missing: the text after a
+/// note ("挖土机等的)铲") or before one ("承认(比赛"). `afterNote`: notes were deleted, so that a
+/// bracket at the end is one too many ("布鲁姆（地名））"); without them, the text before it may be
+/// a note.
+std::u16string_view withoutLooseBracket(std::u16string_view text, bool afterNote);
+
 }  // namespace dictionary

@@ -22,49 +22,6 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// The form of a character that headwords use: ASCII for wide forms, one character for each kind of
-/// prime, middle dot, hyphen and so on.
-char16_t narrow(char16_t unit) {
-  if (unit >= 0xFF01 && unit <= 0xFF5D) return static_cast<char16_t>(unit - 0xFEE0);
-  switch (unit) {
-    case u'\'':
-    case u'’':
-    case u'‘':
-      return u'′';
-    case u'•':
-    case u'‧':
-    case u'・':
-      return u'·';
-    case u'—':
-    case u'–':
-    case u'―':
-      return u'-';
-    case u'º':
-      return u'°';
-    case u'~':
-      return u'～';
-    default:
-      return unit;
-  }
-}
-
-/// Turns straight quotation marks into opening and closing ones by turns. Single ones are quotation
-/// marks if the first precedes Chinese text and their number is even; otherwise they are primes.
-std::u16string curled(std::u16string_view text) {
-  std::u16string result(text);
-  const std::size_t single = text.find(u'\'');
-  const bool singleQuotes = single + 1 < text.size() && isHan(text[single + 1]) &&
-                            std::ranges::count(text, u'\'') % 2 == 0;
-  bool open = false;
-  for (char16_t& unit : result) {
-    if (unit == u'"' || unit == u'＂' || (unit == u'\'' && singleQuotes)) {
-      open = !open;
-      unit = open ? u'“' : u'”';
-    }
-  }
-  return result;
-}
-
 /// Returns whether the mark at `at` is between numerals: "第1、3人称", "第一、二人称".
 bool isBetweenNumerals(std::u16string_view text, std::size_t at) {
   const auto isNumeral = [](char16_t unit) {
@@ -119,16 +76,6 @@ std::u16string_view withoutHyphen(std::u16string_view text) {
   return left ? text.substr(text[1] == u' ' ? 2 : 1) : text;
 }
 
-/// Removes quotation marks around the whole text or around a foreign word at its beginning.
-std::u16string withoutQuotes(std::u16string_view text) {
-  const std::size_t end = text.empty() ? std::u16string_view::npos : quotationEnd(text, 0);
-  if (end == std::u16string_view::npos) return std::u16string(text);
-  const std::u16string_view quoted = text.substr(1, end - 2);
-  const bool foreign = std::ranges::all_of(quoted, isForeign);
-  if (end != text.size() && !foreign) return std::u16string(text);
-  return std::u16string(quoted) + std::u16string(text.substr(end));
-}
-
 /// Letters of all alphabets in the source, Greek included, are below it; from U+2000 on there are
 /// punctuation marks, symbols and Han characters.
 constexpr char16_t kAlphabetsEnd = 0x2000;
@@ -143,22 +90,6 @@ std::u16string withoutChineseBlanks(std::u16string_view text) {
     if (text[i] != u' ' || (betweenForeign && !doubled)) result += text[i];
   }
   return result;
-}
-
-/// Returns the equivalent beside a round bracket whose counterpart is missing: the text after a
-/// note
-/// ("挖土机等的)铲") or before one ("承认(比赛"). `afterNote`: notes were deleted, so that a
-/// bracket at the end is one too many ("布鲁姆（地名））"); without them, the text before it may be
-/// a note.
-std::u16string_view withoutLooseBracket(std::u16string_view text, bool afterNote) {
-  constexpr std::u16string_view kRound = u"()（）﹙﹚";
-  const std::size_t at = text.find_first_of(kRound);
-  const bool single = at != std::u16string_view::npos &&
-                      text.find_first_of(kRound, at + 1) == std::u16string_view::npos;
-  if (!single) return text;
-  if (openingBracket(text[at]) != Bracket::kNone) return at == 0 ? text : text.substr(0, at);
-  if (at + 1 < text.size()) return text.substr(at + 1);
-  return afterNote ? text.substr(0, at) : text;
 }
 
 /// The text of a piece as a Chinese headword is written, whether or not it can be one.
@@ -296,17 +227,6 @@ Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation) {
       fault == PieceFault::kTooLong && word.size() <= kMaxWord && hanCount(word) <= kMaxExplanation;
   if (!mayServe) word.clear();
   return {{}, fault, std::move(word)};
-}
-
-bool isIntact(std::u16string_view text) {
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (isForbidden(text[i]) || isSubstitute(text[i])) return false;
-    // A single accented letter is the remnant of a lost Han character.
-    const bool afterLatin = i > 0 && isLatin(text[i - 1]);
-    const bool beforeLatin = i + 1 < text.size() && isLatin(text[i + 1]);
-    if (isLatin1Letter(text[i]) && !afterLatin && !beforeLatin) return false;
-  }
-  return true;
 }
 
 }  // namespace dictionary

@@ -36,7 +36,4 @@ struct Equivalent {
 /// well; a single word only if `abbreviation` is set: the line translates an abbreviation.
 Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation);
 
-/// Returns whether `text` contains neither forbidden characters nor substitutes for lost ones.
-bool isIntact(std::u16string_view text);
-
 }  // namespace dictionary

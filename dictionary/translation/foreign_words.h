@@ -11,8 +11,8 @@ namespace dictionary {
 
 /// Returns the line without a foreign word at its beginning that completes the headword
 /// ("reaction [化]维蒂希反应", "Sea阿拉弗拉海", ", Mount 麦金利山", ",Robert德弗罗") or is its
-/// expansion ("narcotics 麻醉药"). Returns the whole of any other line, also of one that refers to a
-/// word ("shoe 的过去分词").
+/// expansion ("narcotics 麻醉药"). Returns the whole of any other line, also of one that refers to
+/// a word ("shoe 的过去分词").
 std::u16string_view withoutHeadwordRest(std::u16string_view line);
 
 /// Returns the piece without the foreign words before a blank and the Chinese text: the expansion

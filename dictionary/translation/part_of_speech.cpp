@@ -185,4 +185,20 @@ bool marksSlang(std::u16string_view notes) {
   return false;
 }
 
+std::size_t strayLength(std::u16string_view text, bool afterNote) {
+  if (afterNote && text.starts_with(u'.')) return 1;
+  for (const std::u16string_view numeral : {u"l ", u"ll "}) {
+    if (text.starts_with(numeral) && partOfSpeechLength(text.substr(numeral.size())) > 0) {
+      return numeral.size();
+    }
+  }
+  constexpr std::u16string_view kStray = u"&.ⅠⅡⅢⅣ";
+  std::size_t length = 0;
+  while (length < text.size() &&
+         (kStray.find(text[length]) != std::u16string_view::npos || text[length] == u' ')) {
+    ++length;
+  }
+  return partOfSpeechLength(text.substr(length)) > 0 ? length : 0;
+}
+
 }  // namespace dictionary

@@ -16,6 +16,11 @@ namespace dictionary {
 /// and the full stop ("n<古>."), or by a link and a mark with a full stop ("vt,vi.").
 std::size_t partOfSpeechLength(std::u16string_view text);
 
+/// Returns the length of the stray characters before a part-of-speech mark that can be skipped: "&
+/// ", a numeral of a sense ("Ⅰ ", in the source also "l "), and, if `afterNote` is set, the full
+/// stop of "n<古>.". Returns 0 if no mark follows.
+std::size_t strayLength(std::u16string_view text, bool afterNote);
+
 /// Parts of speech, as far as it matters which senses a form of a word has.
 enum class PartOfSpeech : std::uint8_t {
   kNoun,

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "dictionary/translation/entry.h"
+#include "dictionary/translation/line.h"
 
 namespace {
 
