@@ -13,9 +13,9 @@
 #include <vector>
 
 #include "dictionary/arrange/block_packing.h"
+#include "dictionary/arrange/pair_collector.h"
 #include "dictionary/arrange/senses.h"
 #include "dictionary/arrange/tables.h"
-#include "dictionary/arrange/vocabulary.h"
 #include "dictionary/check/check.h"
 #include "dictionary/database/temporary_file.h"
 #include "dictionary/report.h"

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -66,81 +65,50 @@ struct Vocabulary {
   std::vector<Pair> pairs;              ///< distinct, by English, then by Chinese headword
 };
 
-/// Makes the vocabulary: takes the entries one by one, rates their pairs and sorts them in the end.
-class PairCollector {
+/// Returns the tier of the equivalent `sense` of an entry. `form`: the entry is a form of another
+/// word; `only`: it has no equivalents of a kind that comes before that of `sense`; `nth`: how many
+/// of its kind come before it.
+Tier tierOf(const Entry& entry, bool form, const Sense& sense, bool only, std::size_t nth);
+
+/// The words and pairs of a vocabulary while they are gathered, in the order in which they are
+/// added. An English word may be added several times.
+class PairList {
  public:
-  /// Adds the entry's pairs and returns their number. Copies the texts. An entry that has no
-  /// ordinary equivalent but refers to another headword gets the first four of that one's pairs in
-  /// finish(). An entry that is a form of another word gets that one's first equivalents there,
-  /// unless its own translation gives them, which then are as important as that word, or is what
-  /// readers most often mean by it.
-  std::size_t add(const Entry& entry);
-
-  /// Returns everything added, sorted; words that are equal in the text order (they differ in case
-  /// only) become one, spelled as the first. Ends the use of the collector.
-  [[nodiscard]] Vocabulary finish() &&;
-
- private:
-  /// A headword with pairs, and what is known of it.
+  /// A headword, and what is known of it.
   struct Headword {
-    std::uint32_t rank = 0;
-    bool important = false;
+    std::u16string word;
+    std::uint32_t rank = 0;  ///< as in SourceEntry
+    bool important = false;  ///< as in SourceEntry
   };
 
-  /// An entry that gives other headwords, here in lower case, as its meaning.
-  struct Reference {
-    std::u16string headword;
-    std::vector<std::u16string> others;
-    bool important = false;
-  };
+  /// Adds a headword and returns its index. Copies the text.
+  std::uint32_t addHeadword(const std::u16string& word, std::uint32_t rank, bool important);
 
-  /// A headword that is a form of another one.
-  struct FormEntry {
-    std::uint32_t english = 0;  ///< index of the headword; its pairs are added
-    Inflection inflection;
-    bool noted = false;         ///< whether the translation names the form
-    bool alone = false;         ///< whether it gives nothing else
-    bool given = false;         ///< whether it gives the form's own meaning
-    std::size_t next = 0;       ///< position after those of its own pairs
-    std::size_t firstPair = 0;  ///< index into pairs_ of its first own pair; there are `next`
-  };
-
-  /// A pair of a word that others refer to.
-  struct Meaning {
-    std::uint32_t chinese = 0;
-    PartOfSpeechSet parts = 0;
-  };
-
-  /// Such a word.
-  struct Referred {
-    std::uint32_t rank = 0;
-    bool important = false;
-    std::vector<Meaning> meanings;
-  };
-  using ReferredWords = std::unordered_map<std::u16string, Referred>;
-
-  void recordForms(const Entry& entry);
-  void addMissingForms();
-  std::size_t addForm(const Entry& entry, const std::vector<Sense>& senses);
-  void collectMeanings(ReferredWords& words) const;
-  void followReferences();
-  void followForms();
-  void followForm(const FormEntry& form, const Referred& lemma);
-  void raiseForm(const FormEntry& form, const Referred& lemma);
-  [[nodiscard]] bool hides(const FormEntry& form, const Referred& lemma) const;
-  void addHeadword(const std::u16string& word, std::uint32_t rank, bool important);
+  /// Adds a pair of the headword with that index. `position` may exceed Pair::kMaxPosition; `parts`
+  /// are the parts of speech of the equivalent's line. Copies the text.
   void addPair(std::uint32_t english, const std::u16string& chinese, Tier tier,
                std::size_t position, PartOfSpeechSet parts = 0);
 
-  std::vector<std::u16string> english_;  ///< one for each entry with pairs, in their order
-  std::vector<Headword> headwords_;      ///< by index into english_
+  [[nodiscard]] const std::vector<Headword>& headwords() const { return headwords_; }
+  [[nodiscard]] std::size_t size() const { return pairs_.size(); }
+  /// Return a pair by its index, its Chinese word by the index in the pair, and its parts of
+  /// speech.
+  [[nodiscard]] const Pair& pair(std::size_t index) const { return pairs_[index]; }
+  [[nodiscard]] const std::u16string& chinese(std::uint32_t word) const { return chinese_[word]; }
+  [[nodiscard]] PartOfSpeechSet parts(std::size_t index) const { return parts_[index]; }
+  void setTier(std::size_t index, Tier tier) { pairs_[index].tier = tier; }
+
+  /// Returns everything added, sorted; words that are equal in the text order (they differ in case
+  /// only) become one, spelled as the first, and equal pairs one with the best tier and position.
+  /// Ends the use of the list.
+  [[nodiscard]] Vocabulary finish() &&;
+
+ private:
+  std::vector<Headword> headwords_;
   std::vector<std::u16string> chinese_;  ///< distinct, in the order of their first use
   std::unordered_map<std::u16string, std::uint32_t> chineseIds_;  ///< indexes into chinese_
   std::vector<Pair> pairs_;
   std::vector<PartOfSpeechSet> parts_;  ///< by index into pairs_
-  std::vector<Reference> references_;
-  std::vector<FormEntry> forms_;
-  std::map<std::u16string, Inflection> listedForms_;  ///< of important words, by the form
 };
 
 }  // namespace dictionary

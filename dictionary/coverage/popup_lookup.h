@@ -17,7 +17,7 @@ namespace dictionary {
 enum class Shown : std::uint8_t {
   kMeaning,    ///< the word's own meanings
   kShortened,  ///< those of the word without its last letter
-  kReference,  ///< found in either way, but nothing than references to another form of the word
+  kReference,  ///< found in either way, but only references to another form of the word
   kNothing,
 };
 inline constexpr std::size_t kShownCount = 4;

@@ -1,7 +1,7 @@
 // The order matters: entity codes are decoded first, since they may spell a blank or a bracket;
 // titles are marked before tags are deleted, since "<<OED>>" contains one; then lines are broken,
-// since they are cleaned one by one; then substitutes are restored, and
-// blanks folded last, since deleting a substitute may leave two blanks together.
+// since they are cleaned one by one; then substitutes are restored, and blanks folded last, since
+// deleting a substitute may leave two blanks together.
 
 #include "dictionary/source/cleanup.h"
 

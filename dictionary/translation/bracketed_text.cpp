@@ -1,4 +1,4 @@
-#include "dictionary/translation/bracketed_text.h"
+#include "dictionary/translation/brackets.h"
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,6 @@
 #include "dictionary/source/characters.h"
 #include "dictionary/source/cleanup.h"
 #include "dictionary/source/markup.h"
-#include "dictionary/translation/brackets.h"
 #include "dictionary/translation/pieces.h"
 #include "text/strings.h"
 

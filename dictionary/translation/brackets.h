@@ -4,7 +4,8 @@
 #include <string>
 #include <string_view>
 
-/// Brackets and quotation marks in a translation. All functions are pure.
+/// Brackets and quotation marks in a translation, and what is to be done with the text in them. All
+/// functions are pure.
 namespace dictionary {
 
 /// Kinds of brackets that enclose notes in the source. The narrow and wide forms of a kind may be
@@ -43,5 +44,31 @@ std::u16string withoutQuotes(std::u16string_view text);
 /// bracket at the end is one too many ("布鲁姆（地名））"); without them, the text before it may be
 /// a note.
 std::u16string_view withoutLooseBracket(std::u16string_view text, bool afterNote);
+
+// Text in brackets is a note, or a part of the equivalent. Of the latter kind the source encloses
+// - optional characters of a term, in lines of medicine, in square brackets: "硬脑[脊]膜" is both
+//   硬脑脊膜 and 硬脑膜;
+// - objects of prepositions and verbs in round ones: "把(乐曲)分成短句", "合(某人)的口味". Without
+//   them the rest would be no sentence part.
+
+/// Returns `text` with the brackets around optional characters deleted: the full form. Brackets
+/// around a note stay: a kind of drug after its name ("卤泛群[抗疟药]"), a mark of usage, anything
+/// longer than six characters or not of Han characters only.
+std::u16string withOptionalCharacters(std::u16string_view text);
+
+/// Returns `piece` with an ellipsis for the bracketed object of its first word ("把…分成短句") and
+/// without the brackets around placeholders that Chinese text follows ("合某人的口味"), then also
+/// around its other placeholders. After either, a note at the end becomes an ellipsis where the
+/// text before it needs an object ("将…传给…"). Any other note stays as it is.
+std::u16string withObjects(std::u16string_view piece);
+
+/// Returns the piece of a verb's line with an ellipsis for each note that has something: "记入（账
+/// 户）的借方" gives 记入…的借方.
+std::u16string withVerbObjects(std::u16string_view piece);
+
+/// Returns the piece as a subject dictionary shows it: with its notes, except for those that
+/// contain forbidden characters. Returns "" if such a character, or a substitute for a lost one,
+/// occurs outside notes.
+std::u16string notedText(std::u16string_view piece);
 
 }  // namespace dictionary

@@ -12,7 +12,6 @@
 #include <cstddef>
 
 #include "dictionary/source/characters.h"
-#include "dictionary/translation/bracketed_text.h"
 #include "dictionary/translation/brackets.h"
 #include "dictionary/translation/foreign_words.h"
 #include "dictionary/translation/pieces.h"

@@ -41,9 +41,9 @@ bool explainsName(std::u16string_view piece);
 /// ((1906-1984) 英国诗人". The surname is the piece before. Returns npos for any other piece.
 std::size_t lifePosition(std::u16string_view piece);
 
-/// Returns the name in a piece that has the years of a person's life behind it, without
-/// anything in foreign letters before it: "Hanri 卢梭(1844-1910)", "麦克道尔(1818-1885)美国将领".
-/// Returns "" for any other piece. Pieces after it, up to the next semicolon, describe the person.
+/// Returns the name in a piece that has the years of a person's life after it, without anything in
+/// foreign letters before it: "Hanri 卢梭(1844-1910)", "麦克道尔(1818-1885)美国将领". Returns ""
+/// for any other piece. Pieces after it, up to the next semicolon, describe the person.
 std::u16string_view nameBeforeYears(std::u16string_view piece);
 
 }  // namespace dictionary

@@ -13,7 +13,6 @@
 #include <utility>
 
 #include "dictionary/source/characters.h"
-#include "dictionary/translation/bracketed_text.h"
 #include "dictionary/translation/brackets.h"
 #include "dictionary/translation/explanations.h"
 #include "dictionary/translation/foreign_words.h"

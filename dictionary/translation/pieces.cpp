@@ -26,24 +26,11 @@ constexpr std::size_t kMaxMark = 8;
 
 /// The wide form of a separator; 0 for any other character.
 char16_t separatorAt(char16_t unit) {
-  switch (unit) {
-    case u',':
-    case u'，':
-      return u'，';
-    case u';':
-    case u'；':
-      return u'；';
-    case u'、':
-      return u'、';
-    case u'!':
-    case u'！':
-      return u'！';
-    case u'?':
-    case u'？':
-      return u'？';
-    default:
-      return 0;
-  }
+  constexpr std::u16string_view kNarrow = u",;!?";
+  constexpr std::u16string_view kWide = u"，；！？、";
+  const std::size_t at = kNarrow.find(unit);
+  if (at != std::u16string_view::npos) return kWide[at];
+  return kWide.find(unit) != std::u16string_view::npos ? unit : u'\0';
 }
 
 /// Characters between which a comma joins the locants of a chemical name.

@@ -14,8 +14,8 @@ struct Supplement {
   std::u16string_view translation;
 };
 
-/// Return the whole tables behind the functions below, ordered by the words' code units. Every text
-/// of the first two must be among the word's rows in a full dictionary; one that is not has no
+/// Return the whole tables that the functions below search, ordered by the words' code units. Every
+/// text in them must be among the word's rows in a full dictionary; a supplement that is not has no
 /// effect any more, because the source has a translation of its own.
 std::span<const Supplement> supplements();
 std::span<const Supplement> corrections();

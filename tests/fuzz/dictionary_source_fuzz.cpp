@@ -4,8 +4,8 @@
 #include <sstream>
 #include <string>
 
+#include "dictionary/arrange/pair_collector.h"
 #include "dictionary/arrange/tables.h"
-#include "dictionary/arrange/vocabulary.h"
 #include "dictionary/check/general.h"
 #include "dictionary/source/characters.h"
 #include "dictionary/source/csv_reader.h"

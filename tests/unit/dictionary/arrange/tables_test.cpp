@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "dictionary/arrange/vocabulary.h"
+#include "dictionary/arrange/pair_collector.h"
 #include "dictionary/translation/entry.h"
 
 namespace {

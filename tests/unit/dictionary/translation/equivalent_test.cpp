@@ -81,8 +81,8 @@ TEST(MakeEquivalent, RemovesMarksAtTheEnd) {
   EXPECT_EQ(word(u"杜尔诺/////"), u"杜尔诺");
 }
 
-// "Euxine Sea | Black Sea 的古名", "retrodden | v retread 的过去分词",
-// "esses | ess [esse] 的复数", "begorra | int. by God! 的爱尔兰形式"
+// "Euxine Sea | Black Sea 的古名", "retrodden | v retread 的过去分词", "esses | ess [esse] 的复数",
+// "begorra | int. by God! 的爱尔兰形式"
 TEST(MakeEquivalent, KeepsTheWordThatAFormRefersTo) {
   EXPECT_EQ(word(u"Black Sea 的古名"), u"Black Sea的古名");
   EXPECT_EQ(word(u"v retread 的过去分词"), u"retread的过去分词");

@@ -1,5 +1,5 @@
 // Translations are those of the source.
-#include "dictionary/translation/bracketed_text.h"
+#include "dictionary/translation/brackets.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "dictionary/translation/bracketed_text.h"
+#include "dictionary/translation/brackets.h"
 
 #include <gtest/gtest.h>
 

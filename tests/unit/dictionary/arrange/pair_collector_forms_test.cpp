@@ -1,9 +1,9 @@
 // Forms of words, and what they take over from their lemma.
-#include "tests/unit/dictionary/arrange/vocabulary_test.h"
+#include "tests/unit/dictionary/arrange/pair_collector_test.h"
 
 namespace {
 
-using namespace vocabulary_test;
+using namespace pair_collector_test;
 
 // The first three of the verb's, not of the noun's; it comes later in the source.
 TEST(PairCollector, GivesAFormTheFirstEquivalentsOfItsLemma) {

@@ -8,11 +8,11 @@
 #include <utility>
 #include <vector>
 
-#include "dictionary/arrange/vocabulary.h"
+#include "dictionary/arrange/pair_collector.h"
 #include "dictionary/translation/entry.h"
 
 /// What the tests of the vocabulary share.
-namespace vocabulary_test {
+namespace pair_collector_test {
 
 using dictionary::Entry;
 using dictionary::Pair;
@@ -80,4 +80,4 @@ inline Pair pairOf(const Vocabulary& vocabulary, std::u16string_view english,
   return {};
 }
 
-}  // namespace vocabulary_test
+}  // namespace pair_collector_test

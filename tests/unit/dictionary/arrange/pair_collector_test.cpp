@@ -1,10 +1,10 @@
-#include "dictionary/arrange/vocabulary.h"
+#include "dictionary/arrange/pair_collector.h"
 
-#include "tests/unit/dictionary/arrange/vocabulary_test.h"
+#include "tests/unit/dictionary/arrange/pair_collector_test.h"
 
 namespace {
 
-using namespace vocabulary_test;
+using namespace pair_collector_test;
 
 TEST(PairCollector, ReturnsDistinctPairsInTheTextOrder) {
   const Vocabulary vocabulary = collect(
