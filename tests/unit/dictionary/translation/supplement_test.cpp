@@ -80,7 +80,7 @@ TEST(Supplement, HasTextsThatTheParserTakesWhole) {
 
 // A table whose order is broken finds some of its words and not others.
 TEST(Supplement, FindsEveryWordWithoutRegardToCase) {
-  for (const std::u16string_view word : {u"adml", u"Betel", u"I've", u"PATIO", u"you'll"}) {
+  for (const std::u16string_view word : {u"adml", u"Hobbit", u"I've", u"PATIO", u"you'll"}) {
     EXPECT_FALSE(dictionary::supplementaryTranslation(word).empty());
   }
   EXPECT_TRUE(dictionary::supplementaryTranslation(u"patios").empty());
