@@ -87,10 +87,10 @@ TEST_F(Nhw32Service, HandsOverTheFirstReadingThatIsAHeadword) {
   const std::u16string text =
       u"the man's well-known click-and-drag, CO2 (1st) it's e.g. a caf\u00E9\r\n"
       u"an associ-\r\nated firm of the U.S. state \r\nx";
-  const HookedTextWindow target({.size = {900, 220}}, text);
   const std::set<std::u16string, std::less<>> headwords{
       u"man", u"well-known", u"well", u"known",      u"drag", u"CO2", u"it's",
       u"it",  u"e.g.",       u"cafe", u"associated", u"U.S.", u"st",  u"CO"};
+  const HookedTextWindow target({.size = {900, 220}}, text);
   nhw32::setIsHeadword([&](std::u16string_view word) { return headwords.contains(word); });
   for (const auto& [part, offset, word] : {std::tuple(u"man's", 1, "man"),
                                            {u"well-known", 6, "well-known"},
@@ -119,8 +119,9 @@ TEST_F(Nhw32Service, HandsNothingOverWhereLettersTouchDigits) {
 
 // The worker reads; the dictionary is the caller's.
 TEST_F(Nhw32Service, AsksOnTheCallersThreadAndOnlyForAWordThatIsFetched) {
-  const HookedTextWindow target({}, u"na\u00EFve-caf\u00E9's-r\u00E9sum\u00E9's word \r\nx");
+  // Outlives the window, whose end handles the announcement that still waits then.
   std::vector<DWORD> askers;
+  const HookedTextWindow target({}, u"na\u00EFve-caf\u00E9's-r\u00E9sum\u00E9's word \r\nx");
   nhw32::setIsHeadword([&](std::u16string_view) {
     askers.push_back(GetCurrentThreadId());
     return false;
