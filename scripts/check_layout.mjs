@@ -32,14 +32,15 @@ const mayInclude = {
   app: ['text', 'win32', 'settings', 'data', 'forms', 'capture', 'lookup', 'query', 'app/resources'],
   'dictionary/source': builder,
   'dictionary/translation': [...builder, 'dictionary/source'],
+  'dictionary/gloss': [...builder, 'dictionary/source', 'dictionary/translation'],
   'dictionary/arrange': [...builder, 'dictionary/source', 'dictionary/translation'],
   'dictionary/database': [...builder, 'dictionary/source', 'dictionary/translation',
     'dictionary/arrange'],
   'dictionary/check': [...builder, 'dictionary/source', 'dictionary/translation',
     'dictionary/arrange', 'dictionary/database'],
   'dictionary/coverage': [...builder, 'dictionary/source', 'dictionary/translation'],
-  dictionary: ['text', 'data', 'dictionary/source', 'dictionary/translation', 'dictionary/arrange',
-    'dictionary/database', 'dictionary/check', 'dictionary/coverage'],
+  dictionary: ['text', 'data', 'dictionary/source', 'dictionary/translation', 'dictionary/gloss',
+    'dictionary/arrange', 'dictionary/database', 'dictionary/check', 'dictionary/coverage'],
 };
 // Components that may know one another: the host of word capture opens the popup, which starts
 // capture again when it closes.

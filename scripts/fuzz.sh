@@ -45,7 +45,7 @@ fuzz() {
   return 1
 }
 
-ensure_packages g++ cmake ninja-build libxml2-dev zlib1g-dev clang libclang-rt-14-dev
+ensure_packages g++ cmake ninja-build libxml2-dev nlohmann-json3-dev zlib1g-dev clang libclang-rt-14-dev
 ensure_node_modules
 build fuzz fuzz_targets
 

@@ -228,4 +228,12 @@ Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation) {
   return {{}, fault, std::move(word)};
 }
 
+std::u16string chineseHeadword(std::u16string_view word) {
+  std::u16string narrow = narrowed(word);
+  const PieceFault fault = findFault(narrow);
+  const bool usable = fault == PieceFault::kNone || fault == PieceFault::kLabel;
+  if (!usable || narrow.size() > kMaxHan) narrow.clear();
+  return narrow;
+}
+
 }  // namespace dictionary

@@ -36,4 +36,9 @@ struct Equivalent {
 /// well; a single word only if `abbreviation` is set: the line translates an abbreviation.
 Equivalent makeEquivalent(std::u16string_view piece, bool abbreviation);
 
+/// Returns a Chinese word as a headword, with wide forms narrowed ("，" becomes ","); "" if it
+/// cannot be one: see PieceFault, of which kLabel does not apply. `word` is a word of its own, not
+/// a piece of a translation; it has at most 20 characters.
+std::u16string chineseHeadword(std::u16string_view word);
+
 }  // namespace dictionary

@@ -2,7 +2,7 @@
 # Debian packages and the Chinese locale, installed only where they are missing.
 
 # What building and running takes.
-program_packages=(g++ g++-mingw-w64-x86-64-posix cmake ninja-build googletest libxml2-dev zlib1g-dev
+program_packages=(g++ g++-mingw-w64-x86-64-posix cmake ninja-build googletest libxml2-dev nlohmann-json3-dev zlib1g-dev
   wine wine64 xvfb x11-utils xdotool openbox imagemagick locales fonts-wqy-microhei ca-certificates)
 # What the tests take beyond that.
 test_packages=(clang libclang-rt-14-dev clang-format nsis)

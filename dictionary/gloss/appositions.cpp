@@ -1,0 +1,232 @@
+#include "dictionary/gloss/appositions.h"
+
+#include <algorithm>
+
+#include "dictionary/gloss/english.h"
+#include "dictionary/gloss/word_list.h"
+#include "dictionary/source/characters.h"
+
+namespace dictionary {
+namespace {
+
+using namespace std::string_view_literals;
+
+/// What follows them explains the text before, whatever that is.
+constexpr std::u16string_view kMarkers =
+    u", i.e. | i.e. |, e.g. | e.g. |, esp. | esp. |, especially |, particularly |, such as |"
+    u" such as |, including |, namely| namely: |, aka |, also |, usu. |, usually |, typically |"
+    u", commonly |, generally |, often |, which |, whose |, who |, where |, used |, said to |"
+    u", one of |, unit of |, SI unit |, type of |, kind of |, similar to |, made of |, made from |"
+    u", consisting |, located |, capital |, name of |, known |, considered |, published |"
+    u", equivalent |, equals |, popular |, as in |, as opposed |, opposite |, see |, same as |"
+    u", abbr. |, short for |, now |, formerly |, comprising |, based on |, based in |, slogan |"
+    u", for example |: | - | also known as |, orig. |, originally |, from |, containing |"
+    u", corresponding to |, meaning |, lit. |, cf |, currency |, genus |, trademark|, occurring |"
+    u", renowned |, famous |, esp |, viz. |";
+
+/// They may also continue a sentence: what comes before them has at most two words and is no verb.
+constexpr std::u16string_view kArticles = u", a |, an |, the |";
+
+/// What begins with these goes on after a comma: "in literature, the cue for a poem".
+constexpr std::u16string_view kClauseBeginnings =
+    u"in|at|on|for|by|with|as|when|if|after|before|of|from|once|no|while|since|like|";
+
+/// A proper name does not begin with these, though its gloss has a comma.
+constexpr std::u16string_view kExclamations =
+    u"Oh|Hey|Well|No|Yes|Ah|If|When|Sorry|Please|OK|I|In|As|There|";
+
+constexpr std::u16string_view kKindsOfPlace =
+    u"county|district|city|township|town|prefecture|municipality|province|banner|island|islands|"
+    u"village|subdistrict|peninsula|river|region|lake|mountains|airport|parish|suburb|";
+constexpr std::u16string_view kAfterPlace = u"in|of|on|near|at|between|under|";
+
+/// Small words inside proper names.
+constexpr std::u16string_view kInNames = u"of|the|and|or|de|von|for|van|da|del|";
+
+/// How descriptions begin. "used " alone would be "used car" as well.
+constexpr std::u16string_view kDescriptions =
+    u"classifier for |classifier used |classifier, |used to |used in |used as |used for |"
+    u"used with |used after |used before |used by |used at |used when |used on |used only |"
+    u"used mostly |used esp. |used particularly |used together |used, |also used |indicates |"
+    u"indicating |expresses |expressing |denotes |denoting |marks |particle indicating |"
+    u"particle used |particle marking |particle placed |particle expressing |particle in |"
+    u"particle for |particle similar |modal particle |final particle |structural particle |"
+    u"question particle |sentence-final particle |prefix indicating |prefix for |prefix used |"
+    u"prefix before |suffix indicating |suffix for |suffix used |suffix forming |suffix of |"
+    u"noun suffix|adjectival suffix|interjection of |interjection expressing |"
+    u"interjection indicating |interjection used |exclamation of |exclamation expressing |"
+    u"exclamation indicating |exclamation to |exclamation used |auxiliary verb |auxiliary word |"
+    u"refers to |one of |name of |the name of |name for |ancient name |alternative name |"
+    u"title of |sound of |the sound of |onomat. |radical in |radical of |character in |"
+    u"character used |first character |semantic component|phonetic \"|phonetic for |"
+    u"transliteration of |place name|old place name|ancient place name|common place name|"
+    u"person name|personal name|male given name|female given name|in place names|in names|"
+    u"reign name|posthumous name|temple name|a kind of |kind of |a type of |type of |"
+    u"a variety of |variety of |a sort of |sort of |species of |a species of |said of |"
+    u"term of endearment|term of respect|term of address|generic term|general term|placed after |"
+    u"placed before |placed at |precedes |follows |abbr. |same as |surname |a surname|"
+    u"two-character surname|Japanese surname|sb who |sth that |person who |a person who |"
+    u"emphatic |meaning unknown|having to do with |ancient Chinese compass point|designation of |"
+    u"Kangxi radical |pseudonym of |pen name of |Japanese word for |the Japanese word for |";
+
+bool isCapital(char16_t unit) { return unit >= u'A' && unit <= u'Z'; }
+
+bool isVerb(std::u16string_view gloss) { return gloss.starts_with(u"to "); }
+
+std::u16string lowered(std::u16string_view word) {
+  std::u16string result(word);
+  if (!result.empty() && isCapital(result[0])) result[0] += u'a' - u'A';
+  return result;
+}
+
+/// The parts of the gloss between commas, none of them empty; the gloss itself if it has none.
+std::vector<std::u16string_view> segments(std::u16string_view gloss) {
+  std::vector<std::u16string_view> result;
+  for (std::u16string_view rest = gloss; !rest.empty();) {
+    const std::u16string_view part = rest.substr(0, rest.find(u", "));
+    if (!part.empty()) result.push_back(part);
+    rest.remove_prefix(std::min(rest.size(), part.size() + 2));
+  }
+  if (result.empty()) result.push_back(gloss);
+  return result;
+}
+
+/// "China, Japan and Korea": a list that a name's gloss ends with.
+bool endsInConjunction(const std::vector<std::u16string_view>& parts) {
+  const std::u16string_view last = parts.back();
+  const bool joined = last.find(u" and ") != std::u16string_view::npos ||
+                      last.starts_with(u"and ") || last.find(u" or ") != std::u16string_view::npos;
+  return joined && std::ranges::all_of(parts, [](std::u16string_view part) {
+           return wordCount(part) <= 3 && (isCapital(part[0]) || part.starts_with(u"and "));
+         });
+}
+
+/// The first place in `gloss` of any item of the list, but not its beginning; its size if none.
+std::size_t findMarker(std::u16string_view list, std::u16string_view gloss) {
+  std::size_t first = gloss.size();
+  forEachListed(
+      list, [&](std::u16string_view marker) { first = std::min(first, gloss.find(marker, 1)); });
+  return first;
+}
+
+std::u16string_view withoutMarked(std::u16string_view gloss) {
+  gloss = gloss.substr(0, findMarker(kMarkers, gloss));
+  const std::u16string_view head = gloss.substr(0, findMarker(kArticles, gloss));
+  const bool clause = isVerb(head) || isListed(kClauseBeginnings, firstWord(head));
+  return clause || wordCount(head) > 2 ? gloss : head;
+}
+
+/// Returns whether the name ends with the kind of a place: "Yuci district".
+bool namesKindOfPlace(std::u16string_view name) {
+  return isCapital(name[0]) && wordCount(name) > 1 &&
+         isListed(kKindsOfPlace, lowered(lastWord(name)));
+}
+
+/// Returns whether the text is a proper name rather than the beginning of a sentence: capitalised
+/// words, two words with one capital ("Suzhou embroidery"), or the name of a place.
+bool isName(std::u16string_view text) {
+  if (!isCapital(text[0]) || isListed(kExclamations, firstWord(text))) return false;
+  if (wordCount(text) <= 2 || namesKindOfPlace(text)) return true;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::u16string_view word = firstWord(text.substr(at));
+    if (!isCapital(word[0]) && !isDigit(word[0]) && !isListed(kInNames, word)) return false;
+    at += word.size() + 1;
+  }
+  return true;
+}
+
+/// Cuts a proper name at its first comma: what follows says where or who it is. A common noun of at
+/// most two words is cut before a capital: "triad, Chinese crime gang".
+std::u16string_view withoutNameTail(std::u16string_view gloss) {
+  const std::vector<std::u16string_view> parts = segments(gloss);
+  if (parts.size() == 1 || endsInConjunction(parts)) return gloss;
+  const bool noun = !isCapital(gloss[0]) && !isVerb(gloss) && wordCount(parts[0]) <= 2 &&
+                    wordCount(parts[1]) > 1 && isCapital(parts[1][0]) && parts[1][1] != u' ' &&
+                    !isListed(kClauseBeginnings, firstWord(gloss));
+  return isName(parts[0]) || noun ? parts[0] : gloss;
+}
+
+/// Removes years at the end: "Lord Kelvin 1824-1907", "the First Emperor 259-210 BC".
+std::u16string_view withoutYears(std::u16string_view gloss) {
+  std::u16string_view rest = gloss;
+  if (rest.ends_with(u" BC") || rest.ends_with(u" AD")) rest.remove_suffix(3);
+  const std::u16string_view last = lastWord(rest);
+  const bool years = last.size() >= 7 && last.size() < rest.size() && isDigit(last[0]) &&
+                     isDigit(last.back()) && last.find(u'-') != std::u16string_view::npos &&
+                     last.find_first_not_of(u"0123456789-") == std::u16string_view::npos;
+  return years ? rest.substr(0, rest.size() - last.size() - 1) : gloss;
+}
+
+/// Cuts the name of a place behind the kind of the place, and a longer name of capitalised words
+/// before "in" or "near".
+std::u16string_view withoutPlaceTail(std::u16string_view gloss) {
+  if (!isCapital(gloss[0])) return gloss;
+  const bool longName = wordCount(gloss) > 4;
+  bool name = true;  // whether all words so far belong to a proper name
+  std::u16string_view before;
+  std::size_t count = 0;
+  for (std::size_t at = 0; at < gloss.size(); ++count) {
+    const std::u16string_view word = firstWord(gloss.substr(at));
+    const bool place = count > 1 && isListed(kKindsOfPlace, lowered(before));
+    const bool located = longName && name && count > 0 && word != u"of";
+    const bool ends = isListed(kAfterPlace, word) || (place && word == u"or");
+    if (ends && (place || located)) return gloss.substr(0, at - 1);
+    name = name && (isCapital(word[0]) || isListed(kInNames, word));
+    before = word;
+    at += word.size() + 1;
+  }
+  return gloss;
+}
+
+}  // namespace
+
+std::u16string_view withoutApposition(std::u16string_view gloss) {
+  return withoutPlaceTail(withoutYears(withoutNameTail(withoutMarked(gloss))));
+}
+
+std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bool names) {
+  const bool open = gloss.ends_with(u" etc");
+  std::vector<std::u16string_view> parts =
+      segments(open ? gloss.substr(0, gloss.size() - 4) : gloss);
+  if (parts.size() == 1) return {gloss};
+  const auto isWord = [&](std::u16string_view part) {
+    const std::u16string_view word = isVerb(part) ? part.substr(3) : part;
+    return wordCount(word) == 1 && (names || word == u"I" || !isCapital(word[0]));
+  };
+  const auto isJoined = [](std::u16string_view part) {
+    return part.starts_with(u"and ") || part.starts_with(u"or ") ||
+           part.find(u" and ") != std::u16string_view::npos ||
+           part.find(u" or ") != std::u16string_view::npos;
+  };
+  const bool noun = !isCapital(gloss[0]) && std::ranges::none_of(parts, isJoined);
+  // "bold, visionary words" is one noun, "sand trap, bunker" are two.
+  const bool pair = parts.size() == 2 && wordCount(parts[0]) <= 3 && wordCount(parts[1]) == 1;
+  const bool several = parts.size() > 2 && std::ranges::all_of(parts, [](std::u16string_view part) {
+                         return wordCount(part) <= 2;
+                       });
+  const bool synonyms = noun && (pair || several);
+  const bool list = std::ranges::all_of(parts, isVerb) || std::ranges::all_of(parts, isWord);
+  if (!list && !synonyms) return {gloss};
+  return parts;
+}
+
+bool isDescription(std::u16string_view gloss) {
+  return gloss.ends_with(u" etc") || !listedBeginning(kDescriptions, gloss).empty();
+}
+
+bool describesPlace(std::u16string_view gloss) {
+  const std::vector<std::u16string_view> parts = segments(gloss);
+  if (namesKindOfPlace(withoutApposition(gloss))) return true;
+  if (parts.size() == 1 || !isName(parts[0])) return false;
+  std::u16string_view tail = parts[1];
+  tail.remove_prefix(listedBeginning(u"a |an |the |", tail).size());
+  for (std::size_t count = 0; count < 3 && !tail.empty(); ++count) {
+    const std::u16string_view kind = firstWord(tail);
+    tail.remove_prefix(std::min(tail.size(), kind.size() + 1));
+    const bool located = tail.starts_with(u"in ") || tail.starts_with(u"of ");
+    if (located && (isListed(kKindsOfPlace, kind) || kind == u"capital")) return true;
+  }
+  return false;
+}
+
+}  // namespace dictionary

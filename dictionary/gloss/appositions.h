@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Telling the equivalent in a gloss from what explains it. Glosses are without notes, Chinese
+/// words and accents, and not empty. The functions are pure.
+namespace dictionary {
+
+/// Returns the beginning of the gloss that is its equivalent, up to an explanation of it: "Nuuk,
+/// capital of Greenland", "wet market, i.e. a marketplace". A name of a place ends with its kind:
+/// "Jiaocheng county in Lüliang". The view refers into `gloss`.
+std::u16string_view withoutApposition(std::u16string_view gloss);
+
+/// Returns the equivalents of a gloss that lists single words or verbs: "feast, banquet", "to sift,
+/// to strain". Returns the gloss itself where a comma does anything else. `names`: capitalised
+/// words are a list as well, not a place and its country. The views refer into `gloss`.
+std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bool names);
+
+/// Returns whether the gloss describes what its word is used for, or what kind of thing it names,
+/// instead of translating it: "classifier for ships", "a kind of rat", "food, drink etc".
+bool isDescription(std::u16string_view gloss);
+
+/// Returns whether the gloss names a place and says so: "Yuci district", "Nuuk, capital of
+/// Greenland".
+bool describesPlace(std::u16string_view gloss);
+
+}  // namespace dictionary

@@ -1,0 +1,180 @@
+#include "dictionary/gloss/english.h"
+
+#include <algorithm>
+#include <array>
+
+#include "dictionary/gloss/word_list.h"
+#include "dictionary/source/characters.h"
+#include "dictionary/source/cleanup.h"
+#include "text/word_characters.h"
+
+namespace dictionary {
+namespace {
+
+using namespace std::string_view_literals;
+
+struct WrittenOut {
+  std::u16string_view word;
+  std::u16string_view full;
+};
+constexpr auto kAbbreviations = std::to_array<WrittenOut>({{u"sb", u"somebody"},
+                                                           {u"sb's", u"somebody's"},
+                                                           {u"sth", u"something"},
+                                                           {u"sth's", u"something's"},
+                                                           {u"smth", u"something"},
+                                                           {u"sb/sth", u"somebody/something"}});
+
+/// After these "to" does not mark a verb: "to the point", "to one's heart's content".
+constexpr std::u16string_view kAfterPreposition =
+    u"the|a|an|this|that|one's|no|some|and|my|me|your|his|such|which|what|date|sb's|all|";
+
+/// Words before which an article is part of the meaning: "a little" is not "little".
+constexpr std::u16string_view kAfterArticle =
+    u"la|priori|posteriori|cappella|little|few|lot|bit|while|great|good|number|more|moment|same|"
+    u"certain|couple|other|long|short|year|day|month|week|second|person|";
+
+/// Abbreviations that keep their full stop at the end of a gloss.
+constexpr std::u16string_view kWithStop =
+    u"Inc.|Ltd.|Co.|Corp.|Jr.|Sr.|Mr.|Mrs.|Ms.|Dr.|No.|St.|vs.|";
+
+std::u16string writtenOut(std::u16string_view text) {
+  std::u16string result;
+  while (!text.empty()) {
+    const std::u16string_view word = firstWord(text);
+    const std::size_t end = word.find_first_of(u",.;:!?");
+    const auto* const found =
+        std::ranges::find(kAbbreviations, word.substr(0, end), &WrittenOut::word);
+    result += found == kAbbreviations.end() ? word.substr(0, end) : found->full;
+    if (end != std::u16string_view::npos) {
+      // "sb." is the same as "sb", unless a sentence ends there, which takes no full stop either.
+      const bool stop = found != kAbbreviations.end() && word.substr(end) == u".";
+      if (!stop) result += word.substr(end);
+    }
+    text.remove_prefix(std::min(text.size(), word.size() + 1));
+    if (!text.empty()) result += u' ';
+  }
+  return result;
+}
+
+/// Removes the verb's "to" or an article.
+std::u16string_view withoutLeadingWords(std::u16string_view text) {
+  const bool verb = text.starts_with(u"to ");
+  if (verb && !isListed(kAfterPreposition, firstWord(text.substr(3)))) return text.substr(3);
+  for (const std::u16string_view article : {u"a "sv, u"an "sv, u"the "sv, u"The "sv}) {
+    if (!text.starts_with(article)) continue;
+    const std::u16string_view rest = text.substr(article.size());
+    const bool kept = isListed(kAfterArticle, firstWord(rest)) || rest.starts_with(u"more") ||
+                      rest.starts_with(u"less");
+    return kept ? text : rest;
+  }
+  return text;
+}
+
+bool keepsStop(std::u16string_view text) {
+  const std::u16string_view ending = lastWord(text);
+  const bool inner = ending.substr(0, ending.size() - 1).find(u'.') != std::u16string_view::npos;
+  return inner || ending.size() == 2 || isListed(kWithStop, ending);
+}
+
+bool isSymbol(std::u16string_view word) {
+  return std::ranges::all_of(
+      word, [](char16_t unit) { return unit < 0x80 && !isAsciiLetter(unit) && !isDigit(unit); });
+}
+
+/// Removes symbols and marks at the end: "asterisk *". The hyphen of a prefix and a charge stay:
+/// "poly-", "OH-".
+std::u16string_view withoutEndMarks(std::u16string_view text) {
+  while (!text.empty()) {
+    const std::u16string_view last = lastWord(text);
+    const bool mark = u" .,;:!?-=/"sv.find(text.back()) != std::u16string_view::npos;
+    const bool stop = text.back() == u'.' && !text.ends_with(u"..") && keepsStop(text);
+    if (isSymbol(last)) {
+      text.remove_suffix(std::max<std::size_t>(last.size(), 1));
+    } else if (mark && !stop && text.back() != u'-') {
+      text.remove_suffix(1);
+    } else {
+      break;
+    }
+  }
+  return text;
+}
+
+/// Removes marks at the beginning. The hyphen of a suffix stays: "-ation".
+std::u16string_view withoutBeginMarks(std::u16string_view text) {
+  while (!text.empty() && u" .,;:!?-=/"sv.find(text.front()) != std::u16string_view::npos) {
+    const bool joined = text.size() > 1 && text[0] != u' ' &&
+                        (isDigit(text[1]) || (text[0] == u'-' && isAsciiLetter(text[1])));
+    if (joined) break;
+    text.remove_prefix(1);
+  }
+  return text;
+}
+
+/// Removes marks around the headword, and quotation marks anywhere, which no headword may hold.
+std::u16string withoutMarks(std::u16string_view text) {
+  std::u16string plain(text);
+  std::erase(plain, u'"');
+  const std::u16string_view bare = withoutBeginMarks(withoutEndMarks(plain));
+  const bool quoted = bare.size() > 2 && bare.front() == u'\'' && bare.back() == u'\'';
+  return std::u16string(quoted ? bare.substr(1, bare.size() - 2) : bare);
+}
+
+/// "more {adj.} than {noun}", "be ...ed": nobody looks these up.
+bool isPattern(std::u16string_view word) {
+  if (word.find_first_of(u"{}~<>^") != std::u16string_view::npos) return true;
+  const std::size_t dots = word.find(u"...");
+  const std::size_t next = dots == std::u16string_view::npos ? dots : dots + 3;
+  return next < word.size() && word[next] != u' ';
+}
+
+}  // namespace
+
+std::u16string withAsciiMarks(std::u16string_view text) {
+  std::u16string result;
+  for (const char16_t unit : text) {
+    switch (unit) {
+      case u'“':
+      case u'”':
+        result += u'"';
+        break;
+      case u'‘':
+      case u'’':
+      case u'ʻ':
+        result += u'\'';
+        break;
+      case u'–':
+      case u'—':
+        result += u'-';
+        break;
+      case u'…':
+        result += u"...";
+        break;
+      case u'、':
+        result += u", ";
+        break;
+      default:
+        result += unit;
+    }
+  }
+  return result;
+}
+
+std::optional<std::u16string> englishHeadword(std::u16string_view gloss) {
+  const std::u16string plain = withoutMarks(foldBlanks(text::withoutAccents(gloss)));
+  const std::u16string full = writtenOut(withoutLeadingWords(plain));
+  const std::u16string word = withoutMarks(full);
+  return isPattern(word) ? std::nullopt : headword(word);
+}
+
+std::size_t wordCount(std::u16string_view text) {
+  return text.empty() ? 0 : static_cast<std::size_t>(std::ranges::count(text, u' ')) + 1;
+}
+
+std::u16string_view firstWord(std::u16string_view text) { return text.substr(0, text.find(u' ')); }
+
+std::u16string_view lastWord(std::u16string_view text) {
+  const std::size_t blank = text.rfind(u' ');
+  return blank == std::u16string_view::npos ? text : text.substr(blank + 1);
+}
+
+}  // namespace dictionary

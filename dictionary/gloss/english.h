@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// English headwords from glosses. The functions are pure.
+namespace dictionary {
+
+/// Returns `text` with typographic quotation marks, dashes, ellipses and wide commas as ASCII.
+std::u16string withAsciiMarks(std::u16string_view text);
+
+/// Returns the English headword of a gloss without notes and Chinese words: accents folded,
+/// "sb" and "sth" written out, a verb's "to" and an article at the beginning removed, and
+/// quotation marks, full stops and ellipses around it. Returns nullopt if it cannot be a headword
+/// (headword() in source/cleanup.h).
+std::optional<std::u16string> englishHeadword(std::u16string_view gloss);
+
+/// Number of words: of blanks and one more; 0 for "".
+std::size_t wordCount(std::u16string_view text);
+
+/// Returns the word at the beginning or the end of `text`, up to the next blank.
+std::u16string_view firstWord(std::u16string_view text);
+std::u16string_view lastWord(std::u16string_view text);
+
+}  // namespace dictionary

@@ -1,0 +1,167 @@
+// A gloss is taken apart from outside in: pieces between semicolons, their notes, marks such as
+// "fig." and "another name for" at the beginning, Chinese words, explanations at the end, and lists
+// of words. What remains is a headword (english.h).
+
+#include "dictionary/gloss/gloss.h"
+
+#include <optional>
+
+#include "dictionary/gloss/appositions.h"
+#include "dictionary/gloss/english.h"
+#include "dictionary/gloss/notes.h"
+#include "dictionary/gloss/word_list.h"
+#include "dictionary/source/characters.h"
+#include "dictionary/source/cleanup.h"
+#include "dictionary/translation/brackets.h"
+#include "text/word_characters.h"
+
+namespace dictionary {
+namespace {
+
+using namespace std::string_view_literals;
+
+/// What the marks at the beginning of a piece say of it.
+struct Marks {
+  bool literal = false;
+  bool usage = false;
+};
+
+constexpr std::u16string_view kLiteralMarks = u"lit. |lit: |literally |";
+/// Names of age, region or style.
+constexpr std::u16string_view kUsageMarks =
+    u"formerly known as |formerly |old name for |old name of |former name of |former name for |"
+    u"ancient name for |ancient name of |archaic name for |classical name for |old term for |"
+    u"archaic term for |ancient term for |classical term for |literary term for |"
+    u"dialectal term for |slang for |slang term for |Internet slang for |Taiwanese term for |"
+    u"euphemism for |euphemistic term for |polite term for |respectful term for |"
+    u"honorific term for |humble term for |derogatory term for |derog. term for |nickname for |"
+    u"nickname of |";
+/// What follows them is what the word means, or another word for it.
+constexpr std::u16string_view kOtherMarks =
+    u"lit. and fig. |fig. |fig: |figuratively, |figuratively |by extension, |by ext. |also fig. |"
+    u"also known as |also called |also termed |aka |also |esp. |especially |usu. |usually |often |"
+    u"originally |orig. |i.e. |e.g. |or |abbr. for |abbr. of |acronym for |short for |"
+    u"short name for |same as |equivalent to |another word for |another name for |"
+    u"another name of |another term for |alternative name for |alternative name of |"
+    u"alternative term for |other name for |common name for |common name of |popular name for |"
+    u"colloquial name for |colloquial term for |informal name for |generic name for |"
+    u"generic term for |general term for |general name for |collective name for |"
+    u"collective term for |";
+
+/// Removes the items of the list at the beginning of `piece`; returns whether there was one.
+bool takeListed(std::u16string_view list, std::u16string_view& piece) {
+  const std::u16string_view mark = listedBeginning(list, piece);
+  // "ancient name of a river" describes.
+  const std::u16string_view rest = piece.substr(mark.size());
+  if (mark.ends_with(u" of ") && (rest.starts_with(u"a ") || rest.starts_with(u"an ")))
+    return false;
+  piece.remove_prefix(mark.size());
+  return !mark.empty();
+}
+
+/// Removes the marks at the beginning of `piece`, and returns what they say.
+Marks takeMarks(std::u16string_view& piece) {
+  Marks marks;
+  for (bool again = true; again;) {
+    again = takeListed(kOtherMarks, piece);
+    if (takeListed(kLiteralMarks, piece)) marks.literal = again = true;
+    if (takeListed(kUsageMarks, piece)) marks.usage = again = true;
+  }
+  return marks;
+}
+
+/// The pieces between semicolons outside brackets and quotation marks.
+std::vector<std::u16string_view> splitPieces(std::u16string_view gloss) {
+  std::vector<std::u16string_view> pieces;
+  std::size_t begin = 0;
+  bool quoted = false;
+  for (std::size_t i = 0; i < gloss.size(); ++i) {
+    if (gloss[i] == u'"') quoted = !quoted;
+    if (gloss[i] == u'(' || gloss[i] == u'[') {
+      const std::size_t close = closingPosition(gloss, i);
+      if (close != std::u16string_view::npos) i = close;
+    } else if (gloss[i] == u';' && !quoted) {
+      pieces.push_back(gloss.substr(begin, i - begin));
+      begin = i + 1;
+    }
+  }
+  pieces.push_back(gloss.substr(begin));
+  return pieces;
+}
+
+/// Parses the pieces of one gloss from left to right.
+class GlossParser {
+ public:
+  ParsedGloss run(std::u16string_view gloss) {
+    for (const std::u16string_view piece : splitPieces(gloss)) readPiece(foldBlanks(piece));
+    return std::move(result_);
+  }
+
+ private:
+  void readPiece(std::u16string_view piece) {
+    const NotedText noted = withoutGlossNotes(piece);
+    const NoteMeaning& meaning = noted.meaning;
+    std::u16string_view text = noted.text;
+    const Marks marks = takeMarks(text);
+    literal_ = marks.literal || (meaning.literal && !meaning.figurative);
+    if (!begun_ && piece.starts_with(u'(') && !noted.described) shared_ = meaning;
+    begun_ = true;
+    if (text.empty() || isAside(text)) return;
+    // The phrase before a reference may be one of the marks.
+    if (std::optional<GlossReference> reference = findReference(noted.text)) {
+      reference->usage = reference->usage || meaning.usage || shared_.usage;
+      result_.references.push_back(*std::move(reference));
+      return;
+    }
+    std::optional<std::u16string> english = withoutChinese(text);
+    if (!english) return;
+    // So that the name after the article is seen to be one: "the Louvre, museum in Paris".
+    const bool name = english->starts_with(u"the ") && english->size() > 4 &&
+                      (*english)[4] >= u'A' && (*english)[4] <= u'Z';
+    if (name) english->erase(0, 4);
+    if (!english->empty()) addEnglish(*english, noted, marks.usage);
+  }
+
+  void addEnglish(std::u16string_view english, const NotedText& noted, bool usage) {
+    NoteMeaning meaning = noted.meaning;
+    meaning |= shared_;
+    const std::u16string_view equivalent = withoutApposition(english);
+    const bool described = noted.described || isDescription(equivalent);
+    SubjectSet subjects = meaning.subjects;
+    if (describesPlace(english)) subjects |= setOf(Subject::kPlace);
+    const bool names = (subjects & kNameSubjects) != 0;
+    for (const std::u16string_view text : listedEquivalents(equivalent, names)) {
+      const std::optional<std::u16string> word = englishHeadword(text);
+      if (word) add(*word, subjects, valueOf(*word, described, usage || meaning.usage));
+    }
+    if (!noted.initials.empty()) {
+      add(noted.initials, subjects, valueOf(noted.initials, false, usage || meaning.usage));
+    }
+  }
+
+  [[nodiscard]] GlossValue valueOf(std::u16string_view word, bool described, bool usage) const {
+    const bool surname =
+        word.find(u"surname ") != std::u16string_view::npos || word.ends_with(u" surname");
+    if (surname) return GlossValue::kSurname;
+    if (literal_) return GlossValue::kLiteral;
+    if (described || wordCount(word) > kMaxPairWords) return GlossValue::kExplanation;
+    return usage ? GlossValue::kUsage : GlossValue::kPair;
+  }
+
+  void add(const std::u16string& word, SubjectSet subjects, GlossValue value) {
+    result_.glosses.push_back({word, wordCount(word), subjects, value});
+  }
+
+  ParsedGloss result_;
+  NoteMeaning shared_;  ///< of the note at the beginning
+  bool begun_ = false;
+  bool literal_ = false;  ///< of the piece
+};
+
+}  // namespace
+
+ParsedGloss parseGloss(std::u16string_view gloss) {
+  return GlossParser().run(foldBlanks(text::withoutAccents(withAsciiMarks(gloss))));
+}
+
+}  // namespace dictionary

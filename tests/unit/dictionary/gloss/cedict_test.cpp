@@ -1,0 +1,157 @@
+#include "dictionary/gloss/cedict.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using dictionary::CedictRecord;
+using dictionary::chineseEntries;
+using dictionary::ChineseEntry;
+using dictionary::Gloss;
+using dictionary::GlossValue;
+using Texts = std::vector<std::u16string>;
+using Records = std::vector<CedictRecord>;
+
+CedictRecord record(const std::u16string& word, const std::u16string& pinyin, Texts glosses) {
+  return {word, word, pinyin, std::move(glosses)};
+}
+
+/// The glosses of the word; none if it has no entry.
+std::vector<Gloss> glossesOf(const Records& records, const std::u16string& word) {
+  for (const ChineseEntry& entry : chineseEntries(records)) {
+    if (entry.word == word) return entry.glosses;
+  }
+  return {};
+}
+
+Texts textsOf(const Records& records, const std::u16string& word) {
+  Texts texts;
+  for (const Gloss& gloss : glossesOf(records, word)) texts.push_back(gloss.english);
+  return texts;
+}
+
+TEST(ChineseEntries, KeepsTheOrderOfTheSource) {
+  const std::vector<ChineseEntry> entries = chineseEntries(
+      {record(u"天", u"tian1", {u"sky", u"day; heaven"}), record(u"地", u"di4", {u"earth"})});
+  ASSERT_EQ(entries.size(), 2U);
+  EXPECT_EQ(entries[0].word, u"天");
+  EXPECT_EQ(textsOf({record(u"天", u"tian1", {u"sky", u"day; heaven"})}, u"天"),
+            (Texts{u"sky", u"day", u"heaven"}));
+}
+
+// "药 | leaf of the iris/variant of 藥|药[yao4]", "药 | medicine …", "密 | surname Mi"
+TEST(ChineseEntries, JoinsReadingsTheMainOneFirst) {
+  const Records records = {record(u"长", u"zhang3", {u"chief", u"elder"}),
+                           record(u"长", u"chang2", {u"length", u"long", u"forever"}),
+                           record(u"长", u"Chang2", {u"Chang"})};
+  EXPECT_EQ(textsOf(records, u"长"),
+            (Texts{u"length", u"long", u"chief", u"forever", u"elder", u"Chang"}));
+}
+
+// "公安 | see 公安縣|公安县[Gong1 an1 Xian4]", "公安 | … public safety/public security"
+TEST(ChineseEntries, PutsNamesAfterAllOtherMeanings) {
+  const Records records = {record(u"公安", u"Gong1 an1", {u"Gong'an"}),
+                           record(u"公安", u"gong1 an1", {u"safety", u"security", u"police"})};
+  EXPECT_EQ(textsOf(records, u"公安"), (Texts{u"safety", u"security", u"police", u"Gong'an"}));
+}
+
+// "个 | (classifier …)/(bound form) individual", "密 | surname Mi/name of an ancient state"
+TEST(ChineseEntries, PutsTheBestValuesFirst) {
+  const Records records = {
+      record(u"密", u"mi4", {u"surname Mi", u"name of a state", u"(Tw) tight", u"secret"})};
+  EXPECT_EQ(textsOf(records, u"密"),
+            (Texts{u"secret", u"tight", u"name of a state", u"surname Mi"}));
+}
+
+TEST(ChineseEntries, TakesEqualTextsTogether) {
+  const std::vector<Gloss> glosses =
+      glossesOf({record(u"华", u"hua2", {u"China", u"china (chemistry)", u"china"})}, u"华");
+  ASSERT_EQ(glosses.size(), 1U);
+  EXPECT_EQ(glosses[0].english, u"China");
+  EXPECT_EQ(glosses[0].subjects, setOf(dictionary::Subject::kChemistry));
+}
+
+// "金安 | see 金安區|金安区[Jin1 an1 Qu1]", "㬎 | old variant of 顯|显[xian3]"
+TEST(ChineseEntries, FollowsReferences) {
+  const Records records = {
+      record(u"甲", u"jia3", {u"see 乙[yi3]"}), record(u"乙", u"yi3", {u"variant of 丙[bing3]"}),
+      record(u"丙", u"bing3", {u"third"}), record(u"丁", u"ding1", {u"old variant of 丙[bing3]"})};
+  EXPECT_EQ(textsOf(records, u"甲"), (Texts{u"third"}));
+  EXPECT_EQ(glossesOf(records, u"甲").at(0).value, GlossValue::kPair);
+  EXPECT_EQ(glossesOf(records, u"丁").at(0).value, GlossValue::kUsage);
+}
+
+TEST(ChineseEntries, EndsInLoops) {
+  EXPECT_TRUE(chineseEntries({record(u"甲", u"jia3", {u"see 乙[yi3]", u"see 甲[jia3]"}),
+                              record(u"乙", u"yi3", {u"see 甲[jia3]", u"see 乙[yi3]"})})
+                  .empty());
+}
+
+// "抬 | variant of 抬[tai2]": the traditional forms differ; "药 | variant of 藥|药[yao4]"
+TEST(ChineseEntries, FindsTheReferencesReading) {
+  Records records = {record(u"乐器", u"yue4 qi4", {u"see 乐[yue4]"}),
+                     record(u"乐", u"le4", {u"happy"}), record(u"乐", u"yue4", {u"music"})};
+  EXPECT_EQ(textsOf(records, u"乐器"), (Texts{u"music"}));
+  records[0].glosses = {u"see 乐[lao4]"};
+  EXPECT_EQ(textsOf(records, u"乐器"), (Texts{u"happy", u"music"})) << "none is the one";
+  records[0].glosses = {u"see 樂|乐[yue4]"};
+  records[1].traditional = u"樂";
+  EXPECT_EQ(textsOf(records, u"乐器"), (Texts{u"happy", u"music"}));
+}
+
+// "一时 | … see also 暂时", "徕 | used in 招徠|招徕[zhao1 lai2]"
+TEST(ChineseEntries, FollowsRelatedWordsOnlyForWantOfMeanings) {
+  const Records records = {
+      record(u"甲", u"jia3", {u"first", u"see also 乙[yi3]"}),
+      record(u"丙", u"bing3", {u"see also 乙[yi3]"}), record(u"丁", u"ding1", {u"used in 乙[yi3]"}),
+      record(u"戊", u"wu4", {u"cf. 乙[yi3]"}), record(u"乙", u"yi3", {u"second"})};
+  EXPECT_EQ(textsOf(records, u"甲"), (Texts{u"first"}));
+  EXPECT_EQ(textsOf(records, u"丙"), (Texts{u"second"}));
+  EXPECT_EQ(glossesOf(records, u"丁").at(0).value, GlossValue::kPart);
+  EXPECT_TRUE(glossesOf(records, u"戊").empty());
+}
+
+// "岱 | Mt Tai in Shandong/same as 泰山": 泰山 is Tarzan as well
+TEST(ChineseEntries, FollowsNoDoubtfulReferenceBesideMeanings) {
+  const Records records = {record(u"岱", u"dai4", {u"Mt Tai", u"same as 泰山"}),
+                           record(u"泰山", u"Tai4 shan1", {u"Tarzan"}),
+                           record(u"岳", u"yue4", {u"same as 泰山"}),
+                           record(u"山", u"shan1", {u"hill", u"same as 泰山[Tai4 shan1]"})};
+  EXPECT_EQ(textsOf(records, u"岱"), (Texts{u"Mt Tai"}));
+  EXPECT_EQ(textsOf(records, u"岳"), (Texts{u"Tarzan"}));
+  EXPECT_EQ(textsOf(records, u"山"), (Texts{u"hill", u"Tarzan"}));
+}
+
+// "扛大梁 | lit. to carry the big beam", "变本加厉 | lit. change …; to become more intense"
+TEST(ChineseEntries, HasALiteralMeaningOnlyForWantOfAnother) {
+  EXPECT_EQ(glossesOf({record(u"甲", u"jia3", {u"lit. first blow"})}, u"甲").at(0).value,
+            GlossValue::kUsage);
+  const std::vector<Gloss> both =
+      glossesOf({record(u"甲", u"jia3", {u"lit. first blow", u"fig. to begin"})}, u"甲");
+  ASSERT_EQ(both.size(), 2U);
+  EXPECT_EQ(both[0].english, u"begin");
+  EXPECT_EQ(both[1].value, GlossValue::kLiteral);
+}
+
+// "𫠒", "3C", "没有规矩，不成方圆", "卡尔·马克思", "的", "□"
+TEST(ChineseEntries, LeavesOutWhatCannotBeAHeadword) {
+  const auto wordOf = [](const std::u16string& word) {
+    const std::vector<ChineseEntry> entries = chineseEntries({record(word, u"x", {u"x"})});
+    return entries.empty() ? std::u16string() : entries[0].word;
+  };
+  EXPECT_EQ(wordOf(u"𫠒"), u"");
+  EXPECT_EQ(wordOf(u"3C"), u"");
+  EXPECT_EQ(wordOf(u"□"), u"");
+  EXPECT_EQ(wordOf(u"3D打印"), u"3D打印");
+  EXPECT_EQ(wordOf(u"没有规矩，不成方圆"), u"没有规矩,不成方圆");
+  EXPECT_EQ(wordOf(u"卡尔·马克思"), u"卡尔·马克思");
+  EXPECT_EQ(wordOf(u"的"), u"的");
+  EXPECT_EQ(wordOf(std::u16string(20, u'一')), std::u16string(20, u'一'));
+  EXPECT_EQ(wordOf(std::u16string(21, u'一')), u"");
+  EXPECT_EQ(wordOf(u"3D" + std::u16string(19, u'一')), u"") << "letters count";
+}
+
+}  // namespace

@@ -1,0 +1,90 @@
+#include "dictionary/gloss/english.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+namespace {
+
+using dictionary::englishHeadword;
+
+std::u16string word(std::u16string_view gloss) { return englishHeadword(gloss).value_or(u""); }
+
+// "同乐 | to enjoy together", "使节团 | a diplomatic group", "造物 | the Creator"
+TEST(EnglishHeadword, RemovesParticleAndArticle) {
+  EXPECT_EQ(word(u"to enjoy together"), u"enjoy together");
+  EXPECT_EQ(word(u"to be hard to bear"), u"be hard to bear");
+  EXPECT_EQ(word(u"a diplomatic group"), u"diplomatic group");
+  EXPECT_EQ(word(u"the Creator"), u"Creator");
+}
+
+// "着边 | to the point", "尽兴 | to one's heart's content", "少许 | a little", "中国式 | à la
+// chinoise"
+TEST(EnglishHeadword, KeepsThemWhereTheyBelong) {
+  EXPECT_EQ(word(u"to the point"), u"to the point");
+  EXPECT_EQ(word(u"to one's heart's content"), u"to one's heart's content");
+  EXPECT_EQ(word(u"a little"), u"a little");
+  EXPECT_EQ(word(u"à la chinoise"), u"a la chinoise");
+  EXPECT_EQ(word(u"the more"), u"the more");
+}
+
+// "穷匮 | to be short of sth", "抬举 | to elevate sb", "弃暗 | sb's identity"
+TEST(EnglishHeadword, WritesAbbreviationsOut) {
+  EXPECT_EQ(word(u"to be short of sth"), u"be short of something");
+  EXPECT_EQ(word(u"to elevate sb"), u"elevate somebody");
+  EXPECT_EQ(word(u"sb's identity"), u"somebody's identity");
+  EXPECT_EQ(word(u"to tell sb."), u"tell somebody");
+  EXPECT_EQ(word(u"for sb, sth or both"), u"for somebody, something or both");
+  EXPECT_EQ(word(u"sbirro"), u"sbirro");
+}
+
+// "蛋奶酥 | soufflé", "绿岛 | Lüdao", "A咖 | class \"A\""
+TEST(EnglishHeadword, FoldsWhatHeadwordsDoNotHold) {
+  EXPECT_EQ(word(u"soufflé"), u"souffle");
+  EXPECT_EQ(word(u"Lüdao"), u"Ludao");
+  EXPECT_EQ(word(u"class \"A\""), u"class A");
+  EXPECT_EQ(word(dictionary::withAsciiMarks(u"don’t 9–5")), u"don't 9-5");
+}
+
+// "安得 | How can this be?", "下午 | p.m.", "卡乐星 | Carl's Jr.", "还不如 | to be better off ..."
+TEST(EnglishHeadword, RemovesMarksAround) {
+  EXPECT_EQ(word(u"How can this be?"), u"How can this be");
+  EXPECT_EQ(word(u"p.m."), u"p.m.");
+  EXPECT_EQ(word(u"Carl's Jr."), u"Carl's Jr.");
+  EXPECT_EQ(word(u"to be better off ..."), u"be better off");
+  EXPECT_EQ(word(u"...or"), u"or");
+  EXPECT_EQ(word(u"both ... and ..."), u"both ... and");
+}
+
+// "多元 | poly-", "氢氧根离子 | hydroxide ion OH-", "作用 | -ation", "星号 | asterisk * (punct.)",
+// "等号 | equals sign ="
+TEST(EnglishHeadword, TellsHyphensFromSymbols) {
+  EXPECT_EQ(word(u"poly-"), u"poly-");
+  EXPECT_EQ(word(u"hydroxide ion OH-"), u"hydroxide ion OH-");
+  EXPECT_EQ(word(u"-ation"), u"-ation");
+  EXPECT_EQ(word(u"asterisk *"), u"asterisk");
+  EXPECT_EQ(word(u"equals sign ="), u"equals sign");
+  EXPECT_EQ(word(u"less than, <"), u"less than");
+}
+
+TEST(EnglishHeadword, RefusesWhatCannotBeLookedUp) {
+  EXPECT_FALSE(englishHeadword(u""));
+  EXPECT_FALSE(englishHeadword(u"..."));
+  EXPECT_FALSE(englishHeadword(u"a%b"));
+  EXPECT_FALSE(englishHeadword(u"more {adj.} than {noun}"));
+  EXPECT_FALSE(englishHeadword(u"to be ...ed"));
+  EXPECT_FALSE(englishHeadword(u"radical 頁"));
+  EXPECT_TRUE(englishHeadword(std::u16string(64, u'x')));
+  EXPECT_FALSE(englishHeadword(std::u16string(65, u'x')));
+}
+
+TEST(WordCount, CountsBlanks) {
+  EXPECT_EQ(dictionary::wordCount(u""), 0U);
+  EXPECT_EQ(dictionary::wordCount(u"wild"), 1U);
+  EXPECT_EQ(dictionary::wordCount(u"three-piece suit"), 2U);
+  EXPECT_EQ(dictionary::lastWord(u"three-piece suit"), u"suit");
+  EXPECT_EQ(dictionary::firstWord(u"suit"), u"suit");
+}
+
+}  // namespace

@@ -1,0 +1,115 @@
+#include "dictionary/gloss/gloss.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using dictionary::Gloss;
+using dictionary::GlossValue;
+using dictionary::parseGloss;
+using dictionary::Subject;
+using Texts = std::vector<std::u16string>;
+
+Texts texts(std::u16string_view gloss) {
+  Texts result;
+  for (const Gloss& one : parseGloss(gloss).glosses) result.push_back(one.english);
+  return result;
+}
+
+/// The value of the gloss's only text.
+GlossValue value(std::u16string_view gloss) {
+  const std::vector<Gloss> glosses = parseGloss(gloss).glosses;
+  EXPECT_EQ(glosses.size(), 1U);
+  return glosses.empty() ? GlossValue::kLiteral : glosses[0].value;
+}
+
+// "同样 | same; equal; similar", "只有 | to expect (often …; never)", "3C | computers,
+// communications, and consumer electronics"
+TEST(ParseGloss, SplitsAtSemicolons) {
+  EXPECT_EQ(texts(u"same; equal; similar"), (Texts{u"same", u"equal", u"similar"}));
+  EXPECT_EQ(texts(u"to expect (often; never)"), (Texts{u"expect"}));
+  EXPECT_EQ(texts(u"\"one; two\" game"), (Texts{u"one; two game"}));
+}
+
+// "回击 | to fight back; to return fire", "每日限价 | (finance) daily trading limit, the maximum …"
+TEST(ParseGloss, GivesWordsAndSubjects) {
+  const std::vector<Gloss> glosses = parseGloss(u"(law) to appeal; to sue (finance)").glosses;
+  ASSERT_EQ(glosses.size(), 2U);
+  EXPECT_EQ(glosses[0].words, 1U);
+  EXPECT_EQ(glosses[0].subjects, setOf(Subject::kLaw));
+  EXPECT_EQ(glosses[1].subjects, setOf(Subject::kLaw) | setOf(Subject::kEconomy));
+  EXPECT_EQ(parseGloss(u"interval (music); gap").glosses[1].subjects, 0U);
+  EXPECT_EQ(parseGloss(u"Yuci district of Jinzhong city 晉中市|晋中市[Jin4 zhong1 shi4], Shanxi")
+                .glosses[0]
+                .subjects,
+            setOf(Subject::kPlace));
+}
+
+// "频宽 | (Tw) bandwidth", "菠薐 | old name for spinach", "艘 | classifier for ships"
+TEST(ParseGloss, ValuesTexts) {
+  EXPECT_EQ(value(u"bandwidth"), GlossValue::kPair);
+  EXPECT_EQ(value(u"to be on the very same"), GlossValue::kExplanation) << "five words";
+  EXPECT_EQ(value(u"to be on the same"), GlossValue::kPair) << "four words";
+  EXPECT_EQ(value(u"(Tw) bandwidth"), GlossValue::kUsage);
+  EXPECT_EQ(value(u"old name for spinach"), GlossValue::kUsage);
+  EXPECT_EQ(value(u"classifier for ships"), GlossValue::kExplanation);
+  EXPECT_EQ(value(u"(horse)"), GlossValue::kExplanation);
+  EXPECT_EQ(value(u"surname Li"), GlossValue::kSurname);
+  EXPECT_EQ(value(u"two-character surname Dugu"), GlossValue::kSurname);
+}
+
+// "变本加厉 | lit. change to more severe (idiom); to become more intense (esp. of shortcoming)",
+// "亮黄灯 | (lit.) to flash the yellow light", "飘 | (lit. and fig.) to drift"
+TEST(ParseGloss, TellsLiteralMeanings) {
+  const std::vector<Gloss> glosses =
+      parseGloss(u"lit. change (idiom); to become more intense (esp. of shortcoming)").glosses;
+  ASSERT_EQ(glosses.size(), 2U);
+  EXPECT_EQ(glosses[0].value, GlossValue::kLiteral);
+  EXPECT_EQ(glosses[1].english, u"become more intense");
+  EXPECT_EQ(glosses[1].value, GlossValue::kPair);
+  EXPECT_EQ(value(u"(lit.) to flash the light"), GlossValue::kLiteral);
+  EXPECT_EQ(value(u"(lit. and fig.) to drift"), GlossValue::kPair);
+  EXPECT_EQ(value(u"lit. and fig. to drift"), GlossValue::kPair);
+  EXPECT_EQ(value(u"fig. to get rid of"), GlossValue::kPair);
+}
+
+// "美洲国家 | also known as the Asian Games", "沪江 | alternative name for Shanghai 上海[Shang4
+// hai3]", "洭 | ancient name of a river 洭河[Kuang1 He2]"
+TEST(ParseGloss, RemovesMarksBeforeTheMeaning) {
+  EXPECT_EQ(texts(u"also known as the Asian Games"), (Texts{u"Asian Games"}));
+  EXPECT_EQ(texts(u"alternative name for Shanghai 上海[Shang4 hai3]"), (Texts{u"Shanghai"}));
+  EXPECT_EQ(texts(u"the Louvre, museum in Paris"), (Texts{u"Louvre"}));
+  EXPECT_EQ(value(u"ancient name of a river"), GlossValue::kExplanation);
+}
+
+// "FBI | Federal Bureau of Investigation (FBI)"
+TEST(ParseGloss, AddsInitials) {
+  EXPECT_EQ(texts(u"Federal Bureau of Investigation (FBI)"),
+            (Texts{u"Federal Bureau of Investigation", u"FBI"}));
+}
+
+// "一步一趋 | see 亦步亦趨|亦步亦趋[yi4 bu4 yi4 qu1]", "官媒 | (abbr. for 官方媒體|官方媒体)"
+TEST(ParseGloss, GivesReferences) {
+  const dictionary::ParsedGloss see = parseGloss(u"see 亦步亦趨|亦步亦趋[yi4 bu4 yi4 qu1]");
+  EXPECT_TRUE(see.glosses.empty());
+  ASSERT_EQ(see.references.size(), 1U);
+  EXPECT_EQ(see.references[0].simplified, u"亦步亦趋");
+  EXPECT_EQ(parseGloss(u"(abbr. for 官方媒體|官方媒体)").references.size(), 1U);
+  const dictionary::ParsedGloss taiwan = parseGloss(u"(Tw) variant of 屌[diao3]");
+  ASSERT_EQ(taiwan.references.size(), 1U);
+  EXPECT_TRUE(taiwan.references[0].usage);
+}
+
+TEST(ParseGloss, GivesNothingOfAsidesAndMarks) {
+  for (const std::u16string_view gloss :
+       {u"", u"(phonetic)", u"(loanword)", u"Taiwan pr. [sao1]", u"CL:個|个[ge4]", u"radical 頁",
+        u"(Tw)", u"; ;", u"()"}) {
+    EXPECT_TRUE(texts(gloss).empty()) << std::string(gloss.begin(), gloss.end());
+  }
+}
+
+}  // namespace

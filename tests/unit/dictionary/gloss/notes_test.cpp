@@ -1,0 +1,87 @@
+#include "dictionary/gloss/notes.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+namespace {
+
+using dictionary::NotedText;
+using dictionary::withoutGlossNotes;
+
+std::u16string text(std::u16string_view gloss) { return withoutGlossNotes(gloss).text; }
+
+// "打蜡 | to wax (a car, floor etc)", "提督 | provincial governor (in Qing and Ming times)",
+// "登载 | to publish (in newspapers (or magazines))"
+TEST(WithoutGlossNotes, RemovesNotes) {
+  EXPECT_EQ(text(u"to wax (a car, floor etc)"), u"to wax");
+  EXPECT_EQ(text(u"(of a woman) slim"), u"slim");
+  EXPECT_EQ(text(u"to publish (in newspapers (or magazines))"), u"to publish");
+  EXPECT_EQ(text(u"to regard (sb) as"), u"to regard as");
+  EXPECT_EQ(text(u"Karl Marx (1818-1883), philosopher"), u"Karl Marx, philosopher");
+}
+
+// "手提包 | (hand)bag", "里脊 | (tender)loin", "味蕾 | taste bud(s)", "弃子 | … child(ren)"
+TEST(WithoutGlossNotes, KeepsPartsOfWords) {
+  EXPECT_EQ(text(u"(hand)bag"), u"handbag");
+  EXPECT_EQ(text(u"taste bud(s)"), u"taste bud");
+  EXPECT_EQ(text(u"brother(s) and sister(s)"), u"brother and sister");
+  EXPECT_EQ(text(u"to abandon one's child(ren)"), u"to abandon one's child");
+  EXPECT_EQ(text(u"folk prescription(same as before)"), u"folk prescription");
+}
+
+// "氢氧化钙 | calcium hydroxide Ca(OH)2", "巴黎绿 | copper(II) acetoarsenite …",
+// "甘油醛 | glyceraldehyde (CH2O)3", "淀粉 | starch; amylum (C6H10O5)n"
+TEST(WithoutGlossNotes, KeepsFormulas) {
+  EXPECT_EQ(text(u"calcium hydroxide Ca(OH)2"), u"calcium hydroxide Ca(OH)2");
+  EXPECT_EQ(text(u"copper(II) acetoarsenite"), u"copper(II) acetoarsenite");
+  EXPECT_EQ(text(u"glyceraldehyde (CH2O)3"), u"glyceraldehyde");
+  EXPECT_EQ(text(u"amylum (C6H10O5)n"), u"amylum");
+}
+
+// "跟前 | (in) front", "一点 | … (not) the least bit", "产物 | result (of)"
+TEST(WithoutGlossNotes, KeepsLittleWordsAtTheBeginning) {
+  EXPECT_EQ(text(u"(in) front"), u"in front");
+  EXPECT_EQ(text(u"(not) the least bit"), u"not the least bit");
+  EXPECT_EQ(text(u"result (of)"), u"result");
+}
+
+// "满嘴 | a full mouth of (sth physical)", "依靠 | to rely on sth (for support etc)",
+// "诸如 | such as (the following)", "一袭 | an outfit of (clothing)"
+TEST(WithoutGlossNotes, KeepsAnObjectThatTheTextNeeds) {
+  EXPECT_EQ(text(u"a full mouth of (sth physical)"), u"a full mouth of sth physical");
+  EXPECT_EQ(text(u"an outfit of (clothing)"), u"an outfit of clothing");
+  EXPECT_EQ(text(u"to act like a (fool)"), u"to act like a fool");
+  EXPECT_EQ(text(u"to belong to (a group)"), u"to belong to") << "verbs do without";
+  EXPECT_EQ(text(u"on account of (sth)"), u"on account of") << "any object";
+  EXPECT_EQ(text(u"just as (coll.)"), u"just as") << "no object at all";
+}
+
+// "世卫 | World Health Organization (WHO)", "美职篮 | National Basketball Association (NBA)",
+// "近场通信 | (computing) near-field communication (NFC)"
+TEST(WithoutGlossNotes, FindsInitials) {
+  EXPECT_EQ(withoutGlossNotes(u"World Health Organization (WHO)").initials, u"WHO");
+  EXPECT_EQ(withoutGlossNotes(u"near-field communication (NFC)").initials, u"NFC");
+  EXPECT_EQ(withoutGlossNotes(u"Federal Bureau of Investigation (FBI)").initials, u"FBI");
+  EXPECT_EQ(withoutGlossNotes(u"bandwidth (PRC)").initials, u"");
+}
+
+// "瑀 | (chalcedony)", "鑶 | (onom.) (sound of a bell)", "哒 | (phonetic)"
+TEST(WithoutGlossNotes, TakesANoteThatStandsAlone) {
+  const NotedText stone = withoutGlossNotes(u"(chalcedony)");
+  EXPECT_EQ(stone.text, u"chalcedony");
+  EXPECT_TRUE(stone.described);
+  EXPECT_EQ(text(u"(onom.) (sound of a bell)"), u"sound of a bell");
+  EXPECT_EQ(text(u"(phonetic)"), u"");
+  EXPECT_FALSE(withoutGlossNotes(u"agate (chalcedony)").described);
+}
+
+TEST(WithoutGlossNotes, DropsANoteThatDoesNotEnd) {
+  EXPECT_EQ(text(u"wild dog (or"), u"wild dog");
+  EXPECT_EQ(text(u"("), u"");
+  EXPECT_EQ(text(u"()"), u"");
+  EXPECT_EQ(text(u"wild) dog"), u"wild) dog");
+}
+
+}  // namespace
