@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "dictionary/arrange/block_packing.h"
+#include "dictionary/arrange/chinese_side.h"
 #include "dictionary/arrange/pair_collector.h"
 #include "dictionary/arrange/senses.h"
 #include "dictionary/arrange/tables.h"
@@ -20,6 +21,7 @@
 #include "dictionary/database/temporary_file.h"
 #include "dictionary/report.h"
 #include "dictionary/source/csv_reader.h"
+#include "text/utf.h"
 
 namespace dictionary {
 namespace {
@@ -38,6 +40,7 @@ class Builder {
   explicit Builder(std::ostream& log) : log_(log), progress_(log) {}
 
   void readSource(std::istream& stream);
+  void readFurtherSources(const SourceFiles& files);
   void arrangeContent();
   void publish(const std::filesystem::path& target) {
     publishDatabase(content_, facts_, target, log_, progress_);
@@ -50,6 +53,8 @@ class Builder {
   void reportFurtherBadLines();
   void addEntry(const SourceEntry& source);
   void addParsed(const Entry& entry);
+  void addSubjectRows(const ChineseEntry& entry);
+  void refuseRepeatedTerms() const;
 
   std::ostream& log_;
   Progress progress_;
@@ -59,6 +64,7 @@ class Builder {
   std::vector<Entry> withShortForms_;  ///< wait until all words are known
   PairCollector pairs_;
   SubjectCollector subjects_;
+  ChineseSources further_;
   DatabaseContent content_;
   std::size_t badLines_ = 0;
   std::map<LineFault, LineRanges> furtherBadLines_;
@@ -124,9 +130,47 @@ void Builder::readSource(std::istream& stream) {
   progress_.report(grouped(entries) + " entries read");
 }
 
+void Builder::readFurtherSources(const SourceFiles& files) {
+  if (!files.wordFrequencies.empty()) {
+    further_.ranks = rankWords(readWordFrequencies(files.wordFrequencies));
+  }
+  if (!files.chinese.empty()) further_.entries = readCedict(files.chinese);
+  if (!files.terms.empty()) further_.terms = readTermList(files.terms);
+  for (const ChineseEntry& entry : further_.entries) addSubjectRows(entry);
+  for (const Term& term : further_.terms) {
+    if (term.subject) subjects_.add(*term.subject, term.english, term.chinese);
+  }
+  progress_.report(grouped(further_.entries.size()) + " Chinese entries and " +
+                   grouped(further_.terms.size()) + " terms read");
+}
+
+/// Equivalents only: an explanation is nothing that one searches for.
+void Builder::addSubjectRows(const ChineseEntry& entry) {
+  for (const Gloss& gloss : entry.glosses) {
+    if (gloss.value != GlossValue::kPair && gloss.value != GlossValue::kUsage) continue;
+    for (std::size_t i = 0; i < kSubjectCount; ++i) {
+      const auto subject = static_cast<Subject>(i);
+      if ((gloss.subjects & setOf(subject)) != 0) subjects_.add(subject, gloss.english, entry.word);
+    }
+  }
+}
+
+/// The list of terms is our own, so that a pair too many is a mistake to be mended there.
+void Builder::refuseRepeatedTerms() const {
+  const std::vector<Term> repeated = repeatedTerms(content_.vocabulary, further_);
+  for (const Term& term : repeated) {
+    log_ << "the list of terms repeats \"" << text::toUtf8(term.english) << "\", "
+         << text::toUtf8(term.chinese) << '\n';
+  }
+  if (!repeated.empty()) throw Failure("the list of terms has pairs that a source gives");
+}
+
 /// The collectors are emptied: pairs of a full dictionary take hundreds of megabytes.
 void Builder::arrangeContent() {
   content_.vocabulary = std::move(pairs_).finish();
+  refuseRepeatedTerms();
+  content_.vocabulary = addChineseSide(std::move(content_.vocabulary), further_);
+  further_ = {};
   content_.subjects = std::move(subjects_).finish();
   progress_.report(grouped(content_.vocabulary.pairs.size()) + " pairs sorted");
   const std::vector<bool> chosen = choosePairs(content_.vocabulary, LookupLimits());
@@ -159,13 +203,14 @@ void publishDatabase(const DatabaseContent& content, const SourceFacts& facts,
   progress.report(displayName(target) + " is ready");
 }
 
-void buildDatabase(const std::filesystem::path& source, const std::filesystem::path& target,
+void buildDatabase(const SourceFiles& sources, const std::filesystem::path& target,
                    std::ostream& log) {
-  requireFile(source);
-  std::ifstream stream(source, std::ios::binary);
-  if (!stream) throw Failure("cannot read " + displayName(source));
+  requireFile(sources.english);
+  std::ifstream stream(sources.english, std::ios::binary);
+  if (!stream) throw Failure("cannot read " + displayName(sources.english));
   Builder builder(log);
   builder.readSource(stream);
+  builder.readFurtherSources(sources);
   builder.arrangeContent();
   builder.publish(target);
   builder.printReport();

@@ -9,14 +9,22 @@
 
 namespace dictionary {
 
-/// Builds the database `target` from the CSV file `source` (see csv_reader.h). Lines that cannot be
-/// read are skipped. They, progress and a final report go to `log`.
+/// The files that a database is made of. All but the first may be empty paths.
+struct SourceFiles {
+  std::filesystem::path english = {};          ///< the CSV file, see csv_reader.h
+  std::filesystem::path chinese = {};          ///< the Chinese-English source, see cedict_reader.h
+  std::filesystem::path wordFrequencies = {};  ///< see word_frequencies.h
+  std::filesystem::path terms = {};            ///< the folder of our own list, see term_list.h
+};
+
+/// Builds the database `target`. Lines of the CSV file that cannot be read are skipped. They,
+/// progress and a final report go to `log`.
 ///
 /// The database is written to a file beside the target, checked by every rule, and only then
 /// renamed to the target: a former database stays in place until the new one is complete. The same
 /// source gives the same bytes on every machine. Takes some 15 s and 400 MB of memory for a full
 /// dictionary. Throws Failure; the target is unchanged then.
-void buildDatabase(const std::filesystem::path& source, const std::filesystem::path& target,
+void buildDatabase(const SourceFiles& sources, const std::filesystem::path& target,
                    std::ostream& log);
 
 /// The last stage of buildDatabase(): writes the content to a temporary file beside `target`,

@@ -15,6 +15,7 @@
 #include "dictionary/build.h"
 #include "dictionary/check/check.h"
 #include "dictionary/console.h"
+#include "dictionary/coverage/chinese_coverage.h"
 #include "dictionary/coverage/coverage.h"
 #include "dictionary/word_lookup.h"
 #include "text/utf.h"
@@ -26,9 +27,14 @@ constexpr std::string_view kUsage =
     "kkbuild makes and checks kk.dat, the dictionary database.\n"
     "\n"
     "  kkbuild build SOURCE.csv OUTPUT   builds OUTPUT from comma-separated source data\n"
+    "  kkbuild build SOURCE.csv CHINESE.js FREQUENCIES TERMS OUTPUT\n"
+    "                                    builds OUTPUT from all sources: also a Chinese-English\n"
+    "                                    one, word frequencies, and a folder of lists of terms\n"
     "  kkbuild check FILE [SOURCE.csv]   checks every rule of a database\n"
     "  kkbuild lookup FILE WORD          shows what the quick lookup window shows for WORD\n"
     "  kkbuild coverage FILE TEXT...     counts the words of English texts that the popup finds\n"
+    "  kkbuild coverage --chinese FILE LIST\n"
+    "                                    counts the most frequent Chinese words that are found\n"
     "  kkbuild --help                    shows this text\n"
     "\n"
     "build replaces an existing OUTPUT only by a complete and checked new one; it reports lines\n"
@@ -38,13 +44,16 @@ constexpr std::string_view kUsage =
     "no\n"
     "such word, or a file cannot be read, 2 for wrong arguments.\n";
 
-/// A share as "0.8 %"; "0.0 %" of nothing.
-std::string percentage(std::size_t part, std::size_t whole) {
-  std::ostringstream text;
-  const double share =
-      whole == 0 ? 0 : 100.0 * static_cast<double>(part) / static_cast<double>(whole);
-  text << std::fixed << std::setprecision(1) << share << " %";
-  return text.str();
+/// How many headwords the lists of frequent words show, of which a user sees some thirty at once.
+void printListLengths(const std::vector<std::size_t>& lengths, std::ostream& out) {
+  const auto below = [&](std::size_t limit) {
+    const auto count = std::ranges::lower_bound(lengths, limit) - lengths.begin();
+    return percentage(static_cast<std::size_t>(count), lengths.size());
+  };
+  out << "lists of " << grouped(lengths.size())
+      << " frequent English words: " << (lengths.empty() ? 0 : lengths[lengths.size() / 2])
+      << " headwords at the median, " << below(10) << " with fewer than 10, " << below(20)
+      << " with fewer than 20\n";
 }
 
 /// Lists that end cut are reported, but break no rule: building without any is impossible.
@@ -64,6 +73,7 @@ ExitCode runCheck(const std::vector<std::string>& arguments, std::ostream& out) 
     out << grouped(result.untranslatedWords)
         << " important words have no Chinese text in the source; "
         << grouped(result.untranslatedWithoutRow) << " of them have no row\n";
+    printListLengths(result.frequentLists, out);
   } else {
     out << "the rules about the source are not checked without it\n";
   }
@@ -100,8 +110,14 @@ ExitCode dispatch(const std::vector<std::string>& arguments, std::ostream& out, 
     out << kUsage;
     return kSuccess;
   }
-  if (command == "build" && arguments.size() == 3) {
-    buildDatabase(pathOf(arguments[1]), pathOf(arguments[2]), err);
+  if (command == "build" && (arguments.size() == 3 || arguments.size() == 6)) {
+    SourceFiles sources{.english = pathOf(arguments[1])};
+    if (arguments.size() == 6) {
+      sources.chinese = pathOf(arguments[2]);
+      sources.wordFrequencies = pathOf(arguments[3]);
+      sources.terms = pathOf(arguments[4]);
+    }
+    buildDatabase(sources, pathOf(arguments.back()), err);
     return kSuccess;
   }
   if (command == "check" && (arguments.size() == 2 || arguments.size() == 3)) {
@@ -109,6 +125,10 @@ ExitCode dispatch(const std::vector<std::string>& arguments, std::ostream& out, 
   }
   if (command == "lookup" && arguments.size() == 3) {
     return runLookup(arguments[1], arguments[2], out, err);
+  }
+  if (command == "coverage" && arguments.size() == 4 && arguments[1] == "--chinese") {
+    reportChineseCoverage(pathOf(arguments[2]), pathOf(arguments[3]), out);
+    return kSuccess;
   }
   if (command == "coverage" && arguments.size() >= 3) return runCoverage(arguments, out);
   err << kUsage;

@@ -36,6 +36,14 @@ void throwUnreadable(const std::filesystem::path& database, const data::Error& e
 }
 
 /// Not by the locale: reports are the same everywhere, for tests and comparisons.
+std::string percentage(std::size_t part, std::size_t whole) {
+  std::ostringstream text;
+  const double share =
+      whole == 0 ? 0 : 100.0 * static_cast<double>(part) / static_cast<double>(whole);
+  text << std::fixed << std::setprecision(1) << share << " %";
+  return text.str();
+}
+
 std::string grouped(std::size_t number) {
   const std::string digits = std::to_string(number);
   std::string text;

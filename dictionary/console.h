@@ -40,6 +40,9 @@ void requireFile(const std::filesystem::path& path);
 /// Returns a number in decimal with its digits in groups: "1,060,000".
 std::string grouped(std::size_t number);
 
+/// Returns a share as "0.8 %"; "0.0 %" of nothing.
+std::string percentage(std::size_t part, std::size_t whole);
+
 /// Reports the steps of a long command: one line a step, with the seconds since construction. Keeps
 /// a reference to `log`, which must outlive it.
 class Progress {

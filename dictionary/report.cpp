@@ -14,6 +14,8 @@ constexpr std::array<std::string_view, kTierCount> kTierNames = {
     "important words, first equivalent",
     "important words, further equivalents",
     "other words, first equivalent",
+    "several words, first equivalent",
+    "other Chinese headwords, first row",
     "other words, further equivalents",
     "forms of other words, further equivalents",
     "first equivalent of words that have only names or web equivalents",

@@ -26,9 +26,11 @@ constexpr std::size_t kReach = 40;
 constexpr std::int64_t kUnit = 1024;
 /// Losses of a wanted pair left out, a reserve pair kept, two blocks joined: as bad as a deviation
 /// by seven, three and twenty spare pairs.
-constexpr std::uint64_t kWantedLoss = 50 * kUnit;
+constexpr std::uint64_t kWantedLoss = 200 * kUnit;
 constexpr std::uint64_t kReserveLoss = 10 * kUnit;
 constexpr std::uint64_t kJoinLoss = 400 * kUnit;
+/// The loss of a cut that costs 1.
+constexpr std::uint64_t kCostLoss = 40 * kUnit;
 
 std::uint64_t total(const TierCounts& counts) {
   return counts.wanted + counts.spare + counts.reserve;
@@ -38,9 +40,13 @@ std::uint64_t total(const TierCounts& counts) {
 /// the beginning of the sequence.
 class CutSearch {
  public:
-  CutSearch(const PrefixCounts& counts, std::size_t blocks, std::size_t blockRows,
-            std::size_t maxJoined)
-      : counts_(counts), blocks_(blocks), blockRows_(blockRows), maxJoined_(maxJoined) {
+  CutSearch(const PrefixCounts& counts, const CutCosts& costs, std::size_t blocks,
+            std::size_t blockRows, std::size_t maxJoined)
+      : counts_(counts),
+        costs_(costs),
+        blocks_(blocks),
+        blockRows_(blockRows),
+        maxJoined_(maxJoined) {
     const TierCounts& all = counts.back();
     const std::uint64_t rows = blocks * blockRows;
     spare_ = std::max<std::uint64_t>(all.spare, 1);
@@ -71,7 +77,13 @@ class CutSearch {
   void extend(const Candidates& from, Candidates& to, std::size_t joined) const;
   [[nodiscard]] std::vector<BlockCut> trace(const std::vector<Candidates>& cuts) const;
 
+  /// The loss of a cut before unit `unit`, whatever the blocks at its sides are.
+  [[nodiscard]] std::uint64_t cutLoss(std::size_t unit) const {
+    return costs_.empty() ? 0 : costs_[unit] * kCostLoss;
+  }
+
   const PrefixCounts& counts_;
+  const CutCosts& costs_;
   std::size_t blocks_;
   std::size_t blockRows_;
   std::size_t maxJoined_;
@@ -123,11 +135,12 @@ void CutSearch::extend(const Candidates& from, Candidates& to, std::size_t joine
     const std::size_t last = to.first + t;
     if (last <= from.first) continue;
     const std::size_t count = std::min(from.loss.size(), last - from.first);
+    const std::uint64_t atCut = cutLoss(last);
     for (std::size_t f = 0; f < count; ++f) {
       if (from.loss[f] >= to.loss[t]) continue;  // losses are not negative
       const std::uint64_t loss = blockLoss(from.first + f, last, joined);
-      if (loss == kImpossible || from.loss[f] + loss >= to.loss[t]) continue;
-      to.loss[t] = from.loss[f] + loss;
+      if (loss == kImpossible || from.loss[f] + loss + atCut >= to.loss[t]) continue;
+      to.loss[t] = from.loss[f] + loss + atCut;
       to.previous[t] = static_cast<std::uint32_t>(f);
       to.joined[t] = static_cast<std::uint8_t>(joined);
     }
@@ -178,9 +191,9 @@ std::size_t maxBlocks(const PrefixCounts& counts, std::size_t blockRows) {
 }
 
 std::vector<BlockCut> chooseCuts(const PrefixCounts& counts, std::size_t blocks,
-                                 std::size_t blockRows) {
+                                 std::size_t blockRows, const CutCosts& costs) {
   // Ends: with a reach of the whole sequence every division is a candidate, and there is one.
-  CutSearch search(counts, blocks, blockRows, 1);
+  CutSearch search(counts, costs, blocks, blockRows, 1);
   std::vector<BlockCut> cuts;
   for (std::size_t reach = kReach; cuts.empty(); reach *= 4) cuts = search.run(reach);
   return cuts;
@@ -190,7 +203,7 @@ std::vector<BlockCut> chooseCutsJoining(const PrefixCounts& counts, std::size_t 
                                         std::size_t blockRows) {
   // A Chinese headword has up to 201 rows, so that it may cross two cuts, between three blocks.
   constexpr std::size_t kMaxJoined = 3;
-  std::vector<BlockCut> cuts = CutSearch(counts, blocks, blockRows, kMaxJoined).run(kReach);
+  std::vector<BlockCut> cuts = CutSearch(counts, {}, blocks, blockRows, kMaxJoined).run(kReach);
   if (cuts.empty()) cuts = {{0, 0}, {counts.size() - 1, blocks * blockRows}};
   return cuts;
 }

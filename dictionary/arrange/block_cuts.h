@@ -20,6 +20,10 @@ struct TierCounts {
 /// counts the pairs before unit u, the last element counts all. Has at least one element.
 using PrefixCounts = std::vector<TierCounts>;
 
+/// What a cut before each unit, or after the last one, costs besides what the blocks lose: 0 where
+/// it does no harm. Has as many elements as the prefix counts, or none, if all cost the same.
+using CutCosts = std::vector<std::uint32_t>;
+
 /// A boundary between blocks.
 struct BlockCut {
   std::size_t unit = 0;  ///< the first unit after the cut
@@ -31,11 +35,12 @@ struct BlockCut {
 std::size_t maxBlocks(const PrefixCounts& counts, std::size_t blockRows);
 
 /// Divides the sequence into `blocks` blocks of whole units with `blockRows` rows each, so that
-/// every block gives up few wanted pairs and uses about the same share of its spare ones. `blocks`
+/// every block gives up few wanted pairs and uses about the same share of its spare ones, and so
+/// that the cuts cost little. `blocks`
 /// must be from 1 to maxBlocks(); otherwise the function does not return. Returns the cuts before,
 /// between and after the blocks.
 std::vector<BlockCut> chooseCuts(const PrefixCounts& counts, std::size_t blocks,
-                                 std::size_t blockRows);
+                                 std::size_t blockRows, const CutCosts& costs = {});
 
 /// As chooseCuts(), but where no unit ends near the place of a cut, two or three blocks become one
 /// with as many rows; if that does not suffice, all of them. Always returns cuts.

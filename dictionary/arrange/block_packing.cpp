@@ -88,6 +88,13 @@ PairSequence chineseSequence(const Vocabulary& vocabulary) {
   return sequence;
 }
 
+/// Fewer headwords than these are a short list, a very short list.
+constexpr std::size_t kShortList = 20;
+constexpr std::size_t kVeryShortList = 10;
+/// What a cut costs for each frequent headword whose list it makes so short.
+constexpr std::uint32_t kShortCost = 1;
+constexpr std::uint32_t kVeryShortCost = 4;
+
 constexpr Tier kLastTier = static_cast<Tier>(kTierCount - 1);
 
 /// One call of choosePairs(). The vocabulary must outlive it.
@@ -95,6 +102,7 @@ class BlockPacker {
  public:
   BlockPacker(const Vocabulary& vocabulary, const LookupLimits& limits)
       : pairs_(vocabulary.pairs),
+        ranks_(vocabulary.ranks),
         limits_(limits),
         english_(englishSequence(vocabulary)),
         chinese_(chineseSequence(vocabulary)),
@@ -108,9 +116,11 @@ class BlockPacker {
   std::vector<PairIndex> allButBest(std::vector<PairIndex> group, std::size_t limit) const;
   [[nodiscard]] Tier tierAtRow(std::size_t rows) const;
   [[nodiscard]] PrefixCounts countsOf(const PairSequence& sequence, Tier spare) const;
+  [[nodiscard]] CutCosts englishCutCosts(Tier spare) const;
   BlockPlan planOf(const PairSequence& sequence, const std::vector<BlockCut>& cuts);
 
   const std::vector<Pair>& pairs_;
+  const std::vector<std::uint32_t>& ranks_;
   LookupLimits limits_;
   PairSequence english_;
   PairSequence chinese_;
@@ -172,6 +182,31 @@ PrefixCounts BlockPacker::countsOf(const PairSequence& sequence, Tier spare) con
   return counts;
 }
 
+/// What a cut costs: a list ends with the block of its first headword, so that a cut shortens the
+/// lists of the headwords before it.
+CutCosts BlockPacker::englishCutCosts(Tier spare) const {
+  CutCosts costs = {0};
+  std::vector<bool> listed;  ///< whether the headword is frequent, for those with rows so far
+  for (std::size_t unit = 0; unit < english_.unitCount(); ++unit) {
+    const auto& pairs = english_.unit(unit);
+    const bool hasRows = std::ranges::any_of(
+        pairs, [&](PairIndex index) { return !excluded_[index] && pairs_[index].tier <= spare; });
+    if (hasRows) {
+      listed.push_back(std::ranges::any_of(pairs, [&](PairIndex index) {
+        const std::uint32_t rank = ranks_[pairs_[index].english];
+        return rank > 0 && rank <= kFrequentRank;
+      }));
+    }
+    std::uint32_t cost = 0;
+    const std::size_t last = std::min(listed.size(), kShortList - 1);
+    for (std::size_t back = 1; back <= last; ++back) {
+      if (listed[listed.size() - back]) cost += back < kVeryShortList ? kVeryShortCost : kShortCost;
+    }
+    costs.push_back(cost);
+  }
+  return costs;
+}
+
 /// The blocks between the cuts; removes the least valuable of the kept pairs beyond their rows.
 BlockPlan BlockPacker::planOf(const PairSequence& sequence, const std::vector<BlockCut>& cuts) {
   BlockPlan plan;
@@ -205,8 +240,8 @@ std::vector<bool> BlockPacker::run() {
   const Tier spare = tierAtRow(blocks * limits_.blockRows);
   for (std::size_t i = 0; i < pairs_.size(); ++i)
     kept_[i] = !excluded_[i] && pairs_[i].tier < spare;
-  const BlockPlan english =
-      planOf(english_, chooseCuts(countsOf(english_, spare), blocks, limits_.blockRows));
+  const BlockPlan english = planOf(english_, chooseCuts(countsOf(english_, spare), blocks,
+                                                        limits_.blockRows, englishCutCosts(spare)));
   const BlockPlan chinese =
       planOf(chinese_, chooseCutsJoining(countsOf(chinese_, spare), blocks, limits_.blockRows));
 

@@ -99,7 +99,8 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
         }
         ++place;
         const bool reference = inflectionIn(word).has_value();
-        candidates.push_back({{&word, kind, line.parts, reference},
+        const bool title = piece.noted.starts_with(u'《');
+        candidates.push_back({{&word, kind, line.parts, reference, title},
                               i,
                               piece.subjects != 0,
                               piece.slang,

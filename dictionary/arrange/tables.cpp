@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "text/order.h"
+#include "text/strings.h"
 
 namespace dictionary {
 namespace {
@@ -25,6 +26,17 @@ std::u16string meaningOf(const Entry& entry, Subject subject) {
   return meaning;
 }
 
+/// Whether an equivalent is a piece of the meaning by itself.
+bool holds(std::u16string_view meaning, std::u16string_view equivalent) {
+  constexpr std::u16string_view kSeparators = u",，;；、";
+  for (;;) {
+    const std::size_t end = std::min(meaning.find_first_of(kSeparators), meaning.size());
+    if (text::trimBlanks(meaning.substr(0, end)) == equivalent) return true;
+    if (end == meaning.size()) return false;
+    meaning.remove_prefix(end + 1);
+  }
+}
+
 /// Joins rows whose headwords are equal in the text order, which must follow each other: they
 /// differ in case only, which the table's primary key ignores. The first spelling is kept.
 void mergeEqual(std::vector<SubjectRow>& rows) {
@@ -32,6 +44,7 @@ void mergeEqual(std::vector<SubjectRow>& rows) {
   merged.reserve(rows.size());
   for (SubjectRow& row : rows) {
     if (!merged.empty() && text::equal(merged.back().word, row.word)) {
+      if (holds(merged.back().meaning, row.meaning)) continue;
       merged.back().meaning += u'；';
       merged.back().meaning += row.meaning;
     } else {
@@ -71,6 +84,12 @@ void SubjectCollector::add(const Entry& entry) {
     std::u16string meaning = meaningOf(entry, static_cast<Subject>(i));
     if (!meaning.empty()) tables_[i].push_back({entry.headword, std::move(meaning)});
   }
+}
+
+void SubjectCollector::add(Subject subject, std::u16string_view word,
+                           std::u16string_view equivalent) {
+  tables_.at(static_cast<std::size_t>(subject))
+      .push_back({std::u16string(word), std::u16string(equivalent)});
 }
 
 SubjectTables SubjectCollector::finish() && {

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "dictionary/arrange/vocabulary.h"
@@ -42,6 +43,9 @@ class SubjectCollector {
  public:
   /// Adds the entry's meaning to the dictionary of each subject that it has. Copies the texts.
   void add(const Entry& entry);
+
+  /// Adds an equivalent of another source. Copies the texts.
+  void add(Subject subject, std::u16string_view word, std::u16string_view equivalent);
 
   /// Returns everything added, each table in the text order of its headwords, one row for each.
   /// Ends the use of the collector.

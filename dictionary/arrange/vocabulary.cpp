@@ -51,7 +51,38 @@ std::vector<std::uint32_t> sortWords(std::vector<std::u16string>& words) {
   return places;
 }
 
+/// Whether the headword is several words, so that one cannot point at it as a whole.
+bool isPhrase(std::u16string_view headword) {
+  return headword.find(u' ') != std::u16string_view::npos;
+}
+
 }  // namespace
+
+void sortVocabulary(Vocabulary& vocabulary) {
+  const std::vector<std::uint32_t> englishPlaces = sortWords(vocabulary.english);
+  const std::vector<std::uint32_t> chinesePlaces = sortWords(vocabulary.chinese);
+  std::vector<std::uint32_t> ranks(vocabulary.english.size());
+  for (std::size_t i = 0; i < vocabulary.ranks.size(); ++i) {
+    std::uint32_t& rank = ranks[englishPlaces[i]];
+    if (rank == 0 || (vocabulary.ranks[i] > 0 && vocabulary.ranks[i] < rank)) {
+      rank = vocabulary.ranks[i];
+    }
+  }
+  vocabulary.ranks = std::move(ranks);
+  std::vector<Pair>& pairs = vocabulary.pairs;
+  for (Pair& pair : pairs) {
+    pair.english = englishPlaces[pair.english];
+    pair.chinese = chinesePlaces[pair.chinese];
+  }
+  std::ranges::sort(pairs, {}, [](const Pair& pair) {
+    return std::tie(pair.english, pair.chinese, pair.tier, pair.position);
+  });
+  const auto same = [](const Pair& a, const Pair& b) {
+    return a.english == b.english && a.chinese == b.chinese;
+  };
+  // Of equal pairs the first has the best tier and position.
+  pairs.erase(std::unique(pairs.begin(), pairs.end(), same), pairs.end());
+}
 
 Tier tierOf(const Entry& entry, bool form, const Sense& sense, bool only, std::size_t nth) {
   if (entry.important) return importantTier(sense, only, nth);
@@ -61,7 +92,8 @@ Tier tierOf(const Entry& entry, bool form, const Sense& sense, bool only, std::s
     return only ? Tier::kOnly : Tier::kWebFirst;
   }
   if (sense.kind == SenseKind::kName) return first && only ? Tier::kOnly : Tier::kName;
-  if (first) return Tier::kFirst;
+  if (sense.title) return Tier::kFirst;  // readers look titles up, which have no other entry
+  if (first) return isPhrase(entry.headword) ? Tier::kFirstOfPhrase : Tier::kFirst;
   return form ? Tier::kInflected : Tier::kOrdinary;
 }
 
@@ -83,25 +115,17 @@ void PairList::addPair(std::uint32_t english, const std::u16string& chinese, Tie
 
 Vocabulary PairList::finish() && {
   chineseIds_.clear();
-  std::vector<std::u16string> english;
-  english.reserve(headwords_.size());
-  for (Headword& headword : headwords_) english.push_back(std::move(headword.word));
-  const std::vector<std::uint32_t> englishPlaces = sortWords(english);
-  const std::vector<std::uint32_t> chinesePlaces = sortWords(chinese_);
-  for (Pair& pair : pairs_) {
-    pair.english = englishPlaces[pair.english];
-    pair.chinese = chinesePlaces[pair.chinese];
+  Vocabulary vocabulary;
+  vocabulary.english.reserve(headwords_.size());
+  vocabulary.ranks.reserve(headwords_.size());
+  for (Headword& headword : headwords_) {
+    vocabulary.english.push_back(std::move(headword.word));
+    vocabulary.ranks.push_back(headword.rank);
   }
-  const auto key = [](const Pair& pair) {
-    return std::tie(pair.english, pair.chinese, pair.tier, pair.position);
-  };
-  std::ranges::sort(pairs_, {}, key);
-  const auto same = [](const Pair& a, const Pair& b) {
-    return a.english == b.english && a.chinese == b.chinese;
-  };
-  // Of equal pairs the first has the best tier and position.
-  pairs_.erase(std::unique(pairs_.begin(), pairs_.end(), same), pairs_.end());
-  return {std::move(english), std::move(chinese_), std::move(pairs_)};
+  vocabulary.chinese = std::move(chinese_);
+  vocabulary.pairs = std::move(pairs_);
+  sortVocabulary(vocabulary);
+  return vocabulary;
 }
 
 }  // namespace dictionary

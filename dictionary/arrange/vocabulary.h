@@ -13,7 +13,9 @@
 namespace dictionary {
 
 /// Value of a pair where not all of them fit, the most valuable first: what readers of running text
-/// meet most is kept. Pairs of one tier are given up from the headword's last equivalent on.
+/// in either language meet most is kept. Pairs of one tier are given up from the headword's last
+/// equivalent on. A pair has the better one of what it is worth to those who look up its English
+/// word and to those who look up its Chinese word (chinese_side.h).
 ///
 /// Importance is measured on words, not on equivalents. A word is important if the source gives it
 /// a frequency rank, a place in a learner's dictionary or in an examination's list
@@ -24,19 +26,24 @@ namespace dictionary {
 /// at all is decided before (sensesOf). From this follows the order of the tiers:
 ///
 /// 1. Every important word has a row, and every form of one has a row besides the note whose form
-///    it is.
+///    it is. So has every common Chinese word, and every current term.
 /// 2. Then further equivalents of important words, what their forms take over, and up to three
-///    names ("詹姆斯（姓氏, 男子名）").
+///    names ("詹姆斯（姓氏, 男子名）"); and the second and third gloss of common Chinese words.
 /// 3. Then one row for every other word that has an ordinary equivalent: a reader who meets the
-///    word is helped by the first meaning far more than by a fifth one of another rare word.
+///    word is helped by the first meaning far more than by a fifth one of another rare word. The
+///    same for every Chinese word that a dictionary or a list of frequencies has; after these for
+///    English phrases, at which nobody can point, and last for Chinese texts that are equivalents
+///    of the English source only, and mostly phrases.
 /// 4. Then further equivalents of these words, and after them those of their forms.
 /// 5. Last names and equivalents from the web: the first one of a word that has nothing else and no
 ///    sign of importance, then those of any word beside its ordinary equivalents, and all further
 ///    ones. There is room for few of these.
 enum class Tier : std::uint8_t {
-  kImportantFirst,  ///< first equivalent of an important word, of whatever kind it has
+  kImportantFirst,  ///< first pair of an important word, of whatever kind it has, or a term
   kImportant,       ///< further equivalent of an important word, of the same kind, or a name
-  kFirst,           ///< first ordinary equivalent of another word
+  kFirst,           ///< first ordinary equivalent of another word; first pair of a Chinese word
+  kFirstOfPhrase,   ///< first ordinary equivalent of several words
+  kFirstOfChinese,  ///< first pair of another Chinese headword
   kOrdinary,        ///< further ordinary equivalent of another word
   kInflected,       ///< further equivalent, its own or taken over, of another word that is a form
   kOnly,            ///< first equivalent of another word that has only names or web equivalents
@@ -45,7 +52,7 @@ enum class Tier : std::uint8_t {
   kWeb,             ///< any other web equivalent
 };
 
-inline constexpr std::size_t kTierCount = 9;
+inline constexpr std::size_t kTierCount = 11;
 
 /// An English headword and a Chinese equivalent, as indexes into the vocabulary's lists.
 struct Pair {
@@ -63,7 +70,13 @@ struct Vocabulary {
   std::vector<std::u16string> english;  ///< distinct, in the text order
   std::vector<std::u16string> chinese;  ///< distinct, in the text order
   std::vector<Pair> pairs;              ///< distinct, by English, then by Chinese headword
+  std::vector<std::uint32_t> ranks;     ///< by English headword: as in SourceEntry
 };
+
+/// Sorts the words and pairs of a vocabulary in any order. Words that are equal in the text order
+/// (they differ in case only) become one, spelled as the first and with the better rank; of equal
+/// pairs the one of the best tier and position stays.
+void sortVocabulary(Vocabulary& vocabulary);
 
 /// Returns the tier of the equivalent `sense` of an entry. `form`: the entry is a form of another
 /// word; `only`: it has no equivalents of a kind that comes before that of `sense`; `nth`: how many
@@ -98,9 +111,7 @@ class PairList {
   [[nodiscard]] PartOfSpeechSet parts(std::size_t index) const { return parts_[index]; }
   void setTier(std::size_t index, Tier tier) { pairs_[index].tier = tier; }
 
-  /// Returns everything added, sorted; words that are equal in the text order (they differ in case
-  /// only) become one, spelled as the first, and equal pairs one with the best tier and position.
-  /// Ends the use of the list.
+  /// Returns everything added, sorted. Ends the use of the list.
   [[nodiscard]] Vocabulary finish() &&;
 
  private:

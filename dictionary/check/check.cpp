@@ -31,7 +31,10 @@ CheckResult checkOpened(sqlite3* connection, const SourceFacts* facts) {
   checkReach(tables, result);
   checkSubjects(connection, result);
   checkLabels(tables.cdict, result.findings);
-  if (facts != nullptr) checkSourceFacts(connection, *facts, tables, result);
+  if (facts != nullptr) {
+    checkSourceFacts(connection, *facts, tables, result);
+    result.frequentLists = listLengths(tables, facts->frequent);
+  }
   return result;
 }
 

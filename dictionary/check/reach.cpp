@@ -139,6 +139,29 @@ RowWindow ChineseBoundStep::window(std::u16string_view word) const {
   return clamped(window);
 }
 
+std::vector<std::size_t> listLengths(const GeneralTables& tables,
+                                     const std::vector<std::u16string>& words) {
+  const EnglishBoundStep step(tables.englishIndex);
+  const std::vector<HeadwordRun> runs = headwordRuns(tables.edict);
+  std::vector<std::size_t> lengths;
+  for (const std::u16string& word : words) {
+    const auto first = std::ranges::partition_point(runs, [&](const HeadwordRun& run) {
+      return text::compare(tables.edict.words[run.first], word) < 0;
+    });
+    const std::optional<RowWindow> window = step.window(word);
+    if (first == runs.end() || !window || !text::equal(tables.edict.words[first->first], word)) {
+      continue;
+    }
+    const auto upper = static_cast<std::size_t>(window->upper);
+    const auto end = std::partition_point(
+        first, runs.end(), [&](const HeadwordRun& run) { return run.first < upper; });
+    lengths.push_back(
+        std::min(static_cast<std::size_t>(end - first), std::size_t{data::kListLength}));
+  }
+  std::ranges::sort(lengths);
+  return lengths;
+}
+
 void checkReach(const GeneralTables& tables, CheckResult& result) {
   checkEnglish(tables, result);
   checkChinese(tables, result);

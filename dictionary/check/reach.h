@@ -59,4 +59,9 @@ class ChineseBoundStep {
 /// rows that it searches include all rows of the headword. Sets the counts of headwords and lists.
 void checkReach(const GeneralTables& tables, CheckResult& result);
 
+/// Returns how many headwords the list shows for each of the words that has rows, the shortest list
+/// first. A list ends with the block in which its first headword ends.
+std::vector<std::size_t> listLengths(const GeneralTables& tables,
+                                     const std::vector<std::u16string>& words);
+
 }  // namespace dictionary

@@ -103,6 +103,9 @@ struct CheckResult {
   /// Important headwords for which the source has no Chinese text, and those of them without a row.
   std::size_t untranslatedWords = 0;
   std::size_t untranslatedWithoutRow = 0;
+  /// Lengths of the lists that are shown for frequent English words (SourceFacts), in headwords,
+  /// the shortest first; none without the source.
+  std::vector<std::size_t> frequentLists;
 };
 
 }  // namespace dictionary

@@ -174,6 +174,7 @@ void SourceFacts::add(const SourceEntry& entry) {
   if (entry.important) {
     (std::ranges::any_of(translation, isHan) ? important : untranslated).push_back(*word);
   }
+  if (entry.rank > 0 && entry.rank <= kFrequentRank) frequent.push_back(*word);
   std::u16string_view rest = translation;
   while (!rest.empty()) {
     constexpr std::u16string_view kLineBreak = u"\\n";  // two characters in the source
@@ -212,10 +213,15 @@ bool isLabel(std::u16string_view word) {
 }
 
 void checkLabels(const HeadwordTable& cdict, Findings& findings) {
-  for (std::size_t row = 0; row < cdict.words.size(); ++row) {
-    if (isLabel(cdict.words[row])) {
-      findings.add(Rule::kLabels, rowName("cdict", row, cdict.words[row]));
-    }
+  // Words of the language as well, which mean "especially", "personal name".
+  constexpr std::array kWords = {u"人名"sv, u"亦作"sv, u"略作"sv, u"尤指"sv, u"特指"sv};
+  // A label that is taken for an equivalent has the rows of many words.
+  constexpr std::size_t kMaxRowsOfWord = 3;
+  for (const HeadwordRun& run : headwordRuns(cdict)) {
+    const std::u16string& word = cdict.words[run.first];
+    const bool isWord = std::ranges::find(kWords, word) != kWords.end();
+    if (!isLabel(word) || (isWord && run.end - run.first <= kMaxRowsOfWord)) continue;
+    findings.add(Rule::kLabels, rowName("cdict", run.first, word));
   }
 }
 

@@ -25,6 +25,7 @@ struct SourceFacts {
   /// Headwords with a sign of importance (SourceEntry::important) and a translation in Chinese.
   std::vector<std::u16string> important;
   std::vector<std::u16string> untranslated;  ///< with such a sign, but no Chinese text
+  std::vector<std::u16string> frequent;      ///< headwords of a rank up to kFrequentRank
   std::vector<SourceText> titles;            ///< in << >> outside round brackets
   std::vector<SourceText> descriptions;      ///< pieces that say what a command of DOS does
 
@@ -40,7 +41,8 @@ SourceFacts readSourceFacts(const std::filesystem::path& source);
 /// means: a kind of brand ("法国服装名牌"), "DOS内部命令", "之缩写", "海宁全名".
 bool isLabel(std::u16string_view word);
 
-/// Checks that no Chinese headword is only a label.
+/// Checks that no Chinese headword is only a label. One that is a word as well ("人名") may have
+/// the few rows that a Chinese-English source gives it.
 void checkLabels(const HeadwordTable& cdict, Findings& findings);
 
 /// Checks the facts: important headwords have rows of their own, titles stand in a row of the

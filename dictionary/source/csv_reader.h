@@ -47,6 +47,10 @@ struct SourceEntry {
   std::string exchange = {};
 };
 
+/// Up to this rank readers of running text meet a word often: some 23,000 words, since a rank is
+/// the better one of two.
+inline constexpr std::uint32_t kFrequentRank = 20'000;
+
 /// Reads the source entry by entry. A line that cannot be read is reported by its number and does
 /// not affect the others, whatever bytes it contains.
 class SourceReader {

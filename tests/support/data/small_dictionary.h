@@ -22,7 +22,7 @@ inline const std::filesystem::path& smallDatabase() {
   static const TempFolder folder;
   static const std::filesystem::path file = [] {
     std::ostringstream log;
-    dictionary::buildDatabase(smallSource(), folder.file(u"small.dat"), log);
+    dictionary::buildDatabase({smallSource()}, folder.file(u"small.dat"), log);
     return folder.file(u"small.dat");
   }();
   return file;

@@ -23,7 +23,7 @@ std::filesystem::path with(std::filesystem::path file, const char* ending) {
 
 void build(const std::filesystem::path& source, const std::filesystem::path& target) {
   std::ostringstream log;
-  dictionary::buildDatabase(source, target, log);
+  dictionary::buildDatabase({source}, target, log);
 }
 
 /// A source with other words than the small one, whose pages therefore differ.

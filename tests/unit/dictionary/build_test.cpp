@@ -21,7 +21,7 @@ using support::TempFolder;
 
 std::string build(const std::filesystem::path& source, const std::filesystem::path& target) {
   std::ostringstream log;
-  dictionary::buildDatabase(source, target, log);
+  dictionary::buildDatabase({source}, target, log);
   return log.str();
 }
 
@@ -104,7 +104,7 @@ TEST(BuildDatabase, RefusesWhatLacksAFactOfTheSource) {
   source += "zyzzyvas,,,zyzzyva的变体,,5,1,gre,1,1,,,\n";
   support::writeFile(folder.file(u"source.csv"), source);
   std::ostringstream log;
-  EXPECT_THROW(dictionary::buildDatabase(folder.file(u"source.csv"), folder.file(u"kk.dat"), log),
+  EXPECT_THROW(dictionary::buildDatabase({folder.file(u"source.csv")}, folder.file(u"kk.dat"), log),
                dictionary::Failure);
   EXPECT_NE(log.str().find(dictionary::describe(dictionary::Rule::kOwnMeanings)),
             std::string::npos);
@@ -228,6 +228,48 @@ TEST(BuildDatabase, AddsShortFormsThatAreWords) {
       folder.file(u"kk.dat"), u"select word from cdict where word like '硬脑%' order by word");
   EXPECT_EQ(support::column(control.recordset(), u"word"),
             (std::vector<std::u16string>{u"硬脑脊膜内皮瘤", u"硬脑膜内皮瘤", u"硬脑膜内皮瘤"}));
+}
+
+/// The small source and one of each other kind.
+dictionary::SourceFiles allSources(const TempFolder& folder, const std::string& terms) {
+  support::writeFile(folder.file(u"all.js"),
+                     "export default {\"all\":[[\"基站\",\"基站\",\"ji1 zhan4\","
+                     "[\"base station\",\"(computing) cell site\"],[],[]]]}");
+  support::writeFile(folder.file(u"frequencies.txt"), "基站 9 n\n");
+  std::filesystem::create_directory(folder.file(u"terms"));
+  support::writeFile(folder.file(u"terms") / "law.csv", terms);
+  return {support::smallSource(), folder.file(u"all.js"), folder.file(u"frequencies.txt"),
+          folder.file(u"terms")};
+}
+
+TEST(BuildDatabase, TakesPairsOfAllSources) {
+  const TempFolder folder;
+  std::ostringstream log;
+  dictionary::buildDatabase(allSources(folder, "data controller,数据控制者\n"),
+                            folder.file(u"kk.dat"), log);
+  EXPECT_NE(log.str().find("1 Chinese entries and 1 terms read"), std::string::npos);
+  const auto rows = [&](const std::u16string& query) {
+    data::DataControl control = support::opened(folder.file(u"kk.dat"), query);
+    return support::column(control.recordset(), u"word");
+  };
+  EXPECT_EQ(rows(u"select word from edict where word in ('base station', 'cell site', "
+                 u"'data controller') order by word"),
+            (std::vector<std::u16string>{u"base station", u"cell site", u"data controller"}));
+  EXPECT_EQ(rows(u"select word from comp where meaning='基站'"),
+            std::vector<std::u16string>{u"cell site"});
+  EXPECT_EQ(rows(u"select word from law where meaning='数据控制者'"),
+            std::vector<std::u16string>{u"data controller"});
+}
+
+TEST(BuildDatabase, RefusesTermsThatASourceGives) {
+  const TempFolder folder;
+  std::ostringstream log;
+  EXPECT_THROW(dictionary::buildDatabase(allSources(folder, "abacus,算盘\ncell site,基站\n"),
+                                         folder.file(u"kk.dat"), log),
+               dictionary::Failure);
+  EXPECT_NE(log.str().find("the list of terms repeats \"abacus\", 算盘\n"), std::string::npos);
+  EXPECT_NE(log.str().find("the list of terms repeats \"cell site\", 基站\n"), std::string::npos);
+  EXPECT_FALSE(std::filesystem::exists(folder.file(u"kk.dat")));
 }
 
 #ifndef _WIN32  // where permissions do not keep a file from being read

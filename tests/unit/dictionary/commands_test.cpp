@@ -194,4 +194,36 @@ TEST(Commands, CheckCountsWhatItRead) {
             std::string::npos);
 }
 
+TEST(Commands, CheckPrintsTheLengthsOfListsWithTheSource) {
+  const Outcome checked = run({"check", small(), support::utf8Path(support::smallSource())});
+  EXPECT_NE(checked.out.find(" frequent English words: "), std::string::npos) << checked.out;
+  EXPECT_NE(checked.out.find(" % with fewer than 10, "), std::string::npos);
+  EXPECT_EQ(run({"check", small()}).out.find("frequent English words"), std::string::npos);
+}
+
+TEST(Commands, CountFrequentChineseWords) {
+  const support::TempFolder folder;
+  std::string list = "算盘 9 n\n";
+  for (int i = 0; i < 999; ++i) list += "无此词 1 n\n";
+  support::writeFile(folder.file(u"list.txt"), list);
+  const Outcome counted =
+      run({"coverage", "--chinese", small(), support::utf8Path(folder.file(u"list.txt"))});
+  EXPECT_EQ(counted.code, dictionary::kSuccess);
+  EXPECT_NE(counted.out.find("of the 1,000 most frequent Chinese words 999 have no row (99.9 %)"),
+            std::string::npos);
+}
+
+TEST(Commands, BuildFromAllSources) {
+  const support::TempFolder folder;
+  support::writeFile(folder.file(u"all.js"),
+                     "export default {\"all\":[[\"基站\",\"基站\",\"\",\"base station\"]]}");
+  support::writeFile(folder.file(u"list.txt"), "基站 9 n\n");
+  std::filesystem::create_directory(folder.file(u"terms"));
+  const auto path = [&](std::u16string_view name) { return support::utf8Path(folder.file(name)); };
+  const Outcome built = run({"build", support::utf8Path(support::smallSource()), path(u"all.js"),
+                             path(u"list.txt"), path(u"terms"), path(u"kk.dat")});
+  EXPECT_EQ(built.code, dictionary::kSuccess) << built.err;
+  EXPECT_EQ(run({"lookup", path(u"kk.dat"), "base station"}).out.find("base station\n"), 0U);
+}
+
 }  // namespace

@@ -98,6 +98,8 @@ TEST(BuildReport, CountsThePairsBeforeAndAfterTheChoice) {
             "          0  of 1 left out: important words, first equivalent\n"
             "          0  of 1 left out: important words, further equivalents\n"
             "          1  of 1 left out: other words, first equivalent\n"
+            "          0  of 0 left out: several words, first equivalent\n"
+            "          0  of 0 left out: other Chinese headwords, first row\n"
             "          0  of 0 left out: other words, further equivalents\n"
             "          0  of 0 left out: forms of other words, further equivalents\n"
             "          0  of 0 left out: first equivalent of words that have only names or web "

@@ -113,4 +113,16 @@ TEST(ChooseCuts, PrefersADeviationToAReservePair) {
             (std::vector<std::size_t>{0, 2, 4}));
 }
 
+// Units of 4 wanted pairs and one spare one each: a cut may lie before or after its natural place.
+TEST(ChooseCuts, AvoidsCutsThatCost) {
+  const PrefixCounts counts = countsOf(std::vector<TierCounts>(40, {4, 1, 1}));
+  dictionary::CutCosts costs(counts.size());
+  EXPECT_EQ(unitsOf(chooseCuts(counts, 2, 90, costs)), (std::vector<std::size_t>{0, 20, 40}));
+  costs[20] = 2;
+  EXPECT_NE(unitsOf(chooseCuts(counts, 2, 90, costs))[1], 20U);
+  EXPECT_EQ(rowsOf(chooseCuts(counts, 2, 90, costs)), (std::vector<std::size_t>{0, 90, 180}));
+  costs.assign(counts.size(), 1);
+  EXPECT_EQ(unitsOf(chooseCuts(counts, 2, 90, costs)), (std::vector<std::size_t>{0, 20, 40}));
+}
+
 }  // namespace

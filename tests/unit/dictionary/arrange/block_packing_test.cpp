@@ -47,6 +47,7 @@ Vocabulary vocabularyOf(std::vector<Word> words) {
                                   static_cast<std::uint8_t>(std::min<std::size_t>(i, 255))});
     }
   }
+  vocabulary.ranks.resize(vocabulary.english.size());
   const std::size_t count = std::max<std::size_t>(vocabulary.pairs.size(), 1);
   std::size_t step = 7919;
   while (std::gcd(step, count) != 1) ++step;
@@ -313,6 +314,36 @@ TEST(ChoosePairs, PartsWordsThatAreEqualUpToAnApostropheOnly) {
   for (Word& word : singles(40, u"p")) words.push_back(word);
   const Vocabulary vocabulary = vocabularyOf(words);
   EXPECT_EQ(keptCount(choosePairs(vocabulary, LookupLimits())), 200U);
+}
+
+// A list ends with the block of its first headword, so that a cut is best just before a frequent
+// word.
+TEST(ChoosePairs, CutsWhereFewListsOfFrequentWordsAreShort) {
+  std::vector<Word> words;
+  for (std::size_t i = 0; i < 400; ++i) words.push_back({numbered(u"w", i), 1});
+  for (std::size_t i = 0; i < 400; ++i) words.push_back({numbered(u"w", i) + u"s", 1, Tier::kWeb});
+  Vocabulary vocabulary = vocabularyOf(words);
+  const auto headwordsAfter = [&](std::u16string_view word) {
+    const std::vector<bool> kept = choosePairs(vocabulary, {.maxRows = 400});
+    std::size_t row = 0;
+    std::size_t after = 0;
+    bool found = false;
+    for (std::size_t i = 0; i < kept.size(); ++i) {
+      if (!kept[i]) continue;
+      if (found && row % 100 == 0) break;
+      found = found || vocabulary.english[vocabulary.pairs[i].english] == word;
+      if (found) ++after;
+      ++row;
+    }
+    return after;
+  };
+  const std::u16string last = numbered(u"w", 97);
+  EXPECT_LT(headwordsAfter(last), 10U);
+  const auto at = std::ranges::find(vocabulary.english, last) - vocabulary.english.begin();
+  vocabulary.ranks[static_cast<std::size_t>(at)] = 20'001;
+  EXPECT_LT(headwordsAfter(last), 10U);
+  vocabulary.ranks[static_cast<std::size_t>(at)] = 20'000;
+  EXPECT_GE(headwordsAfter(last), 20U);
 }
 
 }  // namespace

@@ -127,4 +127,27 @@ TEST(PairCollector, FollowsNeitherNamesNorWhatIsFromTheWeb) {
   EXPECT_EQ(valued(vocabulary, u"abacus").size(), 4U);
 }
 
+// One can point at a word, but not at a phrase.
+TEST(PairCollector, RatesAWordAbovePhrases) {
+  const Vocabulary vocabulary =
+      collect({entry("light-year", "n. 光年"), entry("light well", "天井")});
+  EXPECT_EQ(tierOf(vocabulary, u"光年"), Tier::kFirst);
+  EXPECT_EQ(tierOf(vocabulary, u"天井"), Tier::kFirstOfPhrase);
+}
+
+// "Malachi | n. 玛拉基(希伯来先知), <<玛拉基书>>"
+TEST(PairCollector, RatesATitleAsAFirstEquivalent) {
+  const Vocabulary vocabulary =
+      collect({entry("Malachi", "n. 玛拉基(希伯来先知), 先知, <<玛拉基书>>")});
+  EXPECT_EQ(tierOf(vocabulary, u"玛拉基书"), Tier::kFirst);
+  EXPECT_EQ(tierOf(vocabulary, u"先知"), Tier::kOrdinary);
+}
+
+TEST(PairCollector, KeepsTheRanksOfHeadwords) {
+  const Vocabulary vocabulary =
+      collect({entry("zoo", "n. 动物园", true, 300), entry("ant", "n. 蚂蚁"),
+               entry("Zoo", "n. 园", true, 200)});
+  EXPECT_EQ(vocabulary.ranks, (std::vector<std::uint32_t>{0, 200}));
+}
+
 }  // namespace

@@ -72,4 +72,21 @@ TEST(SubjectCollector, JoinsTheLinesOfAHeadword) {
   EXPECT_EQ(chem[1].word, u"acid bath");
 }
 
+TEST(SubjectCollector, AddsEquivalentsOfOtherSources) {
+  dictionary::SubjectCollector collector;
+  collector.add(entry("cloud", "n. 云\n[计] 云彩, 云团"));
+  collector.add(Subject::kComputing, u"Cloud", u"云");
+  collector.add(Subject::kComputing, u"cloud", u"云团");
+  collector.add(Subject::kComputing, u"cloud", u"云");
+  collector.add(Subject::kComputing, u"deep learning", u"深度学习");
+  collector.add(Subject::kLaw, u"cloud", u"疑云");
+  const dictionary::SubjectTables tables = std::move(collector).finish();
+  const auto& computing = tables[static_cast<std::size_t>(Subject::kComputing)];
+  ASSERT_EQ(computing.size(), 2U);
+  EXPECT_EQ(computing[0].word, u"cloud");
+  EXPECT_EQ(computing[0].meaning, u"云彩，云团；云");  // each once, also where it is a part only
+  EXPECT_EQ(computing[1].meaning, u"深度学习");
+  EXPECT_EQ(tables[static_cast<std::size_t>(Subject::kLaw)][0].meaning, u"疑云");
+}
+
 }  // namespace

@@ -91,4 +91,29 @@ TEST(CheckReach, CountsListsOfSeventyFiveHeadwords) {
   EXPECT_EQ(check({}, chinese).cutLists, 74U);
 }
 
+std::vector<std::size_t> lengthsOf(const Words& english, const Words& words) {
+  dictionary::GeneralTables tables;
+  tables.edict.words = english;
+  for (std::size_t row = 100; row <= english.size(); row += 100) {
+    tables.englishIndex.push_back(english[row - 1]);
+  }
+  return dictionary::listLengths(tables, words);
+}
+
+TEST(ListLengths, CountHeadwordsUpToTheEndOfTheBlock) {
+  Words english = headwords(300, false);
+  join(english, 195, 198);
+  EXPECT_EQ(lengthsOf(english, {english[99]}), std::vector<std::size_t>{1});
+  EXPECT_EQ(lengthsOf(english, {english[98]}), std::vector<std::size_t>{2});
+  EXPECT_EQ(lengthsOf(english, {english[190]}), std::vector<std::size_t>{7});
+  EXPECT_EQ(lengthsOf(english, {english[100]}), std::vector<std::size_t>{75});
+}
+
+TEST(ListLengths, ComeShortestFirstAndLeaveOutWordsWithoutRows) {
+  const Words english = headwords(200, false);
+  EXPECT_EQ(lengthsOf(english, {english[20], u"none", english[150], u"99999", english[90]}),
+            (std::vector<std::size_t>{10, 50, 75}));
+  EXPECT_EQ(lengthsOf({}, {u"word"}), std::vector<std::size_t>{});
+}
+
 }  // namespace

@@ -156,4 +156,18 @@ TEST(IsLabel, NamesAKindOfWordOrThing) {
   }
 }
 
+std::size_t labelsOf(const std::vector<std::u16string>& words) {
+  dictionary::HeadwordTable cdict;
+  cdict.words = words;
+  dictionary::Findings findings;
+  dictionary::checkLabels(cdict, findings);
+  return findings.count(dictionary::Rule::kLabels);
+}
+
+TEST(CheckLabels, AllowsAFewRowsOfALabelThatIsAWord) {
+  EXPECT_EQ(labelsOf({u"人名", u"人名", u"人名"}), 0U);
+  EXPECT_EQ(labelsOf({u"人名", u"人名", u"人名", u"人名"}), 1U);
+  EXPECT_EQ(labelsOf({u"之缩写"}), 1U);
+}
+
 }  // namespace

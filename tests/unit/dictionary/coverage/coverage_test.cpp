@@ -27,7 +27,7 @@ const std::filesystem::path& database() {
                                                        "felt,,,\"n. 毛毡\\nfeel的过去式\",,3,,zk,"
                                                        "101,0,,,\n");
     std::ostringstream log;
-    dictionary::buildDatabase(folder.file(u"source.csv"), folder.file(u"kk.dat"), log);
+    dictionary::buildDatabase({folder.file(u"source.csv")}, folder.file(u"kk.dat"), log);
     return folder.file(u"kk.dat");
   }();
   return file;

@@ -1,0 +1,293 @@
+#include "dictionary/arrange/chinese_side.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <map>
+#include <optional>
+#include <string>
+#include <tuple>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+
+#include "dictionary/arrange/senses.h"
+#include "dictionary/source/characters.h"
+#include "text/order.h"
+
+namespace dictionary {
+namespace {
+
+/// Glosses of a Chinese headword that become pairs.
+constexpr std::size_t kMaxGlosses = 3;
+/// Chinese words that a common English word gets from glosses.
+constexpr std::size_t kMaxOfCommonWord = 8;
+/// Up to this rank a single character is a word that readers know by itself: 死, not 娥.
+constexpr std::uint32_t kCommonCharacterRank = 3'000;
+/// Up to this rank by frequency a Chinese word is common.
+constexpr std::uint32_t kCommonChineseRank = 20'000;
+/// After all equivalents of the English source.
+constexpr std::size_t kFirstGlossPosition = 100;
+
+/// Words with their indexes. Those that the list has at first must be sorted; further ones are
+/// added at its end.
+class WordIndex {
+ public:
+  explicit WordIndex(std::vector<std::u16string>& words) : words_(words), sorted_(words.size()) {}
+
+  [[nodiscard]] std::optional<std::uint32_t> find(const std::u16string& word) const {
+    const auto end = words_.begin() + static_cast<std::ptrdiff_t>(sorted_);
+    const auto found = std::partition_point(words_.begin(), end, [&](const std::u16string& other) {
+      return text::compare(other, word) < 0;
+    });
+    if (found != end && text::equal(*found, word)) {
+      return static_cast<std::uint32_t>(found - words_.begin());
+    }
+    const auto added = added_.find(text::toLower(word));
+    return added == added_.end() ? std::nullopt : std::optional(added->second);
+  }
+
+  std::uint32_t findOrAdd(const std::u16string& word) {
+    if (const auto found = find(word)) return *found;
+    const auto index = static_cast<std::uint32_t>(words_.size());
+    words_.push_back(word);
+    added_.emplace(text::toLower(word), index);
+    return index;
+  }
+
+ private:
+  std::vector<std::u16string>& words_;
+  std::size_t sorted_;
+  std::unordered_map<std::u16string, std::uint32_t> added_;
+};
+
+constexpr std::uint64_t pairKey(std::uint32_t english, std::uint32_t chinese) {
+  return std::uint64_t{english} << 32U | chinese;
+}
+
+/// Whether the text is an equivalent, not an explanation or the like.
+bool isEquivalent(const Gloss& gloss) {
+  return gloss.value == GlossValue::kPair || gloss.value == GlossValue::kUsage;
+}
+
+/// The rank of a word, 0 if it has none.
+std::uint32_t rankOf(const WordRanks& ranks, const std::u16string& word) {
+  const auto found = ranks.find(word);
+  return found == ranks.end() ? 0 : found->second;
+}
+
+/// Whether readers of Chinese meet the word often, as a word by itself.
+bool isCommonChinese(std::u16string_view word, std::uint32_t rank) {
+  return rank > 0 && rank <= (word.size() > 1 ? kCommonChineseRank : kCommonCharacterRank);
+}
+
+/// The vocabulary while pairs are added.
+class Merger {
+ public:
+  explicit Merger(Vocabulary& vocabulary)
+      : vocabulary_(vocabulary),
+        english_(vocabulary.english),
+        chinese_(vocabulary.chinese),
+        sortedPairs_(vocabulary.pairs.size()),
+        important_(vocabulary.english.size()) {
+    for (const Pair& pair : vocabulary.pairs) {
+      if (pair.tier == Tier::kImportantFirst) important_[pair.english] = true;
+    }
+  }
+
+  void addTerms(const std::vector<Term>& terms);
+  void addEntries(const std::vector<ChineseEntry>& entries, const WordRanks& ranks);
+  void rateChineseHeadwords(const WordRanks& ranks);
+
+ private:
+  using GlossSet = std::unordered_set<const Gloss*>;
+
+  [[nodiscard]] Pair* findPair(std::uint32_t english, std::uint32_t chinese);
+  [[nodiscard]] bool isCommonWordToo(const std::u16string& text) const;
+  [[nodiscard]] bool isOfCommonWord(const std::u16string& chinese, std::uint32_t english);
+  void addPair(const std::u16string& english, const std::u16string& chinese, Tier tier,
+               std::size_t position);
+  void addEntry(const ChineseEntry& entry, bool common, const GlossSet& refused);
+  [[nodiscard]] GlossSet tooMany(const std::vector<ChineseEntry>& entries, const WordRanks& ranks);
+
+  Vocabulary& vocabulary_;
+  WordIndex english_;
+  WordIndex chinese_;
+  std::size_t sortedPairs_;
+  std::vector<bool> important_;  ///< by English word: whether it has a sign of importance
+  std::unordered_map<std::uint64_t, std::size_t> addedPairs_;
+};
+
+Pair* Merger::findPair(std::uint32_t english, std::uint32_t chinese) {
+  std::vector<Pair>& pairs = vocabulary_.pairs;
+  const auto end = pairs.begin() + static_cast<std::ptrdiff_t>(sortedPairs_);
+  const auto found = std::partition_point(pairs.begin(), end, [&](const Pair& pair) {
+    return std::tie(pair.english, pair.chinese) < std::tie(english, chinese);
+  });
+  if (found != end && found->english == english && found->chinese == chinese) return &*found;
+  const auto added = addedPairs_.find(pairKey(english, chinese));
+  return added == addedPairs_.end() ? nullptr : &pairs[added->second];
+}
+
+/// Whether the English word, by its index, is common and does not have the Chinese one.
+bool Merger::isOfCommonWord(const std::u16string& chinese, std::uint32_t english) {
+  if (english >= vocabulary_.ranks.size()) return false;
+  const std::uint32_t rank = vocabulary_.ranks[english];
+  if (rank == 0 || rank > kCommonRank) return false;
+  const auto known = chinese_.find(chinese);
+  return !known || findPair(english, *known) == nullptr;
+}
+
+void Merger::addPair(const std::u16string& english, const std::u16string& chinese, Tier tier,
+                     std::size_t position) {
+  const std::uint32_t englishIndex = english_.findOrAdd(english);
+  const std::uint32_t chineseIndex = chinese_.findOrAdd(chinese);
+  if (Pair* pair = findPair(englishIndex, chineseIndex)) {
+    pair->tier = std::min(pair->tier, tier);
+    return;
+  }
+  addedPairs_.emplace(pairKey(englishIndex, chineseIndex), vocabulary_.pairs.size());
+  vocabulary_.pairs.push_back({englishIndex, chineseIndex, tier,
+                               static_cast<std::uint8_t>(std::min(position, Pair::kMaxPosition))});
+}
+
+/// Whether the text is an abbreviation that reads as a common word or as a form of one: "IT",
+/// "ATE". The word would show what hardly anybody means by it.
+bool Merger::isCommonWordToo(const std::u16string& text) const {
+  const bool capitals = std::ranges::none_of(
+      text, [](char16_t unit) { return unit == text::foldCase(unit) && isAsciiLetter(unit); });
+  const auto word = english_.find(text);
+  if (!capitals || !word || *word >= vocabulary_.ranks.size()) return false;
+  const std::uint32_t rank = vocabulary_.ranks[*word];
+  const bool common = rank > 0 ? rank <= kCommonRank : important_[*word];
+  return common && vocabulary_.english[*word] != text;
+}
+
+void Merger::addTerms(const std::vector<Term>& terms) {
+  for (const Term& term : terms) {
+    if (isCommonWordToo(term.english)) continue;
+    addPair(term.english, term.chinese, Tier::kImportantFirst, kFirstGlossPosition);
+  }
+}
+
+/// The glosses that common English words do not take.
+Merger::GlossSet Merger::tooMany(const std::vector<ChineseEntry>& entries, const WordRanks& ranks) {
+  struct Offer {
+    std::uint32_t rank = 0;  ///< of the Chinese word
+    std::size_t nth = 0;     ///< among its glosses
+    const Gloss* gloss = nullptr;
+  };
+  std::map<std::uint32_t, std::vector<Offer>> offers;  // by English word
+  GlossSet refused;
+  for (const ChineseEntry& entry : entries) {
+    const std::uint32_t rank = rankOf(ranks, entry.word);
+    for (std::size_t nth = 0; nth < entry.glosses.size(); ++nth) {
+      const Gloss& gloss = entry.glosses[nth];
+      if (!isEquivalent(gloss)) continue;
+      if (isCommonWordToo(gloss.english)) {
+        refused.insert(&gloss);
+        continue;
+      }
+      const auto english = english_.find(gloss.english);
+      if (!english || !isOfCommonWord(entry.word, *english)) continue;
+      if (entry.word.size() == 1 && !isCommonChinese(entry.word, rank)) {
+        refused.insert(&gloss);
+        continue;
+      }
+      offers[*english].push_back(
+          {rank == 0 ? std::numeric_limits<std::uint32_t>::max() : rank, nth, &gloss});
+    }
+  }
+  for (auto& [english, glosses] : offers) {
+    std::ranges::stable_sort(glosses, {},
+                             [](const Offer& offer) { return std::tie(offer.rank, offer.nth); });
+    for (std::size_t i = kMaxOfCommonWord; i < glosses.size(); ++i) {
+      refused.insert(glosses[i].gloss);
+    }
+  }
+  return refused;
+}
+
+void Merger::addEntry(const ChineseEntry& entry, bool common, const GlossSet& refused) {
+  const bool known = chinese_.find(entry.word).has_value();
+  const Tier first = common ? Tier::kImportantFirst : Tier::kFirst;
+  const Tier further = common ? Tier::kImportant : Tier::kOrdinary;
+  std::size_t taken = 0;
+  for (const Gloss& gloss : entry.glosses) {
+    if (!isEquivalent(gloss) || refused.contains(&gloss)) continue;
+    addPair(gloss.english, entry.word, taken == 0 ? first : further, kFirstGlossPosition + taken);
+    if (++taken == kMaxGlosses) return;
+  }
+  if (taken > 0 || known) return;
+  const auto other = std::ranges::find_if(
+      entry.glosses, [&](const Gloss& gloss) { return common || !isEquivalent(gloss); });
+  if (other != entry.glosses.end()) {
+    addPair(other->english, entry.word, first, kFirstGlossPosition);
+  }
+}
+
+void Merger::addEntries(const std::vector<ChineseEntry>& entries, const WordRanks& ranks) {
+  const GlossSet refused = tooMany(entries, ranks);
+  for (const ChineseEntry& entry : entries) {
+    addEntry(entry, isCommonChinese(entry.word, rankOf(ranks, entry.word)), refused);
+  }
+}
+
+/// The most valuable pair of each Chinese headword is worth a row of its own.
+void Merger::rateChineseHeadwords(const WordRanks& ranks) {
+  std::vector<Pair*> best(vocabulary_.chinese.size());
+  for (Pair& pair : vocabulary_.pairs) {
+    Pair*& known = best[pair.chinese];
+    if (known == nullptr ||
+        std::tie(pair.tier, pair.position) < std::tie(known->tier, known->position)) {
+      known = &pair;
+    }
+  }
+  for (std::size_t i = 0; i < best.size(); ++i) {
+    if (best[i] == nullptr) continue;
+    const std::u16string& word = vocabulary_.chinese[i];
+    const std::uint32_t rank = rankOf(ranks, word);
+    if (rank == 0 && best[i]->tier > Tier::kInflected) continue;  // a name, or from the web
+    best[i]->tier = std::min(best[i]->tier, isCommonChinese(word, rank) ? Tier::kImportantFirst
+                                            : rank > 0                  ? Tier::kFirst
+                                                                        : Tier::kFirstOfChinese);
+  }
+}
+
+}  // namespace
+
+Vocabulary addChineseSide(Vocabulary vocabulary, const ChineseSources& sources) {
+  Merger merger(vocabulary);
+  merger.addTerms(sources.terms);
+  merger.addEntries(sources.entries, sources.ranks);
+  merger.rateChineseHeadwords(sources.ranks);
+  sortVocabulary(vocabulary);
+  return vocabulary;
+}
+
+std::vector<Term> repeatedTerms(const Vocabulary& vocabulary, const ChineseSources& sources) {
+  const auto key = [](const std::u16string& english, const std::u16string& chinese) {
+    return text::toLower(english) + u'\n' + chinese;
+  };
+  std::unordered_set<std::u16string> wanted;
+  for (const Term& term : sources.terms) wanted.insert(key(term.english, term.chinese));
+  std::unordered_set<std::u16string> given;
+  const auto record = [&](const std::u16string& english, const std::u16string& chinese) {
+    std::u16string pair = key(english, chinese);
+    if (wanted.contains(pair)) given.insert(std::move(pair));
+  };
+  for (const Pair& pair : vocabulary.pairs) {
+    record(vocabulary.english[pair.english], vocabulary.chinese[pair.chinese]);
+  }
+  for (const ChineseEntry& entry : sources.entries) {
+    for (const Gloss& gloss : entry.glosses) record(gloss.english, entry.word);
+  }
+  std::vector<Term> repeated;
+  std::ranges::copy_if(sources.terms, std::back_inserter(repeated), [&](const Term& term) {
+    return given.contains(key(term.english, term.chinese));
+  });
+  return repeated;
+}
+
+}  // namespace dictionary

@@ -1,0 +1,185 @@
+#include "dictionary/arrange/chinese_side.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tests/unit/dictionary/arrange/pair_collector_test.h"
+
+namespace {
+
+using dictionary::addChineseSide;
+using dictionary::ChineseEntry;
+using dictionary::ChineseSources;
+using dictionary::Gloss;
+using dictionary::GlossValue;
+using dictionary::Subject;
+using dictionary::Tier;
+using dictionary::Vocabulary;
+using pair_collector_test::collect;
+using pair_collector_test::entry;
+using pair_collector_test::texts;
+
+ChineseEntry chinese(std::u16string_view word, const std::vector<std::u16string>& glosses) {
+  ChineseEntry result{std::u16string(word), {}};
+  for (const std::u16string& gloss : glosses) {
+    result.glosses.push_back({gloss, 1, 0, GlossValue::kPair});
+  }
+  return result;
+}
+
+Tier tierOfPair(const Vocabulary& vocabulary, std::u16string_view english,
+                std::u16string_view chinese) {
+  for (const auto& pair : vocabulary.pairs) {
+    if (vocabulary.english[pair.english] == english &&
+        vocabulary.chinese[pair.chinese] == chinese) {
+      return pair.tier;
+    }
+  }
+  ADD_FAILURE() << "no such pair";
+  return Tier::kWeb;
+}
+
+TEST(ChineseSide, AddsPairsInTheTextOrder) {
+  const Vocabulary vocabulary =
+      addChineseSide(collect({entry("station", "n. 站")}),
+                     {{chinese(u"基站", {u"base station"}), chinese(u"站", {u"Station", u"stop"})},
+                      {{u"cloud computing", u"云计算", Subject::kComputing}},
+                      {}});
+  EXPECT_EQ(texts(vocabulary),
+            (std::vector<std::u16string>{u"base station=基站", u"cloud computing=云计算",
+                                         u"station=站", u"stop=站"}));
+  EXPECT_EQ(vocabulary.ranks.size(), 4U);
+}
+
+TEST(ChineseSide, TakesThreeEquivalentsOfAWord) {
+  const Vocabulary vocabulary =
+      addChineseSide({}, {{chinese(u"时候", {u"time", u"period", u"moment", u"hour"})}, {}, {}});
+  EXPECT_EQ(texts(vocabulary),
+            (std::vector<std::u16string>{u"moment=时候", u"period=时候", u"time=时候"}));
+  EXPECT_EQ(tierOfPair(vocabulary, u"time", u"时候"), Tier::kFirst);
+  EXPECT_EQ(tierOfPair(vocabulary, u"period", u"时候"), Tier::kOrdinary);
+}
+
+TEST(ChineseSide, TakesAnExplanationOnlyForAWordThatHasNothingElse) {
+  ChineseEntry idiom{
+      u"画蛇添足",
+      {{u"ruin something by adding what is not needed", 8, 0, GlossValue::kExplanation},
+       {u"second explanation of the same", 5, 0, GlossValue::kExplanation}}};
+  EXPECT_EQ(texts(addChineseSide({}, {{idiom}, {}, {}})),
+            std::vector<std::u16string>{u"ruin something by adding what is not needed=画蛇添足"});
+  EXPECT_EQ(texts(addChineseSide(collect({entry("overdo", "v. 画蛇添足")}), {{idiom}, {}, {}})),
+            std::vector<std::u16string>{u"overdo=画蛇添足"});
+  idiom.glosses.push_back({u"overdo", 1, 0, GlossValue::kUsage});
+  EXPECT_EQ(texts(addChineseSide({}, {{idiom}, {}, {}})),
+            std::vector<std::u16string>{u"overdo=画蛇添足"});
+}
+
+TEST(ChineseSide, RatesPairsOfCommonWordsAsImportant) {
+  const Vocabulary vocabulary = addChineseSide(
+      collect({entry("rail", "n. 轨道, 铁路")}),
+      {{chinese(u"这个", {u"this", u"this one"}), chinese(u"基站", {u"base station"})},
+       {},
+       {{u"这个", 20'000}, {u"基站", 20'001}, {u"铁路", 5}}});
+  EXPECT_EQ(tierOfPair(vocabulary, u"this", u"这个"), Tier::kImportantFirst);
+  EXPECT_EQ(tierOfPair(vocabulary, u"this one", u"这个"), Tier::kImportant);
+  EXPECT_EQ(tierOfPair(vocabulary, u"base station", u"基站"), Tier::kFirst);
+  EXPECT_EQ(tierOfPair(vocabulary, u"rail", u"铁路"), Tier::kImportantFirst);
+}
+
+TEST(ChineseSide, RatesTheFirstRowOfEveryChineseHeadword) {
+  const Vocabulary vocabulary = addChineseSide(
+      collect({entry("rail", "n. 轨道, 铁路, 栏杆"), entry("railing", "n. 栏杆, 扶手"),
+               entry("Rally", "[人名] 拉利\\n[网络] 集会, 拉力赛")}),
+      {{}, {}, {{u"扶手", 30'000}}});
+  EXPECT_EQ(tierOfPair(vocabulary, u"rail", u"轨道"), Tier::kFirst);
+  EXPECT_EQ(tierOfPair(vocabulary, u"rail", u"铁路"), Tier::kFirstOfChinese);
+  EXPECT_EQ(tierOfPair(vocabulary, u"rail", u"栏杆"), Tier::kOrdinary);
+  EXPECT_EQ(tierOfPair(vocabulary, u"railing", u"扶手"), Tier::kFirst);
+  EXPECT_EQ(tierOfPair(vocabulary, u"Rally", u"拉力赛"), Tier::kWeb);
+}
+
+TEST(ChineseSide, GivesEveryTermARow) {
+  const Vocabulary vocabulary = addChineseSide(
+      collect({entry("cloud", "n. 云, 阴影")}),
+      {{}, {{u"cloud", u"阴影", {}}, {u"drone", u"无人机", Subject::kMilitary}}, {}});
+  EXPECT_EQ(tierOfPair(vocabulary, u"cloud", u"阴影"), Tier::kImportantFirst);
+  EXPECT_EQ(tierOfPair(vocabulary, u"drone", u"无人机"), Tier::kImportantFirst);
+}
+
+// "IT | 信息技术" would stand among the meanings of "it".
+TEST(ChineseSide, LeavesAbbreviationsOutThatReadAsCommonWords) {
+  const auto pairs = [](const std::string& word, std::uint32_t rank, const std::u16string& term) {
+    return texts(addChineseSide(collect({entry(word, "pron. 它", true, rank)}),
+                                {{}, {{term, u"信息技术", Subject::kComputing}}, {}}))
+        .size();
+  };
+  EXPECT_EQ(pairs("it", 5'000, u"IT"), 1U);
+  EXPECT_EQ(pairs("it", 5'001, u"IT"), 2U);
+  EXPECT_EQ(pairs("ate", 0, u"ATE"), 1U);    // ranked under "eat"
+  EXPECT_EQ(pairs("IT", 5'000, u"IT"), 2U);  // an abbreviation to the source as well
+  EXPECT_EQ(pairs("it", 5'000, u"It"), 2U);
+  EXPECT_EQ(pairs("that", 5'000, u"IT"), 2U);
+}
+
+TEST(ChineseSide, LeavesGlossesOutThatReadAsCommonWords) {
+  const auto it = collect({entry("it", "pron. 它", true, 9)});
+  EXPECT_EQ(texts(addChineseSide(
+                it, {{chinese(u"信息技术", {u"IT", u"information technology"})}, {}, {}})),
+            (std::vector<std::u16string>{u"information technology=信息技术", u"it=它"}));
+}
+
+/// Twelve Chinese words that all mean "hit", which has the given rank; the first ones are the less
+/// frequent ones.
+Vocabulary wordsForHit(std::uint32_t rank, std::uint32_t worstRank) {
+  ChineseSources sources;
+  for (char16_t i = 0; i < 12; ++i) {
+    const std::u16string word = {u'打', static_cast<char16_t>(u'一' + i)};
+    sources.entries.push_back(chinese(word, {u"hit"}));
+    sources.ranks[word] = worstRank - i;
+  }
+  return addChineseSide(collect({entry("hit", "v. 打", true, rank)}), sources);
+}
+
+// "beautiful" is the gloss of some hundred words, most of which nobody meets.
+TEST(ChineseSide, GivesACommonEnglishWordTheMostFrequentSynonymsOnly) {
+  const std::vector<std::u16string> eight = texts(wordsForHit(5'000, 40'000));
+  EXPECT_EQ(eight.size(), 9U);
+  EXPECT_EQ(std::ranges::count(eight, u"hit=打一"), 0);
+  EXPECT_EQ(std::ranges::count(eight, u"hit=打七"), 0);
+  EXPECT_EQ(texts(wordsForHit(5'001, 40'000)).size(), 13U);
+}
+
+// "娥 | good" would stand beside 好.
+TEST(ChineseSide, GivesACommonEnglishWordNoRareCharacter) {
+  const auto pairs = [](std::uint32_t rank) {
+    return texts(addChineseSide(collect({entry("good", "a. 好的", true, 50)}),
+                                {{chinese(u"善", {u"good", u"virtuous"})}, {}, {{u"善", rank}}}));
+  };
+  EXPECT_EQ(std::ranges::count(pairs(3'000), u"good=善"), 1);
+  EXPECT_EQ(std::ranges::count(pairs(3'001), u"good=善"), 0);
+  EXPECT_EQ(std::ranges::count(pairs(3'001), u"virtuous=善"), 1);
+}
+
+TEST(ChineseSide, LeavesNoCommonChineseWordWithoutARow) {
+  EXPECT_EQ(texts(wordsForHit(5'000, 20'000)).size(), 13U);
+}
+
+TEST(RepeatedTerms, AreThoseThatASourceGivesWordForWord) {
+  const Vocabulary vocabulary = collect({entry("Cloud", "n. 云")});
+  const ChineseSources sources{{chinese(u"云计算", {u"cloud computing"})},
+                               {{u"cloud", u"云", Subject::kComputing},
+                                {u"cloud", u"云端", Subject::kComputing},
+                                {u"cloud computing", u"云计算", Subject::kComputing},
+                                {u"cloud computing", u"云", Subject::kComputing}},
+                               {}};
+  const std::vector<dictionary::Term> repeated = dictionary::repeatedTerms(vocabulary, sources);
+  ASSERT_EQ(repeated.size(), 2U);
+  EXPECT_EQ(repeated[0].english, u"cloud");
+  EXPECT_EQ(repeated[1].english, u"cloud computing");
+  EXPECT_EQ(repeated[1].chinese, u"云计算");
+}
+
+}  // namespace
