@@ -74,7 +74,7 @@ for wanted in "${@:2}"; do
   [[ " ${names[*]} " == *" $wanted "* ]] || fail "there is no kind '$wanted'; the kinds are: ${names[*]}."
 done
 
-ensure_packages g++ cmake ninja-build libxml2-dev zlib1g-dev
+ensure_packages g++ cmake ninja-build libxml2-dev nlohmann-json3-dev zlib1g-dev
 ensure_node_modules
 build tools kkbuild
 if (($# > 0)); then
