@@ -122,6 +122,7 @@ std::optional<Entry> extractEntry(const SourceEntry& source) {
   entry.inflection = inflectionOf(source.exchange, source.word);
   if (entry.important) entry.forms = formsIn(source.exchange);
   const std::u16string_view corrected = correctedTranslation(entry.headword);
+  if (!corrected.empty()) entry.important = true;
   addLines(entry,
            corrected.empty() ? text::toUtf16(source.translation) : std::u16string(corrected));
   const std::u16string_view name = missingGivenName(entry.headword);
@@ -130,6 +131,7 @@ std::optional<Entry> extractEntry(const SourceEntry& source) {
   if (!supplement.empty() && !hasEquivalent(entry)) {
     entry.references.clear();
     addLines(entry, supplement);
+    entry.important = true;
   }
   if (!hasMeaning(entry)) useExplanation(entry);
   return entry;

@@ -16,7 +16,8 @@ namespace dictionary {
 /// A headword with its parsed translation.
 struct Entry {
   std::u16string headword;
-  bool important = false;                ///< as in SourceEntry
+  /// As in SourceEntry, or a word that this dictionary supplements or corrects.
+  bool important = false;
   std::uint32_t rank = 0;                ///< as in SourceEntry
   std::optional<Inflection> inflection;  ///< by the column "exchange"
   std::vector<WordForm> forms;           ///< of an important word, by that column

@@ -132,4 +132,14 @@ TEST(Corrections, LeaveOtherWordsAlone) {
   }
 }
 
+// So that no equivalent of theirs is left out where room is short.
+TEST(Supplement, MakesAWordImportant) {
+  for (const auto table : {dictionary::supplements(), dictionary::corrections()}) {
+    for (const dictionary::Supplement& one : table) {
+      EXPECT_TRUE(dictionary::extractEntry({text::toUtf8(one.word), ""})->important);
+    }
+  }
+  EXPECT_FALSE(dictionary::extractEntry({"heat", "n. 热"})->important);
+}
+
 }  // namespace
