@@ -14,15 +14,18 @@ using namespace std::string_view_literals;
 /// What follows them explains the text before, whatever that is.
 constexpr std::u16string_view kMarkers =
     u", i.e. | i.e. |, e.g. | e.g. |, esp. | esp. |, especially |, particularly |, such as |"
-    u" such as |, including |, namely| namely: |, aka |, also |, usu. |, usually |, typically |"
+    u", including |, namely| namely: |, aka |, also |, usu. |, usually |, typically |"
     u", commonly |, generally |, often |, which |, whose |, who |, where |, used |, said to |"
     u", one of |, unit of |, SI unit |, type of |, kind of |, similar to |, made of |, made from |"
     u", consisting |, located |, capital |, name of |, known |, considered |, published |"
     u", equivalent |, equals |, popular |, as in |, as opposed |, opposite |, see |, same as |"
     u", abbr. |, short for |, now |, formerly |, comprising |, based on |, based in |, slogan |"
-    u", for example |: | - | also known as |, orig. |, originally |, from |, containing |"
+    u", for example |: | - | also known as | aka |, orig. |, originally |, from |, containing |"
     u", corresponding to |, meaning |, lit. |, cf |, currency |, genus |, trademark|, occurring |"
     u", renowned |, famous |, esp |, viz. |";
+
+/// Examples follow: the text before is an equivalent if it is a noun of two words or more.
+constexpr std::u16string_view kExamples = u" such as |";
 
 /// They may also continue a sentence: what comes before them has at most two words and is no verb.
 constexpr std::u16string_view kArticles = u", a |, an |, the |";
@@ -39,35 +42,22 @@ constexpr std::u16string_view kKindsOfPlace =
     u"county|district|city|township|town|prefecture|municipality|province|banner|island|islands|"
     u"village|subdistrict|peninsula|river|region|lake|mountains|airport|parish|suburb|";
 constexpr std::u16string_view kAfterPlace = u"in|of|on|near|at|between|under|";
+constexpr std::u16string_view kBeforePlace = u"in|near|at|";
+
+/// They end names of places, or follow them, without being the kind of a town or a region.
+constexpr std::u16string_view kPlaceWords =
+    u"mt|mount|mountain|peak|hill|temple|monastery|shrine|pagoda|tomb|tombs|grottoes|cave|caves|"
+    u"gorge|gorges|pass|strait|bay|gulf|desert|plateau|waterfall|reservoir|dam|glacier|canal|"
+    u"valley|basin|harbor|park|square|palace|museum|university|bridge|tower|garden|gardens|"
+    u"autonomous|province-level|county-level|prefecture-level|pr.|prov.|commune|counties|cities|"
+    u"rivers|ruins|";
+constexpr std::u16string_view kProvinces =
+    u"Anhui|Beijing|Chongqing|Fujian|Gansu|Guangdong|Guangxi|Guizhou|Hainan|Hebei|Heilongjiang|"
+    u"Henan|Hubei|Hunan|Jiangsu|Jiangxi|Jilin|Liaoning|Manchuria|Mongolia|Ningxia|Qinghai|Shaanxi|"
+    u"Shandong|Shanghai|Shanxi|Sichuan|Taipei|Taiwan|Tianjin|Tibet|Xinjiang|Yunnan|Zhejiang|";
 
 /// Small words inside proper names.
 constexpr std::u16string_view kInNames = u"of|the|and|or|de|von|for|van|da|del|";
-
-/// How descriptions begin. "used " alone would be "used car" as well.
-constexpr std::u16string_view kDescriptions =
-    u"classifier for |classifier used |classifier, |used to |used in |used as |used for |"
-    u"used with |used after |used before |used by |used at |used when |used on |used only |"
-    u"used mostly |used esp. |used particularly |used together |used, |also used |indicates |"
-    u"indicating |expresses |expressing |denotes |denoting |marks |particle indicating |"
-    u"particle used |particle marking |particle placed |particle expressing |particle in |"
-    u"particle for |particle similar |modal particle |final particle |structural particle |"
-    u"question particle |sentence-final particle |prefix indicating |prefix for |prefix used |"
-    u"prefix before |suffix indicating |suffix for |suffix used |suffix forming |suffix of |"
-    u"noun suffix|adjectival suffix|interjection of |interjection expressing |"
-    u"interjection indicating |interjection used |exclamation of |exclamation expressing |"
-    u"exclamation indicating |exclamation to |exclamation used |auxiliary verb |auxiliary word |"
-    u"refers to |one of |name of |the name of |name for |ancient name |alternative name |"
-    u"title of |sound of |the sound of |onomat. |radical in |radical of |character in |"
-    u"character used |first character |semantic component|phonetic \"|phonetic for |"
-    u"transliteration of |place name|old place name|ancient place name|common place name|"
-    u"person name|personal name|male given name|female given name|in place names|in names|"
-    u"reign name|posthumous name|temple name|a kind of |kind of |a type of |type of |"
-    u"a variety of |variety of |a sort of |sort of |species of |a species of |said of |"
-    u"term of endearment|term of respect|term of address|generic term|general term|placed after |"
-    u"placed before |placed at |precedes |follows |abbr. |same as |surname |a surname|"
-    u"two-character surname|Japanese surname|sb who |sth that |person who |a person who |"
-    u"emphatic |meaning unknown|having to do with |ancient Chinese compass point|designation of |"
-    u"Kangxi radical |pseudonym of |pen name of |Japanese word for |the Japanese word for |";
 
 bool isCapital(char16_t unit) { return unit >= u'A' && unit <= u'Z'; }
 
@@ -109,8 +99,25 @@ std::size_t findMarker(std::u16string_view list, std::u16string_view gloss) {
   return first;
 }
 
+/// Cuts a name before its date: "Xia dynasty c. 2000 BC", "scary to think about coined c. 2013".
+std::u16string_view withoutDate(std::u16string_view gloss) {
+  std::size_t at = gloss.find(u" coined c. ");
+  if (at == std::u16string_view::npos && isCapital(gloss[0])) at = gloss.find(u" c. ");
+  if (at == std::u16string_view::npos) return gloss;
+  const std::u16string_view before = gloss.substr(0, at);
+  const std::u16string_view last = lastWord(before);
+  const bool open = isListed(kAfterPlace, last) || last == u"from" || last == u"before";
+  return open || before.ends_with(u',') ? gloss : before;
+}
+
 std::u16string_view withoutMarked(std::u16string_view gloss) {
-  gloss = gloss.substr(0, findMarker(kMarkers, gloss));
+  gloss = withoutDate(gloss);
+  const bool alternates = gloss.starts_with(u"now ");  // "now hot, now cold"
+  if (!alternates) gloss = gloss.substr(0, findMarker(kMarkers, gloss));
+  // "sports such as soccer that use large balls" and "With a father such as you" need what follows.
+  const std::u16string_view named = gloss.substr(0, findMarker(kExamples, gloss));
+  if (wordCount(named) > 1 && !isListed(kClauseBeginnings, lowered(firstWord(named))))
+    gloss = named;
   const std::u16string_view head = gloss.substr(0, findMarker(kArticles, gloss));
   const bool clause = isVerb(head) || isListed(kClauseBeginnings, firstWord(head));
   return clause || wordCount(head) > 2 ? gloss : head;
@@ -154,11 +161,29 @@ std::u16string_view withoutYears(std::u16string_view gloss) {
   const bool years = last.size() >= 7 && last.size() < rest.size() && isDigit(last[0]) &&
                      isDigit(last.back()) && last.find(u'-') != std::u16string_view::npos &&
                      last.find_first_not_of(u"0123456789-") == std::u16string_view::npos;
-  return years ? rest.substr(0, rest.size() - last.size() - 1) : gloss;
+  if (!years) return gloss;
+  rest.remove_suffix(last.size() + 1);
+  // "1837-1941 and 1945-1997": the first span is part of the text.
+  return lastWord(rest) == u"and" ? gloss : rest;
+}
+
+/// Returns whether the text says where a place is, or names one: a kind of place or a province is
+/// among its words.
+bool tellsPlace(std::u16string_view text) {
+  while (!text.empty()) {
+    std::u16string_view word = firstWord(text);
+    text.remove_prefix(std::min(text.size(), word.size() + 1));
+    if (word.ends_with(u',')) word.remove_suffix(1);
+    const std::u16string small = lowered(word);
+    if (isListed(kKindsOfPlace, small) || isListed(kPlaceWords, small)) return true;
+    if (isListed(kProvinces, word)) return true;
+  }
+  return false;
 }
 
 /// Cuts the name of a place behind the kind of the place, and a longer name of capitalised words
-/// before "in" or "near".
+/// before "in" or "near" where one of them and what follows tells a place. In doubt nothing is cut:
+/// "Law on the National Emblem" is no law named "Law".
 std::u16string_view withoutPlaceTail(std::u16string_view gloss) {
   if (!isCapital(gloss[0])) return gloss;
   const bool longName = wordCount(gloss) > 4;
@@ -168,7 +193,8 @@ std::u16string_view withoutPlaceTail(std::u16string_view gloss) {
   for (std::size_t at = 0; at < gloss.size(); ++count) {
     const std::u16string_view word = firstWord(gloss.substr(at));
     const bool place = count > 1 && isListed(kKindsOfPlace, lowered(before));
-    const bool located = longName && name && count > 0 && word != u"of";
+    const bool located =
+        longName && name && count > 0 && isListed(kBeforePlace, word) && tellsPlace(gloss);
     const bool ends = isListed(kAfterPlace, word) || (place && word == u"or");
     if (ends && (place || located)) return gloss.substr(0, at - 1);
     name = name && (isCapital(word[0]) || isListed(kInNames, word));
@@ -178,6 +204,30 @@ std::u16string_view withoutPlaceTail(std::u16string_view gloss) {
   return gloss;
 }
 
+bool areCapitalized(std::u16string_view text) {
+  while (!text.empty()) {
+    const std::u16string_view word = firstWord(text);
+    if (word.empty() || !isCapital(word[0])) return false;
+    text.remove_prefix(std::min(text.size(), word.size() + 1));
+  }
+  return true;
+}
+
+/// Returns the spellings in "Liberman, Lieberman or Liebermann": capitalised names of equally many
+/// words, since "CD or DVD Drive" shares its last one. Empty if the gloss is no such list.
+std::vector<std::u16string_view> alternativeNames(std::u16string_view gloss) {
+  const std::size_t at = gloss.find(u" or ");
+  if (at == std::u16string_view::npos) return {};
+  std::vector<std::u16string_view> names = segments(gloss.substr(0, at));
+  if (names.back().ends_with(u',')) names.back().remove_suffix(1);
+  names.push_back(gloss.substr(at + 4));
+  const std::size_t words = wordCount(names[0]);
+  const bool alike = std::ranges::all_of(names, [&](std::u16string_view name) {
+    return !name.empty() && wordCount(name) == words && areCapitalized(name);
+  });
+  return alike ? names : std::vector<std::u16string_view>{};
+}
+
 }  // namespace
 
 std::u16string_view withoutApposition(std::u16string_view gloss) {
@@ -185,6 +235,9 @@ std::u16string_view withoutApposition(std::u16string_view gloss) {
 }
 
 std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bool names) {
+  if (std::vector<std::u16string_view> spellings = alternativeNames(gloss); !spellings.empty()) {
+    return spellings;
+  }
   const bool open = gloss.ends_with(u" etc");
   std::vector<std::u16string_view> parts =
       segments(open ? gloss.substr(0, gloss.size() - 4) : gloss);
@@ -208,10 +261,6 @@ std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bo
   const bool list = std::ranges::all_of(parts, isVerb) || std::ranges::all_of(parts, isWord);
   if (!list && !synonyms) return {gloss};
   return parts;
-}
-
-bool isDescription(std::u16string_view gloss) {
-  return gloss.ends_with(u" etc") || !listedBeginning(kDescriptions, gloss).empty();
 }
 
 bool describesPlace(std::u16string_view gloss) {

@@ -13,14 +13,11 @@ namespace dictionary {
 /// "Jiaocheng county in Lüliang". The view refers into `gloss`.
 std::u16string_view withoutApposition(std::u16string_view gloss);
 
-/// Returns the equivalents of a gloss that lists single words or verbs: "feast, banquet", "to sift,
-/// to strain". Returns the gloss itself where a comma does anything else. `names`: capitalised
-/// words are a list as well, not a place and its country. The views refer into `gloss`.
+/// Returns the equivalents of a gloss that lists single words or verbs, "feast, banquet", "to sift,
+/// to strain", or spellings of a name, "Clark or Clarke". Returns the gloss itself where a comma
+/// does anything else. `names`: capitalised words are a list as well, not a place and its country.
+/// The views refer into `gloss`.
 std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bool names);
-
-/// Returns whether the gloss describes what its word is used for, or what kind of thing it names,
-/// instead of translating it: "classifier for ships", "a kind of rat", "food, drink etc".
-bool isDescription(std::u16string_view gloss);
 
 /// Returns whether the gloss names a place and says so: "Yuci district", "Nuuk, capital of
 /// Greenland".

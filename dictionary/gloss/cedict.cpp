@@ -10,6 +10,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "dictionary/gloss/descriptions.h"
 #include "dictionary/source/characters.h"
 #include "dictionary/translation/equivalent.h"
 #include "text/order.h"
@@ -37,6 +38,9 @@ Record parseRecord(const CedictRecord& source) {
   Record record{&source, {}, {}};
   for (const std::u16string& text : source.glosses) {
     ParsedGloss parsed = parseGloss(text);
+    std::erase_if(parsed.glosses, [&](const Gloss& gloss) {
+      return labelsItsWord(gloss.english, source.simplified);
+    });
     std::ranges::move(parsed.glosses, std::back_inserter(record.glosses));
     std::ranges::move(parsed.references, std::back_inserter(record.references));
   }
@@ -55,6 +59,12 @@ Record parseRecord(const CedictRecord& source) {
 bool isName(const Record& record) {
   const std::u16string& pinyin = record.source->pinyin;
   return !pinyin.empty() && pinyin[0] >= u'A' && pinyin[0] <= u'Z';
+}
+
+/// Returns whether the character has the meanings of the word only as a part of it: 秘 of 秘鲁 is
+/// not "Peru". Short forms of two characters do stand for the whole.
+bool isPartOf(const Record& character, const Record& word) {
+  return character.source->simplified.size() == 1 && word.source->simplified.size() > 1;
 }
 
 /// Orders the records of one simplified form: names last, then by the number of meanings, which is
@@ -123,7 +133,7 @@ void Entries::follow(const Record& record, int steps, std::vector<Gloss>& glosse
       if (&target == &record) continue;
       for (Gloss gloss : meaningsOf(target, steps - 1)) {
         if (reference.usage) gloss.value = std::max(gloss.value, GlossValue::kUsage);
-        if (reference.kind == ReferenceKind::kPart) {
+        if (reference.kind == ReferenceKind::kPart || isPartOf(record, target)) {
           gloss.value = std::max(gloss.value, GlossValue::kPart);
         }
         glosses.push_back(std::move(gloss));

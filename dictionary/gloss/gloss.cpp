@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "dictionary/gloss/appositions.h"
+#include "dictionary/gloss/descriptions.h"
 #include "dictionary/gloss/english.h"
 #include "dictionary/gloss/notes.h"
 #include "dictionary/gloss/word_list.h"
@@ -26,7 +27,7 @@ struct Marks {
   bool usage = false;
 };
 
-constexpr std::u16string_view kLiteralMarks = u"lit. |lit: |literally |";
+constexpr std::u16string_view kLiteralMarks = u"lit. |lit., |lit: |literally |";
 /// Names of age, region or style.
 constexpr std::u16string_view kUsageMarks =
     u"formerly known as |formerly |old name for |old name of |former name of |former name for |"
@@ -35,7 +36,7 @@ constexpr std::u16string_view kUsageMarks =
     u"dialectal term for |slang for |slang term for |Internet slang for |Taiwanese term for |"
     u"euphemism for |euphemistic term for |polite term for |respectful term for |"
     u"honorific term for |humble term for |derogatory term for |derog. term for |nickname for |"
-    u"nickname of |";
+    u"nickname of |old: |honorific: |humble term: |former name: |";
 /// What follows them is what the word means, or another word for it.
 constexpr std::u16string_view kOtherMarks =
     u"lit. and fig. |fig. |fig: |figuratively, |figuratively |by extension, |by ext. |also fig. |"
@@ -46,13 +47,31 @@ constexpr std::u16string_view kOtherMarks =
     u"alternative term for |other name for |common name for |common name of |popular name for |"
     u"colloquial name for |colloquial term for |informal name for |generic name for |"
     u"generic term for |general term for |general name for |collective name for |"
-    u"collective term for |";
+    u"collective term for |modern: |";
+/// Before a single word they are part of the meaning: "originally planned", "especially urgent".
+constexpr std::u16string_view kAdverbs = u"originally |especially |often |usually |also |";
+/// Phrases that begin as marks do.
+constexpr std::u16string_view kPhrases = u"or else|or so|or more|or less|or not|";
+/// They name another word or a foreign one, which is no meaning.
+constexpr std::u16string_view kOtherWords =
+    u"opposite: |antonym: |Latin: |Japanese: |Korean: |Turkish: |Sanskrit: |full name: |see also: |"
+    u"classifier: |structural particle: |";
+
+bool isSmall(char16_t unit) { return unit >= u'a' && unit <= u'z'; }
+
+/// Returns whether the text is nothing but a mark, which is then the meaning: "also known as".
+bool isWholeMark(std::u16string_view piece) {
+  const std::u16string mark = std::u16string(piece) + u' ';
+  return isListed(kOtherMarks, mark) && wordCount(piece) > 1;
+}
 
 /// Removes the items of the list at the beginning of `piece`; returns whether there was one.
 bool takeListed(std::u16string_view list, std::u16string_view& piece) {
   const std::u16string_view mark = listedBeginning(list, piece);
-  // "ancient name of a river" describes.
   const std::u16string_view rest = piece.substr(mark.size());
+  const bool word = wordCount(rest) == 1 && isSmall(rest[0]);
+  if ((word && isListed(kAdverbs, mark)) || isListed(kPhrases, piece)) return false;
+  // "ancient name of a river" describes.
   if (mark.ends_with(u" of ") && (rest.starts_with(u"a ") || rest.starts_with(u"an ")))
     return false;
   piece.remove_prefix(mark.size());
@@ -62,6 +81,7 @@ bool takeListed(std::u16string_view list, std::u16string_view& piece) {
 /// Removes the marks at the beginning of `piece`, and returns what they say.
 Marks takeMarks(std::u16string_view& piece) {
   Marks marks;
+  if (isWholeMark(piece)) return marks;
   for (bool again = true; again;) {
     again = takeListed(kOtherMarks, piece);
     if (takeListed(kLiteralMarks, piece)) marks.literal = again = true;
@@ -101,20 +121,23 @@ class GlossParser {
   void readPiece(std::u16string_view piece) {
     const NotedText noted = withoutGlossNotes(piece);
     const NoteMeaning& meaning = noted.meaning;
-    std::u16string_view text = noted.text;
+    std::u16string_view text = noted.whole.empty() ? noted.text : noted.whole;
     const Marks marks = takeMarks(text);
     literal_ = marks.literal || (meaning.literal && !meaning.figurative);
     if (!begun_ && piece.starts_with(u'(') && !noted.described) shared_ = meaning;
     begun_ = true;
-    if (text.empty() || isAside(text)) return;
+    if (text.empty() || isAside(text) || !listedBeginning(kOtherWords, text).empty()) return;
     // The phrase before a reference may be one of the marks.
     if (std::optional<GlossReference> reference = findReference(noted.text)) {
       reference->usage = reference->usage || meaning.usage || shared_.usage;
       result_.references.push_back(*std::move(reference));
       return;
     }
+    // A gloss that is a note altogether says what kind of word this is.
+    if (noted.described) return;
     std::optional<std::u16string> english = withoutChinese(text);
     if (!english) return;
+    if (english->ends_with(u" aka")) english->erase(english->size() - 4);
     // So that the name after the article is seen to be one: "the Louvre, museum in Paris".
     const bool name = english->starts_with(u"the ") && english->size() > 4 &&
                       (*english)[4] >= u'A' && (*english)[4] <= u'Z';
@@ -125,8 +148,9 @@ class GlossParser {
   void addEnglish(std::u16string_view english, const NotedText& noted, bool usage) {
     NoteMeaning meaning = noted.meaning;
     meaning |= shared_;
+    if (isUsageNote(english)) return;
     const std::u16string_view equivalent = withoutApposition(english);
-    const bool described = noted.described || isDescription(equivalent);
+    const bool described = !noted.whole.empty() || isDescription(equivalent);
     SubjectSet subjects = meaning.subjects;
     if (describesPlace(english)) subjects |= setOf(Subject::kPlace);
     const bool names = (subjects & kNameSubjects) != 0;

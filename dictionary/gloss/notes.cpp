@@ -35,6 +35,8 @@ constexpr std::u16string_view kNegations = u"not|cannot|never|un|non|don't|";
 constexpr std::u16string_view kPlaceholders =
     u"sb|sth|sb or sth|do sth|doing sth|somebody|something|sb else|sth or sb|to do sth|"
     u"sb to do sth|";
+/// Subjects and objects inside a sentence.
+constexpr std::u16string_view kPronouns = u"you|I|we|he|she|they|it|me|him|them|";
 constexpr std::size_t kMaxKeptWords = 4;
 
 bool isSmall(char16_t unit) { return unit >= u'a' && unit <= u'z'; }
@@ -84,7 +86,7 @@ class NoteRemover {
     std::size_t at = 0;
     while (at < gloss_.size()) {
       if (gloss_[at] != u'(') {
-        result_.text += gloss_[at++];
+        add(gloss_.substr(at++, 1));
         continue;
       }
       const std::size_t close = closingPosition(gloss_, at);
@@ -94,6 +96,7 @@ class NoteRemover {
       if (at == close + 1) read(note);
     }
     result_.text = foldBlanks(withoutLooseBlanks(result_.text));
+    if (broken_) result_.whole = foldBlanks(withoutLooseBlanks(whole_));
     if (result_.text.empty() && !unknown_.empty()) {
       result_.text = unknown_;
       result_.described = true;
@@ -120,9 +123,9 @@ class NoteRemover {
         note.close + 1 < gloss_.size() && isAsciiLetter(gloss_[note.close + 1]);
     if (attachedBefore) {
       const bool formula = !isEnding(note.content) && isFormula(note.content);
-      if (formula) result_.text += gloss_.substr(note.open, note.close + 1 - note.open);
+      if (formula) add(gloss_.substr(note.open, note.close + 1 - note.open));
     } else if (attachedAfter || isNeeded(note)) {
-      result_.text += note.content;
+      add(note.content);
     } else {
       readMeaning(note);
     }
@@ -134,7 +137,33 @@ class NoteRemover {
     const NoteMeaning meaning = readNote(note.content);
     result_.meaning |= meaning;
     const bool mark = meaning.usage || meaning.label || meaning.literal || meaning.figurative;
-    if (!mark) unknown_ = note.content;
+    if (mark) return;
+    unknown_ = note.content;
+    if (meaning.subjects != 0) return;
+    whole_ += note.content;
+    broken_ = broken_ || breaks(note, text);
+  }
+
+  void add(std::u16string_view text) {
+    result_.text += text;
+    whole_ += text;
+  }
+
+  /// Returns whether the sentence is broken without the note, `before` being the text so far: "be
+  /// older than (sb) by", "who do (you) think", "to assign the task of (doing sth)".
+  [[nodiscard]] bool breaks(const Note& note, std::u16string_view before) const {
+    const std::u16string after = foldBlanks(gloss_.substr(note.close + 1));
+    const std::u16string_view next = firstWord(after);
+    const std::u16string_view last = lastWord(before);
+    if (before.empty()) return false;
+    if (next.empty()) {
+      const std::u16string_view object = before.substr(0, before.size() - last.size());
+      const bool noun = object.find(u" the ") != std::u16string_view::npos;
+      return noun && last == u"of" && before.starts_with(u"to ");
+    }
+    const bool open = isListed(kPrepositions, last) || isListed(kOpenWords, last);
+    const bool joins = isListed(kPrepositions, next) || next == u"than" || next == u"that";
+    return next == last || isListed(kPronouns, note.content) || (open && joins);
   }
 
   [[nodiscard]] bool isNeeded(const Note& note) const {
@@ -166,6 +195,8 @@ class NoteRemover {
   }
 
   std::u16string_view gloss_;
+  std::u16string whole_;  ///< the text with its notes but marks, without their brackets
+  bool broken_ = false;
   std::u16string_view unknown_;  ///< the last note that is more than a mark
   NotedText result_;
 };

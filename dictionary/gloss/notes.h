@@ -13,6 +13,8 @@ struct NotedText {
   std::u16string text;
   NoteMeaning meaning;      ///< of all notes together
   std::u16string initials;  ///< a note that abbreviates the text: "WHO"; otherwise ""
+  /// The gloss with its notes written out where `text` is no sentence without them; otherwise "".
+  std::u16string whole;
   /// Whether `text` is that of a note, beside which there is nothing: "(fine jade)".
   bool described = false;
 };

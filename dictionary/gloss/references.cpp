@@ -129,6 +129,30 @@ std::u16string withoutLooseMarks(std::u16string_view text) {
   return foldBlanks(result);
 }
 
+/// Returns whether the phrase refers to a word by its English name first: "see Jiang Ziya 姜子牙".
+bool seesName(std::u16string_view before) {
+  if (!before.starts_with(u"see ")) return false;
+  for (std::u16string_view rest = before.substr(4); !rest.empty();) {
+    const std::u16string_view word = firstWord(rest);
+    if (word.empty() || word[0] < u'A' || word[0] > u'Z') return false;
+    rest.remove_prefix(std::min(rest.size(), word.size() + 1));
+  }
+  return true;
+}
+
+/// The kind of reference that the text before a Chinese word makes; nullopt if it makes none.
+std::optional<ReferenceKind> kindOf(std::u16string_view before) {
+  const auto* const phrase = std::ranges::find_if(kPhrases, [&](const PhraseList& list) {
+    const auto ends = [&](std::u16string_view end) {
+      const std::size_t begin = before.size() - std::min(before.size(), end.size());
+      return before.ends_with(end) && (begin == 0 || !isAsciiLetter(before[begin - 1]));
+    };
+    return !findListed(list.ends, ends).empty();
+  });
+  if (phrase != kPhrases.end()) return phrase->kind;
+  return seesName(before) ? std::optional(ReferenceKind::kSame) : std::nullopt;
+}
+
 }  // namespace
 
 std::optional<GlossReference> findReference(std::u16string_view gloss) {
@@ -137,18 +161,12 @@ std::optional<GlossReference> findReference(std::u16string_view gloss) {
   const Span span = wordAround(gloss, at);
   const std::u16string_view before = gloss.substr(0, span.begin);
   if (std::ranges::count(before, u' ') > kMaxPhraseBlanks) return std::nullopt;
-  const auto* const phrase = std::ranges::find_if(kPhrases, [&](const PhraseList& list) {
-    const auto ends = [&](std::u16string_view end) {
-      const std::size_t begin = before.size() - std::min(before.size(), end.size());
-      return before.ends_with(end) && (begin == 0 || !isAsciiLetter(before[begin - 1]));
-    };
-    return !findListed(list.ends, ends).empty();
-  });
-  if (phrase == kPhrases.end()) return std::nullopt;
+  const std::optional<ReferenceKind> found = kindOf(before);
+  if (!found) return std::nullopt;
   GlossReference reference;
   // "variant of 扒[pa2] in 扒手[pa2 shou3]" has that meaning in one word only.
   const bool part = gloss.substr(span.end).starts_with(u" in ");
-  reference.kind = part ? ReferenceKind::kPart : phrase->kind;
+  reference.kind = part ? ReferenceKind::kPart : *found;
   const auto contained = [&](std::u16string_view word) {
     return before.find(word) != std::u16string_view::npos;
   };

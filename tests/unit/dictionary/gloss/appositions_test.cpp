@@ -8,7 +8,6 @@
 namespace {
 
 using dictionary::describesPlace;
-using dictionary::isDescription;
 using dictionary::withoutApposition;
 using Views = std::vector<std::u16string_view>;
 
@@ -50,6 +49,12 @@ TEST(WithoutApposition, CutsYears) {
   EXPECT_EQ(withoutApposition(u"Boeing 747"), u"Boeing 747");
 }
 
+// "鸦片战争 | the Opium Wars of 1840-1842 and 1860-1861"
+TEST(WithoutApposition, LeavesTwoSpansOfYears) {
+  EXPECT_EQ(withoutApposition(u"Opium Wars of 1840-1842 and 1860-1861"),
+            u"Opium Wars of 1840-1842 and 1860-1861");
+}
+
 // "二十年目睹之怪现状 | The Strange State of the World Witnessed Over 20 Years, novel by …"
 TEST(WithoutApposition, LeavesTitlesWhole) {
   EXPECT_EQ(withoutApposition(u"Strange State of the World Witnessed"),
@@ -78,12 +83,62 @@ TEST(WithoutApposition, CutsPlacesBehindTheirKind) {
   EXPECT_EQ(withoutApposition(u"City of London"), u"City of London");
 }
 
+// "国徽法 | Law on the National Emblem of the PRC, …", "歧路灯 | Lamp in the Side Street, novel by
+// …", "中国制造2025 | Made in China 2025, …", "联合国海洋法公约 | United Nations Convention on the
+// Law of the Sea", "早C晚A | Vitamin C in the morning, Vitamin A in the evening"
+TEST(WithoutApposition, CutsNoTitleAtAPreposition) {
+  for (const std::u16string_view gloss :
+       {u"Law on the National Emblem of the PRC", u"Convention on the Rights of the Child",
+        u"Lamp in the Side Street", u"Made in China 2025 plan",
+        u"United Nations Convention on the Law of the Sea",
+        u"Vitamin C in the morning, Vitamin A in the evening"}) {
+    EXPECT_EQ(withoutApposition(gloss), gloss);
+  }
+  EXPECT_EQ(withoutApposition(u"Lushan at the north of Jiangxi Province"), u"Lushan");
+}
+
+// "忽冷忽热 | now hot, now cold", "大球 | sports such as soccer, basketball and volleyball that use
+// large balls", "虎父无犬子 | … With a distinguished father such as you, the son is sure to do
+// well."
+TEST(WithoutApposition, LeavesWhatNeedsTheRest) {
+  for (const std::u16string_view gloss :
+       {u"now hot, now cold", u"sports such as soccer that use large balls",
+        u"With a father such as you, the son will do well"}) {
+    EXPECT_EQ(withoutApposition(gloss), gloss);
+  }
+  EXPECT_EQ(withoutApposition(u"marine worm such as the spoon worm"), u"marine worm");
+}
+
+// "夏代 | Xia or Hsia dynasty c. 2000 BC", "细思极恐 | scary to think about (…) coined c. 2013",
+// "吕嘉民 | Lu Jiamin aka Jiang Rong, …", "前寒武纪 | pre-Cambrian, geological period before c.
+// 540m …"
+TEST(WithoutApposition, CutsDatesAndOtherNames) {
+  EXPECT_EQ(withoutApposition(u"Xia or Hsia dynasty c. 2000 BC"), u"Xia or Hsia dynasty");
+  EXPECT_EQ(withoutApposition(u"scary to think about coined c. 2013"), u"scary to think about");
+  EXPECT_EQ(withoutApposition(u"Lu Jiamin aka Jiang Rong"), u"Lu Jiamin");
+  EXPECT_EQ(withoutApposition(u"Uzziah before c. 750 BC"), u"Uzziah before c. 750 BC");
+}
+
 // "劙 | to divide, to partition", "苑 | feast, banquet", "沙坑 | sand trap, bunker"
 TEST(ListedEquivalents, SplitsListsOfWordsAndVerbs) {
   EXPECT_EQ(listed(u"feast, banquet"), (Views{u"feast", u"banquet"}));
   EXPECT_EQ(listed(u"to sift, to strain"), (Views{u"to sift", u"to strain"}));
   EXPECT_EQ(listed(u"sand trap, bunker"), (Views{u"sand trap", u"bunker"}));
   EXPECT_EQ(listed(u"earthen jug, crock, cistern"), (Views{u"earthen jug", u"crock", u"cistern"}));
+}
+
+// "克拉克 | Clark or Clarke", "利伯曼 | Liberman, Lieberman or Liebermann", "南门二 | Alpha
+// Centauri or Rigel Kentaurus", "光驱 | CD or DVD Drive"
+TEST(ListedEquivalents, SplitsSpellingsOfNames) {
+  EXPECT_EQ(listed(u"Clark or Clarke"), (Views{u"Clark", u"Clarke"}));
+  EXPECT_EQ(listed(u"Liberman, Lieberman or Liebermann"),
+            (Views{u"Liberman", u"Lieberman", u"Liebermann"}));
+  EXPECT_EQ(listed(u"Jimmy, Jimmie, or Jimi"), (Views{u"Jimmy", u"Jimmie", u"Jimi"}));
+  EXPECT_EQ(listed(u"Alpha Centauri or Rigel Kentaurus"),
+            (Views{u"Alpha Centauri", u"Rigel Kentaurus"}));
+  EXPECT_EQ(listed(u"CD or DVD Drive"), (Views{u"CD or DVD Drive"}));
+  EXPECT_EQ(listed(u"Luye or Luyeh township"), (Views{u"Luye or Luyeh township"}));
+  EXPECT_EQ(listed(u"one or two"), (Views{u"one or two"}));
 }
 
 // "杏眼 | large, round eyes", "坑蒙拐骗 | to swindle, scam and deceive", "旧金山", "克里斯汀 |
@@ -95,21 +150,6 @@ TEST(ListedEquivalents, LeavesOtherCommas) {
   EXPECT_EQ(listed(u"Limerick, Ireland"), (Views{u"Limerick, Ireland"}));
   EXPECT_EQ(dictionary::listedEquivalents(u"Christine, Kristin etc", true),
             (Views{u"Christine", u"Kristin"}));
-}
-
-// "艘 | classifier for ships", "萑 | a kind of reed", "二手车 | used car", "语气助词 | modal
-// particle"
-TEST(IsDescription, TellsDescriptionsFromTranslations) {
-  for (const std::u16string_view gloss :
-       {u"classifier for ships", u"a kind of reed", u"used in place names", u"name of a river",
-        u"coins, badges etc", u"surname Li"}) {
-    EXPECT_TRUE(isDescription(gloss));
-  }
-  for (const std::u16string_view gloss :
-       {u"used car", u"indicator", u"modal particle", u"particle accelerator", u"kind of",
-        u"exclamation mark", u"radical reform", u"transliteration"}) {
-    EXPECT_FALSE(isDescription(gloss));
-  }
 }
 
 // "普定县 | Puding, a county in Anshun City, Guizhou", "榆次区 | Yuci district of Jinzhong city"

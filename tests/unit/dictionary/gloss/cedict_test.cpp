@@ -61,9 +61,8 @@ TEST(ChineseEntries, PutsNamesAfterAllOtherMeanings) {
 // "个 | (classifier …)/(bound form) individual", "密 | surname Mi/name of an ancient state"
 TEST(ChineseEntries, PutsTheBestValuesFirst) {
   const Records records = {
-      record(u"密", u"mi4", {u"surname Mi", u"name of a state", u"(Tw) tight", u"secret"})};
-  EXPECT_EQ(textsOf(records, u"密"),
-            (Texts{u"secret", u"tight", u"name of a state", u"surname Mi"}));
+      record(u"密", u"mi4", {u"surname Mi", u"a kind of state", u"(Tw) tight", u"secret"})};
+  EXPECT_EQ(textsOf(records, u"密"), (Texts{u"secret", u"tight", u"kind of state", u"surname Mi"}));
 }
 
 TEST(ChineseEntries, TakesEqualTextsTogether) {
@@ -112,6 +111,23 @@ TEST(ChineseEntries, FollowsRelatedWordsOnlyForWantOfMeanings) {
   EXPECT_EQ(textsOf(records, u"丙"), (Texts{u"second"}));
   EXPECT_EQ(glossesOf(records, u"丁").at(0).value, GlossValue::kPart);
   EXPECT_TRUE(glossesOf(records, u"戊").empty());
+}
+
+// "秘 | see 秘魯|秘鲁[Bi4 lu3]", "㬎 | old variant of 顯|显[xian3]", "壳牌 | see 殼牌公司"
+TEST(ChineseEntries, GivesACharacterNoMeaningOfAWord) {
+  const Records records = {record(u"秘", u"bi4", {u"see 秘鲁[Bi4 lu3]"}),
+                           record(u"秘鲁", u"Bi4 lu3", {u"Peru"}),
+                           record(u"壳牌", u"Qiao4 pai2", {u"see 壳牌公司[Qiao4 pai2 gong1 si1]"}),
+                           record(u"壳牌公司", u"Qiao4 pai2 gong1 si1", {u"Shell"})};
+  EXPECT_EQ(glossesOf(records, u"秘").at(0).value, GlossValue::kPart);
+  EXPECT_EQ(glossesOf(records, u"壳牌").at(0).value, GlossValue::kPair);
+}
+
+// "甪 | place name", "地名 | place name; toponym"
+TEST(ChineseEntries, LeavesOutWhatLabelsTheWord) {
+  EXPECT_TRUE(glossesOf({record(u"甪", u"lu4", {u"place name"})}, u"甪").empty());
+  EXPECT_EQ(textsOf({record(u"地名", u"di4 ming2", {u"place name; toponym"})}, u"地名"),
+            (Texts{u"toponym", u"place name"}));
 }
 
 // "岱 | Mt Tai in Shandong/same as 泰山": 泰山 is Tarzan as well

@@ -49,15 +49,14 @@ TEST(ParseGloss, GivesWordsAndSubjects) {
             setOf(Subject::kPlace));
 }
 
-// "频宽 | (Tw) bandwidth", "菠薐 | old name for spinach", "艘 | classifier for ships"
+// "频宽 | (Tw) bandwidth", "菠薐 | old name for spinach", "鼢 | a kind of rat"
 TEST(ParseGloss, ValuesTexts) {
   EXPECT_EQ(value(u"bandwidth"), GlossValue::kPair);
   EXPECT_EQ(value(u"to be on the very same"), GlossValue::kExplanation) << "five words";
   EXPECT_EQ(value(u"to be on the same"), GlossValue::kPair) << "four words";
   EXPECT_EQ(value(u"(Tw) bandwidth"), GlossValue::kUsage);
   EXPECT_EQ(value(u"old name for spinach"), GlossValue::kUsage);
-  EXPECT_EQ(value(u"classifier for ships"), GlossValue::kExplanation);
-  EXPECT_EQ(value(u"(horse)"), GlossValue::kExplanation);
+  EXPECT_EQ(value(u"a kind of rat"), GlossValue::kExplanation);
   EXPECT_EQ(value(u"surname Li"), GlossValue::kSurname);
   EXPECT_EQ(value(u"two-character surname Dugu"), GlossValue::kSurname);
 }
@@ -78,12 +77,44 @@ TEST(ParseGloss, TellsLiteralMeanings) {
 }
 
 // "美洲国家 | also known as the Asian Games", "沪江 | alternative name for Shanghai 上海[Shang4
-// hai3]", "洭 | ancient name of a river 洭河[Kuang1 He2]"
+// hai3]"
 TEST(ParseGloss, RemovesMarksBeforeTheMeaning) {
   EXPECT_EQ(texts(u"also known as the Asian Games"), (Texts{u"Asian Games"}));
   EXPECT_EQ(texts(u"alternative name for Shanghai 上海[Shang4 hai3]"), (Texts{u"Shanghai"}));
   EXPECT_EQ(texts(u"the Louvre, museum in Paris"), (Texts{u"Louvre"}));
-  EXPECT_EQ(value(u"ancient name of a river"), GlossValue::kExplanation);
+}
+
+// "原定 | originally planned", "特急 | especially urgent", "又名 | also known as", "不然 | or
+// else", "族 | … by extension, social group"
+TEST(ParseGloss, KeepsMarksThatAreTheMeaning) {
+  for (const std::u16string_view gloss :
+       {u"originally planned", u"especially urgent", u"also known as", u"or else"}) {
+    EXPECT_EQ(texts(gloss), (Texts{std::u16string(gloss)}));
+  }
+  EXPECT_EQ(texts(u"originally a fort"), (Texts{u"fort"}));
+  EXPECT_EQ(texts(u"by extension, social group"), (Texts{u"social group"}));
+}
+
+// "出尔反尔 | old: to reap the consequences of one's words (…); modern: to go back on one's word",
+// "久仰 | honorific: I've long looked forward …", "迷惑龙 | former name: brontosaurus", "旧 |
+// opposite: new 新", "循环论证 | Latin: petitio principii"
+TEST(ParseGloss, ReadsWhatFollowsAColon) {
+  EXPECT_EQ(texts(u"old: to reap; modern: to go back"), (Texts{u"reap", u"go back"}));
+  EXPECT_EQ(value(u"honorific: I am honored"), GlossValue::kUsage);
+  EXPECT_EQ(texts(u"former name: brontosaurus"), (Texts{u"brontosaurus"}));
+  EXPECT_TRUE(texts(u"opposite: new 新").empty());
+  EXPECT_TRUE(texts(u"Latin: petitio principii").empty());
+}
+
+// "算哪根葱 | who do (you) think (you) are", "古风 | a pre-Tang Dynasty genre of poetry aka
+// 古體詩|古体诗[gu3 ti3 shi1]", "鸡犬升天 | lit., even his chickens and dogs will ascend to heaven
+// with him"
+TEST(ParseGloss, MakesNoPairOfABrokenSentence) {
+  EXPECT_EQ(texts(u"who (you) are"), (Texts{u"who you are"}));
+  EXPECT_EQ(value(u"who (you) are"), GlossValue::kExplanation);
+  EXPECT_EQ(texts(u"a pre-Tang Dynasty genre of poetry aka 古體詩|古体诗[gu3 ti3 shi1]"),
+            (Texts{u"pre-Tang Dynasty genre of poetry"}));
+  EXPECT_EQ(value(u"lit., a dog"), GlossValue::kLiteral);
 }
 
 // "FBI | Federal Bureau of Investigation (FBI)"
@@ -107,7 +138,7 @@ TEST(ParseGloss, GivesReferences) {
 TEST(ParseGloss, GivesNothingOfAsidesAndMarks) {
   for (const std::u16string_view gloss :
        {u"", u"(phonetic)", u"(loanword)", u"Taiwan pr. [sao1]", u"CL:個|个[ge4]", u"radical 頁",
-        u"(Tw)", u"; ;", u"()"}) {
+        u"(Tw)", u"; ;", u"()", u"classifier for ships", u"ancient name of a river", u"(horse)"}) {
     EXPECT_TRUE(texts(gloss).empty()) << std::string(gloss.begin(), gloss.end());
   }
 }

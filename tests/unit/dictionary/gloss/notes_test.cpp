@@ -58,6 +58,23 @@ TEST(WithoutGlossNotes, KeepsAnObjectThatTheTextNeeds) {
   EXPECT_EQ(text(u"just as (coll.)"), u"just as") << "no object at all";
 }
 
+// "算哪根葱 | who do (you) think (you) are", "痴长 | … to be older than (you) by", "随身 | to
+// (carry) on one's person", "支承 | to bear the weight of (a building)", "依靠 | to rely on sth
+// (for support etc)"
+TEST(WithoutGlossNotes, TellsASentenceThatNeedsItsNotes) {
+  EXPECT_EQ(withoutGlossNotes(u"who do (you) think (you) are").whole, u"who do you think you are");
+  EXPECT_EQ(withoutGlossNotes(u"to be older than (you) by").whole, u"to be older than you by");
+  EXPECT_EQ(withoutGlossNotes(u"to bear the weight of (a building)").whole,
+            u"to bear the weight of a building");
+  EXPECT_EQ(withoutGlossNotes(u"(coll.) to rely on (sth) for help").whole,
+            u"to rely on sth for help");
+  for (const std::u16string_view gloss :
+       {u"to rely on sth (for support etc)", u"to belong to (a group)", u"to regard (sb) as",
+        u"(law) appeal", u"(hand)bag"}) {
+    EXPECT_EQ(withoutGlossNotes(gloss).whole, u"");
+  }
+}
+
 // "世卫 | World Health Organization (WHO)", "美职篮 | National Basketball Association (NBA)",
 // "近场通信 | (computing) near-field communication (NFC)"
 TEST(WithoutGlossNotes, FindsInitials) {

@@ -51,6 +51,12 @@ TEST(FindReference, KnowsWhatItIsFor) {
   EXPECT_EQ(opposite->kind, ReferenceKind::kNone);
 }
 
+// "太公望 | see Jiang Ziya 姜子牙[Jiang1 Zi3 ya2]"
+TEST(FindReference, ReadsTheEnglishNameBeforeTheWord) {
+  EXPECT_EQ(kind(u"see Jiang Ziya 姜子牙[Jiang1 Zi3 ya2]"), ReferenceKind::kSame);
+  EXPECT_FALSE(findReference(u"see the master 姜子牙[Jiang1 Zi3 ya2]"));
+}
+
 // "定边县 | Dingbian County in Yulin 榆林[Yu2 lin2], Shaanxi"
 TEST(FindReference, LeavesSentencesAlone) {
   EXPECT_FALSE(findReference(u"Dingbian County in Yulin 榆林[Yu2 lin2], Shaanxi"));
