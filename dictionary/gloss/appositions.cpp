@@ -51,10 +51,13 @@ constexpr std::u16string_view kPlaceWords =
     u"valley|basin|harbor|park|square|palace|museum|university|bridge|tower|garden|gardens|"
     u"autonomous|province-level|county-level|prefecture-level|pr.|prov.|commune|counties|cities|"
     u"rivers|ruins|";
+/// In other texts they may mean anything: "the Law of the Sea".
+constexpr std::u16string_view kWaters = u"sea|ocean|falls|pool|port|pole|state|states|";
+/// In small letters.
 constexpr std::u16string_view kProvinces =
-    u"Anhui|Beijing|Chongqing|Fujian|Gansu|Guangdong|Guangxi|Guizhou|Hainan|Hebei|Heilongjiang|"
-    u"Henan|Hubei|Hunan|Jiangsu|Jiangxi|Jilin|Liaoning|Manchuria|Mongolia|Ningxia|Qinghai|Shaanxi|"
-    u"Shandong|Shanghai|Shanxi|Sichuan|Taipei|Taiwan|Tianjin|Tibet|Xinjiang|Yunnan|Zhejiang|";
+    u"anhui|beijing|chongqing|fujian|gansu|guangdong|guangxi|guizhou|hainan|hebei|heilongjiang|"
+    u"henan|hubei|hunan|jiangsu|jiangxi|jilin|liaoning|manchuria|mongolia|ningxia|qinghai|shaanxi|"
+    u"shandong|shanghai|shanxi|sichuan|taipei|taiwan|tianjin|tibet|xinjiang|yunnan|zhejiang|";
 
 /// Small words inside proper names.
 constexpr std::u16string_view kInNames = u"of|the|and|or|de|von|for|van|da|del|";
@@ -105,8 +108,9 @@ std::u16string_view withoutDate(std::u16string_view gloss) {
   if (at == std::u16string_view::npos && isCapital(gloss[0])) at = gloss.find(u" c. ");
   if (at == std::u16string_view::npos) return gloss;
   const std::u16string_view before = gloss.substr(0, at);
-  const std::u16string_view last = lastWord(before);
-  const bool open = isListed(kAfterPlace, last) || last == u"from" || last == u"before";
+  const std::u16string_view finalWord = lastWord(before);
+  const bool open =
+      isListed(kAfterPlace, finalWord) || finalWord == u"from" || finalWord == u"before";
   return open || before.ends_with(u',') ? gloss : before;
 }
 
@@ -167,18 +171,25 @@ std::u16string_view withoutYears(std::u16string_view gloss) {
   return lastWord(rest) == u"and" ? gloss : rest;
 }
 
-/// Returns whether the text says where a place is, or names one: a kind of place or a province is
-/// among its words.
-bool tellsPlace(std::u16string_view text) {
+/// Returns whether a word of the text, in small letters, is a kind of place or an item of the list.
+bool namesPlace(std::u16string_view text, std::u16string_view list) {
   while (!text.empty()) {
     std::u16string_view word = firstWord(text);
     text.remove_prefix(std::min(text.size(), word.size() + 1));
     if (word.ends_with(u',')) word.remove_suffix(1);
     const std::u16string small = lowered(word);
-    if (isListed(kKindsOfPlace, small) || isListed(kPlaceWords, small)) return true;
-    if (isListed(kProvinces, word)) return true;
+    const bool place = isListed(kKindsOfPlace, small) || isListed(kPlaceWords, small);
+    if (place || isListed(list, small)) return true;
   }
   return false;
+}
+
+/// Returns whether what begins at the preposition tells where the place of the name before is.
+bool locates(std::u16string_view name, std::u16string_view tail) {
+  const std::u16string_view word = firstWord(tail);
+  if (!isListed(kAfterPlace, word) || word == u"of") return false;
+  return namesPlace(name, kWaters) ||
+         (isListed(kBeforePlace, word) && namesPlace(tail, kProvinces));
 }
 
 /// Cuts the name of a place behind the kind of the place, and a longer name of capitalised words
@@ -194,7 +205,7 @@ std::u16string_view withoutPlaceTail(std::u16string_view gloss) {
     const std::u16string_view word = firstWord(gloss.substr(at));
     const bool place = count > 1 && isListed(kKindsOfPlace, lowered(before));
     const bool located =
-        longName && name && count > 0 && isListed(kBeforePlace, word) && tellsPlace(gloss);
+        longName && name && count > 0 && locates(gloss.substr(0, at - 1), gloss.substr(at));
     const bool ends = isListed(kAfterPlace, word) || (place && word == u"or");
     if (ends && (place || located)) return gloss.substr(0, at - 1);
     name = name && (isCapital(word[0]) || isListed(kInNames, word));
@@ -261,6 +272,24 @@ std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bo
   const bool list = std::ranges::all_of(parts, isVerb) || std::ranges::all_of(parts, isWord);
   if (!list && !synonyms) return {gloss};
   return parts;
+}
+
+std::vector<std::u16string> namesWithKind(std::u16string_view name) {
+  const std::u16string_view kind = lastWord(name);
+  const std::size_t at = name.find(u" or ");
+  const std::size_t end = name.size() - kind.size();
+  if (at == std::u16string_view::npos || at + 4 >= end || !isListed(kKindsOfPlace, lowered(kind))) {
+    return {std::u16string(name)};
+  }
+  const std::u16string_view first = name.substr(0, at);
+  const std::u16string_view second = name.substr(at + 4, end - at - 5);
+  const bool words = wordCount(first) == 1 && wordCount(second) == 1;
+  if (!words || !areCapitalized(first) || !areCapitalized(second)) return {std::u16string(name)};
+  std::vector<std::u16string> names;
+  for (const std::u16string_view one : {first, second}) {
+    names.push_back(std::u16string(one) + u' ' + std::u16string(kind));
+  }
+  return names;
 }
 
 bool describesPlace(std::u16string_view gloss) {

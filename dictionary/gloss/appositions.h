@@ -19,6 +19,11 @@ std::u16string_view withoutApposition(std::u16string_view gloss);
 /// The views refer into `gloss`.
 std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bool names);
 
+/// Returns the names of a place of which the kind is written once, each with its kind: "Luye
+/// township" and "Luyeh township" for "Luye or Luyeh township". Any other text is returned as it
+/// is.
+std::vector<std::u16string> namesWithKind(std::u16string_view name);
+
 /// Returns whether the gloss names a place and says so: "Yuci district", "Nuuk, capital of
 /// Greenland".
 bool describesPlace(std::u16string_view gloss);

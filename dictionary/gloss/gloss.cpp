@@ -155,8 +155,10 @@ class GlossParser {
     if (describesPlace(english)) subjects |= setOf(Subject::kPlace);
     const bool names = (subjects & kNameSubjects) != 0;
     for (const std::u16string_view text : listedEquivalents(equivalent, names)) {
-      const std::optional<std::u16string> word = englishHeadword(text);
-      if (word) add(*word, subjects, valueOf(*word, described, usage || meaning.usage));
+      for (const std::u16string& name : namesWithKind(text)) {
+        const std::optional<std::u16string> word = englishHeadword(name);
+        if (word) add(*word, subjects, valueOf(*word, described, usage || meaning.usage));
+      }
     }
     if (!noted.initials.empty()) {
       add(noted.initials, subjects, valueOf(noted.initials, false, usage || meaning.usage));

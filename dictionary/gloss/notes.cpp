@@ -154,16 +154,16 @@ class NoteRemover {
   [[nodiscard]] bool breaks(const Note& note, std::u16string_view before) const {
     const std::u16string after = foldBlanks(gloss_.substr(note.close + 1));
     const std::u16string_view next = firstWord(after);
-    const std::u16string_view last = lastWord(before);
+    const std::u16string_view finalWord = lastWord(before);
     if (before.empty()) return false;
     if (next.empty()) {
-      const std::u16string_view object = before.substr(0, before.size() - last.size());
+      const std::u16string_view object = before.substr(0, before.size() - finalWord.size());
       const bool noun = object.find(u" the ") != std::u16string_view::npos;
-      return noun && last == u"of" && before.starts_with(u"to ");
+      return noun && finalWord == u"of" && before.starts_with(u"to ");
     }
-    const bool open = isListed(kPrepositions, last) || isListed(kOpenWords, last);
+    const bool open = isListed(kPrepositions, finalWord) || isListed(kOpenWords, finalWord);
     const bool joins = isListed(kPrepositions, next) || next == u"than" || next == u"that";
-    return next == last || isListed(kPronouns, note.content) || (open && joins);
+    return next == finalWord || isListed(kPronouns, note.content) || (open && joins);
   }
 
   [[nodiscard]] bool isNeeded(const Note& note) const {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -95,6 +96,23 @@ TEST(WithoutApposition, CutsNoTitleAtAPreposition) {
     EXPECT_EQ(withoutApposition(gloss), gloss);
   }
   EXPECT_EQ(withoutApposition(u"Lushan at the north of Jiangxi Province"), u"Lushan");
+}
+
+// "虎跳峡 | Tiger Leaping Gorge on the Jinsha River …", "爱尔兰海 | Irish Sea between Ireland and
+// north England", "鹿野乡 | Luye or Luyeh township …"
+TEST(WithoutApposition, CutsWhereTheNameIsAPlace) {
+  EXPECT_EQ(withoutApposition(u"Tiger Leaping Gorge on the Jinsha River"), u"Tiger Leaping Gorge");
+  EXPECT_EQ(withoutApposition(u"Irish Sea between Ireland and north England"), u"Irish Sea");
+}
+
+TEST(NamesWithKind, GivesEachNameTheKind) {
+  using Names = std::vector<std::u16string>;
+  using dictionary::namesWithKind;
+  EXPECT_EQ(namesWithKind(u"Luye or Luyeh township"), (Names{u"Luye township", u"Luyeh township"}));
+  for (const std::u16string_view name : {u"Yuci district", u"one or two islands",
+                                         u"Luye or township", u"or city", u"Fu or Fu Hsi"}) {
+    EXPECT_EQ(namesWithKind(name), (Names{std::u16string(name)}));
+  }
 }
 
 // "忽冷忽热 | now hot, now cold", "大球 | sports such as soccer, basketball and volleyball that use
