@@ -147,7 +147,7 @@ void Builder::readFurtherSources(const SourceFiles& files) {
 /// Equivalents only: an explanation is nothing that one searches for.
 void Builder::addSubjectRows(const ChineseEntry& entry) {
   for (const Gloss& gloss : entry.glosses) {
-    if (gloss.value != GlossValue::kPair && gloss.value != GlossValue::kUsage) continue;
+    if (!isEquivalent(gloss)) continue;
     for (std::size_t i = 0; i < kSubjectCount; ++i) {
       const auto subject = static_cast<Subject>(i);
       if ((gloss.subjects & setOf(subject)) != 0) subjects_.add(subject, gloss.english, entry.word);

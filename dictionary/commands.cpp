@@ -1,15 +1,14 @@
 // The command line. Each command is a call of the function that does the work (build.h, check.h,
-// word_lookup.h, coverage.h); here are only arguments, output and exit codes. There are no options:
-// the number of arguments decides, and a file name may begin with any character.
+// word_lookup.h, coverage/); here are only arguments, output and exit codes. The number of
+// arguments decides, and a file name may begin with any character; "coverage --chinese" with two
+// more is the only option.
 
 #include "dictionary/commands.h"
 
 #include <algorithm>
 #include <exception>
-#include <iomanip>
 #include <iterator>
 #include <optional>
-#include <sstream>
 #include <string_view>
 
 #include "dictionary/build.h"

@@ -14,10 +14,11 @@ enum ExitCode : int {
 };
 
 /// Runs one command of kkbuild:
-///     build SOURCE.csv OUTPUT   (build.h)
-///     check FILE [SOURCE.csv]   (check/check.h)
-///     lookup FILE WORD          (word_lookup.h)
-///     coverage FILE TEXT...     (coverage/coverage.h)
+///     build SOURCE.csv [CHINESE.js FREQUENCIES TERMS] OUTPUT   (build.h)
+///     check FILE [SOURCE.csv]                                  (check/check.h)
+///     lookup FILE WORD                                         (word_lookup.h)
+///     coverage FILE TEXT...                                    (coverage/coverage.h)
+///     coverage --chinese FILE LIST                             (coverage/chinese_coverage.h)
 ///     --help
 /// `arguments` are in UTF-8, without the program's own name. Results go to `out`, progress and
 /// messages to `err`, both in UTF-8. Never throws a std::exception: one becomes a message and

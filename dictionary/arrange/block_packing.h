@@ -26,7 +26,8 @@ struct LookupLimits {
 ///   their first apostrophe, crosses from one block into the next;
 /// - no Chinese headword has more rows than a search reaches.
 /// Of the pairs that do not fit, the least valuable are left out (see Tier). Chinese headwords may
-/// cross a block, which is avoided where it costs no valuable pair.
+/// cross a block, which is avoided where it costs no valuable pair. English blocks are cut where
+/// few frequent headwords stand shortly before the cut, since a list ends with its block.
 ///
 /// Returns one flag for each of the vocabulary's pairs; the same ones for the same vocabulary on
 /// every machine. Throws Failure if the pairs fill no block.

@@ -66,11 +66,6 @@ constexpr std::uint64_t pairKey(std::uint32_t english, std::uint32_t chinese) {
   return std::uint64_t{english} << 32U | chinese;
 }
 
-/// Whether the text is an equivalent, not an explanation or the like.
-bool isEquivalent(const Gloss& gloss) {
-  return gloss.value == GlossValue::kPair || gloss.value == GlossValue::kUsage;
-}
-
 /// The rank of a word, 0 if it has none.
 std::uint32_t rankOf(const WordRanks& ranks, const std::u16string& word) {
   const auto found = ranks.find(word);

@@ -192,7 +192,7 @@ bool locates(std::u16string_view name, std::u16string_view tail) {
          (isListed(kBeforePlace, word) && namesPlace(tail, kProvinces));
 }
 
-/// Cuts the name of a place behind the kind of the place, and a longer name of capitalised words
+/// Cuts the name of a place after the kind of the place, and a longer name of capitalised words
 /// before "in" or "near" where one of them and what follows tells a place. In doubt nothing is cut:
 /// "Law on the National Emblem" is no law named "Law".
 std::u16string_view withoutPlaceTail(std::u16string_view gloss) {

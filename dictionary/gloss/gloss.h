@@ -34,6 +34,11 @@ struct Gloss {
   GlossValue value = GlossValue::kPair;
 };
 
+/// Returns whether the text is an equivalent, not an explanation or the like.
+inline bool isEquivalent(const Gloss& gloss) {
+  return gloss.value == GlossValue::kPair || gloss.value == GlossValue::kUsage;
+}
+
 /// A gloss of the source as it is parsed.
 struct ParsedGloss {
   std::vector<Gloss> glosses;  ///< in the order of the source
