@@ -54,7 +54,7 @@ class Builder {
   void addEntry(const SourceEntry& source);
   void addParsed(const Entry& entry);
   void addSubjectRows(const ChineseEntry& entry);
-  void refuseRepeatedTerms() const;
+  void refuseMisplacedTerms() const;
 
   std::ostream& log_;
   Progress progress_;
@@ -155,20 +155,22 @@ void Builder::addSubjectRows(const ChineseEntry& entry) {
   }
 }
 
-/// The list of terms is our own, so that a pair too many is a mistake to be mended there.
-void Builder::refuseRepeatedTerms() const {
-  const std::vector<Term> repeated = repeatedTerms(content_.vocabulary, further_);
-  for (const Term& term : repeated) {
-    log_ << "the list of terms repeats \"" << text::toUtf8(term.english) << "\", "
-         << text::toUtf8(term.chinese) << '\n';
+/// The list of terms is our own, so that a pair in the wrong place is a mistake to be mended there.
+void Builder::refuseMisplacedTerms() const {
+  const std::vector<Term> misplaced = misplacedTerms(content_.vocabulary, further_);
+  for (const Term& term : misplaced) {
+    log_ << "the list of terms " << (term.given ? "has as given" : "repeats") << " \""
+         << text::toUtf8(term.english) << "\", " << text::toUtf8(term.chinese) << '\n';
   }
-  if (!repeated.empty()) throw Failure("the list of terms has pairs that a source gives");
+  if (!misplaced.empty()) {
+    throw Failure("a term that a source gives belongs into the folder \"given\", no other does");
+  }
 }
 
 /// The collectors are emptied: pairs of a full dictionary take hundreds of megabytes.
 void Builder::arrangeContent() {
   content_.vocabulary = std::move(pairs_).finish();
-  refuseRepeatedTerms();
+  refuseMisplacedTerms();
   content_.vocabulary = addChineseSide(std::move(content_.vocabulary), further_);
   further_ = {};
   content_.subjects = std::move(subjects_).finish();

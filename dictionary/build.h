@@ -23,8 +23,8 @@ struct SourceFiles {
 /// The database is written to a file beside the target, checked by every rule, and only then
 /// renamed to the target: a former database stays in place until the new one is complete. The same
 /// sources give the same bytes on every machine. Takes some 20 s and 550 MB of memory for a full
-/// dictionary. Throws Failure, also if the list of terms repeats what a source gives; the
-/// target is unchanged then.
+/// dictionary. Throws Failure, also if the list of terms has a pair in the wrong folder
+/// (misplacedTerms()); the target is unchanged then.
 void buildDatabase(const SourceFiles& sources, const std::filesystem::path& target,
                    std::ostream& log);
 

@@ -261,7 +261,7 @@ Vocabulary addChineseSide(Vocabulary vocabulary, const ChineseSources& sources) 
   return vocabulary;
 }
 
-std::vector<Term> repeatedTerms(const Vocabulary& vocabulary, const ChineseSources& sources) {
+std::vector<Term> misplacedTerms(const Vocabulary& vocabulary, const ChineseSources& sources) {
   const auto key = [](const std::u16string& english, const std::u16string& chinese) {
     return text::toLower(english) + u'\n' + chinese;
   };
@@ -278,11 +278,11 @@ std::vector<Term> repeatedTerms(const Vocabulary& vocabulary, const ChineseSourc
   for (const ChineseEntry& entry : sources.entries) {
     for (const Gloss& gloss : entry.glosses) record(gloss.english, entry.word);
   }
-  std::vector<Term> repeated;
-  std::ranges::copy_if(sources.terms, std::back_inserter(repeated), [&](const Term& term) {
-    return given.contains(key(term.english, term.chinese));
+  std::vector<Term> misplaced;
+  std::ranges::copy_if(sources.terms, std::back_inserter(misplaced), [&](const Term& term) {
+    return term.given != given.contains(key(term.english, term.chinese));
   });
-  return repeated;
+  return misplaced;
 }
 
 }  // namespace dictionary

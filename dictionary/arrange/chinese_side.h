@@ -30,8 +30,8 @@ struct ChineseSources {
 /// - A common Chinese word has a row in any case.
 Vocabulary addChineseSide(Vocabulary vocabulary, const ChineseSources& sources);
 
-/// Returns the terms that the vocabulary or an entry gives word for word: the list needs none of
-/// them.
-std::vector<Term> repeatedTerms(const Vocabulary& vocabulary, const ChineseSources& sources);
+/// Returns the terms that stand in the wrong folder: those that the vocabulary or an entry gives
+/// word for word although Term::given is false, and those that none gives although it is true.
+std::vector<Term> misplacedTerms(const Vocabulary& vocabulary, const ChineseSources& sources);
 
 }  // namespace dictionary

@@ -30,6 +30,8 @@ bool isChineseTerm(std::u16string_view text) {
 
 /// The file of words of no subject.
 constexpr std::string_view kGeneral = "general";
+/// The folder of terms that a source gives as well.
+constexpr std::string_view kGiven = "given";
 
 /// The place of a file among all: 0 for words of no subject, else 1 more than the subject.
 std::optional<std::size_t> placeOf(std::string_view name) {
@@ -37,6 +39,29 @@ std::optional<std::size_t> placeOf(std::string_view name) {
   const auto* const found = std::ranges::find(kSubjectInfos, name, &SubjectInfo::table);
   if (found == kSubjectInfos.end()) return std::nullopt;
   return static_cast<std::size_t>(found - kSubjectInfos.begin()) + 1;
+}
+
+/// Reads the files of one folder, see readTermList().
+std::vector<Term> readFolder(const std::filesystem::path& folder) {
+  std::vector<std::filesystem::path> files;
+  std::error_code error;
+  for (const auto& file : std::filesystem::directory_iterator(folder, error)) {
+    if (file.path().extension() == ".csv") files.push_back(file.path());
+  }
+  if (error) throw Failure("cannot read the folder " + displayName(folder));
+  std::array<std::vector<Term>, kSubjectCount + 1> lists;
+  for (const std::filesystem::path& file : files) {
+    const std::optional<std::size_t> place = placeOf(utf8Path(file.stem()));
+    if (!place) throw Failure(displayName(file) + " has no subject's name");
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) throw Failure("cannot read " + displayName(file));
+    const auto subject =
+        *place == 0 ? std::nullopt : std::optional(static_cast<Subject>(*place - 1));
+    lists.at(*place) = readTerms(stream, subject, displayName(file));
+  }
+  std::vector<Term> terms;
+  for (std::vector<Term>& list : lists) std::ranges::move(list, std::back_inserter(terms));
+  return terms;
 }
 
 }  // namespace
@@ -64,24 +89,14 @@ std::vector<Term> readTerms(std::istream& stream, std::optional<Subject> subject
 }
 
 std::vector<Term> readTermList(const std::filesystem::path& folder) {
-  std::vector<std::filesystem::path> files;
-  std::error_code error;
-  for (const auto& file : std::filesystem::directory_iterator(folder, error)) {
-    if (file.path().extension() == ".csv") files.push_back(file.path());
+  std::vector<Term> terms = readFolder(folder);
+  const std::filesystem::path given = folder / kGiven;
+  if (std::filesystem::exists(given)) {
+    for (Term& term : readFolder(given)) {
+      term.given = true;
+      terms.push_back(std::move(term));
+    }
   }
-  if (error) throw Failure("cannot read the folder " + displayName(folder));
-  std::array<std::vector<Term>, kSubjectCount + 1> lists;
-  for (const std::filesystem::path& file : files) {
-    const std::optional<std::size_t> place = placeOf(utf8Path(file.stem()));
-    if (!place) throw Failure(displayName(file) + " has no subject's name");
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) throw Failure("cannot read " + displayName(file));
-    const auto subject =
-        *place == 0 ? std::nullopt : std::optional(static_cast<Subject>(*place - 1));
-    lists.at(*place) = readTerms(stream, subject, displayName(file));
-  }
-  std::vector<Term> terms;
-  for (std::vector<Term>& list : lists) std::ranges::move(list, std::back_inserter(terms));
   return terms;
 }
 

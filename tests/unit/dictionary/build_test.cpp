@@ -269,7 +269,21 @@ TEST(BuildDatabase, RefusesTermsThatASourceGives) {
                dictionary::Failure);
   EXPECT_NE(log.str().find("the list of terms repeats \"abacus\", 算盘\n"), std::string::npos);
   EXPECT_NE(log.str().find("the list of terms repeats \"cell site\", 基站\n"), std::string::npos);
+  EXPECT_EQ(log.str().find("the list of terms has as given"), std::string::npos);
   EXPECT_FALSE(std::filesystem::exists(folder.file(u"kk.dat")));
+}
+
+TEST(BuildDatabase, RefusesAsGivenTermsThatNoSourceGives) {
+  const TempFolder folder;
+  std::ostringstream log;
+  const dictionary::SourceFiles sources = allSources(folder, "data controller,数据控制者\n");
+  std::filesystem::create_directory(sources.terms / "given");
+  support::writeFile(sources.terms / "given" / "comp.csv", "cell site,基站\ncell tower,基站\n");
+  EXPECT_THROW(dictionary::buildDatabase(sources, folder.file(u"kk.dat"), log),
+               dictionary::Failure);
+  EXPECT_NE(log.str().find("the list of terms has as given \"cell tower\", 基站\n"),
+            std::string::npos);
+  EXPECT_EQ(log.str().find("cell site"), std::string::npos);
 }
 
 #ifndef _WIN32  // where permissions do not keep a file from being read

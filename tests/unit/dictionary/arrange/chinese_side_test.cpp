@@ -167,19 +167,24 @@ TEST(ChineseSide, LeavesNoCommonChineseWordWithoutARow) {
   EXPECT_EQ(texts(wordsForHit(5'000, 20'000)).size(), 13U);
 }
 
-TEST(RepeatedTerms, AreThoseThatASourceGivesWordForWord) {
+TEST(MisplacedTerms, AreThoseThatASourceGivesAndGivenOnesThatNoneGives) {
   const Vocabulary vocabulary = collect({entry("Cloud", "n. 云")});
+  const auto law = Subject::kLaw;
   const ChineseSources sources{{chinese(u"云计算", {u"cloud computing"})},
-                               {{u"cloud", u"云", Subject::kComputing},
-                                {u"cloud", u"云端", Subject::kComputing},
-                                {u"cloud computing", u"云计算", Subject::kComputing},
-                                {u"cloud computing", u"云", Subject::kComputing}},
+                               {{u"cloud", u"云", law},
+                                {u"cloud", u"云端", law},
+                                {u"cloud computing", u"云计算", law},
+                                {u"cloud computing", u"云", law},
+                                {u"Cloud", u"云", law, true},
+                                {u"clouds", u"云", law, true},
+                                {u"cloud computing", u"云计算", law, true}},
                                {}};
-  const std::vector<dictionary::Term> repeated = dictionary::repeatedTerms(vocabulary, sources);
-  ASSERT_EQ(repeated.size(), 2U);
-  EXPECT_EQ(repeated[0].english, u"cloud");
-  EXPECT_EQ(repeated[1].english, u"cloud computing");
-  EXPECT_EQ(repeated[1].chinese, u"云计算");
+  std::vector<std::u16string> misplaced;
+  for (const dictionary::Term& term : dictionary::misplacedTerms(vocabulary, sources)) {
+    misplaced.push_back(term.english + u"=" + term.chinese);
+  }
+  EXPECT_EQ(misplaced,
+            (std::vector<std::u16string>{u"cloud=云", u"cloud computing=云计算", u"clouds=云"}));
 }
 
 }  // namespace

@@ -88,6 +88,21 @@ TEST(TermList, TakesTheSubjectFromTheFileName) {
   EXPECT_EQ(terms[2].subject, Subject::kLaw);
 }
 
+TEST(TermList, TellsTheTermsThatASourceGivesToo) {
+  const support::TempFolder folder;
+  support::writeFile(folder.file(u"law.csv"), "privacy,隐私权\n");
+  std::filesystem::create_directory(folder.file(u"given"));
+  support::writeFile(folder.file(u"given") / "econ.csv", "carbon sink,碳汇\n");
+  const std::vector<Term> terms = dictionary::readTermList(folder.path());
+  ASSERT_EQ(terms.size(), 2U);
+  EXPECT_FALSE(terms[0].given);
+  EXPECT_EQ(terms[1].english, u"carbon sink");
+  EXPECT_EQ(terms[1].subject, Subject::kEconomy);
+  EXPECT_TRUE(terms[1].given);
+  support::writeFile(folder.file(u"given") / "carbon.csv", "");
+  EXPECT_THROW(dictionary::readTermList(folder.path()), dictionary::Failure);
+}
+
 TEST(TermList, RefusesAFileOfNoSubject) {
   const support::TempFolder folder;
   support::writeFile(folder.file(u"computers.csv"), "cloud,云\n");
@@ -103,9 +118,11 @@ TEST(OwnTermList, IsSortedAndHasNoPairTwice) {
   std::set<std::optional<Subject>> subjects;
   for (std::size_t i = 0; i < terms.size(); ++i) {
     subjects.insert(terms[i].subject);
-    if (i == 0 || terms[i - 1].subject != terms[i].subject) continue;
-    const int order = text::compare(terms[i - 1].english, terms[i].english);
-    EXPECT_TRUE(order < 0 || (order == 0 && terms[i - 1].chinese < terms[i].chinese))
+    if (i == 0) continue;
+    const Term& former = terms[i - 1];
+    if (former.subject != terms[i].subject || former.given != terms[i].given) continue;
+    const int order = text::compare(former.english, terms[i].english);
+    EXPECT_TRUE(order < 0 || (order == 0 && former.chinese < terms[i].chinese))
         << "line with " << testing::PrintToString(terms[i].english);
   }
   EXPECT_GE(subjects.size(), 17U);  // 16 subjects and the words of none
