@@ -159,11 +159,11 @@ void Builder::addSubjectRows(const ChineseEntry& entry) {
 void Builder::refuseMisplacedTerms() const {
   const std::vector<Term> misplaced = misplacedTerms(content_.vocabulary, further_);
   for (const Term& term : misplaced) {
-    log_ << "the list of terms " << (term.given ? "has as given" : "repeats") << " \""
+    log_ << (term.given ? "no source gives the term \"" : "a source gives the term \"")
          << text::toUtf8(term.english) << "\", " << text::toUtf8(term.chinese) << '\n';
   }
   if (!misplaced.empty()) {
-    throw Failure("a term that a source gives belongs into the folder \"given\", no other does");
+    throw Failure("the folder \"given\" of the list of terms is for those that a source gives");
   }
 }
 

@@ -77,6 +77,15 @@ bool isCommonChinese(std::u16string_view word, std::uint32_t rank) {
   return rank > 0 && rank <= (word.size() > 1 ? kCommonChineseRank : kCommonCharacterRank);
 }
 
+/// "GDP" beside "gross domestic product": readers meet the short form as often.
+bool isAbbreviation(std::u16string_view english) {
+  constexpr std::size_t kMaxLength = 6;
+  return english.size() >= 2 && english.size() <= kMaxLength &&
+         std::ranges::all_of(english, [](char16_t unit) {
+           return isDigit(unit) || (isAsciiLetter(unit) && unit != text::foldCase(unit));
+         });
+}
+
 /// The vocabulary while pairs are added.
 class Merger {
  public:
@@ -94,6 +103,8 @@ class Merger {
   void addTerms(const std::vector<Term>& terms);
   void addEntries(const std::vector<ChineseEntry>& entries, const WordRanks& ranks);
   void rateChineseHeadwords(const WordRanks& ranks);
+  void rateKnownEquivalents(const WordRanks& ranks);
+  void takeSmallLetters();
 
  private:
   using GlossSet = std::unordered_set<const Gloss*>;
@@ -103,6 +114,7 @@ class Merger {
   [[nodiscard]] bool isOfCommonWord(const std::u16string& chinese, std::uint32_t english);
   void addPair(const std::u16string& english, const std::u16string& chinese, Tier tier,
                std::size_t position);
+  void noteSpelling(std::uint32_t index, const std::u16string& english);
   void addEntry(const ChineseEntry& entry, bool common, const GlossSet& refused);
   [[nodiscard]] GlossSet tooMany(const std::vector<ChineseEntry>& entries, const WordRanks& ranks);
 
@@ -112,6 +124,8 @@ class Merger {
   std::size_t sortedPairs_;
   std::vector<bool> important_;  ///< by English word: whether it has a sign of importance
   std::unordered_map<std::uint64_t, std::size_t> addedPairs_;
+  /// By English word with capitals: how the other sources spell it.
+  std::unordered_map<std::uint32_t, std::u16string> spellings_;
 };
 
 Pair* Merger::findPair(std::uint32_t english, std::uint32_t chinese) {
@@ -138,6 +152,7 @@ void Merger::addPair(const std::u16string& english, const std::u16string& chines
                      std::size_t position) {
   const std::uint32_t englishIndex = english_.findOrAdd(english);
   const std::uint32_t chineseIndex = chinese_.findOrAdd(chinese);
+  noteSpelling(englishIndex, english);
   if (Pair* pair = findPair(englishIndex, chineseIndex)) {
     pair->tier = std::min(pair->tier, tier);
     return;
@@ -145,6 +160,27 @@ void Merger::addPair(const std::u16string& english, const std::u16string& chines
   addedPairs_.emplace(pairKey(englishIndex, chineseIndex), vocabulary_.pairs.size());
   vocabulary_.pairs.push_back({englishIndex, chineseIndex, tier,
                                static_cast<std::uint8_t>(std::min(position, Pair::kMaxPosition))});
+}
+
+std::size_t capitalsOf(const std::u16string& text) {
+  return static_cast<std::size_t>(
+      std::ranges::count_if(text, [](char16_t unit) { return unit >= u'A' && unit <= u'Z'; }));
+}
+
+/// The English source spells some words as titles or in capitals only: "CORE", "Based On". A
+/// spelling that another source confirms stays: "AIDS", "Polish".
+void Merger::noteSpelling(std::uint32_t index, const std::u16string& english) {
+  const std::u16string& known = vocabulary_.english[index];
+  if (english.size() != known.size() || capitalsOf(known) == 0) return;
+  std::u16string& spelling = spellings_.try_emplace(index, english).first->second;
+  if (capitalsOf(english) > capitalsOf(spelling)) spelling = english;
+}
+
+void Merger::takeSmallLetters() {
+  for (const auto& [index, spelling] : spellings_) {
+    std::u16string& word = vocabulary_.english[index];
+    if (capitalsOf(spelling) < capitalsOf(word)) word = spelling;
+  }
 }
 
 /// Whether the text is an abbreviation that reads as a common word or as a form of one: "IT",
@@ -211,7 +247,8 @@ void Merger::addEntry(const ChineseEntry& entry, bool common, const GlossSet& re
   std::size_t taken = 0;
   for (const Gloss& gloss : entry.glosses) {
     if (!isEquivalent(gloss) || refused.contains(&gloss)) continue;
-    addPair(gloss.english, entry.word, taken == 0 ? first : further, kFirstGlossPosition + taken);
+    const bool worthFirst = taken == 0 || isAbbreviation(gloss.english);
+    addPair(gloss.english, entry.word, worthFirst ? first : further, kFirstGlossPosition + taken);
     if (++taken == kMaxGlosses) return;
   }
   if (taken > 0 || known) return;
@@ -250,6 +287,28 @@ void Merger::rateChineseHeadwords(const WordRanks& ranks) {
   }
 }
 
+/// The first known word among the further equivalents from lines of subjects is worth a row if no
+/// better pair of the English headword has one: 随机变量 beside 随机变数. A list of frequencies has
+/// the word that writers use, not the one that only translators do.
+void Merger::rateKnownEquivalents(const WordRanks& ranks) {
+  std::vector<Pair*> first(vocabulary_.english.size());
+  std::vector<bool> served(vocabulary_.english.size());
+  for (Pair& pair : vocabulary_.pairs) {
+    if (pair.tier > Tier::kOfSubject || rankOf(ranks, vocabulary_.chinese[pair.chinese]) == 0) {
+      continue;
+    }
+    if (pair.tier != Tier::kOfSubject) {
+      served[pair.english] = true;
+      continue;
+    }
+    Pair*& known = first[pair.english];
+    if (known == nullptr || pair.position < known->position) known = &pair;
+  }
+  for (std::size_t i = 0; i < first.size(); ++i) {
+    if (first[i] != nullptr && !served[i]) first[i]->tier = Tier::kKnownOfSubject;
+  }
+}
+
 }  // namespace
 
 Vocabulary addChineseSide(Vocabulary vocabulary, const ChineseSources& sources) {
@@ -257,6 +316,8 @@ Vocabulary addChineseSide(Vocabulary vocabulary, const ChineseSources& sources) 
   merger.addTerms(sources.terms);
   merger.addEntries(sources.entries, sources.ranks);
   merger.rateChineseHeadwords(sources.ranks);
+  merger.rateKnownEquivalents(sources.ranks);
+  merger.takeSmallLetters();
   sortVocabulary(vocabulary);
   return vocabulary;
 }

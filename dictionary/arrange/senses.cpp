@@ -91,6 +91,7 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
         if (known != candidates.end()) {
           // "n. 使用, 习惯\nvt. 使用, 利用": a noun's equivalent and a verb's.
           known->sense.parts = static_cast<PartOfSpeechSet>(known->sense.parts | line.parts);
+          known->sense.subject = known->sense.subject || piece.subjects != 0;
           if (known->line != i) known->repeated = std::min(known->repeated, place);
           // "gap | n. 缝隙, 通用汇编程序\n[计] 通用汇编程序"
           if (isExpansion(entry, line, piece)) known->program = true;
@@ -100,7 +101,7 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
         ++place;
         const bool reference = inflectionIn(word).has_value();
         const bool title = piece.noted.starts_with(u'《');
-        candidates.push_back({{&word, kind, line.parts, reference, title},
+        candidates.push_back({{&word, kind, line.parts, reference, title, piece.subjects != 0},
                               i,
                               piece.subjects != 0,
                               piece.slang,

@@ -21,6 +21,7 @@ struct Sense {
   PartOfSpeechSet parts = 0;  ///< of all lines that hold it
   bool reference = false;     ///< names the form of another word: "take的过去分词"
   bool title = false;         ///< the title of a work: "《工具论》"
+  bool subject = false;       ///< from the line of a subject, or from one as well
 };
 
 /// Up to this rank by frequency a word is common. The words up to it make up most of running text;

@@ -94,7 +94,8 @@ Tier tierOf(const Entry& entry, bool form, const Sense& sense, bool only, std::s
   if (sense.kind == SenseKind::kName) return first && only ? Tier::kOnly : Tier::kName;
   if (sense.title) return Tier::kFirst;  // readers look titles up, which have no other entry
   if (first) return isPhrase(entry.headword) ? Tier::kFirstOfPhrase : Tier::kFirst;
-  return form ? Tier::kInflected : Tier::kOrdinary;
+  if (form) return Tier::kInflected;
+  return sense.subject ? Tier::kOfSubject : Tier::kOrdinary;
 }
 
 std::uint32_t PairList::addHeadword(const std::u16string& word, std::uint32_t rank,

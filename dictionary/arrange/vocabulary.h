@@ -31,10 +31,13 @@ namespace dictionary {
 ///    names ("詹姆斯（姓氏, 男子名）"); and the second and third gloss of common Chinese words.
 /// 3. Then one row for every other word that has an ordinary equivalent: a reader who meets the
 ///    word is helped by the first meaning far more than by a fifth one of another rare word. The
-///    same for every Chinese word that a dictionary or a list of frequencies has; after these for
-///    English phrases, at which nobody can point, and last for Chinese texts that are equivalents
-///    of the English source only, and mostly phrases.
-/// 4. Then further equivalents of these words, and after them those of their forms.
+///    same for every Chinese word that a dictionary or a list of frequencies has, and for an
+///    abbreviation that a dictionary gives beside its long form; after these for English phrases,
+///    at which nobody can point. Then a term whose equivalents with a row are no known Chinese
+///    words has the first that is one: "random variable | [计] 随机变数, 随机变量". Last come
+///    Chinese texts that are equivalents of the English source only, and mostly phrases.
+/// 4. Then further equivalents of these words, those of subjects first, and after them those of
+///    their forms.
 /// 5. Last names and equivalents from the web: the first one of a word that has nothing else and no
 ///    sign of importance, then those of any word beside its ordinary equivalents, and all further
 ///    ones. There is room for few of these.
@@ -43,7 +46,9 @@ enum class Tier : std::uint8_t {
   kImportant,       ///< further equivalent of an important word, of the same kind, or a name
   kFirst,           ///< first ordinary equivalent of another word; first pair of a Chinese word
   kFirstOfPhrase,   ///< first ordinary equivalent of several words
+  kKnownOfSubject,  ///< further equivalent of a subject, the first that is a known Chinese word
   kFirstOfChinese,  ///< first pair of another Chinese headword
+  kOfSubject,       ///< further ordinary equivalent of another word, from the line of a subject
   kOrdinary,        ///< further ordinary equivalent of another word
   kInflected,       ///< further equivalent, its own or taken over, of another word that is a form
   kOnly,            ///< first equivalent of another word that has only names or web equivalents
@@ -52,7 +57,7 @@ enum class Tier : std::uint8_t {
   kWeb,             ///< any other web equivalent
 };
 
-inline constexpr std::size_t kTierCount = 11;
+inline constexpr std::size_t kTierCount = 13;
 
 /// An English headword and a Chinese equivalent, as indexes into the vocabulary's lists.
 struct Pair {

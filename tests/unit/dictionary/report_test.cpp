@@ -91,22 +91,25 @@ const std::vector<bool> kChosen = {true, true, true, true, false, false};
 TEST(BuildReport, CountsThePairsBeforeAndAfterTheChoice) {
   BuildReport report;
   report.addContent(content(), kChosen);
-  EXPECT_EQ(part(report, "General dictionary:"),
-            "General dictionary:\n"
-            "          6  pairs of 3 English and 5 Chinese headwords gathered\n"
-            "          4  pairs of 2 English and 3 Chinese headwords taken\n"
-            "          0  of 1 left out: important words, first equivalent\n"
-            "          0  of 1 left out: important words, further equivalents\n"
-            "          1  of 1 left out: other words, first equivalent\n"
-            "          0  of 0 left out: several words, first equivalent\n"
-            "          0  of 0 left out: other Chinese headwords, first row\n"
-            "          0  of 0 left out: other words, further equivalents\n"
-            "          0  of 0 left out: forms of other words, further equivalents\n"
-            "          0  of 0 left out: first equivalent of words that have only names or web "
-            "equivalents\n"
-            "          0  of 0 left out: first web equivalent of other words\n"
-            "          0  of 0 left out: further names\n"
-            "          1  of 3 left out: further web equivalents\n");
+  EXPECT_EQ(
+      part(report, "General dictionary:"),
+      "General dictionary:\n"
+      "          6  pairs of 3 English and 5 Chinese headwords gathered\n"
+      "          4  pairs of 2 English and 3 Chinese headwords taken\n"
+      "          0  of 1 left out: important words, first equivalent\n"
+      "          0  of 1 left out: important words, further equivalents\n"
+      "          1  of 1 left out: other words, first equivalent\n"
+      "          0  of 0 left out: several words, first equivalent\n"
+      "          0  of 0 left out: other words, equivalent of a subject that is a known word\n"
+      "          0  of 0 left out: other Chinese headwords, first row\n"
+      "          0  of 0 left out: other words, further equivalents of subjects\n"
+      "          0  of 0 left out: other words, further equivalents\n"
+      "          0  of 0 left out: forms of other words, further equivalents\n"
+      "          0  of 0 left out: first equivalent of words that have only names or web "
+      "equivalents\n"
+      "          0  of 0 left out: first web equivalent of other words\n"
+      "          0  of 0 left out: further names\n"
+      "          1  of 3 left out: further web equivalents\n");
 }
 
 TEST(BuildReport, CountsTheRowsOfSubjects) {

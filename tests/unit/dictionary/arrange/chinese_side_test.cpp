@@ -101,6 +101,54 @@ TEST(ChineseSide, RatesTheFirstRowOfEveryChineseHeadword) {
   EXPECT_EQ(tierOfPair(vocabulary, u"Rally", u"拉力赛"), Tier::kWeb);
 }
 
+// Writers use 随机变量, which a list of frequencies has; the source gives it second.
+TEST(ChineseSide, RatesTheFirstKnownEquivalentOfASubject) {
+  const auto tierOfVariable = [](const char* lines, const dictionary::WordRanks& ranks) {
+    return tierOfPair(
+        addChineseSide(collect({entry("random variable", lines), entry("variate", "n. 随机变量")}),
+                       {{}, {}, ranks}),
+        u"random variable", u"随机变量");
+  };
+  const dictionary::WordRanks ranks = {{u"随机变量", 90'000}};
+  const char* const lines = "[计] 随机变数, 机变数, 随机变量";
+  EXPECT_EQ(tierOfVariable(lines, ranks), Tier::kKnownOfSubject);
+  EXPECT_EQ(tierOfVariable("n. 随机变数\\n[计] 随机变量\\n[化] 随机变量", ranks),
+            Tier::kKnownOfSubject);
+  EXPECT_EQ(tierOfVariable(lines, {}), Tier::kOfSubject);
+  EXPECT_EQ(tierOfVariable("n. 随机变数, 随机变量", ranks), Tier::kOrdinary);
+  EXPECT_EQ(tierOfVariable(lines, {{u"随机变量", 90'000}, {u"随机变数", 90'001}}),
+            Tier::kOfSubject);
+  EXPECT_EQ(
+      tierOfVariable("[计] 随机变数, 机变数, 随机变量", {{u"机变数", 90'000}, {u"随机变量", 1}}),
+      Tier::kOfSubject);
+}
+
+TEST(ChineseSide, SpellsAWordWithTheCapitalsThatBothSourcesGive) {
+  const Vocabulary vocabulary = addChineseSide(
+      collect({entry("CORE", "n. 核心"), entry("Based On", "根据"), entry("AIDS", "n. 爱滋病"),
+               entry("Polish", "n. 磨光"), entry("gin", "n. 杜松子酒"), entry("OLDIE", "n. 老歌")}),
+      {{chinese(u"核", {u"core"}), chinese(u"按", {u"based on"}),
+        chinese(u"艾滋病", {u"AIDS", u"aids"}), chinese(u"上光", {u"polish"}),
+        chinese(u"波兰的", {u"Polish"}), chinese(u"京族", {u"Gin"})},
+       {},
+       {}});
+  EXPECT_EQ(vocabulary.english, (std::vector<std::u16string>{u"AIDS", u"based on", u"core", u"gin",
+                                                             u"OLDIE", u"Polish"}));
+}
+
+TEST(ChineseSide, RatesAnAbbreviationAsItsLongForm) {
+  const Vocabulary vocabulary =
+      addChineseSide({}, {{chinese(u"国内生产总值", {u"gross domestic product", u"GDP"})}, {}, {}});
+  EXPECT_EQ(tierOfPair(vocabulary, u"GDP", u"国内生产总值"), Tier::kFirst);
+  const Vocabulary other = addChineseSide(
+      {}, {{chinese(u"总值", {u"total", u"Gdp", u"G"}), chinese(u"值", {u"value", u"GDPGDPG"})},
+           {},
+           {}});
+  EXPECT_EQ(tierOfPair(other, u"Gdp", u"总值"), Tier::kOrdinary);
+  EXPECT_EQ(tierOfPair(other, u"G", u"总值"), Tier::kOrdinary);
+  EXPECT_EQ(tierOfPair(other, u"GDPGDPG", u"值"), Tier::kOrdinary);
+}
+
 TEST(ChineseSide, GivesEveryTermARow) {
   const Vocabulary vocabulary = addChineseSide(
       collect({entry("cloud", "n. 云, 阴影")}),
