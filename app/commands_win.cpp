@@ -49,7 +49,7 @@ constinit const Command kCapture{u"鼠标取词", {}, 0, nullptr};
 // Deliberate: the menu and the tool tip call it by different names.
 constinit const Command kDictSettings{u"字典设置", u"查询设置", IDI_DICT_SETTINGS,
                                       show<frmdictSetting>};
-constinit const Command kHelp{u"帮助", {}, IDI_HELP_PAGE, showHelp};
+constinit const Command kHelp{u"帮助", u"帮助", IDI_HELP_PAGE, showHelp};
 constinit const Command kAbout{u"关于", {}, 0, show<frmAbout>};
 constinit const Command kHomePage{u"访问我们的网站", {}, 0, openHomePage};
 // Deliberate: no form is unloaded and no connection closed first.

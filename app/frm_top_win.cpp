@@ -37,6 +37,8 @@ frmTop::frmTop() : Form(design()) {
   cmdMain.setToolTip(std::u16string(app::kQuickLookup.toolTip));
   cmdSub.setToolTip(std::u16string(app::kMultiQuery.toolTip));
   cmdDictSetting.setToolTip(std::u16string(app::kDictSettings.toolTip));
+  cmdHelp.setToolTip(std::u16string(app::kHelp.toolTip));
+  Command1.setToolTip(u"菜单");
   cmdMain.onClick = [this] { cmdMain_Click(); };
   cmdSub.onClick = [this] { cmdSub_Click(); };
   cmdDictSetting.onClick = [this] { cmdDictSetting_Click(); };

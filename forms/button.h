@@ -12,7 +12,7 @@ class Button : public Widget {
   Button(WidgetHost& form, const std::u16string& caption, const WidgetBox& box);
   Button(WidgetHost& form, const Picture& picture, const WidgetBox& box);
 
-  /// Shows `picture`; the button's name for screen readers is its tool tip.
+  /// Shows `picture`; the button's name for screen readers is its tool tip (Widget::setToolTip).
   void setPicture(const Picture& picture);
   [[nodiscard]] const Picture& picture() const { return picture_; }
 

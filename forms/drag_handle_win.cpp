@@ -1,10 +1,12 @@
 #include "forms/drag_handle.h"
 
 #include "forms/geometry.h"
+#include "forms/placement.h"
 
-// STATIC draws nothing here: WM_PAINT is handled. Every button captures the mouse while it is down,
-// so that the release comes here wherever the pointer is; WM_CAPTURECHANGED, also from another
-// window that takes the mouse, ends the drag.
+// STATIC draws nothing here: WM_PAINT is handled, and a new text, which STATIC draws at once and
+// without WM_PAINT, is set while drawing is switched off by WM_SETREDRAW. Every button captures the
+// mouse while it is down, so that the release comes here wherever the pointer is;
+// WM_CAPTURECHANGED, also from another window that takes the mouse, ends the drag.
 namespace forms {
 namespace {
 
@@ -41,6 +43,10 @@ LRESULT DragHandle::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_PAINT:
       paint();
       return 0;
+    case WM_SETTEXT: {
+      const ScopedRepaintHold hold(*this);
+      return Widget::handleMessage(message, wParam, lParam);
+    }
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:

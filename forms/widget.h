@@ -102,7 +102,8 @@ class Widget : public FocusTarget {
   void setFocus();
   /// Throws std::runtime_error if the font cannot be created; the old one is kept then.
   void setFont(Font font);
-  /// Sets the tool tip; for a control without a text it becomes the accessible name too.
+  /// Sets the tool tip. A control without a text of its own takes it as its text, which screen
+  /// readers read as the control's name; the text changes and goes with the tool tip.
   void setToolTip(const std::u16string& text);
   [[nodiscard]] const std::u16string& toolTip() const { return toolTip_; }
 

@@ -242,9 +242,10 @@ void Widget::setFont(Font font) {
 
 void Widget::setToolTip(const std::u16string& text) {
   if (toolTip_ == text) return;
+  // A button with a picture has no text of its own; what it then has is the tool tip before.
+  const bool isName = windowText(handle_) == toolTip_;
   toolTip_ = text;
-  // A button with a picture has no text; screen readers use this one.
-  if (GetWindowTextLengthW(handle_) == 0) SetWindowTextW(handle_, win32::wide(text));
+  if (isName) SetWindowTextW(handle_, win32::wide(toolTip_));
   form_.setToolTip(*this, toolTip_);
 }
 

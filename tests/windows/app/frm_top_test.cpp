@@ -16,6 +16,21 @@ TEST_F(FrmTop, SaysWhatItsButtonsDo) {
   EXPECT_EQ(form.cmdSub.toolTip(), u"多功能查询");
   EXPECT_EQ(form.cmdDictSetting.toolTip(), u"查询设置");
   EXPECT_EQ(form.cmdMouse.toolTip(), u"允许鼠标取词");
+  EXPECT_EQ(form.cmdHelp.toolTip(), u"帮助");
+  EXPECT_EQ(form.Command1.toolTip(), u"菜单");
+}
+
+TEST_F(FrmTop, ScreenReadersReadWhatItsButtonsSay) {
+  frmTop& form = start();
+  for (const forms::Button* button : {&form.cmdMain, &form.cmdSub, &form.cmdDictSetting,
+                                      &form.cmdMouse, &form.cmdHelp, &form.Command1}) {
+    EXPECT_FALSE(button->toolTip().empty());
+    EXPECT_EQ(forms::windowText(button->handle()), button->toolTip());
+  }
+  for (const char16_t* state : {u"禁止鼠标取词", u"允许鼠标取词"}) {
+    click(form.cmdMouse);
+    EXPECT_TRUE(eventually([&] { return forms::windowText(form.cmdMouse.handle()) == state; }));
+  }
 }
 
 TEST_F(FrmTop, EveryButtonHasAPictureAndTheTwoThatHoldOneAreHidden) {

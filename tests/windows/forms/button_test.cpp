@@ -60,6 +60,21 @@ TEST_F(ButtonTest, TheClickComesAfterTheEventsOfTheFocus) {
   EXPECT_EQ(events(), (Events{"A.first.LostFocus", "click"}));
 }
 
+TEST_F(ButtonTest, ItsNameFollowsTheToolTip) {
+  auto& form = opened<ButtonForm>();
+  for (const char16_t* tip : {u"允许鼠标取词", u"禁止鼠标取词", u"", u"帮助"}) {
+    form.pictured.setToolTip(tip);
+    EXPECT_EQ(forms::windowText(form.pictured.handle()), tip);
+  }
+}
+
+TEST_F(ButtonTest, ACaptionStaysItsNameWhateverTheToolTip) {
+  auto& form = opened<ButtonForm>();
+  form.plain.setToolTip(u"普通查询");
+  form.plain.setToolTip(u"高级搜索");
+  EXPECT_EQ(forms::windowText(form.plain.handle()), u"退出");
+}
+
 TEST_F(ButtonTest, PicturesAreEqualByIdentity) {
   const forms::Picture one(IDI_CAPTURE_ON);
   const forms::Picture sameDrawing(IDI_CAPTURE_ON);

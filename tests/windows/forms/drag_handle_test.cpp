@@ -34,6 +34,20 @@ class SplitForm : public FormA {
   }
 };
 
+/// Whether the pixels of a control, but for an edge of one pixel, are of one colour now.
+bool isPlain(const forms::Widget& widget) {
+  RECT client{};
+  GetClientRect(widget.handle(), &client);
+  HDC dc = GetDC(widget.handle());
+  const COLORREF colour = GetPixel(dc, 1, 1);
+  bool plain = colour != CLR_INVALID;
+  for (int y = 1; plain && y < client.bottom - 1; ++y) {
+    for (int x = 1; plain && x < client.right - 1; ++x) plain = GetPixel(dc, x, y) == colour;
+  }
+  ReleaseDC(widget.handle(), dc);
+  return plain;
+}
+
 class DragHandleTest : public WindowTest {
  protected:
   static SplitForm& form() { return forms::form<SplitForm>(); }
@@ -121,6 +135,21 @@ TEST_F(DragHandleTest, LosingTheMouseEndsTheDragWithoutADrop) {
   passTime(30);
   EXPECT_EQ(form().drops, std::vector<std::string>{});
   EXPECT_EQ(form().ended, 1);
+}
+
+TEST_F(DragHandleTest, AToolTipBecomesItsNameAndIsNotDrawn) {
+  opened<SplitForm>();
+  forms::DragHandle& splitter = form().splitter;
+  splitter.move({30, 15, 1500, 270});  // room for letters, beside the boxes
+  forms::doEvents();
+  UpdateWindow(splitter.handle());
+  ASSERT_TRUE(isPlain(splitter));
+  splitter.setToolTip(u"拖动以调解窗体宽度");
+  // Before any message is handled: the next WM_PAINT would draw over the letters.
+  EXPECT_TRUE(isPlain(splitter));
+  EXPECT_EQ(forms::windowText(splitter.handle()), u"拖动以调解窗体宽度");
+  forms::doEvents();
+  EXPECT_TRUE(isPlain(splitter));
 }
 
 TEST_F(DragHandleTest, ALineTakesHoldAFewPixelsBesideItself) {
