@@ -60,6 +60,35 @@ std::optional<PixelBox> placeBeside(const PixelBox& wanted, const PixelBox& work
   return best;
 }
 
+PixelBox placeAtBar(const PixelBox& window, const PixelBox& bar, const PixelBox& work) {
+  const bool roomBelow = bar.bottom + window.height() <= work.bottom;
+  const bool roomAbove = bar.top - window.height() >= work.top;
+  const int top = roomBelow || !roomAbove ? bar.bottom : bar.top - window.height();
+  return movedTo(window, std::max(std::min(bar.left, work.right - window.width()), work.left),
+                 std::max(std::min(top, work.bottom - window.height()), work.top));
+}
+
+PixelBox withTitleBarOn(const PixelBox& window, const PixelBox& work, int titleHeight) {
+  const int shown = std::min(3 * titleHeight, window.width());
+  const int left =
+      std::max(std::min(window.left, work.right - shown), work.left + shown - window.width());
+  const int top = std::max(std::min(window.top, work.bottom - titleHeight), work.top);
+  return movedTo(window, left, top);
+}
+
+PixelBox resizedAtDraggedSide(const PixelBox& dragged, int width, int height, bool byLeft,
+                              bool byTop) {
+  PixelBox box = dragged;
+  (byLeft ? box.left : box.right) = byLeft ? box.right - width : box.left + width;
+  (byTop ? box.top : box.bottom) = byTop ? box.bottom - height : box.top + height;
+  return box;
+}
+
+int distanceOutside(int x, int left, int right) {
+  if (x < left) return x - left;
+  return std::max(x - (right - 1), 0);
+}
+
 Raise raised(std::span<const std::optional<Rank>> stack, std::optional<std::size_t> self,
              Rank rank) {
   const auto isHigher = [&](const std::optional<Rank>& other) { return other && *other > rank; };

@@ -32,6 +32,25 @@ PixelBox centred(const PixelBox& window, const PixelBox& over, const PixelBox& w
 std::optional<PixelBox> placeBeside(const PixelBox& wanted, const PixelBox& work,
                                     std::span<const PixelBox> obstacles);
 
+/// Returns the place of a box of the size of `window` just below `bar`, at its left edge; just
+/// above it where there is no room below. It is moved into `work` as far as it is too far right or
+/// down; its top left corner is in `work` in any case.
+PixelBox placeAtBar(const PixelBox& window, const PixelBox& bar, const PixelBox& work);
+
+/// Returns `window`, moved no more than it takes to have its title bar, `titleHeight` pixels high,
+/// within `work`: in full height, and in width at least three times its height.
+PixelBox withTitleBarOn(const PixelBox& window, const PixelBox& work, int titleHeight);
+
+/// Returns the place of a window whose frame is dragged, with another size: of `dragged` the left
+/// side moves if it is the left that is dragged (`byLeft`), otherwise the right one; likewise the
+/// upper or the lower one.
+PixelBox resizedAtDraggedSide(const PixelBox& dragged, int width, int height, bool byLeft,
+                              bool byTop);
+
+/// Returns how far `x` lies outside of the pixels from `left` to before `right`: negative to the
+/// left of them, positive to the right, 0 on them.
+int distanceOutside(int x, int left, int right);
+
 /// The order of our topmost windows, from the lowest to the highest.
 enum class Rank {
   kFloating,  ///< below all others of ours

@@ -9,12 +9,16 @@
 namespace {
 
 using forms::centred;
+using forms::distanceOutside;
 using forms::meet;
 using forms::PixelBox;
+using forms::placeAtBar;
 using forms::placeBeside;
 using forms::Raise;
 using forms::raised;
 using forms::Rank;
+using forms::resizedAtDraggedSide;
+using forms::withTitleBarOn;
 
 constexpr PixelBox kWork{0, 0, 1280, 1024};
 
@@ -37,6 +41,73 @@ TEST(Centred, StaysInsideTheWorkArea) {
 
 TEST(Centred, IsNoLargerThanTheWorkArea) {
   EXPECT_EQ(centred({0, 0, 3000, 200}, kWork, kWork), (PixelBox{0, 412, 1280, 612}));
+}
+
+TEST(PlaceAtBar, IsJustBelowAtTheBarsLeftEdge) {
+  EXPECT_EQ(placeAtBar({7, 9, 207, 109}, {300, 25, 455, 50}, kWork), (PixelBox{300, 50, 500, 150}));
+}
+
+TEST(PlaceAtBar, IsMovedToTheLeftAtTheRightEdge) {
+  EXPECT_EQ(placeAtBar({0, 0, 200, 100}, {1200, 25, 1355, 50}, kWork),
+            (PixelBox{1080, 50, 1280, 150}));
+}
+
+TEST(PlaceAtBar, IsJustAboveWhereThereIsNoRoomBelow) {
+  EXPECT_EQ(placeAtBar({0, 0, 200, 100}, {300, 950, 455, 975}, kWork),
+            (PixelBox{300, 850, 500, 950}));
+}
+
+TEST(PlaceAtBar, LiesInTheWorkAreaWhereThereIsRoomOnNeitherSide) {
+  constexpr PixelBox kLow{0, 0, 1280, 130};
+  EXPECT_EQ(placeAtBar({0, 0, 200, 100}, {300, 50, 455, 75}, kLow), (PixelBox{300, 30, 500, 130}));
+}
+
+TEST(PlaceAtBar, LeftOfAndAboveThePrimaryMonitorAsWell) {
+  constexpr PixelBox kOther{-1920, -1080, 0, -40};
+  EXPECT_EQ(placeAtBar({0, 0, 200, 100}, {-2000, -1090, -1845, -1065}, kOther),
+            (PixelBox{-1920, -1065, -1720, -965}));
+  EXPECT_EQ(placeAtBar({0, 0, 200, 100}, {-100, -60, 55, -35}, kOther),
+            (PixelBox{-200, -160, 0, -60}));
+}
+
+TEST(PlaceAtBar, WhatIsLargerThanTheWorkAreaBeginsInItsCorner) {
+  EXPECT_EQ(placeAtBar({0, 0, 2184, 2000}, {300, 25, 455, 50}, kWork),
+            (PixelBox{0, 0, 2184, 2000}));
+}
+
+TEST(WithTitleBarOn, LeavesAWindowWhereItsTitleBarCanBeTaken) {
+  for (const PixelBox& box : {PixelBox{0, 0, 200, 100},
+                              {1190, 994, 1390, 1094},
+                              {-110, 500, 90, 600},
+                              {-50, 0, 1500, 1200}}) {
+    EXPECT_EQ(withTitleBarOn(box, kWork, 30), box);
+  }
+}
+
+TEST(WithTitleBarOn, MovesItNoFartherThanThat) {
+  EXPECT_EQ(withTitleBarOn({2000, 1500, 2200, 1600}, kWork, 30), (PixelBox{1190, 994, 1390, 1094}));
+  EXPECT_EQ(withTitleBarOn({-500, -500, -300, -400}, kWork, 30), (PixelBox{-110, 0, 90, 100}));
+}
+
+TEST(WithTitleBarOn, ANarrowWindowIsSeenInItsWholeWidth) {
+  EXPECT_EQ(withTitleBarOn({1270, 10, 1310, 60}, kWork, 30), (PixelBox{1240, 10, 1280, 60}));
+}
+
+TEST(ResizedAtDraggedSide, MovesTheDraggedSidesOnly) {
+  constexpr PixelBox kDragged{100, 200, 150, 260};
+  EXPECT_EQ(resizedAtDraggedSide(kDragged, 233, 190, false, false), (PixelBox{100, 200, 333, 390}));
+  EXPECT_EQ(resizedAtDraggedSide(kDragged, 233, 190, true, false), (PixelBox{-83, 200, 150, 390}));
+  EXPECT_EQ(resizedAtDraggedSide(kDragged, 233, 190, false, true), (PixelBox{100, 70, 333, 260}));
+  EXPECT_EQ(resizedAtDraggedSide(kDragged, 233, 190, true, true), (PixelBox{-83, 70, 150, 260}));
+}
+
+TEST(DistanceOutside, IsCountedFromTheNearestPixel) {
+  EXPECT_EQ(distanceOutside(97, 100, 102), -3);
+  EXPECT_EQ(distanceOutside(99, 100, 102), -1);
+  EXPECT_EQ(distanceOutside(100, 100, 102), 0);
+  EXPECT_EQ(distanceOutside(101, 100, 102), 0);
+  EXPECT_EQ(distanceOutside(102, 100, 102), 1);
+  EXPECT_EQ(distanceOutside(104, 100, 102), 3);
 }
 
 TEST(PlaceBeside, IsTheWantedPlaceWhereThatIsFree) {
