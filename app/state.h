@@ -4,6 +4,7 @@
 #include <string>
 
 #include "data/index_words.h"
+#include "forms/placement.h"
 
 /// What all windows share. Set at start-up; to be used on the user-interface thread only. Includes
 /// nothing but the types that it holds, since every window includes it.

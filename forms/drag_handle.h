@@ -17,7 +17,8 @@ class DragHandle : public Widget {
   DragHandle(WidgetHost& form, Look look, const WidgetBox& box);
 
   /// Makes the mouse take hold up to `twips` (form's DPI) left and right of the widget too: a
-  /// splitter's line is too thin to be hit.
+  /// splitter's line is too thin to be hit. A drag that begins there goes as if it had begun at the
+  /// widget's nearest pixel: follow and drop are by that distance beside the pointer.
   void setGrabMargin(int twips) { grabMargin_ = twips; }
   [[nodiscard]] bool grabs(POINT screen) const override;
 
@@ -46,6 +47,7 @@ class DragHandle : public Widget {
   int grabMargin_ = 0;
   bool dragged_ = false;
   POINT dragStart_{};
+  int besideLine_ = 0;  ///< pixels that the drag began right of the widget; negative: left of it
 };
 
 }  // namespace forms

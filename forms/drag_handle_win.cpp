@@ -98,6 +98,9 @@ void DragHandle::beginDrag() {
   // The place of the press (of the message that is handled), not of the pointer by now.
   const DWORD pressed = GetMessagePos();
   dragStart_ = {GET_X_LPARAM(pressed), GET_Y_LPARAM(pressed)};
+  RECT rect{};
+  GetWindowRect(handle(), &rect);
+  besideLine_ = distanceOutside(dragStart_.x, rect.left, rect.right);
   SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   InvalidateRect(handle(), nullptr, FALSE);
 }
@@ -108,8 +111,9 @@ void DragHandle::cancelDrag() {
   onDragEnded.raise();
 }
 
-// The left edge follows the pointer, without the offset of the press; y stays.
+// The left edge follows the pointer, without the offset of a press on the widget; y stays.
 void DragHandle::follow(POINT screen) {
+  screen.x -= besideLine_;
   ScreenToClient(form().handle(), &screen);
   SetWindowPos(handle(), nullptr, screen.x, toPixels(top(), form().dpi()), 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -118,6 +122,7 @@ void DragHandle::follow(POINT screen) {
 void DragHandle::drop(POINT screen) {
   // A press without a move is no drag, even one in the margin beside the line.
   const bool moved = screen.x != dragStart_.x || screen.y != dragStart_.y;
+  screen.x -= besideLine_;
   Widget* target = moved ? form().widgetAt(screen, this) : nullptr;
   if (target != nullptr) {
     RECT rect{};

@@ -146,10 +146,33 @@ TEST_F(FrmSubSplitter, CanBeTakenHoldOfBesideItsThinLine) {
   injected::moveTo({line.left - 2, target.y});
   injected::pressLeft();
   forms::doEvents();
-  injected::moveTo(target);
+  // As far from the target as it is taken hold of beside the line.
+  injected::moveTo({target.x - 2, target.y});
   forms::doEvents();
   injected::releaseLeft();
   EXPECT_TRUE(eventually([&] { return form.TreeView1.width() == 1770; }));
+}
+
+TEST_F(FrmSubSplitter, TheMarginInWhichItIsTakenIsNoPartOfTheDrop) {
+  // Wherever it is taken hold of, a move that leads one pixel left of the line drops it there.
+  for (const int beside : {-3, -1, 0, 3}) {
+    SCOPED_TRACE(beside);
+    frmSub& form = openWith(5000, 4000, L"2100");
+    const RECT line = rectOf(form.Image1.handle());
+    ASSERT_EQ(line.right - line.left, 1);
+    const LONG listLeft = rectOf(form.TreeView1.handle()).left;
+    const POINT press{line.left + beside, centreOf(line).y};
+    injected::moveTo(press);
+    forms::doEvents();
+    injected::pressLeft();
+    ASSERT_TRUE(eventually([&] { return form.Image1.isDragged(); }));
+    injected::moveTo({press.x - 1, press.y + 5});
+    passTime(20);
+    EXPECT_EQ(rectOf(form.Image1.handle()).left, line.left - 1);
+    injected::releaseLeft();
+    ASSERT_TRUE(eventually([&] { return !form.Image1.isDragged(); }));
+    EXPECT_EQ(form.TreeView1.width(), forms::toTwips(line.left - 1 - listLeft, 96) - 30);
+  }
 }
 
 TEST_F(FrmSubSplitter, AnyButtonDragsItAndOpensNoMenu) {
