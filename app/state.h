@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "data/index_words.h"
@@ -26,5 +27,8 @@ inline constexpr std::uint32_t kMeaningColor = 0x00FF0000;
 
 /// Whether the multi-dictionary window is open.
 inline bool MainOpen = false;
+
+/// Where the quick lookup window was when it was closed last; none before. Not kept between runs.
+inline std::optional<forms::PixelBox> QuickLookupPlace;
 
 }  // namespace user

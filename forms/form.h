@@ -77,8 +77,14 @@ class Form : public WidgetHost {
   [[nodiscard]] int top() const;
   /// Moves the form to that point, in the same twips.
   void setPosition(int left, int top);
-  /// The outer rectangle in screen pixels.
-  [[nodiscard]] PixelBox place() const;
+  /// The outer rectangle in screen pixels. While minimised, the one before.
+  [[nodiscard]] PixelBox place() const { return place_; }
+  /// Moves the form, which keeps its size in twips, just below the bar of ours that is shown: onto
+  /// its monitor, with its title bar on the work area. Does nothing while no bar is shown.
+  void placeAtBar();
+  /// Moves the form to where its top left corner is that of `place`, or as near to it as its title
+  /// bar is on a monitor. It keeps its size in twips.
+  void placeBackAt(const PixelBox& place);
   /// Puts the form into the middle of `other` so that all of it lies on the monitor's work area;
   /// one that is too large for that is made smaller.
   void centre(const Form& other);
@@ -112,6 +118,9 @@ class Form : public WidgetHost {
   virtual void Form_LostFocus() {}
   virtual void Form_Paint() {}
   virtual void Form_Unload() {}
+  /// Returns the outer size, in twips, that the form takes where the user drags its frame to
+  /// `wanted`. The side that is dragged goes where that size needs it.
+  [[nodiscard]] virtual SIZE sizeWhenDraggedTo(SIZE wanted) const { return wanted; }
   /// The form's own window procedure; override to see further messages.
   virtual LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -129,9 +138,14 @@ class Form : public WidgetHost {
   void command(WORD code, HWND control, WORD id) const;
   bool passToGrabber(UINT message, WPARAM wParam, LPARAM lParam) const;
   void limitTracking(MINMAXINFO& limits) const;
+  [[nodiscard]] bool correctSizing(WPARAM side, RECT& rect) const;
+  void endSession();
+  void moveTo(int left, int top);
   void setPlace(const PixelBox& place);
   /// Converts an outer size in twips to the real window's outer size in pixels.
   [[nodiscard]] SIZE outerPixels(int width, int height, int dpi) const;
+  /// The reverse: of a client size in pixels, at the form's DPI.
+  [[nodiscard]] SIZE outerTwipsOf(SIZE client) const;
 
   FormDesign design_;
   HWND lastFocus_ = nullptr;  // the control that had the focus when the form was deactivated
@@ -140,6 +154,7 @@ class Form : public WidgetHost {
   HCURSOR mousePointer_ = nullptr;
   int width_ = 0;
   int height_ = 0;
+  PixelBox place_;
   SIZE sizeSet_{};           // what setSize was last given, twips
   SIZE resizedFor_{-1, -1};  // client size of the last Form_Resize, pixels
   bool loaded_ = false;

@@ -76,6 +76,11 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       adjustPlacement(handle_, *reinterpret_cast<WINDOWPOS*>(lParam));
       break;
     case WM_WINDOWPOSCHANGED:
+      if (!isMinimised()) {
+        RECT rect{};
+        GetWindowRect(handle_, &rect);
+        place_ = {rect.left, rect.top, rect.right, rect.bottom};
+      }
       if (design_.floating && (reinterpret_cast<WINDOWPOS*>(lParam)->flags & SWP_NOZORDER) == 0) {
         raiseWhatIsAbove(handle_);
       }
@@ -85,6 +90,9 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_GETMINMAXINFO:
       limitTracking(*reinterpret_cast<MINMAXINFO*>(lParam));
       return 0;
+    case WM_SIZING:
+      if (correctSizing(wParam, *reinterpret_cast<RECT*>(lParam))) return TRUE;
+      break;
     case WM_DPICHANGED:
       rescale(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;

@@ -182,12 +182,18 @@ SIZE Form::outerPixels(int width, int height, int dpi) const {
           clientPixels(height, inDesign.cy, dpi) + real.cy};
 }
 
-void Form::takeClientSize() {
+SIZE Form::outerTwipsOf(SIZE client) const {
   const SIZE frame = designFrameOf(design_);
+  return {outerTwips(client.cx, frame.cx, dpi_, sizeSet_.cx, width_),
+          outerTwips(client.cy, frame.cy, dpi_, sizeSet_.cy, height_)};
+}
+
+void Form::takeClientSize() {
   RECT client{};
   GetClientRect(handle_, &client);
-  width_ = outerTwips(client.right, frame.cx, dpi_, sizeSet_.cx, width_);
-  height_ = outerTwips(client.bottom, frame.cy, dpi_, sizeSet_.cy, height_);
+  const SIZE size = outerTwipsOf({client.right, client.bottom});
+  width_ = size.cx;
+  height_ = size.cy;
 }
 
 // Limits what the user can do with the frame: setSize limits what code does.
@@ -228,10 +234,52 @@ void Form::setPosition(int left, int top) {
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-PixelBox Form::place() const {
-  RECT rect{};
-  GetWindowRect(handle_, &rect);
-  return toBox(rect);
+// Windows documents that the size and place are those of WM_SIZING's rectangle after the message.
+// Returns whether the rectangle was changed.
+bool Form::correctSizing(WPARAM side, RECT& rect) const {
+  const SIZE frame = win32::frameOf(styleOf(design_), exStyleOf(design_), dpi_);
+  SIZE pixels{rect.right - rect.left, rect.bottom - rect.top};
+  const SIZE wanted = outerTwipsOf({pixels.cx - frame.cx, pixels.cy - frame.cy});
+  const SIZE size = sizeWhenDraggedTo(wanted);
+  const SIZE corrected = outerPixels(size.cx, size.cy, dpi_);
+  if (size.cx != wanted.cx) pixels.cx = corrected.cx;
+  if (size.cy != wanted.cy) pixels.cy = corrected.cy;
+  const bool byLeft = side == WMSZ_LEFT || side == WMSZ_TOPLEFT || side == WMSZ_BOTTOMLEFT;
+  const bool byTop = side == WMSZ_TOP || side == WMSZ_TOPLEFT || side == WMSZ_TOPRIGHT;
+  const PixelBox box = resizedAtDraggedSide(toBox(rect), pixels.cx, pixels.cy, byLeft, byTop);
+  if (box == toBox(rect)) return false;
+  rect = {box.left, box.top, box.right, box.bottom};
+  return true;
+}
+
+// A hidden window may get no WM_DPICHANGED, but it has the DPI of the monitor that it is on.
+void Form::moveTo(int left, int top) {
+  SetWindowPos(handle_, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  const int dpi = static_cast<int>(GetDpiForWindow(handle_));
+  if (dpi != dpi_) rescale(dpi, {left, top, left, top});
+}
+
+// Both first move onto the monitor, whose DPI decides on the size in pixels.
+void Form::placeAtBar() {
+  const std::vector<PixelBox> bars = placesKeptOnTop(Rank::kBar, Rank::kBar);
+  if (bars.empty()) return;
+  const PixelBox bar = bars.front();
+  const PixelBox work = toBox(win32::monitorAt({bar.left, bar.top}).work);
+  moveTo(work.left, work.top);
+  const PixelBox place = forms::placeAtBar(place_, bar, work);
+  moveTo(place.left, place.top);
+}
+
+void Form::placeBackAt(const PixelBox& place) {
+  const POINT middle{(place.left + place.right) / 2, place.top};
+  const PixelBox work = toBox(win32::monitorAt(middle).work);
+  moveTo(work.left, work.top);
+  const int titleHeight = GetSystemMetricsForDpi(SM_CYCAPTION, static_cast<UINT>(dpi_)) +
+                          GetSystemMetricsForDpi(SM_CYSIZEFRAME, static_cast<UINT>(dpi_));
+  const PixelBox wanted{place.left, place.top, place.left + place_.width(),
+                        place.top + place_.height()};
+  const PixelBox found = withTitleBarOn(wanted, work, titleHeight);
+  moveTo(found.left, found.top);
 }
 
 void Form::setPlace(const PixelBox& place) {

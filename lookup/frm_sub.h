@@ -59,6 +59,7 @@ class frmSub : public forms::Form {
   void Form_Resize() override;
   void Form_Paint() override;
   void Form_Unload() override;
+  [[nodiscard]] SIZE sizeWhenDraggedTo(SIZE wanted) const override;
   void txtInput_Change();
   void txtInput_GotFocus();
   void txtInput_LostFocus();
@@ -74,6 +75,7 @@ class frmSub : public forms::Form {
 
   void wireMouse();
   void wireKeys();
+  void goToItsPlace();
   void readSizes();
   int readSize(const std::u16string& key, int fallback) const;
   void writeSizes() const;

@@ -106,7 +106,19 @@ void frmSub::Form_Load() {
   Adodc1.setConnectionString(user::ConnectionString);
   const std::u16string sql = makeStrSql(user::getEorC(kFirstWord), kFirstWord);
   Query(sql, Adodc1, TreeView1);
+  // In its design size, and again in the one that is read, if it can be.
+  goToItsPlace();
   readSizes();
+  goToItsPlace();
+}
+
+// The first time just below the toolbar, afterwards where it was when it was closed.
+void frmSub::goToItsPlace() {
+  if (user::QuickLookupPlace) {
+    placeBackAt(*user::QuickLookupPlace);
+  } else {
+    placeAtBar();
+  }
 }
 
 void frmSub::Form_Resize() {
@@ -118,6 +130,13 @@ void frmSub::Form_Resize() {
   txtInput.move({layout.inputLeft, txtInput.top(), layout.inputWidth, txtInput.height()});
   cmdExit.move({layout.exitLeft, cmdExit.top(), cmdExit.width(), cmdExit.height()});
   placeListAndPane();
+}
+
+// As Form_Resize snaps it afterwards. Without this the window would jump between the two sizes, and
+// away from the side that is dragged.
+SIZE frmSub::sizeWhenDraggedTo(SIZE wanted) const {
+  const lookup::Size size = lookup::snapSize({wanted.cx, wanted.cy});
+  return {size.width, size.height};
 }
 
 // Also after every drag, wherever it ended: the splitter that was dragged goes back to its place.
@@ -136,6 +155,7 @@ void frmSub::Form_Unload() {
   // Deliberate: whether or not the focus paused capture.
   ScreenWord::StartCapture();
   setMousePointer(nullptr);
+  user::QuickLookupPlace = place();
   writeSizes();
 }
 

@@ -19,6 +19,7 @@ class FrmSubTest : public WindowTest {
   FrmSubTest() {
     useDictionary();
     settings::clear();
+    user::QuickLookupPlace.reset();
   }
   ~FrmSubTest() override { settings::clear(); }
 

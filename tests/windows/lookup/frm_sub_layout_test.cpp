@@ -17,6 +17,12 @@ class FrmSubLayout : public FrmSubTest {
     EXPECT_EQ(pixels.bottom, forms::toPixels(expected.top + expected.height, 96));
   }
 
+  /// Outer size in pixels of the window at its least size.
+  static SIZE leastPixels() {
+    resize(sub(), 3500, 2800);
+    return sizeOf(rectOf(sub().handle()));
+  }
+
   static void expectLaidOut(int width, int height) {
     const frmSub& form = sub();
     const int list = form.TreeView1.width();
@@ -59,6 +65,47 @@ TEST_F(FrmSubLayout, TheUsersHandSnapsItToo) {
       },
       [] { return sub().width() == 3500 && sub().height() == 2800; }, kLastingWindow);
   expectLaidOut(3500, 2800);
+}
+
+TEST_F(FrmSubLayout, DraggedBelowItsThresholdsItGrowsAtTheDraggedSide) {
+  open();
+  const SIZE least = leastPixels();
+  const RECT tooSmall{400, 300, 500, 380};
+  const auto dragged = [&](WPARAM side) {
+    RECT rect = tooSmall;
+    EXPECT_TRUE(SendMessageW(sub().handle(), WM_SIZING, side, reinterpret_cast<LPARAM>(&rect)));
+    EXPECT_EQ(sizeOf(rect).cx, least.cx);
+    EXPECT_EQ(sizeOf(rect).cy, least.cy);
+    return rect;
+  };
+  for (const WPARAM side : {WMSZ_LEFT, WMSZ_TOPLEFT, WMSZ_BOTTOMLEFT}) {
+    EXPECT_EQ(dragged(side).right, tooSmall.right);
+  }
+  for (const WPARAM side : {WMSZ_RIGHT, WMSZ_TOPRIGHT, WMSZ_BOTTOMRIGHT}) {
+    EXPECT_EQ(dragged(side).left, tooSmall.left);
+  }
+  for (const WPARAM side : {WMSZ_TOP, WMSZ_TOPLEFT, WMSZ_TOPRIGHT}) {
+    EXPECT_EQ(dragged(side).bottom, tooSmall.bottom);
+  }
+  for (const WPARAM side : {WMSZ_BOTTOM, WMSZ_BOTTOMLEFT, WMSZ_BOTTOMRIGHT}) {
+    EXPECT_EQ(dragged(side).top, tooSmall.top);
+  }
+}
+
+TEST_F(FrmSubLayout, ADragChangesNothingAboveTheThresholds) {
+  open();
+  const SIZE least = leastPixels();
+  // 100 twips between a limit and the size that it leads to: 6 pixels are too few, 7 are enough.
+  for (const LONG more : {1L, 6L, 7L, 300L}) {
+    RECT rect{400, 300, 400 + least.cx + more, 300 + least.cy + 500};
+    SendMessageW(sub().handle(), WM_SIZING, WMSZ_RIGHT, reinterpret_cast<LPARAM>(&rect));
+    EXPECT_EQ(rect.right, 400 + least.cx + (more < 7 ? 0 : more));
+    EXPECT_EQ(rect.bottom, 300 + least.cy + 500);
+    // What the rectangle leads to is not snapped any more.
+    SetWindowPos(sub().handle(), nullptr, 0, 0, sizeOf(rect).cx, sizeOf(rect).cy,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    EXPECT_EQ(sizeOf(rectOf(sub().handle())).cx, sizeOf(rect).cx);
+  }
 }
 
 TEST_F(FrmSubLayout, ThePaneLiesInsideTheWindow) {
