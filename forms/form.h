@@ -162,4 +162,8 @@ class Form : public WidgetHost {
   bool unloading_ = false;
 };
 
+/// Sets what ends the program when Windows ends the session or has it closed to replace its files
+/// (WM_ENDSESSION). Null, as at first: each form unloads itself and the process goes on.
+void setSessionEndHandler(void (*endProgram)());
+
 }  // namespace forms

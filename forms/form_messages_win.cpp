@@ -7,6 +7,16 @@
 // The window procedure of all forms. Windows' notifications are turned into the form's events and
 // into calls of focus.h and stacking.h, which put in order what Windows sends in another one.
 namespace forms {
+namespace {
+
+void (*&sessionEndHandler())() {
+  static void (*endProgram)() = nullptr;
+  return endProgram;
+}
+
+}  // namespace
+
+void setSessionEndHandler(void (*endProgram)()) { sessionEndHandler() = endProgram; }
 
 // WM_NCCREATE is the first message that carries the form, WM_NCDESTROY the last message of all;
 // those before and after get the system's default.
@@ -137,12 +147,21 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_ENDSESSION:
       // The process may end as soon as this returns: what Form_Unload keeps is written now.
-      if (wParam != FALSE) unload();
+      if (wParam != FALSE) endSession();
       return 0;
     default:
       break;
   }
   return DefWindowProcW(handle_, message, wParam, lParam);
+}
+
+// The message comes to each of our windows; the handler, which ends the program, needs one.
+void Form::endSession() {
+  if (sessionEndHandler() != nullptr) {
+    sessionEndHandler()();
+  } else {
+    unload();
+  }
 }
 
 // Controls send their notifications from their own message handling, before the message loop has

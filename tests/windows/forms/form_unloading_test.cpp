@@ -71,6 +71,20 @@ TEST_F(FormUnloading, EndingTheSessionUnloadsEveryForm) {
   EXPECT_EQ(times("A.Unload"), 1);
 }
 
+TEST_F(FormUnloading, TheHandlerOfTheSessionsEndDecidesWhatIsUnloaded) {
+  static int ended = 0;
+  ended = 0;
+  forms::setSessionEndHandler([] { ++ended; });
+  const HWND window = opened<FormA>().handle();
+  EXPECT_TRUE(SendMessageW(window, WM_QUERYENDSESSION, 0, ENDSESSION_CLOSEAPP));
+  SendMessageW(window, WM_ENDSESSION, FALSE, ENDSESSION_CLOSEAPP);
+  EXPECT_EQ(ended, 0);
+  SendMessageW(window, WM_ENDSESSION, TRUE, ENDSESSION_CLOSEAPP);
+  forms::setSessionEndHandler(nullptr);
+  EXPECT_EQ(ended, 1);
+  EXPECT_TRUE(IsWindow(window));
+}
+
 TEST_F(FormUnloading, AnOwnersFormsAreUnloadedFirstAndOnce) {
   auto& owner = opened<FormA>();
   auto& owned = forms::form<FormB>();
