@@ -63,6 +63,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       } else if (HIWORD(wParam) == 0) {
         giveFocusBack();
         barsMayBeCovered(handle_);
+        postBarsToTop();
       }
       postFocusCheck();
       postStackingCheck();

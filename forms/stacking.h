@@ -34,6 +34,11 @@ void raiseWhatIsAbove(HWND window);
 /// updateStacking follows from the message loop.
 void postStackingCheck();
 
+/// Call when one of our windows was activated: the bars are brought to the top from the message
+/// loop. Another program's topmost window may have come above them, and a window that is uncovered
+/// is not painted where the desktop keeps the picture of each window.
+void postBarsToTop();
+
 /// Makes an ordinary window topmost while it, or a window that it owns, is active and a floating
 /// window would cover it. Makes it ordinary again afterwards, below the window of another program
 /// that is active by then.

@@ -317,6 +317,15 @@ void postStackingCheck() {
   });
 }
 
+void postBarsToTop() {
+  Dispatcher::instance().post([] {
+    // A copy: the messages that this sends may add and remove windows.
+    for (const auto& [bar, rank, raisedForNow] : std::vector(stackedWindows())) {
+      if (rank == Rank::kBar && isShown(bar)) bringToTop(bar);
+    }
+  });
+}
+
 void barsMayBeCovered(HWND window) {
   if (rankOf(window) != Rank::kFloating || !hasForeignWindowManager()) return;
   // Long enough for the window manager to act on the click.

@@ -1,5 +1,6 @@
 #include "tests/support/window/frm_top_test.h"
 #include "app/commands.h"
+#include "app/frm_about.h"
 #include "lookup/frm_sub.h"
 #include "tests/support/window/other_program.h"
 #include "tests/support/window/started_browser.h"
@@ -66,6 +67,22 @@ TEST_F(FrmTop, StaysAboveOtherWindowsWithEveryPaintAndTakesNoFocus) {
   RedrawWindow(form.handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
   EXPECT_TRUE(eventually([&] { return isAbove(form.handle(), other.window()); }));
   EXPECT_TRUE(always([&] { return other.isForeground(); }, 60));
+}
+
+TEST_F(FrmTop, ComesAboveOtherTopmostWindowsWhenAWindowOfOursIsActivated) {
+  frmTop& form = start();
+  auto& about = forms::form<frmAbout>();
+  about.show();
+  awaitActive(about);
+  OtherProgram other;
+  other.activate();
+  other.raiseAboveAll();
+  ASSERT_TRUE(isAbove(other.window(), form.handle()));
+  // As a click does. Nothing of the toolbar is painted by this, and the activated window keeps the
+  // focus.
+  SetForegroundWindow(about.handle());
+  EXPECT_TRUE(eventually([&] { return isAbove(form.handle(), other.window()); }));
+  EXPECT_TRUE(always([&] { return GetForegroundWindow() == about.handle(); }, 60));
 }
 
 TEST_F(FrmTop, IgnoresAltF4AndHasNoCloseBox) {
