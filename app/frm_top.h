@@ -52,6 +52,7 @@ class frmTop : public forms::Form {
 
   void start();
   void placeAtTopRight();
+  void disableTimer1();
   void Get_Windows_Rect();
   void GetIdx();
   static void RunQuery(data::DataControl& control, std::u16string_view sql);

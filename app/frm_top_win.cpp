@@ -107,9 +107,7 @@ void frmTop::Form_Paint() { bringToTop(); }
 void frmTop::Form_Resize() { Get_Windows_Rect(); }
 
 void frmTop::Form_LostFocus() {
-  // The first tick, which reads the index, is not to be lost with the focus in the first
-  // milliseconds.
-  if (!IdxPending) Timer1.setEnabled(false);
+  disableTimer1();
   // Deliberate: whatever the button shows. Capture that was switched off runs again.
   ScreenWord::StartCapture();
 }
@@ -173,6 +171,13 @@ void frmTop::Image1_MouseDown() {
 void frmTop::Image1_MouseUp() {
   Get_Windows_Rect();
   IsDragging = false;
+  disableTimer1();
+}
+
+// The first tick, which reads the index, is not to be lost: the timer's message comes after all
+// input that is waiting. An error of it is the tick's own.
+void frmTop::disableTimer1() {
+  if (IdxPending) Timer1.onTimer.raise();
   Timer1.setEnabled(false);
 }
 

@@ -116,6 +116,38 @@ TEST_F(FrmTopStart, AMissingDatabaseIsToldOnceAndTheToolbarStays) {
   unloadAll();
 }
 
+TEST_F(FrmTopStart, LosingTheFocusBeforeTheFirstTickLoadsTheIndexAndStopsTheTimer) {
+  frmTop& form = top();
+  ASSERT_TRUE(user::IdxWords.empty());
+  form.raiseLostFocus();
+  EXPECT_GT(user::IdxWords.size(), 1U);
+  EXPECT_FALSE(form.Timer1.enabled());
+}
+
+TEST_F(FrmTopStart, AClickOnTheGripBeforeTheFirstTickLoadsTheIndexAndStopsTheTimer) {
+  frmTop& form = top();
+  ASSERT_TRUE(user::IdxWords.empty());
+  // Input that waits while the program starts is handled before the timer's message.
+  SendMessageW(form.Image1.handle(), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+  EXPECT_TRUE(user::IdxWords.empty());
+  SendMessageW(form.Image1.handle(), WM_LBUTTONUP, 0, 0);
+  EXPECT_GT(user::IdxWords.size(), 1U);
+  EXPECT_FALSE(form.Timer1.enabled());
+  EXPECT_TRUE(always([&] { return !form.Timer1.enabled(); }, 40));
+}
+
+TEST_F(FrmTopStart, AnIndexThatCannotBeReadThenIsToldOnceAndCaptureRuns) {
+  const OtherDictionary none("");
+  frmTop& form = top();
+  ScreenWord::StopCapture();
+  form.raiseLostFocus();
+  EXPECT_EQ(boxes.take().size(), 1U);
+  EXPECT_FALSE(form.Timer1.enabled());
+  EXPECT_TRUE(captureRuns());
+  EXPECT_TRUE(always([this] { return boxes.count() == 0; }, 60));
+  unloadAll();
+}
+
 TEST_F(FrmTopStart, LosingTheFocusAtOnceDoesNotCostTheIndex) {
   OtherProgram other;
   top();
