@@ -73,6 +73,23 @@ TEST_F(FrmMainLayout, AWindowThatIsTooLargeIsMadeToFit) {
   expectLaidOut();
 }
 
+TEST_F(FrmMainLayout, AtItsLeastSizeEveryButtonIsWhole) {
+  open();
+  SetWindowPos(form().handle(), nullptr, 0, 0, 100, 100,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  EXPECT_NEAR(form().width(), query::kMinWidth, 15);
+  EXPECT_NEAR(form().height(), query::kMinHeight, 15);
+  RECT client{};
+  GetClientRect(form().handle(), &client);
+  for (const forms::Widget* button : {&form().cmdOK, &form().Command1, &form().cmdSpc}) {
+    const RECT box = pixelBox(*button);
+    EXPECT_GE(box.left, pixelBox(form().txtInput).right);
+    EXPECT_LE(box.right, client.right);
+    EXPECT_LE(box.bottom, pixelBox(form().TreeView2).top);
+    EXPECT_GE(box.right - box.left, 60);
+  }
+}
+
 TEST_F(FrmMainLayout, TheUserCannotMakeItUselesslySmall) {
   open();
   MINMAXINFO limits{};
