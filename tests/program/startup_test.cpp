@@ -9,6 +9,7 @@
 #include "tests/support/process/message_box.h"
 #include "tests/support/process/popup_menu.h"
 #include "tests/support/process/screen.h"
+#include "tests/support/process/settings.h"
 #include "tests/support/process/system_programs.h"
 
 namespace support {
@@ -61,6 +62,58 @@ TEST_F(Startup, ExitEndsTheProgramWithAllItsWindows) {
   static_cast<void>(lexilo.openQuickLookup());
   EXPECT_EQ(lexilo.exit(), 0U);
   EXPECT_EQ(findWindow({.process = lexilo.process().id(), .className = {}, .title = {}}), nullptr);
+}
+
+/// Tells all windows of a program that the session ends for it, as an installer does that has to
+/// replace its files.
+void endSessionFor(const Process& program) {
+  const auto tell = [&](UINT message, WPARAM wParam) {
+    std::pair<DWORD, std::vector<HWND>> found{program.id(), {}};
+    EnumWindows(
+        [](HWND window, LPARAM context) -> BOOL {
+          auto& [id, windows] = *reinterpret_cast<decltype(found)*>(context);
+          if (processOf(window) == id) windows.push_back(window);
+          return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    DWORD_PTR answer = TRUE;
+    for (HWND window : found.second) {
+      constexpr UINT kTime = 5'000;
+      SendMessageTimeoutW(window, message, wParam, static_cast<LPARAM>(ENDSESSION_CLOSEAPP),
+                          SMTO_ABORTIFHUNG, kTime, &answer);
+      EXPECT_TRUE(message != WM_QUERYENDSESSION || answer != FALSE);
+    }
+  };
+  tell(WM_QUERYENDSESSION, 0);
+  tell(WM_ENDSESSION, TRUE);
+}
+
+TEST_F(Startup, AnInstallerThatClosesItEndsItAndItCanBeStartedAgain) {
+  const AppFolder folder = AppFolder::withFullDictionary();
+  settings::clear();
+  const Lexilo lexilo(folder);
+  lexilo.waitUntilSeen();
+  static_cast<void>(lexilo.openQuickLookupAtA());
+  endSessionFor(lexilo.process());
+  EXPECT_EQ(lexilo.process().waitForExit(), 0U);
+  EXPECT_EQ(settings::read(L"WindowWidth"), L"3500");
+  settings::clear();
+  const Lexilo again(folder);
+  again.waitUntilSeen();
+}
+
+TEST_F(Startup, TheEndOfTheSessionEndsItWhileAMessageOrAMenuIsOpen) {
+  {
+    const Lexilo lexilo(AppFolder::withoutDictionary());
+    static_cast<void>(waitForMessageBox(lexilo.process()));
+    endSessionFor(lexilo.process());
+    EXPECT_EQ(lexilo.process().waitForExit(), 0U);
+  }
+  const Lexilo lexilo(AppFolder::withFullDictionary());
+  lexilo.waitUntilSeen();
+  lexilo.dropMenu();
+  endSessionFor(lexilo.process());
+  EXPECT_EQ(lexilo.process().waitForExit(), 0U);
 }
 
 TEST_F(Startup, LooksUpEnglishAlsoWhenTheToolbarLosesTheFocusAtOnce) {

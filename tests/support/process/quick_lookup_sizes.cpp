@@ -27,6 +27,9 @@ bool alike(const Sizes& one, const Sizes& other) {
 
 void dragCorner(const QuickLookup& window, SIZE pixels, const Sizes& sizes) {
   const auto place = [](LONG x, LONG y) { return std::to_string(x) + " " + std::to_string(y); };
+  // To where there is room for any size.
+  const SIZE size = sizeOf(rectOf(window.window()));
+  placeWindow(window.window(), {100, 150, 100 + size.cx, 150 + size.cy});
   const auto drag = [&] {
     const RECT client = clientRectOf(window.window());
     runBelow("xdotool mousemove " + place(client.right - 2, client.bottom + 2) +

@@ -24,8 +24,9 @@ Sizes sizesOf(const QuickLookup& window);
 /// Whether two sizes are the same but for the rounding of twips to pixels.
 bool alike(const Sizes& one, const Sizes& other);
 
-/// Drags the window's lower right corner by the window manager's frame, below and beside the client
-/// area, to where that would have `pixels`, and waits until the window has these sizes.
+/// Moves the window to the left, and drags its lower right corner by the window manager's frame,
+/// below and beside the client area, to where that would have `pixels`, and waits until the window
+/// has these sizes.
 void dragCorner(const QuickLookup& window, SIZE pixels, const Sizes& sizes);
 
 /// Drags the splitter to a place on the screen's width until `look` likes the window's sizes.
