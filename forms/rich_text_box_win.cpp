@@ -170,8 +170,10 @@ LRESULT RichTextBox::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return Widget::handleMessage(message, wParam, lParam) &
              ~static_cast<LRESULT>(DLGC_WANTTAB | DLGC_WANTALLKEYS);
     case WM_CONTEXTMENU:
-      // From the keyboard; the mouse's right button has its own event.
-      if (lParam == -1) onRightMouseUp.raise(caretPlace());
+      // From the keyboard, where both coordinates are -1; the mouse's right button has its own
+      // event.
+      if (GET_X_LPARAM(lParam) == -1 && GET_Y_LPARAM(lParam) == -1)
+        onRightMouseUp.raise(caretPlace());
       return 0;
     case WM_SIZE: {
       const LRESULT result = Widget::handleMessage(message, wParam, lParam);

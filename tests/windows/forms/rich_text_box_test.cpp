@@ -247,6 +247,23 @@ TEST_F(RichTextBoxTest, TheRightButtonAndTheMenuKeyRaiseTheirEvent) {
   EXPECT_TRUE(always([&] { return raised == 2; }, 40));
 }
 
+TEST_F(RichTextBoxTest, TheMenuKeyIsKnownByBothCoordinates) {
+  opened<PaneForm>();
+  int raised = 0;
+  pane().onRightMouseUp = [&](forms::TwipPoint) { ++raised; };
+  const auto ask = [](LPARAM place) {
+    SendMessageW(pane().handle(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(pane().handle()), place);
+  };
+  // Two 16-bit numbers, which need not fill the upper half of the parameter.
+  ask(static_cast<LPARAM>(0xFFFFFFFF));
+  EXPECT_EQ(raised, 1);
+  ask(-1);
+  EXPECT_EQ(raised, 2);
+  ask(MAKELPARAM(-1, 300));
+  ask(MAKELPARAM(300, -1));
+  EXPECT_EQ(raised, 2);
+}
+
 TEST_F(RichTextBoxTest, HoldsItsRepaintAndThenShowsWhatChanged) {
   opened<PaneForm>();
   {
