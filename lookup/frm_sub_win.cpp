@@ -103,11 +103,11 @@ void frmSub::Form_Load() {
   // Deliberate: the list is filled before the sizes are read. An unusable size stops the loading
   // with a message; the window then works in its design size.
   MaxCount = kMaxListed;
+  // In its design size; again at the end, which an error keeps from being reached.
+  goToItsPlace();
   Adodc1.setConnectionString(user::ConnectionString);
   const std::u16string sql = makeStrSql(user::getEorC(kFirstWord), kFirstWord);
   Query(sql, Adodc1, TreeView1);
-  // In its design size, and again in the one that is read, if it can be.
-  goToItsPlace();
   readSizes();
   goToItsPlace();
 }

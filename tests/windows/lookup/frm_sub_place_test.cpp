@@ -68,6 +68,15 @@ TEST_F(FrmSubPlace, AnUnusableStoredSizeDoesNotKeepItFromItsPlace) {
   EXPECT_TRUE(standsAt(top().place().left, top().place().bottom));
 }
 
+TEST_F(FrmSubPlace, NeitherDoesADictionaryThatIsMissing) {
+  const std::u16string connection =
+      std::exchange(user::ConnectionString, data::connectionString(u"C:\\no such folder\\kk.dat"));
+  open();
+  user::ConnectionString = connection;
+  EXPECT_EQ(boxes.take().size(), 1U);
+  EXPECT_TRUE(standsAt(top().place().left, top().place().bottom));
+}
+
 TEST_F(FrmSubPlace, ComesBackWhereItWasClosedAndDoesNotDrift) {
   open();
   sub().setPosition(3000, 2250);
