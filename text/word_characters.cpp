@@ -102,6 +102,16 @@ UnitKind unitKind(char16_t unit) {
   return kInner.find(plain) != std::u16string_view::npos ? UnitKind::kInner : UnitKind::kBreak;
 }
 
+bool isOpeningBracket(char16_t unit) {
+  constexpr std::u16string_view kOpening = u"([{<“〈《「『【〔〖｢";
+  return kOpening.find(unit) != std::u16string_view::npos;
+}
+
+bool isClosingBracket(char16_t unit) {
+  constexpr std::u16string_view kClosing = u")]}>”〉》」』】〕〗｣";
+  return kClosing.find(unit) != std::u16string_view::npos;
+}
+
 std::u16string spelled(std::u16string_view text) {
   std::u16string word;
   word.reserve(text.size());

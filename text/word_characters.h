@@ -28,6 +28,22 @@ constexpr char16_t narrow(char16_t unit) {
   return unit >= 0xFF01 && unit <= 0xFF5E ? static_cast<char16_t>(unit - 0xFF01 + u'!') : unit;
 }
 
+/// Returns whether `unit` is a blank inside a line.
+constexpr bool isBlank(char16_t unit) {
+  return unit == u' ' || unit == u'\t' || unit == 0xA0 || unit == 0x3000;
+}
+
+/// Returns whether `unit` ends a line. U+000B is a line end inside a paragraph in rich edit
+/// controls and word processors.
+constexpr bool isLineEnd(char16_t unit) {
+  return unit == u'\r' || unit == u'\n' || unit == u'\v' || unit == 0x2028;
+}
+
+/// Return whether `unit` is a bracket, or a quotation mark of a pair, that opens or closes;
+/// full-width forms are none.
+bool isOpeningBracket(char16_t unit);
+bool isClosingBracket(char16_t unit);
+
 /// The soft hyphen marks where a word may be divided, and is seen only where a line ends there.
 inline constexpr char16_t kSoftHyphen = 0xAD;
 

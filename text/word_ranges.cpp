@@ -69,28 +69,11 @@ bool isLetterOrDigitAt(std::u16string_view text, std::size_t index) {
   return kind == UnitKind::kLetter || kind == UnitKind::kDigit;
 }
 
-bool isOpening(char16_t unit) { return unit == u'(' || unit == u'['; }
-bool isClosing(char16_t unit) { return unit == u')' || unit == u']'; }
-
 /// Returns whether the bracket at the beginning of `range` is closed before a letter: it belongs to
 /// a name such as "(chloro)ethane".
 bool opensInside(std::u16string_view text, Range range) {
-  int depth = 0;
-  for (std::size_t i = range.begin; i < range.end; ++i) {
-    if (isOpening(unitAt(text, i))) ++depth;
-    if (isClosing(unitAt(text, i)) && --depth == 0) return isLetterAt(text, i + 1);
-  }
-  return false;
-}
-
-/// Returns whether the bracket at the end of `range` is opened in it: "chiral(ity)".
-bool closesInside(std::u16string_view text, Range range) {
-  int depth = 0;
-  for (std::size_t i = range.end; i > range.begin; --i) {
-    if (isClosing(unitAt(text, i - 1))) ++depth;
-    if (isOpening(unitAt(text, i - 1)) && --depth == 0) return true;
-  }
-  return false;
+  const auto closing = closingBracket(text, range);
+  return closing && isLetterAt(text, *closing + 1);
 }
 
 /// Returns whether `range` begins with a part of its word: with a letter, a digit, the full stop of
@@ -99,7 +82,7 @@ bool beginsWithWord(std::u16string_view text, Range range) {
   if (isLetterOrDigitAt(text, range.begin)) return true;
   const char16_t unit = unitAt(text, range.begin);
   if (unit == u'.') return isLetterAt(text, range.begin + 1);
-  return isOpening(unit) && opensInside(text, range);
+  return isOpeningBracket(unit) && opensInside(text, range);
 }
 
 /// Returns whether `range` ends with a part of its word: with a letter, a digit, the signs of "C++"
@@ -110,16 +93,8 @@ bool endsWithWord(std::u16string_view text, Range range) {
   const char16_t unit = unitAt(text, last);
   if (unit == u'#') return isLetterAt(text, last - 1);
   if (unit == u'+') return isLetterAt(text, last - 1) || unitAt(text, last - 1) == u'+';
-  return isClosing(unit) && closesInside(text, range);
-}
-
-bool isBlank(char16_t unit) {
-  return unit == u' ' || unit == u'\t' || unit == 0xA0 || unit == 0x3000;
-}
-
-/// U+000B is a line end inside a paragraph in rich edit controls and word processors.
-bool isLineEnd(char16_t unit) {
-  return unit == u'\r' || unit == u'\n' || unit == u'\v' || unit == 0x2028;
+  // As in "chiral(ity)".
+  return isClosingBracket(unit) && openingBracket(text, range).has_value();
 }
 
 bool isGapUnit(char16_t unit) { return isBlank(unit) || isLineEnd(unit); }
@@ -185,6 +160,24 @@ std::optional<Run> runAt(std::u16string_view text, std::size_t index) {
   return Run{range, stopFollows, std::any_of(tail.begin(), tail.end(), [](char16_t unit) {
                return narrow(unit) == u'.';
              })};
+}
+
+std::optional<std::size_t> closingBracket(std::u16string_view text, Range range) {
+  int depth = 0;
+  for (std::size_t i = range.begin; i < range.end; ++i) {
+    if (isOpeningBracket(unitAt(text, i))) ++depth;
+    if (isClosingBracket(unitAt(text, i)) && --depth == 0) return i;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::size_t> openingBracket(std::u16string_view text, Range range) {
+  int depth = 0;
+  for (std::size_t i = range.end; i > range.begin; --i) {
+    if (isClosingBracket(unitAt(text, i - 1))) ++depth;
+    if (isOpeningBracket(unitAt(text, i - 1)) && --depth == 0) return i - 1;
+  }
+  return std::nullopt;
 }
 
 std::optional<Range> partAt(std::u16string_view text, Range range, std::size_t index) {

@@ -44,6 +44,12 @@ struct Run {
 /// with the punctuation around it, longer than kMaxReading.
 std::optional<Run> runAt(std::u16string_view text, std::size_t index);
 
+/// Return where the bracket at the first place of `range` is closed in it, and where the one at its
+/// last place is opened in it; nullopt if there is no such place. Brackets of all kinds count
+/// alike.
+std::optional<std::size_t> closingBracket(std::u16string_view text, Range range);
+std::optional<std::size_t> openingBracket(std::u16string_view text, Range range);
+
 /// Returns the part of `range` between its hyphens that contains `index`, which is in `range`;
 /// nullopt on a hyphen.
 std::optional<Range> partAt(std::u16string_view text, Range range, std::size_t index);
