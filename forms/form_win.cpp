@@ -326,6 +326,9 @@ FocusLocation Form::locateFocus() {
 }
 
 void Form::raiseGotFocus() noexcept {
+  guard([this] {
+    if (Widget* widget = widgetOf(GetFocus())) widget->formActivated();
+  });
   guard([this] { Form_Activate(); });
 }
 

@@ -1,10 +1,18 @@
 #pragma once
 
+#include <functional>
+#include <string>
+#include <string_view>
+
 #include "forms/widget.h"
 
 namespace forms {
 
-/// An edit control: a single line of text to type into, or a note of several lines to read.
+/// An edit control: a single line of text to type into, or a note of several lines to read. A line
+/// takes a text with line ends from the clipboard whole, with a blank for each of them; the control
+/// alone would take the first line only. Where the clipboard has no text, or an empty one, or
+/// another program holds it, pasting does nothing. While an input method composes, no change is
+/// raised; a text that it commits is one change.
 class TextBox : public Widget {
  public:
   enum class Look {
@@ -20,16 +28,33 @@ class TextBox : public Widget {
   /// the same.
   void setText(const std::u16string& text);
 
+  /// Replaces the selection, as typing does: the user can take it back. Raises onChange before it
+  /// returns.
+  void insert(const std::u16string& text);
+  void selectAll();
+
   /// The text was changed, by the user or by setText.
   Event<> onChange;
+  /// If set: returns what is inserted for a text of one line that is pasted in place of the whole
+  /// text.
+  std::function<std::u16string(std::u16string_view)> cleanPasted;
 
   void command(WORD code) override;
+  /// Selects all of a line: the user is back and types anew. A click puts the caret elsewhere.
+  void formActivated() override;
 
  protected:
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+  void paste();
+  [[nodiscard]] bool isAllSelected() const;
+  LRESULT compose(UINT message, WPARAM wParam, LPARAM lParam);
+  void raiseChangeSinceLast();
+
   Look look_;
+  bool composing_ = false;
+  std::u16string raisedText_;  ///< while composing: the text of the last change that was raised
 };
 
 }  // namespace forms

@@ -117,6 +117,10 @@ class Widget : public FocusTarget {
   Event<TwipPoint> onRightMouseUp;
   /// Another widget was dropped here.
   Event<Widget&, TwipPoint> onDragDrop;
+  /// Text that is typed here, for a widget that takes none itself: one UTF-16 code unit, or all
+  /// that an input method has composed. Blanks and control characters are left to the control,
+  /// which sees nothing of the rest. Without a handler the control gets everything.
+  Event<const std::u16string&> onText;
   /// Handlers by virtual-key code, for keys pressed without Ctrl or Alt. The control and the dialog
   /// keys (Tab, Enter, Esc) never see a key that has a handler.
   std::unordered_map<WPARAM, std::function<void()>> onKeyDown;
@@ -128,6 +132,9 @@ class Widget : public FocusTarget {
   virtual void rescale();
   /// Returns whether the widget takes the mouse at a point beside it, in screen pixels.
   [[nodiscard]] virtual bool grabs(POINT /*screen*/) const { return false; }
+
+  /// Called when the form becomes active while the widget has the focus, before Form_Activate.
+  virtual void formActivated() {}
 
   void raiseGotFocus() noexcept override { onGotFocus.raise(); }
   void raiseLostFocus() noexcept override { onLostFocus.raise(); }
@@ -143,6 +150,7 @@ class Widget : public FocusTarget {
   static LRESULT CALLBACK widgetProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void raiseMouseEvents(UINT message, LPARAM lParam);
   bool takesKey(UINT message, WPARAM wParam) const;
+  bool raiseText(UINT message, WPARAM wParam, LPARAM lParam) const;
   /// Removes the WM_CHAR that the message loop has made of a key: the control would beep at it, and
   /// a menu that the key opens would take it for a choice.
   void dropCharacterOf(WPARAM key) const;

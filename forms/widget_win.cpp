@@ -5,6 +5,7 @@
 #include "forms/focus.h"
 #include "forms/geometry.h"
 #include "forms/stacking.h"
+#include "win32/input_method.h"
 #include "win32/win32.h"
 
 // Controls are subclassed: widgetProc sees each message before the control's own procedure. Focus
@@ -143,6 +144,14 @@ LRESULT Widget::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
           key != nullptr && takesKey(key->message, key->wParam)) {
         return CallWindowProcW(controlProc_, handle_, message, wParam, lParam) | DLGC_WANTMESSAGE;
       }
+      // Otherwise a letter would be a dialog's mnemonic.
+      if (onText) {
+        return CallWindowProcW(controlProc_, handle_, message, wParam, lParam) | DLGC_WANTCHARS;
+      }
+      break;
+    case WM_CHAR:
+    case WM_IME_COMPOSITION:
+      if (onText && raiseText(message, wParam, lParam)) return 0;
       break;
     case WM_KEYDOWN:
       if (takesKey(message, wParam)) {
@@ -173,6 +182,18 @@ void Widget::dropCharacterOf(WPARAM key) const {
 bool Widget::takesKey(UINT message, WPARAM wParam) const {
   return message == WM_KEYDOWN && onKeyDown.contains(wParam) && GetKeyState(VK_CONTROL) >= 0 &&
          GetKeyState(VK_MENU) >= 0;
+}
+
+bool Widget::raiseText(UINT message, WPARAM wParam, LPARAM lParam) const {
+  constexpr WPARAM kDelete = 0x7F;  // Ctrl+Backspace
+  std::u16string typed;
+  if (message == WM_IME_COMPOSITION) {
+    typed = win32::composedText(handle_, lParam);
+  } else if (wParam > u' ' && wParam != kDelete) {
+    typed = static_cast<char16_t>(wParam);
+  }
+  if (!typed.empty()) onText.raise(typed);
+  return !typed.empty();
 }
 
 void Widget::raiseMouseEvents(UINT message, LPARAM lParam) {

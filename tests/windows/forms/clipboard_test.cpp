@@ -47,5 +47,26 @@ TEST_F(ClipboardTest, GivesUpAfterATenthOfASecond) {
   EXPECT_EQ(clipboardText(), L"before");
 }
 
+TEST_F(ClipboardTest, GivesItsText) {
+  opened<FormA>();
+  HWND owner = forms::form<FormA>().handle();
+  setClipboardText(L"一\r\ntwo");
+  EXPECT_EQ(forms::clipboardText(owner), u"一\r\ntwo");
+  setClipboardText(L"");
+  EXPECT_EQ(forms::clipboardText(owner), u"");
+}
+
+TEST_F(ClipboardTest, GivesNothingWhereThereIsNoText) {
+  opened<FormA>();
+  HWND owner = forms::form<FormA>().handle();
+  ASSERT_TRUE(OpenClipboard(owner));
+  EmptyClipboard();
+  CloseClipboard();
+  EXPECT_EQ(forms::clipboardText(owner), std::nullopt);
+  setClipboardText(L"text");
+  const ClipboardHolder holder(400);
+  EXPECT_EQ(forms::clipboardText(owner), std::nullopt);
+}
+
 }  // namespace
 }  // namespace support
