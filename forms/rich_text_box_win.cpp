@@ -170,8 +170,8 @@ LRESULT RichTextBox::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return Widget::handleMessage(message, wParam, lParam) &
              ~static_cast<LRESULT>(DLGC_WANTTAB | DLGC_WANTALLKEYS);
     case WM_CONTEXTMENU:
-      // From the keyboard, where both coordinates are -1; the mouse's right button has its own
-      // event.
+      // From the keyboard: both coordinates are -1, whatever is above their 32 bits. The mouse's
+      // right button has its own event.
       if (GET_X_LPARAM(lParam) == -1 && GET_Y_LPARAM(lParam) == -1)
         onRightMouseUp.raise(caretPlace());
       return 0;

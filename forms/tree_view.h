@@ -10,7 +10,8 @@ namespace forms {
 
 /// A flat list of nodes, numbered from 1. It keeps the nodes' texts itself and lets the control ask
 /// for them (LPSTR_TEXTCALLBACK): new texts cost one repaint, however many they are. Functions that
-/// take a number throw std::out_of_range if there is no such node.
+/// take a number throw std::out_of_range if there is no such node. Ctrl+C and Ctrl+Insert copy the
+/// text of the selected node to the clipboard.
 class TreeView : public Widget {
  public:
   /// `box` in twips of the form's client area. Throws like Widget.
@@ -48,8 +49,6 @@ class TreeView : public Widget {
   /// The user chose a node: a click on it (the selected one included), the highlight moved to it
   /// with the keys, or Enter on it.
   Event<std::size_t> onNodeClick;
-  /// Ctrl+C on the selected node.
-  Event<std::size_t> onCopy;
 
   LRESULT notify(const NMHDR& header) override;
   void rescale() override;
@@ -73,6 +72,7 @@ class TreeView : public Widget {
   void giveText(NMTVDISPINFOW& info) const;
   LRESULT highlight(NMTVCUSTOMDRAW& drawing) const;
   bool clicked();
+  void copy() const;
   void raiseChoice() const;
   void showPicture();
 

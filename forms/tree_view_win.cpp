@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/clipboard.h"
 #include "forms/geometry.h"
 
 // Who chose a node? The control reports every change of the selection in the same way
@@ -124,11 +125,19 @@ std::size_t TreeView::numberOf(HTREEITEM item) const {
 
 LRESULT TreeView::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   constexpr WPARAM kCtrlC = 3;
-  if (message == WM_CHAR && wParam == kCtrlC && onCopy) {
-    if (const std::size_t node = selected(); node != 0) onCopy.raise(node);
+  const bool ctrlInsert =
+      message == WM_KEYDOWN && wParam == VK_INSERT && GetKeyState(VK_CONTROL) < 0;
+  if (ctrlInsert || (message == WM_CHAR && wParam == kCtrlC)) {
+    copy();
     return 0;
   }
   return Widget::handleMessage(message, wParam, lParam);
+}
+
+// A node without a text is none for the user.
+void TreeView::copy() const {
+  const std::size_t node = selected();
+  if (node != 0 && !text(node).empty()) setClipboardText(form().handle(), text(node));
 }
 
 LRESULT TreeView::notify(const NMHDR& header) {

@@ -21,6 +21,9 @@ class frmMain : public forms::Form {
  public:
   frmMain();
 
+  /// Gives txtInput the focus and selects its text: what is typed next replaces it.
+  void returnToBox();
+
   forms::Label Label2{*this, u"输入：", {}};
   forms::TextBox txtInput{*this, {}};
   forms::Button cmdOK{*this, u"确定", {}};     ///< searches by the beginning
@@ -57,7 +60,6 @@ class frmMain : public forms::Form {
   void txtInput_GotFocus();
   void txtInput_LostFocus();
   void TreeView1_NodeClick(std::size_t node);
-  void TreeView2_Copy(std::size_t node);
   void cmdOK_Click();
   void Command1_Click();
   void cmdSpc_Click();

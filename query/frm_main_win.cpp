@@ -6,7 +6,6 @@
 #include "app/state.h"
 #include "capture/screen_word.h"
 #include "data/database.h"
-#include "forms/clipboard.h"
 #include "forms/geometry.h"
 #include "forms/loaded_forms.h"
 #include "forms/message_box.h"
@@ -61,7 +60,6 @@ frmMain::frmMain() : Form(design()) {
   txtInput.onGotFocus = [this] { txtInput_GotFocus(); };
   txtInput.onLostFocus = [this] { txtInput_LostFocus(); };
   TreeView1.onNodeClick = [this](std::size_t node) { TreeView1_NodeClick(node); };
-  TreeView2.onCopy = [this](std::size_t node) { TreeView2_Copy(node); };
   cmdOK.onClick = [this] { cmdOK_Click(); };
   Command1.onClick = [this] { Command1_Click(); };
   cmdSpc.onClick = [this] { cmdSpc_Click(); };
@@ -69,7 +67,12 @@ frmMain::frmMain() : Form(design()) {
   TreeView1.onKeyDown.erase(VK_RETURN);
   TreeView2.onKeyDown.erase(VK_RETURN);
   onEnter = [this] { cmdOK_Click(); };
-  onEscape = [this] { txtInput.setFocus(); };
+  onEscape = [this] { returnToBox(); };
+}
+
+void frmMain::returnToBox() {
+  txtInput.setFocus();
+  txtInput.selectAll();
 }
 
 void frmMain::Form_Load() try {
@@ -111,10 +114,6 @@ void frmMain::TreeView1_NodeClick(std::size_t node) {
   if (TreeView1.selected() != node) return;
   curIndex = forms::toInt16(static_cast<std::int64_t>(node));
   curTable = tableNames.at(node - 1);
-}
-
-void frmMain::TreeView2_Copy(std::size_t node) {
-  forms::setClipboardText(handle(), TreeView2.text(node));
 }
 
 void frmMain::cmdOK_Click() try {

@@ -244,7 +244,21 @@ TEST_F(RichTextBoxTest, TheRightButtonAndTheMenuKeyRaiseTheirEvent) {
   pane().setFocus();
   input::key(VK_F10, {VK_SHIFT});
   EXPECT_TRUE(eventually([&] { return raised == 2; }));
-  EXPECT_TRUE(always([&] { return raised == 2; }, 40));
+  input::key(VK_APPS);
+  EXPECT_TRUE(eventually([&] { return raised == 3; }));
+  EXPECT_TRUE(always([&] { return raised == 3; }, 40));
+}
+
+TEST_F(RichTextBoxTest, TheMenuKeyIsKnownByBothCoordinates) {
+  opened<PaneForm>();
+  int raised = 0;
+  pane().onRightMouseUp = [&](forms::TwipPoint) { ++raised; };
+  SendMessageW(pane().handle(), WM_CONTEXTMENU, 0, MAKELPARAM(-1, -1));
+  EXPECT_EQ(raised, 1);
+  SendMessageW(pane().handle(), WM_CONTEXTMENU, 0, -1);
+  EXPECT_EQ(raised, 2);
+  SendMessageW(pane().handle(), WM_CONTEXTMENU, 0, MAKELPARAM(-1, 20));
+  EXPECT_EQ(raised, 2);
 }
 
 TEST_F(RichTextBoxTest, TheMenuKeyIsKnownByBothCoordinates) {

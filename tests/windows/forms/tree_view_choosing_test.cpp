@@ -2,6 +2,7 @@
 #include "forms/tree_view.h"
 
 #include "app/resources/resource_ids.h"
+#include "tests/support/process/clipboard.h"
 #include "tests/support/process/controls.h"
 #include "tests/support/process/screen.h"
 #include "tests/support/window/window_test.h"
@@ -14,11 +15,9 @@ class PictureForm : public FormA {
   PictureForm() {
     tree.setPicture(forms::Picture(IDI_DICTIONARY));
     tree.onNodeClick = [this](std::size_t node) { chosen.push_back(node); };
-    tree.onCopy = [this](std::size_t node) { copied.push_back(node); };
   }
   forms::TreeView tree{*this, {150, 1000, 3000, 1500}};
   std::vector<std::size_t> chosen;
-  std::vector<std::size_t> copied;
 };
 
 class TreeViewChoosing : public WindowTest {
@@ -79,14 +78,20 @@ TEST_F(TreeViewChoosing, AClickKeepsTheSelectionThatItsHandlerMade) {
   EXPECT_EQ(GetFocus(), tree().handle());
 }
 
-TEST_F(TreeViewChoosing, CtrlCCopiesTheSelectedNode) {
+TEST_F(TreeViewChoosing, TheKeysCopyTheSelectedNode) {
+  for (const WORD key : std::initializer_list<WORD>{'C', VK_INSERT}) {
+    setClipboardText(L"before");
+    input::key(key, {VK_CONTROL});
+    EXPECT_TRUE(eventually([] { return clipboardText() == L"一"; })) << key;
+  }
+  setClipboardText(L"before");
+  tree().setText(1, u"");
   input::key('C', {VK_CONTROL});
-  ASSERT_TRUE(eventually([] { return form().copied.size() == 1; }));
-  EXPECT_EQ(form().copied[0], 1U);
+  passTime(40);
   SendMessageW(tree().handle(), TVM_SELECTITEM, TVGN_CARET, 0);
   input::key('C', {VK_CONTROL});
   passTime(40);
-  EXPECT_EQ(form().copied.size(), 1U);
+  EXPECT_EQ(clipboardText(), L"before");
 }
 
 TEST_F(TreeViewChoosing, TheHighlightIsKeptWhereAsked) {

@@ -114,6 +114,33 @@ TEST_F(FrmMainChoosing, CtrlCCopiesTheLine) {
   EXPECT_TRUE(eventually([] { return clipboardText() == L"heart beat       心搏"; }));
 }
 
+TEST_F(FrmMainChoosing, CtrlCCopiesTheDictionarysName) {
+  frmMain& window = open();
+  setClipboardText(L"before");
+  window.TreeView1.setFocus();
+  input::key('C', {VK_CONTROL});
+  const std::u16string& name = window.TreeView1.text(window.TreeView1.selected());
+  EXPECT_TRUE(
+      eventually([&] { return clipboardText() == std::wstring(name.begin(), name.end()); }));
+}
+
+TEST_F(FrmMainChoosing, BackInTheBoxItsTextIsSelected) {
+  frmMain& window = open();
+  window.txtInput.setText(u"heart");
+  const auto selected = [&] {
+    return GetFocus() == window.txtInput.handle() &&
+           SendMessageW(window.txtInput.handle(), EM_GETSEL, 0, 0) == MAKELONG(0, 5);
+  };
+  window.TreeView2.setFocus();
+  input::key(VK_ESCAPE);
+  EXPECT_TRUE(eventually(selected));
+  SendMessageW(window.txtInput.handle(), EM_SETSEL, 5, 5);
+  opened<FormA>();
+  window.show();
+  awaitActive(window);
+  EXPECT_TRUE(eventually(selected));
+}
+
 TEST_F(FrmMainChoosing, CtrlCWithoutALineCopiesNothing) {
   frmMain& window = open();
   setClipboardText(L"before");
