@@ -22,8 +22,16 @@ void show() {
   forms::form<F>().show();
 }
 
+// A window that was open already is shown with the focus where it was: the user, who asks for it,
+// is about to type.
+template <class F>
+void showReadyToType() {
+  show<F>();
+  forms::form<F>().returnToBox();
+}
+
 void showMultiQuery() {
-  show<frmMain>();
+  showReadyToType<frmMain>();
   // Deliberate: also if frmMain was open already, which sets it itself when it is loaded.
   user::MainOpen = true;
 }
@@ -44,7 +52,8 @@ constexpr const Command* kSeparator = nullptr;
 }  // namespace
 
 constinit const Command kMultiQuery{u"多功能查询", u"多功能查询", IDI_MULTI_QUERY, showMultiQuery};
-constinit const Command kQuickLookup{u"快速查询", u"快速查询", IDI_QUICK_LOOKUP, show<frmSub>};
+constinit const Command kQuickLookup{u"快速查询", u"快速查询", IDI_QUICK_LOOKUP,
+                                     showReadyToType<frmSub>};
 constinit const Command kCapture{u"鼠标取词", {}, 0, nullptr};
 // Deliberate: the menu and the tool tip call it by different names.
 constinit const Command kDictSettings{u"字典设置", u"查询设置", IDI_DICT_SETTINGS,

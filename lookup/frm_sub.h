@@ -22,12 +22,16 @@ class frmSub : public forms::Form {
  public:
   frmSub();
 
+  /// Gives txtInput the focus and selects its text: what is typed next replaces it.
+  void returnToBox();
+
+  // Tab goes through them in this order.
   forms::Label Label1{*this, u"输入：", {90, 180, 640, 270}};
   forms::TextBox txtInput{*this, {750, 120, 1750, 330}};
-  forms::Button cmdExit{*this, u"退出", {2600, 120, 750, 330}};
   forms::TreeView TreeView1{*this, {30, 600, 2000, 2200}};
   forms::DragHandle Image1{*this, forms::DragHandle::Look::kLine, {2030, 600, 20, 2200}};
   forms::RichTextBox txtOut{*this, {2050, 600, 1300, 2200}};
+  forms::Button cmdExit{*this, u"退出", {2600, 120, 750, 330}};
   data::DataControl Adodc1;
   forms::PopupMenu mnuOper{u"菜单操作"};
 
@@ -76,6 +80,8 @@ class frmSub : public forms::Form {
   void wireMouse();
   void wireKeys();
   void goToItsPlace();
+  void takeTyping(const std::u16string& typed);
+  void escape();
   void readSizes();
   int readSize(const std::u16string& key, int fallback) const;
   void writeSizes() const;

@@ -8,6 +8,7 @@
 #include "forms/geometry.h"
 #include "lookup/layout.h"
 #include "settings/settings_file.h"
+#include "text/pasted_text.h"
 #include "text/query_text.h"
 #include "text/strings.h"
 #include "text/utf.h"
@@ -54,6 +55,14 @@ std::runtime_error unusable(const std::u16string& key, const std::u16string& val
       text::toUtf8(u"设置文件中 " + key + u" 的值“" + value + u"”无法使用：" + file));
 }
 
+/// Returns the word that is meant by a pasted text. A connection of its own is opened only for a
+/// word with accents.
+std::u16string pastedWord(std::u16string_view pasted) {
+  data::KnownHeadwords headwords(user::IdxWords);
+  headwords.setConnectionString(user::ConnectionString);
+  return text::pastedWord(pasted, [&](std::u16string_view word) { return headwords.has(word); });
+}
+
 }  // namespace
 
 // Deliberate: with the default LookupOptions a Chinese meaning is searched within the bounds of the
@@ -64,6 +73,7 @@ frmSub::frmSub() : Form(design()), lookup_(user::IdxWords, data::LookupOptions{}
   txtInput.onChange = [this] { txtInput_Change(); };
   txtInput.onGotFocus = [this] { txtInput_GotFocus(); };
   txtInput.onLostFocus = [this] { txtInput_LostFocus(); };
+  txtInput.cleanPasted = pastedWord;
   cmdExit.onClick = [this] { cmdExit_Click(); };
   TreeView1.onNodeClick = [this](std::size_t node) { TreeView1_NodeClick(node); };
   mnuSearch_ = mnuOper.add(u"反查", [this] { mnuSearch_Click(); });
@@ -96,7 +106,30 @@ void frmSub::wireMouse() {
 
 void frmSub::wireKeys() {
   txtInput.onKeyDown[VK_DOWN] = [this] { TreeView1.setFocus(); };
-  TreeView1.onKeyDown[VK_ESCAPE] = [this] { txtInput.setFocus(); };
+  TreeView1.onKeyDown[VK_ESCAPE] = [this] { escape(); };
+  onEscape = [this] { escape(); };
+  TreeView1.onText = [this](const std::u16string& typed) { takeTyping(typed); };
+  txtOut.onText = [this](const std::u16string& typed) { takeTyping(typed); };
+}
+
+void frmSub::escape() {
+  if (Image1.isDragged()) {
+    Image1.cancelDrag();
+  } else {
+    returnToBox();
+  }
+}
+
+void frmSub::returnToBox() {
+  txtInput.setFocus();
+  txtInput.selectAll();
+}
+
+// Only the first letter replaces the box's text: those of a phrase come one after the other where
+// an input method sends them so.
+void frmSub::takeTyping(const std::u16string& typed) {
+  if (GetFocus() != txtInput.handle()) returnToBox();
+  txtInput.insert(typed);
 }
 
 void frmSub::Form_Load() {
