@@ -17,13 +17,13 @@ class ColumnTree : public TreeView {
   /// Width of one column in pixels at the form's DPI: half the font's height.
   [[nodiscard]] int columnWidth() const { return columnWidth_; }
 
-  LRESULT notify(const NMHDR& header) override;
   void rescale() override;
+
+ protected:
+  void drawText(HDC dc, const RECT& row, int left, std::u16string_view text) const override;
 
  private:
   void makeFonts();
-  void draw(const NMCUSTOMDRAW& drawing) const;
-  void drawText(HDC dc, const RECT& row, int left, std::u16string_view text) const;
 
   int columnWidth_ = 0;
   int textHeight_ = 0;

@@ -1,7 +1,5 @@
 #include "forms/column_tree.h"
 
-#include <cstdint>
-#include <cstring>
 #include <vector>
 
 #include "text/characters.h"
@@ -50,21 +48,9 @@ class ScopedFontSelection {
   HGDIOBJ before_;
 };
 
-struct RowColors {
-  int text;
-  int background;
-};
-
-RowColors colorsOf(bool selected, bool focused) {
-  if (!selected) return {COLOR_WINDOWTEXT, COLOR_WINDOW};
-  return focused ? RowColors{COLOR_HIGHLIGHTTEXT, COLOR_HIGHLIGHT}
-                 : RowColors{COLOR_BTNTEXT, COLOR_BTNFACE};
-}
-
 }  // namespace
 
-ColumnTree::ColumnTree(WidgetHost& form, const WidgetBox& box)
-    : TreeView(form, box, TVS_NOTOOLTIPS) {
+ColumnTree::ColumnTree(WidgetHost& form, const WidgetBox& box) : TreeView(form, box, 0) {
   onKeyDown[VK_LEFT] = [this] { send(WM_HSCROLL, SB_LINELEFT); };
   onKeyDown[VK_RIGHT] = [this] { send(WM_HSCROLL, SB_LINERIGHT); };
   makeFonts();
@@ -95,33 +81,6 @@ void ColumnTree::makeFonts() {
     textHeight_ = selected.height();
     if (selected.widestLetter() <= columnWidth_) return;
   }
-}
-
-LRESULT ColumnTree::notify(const NMHDR& header) {
-  if (header.code != static_cast<UINT>(NM_CUSTOMDRAW)) return TreeView::notify(header);
-  const auto& drawing = reinterpret_cast<const NMTVCUSTOMDRAW&>(header).nmcd;
-  if (drawing.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
-  if (drawing.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
-  draw(drawing);
-  return CDRF_SKIPDEFAULT;
-}
-
-void ColumnTree::draw(const NMCUSTOMDRAW& drawing) const {
-  const auto item = static_cast<std::uintptr_t>(drawing.dwItemSpec);
-  const std::size_t number = numberOf(reinterpret_cast<HTREEITEM>(item));
-  RECT place{};
-  // TVM_GETITEMRECT takes the item in the rectangle's own memory.
-  std::memcpy(&place, &item, sizeof item);
-  if (number == 0 || send(TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place)) == 0) return;
-  RECT row{};
-  GetClientRect(handle(), &row);
-  row.top = place.top;
-  row.bottom = place.bottom;
-  const bool selected = (drawing.uItemState & CDIS_SELECTED) != 0;
-  const RowColors colors = colorsOf(selected, GetFocus() == handle());
-  SetTextColor(drawing.hdc, GetSysColor(colors.text));
-  SetBkColor(drawing.hdc, GetSysColor(colors.background));
-  drawText(drawing.hdc, row, place.left, text(number));
 }
 
 void ColumnTree::drawText(HDC dc, const RECT& row, int left, std::u16string_view text) const {

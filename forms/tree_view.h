@@ -9,9 +9,11 @@
 namespace forms {
 
 /// A flat list of nodes, numbered from 1. It keeps the nodes' texts itself and lets the control ask
-/// for them (LPSTR_TEXTCALLBACK): new texts cost one repaint, however many they are. Functions that
-/// take a number throw std::out_of_range if there is no such node. Ctrl+C and Ctrl+Insert copy the
-/// text of the selected node to the clipboard.
+/// for them (LPSTR_TEXTCALLBACK): new texts cost one repaint, however many they are. It draws its
+/// rows itself, so that a new text is drawn as far as the view is wide, whatever width the control
+/// has measured for the item. A view that does not scroll sideways shows a text that is cut there
+/// in a tool tip. Ctrl+C and Ctrl+Insert copy the text of the selected node to the clipboard.
+/// Functions that take a number throw std::out_of_range if there is no such node.
 class TreeView : public Widget {
  public:
   /// `box` in twips of the form's client area. Throws like Widget.
@@ -57,6 +59,9 @@ class TreeView : public Widget {
   /// `scrolling` is the style that says in which directions the view scrolls.
   TreeView(WidgetHost& form, const WidgetBox& box, DWORD scrolling);
 
+  /// Fills `row` (pixels) with the colours that are set in `dc` and draws `text` there, from `left`
+  /// on.
+  virtual void drawText(HDC dc, const RECT& row, int left, std::u16string_view text) const;
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   [[nodiscard]] std::size_t numberOf(HTREEITEM item) const;
   /// Has the control measure a node's text again. It measures an item's text only once, when the
@@ -70,7 +75,14 @@ class TreeView : public Widget {
   };
   HTREEITEM insert(std::size_t number, HTREEITEM after);
   void giveText(NMTVDISPINFOW& info) const;
-  LRESULT highlight(NMTVCUSTOMDRAW& drawing) const;
+  LRESULT customDraw(const NMCUSTOMDRAW& drawing) const;
+  void drawRow(const NMCUSTOMDRAW& drawing) const;
+  [[nodiscard]] bool placeOf(HTREEITEM item, RECT& place) const;
+  [[nodiscard]] HFONT font() const { return reinterpret_cast<HFONT>(send(WM_GETFONT)); }
+  [[nodiscard]] TVHITTESTINFO hitTest(POINT point) const;
+  [[nodiscard]] bool isCut(std::size_t number) const;
+  void showCutText(POINT point);
+  void forgetCutText();
   bool clicked();
   void copy() const;
   void raiseChoice() const;
@@ -78,6 +90,9 @@ class TreeView : public Widget {
 
   std::vector<Node> nodes_;
   std::size_t inserting_ = 0;  // the control asks for its text before its handle is known
+  bool showsCutTexts_;
+  std::size_t nodeUnderMouse_ = 0;  // as showCutText last saw it
+  bool cutTextIsShown_ = false;
   bool highlightChooses_ = true;
   bool keepsHighlight_ = false;
   Picture picture_;

@@ -1,7 +1,10 @@
 #include "forms/tree_view.h"
 
 #include <algorithm>
+#include <cstring>
 
+#include "forms/appearance/contrast.h"
+#include "forms/appearance/system_look.h"
 #include "forms/clipboard.h"
 #include "forms/geometry.h"
 
@@ -9,16 +12,48 @@
 // (TVN_SELCHANGED). A choice of the user's is a click on a node (NM_CLICK, also on the one that is
 // selected), Enter, or a change that the control itself calls one by keyboard; a selection set from
 // code, or made by the control when it gets the focus, is none.
+//
+// Why rows are drawn here: the control keeps a width for each item, within which it draws the
+// item's text, and no document says when it measures an item again whose text it asks for. So it is
+// told that its rows are drawn already (NM_CUSTOMDRAW, CDRF_SKIPDEFAULT), and its own tool tips,
+// which depend on that width as well, are switched off (TVS_NOTOOLTIPS).
 namespace forms {
+namespace {
+
+/// Between a node's picture and its text, in twips.
+constexpr int kTextMargin = 30;
+
+/// ExtTextOut takes no more.
+constexpr std::size_t kMaxDrawn = 8192;
+
+struct RowColors {
+  int text;
+  int background;
+};
+
+/// The colours of a row, as indexes of system colours. Without the focus the selected row looks
+/// like a button, unless that cannot be told from the other rows, as in high-contrast themes.
+RowColors colorsOf(bool selected, bool highlighted) {
+  if (!selected) return {COLOR_WINDOWTEXT, COLOR_WINDOW};
+  if (highlighted || isHighContrast() ||
+      !isSeenOn(GetSysColor(COLOR_BTNFACE), GetSysColor(COLOR_WINDOW))) {
+    return {COLOR_HIGHLIGHTTEXT, COLOR_HIGHLIGHT};
+  }
+  return {COLOR_BTNTEXT, COLOR_BTNFACE};
+}
+
+}  // namespace
 
 TreeView::TreeView(WidgetHost& form, const WidgetBox& box) : TreeView(form, box, TVS_NOHSCROLL) {}
 
 TreeView::TreeView(WidgetHost& form, const WidgetBox& box, DWORD scrolling)
     : Widget(form,
              {WC_TREEVIEWW,
-              TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_FULLROWSELECT | WS_TABSTOP | scrolling,
+              TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_FULLROWSELECT | TVS_NOTOOLTIPS |
+                  WS_TABSTOP | scrolling,
               WS_EX_CLIENTEDGE},
-             box) {
+             box),
+      showsCutTexts_((scrolling & TVS_NOHSCROLL) != 0) {
   onKeyDown[VK_RETURN] = [this] { raiseChoice(); };
 }
 
@@ -59,6 +94,7 @@ void TreeView::remove(std::size_t number) {
 }
 
 void TreeView::clear() {
+  forgetCutText();
   nodes_.clear();
   send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
 }
@@ -114,7 +150,10 @@ void TreeView::raiseChoice() const {
   if (const std::size_t node = selected(); node != 0) onNodeClick.raise(node);
 }
 
-void TreeView::refresh() { RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE); }
+void TreeView::refresh() {
+  forgetCutText();
+  RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE);
+}
 
 std::size_t TreeView::numberOf(HTREEITEM item) const {
   if (item == nullptr) return 0;
@@ -131,7 +170,10 @@ LRESULT TreeView::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     copy();
     return 0;
   }
-  return Widget::handleMessage(message, wParam, lParam);
+  const LRESULT result = Widget::handleMessage(message, wParam, lParam);
+  if (message == WM_MOUSEMOVE && showsCutTexts_)
+    showCutText({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+  return result;
 }
 
 // A node without a text is none for the user.
@@ -155,25 +197,93 @@ LRESULT TreeView::notify(const NMHDR& header) {
       break;
     }
     case static_cast<UINT>(NM_CUSTOMDRAW):
-      return highlight(
-          const_cast<NMTVCUSTOMDRAW&>(reinterpret_cast<const NMTVCUSTOMDRAW&>(header)));
+      return customDraw(reinterpret_cast<const NMTVCUSTOMDRAW&>(header).nmcd);
     default:
       break;
   }
   return 0;
 }
 
-// The control greys the selected node while the focus is elsewhere; its colours are set for each
-// row.
-LRESULT TreeView::highlight(NMTVCUSTOMDRAW& drawing) const {
-  if (!keepsHighlight_) return CDRF_DODEFAULT;
-  if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
-  const bool selected = (drawing.nmcd.uItemState & CDIS_SELECTED) != 0;
-  if (drawing.nmcd.dwDrawStage == CDDS_ITEMPREPAINT && selected) {
-    drawing.clrText = GetSysColor(COLOR_HIGHLIGHTTEXT);
-    drawing.clrTextBk = GetSysColor(COLOR_HIGHLIGHT);
+LRESULT TreeView::customDraw(const NMCUSTOMDRAW& drawing) const {
+  if (drawing.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (drawing.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
+  drawRow(drawing);
+  return CDRF_SKIPDEFAULT;
+}
+
+// The control says where a row lies and where its text begins; how far the text reaches is the
+// client area's affair.
+void TreeView::drawRow(const NMCUSTOMDRAW& drawing) const {
+  const auto item = reinterpret_cast<HTREEITEM>(drawing.dwItemSpec);
+  const std::size_t number = numberOf(item);
+  RECT place{};
+  if (number == 0 || !placeOf(item, place)) return;
+  RECT row{};
+  GetClientRect(handle(), &row);
+  row.top = place.top;
+  row.bottom = place.bottom;
+  const bool selected = (drawing.uItemState & CDIS_SELECTED) != 0;
+  const bool focused = GetFocus() == handle();
+  const RowColors colors = colorsOf(selected, focused || keepsHighlight_);
+  HDC dc = drawing.hdc;
+  SetTextColor(dc, GetSysColor(colors.text));
+  SetBkColor(dc, GetSysColor(colors.background));
+  const HGDIOBJ before = SelectObject(dc, font());
+  drawText(dc, row, place.left, text(number));
+  SelectObject(dc, before);
+  if (pictures_) {
+    const int size = toPixels(kPictureTwips, form().dpi());
+    ImageList_Draw(pictures_.get(), 0, dc, place.left - size, (row.top + row.bottom - size) / 2,
+                   ILD_TRANSPARENT);
   }
-  return CDRF_DODEFAULT;
+  const bool cuesHidden = (send(WM_QUERYUISTATE) & UISF_HIDEFOCUS) != 0;
+  if (selected && focused && !cuesHidden) DrawFocusRect(dc, &row);
+}
+
+void TreeView::drawText(HDC dc, const RECT& row, int left, std::u16string_view text) const {
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(dc, &metrics);
+  const int top = row.top + ((row.bottom - row.top - metrics.tmHeight) / 2);
+  ExtTextOutW(dc, left + toPixels(kTextMargin, form().dpi()), top, ETO_OPAQUE | ETO_CLIPPED, &row,
+              reinterpret_cast<const wchar_t*>(text.data()),
+              static_cast<UINT>(std::min(text.size(), kMaxDrawn)), nullptr);
+}
+
+// TVM_GETITEMRECT takes the item in the rectangle's own memory. It fails for an item out of sight.
+bool TreeView::placeOf(HTREEITEM item, RECT& place) const {
+  std::memcpy(&place, &item, sizeof item);
+  return send(TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place)) != 0;
+}
+
+bool TreeView::isCut(std::size_t number) const {
+  const Node& node = nodes_.at(number - 1);
+  RECT place{};
+  RECT client{};
+  if (!placeOf(node.item, place)) return false;
+  GetClientRect(handle(), &client);
+  HDC dc = GetDC(handle());
+  const HGDIOBJ before = SelectObject(dc, font());
+  SIZE size{};
+  GetTextExtentPoint32W(dc, win32::wide(node.text), static_cast<int>(node.text.size()), &size);
+  SelectObject(dc, before);
+  ReleaseDC(handle(), dc);
+  return place.left + toPixels(kTextMargin, form().dpi()) + size.cx > client.right;
+}
+
+// The tool tip is the whole control's, with the text of the row that the mouse is on.
+void TreeView::showCutText(POINT point) {
+  const std::size_t number = numberOf(hitTest(point).hItem);
+  if (number == nodeUnderMouse_) return;
+  forgetCutText();
+  nodeUnderMouse_ = number;
+  if (number == 0 || !isCut(number)) return;
+  form().setToolTip(*this, text(number));
+  cutTextIsShown_ = true;
+}
+
+void TreeView::forgetCutText() {
+  nodeUnderMouse_ = 0;
+  if (std::exchange(cutTextIsShown_, false)) form().setToolTip(*this, {});
 }
 
 void TreeView::giveText(NMTVDISPINFOW& info) const {
@@ -190,14 +300,20 @@ void TreeView::giveText(NMTVDISPINFOW& info) const {
   }
 }
 
+TVHITTESTINFO TreeView::hitTest(POINT point) const {
+  TVHITTESTINFO hit{};
+  hit.pt = point;
+  send(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+  return hit;
+}
+
 // Returns whether a node was chosen: the control is not to select it again then, since the handler
 // may have selected another node or changed the list.
 bool TreeView::clicked() {
   const DWORD position = GetMessagePos();
-  TVHITTESTINFO hit{};
-  hit.pt = {static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))};
-  ScreenToClient(handle(), &hit.pt);
-  send(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+  POINT point{GET_X_LPARAM(position), GET_Y_LPARAM(position)};
+  ScreenToClient(handle(), &point);
+  const TVHITTESTINFO hit = hitTest(point);
   constexpr UINT kOnRow = TVHT_ONITEM | TVHT_ONITEMRIGHT | TVHT_ONITEMINDENT;
   const std::size_t number = numberOf(hit.hItem);
   if (number == 0 || (hit.flags & kOnRow) == 0) return false;
