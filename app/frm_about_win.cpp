@@ -9,6 +9,7 @@ forms::FormDesign design() {
   design.name = u"frmAbout";
   design.caption = u"关于";
   design.frame = forms::Frame::kFixed;
+  design.growsWithTexts = true;
   design.width = 6360;
   design.height = 4965;
   design.iconResource = forms::kProgramIcon;

@@ -26,6 +26,8 @@ forms::FormDesign design() {
   design.neverActive = true;
   design.shadow = true;
   design.background = COLOR_INFOBK;
+  // Its size is computed for texts of 9 points.
+  design.fixedTexts = true;
   return design;
 }
 

@@ -5,7 +5,8 @@
 
 namespace forms {
 
-/// A push button with a caption or a picture. Enter presses it as Space does.
+/// A push button with a picture, or with a caption, which is smaller than usual where the button is
+/// too small for it. Enter presses it as Space does.
 class Button : public Widget {
  public:
   /// `box` in twips of the form's client area. Both throw like Widget.
@@ -21,6 +22,9 @@ class Button : public Widget {
 
   void command(WORD code) override;
   void rescale() override;
+
+ protected:
+  [[nodiscard]] bool fits(HDC dc, const RECT& room) const override;
 
  private:
   void showPicture();

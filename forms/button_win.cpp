@@ -3,10 +3,18 @@
 #include "forms/geometry.h"
 
 namespace forms {
+namespace {
+
+/// Between a button's edge and its caption, in twips.
+constexpr int kSideMargin = 60;
+constexpr int kUpperMargin = 30;
+
+}  // namespace
 
 Button::Button(WidgetHost& form, const std::u16string& caption, const WidgetBox& box)
     : Widget(form, {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP, 0}, box, caption) {
   onKeyDown[VK_RETURN] = [this] { send(BM_CLICK); };
+  keepFitting();
 }
 
 Button::Button(WidgetHost& form, const Picture& picture, const WidgetBox& box)
@@ -24,6 +32,16 @@ void Button::setPicture(const Picture& picture) {
 void Button::showPicture() {
   HICON icon = picture_.icon(toPixels(kPictureTwips, form().dpi()));
   send(BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon));
+}
+
+// Not BCM_GETIDEALSIZE, whose margins are wider than what a caption needs not to be cut.
+bool Button::fits(HDC dc, const RECT& room) const {
+  const std::u16string caption = windowText(handle());
+  SIZE size{};
+  GetTextExtentPoint32W(dc, win32::wide(caption), static_cast<int>(caption.size()), &size);
+  const int dpi = form().dpi();
+  return size.cx <= room.right - (2 * toPixels(kSideMargin, dpi)) &&
+         size.cy <= room.bottom - (2 * toPixels(kUpperMargin, dpi));
 }
 
 void Button::command(WORD code) {

@@ -71,7 +71,7 @@ void ColumnTree::rescale() {
 // its own (ExtTextOut with widths). If Latin letters of that font are wider than one column, as in
 // a substitute for it, texts are drawn in the largest smaller size whose letters fit.
 void ColumnTree::makeFonts() {
-  const int dpi = form().dpi();
+  const int dpi = form().textDpi();
   const int size = evenFontSize(dpi);
   columnWidth_ = size / 2;
   setFont(fontOf(size, dpi));

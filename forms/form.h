@@ -36,13 +36,17 @@ struct FormDesign {
   bool shadow = false;   ///< casts one, as tool tips do
   int iconResource = 0;
   int background = COLOR_BTNFACE;  ///< a system colour
+  /// Where the user has made texts larger, the form's twips become larger with them, as far as it
+  /// then still fits on its monitor. Otherwise only the texts do, in the places that they have.
+  bool growsWithTexts = false;
+  bool fixedTexts = false;  ///< fonts with a face keep their sizes
 };
 
 /// A top-level window. A form exists once: forms::form<F>() loads it on the first reference,
 /// unload() ends it, and the next reference loads it anew. Events of opening, in this order: Load,
 /// Resize, Activate, GotFocus of a widget. Twips are those of the form's DPI (1440 to an inch, 15
-/// to a pixel at 96 DPI). User-interface thread only. Handlers run inside the exception barrier:
-/// what they throw is reported and never leaves a function of this class.
+/// to a pixel at 96 DPI; see WidgetHost::dpi). User-interface thread only. Handlers run inside the
+/// exception barrier: what they throw is reported and never leaves a function of this class.
 class Form : public WidgetHost {
  public:
   /// Creates the window, hidden. Throws std::runtime_error if Windows cannot create it.
@@ -134,7 +138,12 @@ class Form : public WidgetHost {
   void resized();
   void paint();
   void giveFocusBack();
-  void rescale(int dpi, const RECT& suggested);
+  void rescale(int monitorDpi, const RECT& suggested);
+  void takeDpi(int monitorDpi);
+  [[nodiscard]] int layoutDpiAt(int monitorDpi, double scale) const;
+  /// The outer size in pixels that it has on a monitor of that DPI.
+  [[nodiscard]] SIZE sizeAt(int monitorDpi) const;
+  void takeSystemLook();
   void command(WORD code, HWND control, WORD id) const;
   bool passToGrabber(UINT message, WPARAM wParam, LPARAM lParam) const;
   void limitTracking(MINMAXINFO& limits) const;
@@ -143,7 +152,8 @@ class Form : public WidgetHost {
   void moveTo(int left, int top);
   void setPlace(const PixelBox& place);
   /// Converts an outer size in twips to the real window's outer size in pixels.
-  [[nodiscard]] SIZE outerPixels(int width, int height, int dpi) const;
+  [[nodiscard]] SIZE outerPixels(int width, int height) const;
+  [[nodiscard]] SIZE outerPixels(int width, int height, int layoutDpi, int monitorDpi) const;
   /// The reverse: of a client size in pixels, at the form's DPI.
   [[nodiscard]] SIZE outerTwipsOf(SIZE client) const;
 
@@ -152,6 +162,7 @@ class Form : public WidgetHost {
   win32::OwnedIcon bigIcon_;
   win32::OwnedIcon smallIcon_;
   HCURSOR mousePointer_ = nullptr;
+  NONCLIENTMETRICSW metrics_{};  // as taken with the DPI
   int width_ = 0;
   int height_ = 0;
   PixelBox place_;

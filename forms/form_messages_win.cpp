@@ -1,3 +1,6 @@
+#include <cstring>
+
+#include "forms/appearance/system_look.h"
 #include "forms/focus.h"
 #include "forms/form.h"
 #include "forms/geometry.h"
@@ -109,12 +112,18 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_GETDPISCALEDSIZE:
       // The size that WM_DPICHANGED then suggests is the one that rescale() sets.
-      *reinterpret_cast<SIZE*>(lParam) = outerPixels(width_, height_, static_cast<int>(wParam));
+      *reinterpret_cast<SIZE*>(lParam) = sizeAt(static_cast<int>(wParam));
       return TRUE;
     case WM_SYSCOLORCHANGE:
+      // The system sends it to top-level windows alone, and the common controls need it.
       for (const Widget* widget : widgets())
         SendMessageW(widget->handle(), message, wParam, lParam);
+      takeSystemLook();
       return 0;
+    case WM_SETTINGCHANGE:
+    case WM_THEMECHANGED:
+      takeSystemLook();
+      break;
     case WM_SETCURSOR:
       if (mousePointer_ != nullptr && LOWORD(lParam) == HTCLIENT) {
         SetCursor(mousePointer_);
@@ -217,16 +226,49 @@ void Form::giveFocusBack() {
 // A maximised window takes the rectangle that Windows suggests; any other keeps its size in twips,
 // and its place is the suggested one, so that it does not leap between two monitors while it is
 // dragged.
-void Form::rescale(int dpi, const RECT& suggested) {
-  dpi_ = dpi;
+void Form::rescale(int monitorDpi, const RECT& suggested) {
+  takeDpi(monitorDpi);
   resizedFor_ = {-1, -1};
   showIcons();
   for (Widget* widget : widgets()) widget->rescale();
+  if (isMinimised()) {
+    // Its size is that to which it is restored.
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    GetWindowPlacement(handle_, &placement);
+    RECT& restored = placement.rcNormalPosition;
+    const SIZE size = outerPixels(width_, height_);
+    restored.right = restored.left + size.cx;
+    restored.bottom = restored.top + size.cy;
+    placement.showCmd = SW_SHOWMINNOACTIVE;
+    SetWindowPlacement(handle_, &placement);
+    return;
+  }
   const SIZE outer = IsZoomed(handle_) != FALSE
                          ? SIZE{suggested.right - suggested.left, suggested.bottom - suggested.top}
-                         : outerPixels(width_, height_, dpi_);
+                         : outerPixels(width_, height_);
   SetWindowPos(handle_, nullptr, suggested.left, suggested.top, outer.cx, outer.cy,
                SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+SIZE Form::sizeAt(int monitorDpi) const {
+  const double scale = textScale(windowMetrics(monitorDpi), monitorDpi);
+  return outerPixels(width_, height_, layoutDpiAt(monitorDpi, scale), monitorDpi);
+}
+
+// After any change of a setting: which one it was is told in too many ways. Colours are read again
+// at once. Fonts and frames only if they are others: then as for a new DPI, at the place that the
+// window has, or nearest to it where it would leave its monitor.
+void Form::takeSystemLook() {
+  for (Widget* widget : widgets()) widget->recolor();
+  const NONCLIENTMETRICSW now = windowMetrics(monitorDpi_);
+  if (std::memcmp(&now, &metrics_, sizeof now) == 0) return;
+  const PixelBox before = place();
+  rescale(monitorDpi_, {before.left, before.top, before.right, before.bottom});
+  if (design_.growsWithTexts && !isMinimised() && IsZoomed(handle_) == FALSE) {
+    const RECT work = win32::monitorOf(handle_).work;
+    setPlace(centred(place(), place(), {work.left, work.top, work.right, work.bottom}));
+  }
 }
 
 }  // namespace forms

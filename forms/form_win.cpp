@@ -1,9 +1,12 @@
 #include "forms/form.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 #include <vector>
 
+#include "forms/appearance/system_look.h"
+#include "forms/appearance/text_size.h"
 #include "forms/focus.h"
 #include "forms/geometry.h"
 #include "forms/stacking.h"
@@ -101,7 +104,7 @@ void Form::createWindow() {
   if (handle_ == nullptr) {
     win32::throwLastError();
   }
-  dpi_ = static_cast<int>(GetDpiForWindow(handle_));
+  takeDpi(static_cast<int>(GetDpiForWindow(handle_)));
   showIcons();
 }
 
@@ -109,8 +112,8 @@ void Form::createWindow() {
 // are freed once they are replaced.
 void Form::showIcons() {
   if (design_.iconResource == 0) return;
-  bigIcon_ = loadIcon(design_.iconResource, SM_CXICON, dpi_);
-  smallIcon_ = loadIcon(design_.iconResource, SM_CXSMICON, dpi_);
+  bigIcon_ = loadIcon(design_.iconResource, SM_CXICON, monitorDpi_);
+  smallIcon_ = loadIcon(design_.iconResource, SM_CXSMICON, monitorDpi_);
   SendMessageW(handle_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(bigIcon_.get()));
   SendMessageW(handle_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(smallIcon_.get()));
 }
@@ -175,11 +178,30 @@ void Form::unload() {
   onUnloaded.raise();
 }
 
-SIZE Form::outerPixels(int width, int height, int dpi) const {
+SIZE Form::outerPixels(int width, int height, int layoutDpi, int monitorDpi) const {
   const SIZE inDesign = designFrameOf(design_);
-  const SIZE real = win32::frameOf(styleOf(design_), exStyleOf(design_), dpi);
-  return {clientPixels(width, inDesign.cx, dpi) + real.cx,
-          clientPixels(height, inDesign.cy, dpi) + real.cy};
+  const SIZE real = win32::frameOf(styleOf(design_), exStyleOf(design_), monitorDpi);
+  return {clientPixels(width, inDesign.cx, layoutDpi) + real.cx,
+          clientPixels(height, inDesign.cy, layoutDpi) + real.cy};
+}
+
+SIZE Form::outerPixels(int width, int height) const {
+  return outerPixels(width, height, dpi_, monitorDpi_);
+}
+
+int Form::layoutDpiAt(int monitorDpi, double scale) const {
+  if (!design_.growsWithTexts) return monitorDpi;
+  const SIZE window = outerPixels(design_.width, design_.height, monitorDpi, monitorDpi);
+  const PixelBox work = toBox(win32::monitorOf(handle_).work);
+  return layoutDpi(monitorDpi, scale, {window.cx, window.cy}, {work.width(), work.height()});
+}
+
+void Form::takeDpi(int monitorDpi) {
+  monitorDpi_ = monitorDpi;
+  metrics_ = windowMetrics(monitorDpi);
+  const double scale = textScale(metrics_, monitorDpi);
+  textDpi_ = design_.fixedTexts ? monitorDpi : static_cast<int>(std::lround(monitorDpi * scale));
+  dpi_ = layoutDpiAt(monitorDpi, scale);
 }
 
 SIZE Form::outerTwipsOf(SIZE client) const {
@@ -199,12 +221,12 @@ void Form::takeClientSize() {
 // Limits what the user can do with the frame: setSize limits what code does.
 void Form::limitTracking(MINMAXINFO& limits) const {
   if (design_.frame != Frame::kSizable) return;
-  const SIZE largest = outerPixels(kMaxSize, kMaxSize, dpi_);
+  const SIZE largest = outerPixels(kMaxSize, kMaxSize);
   limits.ptMaxTrackSize = {largest.cx, largest.cy};
   limits.ptMaxSize = {std::min(limits.ptMaxSize.x, largest.cx),
                       std::min(limits.ptMaxSize.y, largest.cy)};
   if (design_.leastWidth == 0) return;
-  const SIZE least = outerPixels(design_.leastWidth, design_.leastHeight, dpi_);
+  const SIZE least = outerPixels(design_.leastWidth, design_.leastHeight);
   limits.ptMinTrackSize = {least.cx, least.cy};
 }
 
@@ -212,7 +234,7 @@ void Form::setSize(int width, int height) {
   width_ = std::clamp(width, 0, kMaxSize);
   height_ = std::clamp(height, 0, kMaxSize);
   sizeSet_ = {width_, height_};
-  const SIZE outer = outerPixels(width_, height_, dpi_);
+  const SIZE outer = outerPixels(width_, height_);
   SetWindowPos(handle_, nullptr, 0, 0, outer.cx, outer.cy,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -237,11 +259,11 @@ void Form::setPosition(int left, int top) {
 // Windows documents that the size and place are those of WM_SIZING's rectangle after the message.
 // Returns whether the rectangle was changed.
 bool Form::correctSizing(WPARAM side, RECT& rect) const {
-  const SIZE frame = win32::frameOf(styleOf(design_), exStyleOf(design_), dpi_);
+  const SIZE frame = win32::frameOf(styleOf(design_), exStyleOf(design_), monitorDpi_);
   SIZE pixels{rect.right - rect.left, rect.bottom - rect.top};
   const SIZE wanted = outerTwipsOf({pixels.cx - frame.cx, pixels.cy - frame.cy});
   const SIZE size = sizeWhenDraggedTo(wanted);
-  const SIZE corrected = outerPixels(size.cx, size.cy, dpi_);
+  const SIZE corrected = outerPixels(size.cx, size.cy);
   if (size.cx != wanted.cx) pixels.cx = corrected.cx;
   if (size.cy != wanted.cy) pixels.cy = corrected.cy;
   const bool byLeft = side == WMSZ_LEFT || side == WMSZ_TOPLEFT || side == WMSZ_BOTTOMLEFT;
@@ -256,7 +278,7 @@ bool Form::correctSizing(WPARAM side, RECT& rect) const {
 void Form::moveTo(int left, int top) {
   SetWindowPos(handle_, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   const int dpi = static_cast<int>(GetDpiForWindow(handle_));
-  if (dpi != dpi_) rescale(dpi, {left, top, left, top});
+  if (dpi != monitorDpi_) rescale(dpi, {left, top, left, top});
 }
 
 // Both first move onto the monitor, whose DPI decides on the size in pixels.
@@ -274,8 +296,8 @@ void Form::placeBackAt(const PixelBox& place) {
   const POINT middle{(place.left + place.right) / 2, place.top};
   const PixelBox work = toBox(win32::monitorAt(middle).work);
   moveTo(work.left, work.top);
-  const int titleHeight = GetSystemMetricsForDpi(SM_CYCAPTION, static_cast<UINT>(dpi_)) +
-                          GetSystemMetricsForDpi(SM_CYSIZEFRAME, static_cast<UINT>(dpi_));
+  const int titleHeight = GetSystemMetricsForDpi(SM_CYCAPTION, static_cast<UINT>(monitorDpi_)) +
+                          GetSystemMetricsForDpi(SM_CYSIZEFRAME, static_cast<UINT>(monitorDpi_));
   const PixelBox wanted{place.left, place.top, place.left + place_.width(),
                         place.top + place_.height()};
   const PixelBox found = withTitleBarOn(wanted, work, titleHeight);

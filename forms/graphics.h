@@ -15,8 +15,14 @@ struct Font {
   bool fixedPitch = false;  ///< if the face is missing, Windows takes one of fixed pitch
 };
 
-/// Creates the system's font object for `font` at `dpi`. Throws std::runtime_error if Windows
-/// cannot create it.
+/// Returns the system's description of `font` for a monitor of `dpi`. A font with a face is scaled
+/// to `textDpi` instead, which is larger where the user has made texts larger; the system's own
+/// font is larger then anyway.
+LOGFONTW describe(const Font& font, int dpi, int textDpi);
+
+/// Creates a font object. Throws std::runtime_error if Windows cannot create it.
+win32::OwnedFont makeFont(const LOGFONTW& description);
+/// The same for `font` at `dpi`.
 win32::OwnedFont makeFont(const Font& font, int dpi);
 
 /// An icon of the program's resources, drawn once for each size that is asked for. Copies share one

@@ -4,18 +4,11 @@
 #include <cmath>
 #include <map>
 
+#include "forms/appearance/system_look.h"
 #include "win32/win32.h"
 
 namespace forms {
 namespace {
-
-LOGFONTW messageFont(int dpi) {
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = sizeof metrics;
-  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0,
-                             static_cast<UINT>(dpi));
-  return metrics.lfMessageFont;
-}
 
 /// A negative height is that of the letters, as points count, without the line's leading.
 LOGFONTW namedFont(const Font& font, int dpi) {
@@ -32,8 +25,13 @@ LOGFONTW namedFont(const Font& font, int dpi) {
 
 }  // namespace
 
-win32::OwnedFont makeFont(const Font& font, int dpi) {
-  const LOGFONTW description = font.face.empty() ? messageFont(dpi) : namedFont(font, dpi);
+LOGFONTW describe(const Font& font, int dpi, int textDpi) {
+  return font.face.empty() ? windowMetrics(dpi).lfMessageFont : namedFont(font, textDpi);
+}
+
+win32::OwnedFont makeFont(const Font& font, int dpi) { return makeFont(describe(font, dpi, dpi)); }
+
+win32::OwnedFont makeFont(const LOGFONTW& description) {
   win32::OwnedFont made(CreateFontIndirectW(&description));
   if (!made) win32::throwLastError();
   return made;

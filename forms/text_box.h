@@ -45,6 +45,8 @@ class TextBox : public Widget {
 
  protected:
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  /// A line fits if it is not higher than the box; a note, if all of it is seen.
+  [[nodiscard]] bool fits(HDC dc, const RECT& room) const override;
 
  private:
   void paste();

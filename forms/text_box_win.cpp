@@ -28,11 +28,29 @@ TextBox::TextBox(WidgetHost& form, const WidgetBox& box, Look look)
     : Widget(form, {L"EDIT", styleOf(look) | WS_TABSTOP, WS_EX_CLIENTEDGE}, box), look_(look) {
   // The control takes a committed text whole, not by a WM_CHAR for each of its characters.
   if (look == Look::kLine) send(EM_SETIMESTATUS, EMSIS_COMPOSITIONSTRING, EIMES_GETCOMPSTRATONCE);
+  keepFitting();
 }
 
 std::u16string TextBox::text() const { return windowText(handle()); }
 
-void TextBox::setText(const std::u16string& text) { SetWindowTextW(handle(), win32::wide(text)); }
+void TextBox::setText(const std::u16string& text) {
+  SetWindowTextW(handle(), win32::wide(text));
+  if (look_ == Look::kNote) fitText();
+}
+
+bool TextBox::fits(HDC dc, const RECT& room) const {
+  if (look_ == Look::kLine) {
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(dc, &metrics);
+    return metrics.tmHeight <= room.bottom;
+  }
+  RECT inner{};
+  send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&inner));
+  RECT needed = inner;
+  DrawTextW(dc, win32::wide(text()), -1, &needed,
+            DT_CALCRECT | DT_WORDBREAK | DT_EDITCONTROL | DT_EXPANDTABS | DT_NOPREFIX);
+  return needed.right <= inner.right && needed.bottom <= room.bottom;
+}
 
 void TextBox::insert(const std::u16string& text) {
   send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(win32::wide(text)));

@@ -35,8 +35,14 @@ class WidgetHost : public FocusTarget {
  public:
   /// The form's window; nullptr after it was destroyed.
   [[nodiscard]] HWND handle() const { return handle_; }
-  /// The DPI of the monitor that the form is on.
+  /// The DPI in which the form is laid out: that of the monitor that it is on, or more for a form
+  /// that grows with its texts.
   [[nodiscard]] int dpi() const { return dpi_; }
+  /// The DPI of that monitor, for what the system gives at one.
+  [[nodiscard]] int monitorDpi() const { return monitorDpi_; }
+  /// The DPI in which texts are drawn: more than the monitor's where the user has made texts
+  /// larger.
+  [[nodiscard]] int textDpi() const { return textDpi_; }
 
   /// The colour that the form's own drawings take.
   void setForeColor(COLORREF color) { foreColor_ = color; }
@@ -63,6 +69,8 @@ class WidgetHost : public FocusTarget {
 
   HWND handle_ = nullptr;
   int dpi_ = 96;
+  int monitorDpi_ = 96;
+  int textDpi_ = 96;
 
  private:
   void createToolTip();
@@ -100,6 +108,7 @@ class Widget : public FocusTarget {
   void setEnabled(bool enabled);
   /// Moves the focus here and raises the focus events before it returns.
   void setFocus();
+  /// A widget that shows a text of the program's takes a smaller size where that text would be cut.
   /// Throws std::runtime_error if the font cannot be created; the old one is kept then.
   void setFont(Font font);
   /// Sets the tool tip. A control without a text of its own takes it as its text, which screen
@@ -130,6 +139,8 @@ class Widget : public FocusTarget {
   virtual LRESULT notify(const NMHDR& header);
   /// Called after the form's DPI has changed.
   virtual void rescale();
+  /// Called after the user may have changed the system's colours or its high contrast.
+  virtual void recolor() {}
   /// Returns whether the widget takes the mouse at a point beside it, in screen pixels.
   [[nodiscard]] virtual bool grabs(POINT /*screen*/) const { return false; }
 
@@ -141,6 +152,17 @@ class Widget : public FocusTarget {
 
  protected:
   virtual LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  /// Returns whether the widget's text fits into its client area, `room`, in the font that is
+  /// selected into `dc`.
+  [[nodiscard]] virtual bool fits(HDC /*dc*/, const RECT& /*room*/) const { return true; }
+  /// Chooses the font's size anew, for a text or a place that is new.
+  void fitText();
+  /// From now on does so whenever the widget gets another size; for constructors of classes with a
+  /// fits() of their own.
+  void keepFitting() {
+    keepsFitting_ = true;
+    fitText();
+  }
   LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
     return SendMessageW(handle_, message, wParam, lParam);
   }
@@ -155,12 +177,14 @@ class Widget : public FocusTarget {
   /// a menu that the key opens would take it for a choice.
   void dropCharacterOf(WPARAM key) const;
   void applyBox();
+  [[nodiscard]] bool fitsAt(LOGFONTW description, int height, const RECT& room) const;
 
   WidgetHost& form_;
   HWND handle_ = nullptr;
   WNDPROC controlProc_ = nullptr;  // the control's own
   WidgetBox box_;
   Font font_;
+  bool keepsFitting_ = false;
   win32::OwnedFont systemFont_;
   std::u16string toolTip_;
 };

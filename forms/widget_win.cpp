@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/appearance/text_size.h"
 #include "forms/focus.h"
 #include "forms/geometry.h"
 #include "forms/stacking.h"
@@ -13,6 +14,9 @@
 // form, by HTTRANSPARENT, where a neighbour grabs it, and the form passes it on.
 namespace forms {
 namespace {
+
+/// Texts are made no smaller to fit, in twips: 6 pixels at 96 dpi.
+constexpr int kLeastHeight = 90;
 
 /// A tool tip asks itself, by this message, which window is under the pointer before it shows that
 /// window's text. Beside a widget that takes the mouse there too, it is to show the widget's: then
@@ -241,8 +245,13 @@ void Widget::applyBox() {
   // Edges are rounded, not lengths: neighbours in twips stay neighbours in pixels.
   const int right = toPixels(box_.left + box_.width, dpi);
   const int bottom = toPixels(box_.top + box_.height, dpi);
+  RECT before{};
+  GetClientRect(handle_, &before);
   SetWindowPos(handle_, nullptr, left, top, std::max(right - left, 0), std::max(bottom - top, 0),
                SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+  RECT room{};
+  GetClientRect(handle_, &room);
+  if (keepsFitting_ && !EqualRect(&before, &room)) fitText();
 }
 
 void Widget::setVisible(bool visible) { ShowWindow(handle_, visible ? SW_SHOWNA : SW_HIDE); }
@@ -256,9 +265,33 @@ void Widget::setFocus() {
 
 void Widget::setFont(Font font) {
   font_ = std::move(font);
-  auto made = makeFont(font_, form_.dpi());
+  fitText();
+}
+
+void Widget::fitText() {
+  LOGFONTW description = describe(font_, form_.monitorDpi(), form_.textDpi());
+  RECT room{};
+  GetClientRect(handle_, &room);
+  if (description.lfHeight < 0 && room.right > 0 && room.bottom > 0) {
+    const auto wanted = static_cast<int>(-description.lfHeight);
+    const int least = toPixels(kLeastHeight, form_.monitorDpi());
+    description.lfHeight = -largestFitting(
+        wanted, least, [&](int height) { return fitsAt(description, height, room); });
+  }
+  auto made = makeFont(description);
   send(WM_SETFONT, reinterpret_cast<WPARAM>(made.get()), TRUE);
   systemFont_ = std::move(made);
+}
+
+bool Widget::fitsAt(LOGFONTW description, int height, const RECT& room) const {
+  description.lfHeight = -height;
+  const auto font = makeFont(description);
+  HDC dc = GetDC(handle_);
+  const HGDIOBJ before = SelectObject(dc, font.get());
+  const bool result = fits(dc, room);
+  SelectObject(dc, before);
+  ReleaseDC(handle_, dc);
+  return result;
 }
 
 void Widget::setToolTip(const std::u16string& text) {
@@ -274,9 +307,10 @@ void Widget::command(WORD /*code*/) {}
 
 LRESULT Widget::notify(const NMHDR& /*header*/) { return 0; }
 
+// The place first: the font is chosen for it.
 void Widget::rescale() {
-  setFont(font_);
   applyBox();
+  fitText();
 }
 
 std::u16string windowText(HWND window) {

@@ -19,6 +19,7 @@ forms::FormDesign design() {
   design.name = u"frmdictSetting";
   design.caption = u"字典设置";
   design.width = query::kSettingsWidth;
+  design.growsWithTexts = true;
   design.height = query::kSettingsHeight;
   design.leastWidth = query::kSettingsMinWidth;
   design.leastHeight = query::kSettingsMinHeight;

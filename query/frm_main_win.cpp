@@ -32,6 +32,7 @@ forms::FormDesign design() {
   design.name = u"frmMain";
   design.caption = u" 多功能查询 V" LEXILO_VERSION;  // Deliberate: the blank
   design.width = query::kOpeningWidth;
+  design.growsWithTexts = true;
   design.height = query::kOpeningHeight;
   design.leastWidth = query::kMinWidth;
   design.leastHeight = query::kMinHeight;

@@ -11,6 +11,7 @@ forms::FormDesign design() {
   design.name = u"frmSpc";
   design.caption = u"特殊查询";
   design.frame = forms::Frame::kDialog;
+  design.growsWithTexts = true;
   design.width = 4140;
   design.height = 2175;
   design.iconResource = forms::kProgramIcon;

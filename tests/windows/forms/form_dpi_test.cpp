@@ -37,12 +37,12 @@ class FormDpi : public WindowTest {
 
 TEST_F(FormDpi, WidgetsAndFontsFollow) {
   auto& form = shown();
-  form.first.setFont({u"宋体", 12});
+  form.first.setFont({u"宋体", 9});
   EXPECT_EQ(form.dpi(), 96);
-  EXPECT_EQ(fontHeight(form.first), -16);
+  EXPECT_EQ(fontHeight(form.first), -12);
   moveToMonitorOf(144, form);
   EXPECT_EQ(form.dpi(), 144);
-  EXPECT_EQ(fontHeight(form.first), -24);
+  EXPECT_EQ(fontHeight(form.first), -18);
   const RECT box = pixelBox(form.first);
   EXPECT_EQ(box.left, 15);
   EXPECT_EQ(box.top, 15);
