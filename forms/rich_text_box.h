@@ -1,7 +1,9 @@
 #pragma once
 
 #include <initializer_list>
+#include <optional>
 #include <string_view>
+#include <vector>
 
 #include "forms/widget.h"
 
@@ -13,15 +15,16 @@ struct TextRun {
   COLORREF color = 0;
 };
 
-/// A read-only pane of coloured text. Positions and lengths are UTF-16 code units of the text as it
-/// was set, from 0, where CR LF counts two. No line is broken directly after the blank that it
-/// begins with.
+/// A read-only pane of coloured text, on a background on which its colours can be read: white where
+/// the theme's is too dark for them, and in high contrast. Positions and lengths are UTF-16 code
+/// units of the text as it was set, from 0, where CR LF counts two. No line is broken directly
+/// after the blank that it begins with.
 class RichTextBox : public Widget {
  public:
   enum class Look {
     kPane,     ///< a sunken part of a window
-    kToolTip,  ///< all of a window that looks like a tool tip: its colours, a thin edge, no tab
-               ///< stop
+    kToolTip,  ///< all of a window that looks like a tool tip: its background, a thin edge, no
+               ///< tab stop; only the characters get another background
   };
 
   RichTextBox(WidgetHost& form, const WidgetBox& box, Look look = Look::kPane);
@@ -43,6 +46,9 @@ class RichTextBox : public Widget {
   /// from now on.
   void setHangingIndent(int twips);
 
+  void rescale() override;
+  void recolor() override { showBackground(); }
+
  protected:
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
@@ -50,8 +56,16 @@ class RichTextBox : public Widget {
   [[nodiscard]] TwipPoint caretPlace() const;
   void copy() const;
   void keepMargins();
+  void colorRuns();
+  void showBackground();
 
+  struct ColoredLength {
+    std::size_t length;
+    COLORREF color;
+  };
   Look look_;
+  std::vector<ColoredLength> runs_;
+  std::optional<COLORREF> behind_;  // the control's background
   std::u16string text_;
   int hangingIndent_ = 0;
 };

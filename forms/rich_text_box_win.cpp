@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/appearance/system_look.h"
 #include "forms/clipboard.h"
 #include "forms/geometry.h"
 #include "forms/text_lines.h"
@@ -46,12 +47,27 @@ wchar_t* givenText(UINT message, WPARAM wParam, LPARAM lParam) {
 RichTextBox::RichTextBox(WidgetHost& form, const WidgetBox& box, Look look)
     : Widget(form, kindOf(look), box), look_(look) {
   send(EM_SETUNDOLIMIT, 0);
-  if (look == Look::kToolTip) {
-    send(EM_SETBKGNDCOLOR, FALSE, static_cast<LPARAM>(GetSysColor(COLOR_INFOBK)));
-    keepMargins();
-  } else {
-    send(EM_SETBKGNDCOLOR, TRUE);
+  if (look == Look::kToolTip) keepMargins();
+  showBackground();
+}
+
+// A tool tip's back colour stays that of tool tips: its characters get one of their own.
+void RichTextBox::showBackground() {
+  std::vector<std::uint32_t> colors;
+  for (const ColoredLength& run : runs_) colors.push_back(run.color);
+  const int index = look_ == Look::kToolTip ? COLOR_INFOBK : COLOR_WINDOW;
+  const COLORREF background = systemBackgroundFor(colors, index);
+  const COLORREF behind = look_ == Look::kPane ? background : GetSysColor(index);
+  if (std::exchange(behind_, behind) != behind) {
+    send(EM_SETBKGNDCOLOR, FALSE, static_cast<LPARAM>(behind));
   }
+  if (look_ == Look::kPane) return;
+  CHARFORMAT2W format{};
+  format.cbSize = sizeof format;
+  format.dwMask = CFM_BACKCOLOR;
+  format.crBackColor = background;
+  if (background == GetSysColor(index)) format.dwEffects = CFE_AUTOBACKCOLOR;
+  send(EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
 }
 
 // The formatting rectangle is lost when the control is resized.
@@ -68,6 +84,7 @@ void RichTextBox::keepMargins() {
 // therefore holds no-break spaces there, and handleMessage gives them out as blanks.
 void RichTextBox::setText(const std::u16string& text) {
   text_ = text;
+  runs_.clear();
   SetWindowTextW(handle(), win32::wide(withFirmBlanks(text)));
   if (hangingIndent_ == 0 || text.empty()) return;
   PARAFORMAT format{};
@@ -84,13 +101,30 @@ void RichTextBox::setRuns(std::initializer_list<TextRun> runs, std::size_t caret
   for (const TextRun& run : runs) text += run.text;
   const ScopedRepaintHold held(*this);
   setText(text);
-  std::size_t start = 0;
-  for (const TextRun& run : runs) {
-    select(start, run.text.size());
-    setSelColor(run.color);
-    start += run.text.size();
-  }
+  for (const TextRun& run : runs) runs_.push_back({run.text.size(), run.color});
+  colorRuns();
   select(caret, 0);
+}
+
+void RichTextBox::colorRuns() {
+  std::size_t start = 0;
+  for (const ColoredLength& run : runs_) {
+    select(start, run.length);
+    setSelColor(run.color);
+    start += run.length;
+  }
+  showBackground();
+}
+
+// Whether WM_SETFONT leaves the characters their colours is documented nowhere.
+void RichTextBox::rescale() {
+  const std::size_t start = selStart();
+  const std::size_t length = selLength();
+  const ScopedRepaintHold held(*this);
+  Widget::rescale();
+  if (runs_.empty()) return;
+  colorRuns();
+  select(start, length);
 }
 
 void RichTextBox::setHangingIndent(int twips) { hangingIndent_ = twips; }
