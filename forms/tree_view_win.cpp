@@ -221,7 +221,7 @@ void TreeView::drawRow(const NMCUSTOMDRAW& drawing) const {
   RECT row{};
   GetClientRect(handle(), &row);
   row.top = place.top;
-  row.bottom = place.bottom;
+  row.bottom = place.top + static_cast<LONG>(send(TVM_GETITEMHEIGHT));
   const bool selected = (drawing.uItemState & CDIS_SELECTED) != 0;
   const bool focused = GetFocus() == handle();
   const RowColors colors = colorsOf(selected, focused || keepsHighlight_);

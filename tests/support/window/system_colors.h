@@ -45,11 +45,15 @@ class HighContrast {
 
  private:
   static BOOL WINAPI ask(UINT action, UINT parameter, void* data, UINT flags) {
-    if (action != SPI_GETHIGHCONTRAST) {
-      return SystemParametersInfoForDpi(action, parameter, data, flags, 96);
-    }
+    if (action != SPI_GETHIGHCONTRAST) return system()(action, parameter, data, flags);
     static_cast<HIGHCONTRASTW*>(data)->dwFlags = HCF_HIGHCONTRASTON | HCF_AVAILABLE;
     return TRUE;
+  }
+
+  /// The system's own function: the import, which is shared, leads to ask().
+  static decltype(&SystemParametersInfoW) system() {
+    return reinterpret_cast<decltype(&SystemParametersInfoW)>(reinterpret_cast<void*>(
+        GetProcAddress(GetModuleHandleW(L"user32"), "SystemParametersInfoW")));
   }
 
   static constexpr std::array<SystemColors::Color, 12> kColors = {{

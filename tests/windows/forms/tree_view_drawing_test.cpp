@@ -200,5 +200,20 @@ TEST_F(TreeViewDrawing, InHighContrastTheSelectedRowIsSeenWithoutTheFocusToo) {
   EXPECT_TRUE(eventually([] { return rowIs(2, COLOR_HIGHLIGHT) && rowIs(1, COLOR_WINDOW); }));
 }
 
+TEST_F(TreeViewDrawing, RowsLeaveNothingBetweenThem) {
+  for (int i = 0; i < 4; ++i) list().add(kShort);
+  forms::doEvents();
+  const SystemColors colors(std::array<SystemColors::Color, 1>{{{COLOR_WINDOW, RGB(1, 2, 3)}}});
+  list().refresh();
+  RECT rows = treeNodeRect(list().handle(), 1).value_or(RECT{});
+  rows.bottom = treeNodeRect(list().handle(), 3).value_or(RECT{}).top;
+  rows.left = clientRectOf(list().handle()).right - 8;
+  rows.right = rows.left + 4;
+  EXPECT_TRUE(eventually([&] {
+    const auto pixels = screenPixels(rows);
+    return std::ranges::count(pixels, RGB(1, 2, 3)) == std::ssize(pixels);
+  }));
+}
+
 }  // namespace
 }  // namespace support
