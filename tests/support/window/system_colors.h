@@ -10,7 +10,8 @@ extern "C" decltype(&SystemParametersInfoW) __imp_SystemParametersInfoW;
 
 namespace support {
 
-/// Other system colours while it lives, for all windows, which are told (WM_SYSCOLORCHANGE).
+/// Other system colours while it lives, for all windows, which are told (WM_SYSCOLORCHANGE). Wine
+/// makes new brushes for them (GetSysColorBrush), also when they are set back.
 class SystemColors {
  public:
   struct Color {
@@ -38,7 +39,8 @@ class SystemColors {
   std::array<COLORREF, kMost> before_{};
 };
 
-/// The system with a high-contrast theme of light texts on black while it lives.
+/// The system with a high-contrast theme of light texts on black while it lives. The colours of a
+/// selection stay: another test compares their brush with that of a class registered before.
 class HighContrast {
  public:
   HighContrast() : colors_(kColors), import_(__imp_SystemParametersInfoW, &ask) {}
@@ -56,13 +58,11 @@ class HighContrast {
         GetProcAddress(GetModuleHandleW(L"user32"), "SystemParametersInfoW")));
   }
 
-  static constexpr std::array<SystemColors::Color, 12> kColors = {{
+  static constexpr std::array<SystemColors::Color, 10> kColors = {{
       {COLOR_WINDOW, RGB(0, 0, 0)},
       {COLOR_WINDOWTEXT, RGB(255, 255, 255)},
       {COLOR_BTNFACE, RGB(0, 0, 0)},
       {COLOR_BTNTEXT, RGB(255, 255, 255)},
-      {COLOR_HIGHLIGHT, RGB(26, 235, 255)},
-      {COLOR_HIGHLIGHTTEXT, RGB(0, 0, 0)},
       {COLOR_INFOBK, RGB(0, 0, 0)},
       {COLOR_INFOTEXT, RGB(255, 255, 255)},
       {COLOR_GRAYTEXT, RGB(63, 242, 63)},

@@ -203,16 +203,19 @@ TEST_F(TreeViewDrawing, InHighContrastTheSelectedRowIsSeenWithoutTheFocusToo) {
 TEST_F(TreeViewDrawing, RowsLeaveNothingBetweenThem) {
   for (int i = 0; i < 4; ++i) list().add(kShort);
   forms::doEvents();
-  const SystemColors colors(std::array<SystemColors::Color, 1>{{{COLOR_WINDOW, RGB(1, 2, 3)}}});
+  constexpr COLORREF kBehind = RGB(1, 2, 3);
+  SendMessageW(list().handle(), TVM_SETBKCOLOR, 0, kBehind);
   list().refresh();
   RECT rows = treeNodeRect(list().handle(), 1).value_or(RECT{});
   rows.bottom = treeNodeRect(list().handle(), 3).value_or(RECT{}).top;
   rows.left = clientRectOf(list().handle()).right - 8;
   rows.right = rows.left + 4;
+  // Below the rows it is seen.
   EXPECT_TRUE(eventually([&] {
-    const auto pixels = screenPixels(rows);
-    return std::ranges::count(pixels, RGB(1, 2, 3)) == std::ssize(pixels);
+    const RECT below = {rows.left, rows.bottom + 30, rows.right, rows.bottom + 32};
+    return screenPixels(below).at(0) == kBehind;
   }));
+  EXPECT_EQ(std::ranges::count(screenPixels(rows), kBehind), 0);
 }
 
 }  // namespace
