@@ -1,8 +1,6 @@
 #pragma once
 
-#include <string>
 #include <string_view>
-#include <vector>
 
 /// Telling the equivalent in a gloss from what explains it. Glosses are without notes, Chinese
 /// words and accents, and not empty. The functions are pure.
@@ -12,17 +10,6 @@ namespace dictionary {
 /// capital of Greenland", "wet market, i.e. a marketplace". A name of a place ends with its kind:
 /// "Jiaocheng county in Lüliang". The view refers into `gloss`.
 std::u16string_view withoutApposition(std::u16string_view gloss);
-
-/// Returns the equivalents of a gloss that lists single words or verbs, "feast, banquet", "to sift,
-/// to strain", or spellings of a name, "Clark or Clarke". Returns the gloss itself where a comma
-/// does anything else. `names`: capitalised words are a list as well, not a place and its country.
-/// The views refer into `gloss`.
-std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bool names);
-
-/// Returns the names of a place of which the kind is written once, each with its kind: "Luye
-/// township" and "Luyeh township" for "Luye or Luyeh township". Any other text is returned as it
-/// is.
-std::vector<std::u16string> namesWithKind(std::u16string_view name);
 
 /// Returns whether the gloss names a place and says so: "Yuci district", "Nuuk, capital of
 /// Greenland".

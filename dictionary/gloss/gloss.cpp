@@ -6,6 +6,7 @@
 
 #include <optional>
 
+#include "dictionary/gloss/alternatives.h"
 #include "dictionary/gloss/appositions.h"
 #include "dictionary/gloss/descriptions.h"
 #include "dictionary/gloss/english.h"

@@ -2,17 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace {
 
 using dictionary::describesPlace;
 using dictionary::withoutApposition;
-using Views = std::vector<std::u16string_view>;
-
-Views listed(std::u16string_view gloss) { return dictionary::listedEquivalents(gloss, false); }
 
 // "街市 | wet market, i.e. a marketplace …", "麦冬 | dwarf lilyturf, whose tuber is used in TCM",
 // "蛋氨酸 | methionine, an essential amino acid", "四大发明 | the four great Chinese inventions: …"
@@ -105,16 +100,6 @@ TEST(WithoutApposition, CutsWhereTheNameIsAPlace) {
   EXPECT_EQ(withoutApposition(u"Irish Sea between Ireland and north England"), u"Irish Sea");
 }
 
-TEST(NamesWithKind, GivesEachNameTheKind) {
-  using Names = std::vector<std::u16string>;
-  using dictionary::namesWithKind;
-  EXPECT_EQ(namesWithKind(u"Luye or Luyeh township"), (Names{u"Luye township", u"Luyeh township"}));
-  for (const std::u16string_view name : {u"Yuci district", u"one or two islands",
-                                         u"Luye or township", u"or city", u"Fu or Fu Hsi"}) {
-    EXPECT_EQ(namesWithKind(name), (Names{std::u16string(name)}));
-  }
-}
-
 // "忽冷忽热 | now hot, now cold", "大球 | sports such as soccer, basketball and volleyball that use
 // large balls", "虎父无犬子 | … With a distinguished father such as you, the son is sure to do
 // well."
@@ -135,39 +120,6 @@ TEST(WithoutApposition, CutsDatesAndOtherNames) {
   EXPECT_EQ(withoutApposition(u"scary to think about coined c. 2013"), u"scary to think about");
   EXPECT_EQ(withoutApposition(u"Lu Jiamin aka Jiang Rong"), u"Lu Jiamin");
   EXPECT_EQ(withoutApposition(u"Uzziah before c. 750 BC"), u"Uzziah before c. 750 BC");
-}
-
-// "劙 | to divide, to partition", "苑 | feast, banquet", "沙坑 | sand trap, bunker"
-TEST(ListedEquivalents, SplitsListsOfWordsAndVerbs) {
-  EXPECT_EQ(listed(u"feast, banquet"), (Views{u"feast", u"banquet"}));
-  EXPECT_EQ(listed(u"to sift, to strain"), (Views{u"to sift", u"to strain"}));
-  EXPECT_EQ(listed(u"sand trap, bunker"), (Views{u"sand trap", u"bunker"}));
-  EXPECT_EQ(listed(u"earthen jug, crock, cistern"), (Views{u"earthen jug", u"crock", u"cistern"}));
-}
-
-// "克拉克 | Clark or Clarke", "利伯曼 | Liberman, Lieberman or Liebermann", "南门二 | Alpha
-// Centauri or Rigel Kentaurus", "光驱 | CD or DVD Drive"
-TEST(ListedEquivalents, SplitsSpellingsOfNames) {
-  EXPECT_EQ(listed(u"Clark or Clarke"), (Views{u"Clark", u"Clarke"}));
-  EXPECT_EQ(listed(u"Liberman, Lieberman or Liebermann"),
-            (Views{u"Liberman", u"Lieberman", u"Liebermann"}));
-  EXPECT_EQ(listed(u"Jimmy, Jimmie, or Jimi"), (Views{u"Jimmy", u"Jimmie", u"Jimi"}));
-  EXPECT_EQ(listed(u"Alpha Centauri or Rigel Kentaurus"),
-            (Views{u"Alpha Centauri", u"Rigel Kentaurus"}));
-  EXPECT_EQ(listed(u"CD or DVD Drive"), (Views{u"CD or DVD Drive"}));
-  EXPECT_EQ(listed(u"Luye or Luyeh township"), (Views{u"Luye or Luyeh township"}));
-  EXPECT_EQ(listed(u"one or two"), (Views{u"one or two"}));
-}
-
-// "杏眼 | large, round eyes", "坑蒙拐骗 | to swindle, scam and deceive", "旧金山", "克里斯汀 |
-// (name) Christine, Kristine, Kristen, Kristin etc"
-TEST(ListedEquivalents, LeavesOtherCommas) {
-  EXPECT_EQ(listed(u"large, round eyes"), (Views{u"large, round eyes"}));
-  EXPECT_EQ(listed(u"to swindle, scam and deceive"), (Views{u"to swindle, scam and deceive"}));
-  EXPECT_EQ(listed(u"quiet, silent, and lonely"), (Views{u"quiet, silent, and lonely"}));
-  EXPECT_EQ(listed(u"Limerick, Ireland"), (Views{u"Limerick, Ireland"}));
-  EXPECT_EQ(dictionary::listedEquivalents(u"Christine, Kristin etc", true),
-            (Views{u"Christine", u"Kristin"}));
 }
 
 // "普定县 | Puding, a county in Anshun City, Guizhou", "榆次区 | Yuci district of Jinzhong city"

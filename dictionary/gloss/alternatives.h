@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Taking apart glosses that give several equivalents. Glosses are without notes, Chinese words and
+/// accents, and not empty. The functions are pure.
+namespace dictionary {
+
+/// Returns the equivalents of a gloss that lists single words or verbs, "feast, banquet", "to sift,
+/// to strain", or spellings of a name, "Clark or Clarke". Returns the gloss itself where a comma
+/// does anything else. `names`: capitalised words are a list as well, not a place and its country.
+/// The views refer into `gloss`.
+std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bool names);
+
+/// Returns the names of a place of which the kind is written once, each with its kind: "Luye
+/// township" and "Luyeh township" for "Luye or Luyeh township". Any other text is returned as it
+/// is.
+std::vector<std::u16string> namesWithKind(std::u16string_view name);
+
+}  // namespace dictionary

@@ -1,0 +1,70 @@
+#include "dictionary/gloss/names.h"
+
+#include <algorithm>
+
+#include "dictionary/gloss/english.h"
+#include "dictionary/gloss/word_list.h"
+#include "dictionary/source/characters.h"
+
+namespace dictionary {
+namespace {
+
+/// A proper name does not begin with these, though its gloss has a comma.
+constexpr std::u16string_view kExclamations =
+    u"Oh|Hey|Well|No|Yes|Ah|If|When|Sorry|Please|OK|I|In|As|There|";
+
+/// Small words inside proper names.
+constexpr std::u16string_view kInNames = u"of|the|and|or|de|von|for|van|da|del|";
+
+constexpr std::u16string_view kKindsOfPlace =
+    u"county|district|city|township|town|prefecture|municipality|province|banner|island|islands|"
+    u"village|subdistrict|peninsula|river|region|lake|mountains|airport|parish|suburb|";
+
+}  // namespace
+
+std::u16string lowered(std::u16string_view word) {
+  std::u16string result(word);
+  if (!result.empty() && isCapital(result[0])) result[0] += u'a' - u'A';
+  return result;
+}
+
+std::vector<std::u16string_view> partsBetweenCommas(std::u16string_view text) {
+  std::vector<std::u16string_view> result;
+  for (std::u16string_view rest = text; !rest.empty();) {
+    const std::u16string_view part = rest.substr(0, rest.find(u", "));
+    if (!part.empty()) result.push_back(part);
+    rest.remove_prefix(std::min(rest.size(), part.size() + 2));
+  }
+  if (result.empty()) result.push_back(text);
+  return result;
+}
+
+bool isSmallWordInNames(std::u16string_view word) { return isListed(kInNames, word); }
+
+bool areCapitalized(std::u16string_view text) {
+  while (!text.empty()) {
+    const std::u16string_view word = firstWord(text);
+    if (word.empty() || !isCapital(word[0])) return false;
+    text.remove_prefix(std::min(text.size(), word.size() + 1));
+  }
+  return true;
+}
+
+bool isKindOfPlace(std::u16string_view word) { return isListed(kKindsOfPlace, lowered(word)); }
+
+bool namesKindOfPlace(std::u16string_view name) {
+  return isCapital(name[0]) && wordCount(name) > 1 && isKindOfPlace(lastWord(name));
+}
+
+bool isName(std::u16string_view text) {
+  if (!isCapital(text[0]) || isListed(kExclamations, firstWord(text))) return false;
+  if (wordCount(text) <= 2 || namesKindOfPlace(text)) return true;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::u16string_view word = firstWord(text.substr(at));
+    if (!isCapital(word[0]) && !isDigit(word[0]) && !isListed(kInNames, word)) return false;
+    at += word.size() + 1;
+  }
+  return true;
+}
+
+}  // namespace dictionary
