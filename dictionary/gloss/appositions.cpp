@@ -51,6 +51,40 @@ bool endsInConjunction(const std::vector<std::u16string_view>& parts) {
          });
 }
 
+/// Returns whether the part ends a list inside a name: capitalised words before and after "and",
+/// then the noun that all share, if any: "Lahu and Va autonomous county in Pu'er", "Gansu and
+/// Ningxia provinces". "British and Irish scientist" says who somebody is.
+bool joinsNames(std::u16string_view part) {
+  std::size_t at = 4;
+  if (!part.starts_with(u"and ")) {
+    const std::u16string_view before = part.substr(0, part.find(u" and "));
+    if (before == part || wordCount(before) > 2 || !areCapitalized(before)) return false;
+    at = before.size() + 5;
+  }
+  std::u16string_view rest = part.substr(at);
+  if (rest.empty() || !isCapital(rest[0])) return false;
+  while (!rest.empty() && isCapital(rest[0])) {
+    rest.remove_prefix(std::min(rest.size(), firstWord(rest).size() + 1));
+  }
+  const std::u16string_view next = firstWord(rest);
+  return next.empty() || isListed(u"in|for|autonomous|", next) || isKindOfPlace(next) ||
+         next.ends_with(u's');
+}
+
+/// Returns the beginning of a name's gloss that is a list of names: "Wei, Jin and North-South
+/// dynasties". Empty if there is none. "NASA, National Aeronautics and Space Administration" is
+/// not.
+std::u16string_view listOfNames(std::u16string_view gloss,
+                                const std::vector<std::u16string_view>& parts) {
+  const bool initials = parts[0][0] == parts[1][0] && std::ranges::all_of(parts[0], isCapital);
+  for (std::size_t i = 1; i < parts.size() && !initials; ++i) {
+    const auto size = static_cast<std::size_t>(parts[i].data() + parts[i].size() - gloss.data());
+    if (joinsNames(parts[i])) return gloss.substr(0, size);
+    if (wordCount(parts[i]) > 2 || !areCapitalized(parts[i])) break;
+  }
+  return {};
+}
+
 /// The first place in `gloss` of any item of the list, but not its beginning; its size if none.
 std::size_t findMarker(std::u16string_view list, std::u16string_view gloss) {
   std::size_t first = gloss.size();
@@ -87,6 +121,8 @@ std::u16string_view withoutMarked(std::u16string_view gloss) {
 std::u16string_view withoutNameTail(std::u16string_view gloss) {
   const std::vector<std::u16string_view> parts = partsBetweenCommas(gloss);
   if (parts.size() == 1 || endsInConjunction(parts)) return gloss;
+  if (const std::u16string_view list = listOfNames(gloss, parts); !list.empty() && isName(parts[0]))
+    return list;
   const bool noun = !isCapital(gloss[0]) && !isVerb(gloss) && wordCount(parts[0]) <= 2 &&
                     wordCount(parts[1]) > 1 && isCapital(parts[1][0]) && parts[1][1] != u' ' &&
                     !isListed(kClauseBeginnings, firstWord(gloss));

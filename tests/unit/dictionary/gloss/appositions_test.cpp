@@ -38,6 +38,40 @@ TEST(WithoutApposition, CutsNames) {
   EXPECT_EQ(withoutApposition(u"China, Japan and Korea"), u"China, Japan and Korea");
 }
 
+// "亚非拉 | Asia, Africa and Latin America", "夏商周 | Xia, Shang and Zhou, the earliest …",
+// "孟连县 | Menglian Dai, Lahu and Va autonomous county in Pu'er …", "威宁…自治县 | Weining Yi,
+// Hui, and Miao Autonomous County, in Bijie City", "帝国理工学院 | Imperial College of Science,
+// Technology …", "国家新闻出版广电总局 | State Administration for Press, Publication, …", "陕甘宁 |
+// Shaanxi, …"
+TEST(WithoutApposition, KeepsListsInsideNames) {
+  for (const std::u16string_view gloss :
+       {u"Asia, Africa and Latin America", u"Shaanxi, Gansu and Ningxia provinces",
+        u"China, Taiwan, Hong Kong and Macau",
+        u"State Administration for Press, Publication, Radio, Film and Television",
+        u"Commission for Science, Technology and Industry for National Defense"}) {
+    EXPECT_EQ(withoutApposition(gloss), gloss);
+  }
+  EXPECT_EQ(withoutApposition(u"Xia, Shang and Zhou, the earliest named Chinese dynasties"),
+            u"Xia, Shang and Zhou");
+  EXPECT_EQ(withoutApposition(u"Menglian Dai, Lahu and Va autonomous county in Pu'er, Yunnan"),
+            u"Menglian Dai, Lahu and Va autonomous county");
+  EXPECT_EQ(withoutApposition(u"Weining Yi, Hui, and Miao Autonomous County, in Bijie City"),
+            u"Weining Yi, Hui, and Miao Autonomous County");
+  EXPECT_EQ(withoutApposition(u"Imperial College of Science, Technology and Medicine, London"),
+            u"Imperial College of Science, Technology and Medicine");
+}
+
+// "波义耳 | Robert Boyle (1627-91), British and Irish scientist …", "韦慕庭 | Clarence Martin
+// Wilbur, US Sinologist and Professor of Columbia University", "美国国家航空航天局 | NASA, National
+// …"
+TEST(WithoutApposition, CutsWhatOnlyLooksLikeAList) {
+  EXPECT_EQ(withoutApposition(u"Robert Boyle, British and Irish scientist"), u"Robert Boyle");
+  EXPECT_EQ(withoutApposition(u"Clarence Martin Wilbur, US Sinologist and Professor of Columbia"),
+            u"Clarence Martin Wilbur");
+  EXPECT_EQ(withoutApposition(u"NASA, National Aeronautics and Space Administration, agency"),
+            u"NASA");
+}
+
 // "开尔文 | Lord Kelvin 1824-1907, British physicist", "秦始皇帝 | the First Emperor 259-210 BC"
 TEST(WithoutApposition, CutsYears) {
   EXPECT_EQ(withoutApposition(u"Lord Kelvin 1824-1907, British physicist"), u"Lord Kelvin");
