@@ -8,6 +8,9 @@
 namespace dictionary {
 namespace {
 
+/// The most words that one gloss lists as equivalents.
+constexpr std::size_t kMaxEquivalents = 6;
+
 bool isVerb(std::u16string_view gloss) { return gloss.starts_with(u"to "); }
 
 /// Returns the spellings in "Liberman, Lieberman or Liebermann": capitalised names of equally many
@@ -34,7 +37,9 @@ std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bo
   const bool open = gloss.ends_with(u" etc");
   std::vector<std::u16string_view> parts =
       partsBetweenCommas(open ? gloss.substr(0, gloss.size() - 4) : gloss);
-  if (parts.size() == 1) return {gloss};
+  // "yeah, right!" is one text; seven words are what "red to violet" takes together.
+  const bool many = parts.size() > kMaxEquivalents && !names;
+  if (parts.size() == 1 || many || isExclamation(parts[0])) return {gloss};
   const auto isWord = [&](std::u16string_view part) {
     const std::u16string_view word = isVerb(part) ? part.substr(3) : part;
     return wordCount(word) == 1 && (names || word == u"I" || !isCapital(word[0]));

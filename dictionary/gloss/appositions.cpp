@@ -19,12 +19,16 @@ constexpr std::u16string_view kMarkers =
     u", including |, namely| namely: |, aka |, also |, usu. |, usually |, typically |"
     u", commonly |, generally |, often |, which |, whose |, who |, where |, used |, said to |"
     u", one of |, unit of |, SI unit |, type of |, kind of |, similar to |, made of |, made from |"
-    u", consisting |, located |, capital |, name of |, known |, considered |, published |"
+    u", consisting |, located |, name of |, known |, considered |, published |, motto |"
     u", equivalent |, equals |, popular |, as in |, as opposed |, opposite |, see |, same as |"
     u", abbr. |, short for |, now |, formerly |, comprising |, based on |, based in |, slogan |"
-    u", for example |: | - | also known as | aka |, orig. |, originally |, from |, containing |"
+    u", for example | also known as | aka |, orig. |, originally |, from |, containing |"
     u", corresponding to |, meaning |, lit. |, cf |, currency |, genus |, trademark|, occurring |"
     u", renowned |, famous |, esp |, viz. |";
+
+/// What follows them is no apposition: "the Chinese market, excluding first- and second-tier
+/// cities".
+constexpr std::u16string_view kRestrictions = u"excluding |except |seen as |";
 
 /// Examples follow: the text before is an equivalent if it is a noun of two words or more.
 constexpr std::u16string_view kExamples = u" such as |";
@@ -103,17 +107,68 @@ std::u16string_view withoutDate(std::u16string_view gloss) {
   return isListed(kOpenWords, finalWord) || before.ends_with(u',') ? gloss : before;
 }
 
-std::u16string_view withoutMarked(std::u16string_view gloss) {
+/// The place of a colon that an explanation follows; the size of `gloss` if there is none. "Mao:
+/// The Unknown Story" is a title, "Han dynasty onwards: whipping" tells a time.
+std::size_t findColon(std::u16string_view gloss) {
+  const std::size_t at = std::min(gloss.find(u": "), gloss.size());
+  const std::u16string_view head = gloss.substr(0, at);
+  const bool title = wordCount(head) == 1 && at + 2 < gloss.size() && isCapital(gloss[at + 2]);
+  return title || head.ends_with(u" onwards") ? gloss.size() : at;
+}
+
+/// The place of a dash that an explanation follows; the size of `gloss` if there is none. A few
+/// words without an article go on: "caution - wet floor", "One world - one dream".
+std::size_t findDash(std::u16string_view gloss) {
+  const std::size_t at = std::min(gloss.find(u" - "), gloss.size());
+  const std::u16string_view tail = gloss.substr(std::min(at + 3, gloss.size()));
+  const bool goesOn = wordCount(tail) <= 3 && !tail.empty() && tail[0] >= u'a' && tail[0] <= u'z' &&
+                      listedBeginning(u"a |an |the |", tail).empty();
+  return goesOn ? gloss.size() : at;
+}
+
+/// The place of ", capital Nuuk" or ", capital of Greenland"; the size of `gloss` if there is none.
+/// "no premises, capital or regular staff" is about money.
+std::size_t findCapital(std::u16string_view gloss) {
+  constexpr std::u16string_view kMark = u", capital ";
+  const std::size_t at = gloss.find(kMark);
+  if (at == std::u16string_view::npos) return gloss.size();
+  const std::u16string_view next = firstWord(gloss.substr(at + kMark.size()));
+  const bool place = !next.empty() && (isCapital(next[0]) || next == u"of" || next == u"city");
+  return place ? at : gloss.size();
+}
+
+/// A capitalised head is cut in a phrase too: "KMT emblem, a white sun".
+std::u16string_view withoutArticleTail(std::u16string_view gloss, bool phrase) {
+  const std::u16string_view head = gloss.substr(0, findMarker(kArticles, gloss));
+  const bool clause = isVerb(head) || isListed(kClauseBeginnings, firstWord(head));
+  if (clause || wordCount(head) > 2 || (phrase && !isCapital(head[0]))) return gloss;
+  // "the sun, the moon, and the stars", "the older, the wiser"
+  const std::u16string_view tail = gloss.substr(head.size());
+  const bool list = tail.find(u", and ") != std::u16string_view::npos;
+  const bool comparatives = head.ends_with(u"er") && head.starts_with(u"the ");
+  return tail.starts_with(u", the ") && (list || comparatives) ? gloss : head;
+}
+
+std::u16string_view withoutMarked(std::u16string_view gloss, bool phrase) {
   gloss = withoutDate(gloss);
   const bool alternates = gloss.starts_with(u"now ");  // "now hot, now cold"
   if (!alternates) gloss = gloss.substr(0, findMarker(kMarkers, gloss));
+  gloss = gloss.substr(0, std::min(findColon(gloss), findCapital(gloss)));
+  if (!phrase) gloss = gloss.substr(0, findDash(gloss));
   // "sports such as soccer that use large balls" and "With a father such as you" need what follows.
   const std::u16string_view named = gloss.substr(0, findMarker(kExamples, gloss));
   if (wordCount(named) > 1 && !isListed(kClauseBeginnings, lowered(firstWord(named))))
     gloss = named;
-  const std::u16string_view head = gloss.substr(0, findMarker(kArticles, gloss));
-  const bool clause = isVerb(head) || isListed(kClauseBeginnings, firstWord(head));
-  return clause || wordCount(head) > 2 ? gloss : head;
+  return withoutArticleTail(gloss, phrase);
+}
+
+/// Returns whether the first part only tells a place in a series of what the second one names:
+/// "Year 1, year of the Rat".
+bool numbersAYear(const std::vector<std::u16string_view>& parts) {
+  const std::u16string_view word = firstWord(parts[0]);
+  const std::u16string_view number = parts[0].substr(std::min(parts[0].size(), word.size() + 1));
+  return !number.empty() && std::ranges::all_of(number, isDigit) &&
+         parts[1].starts_with(lowered(word) + u" of ");
 }
 
 /// Cuts a proper name at its first comma: what follows says where or who it is. A common noun of at
@@ -126,6 +181,8 @@ std::u16string_view withoutNameTail(std::u16string_view gloss) {
   const bool noun = !isCapital(gloss[0]) && !isVerb(gloss) && wordCount(parts[0]) <= 2 &&
                     wordCount(parts[1]) > 1 && isCapital(parts[1][0]) && parts[1][1] != u' ' &&
                     !isListed(kClauseBeginnings, firstWord(gloss));
+  if (!listedBeginning(kRestrictions, parts[1]).empty()) return gloss;
+  if (numbersAYear(parts)) return parts[1];
   return isName(parts[0]) || noun ? parts[0] : gloss;
 }
 
@@ -145,13 +202,16 @@ std::u16string_view withoutYears(std::u16string_view gloss) {
 
 }  // namespace
 
-std::u16string_view withoutApposition(std::u16string_view gloss) {
-  return withoutPlaceTail(withoutYears(withoutNameTail(withoutMarked(gloss))));
+std::u16string_view withoutApposition(std::u16string_view gloss, bool phrase) {
+  if (isSentence(gloss)) return gloss;
+  gloss = withoutMarked(gloss, phrase);
+  if (!phrase) gloss = withoutNameTail(gloss);
+  return withoutPlaceTail(withoutYears(gloss));
 }
 
 bool describesPlace(std::u16string_view gloss) {
   const std::vector<std::u16string_view> parts = partsBetweenCommas(gloss);
-  if (namesKindOfPlace(withoutApposition(gloss))) return true;
+  if (namesKindOfPlace(withoutApposition(gloss, false))) return true;
   if (parts.size() == 1 || !isName(parts[0])) return false;
   std::u16string_view tail = parts[1];
   tail.remove_prefix(listedBeginning(u"a |an |the |", tail).size());

@@ -36,8 +36,9 @@ using Numbers = std::vector<std::uint32_t>;
 
 Record parseRecord(const CedictRecord& source) {
   Record record{&source, {}, {}};
+  const bool phrase = std::ranges::any_of(source.glosses, marksPhrase);
   for (const std::u16string& text : source.glosses) {
-    ParsedGloss parsed = parseGloss(text);
+    ParsedGloss parsed = parseGloss(text, phrase);
     std::erase_if(parsed.glosses, [&](const Gloss& gloss) {
       return labelsItsWord(gloss.english, source.simplified);
     });

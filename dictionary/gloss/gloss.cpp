@@ -58,6 +58,10 @@ constexpr std::u16string_view kOtherWords =
     u"opposite: |antonym: |Latin: |Japanese: |Korean: |Turkish: |Sanskrit: |full name: |see also: |"
     u"classifier: |structural particle: |";
 
+/// Notes that the glosses of idioms and the like have.
+constexpr std::u16string_view kPhraseNotes =
+    u"(idiom)|(idiom;|(idiom,|, idiom)|(proverb|proverb)|(saying|saying)|slogan)|";
+
 bool isSmall(char16_t unit) { return unit >= u'a' && unit <= u'z'; }
 
 /// Returns whether the text is nothing but a mark, which is then the meaning: "also known as".
@@ -113,6 +117,8 @@ std::vector<std::u16string_view> splitPieces(std::u16string_view gloss) {
 /// Parses the pieces of one gloss from left to right.
 class GlossParser {
  public:
+  explicit GlossParser(bool phrase) : phrase_(phrase) {}
+
   ParsedGloss run(std::u16string_view gloss) {
     for (const std::u16string_view piece : splitPieces(gloss)) readPiece(foldBlanks(piece));
     return std::move(result_);
@@ -150,7 +156,7 @@ class GlossParser {
     NoteMeaning meaning = noted.meaning;
     meaning |= shared_;
     if (isUsageNote(english)) return;
-    const std::u16string_view equivalent = withoutApposition(english);
+    const std::u16string_view equivalent = withoutApposition(english, phrase_);
     const bool described = !noted.whole.empty() || isDescription(equivalent);
     SubjectSet subjects = meaning.subjects;
     if (describesPlace(english)) subjects |= setOf(Subject::kPlace);
@@ -179,6 +185,7 @@ class GlossParser {
     result_.glosses.push_back({word, wordCount(word), subjects, value});
   }
 
+  bool phrase_;
   ParsedGloss result_;
   NoteMeaning shared_;  ///< of the note at the beginning
   bool begun_ = false;
@@ -187,8 +194,14 @@ class GlossParser {
 
 }  // namespace
 
-ParsedGloss parseGloss(std::u16string_view gloss) {
-  return GlossParser().run(foldBlanks(text::withoutAccents(withAsciiMarks(gloss))));
+bool marksPhrase(std::u16string_view gloss) {
+  return findListed(kPhraseNotes, [&](std::u16string_view note) {
+           return gloss.find(note) != std::u16string_view::npos;
+         }).size() > 0;
+}
+
+ParsedGloss parseGloss(std::u16string_view gloss, bool phrase) {
+  return GlossParser(phrase).run(foldBlanks(text::withoutAccents(withAsciiMarks(gloss))));
 }
 
 }  // namespace dictionary

@@ -48,6 +48,11 @@ struct ParsedGloss {
 /// Parses one gloss: "lit. change to more severe (idiom); to become more intense". Meanings that
 /// semicolons part are several equivalents. A note before the first one holds for all of them.
 /// Texts that are literal have GlossValue::kLiteral, whether or not there is another meaning.
-ParsedGloss parseGloss(std::u16string_view gloss);
+/// `phrase`: a gloss of the record marks it as a phrase.
+ParsedGloss parseGloss(std::u16string_view gloss, bool phrase = false);
+
+/// Returns whether the gloss has a note that its word is an idiom, a saying or a slogan, so that
+/// all glosses of the record are sentences or parts of them rather than terms.
+bool marksPhrase(std::u16string_view gloss);
 
 }  // namespace dictionary

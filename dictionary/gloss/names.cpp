@@ -9,9 +9,13 @@
 namespace dictionary {
 namespace {
 
+constexpr std::u16string_view kExclamations = u"oh|hey|well|no|yes|yeah|ah|aw|sorry|please|ok|";
+
 /// A proper name does not begin with these, though its gloss has a comma.
-constexpr std::u16string_view kExclamations =
-    u"Oh|Hey|Well|No|Yes|Ah|If|When|Sorry|Please|OK|I|In|As|There|";
+constexpr std::u16string_view kSentenceBeginnings = u"If|When|OK|I|In|As|With|There|";
+
+/// Abbreviations that end a text without ending a sentence.
+constexpr std::u16string_view kAbbreviations = u"etc.|foll.|lit.|incl.|resp.|abbr.|";
 
 /// Small words inside proper names.
 constexpr std::u16string_view kInNames = u"of|the|and|or|de|von|for|van|da|del|";
@@ -56,8 +60,22 @@ bool namesKindOfPlace(std::u16string_view name) {
   return isCapital(name[0]) && wordCount(name) > 1 && isKindOfPlace(lastWord(name));
 }
 
+bool isExclamation(std::u16string_view word) { return isListed(kExclamations, lowered(word)); }
+
+bool isSentence(std::u16string_view text) {
+  if (text.ends_with(u'!')) return true;
+  // Several sentences explain.
+  if (text.find(u". ") != std::u16string_view::npos ||
+      text.find(u": ") != std::u16string_view::npos)
+    return false;
+  const std::u16string_view last = lastWord(text);
+  return last.ends_with(u'.') && last.size() > 2 && last[0] >= u'a' && last[0] <= u'z' &&
+         last.find(u'.') == last.size() - 1 && !isListed(kAbbreviations, last);
+}
+
 bool isName(std::u16string_view text) {
-  if (!isCapital(text[0]) || isListed(kExclamations, firstWord(text))) return false;
+  if (!isCapital(text[0]) || isExclamation(firstWord(text))) return false;
+  if (isListed(kSentenceBeginnings, firstWord(text))) return false;
   if (wordCount(text) <= 2 || namesKindOfPlace(text)) return true;
   for (std::size_t at = 0; at < text.size();) {
     const std::u16string_view word = firstWord(text.substr(at));

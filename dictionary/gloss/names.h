@@ -29,6 +29,13 @@ bool isKindOfPlace(std::u16string_view word);
 /// Returns whether the name, which is not empty, ends with the kind of a place: "Yuci district".
 bool namesKindOfPlace(std::u16string_view name);
 
+/// Returns whether the word is an exclamation, written with a capital or not: "oh".
+bool isExclamation(std::u16string_view word);
+
+/// Returns whether the text ends as a sentence does, rather than with an abbreviation: "Yeah,
+/// right!", but not "Nike, Inc."
+bool isSentence(std::u16string_view text);
+
 /// Returns whether the text, which is not empty, is a proper name rather than the beginning of a
 /// sentence: capitalised words, two words with one capital ("Suzhou embroidery"), or the name of a
 /// place.

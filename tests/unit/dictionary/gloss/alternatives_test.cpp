@@ -34,6 +34,15 @@ TEST(ListedEquivalents, SplitsSpellingsOfNames) {
   EXPECT_EQ(listed(u"one or two"), (Views{u"one or two"}));
 }
 
+// "个头 | (coll.) my ass!; yeah, right!", "坏了 | oh, no!", "红橙黄绿蓝靛紫 | red, orange, yellow,
+// …"
+TEST(ListedEquivalents, LeavesExclamationsAndLongLists) {
+  for (const std::u16string_view gloss :
+       {u"yeah, right!", u"oh, no!", u"red, orange, yellow, green, blue, indigo, violet"}) {
+    EXPECT_EQ(listed(gloss), (Views{gloss}));
+  }
+}
+
 // "杏眼 | large, round eyes", "坑蒙拐骗 | to swindle, scam and deceive", "旧金山", "克里斯汀 |
 // (name) Christine, Kristine, Kristen, Kristin etc"
 TEST(ListedEquivalents, LeavesOtherCommas) {

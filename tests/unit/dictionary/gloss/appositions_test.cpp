@@ -156,6 +156,65 @@ TEST(WithoutApposition, CutsDatesAndOtherNames) {
   EXPECT_EQ(withoutApposition(u"Uzziah before c. 750 BC"), u"Uzziah before c. 750 BC");
 }
 
+// "爱屋及乌 | Love me, love my dog.", "名不副实 | Excellent theory, but …", "走你 | Come on, you
+// can do this!", "耐克 | Nike, Inc.", "伍子胥 | Wu Zixu (–484 BC), Chu-born strategist for Wu.
+// After …"
+TEST(WithoutApposition, LeavesTextsThatEndAsSentencesDo) {
+  for (const std::u16string_view gloss :
+       {u"Love me, love my dog.", u"Come on, you can do this!", u"Yeah, right.",
+        u"Excellent theory, but the practice does not bear it out."}) {
+    EXPECT_EQ(withoutApposition(gloss), gloss);
+  }
+  EXPECT_EQ(withoutApposition(u"Nike, Inc."), u"Nike");
+  EXPECT_EQ(withoutApposition(u"Wu Zixu, strategist for Wu. After he fled, he came back."),
+            u"Wu Zixu");
+}
+
+// "人算不如天算 | man proposes, God disposes (idiom)", "一日千里 | lit. one day, a thousand miles
+// (idiom)", "抗美援朝 | Resist US, help North Korea (1950s slogan)", "青天白日 | (idiom) …/KMT
+// emblem, a white sun on a blue background"
+TEST(WithoutApposition, LeavesPhrasesWhole) {
+  for (const std::u16string_view gloss :
+       {u"man proposes, God disposes", u"one day, a thousand miles", u"Food first, niceties second",
+        u"Resist US, help North Korea", u"any Tom, Dick or Harry"}) {
+    EXPECT_EQ(withoutApposition(gloss, true), gloss);
+    EXPECT_NE(withoutApposition(gloss), gloss);
+  }
+  EXPECT_EQ(withoutApposition(u"KMT emblem, a white sun", true), u"KMT emblem");
+}
+
+// "姜还是老的辣 | the older, the wiser", "三光 | the sun, the moon, and the stars", "检警调 |
+// public prosecutors, the police, and …", "卍 | swastika, a sacred and auspicious symbol in
+// Hinduism, …"
+TEST(WithoutApposition, LeavesListsWithArticles) {
+  for (const std::u16string_view gloss :
+       {u"the older, the wiser", u"the sun, the moon, and the stars",
+        u"public prosecutors, the police, and the Investigation Bureau"}) {
+    EXPECT_EQ(withoutApposition(gloss), gloss);
+  }
+  EXPECT_EQ(withoutApposition(u"swastika, a symbol in Hinduism, Buddhism, and Jainism"),
+            u"swastika");
+  EXPECT_EQ(withoutApposition(u"the spurges, the mercuries"), u"the spurges");
+}
+
+// "下沉市场 | the Chinese market, excluding first- and second-tier cities", "人矿 | the Chinese
+// people, seen as a resource …", "子鼠 | Year 1, year of the Rat", "三无企业 | enterprise with no
+// premises, capital or regular staff", "小心地滑 | caution – wet floor", "五刑 | Han dynasty
+// onwards: whipping", "毛泽东：… | Mao: The Unknown Story by Jung Chang", "剩女 | "leftover woman"
+// – a woman who …"
+TEST(WithoutApposition, TellsExplanationsFromMeanings) {
+  for (const std::u16string_view gloss :
+       {u"Chinese market, excluding first-tier cities", u"Chinese people, seen as a resource",
+        u"enterprise with no premises, capital or regular staff", u"caution - wet floor",
+        u"Han dynasty onwards: whipping", u"Mao: The Unknown Story"}) {
+    EXPECT_EQ(withoutApposition(gloss), gloss);
+  }
+  EXPECT_EQ(withoutApposition(u"Year 1, year of the Rat"), u"year of the Rat");
+  EXPECT_EQ(withoutApposition(u"leftover woman - a woman who is single"), u"leftover woman");
+  EXPECT_EQ(withoutApposition(u"state in the south of it, capital Nuuk"),
+            u"state in the south of it");
+}
+
 // "普定县 | Puding, a county in Anshun City, Guizhou", "榆次区 | Yuci district of Jinzhong city"
 TEST(DescribesPlace, ReadsNameAndApposition) {
   EXPECT_TRUE(describesPlace(u"Puding, a county in Anshun City, Guizhou"));

@@ -113,6 +113,14 @@ TEST(ChineseEntries, FollowsRelatedWordsOnlyForWantOfMeanings) {
   EXPECT_TRUE(glossesOf(records, u"戊").empty());
 }
 
+// "爱屋及乌 | lit. love the house and its crow (idiom)/Love me, love my dog.", "人算不如天算 | man
+// proposes, God disposes (idiom)/…"
+TEST(ChineseEntries, ReadsAllGlossesOfAnIdiomAsPhrases) {
+  EXPECT_EQ(
+      textsOf({record(u"甲", u"jia3", {u"first (idiom)", u"man proposes, God disposes"})}, u"甲"),
+      (Texts{u"first", u"man proposes, God disposes"}));
+}
+
 // "秘 | see 秘魯|秘鲁[Bi4 lu3]", "㬎 | old variant of 顯|显[xian3]", "壳牌 | see 殼牌公司"
 TEST(ChineseEntries, GivesACharacterNoMeaningOfAWord) {
   const Records records = {record(u"秘", u"bi4", {u"see 秘鲁[Bi4 lu3]"}),

@@ -117,6 +117,20 @@ TEST(ParseGloss, MakesNoPairOfABrokenSentence) {
   EXPECT_EQ(value(u"lit., a dog"), GlossValue::kLiteral);
 }
 
+// "张三李四 | lit. Zhang Three and Li Four (idiom)/(fig.) any Tom, Dick or Harry", "千古罪人 |
+// (idiom)"
+TEST(ParseGloss, ReadsThePhrasesOfARecord) {
+  using dictionary::marksPhrase;
+  for (const std::u16string_view gloss :
+       {u"lit. one day (idiom)", u"(idiom, from Mencius) to go", u"Resist (1950s slogan)"}) {
+    EXPECT_TRUE(marksPhrase(gloss));
+  }
+  EXPECT_FALSE(marksPhrase(u"idiom"));
+  EXPECT_FALSE(marksPhrase(u"to say (sth)"));
+  EXPECT_EQ(parseGloss(u"(fig.) any Tom, Dick or Harry", true).glosses.at(0).english,
+            u"any Tom, Dick or Harry");
+}
+
 // "FBI | Federal Bureau of Investigation (FBI)"
 TEST(ParseGloss, AddsInitials) {
   EXPECT_EQ(texts(u"Federal Bureau of Investigation (FBI)"),
