@@ -79,7 +79,8 @@ bool isName(std::u16string_view text) {
   if (wordCount(text) <= 2 || namesKindOfPlace(text)) return true;
   for (std::size_t at = 0; at < text.size();) {
     const std::u16string_view word = firstWord(text.substr(at));
-    if (!isCapital(word[0]) && !isDigit(word[0]) && !isListed(kInNames, word)) return false;
+    const bool capital = isCapital(word[0]) || word.starts_with(u"al-");
+    if (!capital && !isDigit(word[0]) && !isListed(kInNames, word)) return false;
     at += word.size() + 1;
   }
   return true;

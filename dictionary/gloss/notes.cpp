@@ -12,6 +12,7 @@
 #include <iterator>
 
 #include "dictionary/gloss/english.h"
+#include "dictionary/gloss/names.h"
 #include "dictionary/gloss/word_list.h"
 #include "dictionary/source/characters.h"
 #include "dictionary/source/cleanup.h"
@@ -26,6 +27,9 @@ constexpr std::u16string_view kOpenWords =
     u"a|an|the|and|or|than|that|sb's|one's|my|your|his|no|neither|";
 constexpr std::u16string_view kPrepositions =
     u"of|to|with|for|as|in|on|at|from|by|into|like|about|between|without|";
+/// They go on after the years of a treaty or an age.
+constexpr std::u16string_view kAfterYears =
+    u"and|or|that|which|who|whose|when|after|during|under|until|founded|aka|";
 /// Kept at the beginning of a phrase.
 constexpr std::u16string_view kLittleWords =
     u"in|the|of|just|for|to|it|on|within|at|a|to be|as|be|with|by|";
@@ -40,7 +44,6 @@ constexpr std::u16string_view kPronouns = u"you|I|we|he|she|they|it|me|him|them|
 constexpr std::size_t kMaxKeptWords = 4;
 
 bool isSmall(char16_t unit) { return unit >= u'a' && unit <= u'z'; }
-bool isCapital(char16_t unit) { return unit >= u'A' && unit <= u'Z'; }
 
 /// "s" and "ren" in "year(s)", "child(ren)".
 bool isEnding(std::u16string_view note) {
@@ -68,6 +71,27 @@ bool areInitials(std::u16string_view note, std::u16string_view text) {
   std::u16string capitals;
   std::ranges::copy_if(text, std::back_inserter(capitals), isCapital);
   return note == initials || note == capitals;
+}
+
+/// "1596-1650", "died 409", "c. 21st century BC"
+bool tellsYears(std::u16string_view note) {
+  std::size_t digits = 0;
+  for (const char16_t unit : note) {
+    digits = isDigit(unit) ? digits + 1 : 0;
+    if (digits == 3) return true;
+  }
+  return note.ends_with(u" BC");
+}
+
+/// Returns whether what follows the years of a name tells who it is: "Tan Dun (1957-) Chinese
+/// composer", but not "Treaty of Nerchinsk (1689) between Russia and China", "Zhou Dynasty
+/// (1046-256 BC) vassal state".
+bool describesName(std::u16string_view name, std::u16string_view after) {
+  const std::u16string_view next = firstWord(after);
+  if (name.empty() || next.empty() || !isAsciiLetter(next[0]) || !isName(name)) return false;
+  const bool age = lowered(lastWord(name)) == u"dynasty" || lowered(lastWord(name)) == u"period";
+  const bool several = name.find(u" and ") != std::u16string_view::npos;  // "Wei (220-265) and Jin"
+  return !age && !several && !isListed(kPrepositions, next) && !isListed(kAfterYears, next);
 }
 
 /// A note of a gloss: its brackets are at `open` and `close`.
@@ -134,6 +158,10 @@ class NoteRemover {
   void readMeaning(const Note& note) {
     const std::u16string text = foldBlanks(result_.text);
     if (areInitials(note.content, text)) result_.initials = note.content;
+    if (tellsYears(note.content) &&
+        describesName(text, foldBlanks(gloss_.substr(note.close + 1)))) {
+      add(u",");
+    }
     const NoteMeaning meaning = readNote(note.content);
     result_.meaning |= meaning;
     const bool mark = meaning.usage || meaning.label || meaning.literal || meaning.figurative;

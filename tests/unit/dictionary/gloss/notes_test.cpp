@@ -22,6 +22,21 @@ TEST(WithoutGlossNotes, RemovesNotes) {
   EXPECT_EQ(text(u"Karl Marx (1818-1883), philosopher"), u"Karl Marx, philosopher");
 }
 
+// "谭盾 | Tan Dun (1957-) Chinese composer", "高云 | Gao Yun (died 409) emperor of …", "大禹 | Yu
+// the Great (c. 21st century BC) mythical leader …", "尼布楚条约 | Treaty of Nerchinsk (1689)
+// between …", "郕 | Zhou Dynasty (1046–256 BCE) vassal state", "魏晋 | Wei (220-265) and Jin
+// (265-420) dynasties"
+TEST(WithoutGlossNotes, PartsANameFromItsDescriptionAtTheYears) {
+  EXPECT_EQ(text(u"Tan Dun (1957-) Chinese composer"), u"Tan Dun, Chinese composer");
+  EXPECT_EQ(text(u"Gao Yun (died 409) emperor"), u"Gao Yun, emperor");
+  EXPECT_EQ(text(u"Yu the Great (c. 21st century BC) leader"), u"Yu the Great, leader");
+  EXPECT_EQ(text(u"Treaty of Nerchinsk (1689) between"), u"Treaty of Nerchinsk between");
+  EXPECT_EQ(text(u"Zhou Dynasty (1046-256 BCE) vassal state"), u"Zhou Dynasty vassal state");
+  EXPECT_EQ(text(u"Wei (220-265) and Jin (265-420) dynasties"), u"Wei and Jin dynasties");
+  EXPECT_EQ(text(u"Karl Marx (philosopher) and"), u"Karl Marx and");
+  EXPECT_EQ(text(u"a composer (1957-) in China"), u"a composer in China");
+}
+
 // "手提包 | (hand)bag", "里脊 | (tender)loin", "味蕾 | taste bud(s)", "弃子 | … child(ren)"
 TEST(WithoutGlossNotes, KeepsPartsOfWords) {
   EXPECT_EQ(text(u"(hand)bag"), u"handbag");
