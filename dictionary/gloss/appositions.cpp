@@ -24,7 +24,7 @@ constexpr std::u16string_view kMarkers =
     u", abbr. |, short for |, now |, formerly |, comprising |, based on |, based in |, slogan |"
     u", for example | also known as | aka |, orig. |, originally |, from |, containing |"
     u", corresponding to |, meaning |, lit. |, cf |, currency |, genus |, trademark|, occurring |"
-    u", renowned |, famous |, esp |, viz. |";
+    u", renowned |, famous |, esp |, viz. |, reigned |, nowadays |";
 
 /// What follows them is no apposition: "the Chinese market, excluding first- and second-tier
 /// cities".
@@ -110,7 +110,7 @@ std::u16string_view withoutDate(std::u16string_view gloss) {
 /// The place of a colon that an explanation follows; the size of `gloss` if there is none. "Mao:
 /// The Unknown Story" is a title, "Han dynasty onwards: whipping" tells a time.
 std::size_t findColon(std::u16string_view gloss) {
-  const std::size_t at = std::min(gloss.find(u": "), gloss.size());
+  const std::size_t at = std::min(gloss.find(u": ", 1), gloss.size());
   const std::u16string_view head = gloss.substr(0, at);
   const bool title = wordCount(head) == 1 && at + 2 < gloss.size() && isCapital(gloss[at + 2]);
   return title || head.ends_with(u" onwards") ? gloss.size() : at;
@@ -119,7 +119,7 @@ std::size_t findColon(std::u16string_view gloss) {
 /// The place of a dash that an explanation follows; the size of `gloss` if there is none. A few
 /// words without an article go on: "caution - wet floor", "One world - one dream".
 std::size_t findDash(std::u16string_view gloss) {
-  const std::size_t at = std::min(gloss.find(u" - "), gloss.size());
+  const std::size_t at = std::min(gloss.find(u" - ", 1), gloss.size());
   const std::u16string_view tail = gloss.substr(std::min(at + 3, gloss.size()));
   const bool goesOn = wordCount(tail) <= 3 && !tail.empty() && tail[0] >= u'a' && tail[0] <= u'z' &&
                       listedBeginning(u"a |an |the |", tail).empty();
@@ -130,7 +130,7 @@ std::size_t findDash(std::u16string_view gloss) {
 /// "no premises, capital or regular staff" is about money.
 std::size_t findCapital(std::u16string_view gloss) {
   constexpr std::u16string_view kMark = u", capital ";
-  const std::size_t at = gloss.find(kMark);
+  const std::size_t at = gloss.find(kMark, 1);
   if (at == std::u16string_view::npos) return gloss.size();
   const std::u16string_view next = firstWord(gloss.substr(at + kMark.size()));
   const bool place = !next.empty() && (isCapital(next[0]) || next == u"of" || next == u"city");
@@ -186,6 +186,16 @@ std::u16string_view withoutNameTail(std::u16string_view gloss) {
   return isName(parts[0]) || noun ? parts[0] : gloss;
 }
 
+/// Removes the preposition before what was cut: "Li Ji Rebellion in", with the part between commas
+/// that it ends: "Three Anti campaign, early PRC purge of".
+std::u16string_view withoutOpenEnd(std::u16string_view gloss) {
+  const std::u16string_view last = lastWord(gloss);
+  if (!isListed(kOpenWords, last) || last.size() == gloss.size()) return gloss;
+  const std::size_t comma = gloss.rfind(u", ");
+  return gloss.substr(0,
+                      comma == 0 ? gloss.size() : std::min(comma, gloss.size() - last.size() - 1));
+}
+
 /// Removes years at the end: "Lord Kelvin 1824-1907", "the First Emperor 259-210 BC".
 std::u16string_view withoutYears(std::u16string_view gloss) {
   std::u16string_view rest = gloss;
@@ -197,7 +207,7 @@ std::u16string_view withoutYears(std::u16string_view gloss) {
   if (!years) return gloss;
   rest.remove_suffix(last.size() + 1);
   // "1837-1941 and 1945-1997": the first span is part of the text.
-  return lastWord(rest) == u"and" ? gloss : rest;
+  return lastWord(rest) == u"and" ? gloss : withoutOpenEnd(rest);
 }
 
 }  // namespace

@@ -79,6 +79,19 @@ TEST(WithoutApposition, CutsYears) {
   EXPECT_EQ(withoutApposition(u"Boeing 747"), u"Boeing 747");
 }
 
+// "骊姬之乱 | Li Ji Rebellion in 657-651 BC, where …", "三反 | "Three Anti" campaign (…), early PRC
+// purge of 1951–52", "杨坚 | first Sui emperor Yang Jian (541-604), reigned 581-604", "羌族 | Qiang
+// ethnic group, nowadays esp. in north Sichuan"
+TEST(WithoutApposition, LeavesNoOpenEnd) {
+  EXPECT_EQ(withoutApposition(u"Li Ji Rebellion in 657-651 BC, where she"), u"Li Ji Rebellion");
+  EXPECT_EQ(withoutApposition(u"\"Three Anti\" campaign, early PRC purge of 1951-52"),
+            u"\"Three Anti\" campaign");
+  EXPECT_EQ(withoutApposition(u"first Sui emperor Yang Jian, reigned 581-604"),
+            u"first Sui emperor Yang Jian");
+  EXPECT_EQ(withoutApposition(u"Qiang ethnic group, nowadays esp. in Sichuan"),
+            u"Qiang ethnic group");
+}
+
 // "鸦片战争 | the Opium Wars of 1840-1842 and 1860-1861"
 TEST(WithoutApposition, LeavesTwoSpansOfYears) {
   EXPECT_EQ(withoutApposition(u"Opium Wars of 1840-1842 and 1860-1861"),
