@@ -4,12 +4,22 @@
 
 #include "dictionary/gloss/english.h"
 #include "dictionary/gloss/names.h"
+#include "dictionary/gloss/word_list.h"
+#include "dictionary/source/characters.h"
 
 namespace dictionary {
 namespace {
 
 /// The most words that one gloss lists as equivalents.
 constexpr std::size_t kMaxEquivalents = 6;
+
+/// Kinds of things that alternative names share, besides those of places.
+constexpr std::u16string_view kKinds =
+    u"dynasty|university|creek|reservoir|temple|empire|cuisine|ray|drive|bay|nebula|nahiyisi|"
+    u"shehiri|";
+/// At the beginning of names. Alternative names share them.
+constexpr std::u16string_view kTitles = u"Cape |Mount |Mt |";
+constexpr std::u16string_view kPronouns = u"I|He|She|His|Her|You|Your|Either|Whether|";
 
 bool isVerb(std::u16string_view gloss) { return gloss.starts_with(u"to "); }
 
@@ -26,6 +36,51 @@ std::vector<std::u16string_view> alternativeNames(std::u16string_view gloss) {
     return !name.empty() && wordCount(name) == words && areCapitalized(name);
   });
   return alike ? names : std::vector<std::u16string_view>{};
+}
+
+/// The parts of the text between "or", without the articles before them.
+std::vector<std::u16string_view> partsBetweenOr(std::u16string_view text) {
+  std::vector<std::u16string_view> parts;
+  while (true) {
+    const std::u16string_view part = text.substr(0, text.find(u" or "));
+    parts.push_back(part.substr(part.starts_with(u"the ") ? 4 : 0));
+    if (part.size() == text.size()) return parts;
+    text.remove_prefix(part.size() + 4);
+  }
+}
+
+/// Returns the kind of thing at the end of a name, with the small words before it: "County",
+/// "dynasty", "subprefecture level city". Empty if the name does not end with one.
+std::u16string_view kindOf(std::u16string_view name) {
+  const std::u16string_view last = lastWord(name);
+  if (!isKindOfPlace(last) && !isListed(kKinds, lowered(last))) return {};
+  std::size_t size = last.size();
+  while (size < name.size()) {
+    const std::u16string_view word = lastWord(name.substr(0, name.size() - size - 1));
+    const bool capital = !word.empty() && isCapital(word[0]) && word != u"Autonomous";
+    if (word.empty() || capital || isSmallWordInNames(word)) break;
+    size += word.size() + 1;
+  }
+  return name.substr(name.size() - std::min(size, name.size()));
+}
+
+/// Returns whether the text may be one of several names of a thing: capitalised words, and its
+/// kind.
+bool isAlternative(std::u16string_view text) {
+  text.remove_suffix(kindOf(text).size());
+  while (text.ends_with(u' ')) text.remove_suffix(1);
+  if (text.empty() || !isCapital(text[0]) || isListed(kPronouns, firstWord(text))) return false;
+  const bool number = std::ranges::any_of(text, isDigit);  // "Omega or Horseshoe Nebula M17"
+  return !number && text.find(u',') == std::u16string_view::npos &&
+         text.find(u" and ") == std::u16string_view::npos && areNameWords(text);
+}
+
+/// Returns whether one of two names may be short for more words of the other: "History of Song or
+/// Liu Song", the first names in "Baruch or Benedict Spinoza".
+bool mayShareMore(std::u16string_view first, std::u16string_view second) {
+  if (first.find(u" of ") != std::u16string_view::npos) return true;
+  return wordCount(first) == 1 && wordCount(second) == 2 && kindOf(second).empty() &&
+         first[0] == second[0] && firstWord(second).size() > 4;
 }
 
 }  // namespace
@@ -62,19 +117,21 @@ std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bo
 }
 
 std::vector<std::u16string> namesWithKind(std::u16string_view name) {
-  const std::u16string_view kind = lastWord(name);
-  const std::size_t at = name.find(u" or ");
-  const std::size_t end = name.size() - kind.size();
-  if (at == std::u16string_view::npos || at + 4 >= end || !isKindOfPlace(kind)) {
-    return {std::u16string(name)};
-  }
-  const std::u16string_view first = name.substr(0, at);
-  const std::u16string_view second = name.substr(at + 4, end - at - 5);
-  const bool words = wordCount(first) == 1 && wordCount(second) == 1;
-  if (!words || !areCapitalized(first) || !areCapitalized(second)) return {std::u16string(name)};
+  std::vector<std::u16string_view> parts = partsBetweenOr(name);
+  const std::vector<std::u16string> whole = {std::u16string(name)};
+  if (parts.size() < 2 || !std::ranges::all_of(parts, isAlternative)) return whole;
+  if (mayShareMore(parts[0], parts[1])) return whole;
+  const std::u16string_view kind = kindOf(parts.back());
+  const std::u16string_view title = listedBeginning(kTitles, parts[0]);
+  if (kind.size() == parts.back().size()) return whole;
+  const auto hasKind = [](std::u16string_view part) { return !kindOf(part).empty(); };
+  const bool shared = std::ranges::none_of(parts.begin(), parts.end() - 1, hasKind);
   std::vector<std::u16string> names;
-  for (const std::u16string_view one : {first, second}) {
-    names.push_back(std::u16string(one) + u' ' + std::u16string(kind));
+  for (const std::u16string_view part : parts) {
+    std::u16string one(part);
+    if (listedBeginning(kTitles, part).empty()) one.insert(0, title);
+    if (!kind.empty() && shared && !hasKind(part)) one += u' ' + std::u16string(kind);
+    names.push_back(std::move(one));
   }
   return names;
 }

@@ -14,9 +14,9 @@ namespace dictionary {
 /// The views refer into `gloss`.
 std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bool names);
 
-/// Returns the names of a place of which the kind is written once, each with its kind: "Luye
-/// township" and "Luyeh township" for "Luye or Luyeh township". Any other text is returned as it
-/// is.
+/// Returns the names that "or" joins, each with the kind of the thing that is written once: "Luye
+/// township" and "Luyeh township" for "Luye or Luyeh township", "Lixia" and "Start of Summer". Any
+/// other text is returned as it is.
 std::vector<std::u16string> namesWithKind(std::u16string_view name);
 
 }  // namespace dictionary

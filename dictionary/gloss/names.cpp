@@ -73,17 +73,21 @@ bool isSentence(std::u16string_view text) {
          last.find(u'.') == last.size() - 1 && !isListed(kAbbreviations, last);
 }
 
-bool isName(std::u16string_view text) {
-  if (!isCapital(text[0]) || isExclamation(firstWord(text))) return false;
-  if (isListed(kSentenceBeginnings, firstWord(text))) return false;
-  if (wordCount(text) <= 2 || namesKindOfPlace(text)) return true;
+bool areNameWords(std::u16string_view text) {
   for (std::size_t at = 0; at < text.size();) {
     const std::u16string_view word = firstWord(text.substr(at));
-    const bool capital = isCapital(word[0]) || word.starts_with(u"al-");
+    const bool capital = isCapital(word[0]) || word.starts_with(u"al-") || word.starts_with(u"d'");
     if (!capital && !isDigit(word[0]) && !isListed(kInNames, word)) return false;
     at += word.size() + 1;
   }
   return true;
+}
+
+bool isName(std::u16string_view text) {
+  if (!isCapital(text[0]) || isExclamation(firstWord(text))) return false;
+  if (isListed(kSentenceBeginnings, firstWord(text))) return false;
+  if (wordCount(text) <= 2 || namesKindOfPlace(text)) return true;
+  return areNameWords(text);
 }
 
 }  // namespace dictionary

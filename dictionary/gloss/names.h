@@ -29,6 +29,10 @@ bool isKindOfPlace(std::u16string_view word);
 /// Returns whether the name, which is not empty, ends with the kind of a place: "Yuci district".
 bool namesKindOfPlace(std::u16string_view name);
 
+/// Returns whether the words of the text are those of a proper name: capitalised ones, numbers, and
+/// small words between.
+bool areNameWords(std::u16string_view text);
+
 /// Returns whether the word is an exclamation, written with a capital or not: "oh".
 bool isExclamation(std::u16string_view word);
 

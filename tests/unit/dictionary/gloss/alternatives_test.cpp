@@ -54,13 +54,46 @@ TEST(ListedEquivalents, LeavesOtherCommas) {
             (Views{u"Christine", u"Kristin"}));
 }
 
-// "鹿野乡 | Luye or Luyeh township …"
+using Names = std::vector<std::u16string>;
+using dictionary::namesWithKind;
+
+// "鹿野乡 | Luye or Luyeh township …", "新北 | Hsinpei or New Taipei city …", "苏州大学 | Suzhou or
+// Soochow University", "夏 | the Xia or Hsia dynasty", "藏 | abbr. for Xizang or Tibet Autonomous
+// Region", "且末 | Cherchen nahiyisi or Qiemo county …", "须弥 | Mt Meru or Sumeru, …"
 TEST(NamesWithKind, GivesEachNameTheKind) {
-  using Names = std::vector<std::u16string>;
-  using dictionary::namesWithKind;
   EXPECT_EQ(namesWithKind(u"Luye or Luyeh township"), (Names{u"Luye township", u"Luyeh township"}));
-  for (const std::u16string_view name : {u"Yuci district", u"one or two islands",
-                                         u"Luye or township", u"or city", u"Fu or Fu Hsi"}) {
+  EXPECT_EQ(namesWithKind(u"Hsinpei or New Taipei city"),
+            (Names{u"Hsinpei city", u"New Taipei city"}));
+  EXPECT_EQ(namesWithKind(u"Suzhou or Soochow University"),
+            (Names{u"Suzhou University", u"Soochow University"}));
+  EXPECT_EQ(namesWithKind(u"Xia or Hsia dynasty"), (Names{u"Xia dynasty", u"Hsia dynasty"}));
+  EXPECT_EQ(namesWithKind(u"Xizang or Tibet Autonomous Region"),
+            (Names{u"Xizang Autonomous Region", u"Tibet Autonomous Region"}));
+  EXPECT_EQ(namesWithKind(u"Cherchen nahiyisi or Qiemo county"),
+            (Names{u"Cherchen nahiyisi", u"Qiemo county"}));
+  EXPECT_EQ(namesWithKind(u"Mt Meru or Sumeru"), (Names{u"Mt Meru", u"Mt Sumeru"}));
+}
+
+// "立夏 | Lixia or Start of Summer, …", "金瓶梅 | Jinpingmei or the Golden Lotus", "罗姗 | Roxanne
+// or Roxane or Rosanna", "象牙海岸 | Côte d'Ivoire or Ivory Coast"
+TEST(NamesWithKind, PartsNamesOfDifferentLengths) {
+  EXPECT_EQ(namesWithKind(u"Lixia or Start of Summer"), (Names{u"Lixia", u"Start of Summer"}));
+  EXPECT_EQ(namesWithKind(u"Jinpingmei or the Golden Lotus"),
+            (Names{u"Jinpingmei", u"Golden Lotus"}));
+  EXPECT_EQ(namesWithKind(u"Roxanne or Roxane or Rosanna"),
+            (Names{u"Roxanne", u"Roxane", u"Rosanna"}));
+  EXPECT_EQ(namesWithKind(u"Cote d'Ivoire or Ivory Coast"),
+            (Names{u"Cote d'Ivoire", u"Ivory Coast"}));
+}
+
+// "斯宾诺莎 | Baruch or Benedict Spinoza", "宋书 | History of Song of the Southern Dynasties or Liu
+// Song", "陛下 | His or Her Majesty", "马蹄星云 | Omega or Horseshoe Nebula M17", "藏 | Buddhist or
+// Taoist scripture"
+TEST(NamesWithKind, LeavesOtherTexts) {
+  for (const std::u16string_view name :
+       {u"Yuci district", u"one or two islands", u"Luye or township", u"or city",
+        u"Baruch or Benedict Spinoza", u"History of Song or Liu Song", u"His or Her Majesty",
+        u"Omega or Horseshoe Nebula M17", u"Buddhist or Taoist scripture"}) {
     EXPECT_EQ(namesWithKind(name), (Names{std::u16string(name)}));
   }
 }
