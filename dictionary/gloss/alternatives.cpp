@@ -15,11 +15,10 @@ constexpr std::size_t kMaxEquivalents = 6;
 
 /// Kinds of things that alternative names share, besides those of places.
 constexpr std::u16string_view kKinds =
-    u"dynasty|university|creek|reservoir|temple|empire|cuisine|ray|drive|bay|nebula|nahiyisi|"
-    u"shehiri|";
+    u"dynasty|university|creek|reservoir|temple|empire|cuisine|ray|drive|bay|nebula|";
 /// At the beginning of names. Alternative names share them.
 constexpr std::u16string_view kTitles = u"Cape |Mount |Mt |";
-constexpr std::u16string_view kPronouns = u"I|He|She|His|Her|You|Your|Either|Whether|";
+constexpr std::u16string_view kPronouns = u"I|His|Her|Your|Either|Whether|";
 
 bool isVerb(std::u16string_view gloss) { return gloss.starts_with(u"to "); }
 
@@ -71,7 +70,7 @@ bool isAlternative(std::u16string_view text) {
   while (text.ends_with(u' ')) text.remove_suffix(1);
   if (text.empty() || !isCapital(text[0]) || isListed(kPronouns, firstWord(text))) return false;
   const bool number = std::ranges::any_of(text, isDigit);  // "Omega or Horseshoe Nebula M17"
-  return !number && text.find(u',') == std::u16string_view::npos &&
+  return !number && text.find_first_of(u",\"") == std::u16string_view::npos &&
          text.find(u" and ") == std::u16string_view::npos && areNameWords(text);
 }
 
@@ -119,7 +118,12 @@ std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bo
 std::vector<std::u16string> namesWithKind(std::u16string_view name) {
   std::vector<std::u16string_view> parts = partsBetweenOr(name);
   const std::vector<std::u16string> whole = {std::u16string(name)};
-  if (parts.size() < 2 || !std::ranges::all_of(parts, isAlternative)) return whole;
+  if (parts.size() < 2) return whole;
+  if (!std::ranges::all_of(parts, isAlternative)) {
+    // The first one is a name of the place, whatever the other is.
+    if (parts[0].empty() || !namesKindOfPlace(parts[0])) return whole;
+    return {std::u16string(parts[0])};
+  }
   if (mayShareMore(parts[0], parts[1])) return whole;
   const std::u16string_view kind = kindOf(parts.back());
   const std::u16string_view title = listedBeginning(kTitles, parts[0]);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "dictionary/gloss/english.h"
+#include "dictionary/gloss/name_tails.h"
 #include "dictionary/gloss/names.h"
 #include "dictionary/gloss/places.h"
 #include "dictionary/gloss/word_list.h"
@@ -22,13 +23,10 @@ constexpr std::u16string_view kMarkers =
     u", consisting |, located |, name of |, known |, considered |, published |, motto |"
     u", equivalent |, equals |, popular |, as in |, as opposed |, opposite |, see |, same as |"
     u", abbr. |, short for |, now |, formerly |, comprising |, based on |, based in |, slogan |"
-    u", for example | also known as | aka |, orig. |, originally |, from |, containing |"
+    u", for example | also known as | also called | aka | a.k.a. |, orig. |, originally |, from |, "
+    u"containing |"
     u", corresponding to |, meaning |, lit. |, cf |, currency |, genus |, trademark|, occurring |"
     u", renowned |, famous |, esp |, viz. |, reigned |, nowadays |";
-
-/// What follows them is no apposition: "the Chinese market, excluding first- and second-tier
-/// cities".
-constexpr std::u16string_view kRestrictions = u"excluding |except |seen as |";
 
 /// Examples follow: the text before is an equivalent if it is a noun of two words or more.
 constexpr std::u16string_view kExamples = u" such as |";
@@ -36,58 +34,10 @@ constexpr std::u16string_view kExamples = u" such as |";
 /// They may also continue a sentence: what comes before them has at most two words and is no verb.
 constexpr std::u16string_view kArticles = u", a |, an |, the |";
 
-/// What begins with these goes on after a comma: "in literature, the cue for a poem".
-constexpr std::u16string_view kClauseBeginnings =
-    u"in|at|on|for|by|with|as|when|if|after|before|of|from|once|no|while|since|like|";
-
 /// A text does not end with them.
 constexpr std::u16string_view kOpenWords = u"in|of|on|near|at|between|under|from|before|";
 
 bool isVerb(std::u16string_view gloss) { return gloss.starts_with(u"to "); }
-
-/// "China, Japan and Korea": a list that a name's gloss ends with.
-bool endsInConjunction(const std::vector<std::u16string_view>& parts) {
-  const std::u16string_view last = parts.back();
-  const bool joined = last.find(u" and ") != std::u16string_view::npos ||
-                      last.starts_with(u"and ") || last.find(u" or ") != std::u16string_view::npos;
-  return joined && std::ranges::all_of(parts, [](std::u16string_view part) {
-           return wordCount(part) <= 3 && (isCapital(part[0]) || part.starts_with(u"and "));
-         });
-}
-
-/// Returns whether the part ends a list inside a name: capitalised words before and after "and",
-/// then the noun that all share, if any: "Lahu and Va autonomous county in Pu'er", "Gansu and
-/// Ningxia provinces". "British and Irish scientist" says who somebody is.
-bool joinsNames(std::u16string_view part) {
-  std::size_t at = 4;
-  if (!part.starts_with(u"and ")) {
-    const std::u16string_view before = part.substr(0, part.find(u" and "));
-    if (before == part || wordCount(before) > 2 || !areCapitalized(before)) return false;
-    at = before.size() + 5;
-  }
-  std::u16string_view rest = part.substr(at);
-  if (rest.empty() || !isCapital(rest[0])) return false;
-  while (!rest.empty() && isCapital(rest[0])) {
-    rest.remove_prefix(std::min(rest.size(), firstWord(rest).size() + 1));
-  }
-  const std::u16string_view next = firstWord(rest);
-  return next.empty() || isListed(u"in|for|autonomous|", next) || isKindOfPlace(next) ||
-         next.ends_with(u's');
-}
-
-/// Returns the beginning of a name's gloss that is a list of names: "Wei, Jin and North-South
-/// dynasties". Empty if there is none. "NASA, National Aeronautics and Space Administration" is
-/// not.
-std::u16string_view listOfNames(std::u16string_view gloss,
-                                const std::vector<std::u16string_view>& parts) {
-  const bool initials = parts[0][0] == parts[1][0] && std::ranges::all_of(parts[0], isCapital);
-  for (std::size_t i = 1; i < parts.size() && !initials; ++i) {
-    const auto size = static_cast<std::size_t>(parts[i].data() + parts[i].size() - gloss.data());
-    if (joinsNames(parts[i])) return gloss.substr(0, size);
-    if (wordCount(parts[i]) > 2 || !areCapitalized(parts[i])) break;
-  }
-  return {};
-}
 
 /// The first place in `gloss` of any item of the list, but not its beginning; its size if none.
 std::size_t findMarker(std::u16string_view list, std::u16string_view gloss) {
@@ -140,7 +90,7 @@ std::size_t findCapital(std::u16string_view gloss) {
 /// A capitalised head is cut in a phrase too: "KMT emblem, a white sun".
 std::u16string_view withoutArticleTail(std::u16string_view gloss, bool phrase) {
   const std::u16string_view head = gloss.substr(0, findMarker(kArticles, gloss));
-  const bool clause = isVerb(head) || isListed(kClauseBeginnings, firstWord(head));
+  const bool clause = isVerb(head) || beginsClause(head);
   if (clause || wordCount(head) > 2 || (phrase && !isCapital(head[0]))) return gloss;
   // "the sun, the moon, and the stars", "the older, the wiser"
   const std::u16string_view tail = gloss.substr(head.size());
@@ -157,33 +107,8 @@ std::u16string_view withoutMarked(std::u16string_view gloss, bool phrase) {
   if (!phrase) gloss = gloss.substr(0, findDash(gloss));
   // "sports such as soccer that use large balls" and "With a father such as you" need what follows.
   const std::u16string_view named = gloss.substr(0, findMarker(kExamples, gloss));
-  if (wordCount(named) > 1 && !isListed(kClauseBeginnings, lowered(firstWord(named))))
-    gloss = named;
+  if (wordCount(named) > 1 && !beginsClause(named)) gloss = named;
   return withoutArticleTail(gloss, phrase);
-}
-
-/// Returns whether the first part only tells a place in a series of what the second one names:
-/// "Year 1, year of the Rat".
-bool numbersAYear(const std::vector<std::u16string_view>& parts) {
-  const std::u16string_view word = firstWord(parts[0]);
-  const std::u16string_view number = parts[0].substr(std::min(parts[0].size(), word.size() + 1));
-  return !number.empty() && std::ranges::all_of(number, isDigit) &&
-         parts[1].starts_with(lowered(word) + u" of ");
-}
-
-/// Cuts a proper name at its first comma: what follows says where or who it is. A common noun of at
-/// most two words is cut before a capital: "triad, Chinese crime gang".
-std::u16string_view withoutNameTail(std::u16string_view gloss) {
-  const std::vector<std::u16string_view> parts = partsBetweenCommas(gloss);
-  if (parts.size() == 1 || endsInConjunction(parts)) return gloss;
-  if (const std::u16string_view list = listOfNames(gloss, parts); !list.empty() && isName(parts[0]))
-    return list;
-  const bool noun = !isCapital(gloss[0]) && !isVerb(gloss) && wordCount(parts[0]) <= 2 &&
-                    wordCount(parts[1]) > 1 && isCapital(parts[1][0]) && parts[1][1] != u' ' &&
-                    !isListed(kClauseBeginnings, firstWord(gloss));
-  if (!listedBeginning(kRestrictions, parts[1]).empty()) return gloss;
-  if (numbersAYear(parts)) return parts[1];
-  return isName(parts[0]) || noun ? parts[0] : gloss;
 }
 
 /// Removes the preposition before what was cut: "Li Ji Rebellion in", with the part between commas
@@ -215,6 +140,7 @@ std::u16string_view withoutYears(std::u16string_view gloss) {
 std::u16string_view withoutApposition(std::u16string_view gloss, bool phrase) {
   if (isSentence(gloss)) return gloss;
   gloss = withoutMarked(gloss, phrase);
+  gloss = withoutAuthor(gloss);
   if (!phrase) gloss = withoutNameTail(gloss);
   return withoutPlaceTail(withoutYears(gloss));
 }

@@ -12,17 +12,24 @@ namespace {
 constexpr std::u16string_view kExclamations = u"oh|hey|well|no|yes|yeah|ah|aw|sorry|please|ok|";
 
 /// A proper name does not begin with these, though its gloss has a comma.
-constexpr std::u16string_view kSentenceBeginnings = u"If|When|OK|I|In|As|With|There|";
+constexpr std::u16string_view kSentenceBeginnings =
+    u"If|When|OK|I|In|As|With|There|It|It's|Although|";
 
 /// Abbreviations that end a text without ending a sentence.
 constexpr std::u16string_view kAbbreviations = u"etc.|foll.|lit.|incl.|resp.|abbr.|";
 
+/// What begins with these goes on after a comma: "in literature, the cue for a poem".
+constexpr std::u16string_view kClauseBeginnings =
+    u"in|at|on|for|by|with|as|when|if|after|before|of|from|once|no|while|since|like|";
+
 /// Small words inside proper names.
-constexpr std::u16string_view kInNames = u"of|the|and|or|de|von|for|van|da|del|";
+constexpr std::u16string_view kInNames = u"of|the|and|or|de|von|for|van|der|da|del|am|al|bint|";
 
 constexpr std::u16string_view kKindsOfPlace =
     u"county|district|city|township|town|prefecture|municipality|province|banner|island|islands|"
-    u"village|subdistrict|peninsula|river|region|lake|mountains|airport|parish|suburb|";
+    u"village|subdistrict|nahiyisi|nahisi|shehiri|khoshuu|peninsula|river|region|lake|mountains|"
+    u"airport|parish|"
+    u"suburb|";
 
 }  // namespace
 
@@ -62,6 +69,10 @@ bool namesKindOfPlace(std::u16string_view name) {
 
 bool isExclamation(std::u16string_view word) { return isListed(kExclamations, lowered(word)); }
 
+bool beginsClause(std::u16string_view text) {
+  return isListed(kClauseBeginnings, lowered(firstWord(text)));
+}
+
 bool isSentence(std::u16string_view text) {
   if (text.ends_with(u'!')) return true;
   // Several sentences explain.
@@ -75,17 +86,22 @@ bool isSentence(std::u16string_view text) {
 
 bool areNameWords(std::u16string_view text) {
   for (std::size_t at = 0; at < text.size();) {
-    const std::u16string_view word = firstWord(text.substr(at));
+    const bool quoted = text[at] == u'"' && at + 1 < text.size();
+    const std::u16string_view word = firstWord(text.substr(at + (quoted ? 1 : 0)));
+    if (word.empty()) return false;
     const bool capital = isCapital(word[0]) || word.starts_with(u"al-") || word.starts_with(u"d'");
     if (!capital && !isDigit(word[0]) && !isListed(kInNames, word)) return false;
-    at += word.size() + 1;
+    at += word.size() + (quoted ? 2 : 1);
   }
   return true;
 }
 
+bool mayBeginName(std::u16string_view text) {
+  return !isExclamation(firstWord(text)) && !isListed(kSentenceBeginnings, firstWord(text));
+}
+
 bool isName(std::u16string_view text) {
-  if (!isCapital(text[0]) || isExclamation(firstWord(text))) return false;
-  if (isListed(kSentenceBeginnings, firstWord(text))) return false;
+  if (!isCapital(text[0]) || !mayBeginName(text)) return false;
   if (wordCount(text) <= 2 || namesKindOfPlace(text)) return true;
   return areNameWords(text);
 }

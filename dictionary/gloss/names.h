@@ -36,9 +36,17 @@ bool areNameWords(std::u16string_view text);
 /// Returns whether the word is an exclamation, written with a capital or not: "oh".
 bool isExclamation(std::u16string_view word);
 
+/// Returns whether the text begins with a preposition or a conjunction, after which it goes on
+/// behind a comma: "in literature, the cue for a poem".
+bool beginsClause(std::u16string_view text);
+
 /// Returns whether the text ends as a sentence does, rather than with an abbreviation: "Yeah,
 /// right!", but not "Nike, Inc."
 bool isSentence(std::u16string_view text);
+
+/// Returns whether the first word of the text may be that of a proper name, other than "If" and
+/// "Oh".
+bool mayBeginName(std::u16string_view text);
 
 /// Returns whether the text, which is not empty, is a proper name rather than the beginning of a
 /// sentence: capitalised words, two words with one capital ("Suzhou embroidery"), or the name of a

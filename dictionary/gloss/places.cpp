@@ -20,6 +20,9 @@ constexpr std::u16string_view kPlaceWords =
     u"valley|basin|harbor|park|square|palace|museum|university|bridge|tower|garden|gardens|"
     u"autonomous|province-level|county-level|prefecture-level|pr.|prov.|commune|counties|cities|"
     u"rivers|ruins|";
+/// They are cut behind as the kinds of towns and regions are, though only before "in" or "near".
+constexpr std::u16string_view kSites =
+    u"temple|monastery|caves|grotto|grottoes|plain|cemetery|museum|university|palace|pagoda|";
 /// In other texts they may mean anything: "the Law of the Sea".
 constexpr std::u16string_view kWaters = u"sea|ocean|falls|pool|port|pole|state|states|";
 /// In small letters.
@@ -62,7 +65,10 @@ std::u16string_view withoutPlaceTail(std::u16string_view gloss) {
     const bool place = count > 1 && isKindOfPlace(before);
     const bool located =
         longName && name && count > 0 && locates(gloss.substr(0, at - 1), gloss.substr(at));
-    const bool ends = isListed(kAfterPlace, word) || (place && word == u"or");
+    const bool site =
+        count > 1 && isListed(kSites, lowered(before)) && isListed(kBeforePlace, word);
+    if (site) return gloss.substr(0, at - 1);
+    const bool ends = isListed(kAfterPlace, word);
     if (ends && (place || located)) return gloss.substr(0, at - 1);
     name = name && (isCapital(word[0]) || isSmallWordInNames(word));
     before = word;

@@ -71,6 +71,9 @@ TEST(NamesWithKind, GivesEachNameTheKind) {
             (Names{u"Xizang Autonomous Region", u"Tibet Autonomous Region"}));
   EXPECT_EQ(namesWithKind(u"Cherchen nahiyisi or Qiemo county"),
             (Names{u"Cherchen nahiyisi", u"Qiemo county"}));
+  EXPECT_EQ(namesWithKind(u"You County or Youxian"), (Names{u"You County", u"Youxian"}));
+  EXPECT_EQ(namesWithKind(u"Plain and Bordered White banner or Shuluun khoshuu"),
+            (Names{u"Plain and Bordered White banner"}));
   EXPECT_EQ(namesWithKind(u"Mt Meru or Sumeru"), (Names{u"Mt Meru", u"Mt Sumeru"}));
 }
 
@@ -93,7 +96,8 @@ TEST(NamesWithKind, LeavesOtherTexts) {
   for (const std::u16string_view name :
        {u"Yuci district", u"one or two islands", u"Luye or township", u"or city",
         u"Baruch or Benedict Spinoza", u"History of Song or Liu Song", u"His or Her Majesty",
-        u"Omega or Horseshoe Nebula M17", u"Buddhist or Taoist scripture"}) {
+        u"Lin Zexu or Lin Tse-hsu \"Commissioner Lin\"", u"Omega or Horseshoe Nebula M17",
+        u"Buddhist or Taoist scripture"}) {
     EXPECT_EQ(namesWithKind(name), (Names{std::u16string(name)}));
   }
 }

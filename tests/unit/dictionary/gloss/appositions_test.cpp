@@ -115,12 +115,14 @@ TEST(WithoutApposition, TellsNamesFromSentences) {
 
 // "交城 | Jiaocheng county in Lüliang, Shanxi", "鹿野乡 | Luye or Luyeh township in Taitung
 // County", "雅拉雪山 | Mt Tiantai near Shaoxing in Zhejiang", "新源县 | Xinyuan County or Künes
-// nahiyisi in …"
+// nahiyisi in …", "清水寺 | Kiyomizu temple in east Kyōto 京都, Japan"
 TEST(WithoutApposition, CutsPlacesBehindTheirKind) {
   EXPECT_EQ(withoutApposition(u"Jiaocheng county in Luliang, Shanxi"), u"Jiaocheng county");
   EXPECT_EQ(withoutApposition(u"Luye or Luyeh township in Taitung County"),
             u"Luye or Luyeh township");
-  EXPECT_EQ(withoutApposition(u"Xinyuan County or Kunes nahiyisi in Ili"), u"Xinyuan County");
+  EXPECT_EQ(withoutApposition(u"Xinyuan County or Kunes nahiyisi in Ili"),
+            u"Xinyuan County or Kunes nahiyisi");
+  EXPECT_EQ(withoutApposition(u"Kiyomizu temple in east Kyoto, Japan"), u"Kiyomizu temple");
   EXPECT_EQ(withoutApposition(u"Mt Tiantai near Shaoxing in Zhejiang"), u"Mt Tiantai");
   EXPECT_EQ(withoutApposition(u"Alice in Wonderland"), u"Alice in Wonderland");
   EXPECT_EQ(withoutApposition(u"City of London"), u"City of London");
@@ -166,6 +168,8 @@ TEST(WithoutApposition, CutsDatesAndOtherNames) {
   EXPECT_EQ(withoutApposition(u"Xia or Hsia dynasty c. 2000 BC"), u"Xia or Hsia dynasty");
   EXPECT_EQ(withoutApposition(u"scary to think about coined c. 2013"), u"scary to think about");
   EXPECT_EQ(withoutApposition(u"Lu Jiamin aka Jiang Rong"), u"Lu Jiamin");
+  EXPECT_EQ(withoutApposition(u"Achang also called Ngac'ang"), u"Achang");
+  EXPECT_EQ(withoutApposition(u"Shaoxing wine a.k.a. yellow wine"), u"Shaoxing wine");
   EXPECT_EQ(withoutApposition(u"Uzziah before c. 750 BC"), u"Uzziah before c. 750 BC");
 }
 
