@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "dictionary/gloss/english.h"
-#include "dictionary/gloss/names.h"
+#include "dictionary/gloss/names/names.h"
 #include "dictionary/gloss/word_list.h"
 #include "dictionary/source/characters.h"
 

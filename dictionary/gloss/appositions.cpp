@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "dictionary/gloss/english.h"
-#include "dictionary/gloss/name_tails.h"
-#include "dictionary/gloss/names.h"
-#include "dictionary/gloss/places.h"
+#include "dictionary/gloss/names/name_tails.h"
+#include "dictionary/gloss/names/names.h"
+#include "dictionary/gloss/names/places.h"
 #include "dictionary/gloss/word_list.h"
 #include "dictionary/source/characters.h"
 

@@ -12,7 +12,7 @@
 #include <iterator>
 
 #include "dictionary/gloss/english.h"
-#include "dictionary/gloss/names.h"
+#include "dictionary/gloss/names/names.h"
 #include "dictionary/gloss/word_list.h"
 #include "dictionary/source/characters.h"
 #include "dictionary/source/cleanup.h"

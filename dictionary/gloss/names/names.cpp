@@ -1,4 +1,4 @@
-#include "dictionary/gloss/names.h"
+#include "dictionary/gloss/names/names.h"
 
 #include <algorithm>
 

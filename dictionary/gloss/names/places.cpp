@@ -1,10 +1,10 @@
-#include "dictionary/gloss/places.h"
+#include "dictionary/gloss/names/places.h"
 
 #include <algorithm>
 #include <string>
 
 #include "dictionary/gloss/english.h"
-#include "dictionary/gloss/names.h"
+#include "dictionary/gloss/names/names.h"
 #include "dictionary/gloss/word_list.h"
 
 namespace dictionary {

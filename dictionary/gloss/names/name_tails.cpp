@@ -1,11 +1,11 @@
-#include "dictionary/gloss/name_tails.h"
+#include "dictionary/gloss/names/name_tails.h"
 
 #include <algorithm>
 #include <string>
 #include <vector>
 
 #include "dictionary/gloss/english.h"
-#include "dictionary/gloss/names.h"
+#include "dictionary/gloss/names/names.h"
 #include "dictionary/gloss/word_list.h"
 #include "dictionary/source/characters.h"
 

@@ -1,4 +1,4 @@
-#include "dictionary/gloss/name_tails.h"
+#include "dictionary/gloss/names/name_tails.h"
 
 #include <gtest/gtest.h>
 
