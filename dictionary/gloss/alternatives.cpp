@@ -18,6 +18,8 @@ constexpr std::u16string_view kKinds =
     u"dynasty|university|creek|reservoir|temple|empire|cuisine|ray|drive|bay|nebula|";
 /// At the beginning of names. Alternative names share them.
 constexpr std::u16string_view kTitles = u"Cape |Mount |Mt |";
+/// Parts of "or so", "or not", "more or less", "sooner or later".
+constexpr std::u16string_view kInPhrases = u"so|not|more|later|";
 constexpr std::u16string_view kPronouns = u"I|His|Her|Your|Either|Whether|";
 
 bool isVerb(std::u16string_view gloss) { return gloss.starts_with(u"to "); }
@@ -113,6 +115,16 @@ std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bo
   const bool list = std::ranges::all_of(parts, isVerb) || std::ranges::all_of(parts, isWord);
   if (!list && !synonyms) return {gloss};
   return parts;
+}
+
+std::vector<std::u16string_view> alternativeWords(std::u16string_view gloss) {
+  std::vector<std::u16string_view> words = partsBetweenOr(isVerb(gloss) ? gloss.substr(3) : gloss);
+  const bool article = words[0].starts_with(u"a ") || words[0].starts_with(u"an ");
+  if (article) words[0].remove_prefix(firstWord(words[0]).size() + 1);
+  const bool single = std::ranges::all_of(words, [](std::u16string_view word) {
+    return wordCount(word) == 1 && !isListed(kInPhrases, word);
+  });
+  return single && words.size() == 2 ? words : std::vector<std::u16string_view>{gloss};
 }
 
 std::vector<std::u16string> namesWithKind(std::u16string_view name) {

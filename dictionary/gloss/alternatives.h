@@ -14,6 +14,11 @@ namespace dictionary {
 /// The views refer into `gloss`.
 std::vector<std::u16string_view> listedEquivalents(std::u16string_view gloss, bool names);
 
+/// Returns the two words of "hide or harbor", "to insult or maltreat"; the gloss itself if it is
+/// anything else. Only a character has both as its meanings: a longer word may be of opposites,
+/// "life or death". The views refer into `gloss`.
+std::vector<std::u16string_view> alternativeWords(std::u16string_view gloss);
+
 /// Returns the names that "or" joins, each with the kind of the thing that is written once: "Luye
 /// township" and "Luyeh township" for "Luye or Luyeh township", "Lixia" and "Start of Summer". Any
 /// other text is returned as it is.

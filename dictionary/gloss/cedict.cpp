@@ -34,11 +34,16 @@ constexpr std::size_t kAfterAll = 10'000;
 
 using Numbers = std::vector<std::uint32_t>;
 
+WordKind kindOf(const CedictRecord& source) {
+  if (std::ranges::any_of(source.glosses, marksPhrase)) return WordKind::kPhrase;
+  return source.simplified.size() == 1 ? WordKind::kCharacter : WordKind::kTerm;
+}
+
 Record parseRecord(const CedictRecord& source) {
   Record record{&source, {}, {}};
-  const bool phrase = std::ranges::any_of(source.glosses, marksPhrase);
+  const WordKind kind = kindOf(source);
   for (const std::u16string& text : source.glosses) {
-    ParsedGloss parsed = parseGloss(text, phrase);
+    ParsedGloss parsed = parseGloss(text, kind);
     std::erase_if(parsed.glosses, [&](const Gloss& gloss) {
       return labelsItsWord(gloss.english, source.simplified);
     });

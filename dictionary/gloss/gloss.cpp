@@ -117,7 +117,7 @@ std::vector<std::u16string_view> splitPieces(std::u16string_view gloss) {
 /// Parses the pieces of one gloss from left to right.
 class GlossParser {
  public:
-  explicit GlossParser(bool phrase) : phrase_(phrase) {}
+  explicit GlossParser(WordKind kind) : kind_(kind) {}
 
   ParsedGloss run(std::u16string_view gloss) {
     for (const std::u16string_view piece : splitPieces(gloss)) readPiece(foldBlanks(piece));
@@ -156,12 +156,14 @@ class GlossParser {
     NoteMeaning meaning = noted.meaning;
     meaning |= shared_;
     if (isUsageNote(english)) return;
-    const std::u16string_view equivalent = withoutApposition(english, phrase_);
+    const std::u16string_view equivalent = withoutApposition(english, kind_ == WordKind::kPhrase);
     const bool described = !noted.whole.empty() || isDescription(equivalent);
     SubjectSet subjects = meaning.subjects;
     if (describesPlace(english)) subjects |= setOf(Subject::kPlace);
     const bool names = (subjects & kNameSubjects) != 0;
-    for (const std::u16string_view text : listedEquivalents(equivalent, names)) {
+    std::vector<std::u16string_view> texts = listedEquivalents(equivalent, names);
+    if (kind_ == WordKind::kCharacter && texts.size() == 1) texts = alternativeWords(equivalent);
+    for (const std::u16string_view text : texts) {
       for (const std::u16string& name : namesWithKind(text)) {
         const std::optional<std::u16string> word = englishHeadword(name);
         if (word) add(*word, subjects, valueOf(*word, described, usage || meaning.usage));
@@ -185,7 +187,7 @@ class GlossParser {
     result_.glosses.push_back({word, wordCount(word), subjects, value});
   }
 
-  bool phrase_;
+  WordKind kind_;
   ParsedGloss result_;
   NoteMeaning shared_;  ///< of the note at the beginning
   bool begun_ = false;
@@ -200,8 +202,8 @@ bool marksPhrase(std::u16string_view gloss) {
          }).size() > 0;
 }
 
-ParsedGloss parseGloss(std::u16string_view gloss, bool phrase) {
-  return GlossParser(phrase).run(foldBlanks(text::withoutAccents(withAsciiMarks(gloss))));
+ParsedGloss parseGloss(std::u16string_view gloss, WordKind kind) {
+  return GlossParser(kind).run(foldBlanks(text::withoutAccents(withAsciiMarks(gloss))));
 }
 
 }  // namespace dictionary

@@ -45,11 +45,17 @@ struct ParsedGloss {
   std::vector<GlossReference> references;
 };
 
+/// What a record is about, on which the grammar of its glosses depends.
+enum class WordKind : std::uint8_t {
+  kTerm,
+  kCharacter,  ///< a single one: "to insult or maltreat" are two of its meanings
+  kPhrase,     ///< an idiom, a saying or a slogan, as one gloss of the record says
+};
+
 /// Parses one gloss: "lit. change to more severe (idiom); to become more intense". Meanings that
 /// semicolons part are several equivalents. A note before the first one holds for all of them.
 /// Texts that are literal have GlossValue::kLiteral, whether or not there is another meaning.
-/// `phrase`: a gloss of the record marks it as a phrase.
-ParsedGloss parseGloss(std::u16string_view gloss, bool phrase = false);
+ParsedGloss parseGloss(std::u16string_view gloss, WordKind kind = WordKind::kTerm);
 
 /// Returns whether the gloss has a note that its word is an idiom, a saying or a slogan, so that
 /// all glosses of the record are sentences or parts of them rather than terms.

@@ -54,6 +54,17 @@ TEST(ListedEquivalents, LeavesOtherCommas) {
             (Views{u"Christine", u"Kristin"}));
 }
 
+// "凌 | to insult or maltreat", "椊 | a plug or cork", "总 | … sooner or later"
+TEST(AlternativeWords, PartsTwoWords) {
+  using dictionary::alternativeWords;
+  EXPECT_EQ(alternativeWords(u"to insult or maltreat"), (Views{u"insult", u"maltreat"}));
+  EXPECT_EQ(alternativeWords(u"a plug or cork"), (Views{u"plug", u"cork"}));
+  for (const std::u16string_view gloss : {u"one or so", u"sand pit or bunker", u"or", u"to boil",
+                                          u"one or two or three", u" or ", u"sooner or later"}) {
+    EXPECT_EQ(alternativeWords(gloss), (Views{gloss}));
+  }
+}
+
 using Names = std::vector<std::u16string>;
 using dictionary::namesWithKind;
 

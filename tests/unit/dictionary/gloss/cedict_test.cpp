@@ -121,6 +121,14 @@ TEST(ChineseEntries, ReadsAllGlossesOfAnIdiomAsPhrases) {
       (Texts{u"first", u"man proposes, God disposes"}));
 }
 
+// "王 | king or monarch", "生死 | life or death"
+TEST(ChineseEntries, PartsTheMeaningsOfACharacterOnly) {
+  EXPECT_EQ(textsOf({record(u"王", u"wang2", {u"king or monarch"})}, u"王"),
+            (Texts{u"king", u"monarch"}));
+  EXPECT_EQ(textsOf({record(u"生死", u"sheng1 si3", {u"life or death"})}, u"生死"),
+            (Texts{u"life or death"}));
+}
+
 // "秘 | see 秘魯|秘鲁[Bi4 lu3]", "㬎 | old variant of 顯|显[xian3]", "壳牌 | see 殼牌公司"
 TEST(ChineseEntries, GivesACharacterNoMeaningOfAWord) {
   const Records records = {record(u"秘", u"bi4", {u"see 秘鲁[Bi4 lu3]"}),

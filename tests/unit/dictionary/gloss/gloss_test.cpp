@@ -12,6 +12,7 @@ using dictionary::Gloss;
 using dictionary::GlossValue;
 using dictionary::parseGloss;
 using dictionary::Subject;
+using dictionary::WordKind;
 using Texts = std::vector<std::u16string>;
 
 Texts texts(std::u16string_view gloss) {
@@ -127,8 +128,18 @@ TEST(ParseGloss, ReadsThePhrasesOfARecord) {
   }
   EXPECT_FALSE(marksPhrase(u"idiom"));
   EXPECT_FALSE(marksPhrase(u"to say (sth)"));
-  EXPECT_EQ(parseGloss(u"(fig.) any Tom, Dick or Harry", true).glosses.at(0).english,
+  EXPECT_EQ(parseGloss(u"(fig.) any Tom, Dick or Harry", WordKind::kPhrase).glosses.at(0).english,
             u"any Tom, Dick or Harry");
+}
+
+// "凌 | to insult or maltreat", "王 | king or monarch", "生死 | life or death"
+TEST(ParseGloss, PartsTheMeaningsOfACharacter) {
+  const std::vector<Gloss> glosses =
+      parseGloss(u"to insult or maltreat", WordKind::kCharacter).glosses;
+  ASSERT_EQ(glosses.size(), 2U);
+  EXPECT_EQ(glosses[0].english, u"insult");
+  EXPECT_EQ(glosses[1].english, u"maltreat");
+  EXPECT_EQ(texts(u"life or death"), (Texts{u"life or death"}));
 }
 
 // "FBI | Federal Bureau of Investigation (FBI)"
