@@ -77,11 +77,11 @@ bool isAlternative(std::u16string_view text) {
 }
 
 /// Returns whether one of two names may be short for more words of the other: "History of Song or
-/// Liu Song", the first names in "Baruch or Benedict Spinoza".
+/// Liu Song", the first names in "Baruch or Benedict Spinoza", which are short.
 bool mayShareMore(std::u16string_view first, std::u16string_view second) {
   if (first.find(u" of ") != std::u16string_view::npos) return true;
-  return wordCount(first) == 1 && wordCount(second) == 2 && kindOf(second).empty() &&
-         first[0] == second[0] && firstWord(second).size() > 4;
+  return wordCount(first) == 1 && first.size() < 7 && wordCount(second) == 2 &&
+         kindOf(second).empty() && first[0] == second[0] && firstWord(second).size() > 4;
 }
 
 }  // namespace

@@ -64,7 +64,7 @@ std::u16string_view withoutLeadingWords(std::u16string_view text) {
     if (!text.starts_with(article)) continue;
     const std::u16string_view rest = text.substr(article.size());
     const bool kept = isListed(kAfterArticle, firstWord(rest)) || rest.starts_with(u"more") ||
-                      rest.starts_with(u"less");
+                      rest.starts_with(u"less") || rest.find(u", the ") < rest.size();
     return kept ? text : rest;
   }
   return text;

@@ -131,6 +131,8 @@ class GlossParser {
     std::u16string_view text = noted.whole.empty() ? noted.text : noted.whole;
     const Marks marks = takeMarks(text);
     literal_ = marks.literal || (meaning.literal && !meaning.figurative);
+    // "lit. whole sky, a multitude of stars", but "lit. Rushing Clan, generation born …".
+    phrase_ = kind_ == WordKind::kPhrase || (marks.literal && !text.empty() && isSmall(text[0]));
     if (!begun_ && piece.starts_with(u'(') && !noted.described) shared_ = meaning;
     begun_ = true;
     if (text.empty() || isAside(text) || !listedBeginning(kOtherWords, text).empty()) return;
@@ -156,7 +158,7 @@ class GlossParser {
     NoteMeaning meaning = noted.meaning;
     meaning |= shared_;
     if (isUsageNote(english)) return;
-    const std::u16string_view equivalent = withoutApposition(english, kind_ == WordKind::kPhrase);
+    const std::u16string_view equivalent = withoutApposition(english, phrase_);
     const bool described = !noted.whole.empty() || isDescription(equivalent);
     SubjectSet subjects = meaning.subjects;
     if (describesPlace(english)) subjects |= setOf(Subject::kPlace);
@@ -192,6 +194,7 @@ class GlossParser {
   NoteMeaning shared_;  ///< of the note at the beginning
   bool begun_ = false;
   bool literal_ = false;  ///< of the piece
+  bool phrase_ = false;   ///< whether the commas of the piece are those of a sentence
 };
 
 }  // namespace

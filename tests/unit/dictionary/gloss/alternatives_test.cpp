@@ -88,10 +88,12 @@ TEST(NamesWithKind, GivesEachNameTheKind) {
   EXPECT_EQ(namesWithKind(u"Mt Meru or Sumeru"), (Names{u"Mt Meru", u"Mt Sumeru"}));
 }
 
-// "立夏 | Lixia or Start of Summer, …", "金瓶梅 | Jinpingmei or the Golden Lotus", "罗姗 | Roxanne
-// or Roxane or Rosanna", "象牙海岸 | Côte d'Ivoire or Ivory Coast"
+// "毕宿五 | Aldebaran or Alpha Tauri", "立夏 | Lixia or Start of Summer, …", "金瓶梅 | Jinpingmei
+// or the Golden Lotus", "罗姗 | Roxanne or Roxane or Rosanna", "象牙海岸 | Côte d'Ivoire or Ivory
+// Coast"
 TEST(NamesWithKind, PartsNamesOfDifferentLengths) {
   EXPECT_EQ(namesWithKind(u"Lixia or Start of Summer"), (Names{u"Lixia", u"Start of Summer"}));
+  EXPECT_EQ(namesWithKind(u"Aldebaran or Alpha Tauri"), (Names{u"Aldebaran", u"Alpha Tauri"}));
   EXPECT_EQ(namesWithKind(u"Jinpingmei or the Golden Lotus"),
             (Names{u"Jinpingmei", u"Golden Lotus"}));
   EXPECT_EQ(namesWithKind(u"Roxanne or Roxane or Rosanna"),

@@ -29,6 +29,12 @@ TEST(EnglishHeadword, KeepsThemWhereTheyBelong) {
   EXPECT_EQ(word(u"the more"), u"the more");
 }
 
+// "姜还是老的辣 | the older, the wiser", "三光 | the sun, the moon, and the stars"
+TEST(EnglishHeadword, KeepsTheFirstOfSeveralArticles) {
+  EXPECT_EQ(word(u"the older, the wiser"), u"the older, the wiser");
+  EXPECT_EQ(word(u"the sun, the moon, and the stars"), u"the sun, the moon, and the stars");
+}
+
 // "穷匮 | to be short of sth", "抬举 | to elevate sb", "弃暗 | sb's identity"
 TEST(EnglishHeadword, WritesAbbreviationsOut) {
   EXPECT_EQ(word(u"to be short of sth"), u"be short of something");

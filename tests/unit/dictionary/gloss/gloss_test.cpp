@@ -142,6 +142,15 @@ TEST(ParseGloss, PartsTheMeaningsOfACharacter) {
   EXPECT_EQ(texts(u"life or death"), (Texts{u"life or death"}));
 }
 
+// "满天繁星 | lit. whole sky, a multitude of stars", "奔奔族 | lit. Rushing Clan, generation born
+// …", "谪仙 | a genius (literally, an immortal …), an epithet for exceptional individuals"
+TEST(ParseGloss, CutsNoLiteralMeaning) {
+  EXPECT_EQ(texts(u"lit. whole sky, a multitude of stars"),
+            (Texts{u"whole sky, a multitude of stars"}));
+  EXPECT_EQ(texts(u"lit. Rushing Clan, generation born in 1985"), (Texts{u"Rushing Clan"}));
+  EXPECT_EQ(texts(u"a genius (literally, an immortal), an epithet"), (Texts{u"genius"}));
+}
+
 // "FBI | Federal Bureau of Investigation (FBI)"
 TEST(ParseGloss, AddsInitials) {
   EXPECT_EQ(texts(u"Federal Bureau of Investigation (FBI)"),
