@@ -11,6 +11,7 @@
 #include "dictionary/gloss/descriptions.h"
 #include "dictionary/gloss/english.h"
 #include "dictionary/gloss/notes.h"
+#include "dictionary/gloss/symbols.h"
 #include "dictionary/gloss/word_list.h"
 #include "dictionary/source/characters.h"
 #include "dictionary/source/cleanup.h"
@@ -158,7 +159,8 @@ class GlossParser {
     NoteMeaning meaning = noted.meaning;
     meaning |= shared_;
     if (isUsageNote(english)) return;
-    const std::u16string_view equivalent = withoutApposition(english, phrase_);
+    const NamedText named = withoutSymbol(english);
+    const std::u16string_view equivalent = withoutApposition(named.text, phrase_);
     const bool described = !noted.whole.empty() || isDescription(equivalent);
     SubjectSet subjects = meaning.subjects;
     if (describesPlace(english)) subjects |= setOf(Subject::kPlace);
@@ -171,8 +173,9 @@ class GlossParser {
         if (word) add(*word, subjects, valueOf(*word, described, usage || meaning.usage));
       }
     }
-    if (!noted.initials.empty()) {
-      add(noted.initials, subjects, valueOf(noted.initials, false, usage || meaning.usage));
+    for (const std::u16string& initials : {noted.initials, named.initials}) {
+      if (initials.empty()) continue;
+      add(initials, subjects, valueOf(initials, false, usage || meaning.usage));
     }
   }
 

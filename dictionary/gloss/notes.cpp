@@ -9,10 +9,10 @@
 #include "dictionary/gloss/notes.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "dictionary/gloss/english.h"
 #include "dictionary/gloss/names/names.h"
+#include "dictionary/gloss/symbols.h"
 #include "dictionary/gloss/word_list.h"
 #include "dictionary/source/characters.h"
 #include "dictionary/source/cleanup.h"
@@ -55,22 +55,6 @@ bool isFormula(std::u16string_view note) {
   return !note.empty() && std::ranges::all_of(note, [](char16_t unit) {
     return isAsciiLetter(unit) || isDigit(unit) || unit == u',' || unit == u'-' || unit == u'+';
   });
-}
-
-/// Returns whether the note is made of the initials of the text's words: "FBI" beside "Federal
-/// Bureau of Investigation".
-bool areInitials(std::u16string_view note, std::u16string_view text) {
-  if (note.size() < 2 || !std::ranges::all_of(note, isCapital)) return false;
-  std::u16string initials;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool begins = i == 0 || text[i - 1] == u' ' || text[i - 1] == u'-';
-    if (begins && isAsciiLetter(text[i]) && (isCapital(text[i]) || text.substr(i, 3) != u"of ")) {
-      initials += isCapital(text[i]) ? text[i] : static_cast<char16_t>(text[i] - u'a' + u'A');
-    }
-  }
-  std::u16string capitals;
-  std::ranges::copy_if(text, std::back_inserter(capitals), isCapital);
-  return note == initials || note == capitals;
 }
 
 /// "1596-1650", "died 409", "c. 21st century BC"

@@ -151,10 +151,11 @@ TEST(ParseGloss, CutsNoLiteralMeaning) {
   EXPECT_EQ(texts(u"a genius (literally, an immortal), an epithet"), (Texts{u"genius"}));
 }
 
-// "FBI | Federal Bureau of Investigation (FBI)"
+// "FBI | Federal Bureau of Investigation (FBI)", "国立首尔大学 | Seoul National University SNU"
 TEST(ParseGloss, AddsInitials) {
   EXPECT_EQ(texts(u"Federal Bureau of Investigation (FBI)"),
             (Texts{u"Federal Bureau of Investigation", u"FBI"}));
+  EXPECT_EQ(texts(u"Seoul National University SNU"), (Texts{u"Seoul National University", u"SNU"}));
 }
 
 // "一步一趋 | see 亦步亦趨|亦步亦趋[yi4 bu4 yi4 qu1]", "官媒 | (abbr. for 官方媒體|官方媒体)"
