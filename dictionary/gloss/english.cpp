@@ -33,6 +33,21 @@ constexpr std::u16string_view kAfterArticle =
     u"la|priori|posteriori|cappella|little|few|lot|bit|while|great|good|number|more|moment|same|"
     u"certain|couple|other|long|short|year|day|month|week|second|person|";
 
+/// Verbs of a sentence. Some are nouns after kBeforeNoun: "the will of the people".
+constexpr std::u16string_view kFiniteVerbs =
+    u"is|are|was|were|isn't|aren't|will|won't|must|can|can't|cannot|may|should|would|has|have|had|"
+    u"does|doesn't|don't|knows|gets|comes|goes|";
+constexpr std::u16string_view kArticles = u"a|an|the|";
+constexpr std::u16string_view kBeforeNoun = u"a|an|the|to|of|";
+/// A clause that begins with one of these, or a verb after a pronoun, explains the noun before it:
+/// "a person who is strict", "the road one must follow".
+constexpr std::u16string_view kRelatives =
+    u"who|whom|whose|which|that|what|where|whereby|when|how|why|if|as|";
+constexpr std::u16string_view kSubjects = u"one|you|we|I|he|she|they|it|sb|";
+/// After a verb in "s": "a fine bird chooses a tree".
+constexpr std::u16string_view kAfterVerb =
+    u"a|an|the|his|her|its|their|one's|you|us|him|them|sb|sth|";
+
 /// Abbreviations that keep their full stop at the end of a gloss.
 constexpr std::u16string_view kWithStop =
     u"Inc.|Ltd.|Co.|Corp.|Jr.|Sr.|Mr.|Mrs.|Ms.|Dr.|No.|St.|vs.|";
@@ -56,6 +71,12 @@ std::u16string writtenOut(std::u16string_view text) {
   return result;
 }
 
+/// Returns whether the word, which `next` follows, may be a verb such as "chooses".
+bool isThirdPerson(std::u16string_view word, std::u16string_view next) {
+  return word.size() > 3 && word.ends_with(u's') && !word.ends_with(u"ss") &&
+         !word.ends_with(u"'s") && isListed(kAfterVerb, next);
+}
+
 /// Removes the verb's "to" or an article.
 std::u16string_view withoutLeadingWords(std::u16string_view text) {
   const bool verb = text.starts_with(u"to ");
@@ -64,7 +85,8 @@ std::u16string_view withoutLeadingWords(std::u16string_view text) {
     if (!text.starts_with(article)) continue;
     const std::u16string_view rest = text.substr(article.size());
     const bool kept = isListed(kAfterArticle, firstWord(rest)) || rest.starts_with(u"more") ||
-                      rest.starts_with(u"less") || rest.find(u", the ") < rest.size();
+                      rest.starts_with(u"less") || rest.find(u", the ") < rest.size() ||
+                      isSentence(text);
     return kept ? text : rest;
   }
   return text;
@@ -164,6 +186,28 @@ std::optional<std::u16string> englishHeadword(std::u16string_view gloss) {
   const std::u16string full = writtenOut(withoutLeadingWords(plain));
   const std::u16string word = withoutMarks(full);
   return isPattern(word) ? std::nullopt : headword(word);
+}
+
+bool isSentence(std::u16string_view text) {
+  // "the closer one is to the end, the tougher it gets"
+  const bool correlative = text.starts_with(u"the ") && text.find(u", the ") != text.npos &&
+                           firstWord(text.substr(4)).ends_with(u"er");
+  if (correlative) return true;
+  std::u16string_view before;
+  bool doubtful = false;  // whether there was a word that may be a verb
+  for (std::u16string_view rest = text; !rest.empty();) {
+    const std::u16string_view word = firstWord(rest);
+    rest.remove_prefix(std::min(rest.size(), word.size() + 1));
+    if (isListed(kRelatives, word)) break;
+    const bool noun =
+        before.empty() || isListed(kBeforeNoun, before) || before.ends_with(u"'s") || rest.empty();
+    // "the classics a scholar must read": another noun is the subject of the verb.
+    if (noun && !before.empty() && isListed(kArticles, firstWord(rest))) return false;
+    if (!noun && isListed(kFiniteVerbs, word)) return !isListed(kSubjects, before);
+    doubtful = doubtful || (!noun && isThirdPerson(word, firstWord(rest)));
+    before = word;
+  }
+  return doubtful;
 }
 
 std::size_t wordCount(std::u16string_view text) {

@@ -150,7 +150,8 @@ class GlossParser {
     if (english->ends_with(u" aka")) english->erase(english->size() - 4);
     // So that the name after the article is seen to be one: "the Louvre, museum in Paris".
     const bool name = english->starts_with(u"the ") && english->size() > 4 &&
-                      (*english)[4] >= u'A' && (*english)[4] <= u'Z';
+                      (*english)[4] >= u'A' && (*english)[4] <= u'Z' &&
+                      !isSentence(english->substr(0, english->find_first_of(u",:")));
     if (name) english->erase(0, 4);
     if (!english->empty()) addEnglish(*english, noted, marks.usage);
   }

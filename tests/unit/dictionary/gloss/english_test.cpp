@@ -35,6 +35,30 @@ TEST(EnglishHeadword, KeepsTheFirstOfSeveralArticles) {
   EXPECT_EQ(word(u"the sun, the moon, and the stars"), u"the sun, the moon, and the stars");
 }
 
+// "死无对证 | the dead cannot testify", "良禽择木 | a fine bird chooses a tree to nest in",
+// "行百里者半九十 | fig. the closer one is to completing a task, the tougher it gets"
+TEST(EnglishHeadword, KeepsTheArticleOfASentence) {
+  for (const std::u16string_view sentence :
+       {u"the dead cannot testify", u"the die is cast", u"a fine bird chooses a tree to nest in",
+        u"the closer one is to completing a task, the tougher it gets"}) {
+    EXPECT_EQ(word(sentence), sentence);
+  }
+}
+
+// "人心 | the will of the people", "听 | a can", "必经之路 | the road one must follow", "天心 | the
+// monarch's will", "双独夫妇 | a married couple allowed dispensation to have second child", "诗礼 |
+// … the classics a Confucian scholar must read"
+TEST(EnglishHeadword, TellsNounsFromSentences) {
+  EXPECT_EQ(word(u"the will of the people"), u"will of the people");
+  EXPECT_EQ(word(u"a can"), u"can");
+  EXPECT_EQ(word(u"the road one must follow"), u"road one must follow");
+  EXPECT_EQ(word(u"the monarch's will"), u"monarch's will");
+  EXPECT_EQ(word(u"a married couple allowed to have a child"),
+            u"married couple allowed to have a child");
+  EXPECT_EQ(word(u"a youth who is strict"), u"youth who is strict");
+  EXPECT_EQ(word(u"the classics a scholar must read"), u"classics a scholar must read");
+}
+
 // "穷匮 | to be short of sth", "抬举 | to elevate sb", "弃暗 | sb's identity"
 TEST(EnglishHeadword, WritesAbbreviationsOut) {
   EXPECT_EQ(word(u"to be short of sth"), u"be short of something");

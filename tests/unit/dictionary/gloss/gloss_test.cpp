@@ -78,11 +78,13 @@ TEST(ParseGloss, TellsLiteralMeanings) {
 }
 
 // "美洲国家 | also known as the Asian Games", "沪江 | alternative name for Shanghai 上海[Shang4
-// hai3]"
+// hai3]", "河清海晏 | the Yellow River is clear and the sea is calm"
 TEST(ParseGloss, RemovesMarksBeforeTheMeaning) {
   EXPECT_EQ(texts(u"also known as the Asian Games"), (Texts{u"Asian Games"}));
   EXPECT_EQ(texts(u"alternative name for Shanghai 上海[Shang4 hai3]"), (Texts{u"Shanghai"}));
   EXPECT_EQ(texts(u"the Louvre, museum in Paris"), (Texts{u"Louvre"}));
+  EXPECT_EQ(texts(u"the Four Truths, whose end is peace"), (Texts{u"Four Truths"}));
+  EXPECT_EQ(texts(u"the Yellow River is clear"), (Texts{u"the Yellow River is clear"}));
 }
 
 // "原定 | originally planned", "特急 | especially urgent", "又名 | also known as", "不然 | or
