@@ -1,8 +1,9 @@
-// A note is deleted unless the words around it need it. They do in four cases, which are told from
+// A note is deleted unless the words around it need it. They do in five cases, which are told from
 // the characters next to the brackets and from the words before them:
 // - without a blank before or after: part of a word or a formula ("(hand)bag", "Ca(OH)2"), or the
 //   ending of another form, which is not needed ("child(ren)");
 // - a little word that begins the phrase, or "not" anywhere: "(in) return";
+// - a possessive, or the object of certain verbs: "in (sb's) eyes", "to make (sb) cry";
 // - the object of an article, a conjunction or a preposition at the end: "in (a place)". Verbs do
 //   without it: "to belong to (a group)" is "belong to".
 
@@ -32,13 +33,24 @@ constexpr std::u16string_view kAfterYears =
     u"and|or|that|which|who|whose|when|after|during|under|until|founded|aka|";
 /// Kept at the beginning of a phrase.
 constexpr std::u16string_view kLittleWords =
-    u"in|the|of|just|for|to|it|on|within|at|a|to be|as|be|with|by|";
+    u"in|the|of|just|for|to|it|on|within|at|a|to be|as|be|with|by|since|from|under|over|out of|";
 /// Kept anywhere: they reverse the meaning.
 constexpr std::u16string_view kNegations = u"not|cannot|never|un|non|don't|";
 /// Objects that stand for any other: a preposition before them can do without.
 constexpr std::u16string_view kPlaceholders =
     u"sb|sth|sb or sth|do sth|doing sth|somebody|something|sb else|sth or sb|to do sth|"
     u"sb to do sth|";
+/// Verbs that say nothing without their object, and the adverbs with which they do: "to let (sb)
+/// down".
+constexpr std::u16string_view kObjectVerbs = u"let|make|have|get|find|do|try|set|";
+constexpr std::u16string_view kParticles =
+    u"up|off|down|away|out|over|on|in|go|back|aside|around|about|along|through|together|";
+/// Where one of these follows, it speaks of the object: "to use (sth) on its own".
+constexpr std::u16string_view kBackReferences =
+    u"oneself|himself|themselves|itself|one's|his|their|them|its|each|";
+constexpr std::u16string_view kAfterSubject = u"is|are|was|were|";
+/// Possessives besides those in "'s".
+constexpr std::u16string_view kPossessives = u"my|your|his|her|its|our|their|this|";
 /// Subjects and objects inside a sentence.
 constexpr std::u16string_view kPronouns = u"you|I|we|he|she|they|it|me|him|them|";
 constexpr std::size_t kMaxKeptWords = 4;
@@ -76,6 +88,29 @@ bool describesName(std::u16string_view name, std::u16string_view after) {
   const bool age = lowered(lastWord(name)) == u"dynasty" || lowered(lastWord(name)) == u"period";
   const bool several = name.find(u" and ") != std::u16string_view::npos;  // "Wei (220-265) and Jin"
   return !age && !several && !isListed(kPrepositions, next) && !isListed(kAfterYears, next);
+}
+
+/// "sb's", "your", "a country's", but not "or Kant's".
+bool isPossessive(std::u16string_view note) {
+  const std::u16string_view last = lastWord(note);
+  return (last.ends_with(u"'s") || isListed(kPossessives, last)) && !note.starts_with(u"or ");
+}
+
+bool isPlaceholder(std::u16string_view note) {
+  return isListed(kPlaceholders, note) || note == u"one" || note == u"people";
+}
+
+/// Returns whether the object in brackets between the words is needed: "to let (sb) know".
+bool needsObject(std::u16string_view verb, std::u16string_view after) {
+  const std::u16string_view next = firstWord(after);
+  if (isListed(kObjectVerbs, verb) && !isListed(kParticles, next)) return true;
+  if (next == u"the" || isListed(kAfterSubject, next)) return true;
+  for (std::u16string_view rest = after; !rest.empty();) {
+    const std::u16string_view word = firstWord(rest);
+    if (isListed(kBackReferences, word)) return true;
+    rest.remove_prefix(std::min(rest.size(), word.size() + 1));
+  }
+  return false;
 }
 
 /// A note of a gloss: its brackets are at `open` and `close`.
@@ -173,15 +208,30 @@ class NoteRemover {
       const bool noun = object.find(u" the ") != std::u16string_view::npos;
       return noun && finalWord == u"of" && before.starts_with(u"to ");
     }
+    // "to denounce (sb) as (sth contemptible)"
+    const std::u16string_view last = std::u16string_view(after).substr(next.size());
+    const bool both = isPlaceholder(note.content) && isListed(kPrepositions, next) &&
+                      last.starts_with(u" (") &&
+                      !isListed(kPrepositions, firstWord(last.substr(2)));
+    if (both) return true;
     const bool open = isListed(kPrepositions, finalWord) || isListed(kOpenWords, finalWord);
     const bool joins = isListed(kPrepositions, next) || next == u"than" || next == u"that";
     return next == finalWord || isListed(kPronouns, note.content) || (open && joins);
   }
 
+  /// Returns whether the words on both sides need the note: "in (sb's) eyes", "to make (sb) cry".
+  [[nodiscard]] bool joins(const Note& note, std::u16string_view before) const {
+    const std::u16string after = foldBlanks(gloss_.substr(note.close + 1));
+    if (after.empty() || !isAsciiLetter(after[0])) return false;
+    if (before.empty()) return note.content.starts_with(u"not ") && isPossessive(note.content);
+    if (note.content == u"one" || isPossessive(note.content)) return true;
+    return isPlaceholder(note.content) && needsObject(lastWord(before), after);
+  }
+
   [[nodiscard]] bool isNeeded(const Note& note) const {
     const std::u16string before = foldBlanks(result_.text);
     const std::u16string_view after = gloss_.substr(note.close + 1);
-    if (isListed(kNegations, note.content)) return true;
+    if (isListed(kNegations, note.content) || joins(note, before)) return true;
     if (isListed(kLittleWords, note.content)) return before.empty() && !after.empty();
     const NoteMeaning meaning = readNote(note.content);
     const bool known = meaning.subjects != 0 || meaning.usage || meaning.label;
@@ -190,9 +240,12 @@ class NoteRemover {
     if (known || !last || before.empty() || wordCount(note.content) > kMaxKeptWords) return false;
     const std::u16string_view word = lastWord(before);
     if (isListed(kOpenWords, word)) return true;
-    return isListed(kPrepositions, word) && !before.starts_with(u"to ") &&
-           !isListed(kPlaceholders, note.content) &&
-           note.content.find(u',') == std::u16string_view::npos && !note.content.ends_with(u" etc");
+    if (!isListed(kPrepositions, word) || before.starts_with(u"to ")) return false;
+    if (isListed(kPlaceholders, note.content)) return false;
+    // "a mountain of (paperwork etc)", but "short of (money, time etc)"
+    const bool amount = word == u"of" && !listedBeginning(u"a |an |the |such a |", before).empty();
+    return amount || (note.content.find(u',') == std::u16string_view::npos &&
+                      !note.content.ends_with(u" etc"));
   }
 
   static std::u16string withoutLooseBlanks(std::u16string_view text) {

@@ -62,12 +62,51 @@ TEST(WithoutGlossNotes, KeepsLittleWordsAtTheBeginning) {
   EXPECT_EQ(text(u"result (of)"), u"result");
 }
 
+// "自古 | (since) ancient times/(from) time immemorial", "众目睽睽 | (idiom) (under) the public
+// eye", "长年累月 | (over) many years"
+TEST(WithoutGlossNotes, KeepsPrepositionsAtTheBeginning) {
+  EXPECT_EQ(text(u"(since) ancient times"), u"since ancient times");
+  EXPECT_EQ(text(u"(from) time immemorial"), u"from time immemorial");
+  EXPECT_EQ(text(u"(idiom) (under) the public eye"), u"under the public eye");
+  EXPECT_EQ(text(u"(over) many years"), u"over many years");
+  EXPECT_EQ(text(u"(out of) the corner of one's eyes"), u"out of the corner of one's eyes");
+}
+
+// "眼中 | in (sb's) eyes", "候驾 | to await (your) gracious presence", "鸟事 | (not one's) goddamn
+// business", "上梁 | (a building's) upper beam", "狄公案 | Dee Gong An (or Judge Dee's) Cases"
+TEST(WithoutGlossNotes, KeepsPossessivesInsideAPhrase) {
+  EXPECT_EQ(text(u"in (sb's) eyes"), u"in sb's eyes");
+  EXPECT_EQ(text(u"to await (your) gracious presence"), u"to await your gracious presence");
+  EXPECT_EQ(text(u"(not one's) goddamn business"), u"not one's goddamn business");
+  EXPECT_EQ(text(u"(a building's) upper beam"), u"upper beam");
+  EXPECT_EQ(text(u"Dee Gong An (or Judge Dee's) Cases"), u"Dee Gong An Cases");
+  EXPECT_EQ(text(u"grandfather (mother's father)"), u"grandfather");
+}
+
+// "说哭 | to make (sb) cry", "由着 | let (one) have his way", "单用 | to use (sth) on its own",
+// "责成 | to assign (sb) the task of", "对于 | as far as (sth) is concerned", "送 | to see (sb)
+// off", "对不起 | to let (sb) down", "再改 | to change (sth) again"
+TEST(WithoutGlossNotes, KeepsObjectsThatVerbsNeed) {
+  EXPECT_EQ(text(u"to make (sb) cry"), u"to make sb cry");
+  EXPECT_EQ(text(u"let (one) have his way"), u"let one have his way");
+  EXPECT_EQ(text(u"to use (sth) on its own"), u"to use sth on its own");
+  EXPECT_EQ(text(u"to assign (sb) the task of"), u"to assign sb the task of");
+  EXPECT_EQ(text(u"as far as (sth) is concerned"), u"as far as sth is concerned");
+  EXPECT_EQ(text(u"to see (sb) off"), u"to see off");
+  EXPECT_EQ(text(u"to let (sb) down"), u"to let down");
+  EXPECT_EQ(text(u"to change (sth) again"), u"to change again");
+  EXPECT_EQ(text(u"to make (sth)"), u"to make");
+}
+
 // "满嘴 | a full mouth of (sth physical)", "依靠 | to rely on sth (for support etc)",
-// "诸如 | such as (the following)", "一袭 | an outfit of (clothing)"
+// "诸如 | such as (the following)", "一袭 | an outfit of (clothing)", "堆积如山 | a mountain of
+// (paperwork etc)"
 TEST(WithoutGlossNotes, KeepsAnObjectThatTheTextNeeds) {
   EXPECT_EQ(text(u"a full mouth of (sth physical)"), u"a full mouth of sth physical");
   EXPECT_EQ(text(u"an outfit of (clothing)"), u"an outfit of clothing");
   EXPECT_EQ(text(u"to act like a (fool)"), u"to act like a fool");
+  EXPECT_EQ(text(u"a mountain of (paperwork etc)"), u"a mountain of paperwork etc");
+  EXPECT_EQ(text(u"full of (interest, humor etc)"), u"full of");
   EXPECT_EQ(text(u"to belong to (a group)"), u"to belong to") << "verbs do without";
   EXPECT_EQ(text(u"on account of (sth)"), u"on account of") << "any object";
   EXPECT_EQ(text(u"just as (coll.)"), u"just as") << "no object at all";
@@ -83,6 +122,9 @@ TEST(WithoutGlossNotes, TellsASentenceThatNeedsItsNotes) {
             u"to bear the weight of a building");
   EXPECT_EQ(withoutGlossNotes(u"(coll.) to rely on (sth) for help").whole,
             u"to rely on sth for help");
+  EXPECT_EQ(withoutGlossNotes(u"to denounce (sb) as (sth contemptible)").whole,
+            u"to denounce sb as sth contemptible");
+  EXPECT_EQ(withoutGlossNotes(u"to pass (sth) on (to sb else)").whole, u"");
   for (const std::u16string_view gloss :
        {u"to rely on sth (for support etc)", u"to belong to (a group)", u"to regard (sb) as",
         u"(law) appeal", u"(hand)bag"}) {
