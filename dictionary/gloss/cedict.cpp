@@ -104,7 +104,8 @@ class Entries {
   }
 
  private:
-  [[nodiscard]] Numbers targets(const GlossReference& reference) const;
+  [[nodiscard]] Numbers targets(const Record& record, const GlossReference& reference) const;
+  [[nodiscard]] Numbers sameReading(Numbers numbers, const std::u16string& pinyin) const;
   [[nodiscard]] std::vector<Gloss> meaningsOf(const Record& record, int steps) const;
   void follow(const Record& record, int steps, std::vector<Gloss>& glosses) const;
   [[nodiscard]] std::vector<Gloss> glossesOf(const Numbers& numbers) const;
@@ -114,7 +115,9 @@ class Entries {
   std::unordered_map<std::u16string, Numbers> bySimplified_;
 };
 
-Numbers Entries::targets(const GlossReference& reference) const {
+/// The records of the word to which `record` refers. Of a reference without pinyin from a word of
+/// the same length they are those of the same reading: a variant has no other.
+Numbers Entries::targets(const Record& record, const GlossReference& reference) const {
   const auto found = bySimplified_.find(reference.simplified);
   if (found == bySimplified_.end()) return {};
   Numbers exact;
@@ -124,7 +127,29 @@ Numbers Entries::targets(const GlossReference& reference) const {
     const bool samePinyin = reference.pinyin.empty() || source.pinyin == reference.pinyin;
     if (sameForm && samePinyin) exact.push_back(number);
   }
+  const CedictRecord& own = *record.source;
+  const bool told = !reference.pinyin.empty() || found->second.size() == 1;
+  if (!told && own.simplified.size() == reference.simplified.size()) {
+    if (exact.empty()) exact = found->second;
+    return sameReading(exact, own.pinyin);
+  }
   return exact.empty() ? found->second : exact;
+}
+
+/// The records with the pinyin; those that differ in a capital where none is the same.
+Numbers Entries::sameReading(Numbers numbers, const std::u16string& pinyin) const {
+  const auto reading = [this](std::uint32_t number) -> const std::u16string& {
+    return records_[number].source->pinyin;
+  };
+  const auto same = [&](std::uint32_t number) { return reading(number) == pinyin; };
+  if (std::ranges::any_of(numbers, same)) {
+    std::erase_if(numbers, [&](std::uint32_t number) { return !same(number); });
+  } else {
+    const std::u16string lower = text::toLower(pinyin);
+    std::erase_if(numbers,
+                  [&](std::uint32_t number) { return text::toLower(reading(number)) != lower; });
+  }
+  return numbers;
 }
 
 /// Adds the meanings of the words to which the record refers. A related word, or one without its
@@ -134,10 +159,12 @@ void Entries::follow(const Record& record, int steps, std::vector<Gloss>& glosse
   for (const GlossReference& reference : record.references) {
     const bool doubtful = reference.kind == ReferenceKind::kRelated || reference.pinyin.empty();
     if (reference.kind == ReferenceKind::kNone || (doubtful && !glosses.empty())) continue;
-    for (const std::uint32_t number : targets(reference)) {
+    for (const std::uint32_t number : targets(record, reference)) {
       const Record& target = records_[number];
       if (&target == &record) continue;
-      for (Gloss gloss : meaningsOf(target, steps - 1)) {
+      // Two words with meanings of their own may share one of them only.
+      const bool further = record.glosses.empty() || target.glosses.empty();
+      for (Gloss gloss : meaningsOf(target, further ? steps - 1 : 0)) {
         if (reference.usage) gloss.value = std::max(gloss.value, GlossValue::kUsage);
         if (reference.kind == ReferenceKind::kPart || isPartOf(record, target)) {
           gloss.value = std::max(gloss.value, GlossValue::kPart);

@@ -139,8 +139,7 @@ class GlossParser {
     if (text.empty() || isAside(text) || !listedBeginning(kOtherWords, text).empty()) return;
     // The phrase before a reference may be one of the marks.
     if (std::optional<GlossReference> reference = findReference(noted.text)) {
-      reference->usage = reference->usage || meaning.usage || shared_.usage;
-      result_.references.push_back(*std::move(reference));
+      addReference(*std::move(reference), noted);
       return;
     }
     // A gloss that is a note altogether says what kind of word this is.
@@ -154,6 +153,14 @@ class GlossParser {
                       !isSentence(english->substr(0, english->find_first_of(u",:")));
     if (name) english->erase(0, 4);
     if (!english->empty()) addEnglish(*english, noted, marks.usage);
+  }
+
+  /// Adds the meaning that the gloss tells of a variant, or the word to which it refers.
+  void addReference(GlossReference reference, const NotedText& noted) {
+    reference.usage = reference.usage || noted.meaning.usage || shared_.usage;
+    if (!reference.meaning.empty()) addEnglish(reference.meaning, noted, reference.usage);
+    const bool told = !reference.meaning.empty() && !result_.glosses.empty();
+    if (!told) result_.references.push_back(std::move(reference));
   }
 
   void addEnglish(std::u16string_view english, const NotedText& noted, bool usage) {

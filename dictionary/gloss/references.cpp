@@ -46,6 +46,12 @@ constexpr auto kPhrases = std::to_array<PhraseList>({{kUnlike, ReferenceKind::kN
                                                      {kPart, ReferenceKind::kPart},
                                                      {kSame, ReferenceKind::kSame}});
 
+/// Phrases after which a meaning may follow the Chinese word.
+constexpr std::u16string_view kVariants = u"variant of |form of |";
+/// How a text after the word goes on that is no meaning: "variant of 約翰 preferred by the Church".
+constexpr std::u16string_view kContinuations =
+    u"and|or|in|of|as|for|used|preferred|generic|esp.|which|one|the|";
+
 /// Words in phrases that mark their own word as one of another age, region or spelling.
 constexpr std::u16string_view kUsageWords =
     u"old |ancient |archaic |Japanese |Taiwan |Mandarin |PRC |erroneous|nonstandard |dialect|"
@@ -153,12 +159,23 @@ std::optional<ReferenceKind> kindOf(std::u16string_view before) {
   return seesName(before) ? std::optional(ReferenceKind::kSame) : std::nullopt;
 }
 
+/// The meaning in the text after the Chinese word of a variant; "" if it has none.
+std::u16string_view meaningAfter(std::u16string_view before, std::u16string_view after) {
+  const auto ends = [&](std::u16string_view phrase) { return before.ends_with(phrase); };
+  if (findListed(kVariants, ends).empty()) return {};
+  after.remove_prefix(std::min(after.find_first_not_of(u" ,"), after.size()));
+  const std::u16string_view word = firstWord(after);
+  const bool text = !word.empty() && isAsciiLetter(word[0]) && word.back() != u':';
+  const bool plain = firstChinese(after) == after.size();
+  return text && plain && !isListed(kContinuations, word) ? after : std::u16string_view();
+}
+
 }  // namespace
 
 std::optional<GlossReference> findReference(std::u16string_view gloss) {
   const std::size_t at = firstChinese(gloss);
   if (at == gloss.size()) return std::nullopt;
-  const Span span = wordAround(gloss, at);
+  Span span = wordAround(gloss, at);
   const std::u16string_view before = gloss.substr(0, span.begin);
   if (std::ranges::count(before, u' ') > kMaxPhraseBlanks) return std::nullopt;
   const std::optional<ReferenceKind> found = kindOf(before);
@@ -167,6 +184,8 @@ std::optional<GlossReference> findReference(std::u16string_view gloss) {
   // "variant of 扒[pa2] in 扒手[pa2 shou3]" has that meaning in one word only.
   const bool part = gloss.substr(span.end).starts_with(u" in ");
   reference.kind = part ? ReferenceKind::kPart : *found;
+  if (part && firstChinese(gloss.substr(span.end)) == 4) span = wordAround(gloss, span.end + 4);
+  reference.meaning = meaningAfter(before, gloss.substr(span.end));
   const auto contained = [&](std::u16string_view word) {
     return before.find(word) != std::u16string_view::npos;
   };

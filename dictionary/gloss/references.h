@@ -25,10 +25,14 @@ struct GlossReference {
   std::u16string traditional;
   std::u16string simplified;  ///< the same where the gloss gives one form only
   std::u16string pinyin;      ///< "" where the gloss gives none
+  /// The English text with which a variant's gloss says which meaning it has: "variant of 翻, to
+  /// turn"; otherwise "".
+  std::u16string meaning;
 };
 
 /// Returns the word to which the gloss refers; nullopt if it is an English text, in which Chinese
-/// words may stand besides. `gloss` is without notes. Of several words only the first is given.
+/// words may stand besides. `gloss` is without notes. Of several words only the first is given, and
+/// of "variant of 扒 in 扒手" the word in which the variant is used.
 std::optional<GlossReference> findReference(std::u16string_view gloss);
 
 /// Returns whether the gloss tells a pronunciation ("Taiwan pr. [zhao1ji2]"), a classifier

@@ -157,6 +157,31 @@ TEST(ChineseEntries, FollowsNoDoubtfulReferenceBesideMeanings) {
   EXPECT_EQ(textsOf(records, u"山"), (Texts{u"hill", u"Tarzan"}));
 }
 
+// "阿穆尔河 | Amur River/same as 黑龍江|黑龙江[Hei1 long2 jiang1]", "黑龙江 | Heilong River/see
+// 黑龍江省", "喵的 | drat/(euphemistic variant of 媽的)", "妈的 | see 他媽的"
+TEST(ChineseEntries, FollowsNoSecondReferenceFromOneMeaningToAnother) {
+  Records records = {record(u"甲", u"jia3", {u"Amur River", u"same as 乙[yi3]"}),
+                     record(u"乙", u"yi3", {u"Heilong River", u"see 丙[bing3]"}),
+                     record(u"丙", u"bing3", {u"Heilongjiang Province"})};
+  EXPECT_EQ(textsOf(records, u"甲"), (Texts{u"Amur River", u"Heilong River"}));
+  records[1].glosses = {u"see 丙[bing3]"};
+  EXPECT_EQ(textsOf(records, u"甲"), (Texts{u"Amur River", u"Heilongjiang Province"}));
+}
+
+// "銭[qian2] | Japanese variant of 錢|钱", "仏[fo2] | Japanese variant of 佛", "啵[bo5] |
+// grammatical particle equivalent to 吧"
+TEST(ChineseEntries, TakesTheSameReadingOfAVariantWithoutPinyin) {
+  Records records = {record(u"银", u"qian2", {u"variant of 钱"}),
+                     record(u"钱", u"Qian2", {u"Qian"}), record(u"钱", u"qian2", {u"coin"})};
+  EXPECT_EQ(textsOf(records, u"银"), (Texts{u"coin"}));
+  records[2].pinyin = u"jian3";
+  EXPECT_EQ(textsOf(records, u"银"), (Texts{u"Qian"}));
+  records[1].pinyin = u"Zan1";
+  EXPECT_TRUE(textsOf(records, u"银").empty());
+  records.pop_back();
+  EXPECT_EQ(textsOf(records, u"银"), (Texts{u"Qian"})) << "the only reading";
+}
+
 // "扛大梁 | lit. to carry the big beam", "变本加厉 | lit. change …; to become more intense"
 TEST(ChineseEntries, HasALiteralMeaningOnlyForWantOfAnother) {
   EXPECT_EQ(glossesOf({record(u"甲", u"jia3", {u"lit. first blow"})}, u"甲").at(0).value,

@@ -172,6 +172,17 @@ TEST(ParseGloss, GivesReferences) {
   EXPECT_TRUE(taiwan.references[0].usage);
 }
 
+// "獞 | old variant of 壯|壮, Zhuang ethnic group of Guangxi", "𫫇 | variant of 惡|恶[e4],
+// used in names of chemical compounds"
+TEST(ParseGloss, TakesTheMeaningThatAVariantTells) {
+  const dictionary::ParsedGloss told = parseGloss(u"old variant of 壯|壮, Zhuang group");
+  EXPECT_TRUE(told.references.empty());
+  ASSERT_EQ(told.glosses.size(), 1U);
+  EXPECT_EQ(told.glosses[0].english, u"Zhuang group");
+  EXPECT_EQ(told.glosses[0].value, GlossValue::kUsage);
+  EXPECT_EQ(parseGloss(u"variant of 惡|恶[e4], used in names").references.size(), 1U);
+}
+
 TEST(ParseGloss, GivesNothingOfAsidesAndMarks) {
   for (const std::u16string_view gloss :
        {u"", u"(phonetic)", u"(loanword)", u"Taiwan pr. [sao1]", u"CL:個|个[ge4]", u"radical 頁",

@@ -51,6 +51,31 @@ TEST(FindReference, KnowsWhatItIsFor) {
   EXPECT_EQ(opposite->kind, ReferenceKind::kNone);
 }
 
+// "掱 | variant of 扒[pa2] in 扒手[pa2 shou3]"
+TEST(FindReference, TakesTheWordInWhichAVariantIsUsed) {
+  const GlossReference part = findReference(u"variant of 扒[pa2] in 扒手[pa2 shou3]").value();
+  EXPECT_EQ(part.simplified, u"扒手");
+  EXPECT_EQ(part.pinyin, u"pa2 shou3");
+  EXPECT_EQ(findReference(u"variant of 扒[pa2] in old texts").value().simplified, u"扒");
+}
+
+// "芦鳗 | variant of 鱸鰻|鲈鳗[lu2 man2], giant mottled eel (…)", "螥 | Japanese variant of 蒼|苍
+// house-fly", "若望 | less common variant of 約翰|约翰[Yue1 han4] preferred by the Catholic
+// Church", "扶馀 | variant of 扶餘|扶余 Korean: Buyeo …", "谜 | see 謎兒|谜儿[mei4 r5], riddle"
+TEST(FindReference, GivesTheMeaningOfAVariant) {
+  const auto meaning = [](std::u16string_view gloss) {
+    return findReference(gloss).value_or(GlossReference()).meaning;
+  };
+  EXPECT_EQ(meaning(u"variant of 鱸鰻|鲈鳗[lu2 man2], giant mottled eel"), u"giant mottled eel");
+  EXPECT_EQ(meaning(u"Japanese variant of 蒼|苍 house-fly"), u"house-fly");
+  EXPECT_EQ(meaning(u"common erroneous form of 朱鎔基|朱镕基, Zhu Rongji"), u"Zhu Rongji");
+  EXPECT_EQ(meaning(u"less common variant of 約翰|约翰[Yue1 han4] preferred by the Church"), u"");
+  EXPECT_EQ(meaning(u"variant of 扶餘|扶余 Korean: Buyeo"), u"");
+  EXPECT_EQ(meaning(u"variant of 懈[xie4] and 邂[xie4]"), u"");
+  EXPECT_EQ(meaning(u"see 謎兒|谜儿[mei4 r5], riddle"), u"");
+  EXPECT_EQ(meaning(u"variant of 一[yi1]"), u"");
+}
+
 // "太公望 | see Jiang Ziya 姜子牙[Jiang1 Zi3 ya2]"
 TEST(FindReference, ReadsTheEnglishNameBeforeTheWord) {
   EXPECT_EQ(kind(u"see Jiang Ziya 姜子牙[Jiang1 Zi3 ya2]"), ReferenceKind::kSame);
