@@ -23,14 +23,17 @@ constexpr std::ptrdiff_t kMaxPhraseBlanks = 6;
 
 /// The phrases of each kind, with the blank before the Chinese word.
 constexpr std::u16string_view kUnlike =
-    u"cf |cf. |opposite: |opposite of |antonym of |abbr. to |abbreviated to |contrasted with |"
+    u"cf |cf. |cf idiom |opposite: |opposite of |antonym of |abbr. to |abbreviated to |contrasted "
+    u"with |"
     u"distinguished from |pun on |CL:|example: |Example: |";
 constexpr std::u16string_view kRelated =
-    u"see also |also called |also known as |also written as |also written |written as |written |"
+    u"see also |transliterated |also called |also known as |also written as |also written |written "
+    u"as |written |"
     u"aka |also |or |";
 constexpr std::u16string_view kPart = u"used in |component in |";
 constexpr std::u16string_view kSame =
-    u"see |variant of |variation of |form of |contraction of |abbr. for |abbr. of |"
+    u"see |way of writing |idiom |variant of |variation of |form of |contraction of |abbr. for "
+    u"|abbr. of |"
     u"abbreviation for |abbreviation of |short for |same as |equivalent of |equivalent to |"
     u"equivalent for |equivalent: |used erroneously for |used for |used as |substitute for |"
     u"synonym of |synonymous with |interchangeable with |term for |name for |name of |word for |"
@@ -61,7 +64,11 @@ constexpr std::u16string_view kUsageWords =
 constexpr std::u16string_view kNeedsObject =
     u"of|for|in|to|as|from|with|by|is|the|a|an|and|or|than|character|characters|radical|like|word|"
     u"called|on|between|written|renamed|named|before|after|using|verb|use|component|not|see|cf|"
-    u"title|term|";
+    u"title|term|at|formally|modern|story|rectify|include|including|into|used|usually|formerly|"
+    u"appears|besiege|namely|";
+
+/// Words that begin a clause.
+constexpr std::u16string_view kRelatives = u"who|which|that|where|whose|when|";
 
 /// Returns whether `unit` may be part of a Chinese word in a gloss: also characters beyond U+FFFF,
 /// radicals, kana, Bopomofo and Hangul, in which glosses give origins.
@@ -212,7 +219,14 @@ std::optional<std::u16string> withoutChinese(std::u16string_view gloss) {
   for (std::size_t at = firstChinese(gloss); at < gloss.size(); at = firstChinese(gloss)) {
     const Span span = wordAround(gloss, at);
     plain += gloss.substr(0, span.begin);
-    if (!standsAlone(plain)) return std::nullopt;
+    if (!standsAlone(plain)) {
+      // "Zhou the exploiter, character in short story 半夜雞叫": the beginning stands.
+      const std::size_t comma = std::min(plain.rfind(u", "), plain.size());
+      const std::u16string_view beginning = std::u16string_view(plain).substr(0, comma);
+      if (comma == plain.size() || !standsAlone(beginning)) return std::nullopt;
+      if (isListed(kRelatives, lastWord(beginning))) return std::nullopt;
+      return withoutLooseMarks(withoutSquareBrackets(beginning));
+    }
     gloss.remove_prefix(span.end);
   }
   plain += gloss;

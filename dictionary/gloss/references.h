@@ -40,8 +40,8 @@ std::optional<GlossReference> findReference(std::u16string_view gloss);
 bool isAside(std::u16string_view gloss);
 
 /// Returns the English text without Chinese words and square brackets: "Dingbian County in Yulin 榆
-/// 林[Yu2 lin2], Shaanxi" gives "Dingbian County in Yulin, Shaanxi". Returns nullopt where the text
-/// does not stand without them: "radical 頁".
+/// 林[Yu2 lin2], Shaanxi" gives "Dingbian County in Yulin, Shaanxi". Where the text does not stand
+/// without them, returns what is before the last comma, or nullopt: "radical 頁".
 std::optional<std::u16string> withoutChinese(std::u16string_view gloss);
 
 }  // namespace dictionary

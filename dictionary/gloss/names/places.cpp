@@ -48,7 +48,8 @@ bool namesPlace(std::u16string_view text, std::u16string_view list) {
 bool locates(std::u16string_view name, std::u16string_view tail) {
   const std::u16string_view word = firstWord(tail);
   if (!isListed(kAfterPlace, word) || word == u"of") return false;
-  return namesPlace(name, kWaters) ||
+  // "River on a Spring Night" is no river of that name.
+  return (wordCount(name) > 1 && namesPlace(name, kWaters)) ||
          (isListed(kBeforePlace, word) && namesPlace(tail, kProvinces));
 }
 

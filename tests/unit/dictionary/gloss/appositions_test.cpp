@@ -133,9 +133,9 @@ TEST(WithoutApposition, CutsPlacesBehindTheirKind) {
 // Law of the Sea", "早C晚A | Vitamin C in the morning, Vitamin A in the evening"
 TEST(WithoutApposition, CutsNoTitleAtAPreposition) {
   for (const std::u16string_view gloss :
-       {u"Law on the National Emblem of the PRC", u"Convention on the Rights of the Child",
-        u"Lamp in the Side Street", u"Made in China 2025 plan",
-        u"United Nations Convention on the Law of the Sea",
+       {u"River on a spring night, long yuefu poem", u"Law on the National Emblem of the PRC",
+        u"Convention on the Rights of the Child", u"Lamp in the Side Street",
+        u"Made in China 2025 plan", u"United Nations Convention on the Law of the Sea",
         u"Vitamin C in the morning, Vitamin A in the evening"}) {
     EXPECT_EQ(withoutApposition(gloss), gloss);
   }

@@ -44,6 +44,10 @@ TEST(FindReference, KnowsWhatItIsFor) {
   EXPECT_EQ(kind(u"nonstandard simplified variant of 一"), ReferenceKind::kSame);
   EXPECT_EQ(kind(u"abbr. for 一[yi1]"), ReferenceKind::kSame);
   EXPECT_EQ(kind(u"Mandarin equivalent: 不好看[bu4 hao3 kan4]"), ReferenceKind::kSame);
+  EXPECT_EQ(kind(u"humorous way of writing 屌爆[diao3 bao4]"), ReferenceKind::kSame);
+  EXPECT_EQ(kind(u"short form of idiom 衡情酌理"), ReferenceKind::kSame);
+  EXPECT_EQ(kind(u"also transliterated 尼桑[Ni2 sang1]"), ReferenceKind::kRelated);
+  EXPECT_EQ(kind(u"cf idiom 磨杵成針|磨杵成针"), ReferenceKind::kNone);
   EXPECT_EQ(kind(u"used in 招徠|招徕[zhao1 lai2]"), ReferenceKind::kPart);
   EXPECT_EQ(kind(u"variant of 扒[pa2] in 扒手[pa2 shou3]"), ReferenceKind::kPart);
   const auto opposite = findReference(u"opposite: 簡裝|简装[jian3 zhuang1]");
@@ -107,6 +111,21 @@ TEST(WithoutChinese, RemovesWordsBesideTheirEnglish) {
   EXPECT_EQ(withoutChinese(u"feral dog"), u"feral dog");
   EXPECT_EQ(withoutChinese(u"sweet 甜, sour 酸, bitter 苦"), u"sweet, sour, bitter");
   EXPECT_EQ(withoutChinese(u"from Taiwanese [bah]"), u"from Taiwanese");
+}
+
+// "周扒皮 | Zhou the exploiter, archetypal character in short story 半夜雞叫", "雄猫 | male cat,
+// usually 公貓", "花大姐 | common word for ladybug, more formally 瓢蟲", "应卯 | to answer the roll
+// call at 卯時, i.e. between 5 and 7 am", "土鳖 | (coll.) entrepreneur who, unlike a 海歸, has
+// never studied overseas"
+TEST(WithoutChinese, KeepsWhatStandsBeforeTheLastComma) {
+  EXPECT_EQ(withoutChinese(u"Zhou the exploiter, character in short story 半夜雞叫"),
+            u"Zhou the exploiter");
+  EXPECT_EQ(withoutChinese(u"male cat, usually 公貓"), u"male cat");
+  EXPECT_EQ(withoutChinese(u"common word for ladybug, more formally 瓢蟲"),
+            u"common word for ladybug");
+  EXPECT_FALSE(withoutChinese(u"to answer the roll call at 卯時, i.e. between 5 and 7 am"));
+  EXPECT_FALSE(withoutChinese(u"to rectify 氣|气[qi4]"));
+  EXPECT_FALSE(withoutChinese(u"entrepreneur who, unlike a 海歸, has never studied overseas"));
 }
 
 // "廴 | \"long stride\" radical in … occurring in 建, 延", "勃海 | renamed 渤海 after the Han"
