@@ -1,5 +1,8 @@
 #include "dictionary/gloss/descriptions.h"
 
+#include <algorithm>
+#include <array>
+
 #include "dictionary/gloss/word_list.h"
 
 namespace dictionary {
@@ -39,12 +42,18 @@ constexpr std::u16string_view kNotes =
     u"old place name|ancient place name|common place name|mountain name|river name|"
     u"male given name|female given name|person name|last line of |first line of |"
     u"less common word for |less common variant|sometimes used |sometimes called |"
-    u"used deprecatingly|";
+    u"used deprecatingly|comes at the end of |character used |old character used |noun prefix |"
+    u"radical no |radical no. |interj.|mus. instr.|meaning uncertain|aspect particle |"
+    u"introductory particle |interjection or |verb suffix|plural marker |plural for |"
+    u"nominalizing suffix|followed by a noun|classifier for:|";
 
 /// Terms of grammar and of names. A single character that has one as its gloss is such a thing; a
 /// longer word means it: "suffix" is the meaning of 后缀.
 constexpr std::u16string_view kGrammar =
     u"suffix|prefix|interjection|classifier|particle|final particle|modal particle|";
+/// With other words before them they are terms of grammar as well: "possessive particle".
+constexpr auto kGrammarEndings =
+    std::to_array<std::u16string_view>({u" particle", u" prefix", u" suffix"});
 constexpr std::u16string_view kNames = u"place name|personal name|";
 
 }  // namespace
@@ -56,12 +65,17 @@ bool isDescription(std::u16string_view gloss) {
 bool isUsageNote(std::u16string_view gloss) {
   // "as in pyrimidine", but "as in the past".
   if (gloss.starts_with(u"as in ") && !gloss.starts_with(u"as in the ")) return true;
+  gloss.remove_prefix(listedBeginning(u"a |an |", gloss).size());
   return !listedBeginning(kNotes, gloss).empty();
 }
 
 bool labelsItsWord(std::u16string_view english, std::u16string_view word) {
   if (isListed(kNames, english)) return word.find(u'名') == std::u16string_view::npos;
-  return word.size() == 1 && isListed(kGrammar, english);
+  const bool grammar = isListed(kGrammar, english) || english.starts_with(u"phonetic ") ||
+                       std::ranges::any_of(kGrammarEndings, [&](std::u16string_view ending) {
+                         return english.ends_with(ending);
+                       });
+  return word.size() == 1 && grammar;
 }
 
 }  // namespace dictionary

@@ -52,6 +52,8 @@ constexpr std::u16string_view kAfterVerb =
 constexpr std::u16string_view kWithStop =
     u"Inc.|Ltd.|Co.|Corp.|Jr.|Sr.|Mr.|Mrs.|Ms.|Dr.|No.|St.|vs.|";
 
+bool isSmall(char16_t unit) { return unit >= u'a' && unit <= u'z'; }
+
 std::u16string writtenOut(std::u16string_view text) {
   std::u16string result;
   while (!text.empty()) {
@@ -79,7 +81,7 @@ bool isThirdPerson(std::u16string_view word, std::u16string_view next) {
 
 /// Removes the verb's "to" or an article.
 std::u16string_view withoutLeadingWords(std::u16string_view text) {
-  const bool verb = text.starts_with(u"to ");
+  const bool verb = text.starts_with(u"to ") || (text.starts_with(u"To ") && isSmall(text[3]));
   if (verb && !isListed(kAfterPreposition, firstWord(text.substr(3)))) return text.substr(3);
   for (const std::u16string_view article : {u"a "sv, u"an "sv, u"the "sv, u"The "sv}) {
     if (!text.starts_with(article)) continue;
@@ -141,6 +143,14 @@ std::u16string withoutMarks(std::u16string_view text) {
   return std::u16string(quoted ? bare.substr(1, bare.size() - 2) : bare);
 }
 
+/// Removes what follows the name of a genus: "Tyrannosaurus spp."
+std::u16string_view withoutSpecies(std::u16string_view text) {
+  for (const std::u16string_view ending : {u" sp"sv, u" sp."sv, u" spp"sv, u" spp."sv}) {
+    if (wordCount(text) == 2 && text.ends_with(ending)) return firstWord(text);
+  }
+  return text;
+}
+
 /// "more {adj.} than {noun}", "be ...ed": nobody looks these up.
 bool isPattern(std::u16string_view word) {
   if (word.find_first_of(u"{}~<>^") != std::u16string_view::npos) return true;
@@ -184,8 +194,10 @@ std::u16string withAsciiMarks(std::u16string_view text) {
 std::optional<std::u16string> englishHeadword(std::u16string_view gloss) {
   const std::u16string plain = withoutMarks(foldBlanks(text::withoutAccents(gloss)));
   const std::u16string full = writtenOut(withoutLeadingWords(plain));
-  const std::u16string word = withoutMarks(full);
-  return isPattern(word) ? std::nullopt : headword(word);
+  const std::u16string word = withoutMarks(withoutSpecies(full));
+  // "Is there a ...?"
+  const bool open = wordCount(word) > 1 && isListed(kArticles, lastWord(word));
+  return open || isPattern(word) ? std::nullopt : headword(word);
 }
 
 bool isSentence(std::u16string_view text) {

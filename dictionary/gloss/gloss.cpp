@@ -41,7 +41,8 @@ constexpr std::u16string_view kUsageMarks =
     u"nickname of |old: |honorific: |humble term: |former name: |";
 /// What follows them is what the word means, or another word for it.
 constexpr std::u16string_view kOtherMarks =
-    u"lit. and fig. |fig. |fig: |figuratively, |figuratively |by extension, |by ext. |also fig. |"
+    u"lit. and fig. |fig. |fig., |fig: |figuratively, |figuratively |by extension, |by ext. |also "
+    u"fig. |"
     u"also known as |also called |also termed |aka |also |esp. |especially |usu. |usually |often |"
     u"originally |orig. |i.e. |e.g. |or |abbr. for |abbr. of |acronym for |short for |"
     u"short name for |same as |equivalent to |another word for |another name for |"
@@ -137,6 +138,9 @@ class GlossParser {
     if (!begun_ && piece.starts_with(u'(') && !noted.described) shared_ = meaning;
     begun_ = true;
     if (text.empty() || isAside(text) || !listedBeginning(kOtherWords, text).empty()) return;
+    // "(onom.) for plopping sound" describes.
+    const bool sound = piece.starts_with(u"(onom.) for ");
+    if (sound) text.remove_prefix(text.starts_with(u"for ") ? 4 : 0);
     // The phrase before a reference may be one of the marks.
     if (std::optional<GlossReference> reference = findReference(noted.text)) {
       addReference(*std::move(reference), noted);
@@ -152,7 +156,7 @@ class GlossParser {
                       (*english)[4] >= u'A' && (*english)[4] <= u'Z' &&
                       !isSentence(english->substr(0, english->find_first_of(u",:")));
     if (name) english->erase(0, 4);
-    if (!english->empty()) addEnglish(*english, noted, marks.usage);
+    if (!english->empty()) addEnglish(*english, noted, marks.usage, sound);
   }
 
   /// Adds the meaning that the gloss tells of a variant, or the word to which it refers.
@@ -163,13 +167,14 @@ class GlossParser {
     if (!told) result_.references.push_back(std::move(reference));
   }
 
-  void addEnglish(std::u16string_view english, const NotedText& noted, bool usage) {
+  void addEnglish(std::u16string_view english, const NotedText& noted, bool usage,
+                  bool describes = false) {
     NoteMeaning meaning = noted.meaning;
     meaning |= shared_;
     if (isUsageNote(english)) return;
     const NamedText named = withoutSymbol(english);
     const std::u16string_view equivalent = withoutApposition(named.text, phrase_);
-    const bool described = !noted.whole.empty() || isDescription(equivalent);
+    const bool described = describes || !noted.whole.empty() || isDescription(equivalent);
     SubjectSet subjects = meaning.subjects;
     if (describesPlace(english)) subjects |= setOf(Subject::kPlace);
     const bool names = (subjects & kNameSubjects) != 0;

@@ -90,6 +90,11 @@ bool describesName(std::u16string_view name, std::u16string_view after) {
   return !age && !several && !isListed(kPrepositions, next) && !isListed(kAfterYears, next);
 }
 
+/// "you" in "you, they etc".
+std::u16string_view firstListed(std::u16string_view note) {
+  return note.substr(0, note.find(u','));
+}
+
 /// "sb's", "your", "a country's", but not "or Kant's".
 bool isPossessive(std::u16string_view note) {
   const std::u16string_view last = lastWord(note);
@@ -187,7 +192,9 @@ class NoteRemover {
     if (mark) return;
     unknown_ = note.content;
     if (meaning.subjects != 0) return;
-    whole_ += note.content;
+    // "Do (you, they etc) have": one of them is enough. What comes first is about the text.
+    const std::u16string_view first = firstListed(note.content);
+    if (!text.empty()) whole_ += isListed(kPronouns, first) ? first : note.content;
     broken_ = broken_ || breaks(note, text);
   }
 
@@ -216,7 +223,10 @@ class NoteRemover {
     if (both) return true;
     const bool open = isListed(kPrepositions, finalWord) || isListed(kOpenWords, finalWord);
     const bool joins = isListed(kPrepositions, next) || next == u"than" || next == u"that";
-    return next == finalWord || isListed(kPronouns, note.content) || (open && joins);
+    // "why do you (he, etc) say so" has a subject already.
+    const bool subject =
+        isListed(kPronouns, firstListed(note.content)) && !isListed(kPronouns, finalWord);
+    return next == finalWord || subject || (open && joins);
   }
 
   /// Returns whether the words on both sides need the note: "in (sb's) eyes", "to make (sb) cry".

@@ -177,11 +177,23 @@ std::u16string_view meaningAfter(std::u16string_view before, std::u16string_view
   return text && plain && !isListed(kContinuations, word) ? after : std::u16string_view();
 }
 
+/// The reference to a word without Chinese characters: "see 3C[san1 C]".
+std::optional<GlossReference> latinReference(std::u16string_view gloss) {
+  const std::size_t open = gloss.find(u'[');
+  const bool word = gloss.starts_with(u"see ") && gloss.find(u' ', 4) > open && open > 4;
+  if (!word || gloss.back() != u']') return std::nullopt;
+  GlossReference reference;
+  reference.kind = ReferenceKind::kSame;
+  reference.traditional = reference.simplified = gloss.substr(4, open - 4);
+  reference.pinyin = gloss.substr(open + 1, gloss.size() - open - 2);
+  return reference;
+}
+
 }  // namespace
 
 std::optional<GlossReference> findReference(std::u16string_view gloss) {
   const std::size_t at = firstChinese(gloss);
-  if (at == gloss.size()) return std::nullopt;
+  if (at == gloss.size()) return latinReference(gloss);
   Span span = wordAround(gloss, at);
   const std::u16string_view before = gloss.substr(0, span.begin);
   if (std::ranges::count(before, u' ') > kMaxPhraseBlanks) return std::nullopt;

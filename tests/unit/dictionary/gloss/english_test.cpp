@@ -98,6 +98,17 @@ TEST(EnglishHeadword, TellsHyphensFromSymbols) {
   EXPECT_EQ(word(u"less than, <"), u"less than");
 }
 
+// "名驰遐迩 | To have one's fame spread far and wide.", "收件人 | To: (email header)", "暴龙 |
+// Tyrannosaurus spp.", "有没有 | Is there a ...?", "敬启者 | To Whom It May Concern"
+TEST(EnglishHeadword, ReadsCapitalsAndLatinNames) {
+  EXPECT_EQ(word(u"To have one's fame spread"), u"have one's fame spread");
+  EXPECT_EQ(word(u"To Whom It May Concern"), u"To Whom It May Concern");
+  EXPECT_EQ(word(u"To"), u"To");
+  EXPECT_EQ(word(u"Tyrannosaurus spp."), u"Tyrannosaurus");
+  EXPECT_FALSE(englishHeadword(u"Is there a ...?"));
+  EXPECT_FALSE(englishHeadword(u"what the ...!"));
+}
+
 TEST(EnglishHeadword, RefusesWhatCannotBeLookedUp) {
   EXPECT_FALSE(englishHeadword(u""));
   EXPECT_FALSE(englishHeadword(u"..."));

@@ -118,6 +118,7 @@ TEST(ParseGloss, MakesNoPairOfABrokenSentence) {
   EXPECT_EQ(texts(u"a pre-Tang Dynasty genre of poetry aka 古體詩|古体诗[gu3 ti3 shi1]"),
             (Texts{u"pre-Tang Dynasty genre of poetry"}));
   EXPECT_EQ(value(u"lit., a dog"), GlossValue::kLiteral);
+  EXPECT_EQ(texts(u"fig., their friends benefit"), (Texts{u"their friends benefit"}));
 }
 
 // "张三李四 | lit. Zhang Three and Li Four (idiom)/(fig.) any Tom, Dick or Harry", "千古罪人 |
@@ -181,6 +182,13 @@ TEST(ParseGloss, TakesTheMeaningThatAVariantTells) {
   EXPECT_EQ(told.glosses[0].english, u"Zhuang group");
   EXPECT_EQ(told.glosses[0].value, GlossValue::kUsage);
   EXPECT_EQ(parseGloss(u"variant of 惡|恶[e4], used in names").references.size(), 1U);
+}
+
+// "骨都都 | (onom.) for plopping sound", "咕咚 | (onom.) for heavy things falling down"
+TEST(ParseGloss, DescribesSounds) {
+  EXPECT_EQ(texts(u"(onom.) for heavy things falling down"), (Texts{u"heavy things falling down"}));
+  EXPECT_EQ(value(u"(onom.) for plopping sound"), GlossValue::kExplanation);
+  EXPECT_EQ(value(u"(onom.) plop"), GlossValue::kPair);
 }
 
 TEST(ParseGloss, GivesNothingOfAsidesAndMarks) {

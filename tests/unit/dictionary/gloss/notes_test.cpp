@@ -125,9 +125,11 @@ TEST(WithoutGlossNotes, TellsASentenceThatNeedsItsNotes) {
   EXPECT_EQ(withoutGlossNotes(u"to denounce (sb) as (sth contemptible)").whole,
             u"to denounce sb as sth contemptible");
   EXPECT_EQ(withoutGlossNotes(u"to pass (sth) on (to sb else)").whole, u"");
+  EXPECT_EQ(withoutGlossNotes(u"(before a noun) Do (you, they etc) have ...?").whole,
+            u"Do you have ...?");
   for (const std::u16string_view gloss :
        {u"to rely on sth (for support etc)", u"to belong to (a group)", u"to regard (sb) as",
-        u"(law) appeal", u"(hand)bag"}) {
+        u"(law) appeal", u"(hand)bag", u"why do you (he, etc) say so"}) {
     EXPECT_EQ(withoutGlossNotes(gloss).whole, u"");
   }
 }

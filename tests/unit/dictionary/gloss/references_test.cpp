@@ -80,6 +80,16 @@ TEST(FindReference, GivesTheMeaningOfAVariant) {
   EXPECT_EQ(meaning(u"variant of 一[yi1]"), u"");
 }
 
+// "三C | see 3C[san1 C]"
+TEST(FindReference, ReadsAWordOfLettersAndDigits) {
+  const GlossReference latin = findReference(u"see 3C[san1 C]").value();
+  EXPECT_EQ(latin.kind, ReferenceKind::kSame);
+  EXPECT_EQ(latin.simplified, u"3C");
+  EXPECT_EQ(latin.pinyin, u"san1 C");
+  EXPECT_FALSE(findReference(u"see the light [x]"));
+  EXPECT_FALSE(findReference(u"see []"));
+}
+
 // "太公望 | see Jiang Ziya 姜子牙[Jiang1 Zi3 ya2]"
 TEST(FindReference, ReadsTheEnglishNameBeforeTheWord) {
   EXPECT_EQ(kind(u"see Jiang Ziya 姜子牙[Jiang1 Zi3 ya2]"), ReferenceKind::kSame);
