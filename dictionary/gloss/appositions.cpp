@@ -138,7 +138,7 @@ std::u16string_view withoutYears(std::u16string_view gloss) {
 }  // namespace
 
 std::u16string_view withoutApposition(std::u16string_view gloss, bool phrase) {
-  if (isSentence(gloss)) return gloss;
+  if (endsAsSentence(gloss)) return gloss;
   gloss = withoutMarked(gloss, phrase);
   gloss = withoutAuthor(gloss);
   if (!phrase) gloss = withoutNameTail(gloss);

@@ -73,7 +73,7 @@ bool beginsClause(std::u16string_view text) {
   return isListed(kClauseBeginnings, lowered(firstWord(text)));
 }
 
-bool isSentence(std::u16string_view text) {
+bool endsAsSentence(std::u16string_view text) {
   if (text.ends_with(u'!')) return true;
   // Several sentences explain.
   if (text.find(u". ") != std::u16string_view::npos ||

@@ -42,7 +42,7 @@ bool beginsClause(std::u16string_view text);
 
 /// Returns whether the text ends as a sentence does, rather than with an abbreviation: "Yeah,
 /// right!", but not "Nike, Inc."
-bool isSentence(std::u16string_view text);
+bool endsAsSentence(std::u16string_view text);
 
 /// Returns whether the first word of the text may be that of a proper name, other than "If" and
 /// "Oh".
