@@ -147,6 +147,7 @@ class Form : public WidgetHost {
   void command(WORD code, HWND control, WORD id) const;
   bool passToGrabber(UINT message, WPARAM wParam, LPARAM lParam) const;
   void limitTracking(MINMAXINFO& limits) const;
+  void limitSize(WINDOWPOS& position) const;
   [[nodiscard]] bool correctSizing(WPARAM side, RECT& rect) const;
   void endSession();
   void moveTo(int left, int top);

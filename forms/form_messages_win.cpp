@@ -87,6 +87,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (design_.neverActive) return MA_NOACTIVATE;
       break;
     case WM_WINDOWPOSCHANGING:
+      limitSize(*reinterpret_cast<WINDOWPOS*>(lParam));
       adjustPlacement(handle_, *reinterpret_cast<WINDOWPOS*>(lParam));
       break;
     case WM_WINDOWPOSCHANGED:

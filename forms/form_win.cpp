@@ -218,16 +218,24 @@ void Form::takeClientSize() {
   height_ = size.cy;
 }
 
-// Limits what the user can do with the frame: setSize limits what code does.
+// Limits what the user can do with the frame: setSize limits what code does. Not ptMaxSize: it is
+// that of the primary monitor, and the system fits it to the monitor on which the window is
+// maximised only where it was left untouched (MINMAXINFO).
 void Form::limitTracking(MINMAXINFO& limits) const {
   if (design_.frame != Frame::kSizable) return;
   const SIZE largest = outerPixels(kMaxSize, kMaxSize);
   limits.ptMaxTrackSize = {largest.cx, largest.cy};
-  limits.ptMaxSize = {std::min(limits.ptMaxSize.x, largest.cx),
-                      std::min(limits.ptMaxSize.y, largest.cy)};
   if (design_.leastWidth == 0) return;
   const SIZE least = outerPixels(design_.leastWidth, design_.leastHeight);
   limits.ptMinTrackSize = {least.cx, least.cy};
+}
+
+// For a maximised window as well, whose size is no tracking size.
+void Form::limitSize(WINDOWPOS& position) const {
+  if (design_.frame != Frame::kSizable || (position.flags & SWP_NOSIZE) != 0) return;
+  const SIZE largest = outerPixels(kMaxSize, kMaxSize, dpi_);
+  position.cx = std::min(position.cx, static_cast<int>(largest.cx));
+  position.cy = std::min(position.cy, static_cast<int>(largest.cy));
 }
 
 void Form::setSize(int width, int height) {

@@ -13,6 +13,15 @@ class FormSize : public WindowTest {
   }
 };
 
+/// A form whose tracking size nothing limits.
+class UnlimitedForm : public FormA {
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message != WM_GETMINMAXINFO) return FormA::handleMessage(message, wParam, lParam);
+    reinterpret_cast<MINMAXINFO*>(lParam)->ptMaxTrackSize = {10000, 10000};
+    return 0;
+  }
+};
+
 SIZE clientOf(const forms::Form& form) {
   RECT client{};
   GetClientRect(form.handle(), &client);
@@ -99,6 +108,23 @@ TEST_F(FormSize, StopsAt32767Twips) {
   MINMAXINFO limits{};
   SendMessageW(form.handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
   EXPECT_LE(forms::toTwips(limits.ptMaxTrackSize.x, 96), 32767 + 300);
+}
+
+TEST_F(FormSize, OfAMaximisedFormIsTheSystemsOwnOnEachMonitor) {
+  auto& form = forms::form<FormA>();
+  MINMAXINFO limits{};
+  limits.ptMaxSize = {5000, 1456};
+  SendMessageW(form.handle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+  EXPECT_EQ(limits.ptMaxSize.x, 5000);
+  EXPECT_EQ(limits.ptMaxSize.y, 1456);
+}
+
+TEST_F(FormSize, StopsAt32767TwipsWithoutATrackingSizeAsWell) {
+  auto& form = forms::form<UnlimitedForm>();
+  SetWindowPos(form.handle(), nullptr, 0, 0, 5000, 5000,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  EXPECT_EQ(clientOf(form).cx, forms::toPixels(32767 - 120, 96));
+  EXPECT_EQ(clientOf(form).cy, forms::toPixels(32767 - 405, 96));
 }
 
 TEST_F(FormSize, IsNeverNegative) {
