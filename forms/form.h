@@ -92,8 +92,8 @@ class Form : public WidgetHost {
   /// Puts the form into the middle of `other` so that all of it lies on the monitor's work area;
   /// one that is too large for that is made smaller.
   void centre(const Form& other);
-  /// The same in the middle of its monitor; where topmost forms of ours lie there, beside them as
-  /// far as there is room.
+  /// The same in the middle of the monitor on which the bar of ours is shown, or of its own
+  /// monitor; where topmost forms of ours lie there, beside them as far as there is room.
   void centre();
   [[nodiscard]] bool isMinimised() const { return IsIconic(handle()) != FALSE; }
 

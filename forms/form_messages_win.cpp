@@ -109,6 +109,8 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (correctSizing(wParam, *reinterpret_cast<RECT*>(lParam))) return TRUE;
       break;
     case WM_DPICHANGED:
+      // moveTo() may have taken the monitor's DPI already, while the form was hidden.
+      if (HIWORD(wParam) == dpi_) return 0;
       rescale(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;
     case WM_GETDPISCALEDSIZE:

@@ -62,6 +62,13 @@ std::vector<Form*> formsOwnedBy(HWND owner) {
 
 PixelBox toBox(const RECT& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 
+/// Returns the monitor of the bar of ours that is shown, or that of `window` while none is.
+win32::Monitor monitorOfBar(HWND window) {
+  const std::vector<PixelBox> bars = placesKeptOnTop(Rank::kBar, Rank::kBar);
+  if (bars.empty()) return win32::monitorOf(window);
+  return win32::monitorAt({bars.front().left, bars.front().top});
+}
+
 win32::OwnedIcon loadIcon(int resource, int systemMetric, int dpi) {
   const int size = GetSystemMetricsForDpi(systemMetric, static_cast<UINT>(dpi));
   return win32::OwnedIcon(static_cast<HICON>(LoadImageW(
@@ -289,12 +296,12 @@ void Form::moveTo(int left, int top) {
   if (dpi != monitorDpi_) rescale(dpi, {left, top, left, top});
 }
 
-// Both first move onto the monitor, whose DPI decides on the size in pixels.
+// These all first move onto the monitor, whose DPI decides on the size in pixels.
 void Form::placeAtBar() {
   const std::vector<PixelBox> bars = placesKeptOnTop(Rank::kBar, Rank::kBar);
   if (bars.empty()) return;
   const PixelBox bar = bars.front();
-  const PixelBox work = toBox(win32::monitorAt({bar.left, bar.top}).work);
+  const PixelBox work = toBox(monitorOfBar(handle_).work);
   moveTo(work.left, work.top);
   const PixelBox place = forms::placeAtBar(place_, bar, work);
   moveTo(place.left, place.top);
@@ -318,11 +325,14 @@ void Form::setPlace(const PixelBox& place) {
 }
 
 void Form::centre(const Form& other) {
-  setPlace(centred(place(), other.place(), toBox(win32::monitorOf(other.handle_).work)));
+  const PixelBox work = toBox(win32::monitorOf(other.handle_).work);
+  moveTo(work.left, work.top);
+  setPlace(centred(place(), other.place(), work));
 }
 
 void Form::centre() {
-  const PixelBox work = toBox(win32::monitorOf(handle_).work);
+  const PixelBox work = toBox(monitorOfBar(handle_).work);
+  moveTo(work.left, work.top);
   const PixelBox middle = centred(place(), work, work);
   // Beside all of them; otherwise beside the bars, which are smaller.
   for (const Rank lowest : {Rank::kFloating, Rank::kBar}) {

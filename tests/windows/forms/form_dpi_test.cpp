@@ -1,4 +1,5 @@
 #include "tests/support/window/window_test.h"
+#include "win32/monitor.h"
 
 namespace support {
 namespace {
@@ -80,6 +81,34 @@ TEST_F(FormDpi, TheSystemsOwnFontFollowsToo) {
   const LONG font = fontHeight(form.second);
   moveToMonitorOf(192, form);
   EXPECT_NEAR(fontHeight(form.second), 2 * font, 1);
+}
+
+TEST_F(FormDpi, TheOneThatItHasAlreadyMovesNothing) {
+  auto& form = shown();
+  const RECT before = rectOf(form.handle());
+  moveToMonitorOf(96, form);
+  EXPECT_TRUE(EqualRect(&before, std::array{rectOf(form.handle())}.data()));
+}
+
+// A hidden form gets no WM_DPICHANGED here when it comes from a monitor of another DPI.
+TEST_F(FormDpi, OfTheMonitorDecidesOnTheSizeThatIsCentred) {
+  auto& other = forms::form<FormB>();
+  other.setPosition(3000, 2250);
+  const POINT middle = centreOf(rectOf(other.handle()));
+  auto& form = forms::form<FormA>();
+  moveToMonitorOf(192, form);
+  ASSERT_EQ(form.place().width(), forms::toPixels(4500, 192));
+  form.centre(other);
+  EXPECT_EQ(form.dpi(), 96);
+  EXPECT_EQ(form.place().width(), forms::toPixels(4500, 96));
+  EXPECT_NEAR(centreOf(rectOf(form.handle())).x, middle.x, 1);
+  EXPECT_NEAR(centreOf(rectOf(form.handle())).y, middle.y, 1);
+  moveToMonitorOf(192, form);
+  form.centre();
+  EXPECT_EQ(form.place().width(), forms::toPixels(4500, 96));
+  const RECT work = win32::monitorOf(form.handle()).work;
+  EXPECT_NEAR(centreOf(rectOf(form.handle())).x, (work.left + work.right) / 2, 1);
+  EXPECT_NEAR(centreOf(rectOf(form.handle())).y, (work.top + work.bottom) / 2, 1);
 }
 
 TEST_F(FormDpi, TellsTheSystemTheSizeItWillHave) {
