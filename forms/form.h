@@ -138,12 +138,14 @@ class Form : public WidgetHost {
   void resized();
   void paint();
   void giveFocusBack();
+  bool scaleSize(int monitorDpi, SIZE& size);
   void rescale(int monitorDpi, const RECT& suggested);
   void takeDpi(int monitorDpi);
   [[nodiscard]] int layoutDpiAt(int monitorDpi, double scale) const;
   /// The outer size in pixels that it has on a monitor of that DPI.
   [[nodiscard]] SIZE sizeAt(int monitorDpi) const;
   void takeSystemLook();
+  void restoreSize();
   void command(WORD code, HWND control, WORD id) const;
   bool passToGrabber(UINT message, WPARAM wParam, LPARAM lParam) const;
   void limitTracking(MINMAXINFO& limits) const;
@@ -152,6 +154,8 @@ class Form : public WidgetHost {
   void endSession();
   void moveTo(int left, int top);
   void setPlace(const PixelBox& place);
+  /// What the frame that Windows draws takes, in pixels.
+  [[nodiscard]] SIZE frameAt(int dpi) const;
   /// Converts an outer size in twips to the real window's outer size in pixels.
   [[nodiscard]] SIZE outerPixels(int width, int height) const;
   [[nodiscard]] SIZE outerPixels(int width, int height, int layoutDpi, int monitorDpi) const;
@@ -168,6 +172,7 @@ class Form : public WidgetHost {
   int height_ = 0;
   PixelBox place_;
   SIZE sizeSet_{};           // what setSize was last given, twips
+  SIZE scaledSize_{-1, -1};  // outer size that scaleSize() gave for one in between, pixels
   SIZE resizedFor_{-1, -1};  // client size of the last Form_Resize, pixels
   bool loaded_ = false;
   bool shown_ = false;

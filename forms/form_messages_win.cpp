@@ -1,4 +1,5 @@
 #include <cstring>
+#include <utility>
 
 #include "forms/appearance/system_look.h"
 #include "forms/focus.h"
@@ -114,9 +115,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       rescale(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;
     case WM_GETDPISCALEDSIZE:
-      // The size that WM_DPICHANGED then suggests is the one that rescale() sets.
-      *reinterpret_cast<SIZE*>(lParam) = sizeAt(static_cast<int>(wParam));
-      return TRUE;
+      return scaleSize(static_cast<int>(wParam), *reinterpret_cast<SIZE*>(lParam)) ? TRUE : FALSE;
     case WM_SYSCOLORCHANGE:
       // The system sends it to top-level windows alone, and the common controls need it.
       for (const Widget* widget : widgets())
@@ -226,32 +225,58 @@ void Form::giveFocusBack() {
   if (target != nullptr) SetFocus(target);
 }
 
-// A maximised window takes the rectangle that Windows suggests; any other keeps its size in twips,
-// and its place is the suggested one, so that it does not leap between two monitors while it is
-// dragged.
+// The system asks which size the form will have at `monitorDpi`. That is what WM_DPICHANGED then
+// suggests. It gives the size that the window is getting, which is not always the one that it has:
+// WM_GETDPISCALEDSIZE names a SetWindowPos, such as one that fills half of a monitor. Returns false
+// where the system is to scale the size itself.
+bool Form::scaleSize(int monitorDpi, SIZE& size) {
+  scaledSize_ = {-1, -1};
+  if (IsZoomed(handle_) != FALSE) return false;
+  if (isMinimised() || (size.cx == place_.width() && size.cy == place_.height())) {
+    size = sizeAt(monitorDpi);
+    return true;
+  }
+  const SIZE before = frameAt(monitorDpi_);
+  const SIZE after = frameAt(monitorDpi);
+  const int dpi = layoutDpiAt(monitorDpi, textScale(windowMetrics(monitorDpi), monitorDpi));
+  size = {scaledOuter(size.cx, before.cx, after.cx, dpi_, dpi),
+          scaledOuter(size.cy, before.cy, after.cy, dpi_, dpi)};
+  scaledSize_ = size;
+  return true;
+}
+
+// A maximised window takes the rectangle that Windows suggests, and so does one that was getting
+// another size; any other keeps its size in twips, and its place is the suggested one, so that it
+// does not leap between two monitors while it is dragged.
 void Form::rescale(int monitorDpi, const RECT& suggested) {
   takeDpi(monitorDpi);
   resizedFor_ = {-1, -1};
   showIcons();
   for (Widget* widget : widgets()) widget->rescale();
   if (isMinimised()) {
-    // Its size is that to which it is restored.
-    WINDOWPLACEMENT placement{};
-    placement.length = sizeof placement;
-    GetWindowPlacement(handle_, &placement);
-    RECT& restored = placement.rcNormalPosition;
-    const SIZE size = outerPixels(width_, height_);
-    restored.right = restored.left + size.cx;
-    restored.bottom = restored.top + size.cy;
-    placement.showCmd = SW_SHOWMINNOACTIVE;
-    SetWindowPlacement(handle_, &placement);
+    restoreSize();
     return;
   }
-  const SIZE outer = IsZoomed(handle_) != FALSE
-                         ? SIZE{suggested.right - suggested.left, suggested.bottom - suggested.top}
-                         : outerPixels(width_, height_);
+  const SIZE size{suggested.right - suggested.left, suggested.bottom - suggested.top};
+  const SIZE scaled = std::exchange(scaledSize_, {-1, -1});
+  const bool takesSize =
+      IsZoomed(handle_) != FALSE || (size.cx == scaled.cx && size.cy == scaled.cy);
+  const SIZE outer = takesSize ? size : outerPixels(width_, height_);
   SetWindowPos(handle_, nullptr, suggested.left, suggested.top, outer.cx, outer.cy,
                SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// Gives a minimised form the size to which it is restored.
+void Form::restoreSize() {
+  WINDOWPLACEMENT placement{};
+  placement.length = sizeof placement;
+  GetWindowPlacement(handle_, &placement);
+  RECT& restored = placement.rcNormalPosition;
+  const SIZE size = outerPixels(width_, height_);
+  restored.right = restored.left + size.cx;
+  restored.bottom = restored.top + size.cy;
+  placement.showCmd = SW_SHOWMINNOACTIVE;
+  SetWindowPlacement(handle_, &placement);
 }
 
 SIZE Form::sizeAt(int monitorDpi) const {

@@ -185,9 +185,13 @@ void Form::unload() {
   onUnloaded.raise();
 }
 
+SIZE Form::frameAt(int dpi) const {
+  return win32::frameOf(styleOf(design_), exStyleOf(design_), dpi);
+}
+
 SIZE Form::outerPixels(int width, int height, int layoutDpi, int monitorDpi) const {
   const SIZE inDesign = designFrameOf(design_);
-  const SIZE real = win32::frameOf(styleOf(design_), exStyleOf(design_), monitorDpi);
+  const SIZE real = frameAt(monitorDpi);
   return {clientPixels(width, inDesign.cx, layoutDpi) + real.cx,
           clientPixels(height, inDesign.cy, layoutDpi) + real.cy};
 }
@@ -274,7 +278,7 @@ void Form::setPosition(int left, int top) {
 // Windows documents that the size and place are those of WM_SIZING's rectangle after the message.
 // Returns whether the rectangle was changed.
 bool Form::correctSizing(WPARAM side, RECT& rect) const {
-  const SIZE frame = win32::frameOf(styleOf(design_), exStyleOf(design_), monitorDpi_);
+  const SIZE frame = frameAt(monitorDpi_);
   SIZE pixels{rect.right - rect.left, rect.bottom - rect.top};
   const SIZE wanted = outerTwipsOf({pixels.cx - frame.cx, pixels.cy - frame.cy});
   const SIZE size = sizeWhenDraggedTo(wanted);

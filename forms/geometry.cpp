@@ -1,6 +1,7 @@
 #include "forms/geometry.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <stdexcept>
 
@@ -30,6 +31,11 @@ int outerTwips(int pixels, int frame, int dpi, int set, int before) {
     if (clientPixels(known, frame, dpi) == pixels) return known;
   }
   return std::min(toTwips(pixels, dpi) + frame, kMaxSize);
+}
+
+int scaledOuter(int outer, int frameFrom, int frameTo, int from, int to) {
+  const int client = std::max(outer - frameFrom, 0);
+  return static_cast<int>(std::lround(static_cast<double>(client) * to / from)) + frameTo;
 }
 
 std::int16_t toInt16(std::int64_t value) {

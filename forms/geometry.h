@@ -46,6 +46,10 @@ int clientPixels(int outer, int frame, int dpi);
 /// go through pixels, change no size.
 int outerTwips(int pixels, int frame, int dpi, int set, int before);
 
+/// Returns the outer size in pixels at the DPI `to` that belongs to `outer` pixels at `from`: the
+/// client area is scaled; the frame takes `frameFrom` pixels at the one and `frameTo` at the other.
+int scaledOuter(int outer, int frameFrom, int frameTo, int from, int to);
+
 /// Returns `value` as a 16-bit signed number. Throws std::overflow_error with the message
 /// "Overflow" outside -32768..32767.
 std::int16_t toInt16(std::int64_t value);

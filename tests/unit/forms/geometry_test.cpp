@@ -7,6 +7,7 @@
 
 namespace {
 
+using forms::scaledOuter;
 using forms::toPixels;
 using forms::toTwips;
 
@@ -100,6 +101,13 @@ TEST(Subtraction, StaysIn32Bits) {
   EXPECT_THROW(forms::subtract(kLeast, 1), std::overflow_error);
   EXPECT_THROW(forms::subtract(kMost, -1), std::overflow_error);
   EXPECT_THROW(forms::subtract(0, kLeast), std::overflow_error);
+}
+
+TEST(ScaledOuter, ScalesTheClientAreaAndNotTheFrame) {
+  EXPECT_EQ(scaledOuter(816, 16, 22, 96, 144), 1222);
+  EXPECT_EQ(scaledOuter(1222, 22, 16, 144, 96), 816);
+  EXPECT_EQ(scaledOuter(101, 0, 0, 96, 144), 152);
+  EXPECT_EQ(scaledOuter(10, 16, 22, 96, 144), 22);
 }
 
 }  // namespace

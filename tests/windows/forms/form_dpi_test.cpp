@@ -21,11 +21,17 @@ class FormDpi : public WindowTest {
   }
 
   /// What the system does when the form is moved to a monitor of `dpi`.
-  static void moveToMonitorOf(int dpi, const forms::Form& form) {
-    const RECT suggested{150, 120, 900, 700};
+  static void moveToMonitorOf(int dpi, const forms::Form& form,
+                              const RECT& suggested = {150, 120, 900, 700}) {
     SendMessageW(form.handle(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi),
                  reinterpret_cast<LPARAM>(&suggested));
     forms::doEvents();
+  }
+
+  /// Asks for the size at `dpi` that the form will have instead of `size`, in pixels.
+  static bool asked(const forms::Form& form, int dpi, SIZE& size) {
+    return SendMessageW(form.handle(), WM_GETDPISCALEDSIZE, static_cast<WPARAM>(dpi),
+                        reinterpret_cast<LPARAM>(&size)) != FALSE;
   }
 
   static LONG fontHeight(const forms::Widget& widget) {
@@ -113,12 +119,34 @@ TEST_F(FormDpi, OfTheMonitorDecidesOnTheSizeThatIsCentred) {
 
 TEST_F(FormDpi, TellsTheSystemTheSizeItWillHave) {
   auto& form = shown();
-  SIZE size{1, 1};
-  EXPECT_TRUE(
-      SendMessageW(form.handle(), WM_GETDPISCALEDSIZE, 144, reinterpret_cast<LPARAM>(&size)));
+  SIZE size{form.place().width(), form.place().height()};
+  EXPECT_TRUE(asked(form, 144, size));
   EXPECT_EQ(size.cx, forms::toPixels(4500, 144));
   EXPECT_EQ(size.cy, forms::toPixels(3000, 144));
   EXPECT_EQ(form.dpi(), 96);
+}
+
+// As where the system lets it fill half of a monitor of another DPI.
+TEST_F(FormDpi, ScalesTheSizeThatItIsGetting) {
+  auto& form = shown();
+  SIZE size{800, 600};
+  EXPECT_TRUE(asked(form, 144, size));
+  EXPECT_EQ(size.cx, 1200);
+  EXPECT_EQ(size.cy, 900);
+  moveToMonitorOf(144, form, {10, 20, 10 + size.cx, 20 + size.cy});
+  EXPECT_EQ(form.place(), (forms::PixelBox{10, 20, 1210, 920}));
+  EXPECT_EQ(form.width(), 12000);
+  EXPECT_EQ(form.height(), 9000);
+}
+
+TEST_F(FormDpi, LeavesTheSizeOfAMaximisedFormToTheSystem) {
+  auto& form = shown();
+  ShowWindow(form.handle(), SW_MAXIMIZE);
+  ASSERT_TRUE(IsZoomed(form.handle()));
+  SIZE size{801, 601};
+  EXPECT_FALSE(asked(form, 144, size));
+  EXPECT_EQ(size.cx, 801);
+  EXPECT_EQ(size.cy, 601);
 }
 
 TEST_F(FormDpi, PlacesUnderTheMouseAreTwips) {
