@@ -5,8 +5,9 @@
 #   ./test.sh unit format        only some layers
 #   ./test.sh windows 'FrmSub*'  only the tests of one layer whose names match a GoogleTest filter
 #
-# The layers: format help unit words threads fuzz wine-unit windows program dpi144. A filter is for
-# those that are GoogleTest executables: unit words threads wine-unit windows program dpi144.
+# The layers: format help executable unit words threads fuzz wine-unit windows program dpi144. A
+# filter is for those that are GoogleTest executables: unit words threads wine-unit windows program
+# dpi144.
 #
 # The last line says how many passed and failed; the exit status is 0 when none failed.
 set -euo pipefail
@@ -19,7 +20,7 @@ source "$LEXILO_ROOT/scripts/lib/tests.sh"
 source "$LEXILO_ROOT/scripts/lib/lanes.sh"
 cd "$LEXILO_ROOT"
 
-all_layers=(format help unit words threads fuzz wine-unit windows program dpi144)
+all_layers=(format help executable unit words threads fuzz wine-unit windows program dpi144)
 layers=()
 filter=
 for argument; do
@@ -32,7 +33,7 @@ for argument; do
   fi
 done
 ((${#layers[@]} > 0)) || layers=("${all_layers[@]}")
-if [[ -n $filter && " format help fuzz " == *" ${layers[0]} "* ]]; then
+if [[ -n $filter && " format help executable fuzz " == *" ${layers[0]} "* ]]; then
   fail "'$filter' is no layer, and the layer '${layers[0]}' takes no filter."
 fi
 
@@ -104,8 +105,12 @@ if wanted fuzz; then build fuzz fuzz_targets; fi
 targets=()
 if wanted wine-unit; then targets+=(unit_tests); fi
 if wanted windows; then targets+=(window_tests); fi
-if wanted program dpi144; then targets+=(lexilo program_tests); fi
+if wanted program dpi144; then targets+=(program_tests); fi
+if wanted executable program dpi144; then targets+=(lexilo); fi
 if ((${#targets[@]} > 0)); then build windows "${targets[@]}"; fi
+if wanted executable; then
+  run_test executable 20 node scripts/check_executable.mjs build/windows/bin/lexilo.exe
+fi
 if wanted words program dpi144; then ensure_full_database; fi
 if wanted program dpi144; then
   assemble_app

@@ -19,7 +19,8 @@ void endWithTheSession() {
 /// The toolbar is the start object: loading it starts the program. The exit command ends it.
 int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*commandLine*/,
                     int /*show*/) {
-  // Whatever loads a library by its plain name finds it in the system directory or not at all.
+  // From here on whatever loads a library by its plain name finds it in the system directory or not
+  // at all. The libraries in the import table are loaded already: scripts/check_executable.mjs.
   SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
   // From here on an error that a handler lets out is shown in a box.
   forms::setErrorHandler(forms::showErrorBox);

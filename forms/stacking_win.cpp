@@ -75,8 +75,11 @@ bool canBeSeen(HWND window) {
       MonitorFromWindow(window, MONITOR_DEFAULTTONULL) == nullptr) {
     return false;
   }
+  // Not linked: a file of this name in the program's own folder would be loaded instead.
+  static auto* attributeOf = win32::systemFunction<decltype(DwmGetWindowAttribute)>(
+      L"dwmapi.dll", "DwmGetWindowAttribute");
   DWORD cloaked = 0;
-  DwmGetWindowAttribute(window, DWMWA_CLOAKED, &cloaked, sizeof cloaked);
+  if (attributeOf != nullptr) attributeOf(window, DWMWA_CLOAKED, &cloaked, sizeof cloaked);
   return cloaked == 0;
 }
 

@@ -54,10 +54,8 @@ std::u16string ansiName(const std::u16string& path) {
 /// where the local application data folder is needed; it stays loaded. `*path` is allocated by the
 /// shell, to be freed by CoTaskMemFree.
 HRESULT knownFolderPath(REFKNOWNFOLDERID folder, wchar_t** path) {
-  const HMODULE library = LoadLibraryExW(L"shell32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-  if (library == nullptr) return HRESULT_FROM_WIN32(GetLastError());
-  const auto ask = reinterpret_cast<decltype(&SHGetKnownFolderPath)>(
-      reinterpret_cast<void*>(GetProcAddress(library, "SHGetKnownFolderPath")));
+  auto* ask =
+      win32::systemFunction<decltype(SHGetKnownFolderPath)>(L"shell32.dll", "SHGetKnownFolderPath");
   return ask == nullptr ? HRESULT_FROM_WIN32(GetLastError()) : ask(folder, 0, nullptr, path);
 }
 

@@ -36,6 +36,17 @@ std::u16string fromAnsi(std::string_view text);
 /// Returns the top-level windows of the calling thread, visible or not. Throws std::bad_alloc.
 std::vector<HWND> threadWindows();
 
+/// Returns the function `name` of `library` in the system directory, which stays loaded; null if
+/// there is none, with the reason in GetLastError(). For libraries that are not to be loaded with
+/// the program: those named in its import table are looked for in its own folder first, unless they
+/// are among the system's known ones ("Dynamic-link library search order").
+template <class Function>
+Function* systemFunction(const wchar_t* library, const char* name) {
+  HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  if (module == nullptr) return nullptr;
+  return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+}
+
 /// Throws std::runtime_error with the system's own text for GetLastError(), in UTF-8.
 [[noreturn]] void throwLastError();
 

@@ -1,0 +1,30 @@
+// Checks what the linker wrote into lexilo.exe: the libraries that are loaded with it, what it calls
+// in them, and the version of Windows that it names.
+//
+//   node scripts/check_executable.mjs build/windows/bin/lexilo.exe
+import { execFileSync } from 'node:child_process';
+
+// Where a library of the import table is looked for in the program's own folder first, anyone who can
+// put a file there is run as the program ("Dynamic-link library search order"). That is not done for
+// the system's known ones (KnownDLLs in the registry), nor for the one that the manifest names.
+const loadedFromTheSystem = new Set(['advapi32.dll', 'comdlg32.dll', 'gdi32.dll', 'imm32.dll',
+  'kernel32.dll', 'msvcrt.dll', 'ole32.dll', 'oleaut32.dll', 'rpcrt4.dll', 'shcore.dll', 'shell32.dll',
+  'shlwapi.dll', 'user32.dll', 'comctl32.dll']);
+const failures = [];
+
+const file = process.argv[2];
+const dump = execFileSync('x86_64-w64-mingw32-objdump', ['-p', file],
+  { encoding: 'utf8', maxBuffer: 64 * 1024 * 1024 });
+
+const libraries = [...dump.matchAll(/^\s*DLL Name: (.*)$/gm)].map((match) => match[1].trim());
+if (libraries.length === 0) failures.push('objdump names no library');
+for (const library of libraries) {
+  if (!loadedFromTheSystem.has(library.toLowerCase())) {
+    failures.push(`${library} would be loaded from the program's folder: load it with systemFunction()`);
+  }
+}
+
+if (failures.length > 0) {
+  console.error(failures.map((failure) => `${file}: ${failure}.`).join('\n'));
+  process.exit(1);
+}
