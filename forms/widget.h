@@ -33,6 +33,8 @@ struct ControlKind {
 /// their tool tips. Does not own the widgets. User-interface thread only.
 class WidgetHost : public FocusTarget {
  public:
+  WidgetHost();
+
   /// The form's window; nullptr after it was destroyed.
   [[nodiscard]] HWND handle() const { return handle_; }
   /// The DPI in which the form is laid out: that of the monitor that it is on, or more for a form

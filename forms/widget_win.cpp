@@ -36,6 +36,17 @@ LRESULT CALLBACK toolTipProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
 
 }  // namespace
 
+// The system's documentation asks for this before the first common control is created, whether or
+// not the manifest names their library.
+WidgetHost::WidgetHost() {
+  static const BOOL ready = [] {
+    const INITCOMMONCONTROLSEX classes{
+        sizeof classes, ICC_STANDARD_CLASSES | ICC_TREEVIEW_CLASSES | ICC_BAR_CLASSES};
+    return InitCommonControlsEx(&classes);
+  }();
+  static_cast<void>(ready);  // without it the creation of a control fails, with an error
+}
+
 Widget* WidgetHost::widgetAt(POINT screen, const Widget* except) const {
   const auto found = std::ranges::find_if(widgets_, [&](const Widget* widget) {
     RECT rect{};
