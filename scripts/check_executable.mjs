@@ -27,6 +27,14 @@ for (const library of libraries) {
 // No test sees that it is missing: Wine registers the classes of all common controls by itself.
 if (!/\bInitCommonControlsEx\b/.test(dump)) failures.push('InitCommonControlsEx is not called');
 
+// Below 6.0 the window manager gives windows frames of other measures than those that it draws; the
+// number is also what an older Windows names when it refuses the program.
+const versionOf = (part) => ['Major', 'Minor'].map((half) =>
+  dump.match(new RegExp(`^${half}${part}Version\\s+(\\d+)$`, 'm'))?.[1]).join('.');
+for (const part of ['OSystem', 'Subsystem']) {
+  if (versionOf(part) !== '10.0') failures.push(`its ${part}Version is ${versionOf(part)}, not 10.0`);
+}
+
 if (failures.length > 0) {
   console.error(failures.map((failure) => `${file}: ${failure}.`).join('\n'));
   process.exit(1);
