@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes build/Lexilo-VERSION.zip, which runs on Windows 10 and later where it is unpacked, and
+# Makes build/Lexilo-VERSION.zip, which runs on Windows 10 (1703) and later where it is unpacked, and
 # build/Lexilo-VERSION-symbols.zip, with which a debugger names the functions of that very program.
 set -euo pipefail
 
