@@ -158,12 +158,17 @@ void Form::show(Form* owner) {
     // A window that is given a topmost owner does not become topmost by that.
     SetWindowPos(handle_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
-  if (!std::exchange(shown_, true)) resized();
-  if (design_.neverActive) {
-    ShowWindow(handle_, SW_SHOWNOACTIVATE);
-    return;
+  const bool first = !std::exchange(shown_, true);
+  if (first) resized();
+  const int normal = design_.neverActive ? SW_SHOWNOACTIVATE : SW_SHOWNORMAL;
+  const int again = isMinimised() ? SW_RESTORE : SW_SHOW;
+  ShowWindow(handle_, design_.neverActive ? normal : again);
+  if (first && (IsWindowVisible(handle_) == FALSE || isMinimised() || IsZoomed(handle_) != FALSE)) {
+    // The first call in a process does what the program's starter asked for, such as a shortcut set
+    // to "run minimised" (ShowWindow's remarks); the second does what it is told.
+    ShowWindow(handle_, normal);
   }
-  ShowWindow(handle_, isMinimised() ? SW_RESTORE : SW_SHOW);
+  if (design_.neverActive) return;
   SetForegroundWindow(handle_);
   raisePendingFocusEvents();
   updateStacking();

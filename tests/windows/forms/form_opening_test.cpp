@@ -1,4 +1,5 @@
 #include <stdexcept>
+#include <utility>
 
 #include "tests/support/window/window_test.h"
 
@@ -6,6 +7,24 @@ namespace support {
 namespace {
 
 class FormOpening : public WindowTest {};
+
+/// A form with which the first ShowWindow does something else, as where the program's starter asked
+/// for that.
+class DivertedForm : public FormA {
+ public:
+  int diversion = SW_HIDE;
+
+ private:
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+    const LRESULT result = FormA::handleMessage(message, wParam, lParam);
+    const bool shows = message == WM_WINDOWPOSCHANGED &&
+                       (reinterpret_cast<WINDOWPOS*>(lParam)->flags & SWP_SHOWWINDOW) != 0;
+    if (shows && !std::exchange(diverted_, true)) ShowWindow(handle(), diversion);
+    return result;
+  }
+
+  bool diverted_ = false;
+};
 
 TEST_F(FormOpening, RaisesItsEventsInOrder) {
   opened<FormA>();
@@ -79,6 +98,24 @@ TEST_F(FormOpening, ShowingAgainRestoresAMinimisedForm) {
   awaitActive(form);
   EXPECT_FALSE(form.isMinimised());
   EXPECT_TRUE(eventually([&] { return GetFocus() == form.first.handle(); }));
+}
+
+TEST_F(FormOpening, TheProgramsStarterHasNoSayInIt) {
+  plan<'A'>().design.frame = forms::Frame::kBorderless;
+  for (const bool neverActive : {false, true}) {
+    plan<'A'>().design.neverActive = neverActive;
+    for (const int diversion : {SW_HIDE, SW_SHOWMINNOACTIVE, SW_MINIMIZE, SW_SHOWMAXIMIZED}) {
+      auto& form = forms::form<DivertedForm>();
+      form.diversion = diversion;
+      form.show();
+      EXPECT_TRUE(IsWindowVisible(form.handle())) << diversion;
+      EXPECT_FALSE(form.isMinimised()) << diversion;
+      EXPECT_FALSE(IsZoomed(form.handle())) << diversion;
+      EXPECT_EQ(form.width(), 4500) << diversion;
+      form.unload();
+      forms::doEvents();
+    }
+  }
 }
 
 TEST_F(FormOpening, AnErrorWhileLoadingIsShownAndTheFormStays) {
