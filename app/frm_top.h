@@ -40,6 +40,7 @@ class frmTop : public forms::Form {
   void Form_Paint() override;
   void Form_Resize() override;
   void Form_LostFocus() override;
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void cmdMain_Click();
   void cmdSub_Click();
   void cmdDictSetting_Click();

@@ -106,6 +106,13 @@ void frmTop::Form_Paint() { bringToTop(); }
 // A drag moves the window with the size in WindowRect, which a change of the DPI changes.
 void frmTop::Form_Resize() { Get_Windows_Rect(); }
 
+LRESULT frmTop::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  const LRESULT result = Form::handleMessage(message, wParam, lParam);
+  // It may have been moved back onto a monitor; a drag starts from the rectangle that is stored.
+  if (message == WM_DISPLAYCHANGE && !IsDragging) Get_Windows_Rect();
+  return result;
+}
+
 void frmTop::Form_LostFocus() {
   disableTimer1();
   // Deliberate: whatever the button shows. Capture that was switched off runs again.

@@ -152,6 +152,7 @@ class Form : public WidgetHost {
   void limitSize(WINDOWPOS& position) const;
   [[nodiscard]] bool correctSizing(WPARAM side, RECT& rect) const;
   void endSession();
+  void comeBackOnScreen();
   void moveTo(int left, int top);
   void setPlace(const PixelBox& place);
   /// What the frame that Windows draws takes, in pixels.

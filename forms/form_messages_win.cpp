@@ -116,6 +116,9 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_GETDPISCALEDSIZE:
       return scaleSize(static_cast<int>(wParam), *reinterpret_cast<SIZE*>(lParam)) ? TRUE : FALSE;
+    case WM_DISPLAYCHANGE:
+      comeBackOnScreen();
+      break;
     case WM_SYSCOLORCHANGE:
       // The system sends it to top-level windows alone, and the common controls need it.
       for (const Widget* widget : widgets())
@@ -223,6 +226,20 @@ void Form::giveFocusBack() {
                       IsWindowVisible(lastFocus_) != FALSE && IsWindowEnabled(lastFocus_) != FALSE;
   HWND target = usable ? lastFocus_ : GetNextDlgTabItem(handle_, nullptr, FALSE);
   if (target != nullptr) SetFocus(target);
+}
+
+// After a monitor was taken away, or its resolution changed. It is documented nowhere that the
+// system moves every window back, and a form without a title bar cannot be moved by the keyboard.
+// The strip of word capture, which is never active, may lie outside.
+void Form::comeBackOnScreen() {
+  if (design_.neverActive || IsWindowVisible(handle_) == FALSE || isMinimised() ||
+      MonitorFromWindow(handle_, MONITOR_DEFAULTTONULL) != nullptr) {
+    return;
+  }
+  const RECT work = win32::monitorOf(handle_).work;
+  const PixelBox before = place();
+  moveTo(work.left, work.top);
+  setPlace(centred(place(), before, {work.left, work.top, work.right, work.bottom}));
 }
 
 // The system asks which size the form will have at `monitorDpi`. That is what WM_DPICHANGED then

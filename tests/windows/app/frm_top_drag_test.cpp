@@ -90,6 +90,15 @@ class FrmTopDrag : public FrmTopTest {
   }
 };
 
+TEST_F(FrmTopDrag, GripsItWhereItCameBackToWhenItsMonitorWasTakenAway) {
+  startDraggedTo(400, 300);
+  SetWindowPos(top().handle(), nullptr, -5000, 400, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  SendMessageW(top().handle(), WM_DISPLAYCHANGE, 32, MAKELPARAM(1280, 1024));
+  ASSERT_TRUE(cornerAt(0, 400));
+  expectDraggedBy(5, 12);
+}
+
 TEST_F(FrmTopDrag, TheFirstTimeItsCornerJumpsToThePointer) {
   start();
   grip(5, 12);

@@ -158,6 +158,28 @@ TEST_F(FormSize, ThePlaceIsTheWindowsOwn) {
   EXPECT_EQ(form.top(), 1500);
 }
 
+TEST_F(FormSize, ThePlaceIsOnAMonitorAfterAChangeOfTheDisplay) {
+  notManaged();
+  for (const bool neverActive : {false, true}) {
+    plan<'A'>().design.neverActive = neverActive;
+    auto& form = forms::form<FormA>();
+    form.show();
+    const auto moved = [&](int left, int top) {
+      SetWindowPos(form.handle(), nullptr, left, top, 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+      SendMessageW(form.handle(), WM_DISPLAYCHANGE, 32, MAKELPARAM(1280, 1024));
+      return POINT{form.place().left, form.place().top};
+    };
+    EXPECT_EQ(moved(-5000, 100).x, neverActive ? -5000 : 0);
+    EXPECT_EQ(moved(-5000, 100).y, 100);
+    // Part of it is seen.
+    EXPECT_EQ(moved(-30, -20).x, -30);
+    EXPECT_EQ(form.width(), 4500);
+    form.unload();
+    forms::doEvents();
+  }
+}
+
 TEST_F(FormSize, NeighbouringWidgetsStayNeighbours) {
   auto& form = opened<FormA>();
   form.first.move({30, 600, 2002, 300});
