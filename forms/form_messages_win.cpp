@@ -269,6 +269,7 @@ void Form::rescale(int monitorDpi, const RECT& suggested) {
   takeDpi(monitorDpi);
   resizedFor_ = {-1, -1};
   showIcons();
+  setToolTipFont();
   for (Widget* widget : widgets()) widget->rescale();
   if (isMinimised()) {
     restoreSize();

@@ -68,6 +68,9 @@ class WidgetHost : public FocusTarget {
 
  protected:
   [[nodiscard]] const std::vector<Widget*>& widgets() const { return widgets_; }
+  /// Gives the tool tips the system's font for messages at the form's DPI. Call after either has
+  /// changed. Throws std::runtime_error if it cannot be created; the old one is kept then.
+  void setToolTipFont();
 
   HWND handle_ = nullptr;
   int dpi_ = 96;
@@ -80,6 +83,7 @@ class WidgetHost : public FocusTarget {
   COLORREF foreColor_ = 0;
   std::vector<Widget*> widgets_;
   HWND toolTip_ = nullptr;  // owned by the form's window, which destroys it
+  win32::OwnedFont toolTipFont_;
 };
 
 /// A system control on a form, usually a member of the form's class. Its geometry is in twips at

@@ -1,6 +1,7 @@
 #include "forms/widget.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/appearance/text_size.h"
 #include "forms/focus.h"
@@ -79,6 +80,15 @@ void WidgetHost::createToolTip() {
                              CW_USEDEFAULT, CW_USEDEFAULT, handle_, nullptr,
                              GetModuleHandleW(nullptr), nullptr);
   SetWindowSubclass(toolTip_, toolTipProc, 0, reinterpret_cast<DWORD_PTR>(this));
+  setToolTipFont();
+}
+
+// By itself the control keeps the font of the DPI for which it was created.
+void WidgetHost::setToolTipFont() {
+  if (toolTip_ == nullptr) return;
+  auto made = makeFont({}, dpi_);
+  SendMessageW(toolTip_, WM_SETFONT, reinterpret_cast<WPARAM>(made.get()), TRUE);
+  toolTipFont_ = std::move(made);
 }
 
 void WidgetHost::setToolTip(const Widget& widget, const std::u16string& text) {

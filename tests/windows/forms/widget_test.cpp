@@ -47,6 +47,25 @@ TEST_F(WidgetTest, KeepsAToolTipForEachWidget) {
   EXPECT_EQ(SendMessageW(toolTipOf(form), TTM_GETTOOLCOUNT, 0, 0), 1);
 }
 
+TEST_F(WidgetTest, ToolTipsAreInTheFontOfTheFormsDpi) {
+  plan<'A'>().design.frame = forms::Frame::kBorderless;
+  plan<'A'>().design.neverActive = true;
+  auto& form = forms::form<FormA>();
+  form.first.setToolTip(u"快速查询");
+  const auto height = [&] {
+    LOGFONTW font{};
+    const LRESULT handle = SendMessageW(toolTipOf(form), WM_GETFONT, 0, 0);
+    GetObjectW(reinterpret_cast<HGDIOBJ>(handle), sizeof font, &font);
+    return font.lfHeight;
+  };
+  const LONG before = height();
+  EXPECT_EQ(before, fontOf(form.second).lfHeight);
+  const RECT suggested{150, 120, 900, 700};
+  SendMessageW(form.handle(), WM_DPICHANGED, MAKEWPARAM(192, 192),
+               reinterpret_cast<LPARAM>(&suggested));
+  EXPECT_NEAR(height(), 2 * before, 1);
+}
+
 TEST_F(WidgetTest, TheToolTipAppearsUnderThePointer) {
   auto& form = opened<FormA>();
   form.first.setToolTip(u"快速查询");
