@@ -85,7 +85,8 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       postFocusCheck();
       return 0;
     case WM_MOUSEACTIVATE:
-      if (design_.neverActive) return MA_NOACTIVATE;
+      // The press is dropped: a control that got it would take the focus, and SetFocus activates.
+      if (design_.neverActive) return MA_NOACTIVATEANDEAT;
       break;
     case WM_WINDOWPOSCHANGING:
       limitSize(*reinterpret_cast<WINDOWPOS*>(lParam));

@@ -248,10 +248,11 @@ TEST_F(FrmScreenWordMeaning, TakesNoFocusAndNoKeys) {
     return GetWindowThreadProcessId(GetForegroundWindow(), nullptr) != GetCurrentThreadId();
   };
   EXPECT_TRUE(always(oursIsNot, 200));
-  EXPECT_EQ(
-      SendMessageW(popup().handle(), WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(popup().handle()),
-                   MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN)),
-      MA_NOACTIVATE);
+  for (HWND clicked : {popup().handle(), popup().txtOut.handle()}) {
+    EXPECT_EQ(SendMessageW(clicked, WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(popup().handle()),
+                           MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN)),
+              MA_NOACTIVATEANDEAT);
+  }
 }
 
 TEST_F(FrmScreenWordMeaning, FivePixelsAreNoMove) {

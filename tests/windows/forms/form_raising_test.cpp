@@ -61,7 +61,20 @@ TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenClicked) {
   form.show();
   injected::click(centreOf(rectOf(form.handle())));
   EXPECT_TRUE(otherKeepsTheFocus());
-  EXPECT_EQ(SendMessageW(form.handle(), WM_MOUSEACTIVATE, 0, 0), MA_NOACTIVATE);
+  EXPECT_EQ(SendMessageW(form.handle(), WM_MOUSEACTIVATE, 0, 0), MA_NOACTIVATEANDEAT);
+}
+
+TEST_F(FormRaising, ANeverActiveFormTakesNoFocusWhenAControlOfItsIsClicked) {
+  auto& active = opened<FormB>();
+  active.first.setFocus();
+  plan<'A'>().design.neverActive = true;
+  plan<'A'>().design.frame = forms::Frame::kBorderless;
+  auto& form = forms::form<FormA>();
+  form.setPosition(9000, 9000);
+  form.show();
+  forms::doEvents();
+  injected::click(centreOf(form.second));
+  EXPECT_TRUE(always([&] { return GetFocus() == active.first.handle(); }, 100));
 }
 
 TEST_F(FormRaising, ANeverActiveFormHasNoTaskbarButton) {
