@@ -1,5 +1,7 @@
 #include "forms/button.h"
 
+#include <utility>
+
 #include "forms/geometry.h"
 
 namespace forms {
@@ -24,7 +26,8 @@ Button::Button(WidgetHost& form, const Picture& picture, const WidgetBox& box)
 }
 
 void Button::setPicture(const Picture& picture) {
-  picture_ = picture;
+  // The picture before may be the last copy of its own: it is kept until the control has the new.
+  const Picture before = std::exchange(picture_, picture);
   showPicture();
 }
 

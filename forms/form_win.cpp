@@ -116,13 +116,15 @@ void Form::createWindow() {
 }
 
 // Loaded at the exact size for the DPI. WM_SETICON does not take ownership: the icons shown before
-// are freed once they are replaced.
+// are freed once both are replaced.
 void Form::showIcons() {
   if (design_.iconResource == 0) return;
-  bigIcon_ = loadIcon(design_.iconResource, SM_CXICON, monitorDpi_);
-  smallIcon_ = loadIcon(design_.iconResource, SM_CXSMICON, monitorDpi_);
-  SendMessageW(handle_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(bigIcon_.get()));
-  SendMessageW(handle_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(smallIcon_.get()));
+  auto big = loadIcon(design_.iconResource, SM_CXICON, monitorDpi_);
+  auto small = loadIcon(design_.iconResource, SM_CXSMICON, monitorDpi_);
+  SendMessageW(handle_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(big.get()));
+  SendMessageW(handle_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small.get()));
+  bigIcon_ = std::move(big);
+  smallIcon_ = std::move(small);
 }
 
 Rank Form::rank() const {

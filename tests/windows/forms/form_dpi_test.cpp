@@ -149,6 +149,38 @@ TEST_F(FormDpi, LeavesTheSizeOfAMaximisedFormToTheSystem) {
   EXPECT_EQ(size.cy, 601);
 }
 
+/// A form that counts how often it gives its window an icon while another one that the window still
+/// has is destroyed.
+class IconForm : public FormA {
+ public:
+  int given = 0;
+  int destroyed = 0;
+
+ private:
+  LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message == WM_SETICON) {
+      ++given;
+      for (const WPARAM kind : {ICON_BIG, ICON_SMALL}) {
+        auto* icon = reinterpret_cast<HICON>(SendMessageW(handle(), WM_GETICON, kind, 0));
+        ICONINFO info{};
+        if (icon != nullptr && GetIconInfo(icon, &info) == FALSE) ++destroyed;
+        DeleteObject(info.hbmColor);
+        DeleteObject(info.hbmMask);
+      }
+    }
+    return FormA::handleMessage(message, wParam, lParam);
+  }
+};
+
+TEST_F(FormDpi, IconsAreReplacedBeforeTheyAreDestroyed) {
+  plan<'A'>().design.iconResource = forms::kProgramIcon;
+  auto& form = forms::form<IconForm>();
+  form.show();
+  for (const int dpi : {144, 192}) moveToMonitorOf(dpi, form);
+  EXPECT_EQ(form.given, 4);
+  EXPECT_EQ(form.destroyed, 0);
+}
+
 TEST_F(FormDpi, PlacesUnderTheMouseAreTwips) {
   auto& form = shown();
   moveToMonitorOf(144, form);
