@@ -22,8 +22,9 @@ constexpr int kLeastHeight = 90;
 /// A tool tip asks itself, by this message, which window is under the pointer before it shows that
 /// window's text. Beside a widget that takes the mouse there too, it is to show the widget's: then
 /// the point is moved onto the widget, as the message's documentation suggests.
-LRESULT CALLBACK toolTipProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                             UINT_PTR /*id*/, DWORD_PTR host) {
+LRESULT CALLBACK toolTipProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                             DWORD_PTR host) {
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(window, toolTipProc, id);
   if (message == TTM_WINDOWFROMPOINT) {
     auto& point = *reinterpret_cast<POINT*>(lParam);
     if (const Widget* grabber = reinterpret_cast<const WidgetHost*>(host)->grabberAt(point)) {
