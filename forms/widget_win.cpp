@@ -120,8 +120,15 @@ Widget::Widget(WidgetHost& form, const ControlKind& kind, const WidgetBox& box,
   SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   controlProc_ = reinterpret_cast<WNDPROC>(
       SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&widgetProc)));
-  form_.addWidget(*this);
-  setFont({});
+  try {
+    form_.addWidget(*this);
+    setFont({});
+  } catch (...) {
+    // No destructor will run: the control would live on with a widget that is none.
+    form_.removeWidget(*this);
+    DestroyWindow(handle_);
+    throw;
+  }
   applyBox();
 }
 

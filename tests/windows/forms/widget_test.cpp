@@ -1,7 +1,12 @@
 #include "forms/widget.h"
 
+#include <stdexcept>
+
 #include "forms/static_controls.h"
+#include "tests/support/window/scoped_import.h"
 #include "tests/support/window/window_test.h"
+
+extern "C" decltype(&CreateFontIndirectW) __imp_CreateFontIndirectW;
 
 namespace support {
 namespace {
@@ -45,6 +50,18 @@ TEST_F(WidgetTest, KeepsAToolTipForEachWidget) {
   EXPECT_EQ(SendMessageW(toolTipOf(form), TTM_GETTOOLCOUNT, 0, 0), 2);
   form.first.setToolTip(u"");
   EXPECT_EQ(SendMessageW(toolTipOf(form), TTM_GETTOOLCOUNT, 0, 0), 1);
+}
+
+TEST_F(WidgetTest, LeavesNoControlWhenItCannotBeMade) {
+  auto& form = forms::form<FormA>();
+  {
+    const ScopedImport<decltype(&CreateFontIndirectW)> none(
+        __imp_CreateFontIndirectW, [](const LOGFONTW*) -> HFONT { return nullptr; });
+    EXPECT_THROW(forms::Label(form, u"标签", {150, 1000, 3000, 300}), std::runtime_error);
+  }
+  HWND last = GetWindow(GetWindow(form.handle(), GW_CHILD), GW_HWNDLAST);
+  EXPECT_EQ(last, form.second.handle());
+  EXPECT_EQ(form.widgetAt(inWidget(form.first, 0, 900)), nullptr);
 }
 
 TEST_F(WidgetTest, ToolTipsAreInTheFontOfTheFormsDpi) {
