@@ -26,6 +26,7 @@ class Dispatcher {
 
   /// Calls `tick` inside the exception barrier every `milliseconds` (Windows takes less than 10,
   /// USER_TIMER_MINIMUM, as 10) until the timer is stopped. Returns the number to stop it by.
+  /// Throws std::runtime_error if the system has no timer left.
   UINT_PTR startTimer(UINT milliseconds, std::function<void()> tick);
   /// Stops a timer; a tick that is already in the queue is dropped. Ignores an unknown number.
   void stopTimer(UINT_PTR id);

@@ -63,8 +63,8 @@ void Dispatcher::runPosted() {
 
 UINT_PTR Dispatcher::startTimer(UINT milliseconds, std::function<void()> tick) {
   const UINT_PTR id = ++lastTimer_;
+  if (SetTimer(window_, id, milliseconds, nullptr) == 0) win32::throwLastError();
   timers_.emplace(id, std::move(tick));
-  SetTimer(window_, id, milliseconds, nullptr);
   return id;
 }
 

@@ -24,7 +24,8 @@ class Timer {
   void setInterval(int milliseconds);
   [[nodiscard]] int interval() const { return interval_; }
 
-  /// Enabling an enabled timer does not start it over.
+  /// Enabling an enabled timer does not start it over. Throws std::runtime_error if the system has
+  /// no timer left, as setInterval does; the timer stays disabled then.
   void setEnabled(bool enabled);
   [[nodiscard]] bool enabled() const { return enabled_; }
 

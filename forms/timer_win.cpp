@@ -19,12 +19,12 @@ void Timer::setInterval(int milliseconds) {
 
 void Timer::setEnabled(bool enabled) {
   if (enabled == enabled_) return;
-  enabled_ = enabled;
   if (enabled) {
     start();
   } else {
     stop();
   }
+  enabled_ = enabled;
 }
 
 // While Form_Unload runs, and the message loop of a box in it, the timer is silent.

@@ -1,5 +1,7 @@
 #include "forms/timer.h"
 
+#include <stdexcept>
+
 #include "tests/support/window/fake_timers.h"
 #include "tests/support/window/window_test.h"
 
@@ -70,6 +72,22 @@ TEST_F(TimerTest, ATickThatWaitedWhenItWasStoppedIsNotRaised) {
   timer.setEnabled(false);
   forms::doEvents();
   EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(TimerTest, OneThatTheSystemDoesNotStartIsAnErrorAndStaysDisabled) {
+  forms::Timer timer(forms::form<FormA>(), 10);
+  timer.onTimer = [this] { ++ticks; };
+  {
+    const ScopedImport<decltype(&SetTimer)> none(__imp_SetTimer,
+                                                 [](HWND, UINT_PTR, UINT, TIMERPROC) -> UINT_PTR {
+                                                   SetLastError(ERROR_NO_SYSTEM_RESOURCES);
+                                                   return 0;
+                                                 });
+    EXPECT_THROW(timer.setEnabled(true), std::runtime_error);
+  }
+  EXPECT_FALSE(timer.enabled());
+  timer.setEnabled(true);
+  EXPECT_TRUE(eventually([this] { return ticks > 0; }));
 }
 
 TEST_F(TimerTest, RaisesNothingOnceItsFormUnloads) {
