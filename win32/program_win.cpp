@@ -15,7 +15,13 @@ bool claimOnlyInstance(const wchar_t* name) {
   return first;
 }
 
-void endProgram() { ExitProcess(0); }
+// Not ExitProcess, which ends the other threads wherever they are and then runs the entry points of
+// all libraries: one that needs a lock of those threads may deadlock (its remarks). Nothing is left
+// to be written. TerminateProcess returns before the process has ended.
+void endProgram() {
+  if (TerminateProcess(GetCurrentProcess(), 0) != FALSE) Sleep(INFINITE);
+  ExitProcess(0);
+}
 
 std::u16string applicationFolder() {
   std::wstring path(MAX_PATH, L'\0');
