@@ -290,7 +290,10 @@ void TreeView::giveText(NMTVDISPINFOW& info) const {
   if ((info.item.mask & TVIF_TEXT) == 0 || info.item.cchTextMax <= 0) return;
   const std::size_t known = numberOf(info.item.hItem);
   const std::size_t number = known == 0 ? inserting_ : known;
-  if (number == 0) return;
+  if (number == 0) {
+    info.item.pszText[0] = L'\0';  // the buffer is not empty by itself
+    return;
+  }
   const std::u16string& text = nodes_[number - 1].text;
   if (text.size() < static_cast<std::size_t>(info.item.cchTextMax)) {
     std::copy_n(text.c_str(), text.size() + 1, info.item.pszText);

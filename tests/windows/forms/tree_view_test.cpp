@@ -53,6 +53,19 @@ class TreeViewTest : public WindowTest {
   }
 };
 
+TEST_F(TreeViewTest, GivesAnUnknownNodeNoText) {
+  open();
+  fill(3);
+  wchar_t buffer[16] = L"not empty";
+  NMTVDISPINFOW info{};
+  info.hdr = {tree().handle(), 0, TVN_GETDISPINFOW};
+  info.item.mask = TVIF_TEXT;
+  info.item.pszText = buffer;
+  info.item.cchTextMax = 16;
+  SendMessageW(tree().form().handle(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&info));
+  EXPECT_STREQ(info.item.pszText, L"");
+}
+
 TEST_F(TreeViewTest, ShowsItsTextsThroughTheControl) {
   open();
   fill(3);
