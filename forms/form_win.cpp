@@ -154,6 +154,8 @@ void Form::load() {
 // with a form that is active.
 void Form::show(Form* owner) {
   if (owner != nullptr) {
+    // Outside of what is documented ("Window Features" has a window's owner given when it is
+    // created) but what every system does: forms are loaded before it is known who owns them.
     SetWindowLongPtrW(handle_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner->handle()));
   }
   if (owner != nullptr && (GetWindowLongPtrW(owner->handle(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0) {

@@ -7,6 +7,9 @@ Monitor describe(HMONITOR monitor) {
   MONITORINFO info{};
   info.cbSize = sizeof info;
   GetMonitorInfoW(monitor, &info);
+  // Its page recommends GetDpiForWindow for per-monitor aware threads. There may be no window on
+  // this monitor; in a process that is per-monitor aware the value is the monitor's own (same
+  // page).
   UINT dpiX = 96;
   UINT dpiY = 96;
   GetDpiForMonitor(monitor, MDT_EFFECTIVE_DPI, &dpiX, &dpiY);
