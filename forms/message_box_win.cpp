@@ -24,13 +24,14 @@ UINT iconFlag(MessageIcon icon) {
   return 0;
 }
 
-/// Disables every window of this thread until the end of the scope, except the box's owner, which
-/// the box disables itself.
+/// Disables every window of ours on this thread until the end of the scope, except the box's owner,
+/// which the box disables itself.
 class ScopedOtherWindowsDisabled {
  public:
   explicit ScopedOtherWindowsDisabled(HWND owner) {
     for (HWND window : win32::threadWindows()) {
       if (window == owner || !IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
+      if (!isOurs(window)) continue;
       disabled_.push_back(window);
       EnableWindow(window, FALSE);
     }

@@ -12,10 +12,15 @@
 namespace forms {
 
 /// Has a top-level window of this thread take part, with its rank. It must be removed before its
-/// handle becomes invalid. Top-level windows that were not added, such as message boxes and tool
-/// tips, rank as notices.
+/// handle becomes invalid. Message boxes, menus and tool tips, which are not added, rank as
+/// notices.
 void addToStack(HWND window, Rank rank);
 void removeFromStack(HWND window);
+
+/// Returns whether a window of this thread was added or is a message box, a menu or a tool tip of
+/// ours. Others are let alone: input methods show theirs in the thread of the window that they
+/// write to.
+bool isOurs(HWND window);
 
 /// Brings a window to the top: above all others but those of ours that rank higher. Moves, sizes
 /// and activates nothing. Does nothing while a message box or a menu is open, above which nothing

@@ -45,7 +45,7 @@ bool isTopmost(HWND window) {
   return (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
 }
 
-bool isOurs(HWND window) {
+bool isOnThisThread(HWND window) {
   return GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();
 }
 
@@ -105,9 +105,9 @@ Stack stackAround(HWND self) {
   HWND window = GetTopWindow(nullptr);
   for (int step = 0; step < kMaxSteps && window != nullptr; ++step) {
     HWND next = GetWindow(window, GW_HWNDNEXT);
-    if (canBeSeen(window)) {
+    const bool ours = isOnThisThread(window);
+    if (canBeSeen(window) && (!ours || isOurs(window))) {
       if (!isTopmost(window)) break;
-      const bool ours = isOurs(window);
       if (window == self) stack.self = stack.windows.size();
       if (!ours || window == self || rootOwner(window) != self) {
         stack.windows.push_back(window);
@@ -261,6 +261,15 @@ void addToStack(HWND window, Rank rank) { stackedWindows().push_back({window, ra
 
 void removeFromStack(HWND window) {
   std::erase_if(stackedWindows(), [=](const StackedWindow& one) { return one.handle == window; });
+}
+
+bool isOurs(HWND window) {
+  if (find(window) != nullptr) return true;
+  constexpr std::wstring_view kDialog = L"#32770";
+  constexpr std::wstring_view kMenu = L"#32768";
+  wchar_t name[32] = L"";
+  GetClassNameW(window, name, static_cast<int>(std::size(name)));
+  return name == kDialog || name == kMenu || std::wstring_view(name) == TOOLTIPS_CLASSW;
 }
 
 void bringToTop(HWND window) {

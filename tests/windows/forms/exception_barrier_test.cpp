@@ -5,6 +5,7 @@
 #include "forms/message_box.h"
 #include "forms/timer.h"
 #include "tests/support/window/other_program.h"
+#include "tests/support/window/plain_window.h"
 #include "tests/support/window/window_test.h"
 
 namespace support {
@@ -159,6 +160,17 @@ TEST_F(MessageBoxTest, HoldsEveryWindowOfTheProgram) {
   const auto seen = boxes.take();
   ASSERT_EQ(seen.size(), 1U);
   EXPECT_EQ(seen[0].owner, owner.handle());
+}
+
+// An input method shows its windows on our thread.
+TEST_F(MessageBoxTest, LetsAWindowAloneThatIsNoneOfOurs) {
+  opened<FormA>();
+  const PlainWindow candidates(plainClass(L"Test.Candidates"), {900, 700, 1100, 740});
+  bool enabled = false;
+  boxes.whileUp([&](HWND) { enabled = IsWindowEnabled(candidates.handle()) != FALSE; });
+  forms::showMessage(u"…", forms::MessageIcon::kNone);
+  EXPECT_EQ(boxes.take().size(), 1U);
+  EXPECT_TRUE(enabled);
 }
 
 TEST_F(MessageBoxTest, LeavesAWindowDisabledThatWasSo) {

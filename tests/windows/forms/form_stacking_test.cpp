@@ -3,6 +3,7 @@
 #include "tests/support/process/find.h"
 #include "tests/support/window/other_program.h"
 #include "tests/support/window/painted.h"
+#include "tests/support/window/plain_window.h"
 #include "tests/support/window/window_test.h"
 
 namespace support {
@@ -83,6 +84,20 @@ class FormStacking : public WindowTest {
     return !forms::meet(one.place(), other.place());
   }
 };
+
+// An input method shows its windows on our thread, and keeps them on top itself.
+TEST_F(FormStacking, LetsAWindowAloneThatIsNoneOfOurs) {
+  auto& floating = opened<FormA>();
+  const PlainWindow candidates(plainClass(L"Test.Candidates"), {900, 700, 1100, 740});
+  ASSERT_TRUE(isAbove(candidates.handle(), floating.handle()));
+  forms::bringToTop(floating.handle());
+  EXPECT_TRUE(isAbove(candidates.handle(), floating.handle()));
+  SetWindowPos(candidates.handle(), floating.handle(), 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  ASSERT_TRUE(isAbove(floating.handle(), candidates.handle()));
+  forms::raiseWhatIsAbove(floating.handle());
+  EXPECT_TRUE(isAbove(floating.handle(), candidates.handle()));
+}
 
 TEST_F(FormStacking, AnOrdinaryWindowOpensBesideAFloatingOne) {
   auto& floating = opened<FormA>();
