@@ -81,7 +81,8 @@ bool isSeenWhole(HWND window, const std::vector<HWND>& others) {
     waitUntilGone(other);
   }
   const std::vector<COLORREF> alone = settledPixels(inside);
-  constexpr std::ptrdiff_t kCaret = 100;  // pixels of a blinking caret
+  // Pixels of a blinking caret, or of the focus rectangle of a list that is active alone.
+  constexpr std::ptrdiff_t kCaret = 600;
   const auto same = std::inner_product(shown.begin(), shown.end(), alone.begin(), std::ptrdiff_t{0},
                                        std::plus<>(), std::equal_to<>());
   return std::ssize(shown) - same <= kCaret;
