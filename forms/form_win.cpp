@@ -253,7 +253,7 @@ void Form::limitTracking(MINMAXINFO& limits) const {
 // For a maximised window as well, whose size is no tracking size.
 void Form::limitSize(WINDOWPOS& position) const {
   if (design_.frame != Frame::kSizable || (position.flags & SWP_NOSIZE) != 0) return;
-  const SIZE largest = outerPixels(kMaxSize, kMaxSize, dpi_);
+  const SIZE largest = outerPixels(kMaxSize, kMaxSize);
   position.cx = std::min(position.cx, static_cast<int>(largest.cx));
   position.cy = std::min(position.cy, static_cast<int>(largest.cy));
 }

@@ -84,10 +84,11 @@ void WidgetHost::createToolTip() {
   setToolTipFont();
 }
 
-// By itself the control keeps the font of the DPI for which it was created.
+// By itself the control keeps the font of the DPI for which it was created. The system's font has
+// the size that the user wants texts in.
 void WidgetHost::setToolTipFont() {
   if (toolTip_ == nullptr) return;
-  auto made = makeFont({}, dpi_);
+  auto made = makeFont({}, monitorDpi_);
   SendMessageW(toolTip_, WM_SETFONT, reinterpret_cast<WPARAM>(made.get()), TRUE);
   toolTipFont_ = std::move(made);
 }
