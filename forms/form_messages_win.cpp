@@ -112,7 +112,7 @@ LRESULT Form::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_DPICHANGED:
       // moveTo() may have taken the monitor's DPI already, while the form was hidden.
-      if (HIWORD(wParam) == dpi_) return 0;
+      if (HIWORD(wParam) == monitorDpi_) return 0;
       rescale(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;
     case WM_GETDPISCALEDSIZE:
