@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <map>
 #include <optional>
 #include <string>
 #include <tuple>
@@ -107,16 +106,15 @@ class Merger {
   void takeSmallLetters();
 
  private:
-  using GlossSet = std::unordered_set<const Gloss*>;
-
   [[nodiscard]] Pair* findPair(std::uint32_t english, std::uint32_t chinese);
   [[nodiscard]] bool isCommonWordToo(const std::u16string& text) const;
-  [[nodiscard]] bool isOfCommonWord(const std::u16string& chinese, std::uint32_t english);
+  [[nodiscard]] std::optional<std::uint32_t> commonWordWithout(const std::u16string& english,
+                                                               const std::u16string& chinese);
+  [[nodiscard]] bool takePlace(const Gloss& gloss, const ChineseEntry& entry, bool common);
   void addPair(const std::u16string& english, const std::u16string& chinese, Tier tier,
                std::size_t position);
   void noteSpelling(std::uint32_t index, const std::u16string& english);
-  void addEntry(const ChineseEntry& entry, bool common, const GlossSet& refused);
-  [[nodiscard]] GlossSet tooMany(const std::vector<ChineseEntry>& entries, const WordRanks& ranks);
+  void addEntry(const ChineseEntry& entry, bool common);
 
   Vocabulary& vocabulary_;
   WordIndex english_;
@@ -124,6 +122,8 @@ class Merger {
   std::size_t sortedPairs_;
   std::vector<bool> important_;  ///< by English word: whether it has a sign of importance
   std::unordered_map<std::uint64_t, std::size_t> addedPairs_;
+  /// By common English word: how many pairs it has from glosses.
+  std::unordered_map<std::uint32_t, std::size_t> placesTaken_;
   /// By English word with capitals: how the other sources spell it.
   std::unordered_map<std::uint32_t, std::u16string> spellings_;
 };
@@ -139,13 +139,15 @@ Pair* Merger::findPair(std::uint32_t english, std::uint32_t chinese) {
   return added == addedPairs_.end() ? nullptr : &pairs[added->second];
 }
 
-/// Whether the English word, by its index, is common and does not have the Chinese one.
-bool Merger::isOfCommonWord(const std::u16string& chinese, std::uint32_t english) {
-  if (english >= vocabulary_.ranks.size()) return false;
-  const std::uint32_t rank = vocabulary_.ranks[english];
-  if (rank == 0 || rank > kCommonRank) return false;
+/// The index of the English word if it is common and does not have the Chinese one.
+std::optional<std::uint32_t> Merger::commonWordWithout(const std::u16string& english,
+                                                       const std::u16string& chinese) {
+  const auto word = english_.find(english);
+  if (!word || *word >= vocabulary_.ranks.size()) return std::nullopt;
+  const std::uint32_t rank = vocabulary_.ranks[*word];
+  if (rank == 0 || rank > kCommonRank) return std::nullopt;
   const auto known = chinese_.find(chinese);
-  return !known || findPair(english, *known) == nullptr;
+  return known && findPair(*word, *known) != nullptr ? std::nullopt : word;
 }
 
 void Merger::addPair(const std::u16string& english, const std::u16string& chinese, Tier tier,
@@ -202,51 +204,26 @@ void Merger::addTerms(const std::vector<Term>& terms) {
   }
 }
 
-/// The glosses that common English words do not take.
-Merger::GlossSet Merger::tooMany(const std::vector<ChineseEntry>& entries, const WordRanks& ranks) {
-  struct Offer {
-    std::uint32_t rank = 0;  ///< of the Chinese word
-    std::size_t nth = 0;     ///< among its glosses
-    const Gloss* gloss = nullptr;
-  };
-  std::map<std::uint32_t, std::vector<Offer>> offers;  // by English word
-  GlossSet refused;
-  for (const ChineseEntry& entry : entries) {
-    const std::uint32_t rank = rankOf(ranks, entry.word);
-    for (std::size_t nth = 0; nth < entry.glosses.size(); ++nth) {
-      const Gloss& gloss = entry.glosses[nth];
-      if (!isEquivalent(gloss)) continue;
-      if (isCommonWordToo(gloss.english)) {
-        refused.insert(&gloss);
-        continue;
-      }
-      const auto english = english_.find(gloss.english);
-      if (!english || !isOfCommonWord(entry.word, *english)) continue;
-      if (entry.word.size() == 1 && !isCommonChinese(entry.word, rank)) {
-        refused.insert(&gloss);
-        continue;
-      }
-      offers[*english].push_back(
-          {rank == 0 ? std::numeric_limits<std::uint32_t>::max() : rank, nth, &gloss});
-    }
-  }
-  for (auto& [english, glosses] : offers) {
-    std::ranges::stable_sort(glosses, {},
-                             [](const Offer& offer) { return std::tie(offer.rank, offer.nth); });
-    for (std::size_t i = kMaxOfCommonWord; i < glosses.size(); ++i) {
-      refused.insert(glosses[i].gloss);
-    }
-  }
-  return refused;
+/// Whether the gloss may become a pair of the entry. A common English word then has a place less.
+/// `common`: the Chinese word is.
+bool Merger::takePlace(const Gloss& gloss, const ChineseEntry& entry, bool common) {
+  if (isCommonWordToo(gloss.english)) return false;
+  const auto english = commonWordWithout(gloss.english, entry.word);
+  if (!english) return true;
+  if (entry.word.size() == 1 && !common) return false;
+  std::size_t& taken = placesTaken_[*english];
+  if (taken == kMaxOfCommonWord) return false;
+  ++taken;
+  return true;
 }
 
-void Merger::addEntry(const ChineseEntry& entry, bool common, const GlossSet& refused) {
+void Merger::addEntry(const ChineseEntry& entry, bool common) {
   const bool known = chinese_.find(entry.word).has_value();
   const Tier first = common ? Tier::kImportantFirst : Tier::kFirst;
   const Tier further = common ? Tier::kImportant : Tier::kOrdinary;
   std::size_t taken = 0;
   for (const Gloss& gloss : entry.glosses) {
-    if (!isEquivalent(gloss) || refused.contains(&gloss)) continue;
+    if (!isEquivalent(gloss) || !takePlace(gloss, entry, common)) continue;
     const bool worthFirst = taken == 0 || isAbbreviation(gloss.english);
     addPair(gloss.english, entry.word, worthFirst ? first : further, kFirstGlossPosition + taken);
     if (++taken == kMaxGlosses) return;
@@ -259,11 +236,19 @@ void Merger::addEntry(const ChineseEntry& entry, bool common, const GlossSet& re
   }
 }
 
+/// The most frequent words first: they take the places of common English words.
 void Merger::addEntries(const std::vector<ChineseEntry>& entries, const WordRanks& ranks) {
-  const GlossSet refused = tooMany(entries, ranks);
-  for (const ChineseEntry& entry : entries) {
-    addEntry(entry, isCommonChinese(entry.word, rankOf(ranks, entry.word)), refused);
-  }
+  struct Ranked {
+    std::uint32_t rank = 0;
+    const ChineseEntry* entry = nullptr;
+  };
+  std::vector<Ranked> sorted;
+  sorted.reserve(entries.size());
+  for (const ChineseEntry& entry : entries) sorted.push_back({rankOf(ranks, entry.word), &entry});
+  std::ranges::stable_sort(sorted, {}, [](const Ranked& one) {
+    return one.rank == 0 ? std::numeric_limits<std::uint32_t>::max() : one.rank;
+  });
+  for (const auto& [rank, entry] : sorted) addEntry(*entry, isCommonChinese(entry->word, rank));
 }
 
 /// The most valuable pair of each Chinese headword is worth a row of its own.

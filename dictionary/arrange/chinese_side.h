@@ -24,9 +24,9 @@ struct ChineseSources {
 /// Tier). A pair that the vocabulary has keeps the better of its tiers.
 /// - A Chinese headword gets its first three equivalents; the first other text, such as an
 ///   explanation, only if it has no pair otherwise.
-/// - A common English word (kCommonRank) gets the most frequent Chinese words of those that the
-///   vocabulary does not give it already, eight at most, and no rare single character: every
-///   synonym has it as its gloss.
+/// - A common English word (kCommonRank) gets the most frequent Chinese words of those that have it
+///   among these three and that the vocabulary does not give it already, eight at most, and no rare
+///   single character: every synonym has it as its gloss.
 /// - A common Chinese word has a row in any case.
 Vocabulary addChineseSide(Vocabulary vocabulary, const ChineseSources& sources);
 

@@ -179,16 +179,21 @@ TEST(ChineseSide, LeavesGlossesOutThatReadAsCommonWords) {
             (std::vector<std::u16string>{u"information technology=信息技术", u"it=它"}));
 }
 
-/// Twelve Chinese words that all mean "hit", which has the given rank; the first ones are the less
-/// frequent ones.
-Vocabulary wordsForHit(std::uint32_t rank, std::uint32_t worstRank) {
+/// Twelve Chinese words that have all these glosses; the first ones are the less frequent ones.
+ChineseSources twelveWords(const std::vector<std::u16string>& glosses, std::uint32_t worstRank) {
   ChineseSources sources;
   for (char16_t i = 0; i < 12; ++i) {
     const std::u16string word = {u'打', static_cast<char16_t>(u'一' + i)};
-    sources.entries.push_back(chinese(word, {u"hit"}));
+    sources.entries.push_back(chinese(word, glosses));
     sources.ranks[word] = worstRank - i;
   }
-  return addChineseSide(collect({entry("hit", "v. 打", true, rank)}), sources);
+  return sources;
+}
+
+/// The same, all of which mean "hit", which has the given rank.
+Vocabulary wordsForHit(std::uint32_t rank, std::uint32_t worstRank) {
+  return addChineseSide(collect({entry("hit", "v. 打", true, rank)}),
+                        twelveWords({u"hit"}, worstRank));
 }
 
 // "beautiful" is the gloss of some hundred words, most of which nobody meets.
@@ -198,6 +203,25 @@ TEST(ChineseSide, GivesACommonEnglishWordTheMostFrequentSynonymsOnly) {
   EXPECT_EQ(std::ranges::count(eight, u"hit=打一"), 0);
   EXPECT_EQ(std::ranges::count(eight, u"hit=打七"), 0);
   EXPECT_EQ(texts(wordsForHit(5'001, 40'000)).size(), 13U);
+}
+
+// The frequent words have three better glosses each; words without a rank come after all others.
+TEST(ChineseSide, LeavesThePlacesOfAWordToThoseThatTakeThem) {
+  ChineseSources sources = twelveWords({u"strike", u"beat", u"knock", u"hit"}, 1'000);
+  sources.entries.push_back(chinese(u"捶打", {u"hit"}));
+  for (const ChineseEntry& entry : twelveWords({u"hit"}, 40'000).entries) {
+    sources.entries.push_back(chinese(u"敲" + entry.word, {u"hit"}));
+    sources.ranks[u"敲" + entry.word] = 40'000;
+  }
+  const auto all = texts(addChineseSide(collect({entry("hit", "v. 打", true, 50)}), sources));
+  EXPECT_EQ(std::ranges::count_if(all, [](auto& pair) { return pair.starts_with(u"hit=敲"); }), 8);
+  EXPECT_EQ(std::ranges::count(all, u"hit=捶打"), 0);
+}
+
+TEST(ChineseSide, LeavesAPlaceThatTheVocabularyGivesAlreadyToAnother) {
+  const auto all = texts(addChineseSide(collect({entry("hit", "v. 打上, 打", true, 50)}),
+                                        twelveWords({u"hit"}, 40'000)));
+  EXPECT_EQ(std::ranges::count_if(all, [](auto& pair) { return pair.starts_with(u"hit="); }), 10);
 }
 
 // "娥 | good" would stand beside 好.
