@@ -229,8 +229,9 @@ void Merger::addEntry(const ChineseEntry& entry, bool common) {
     if (++taken == kMaxGlosses) return;
   }
   if (taken > 0 || known) return;
-  const auto other = std::ranges::find_if(
-      entry.glosses, [&](const Gloss& gloss) { return common || !isEquivalent(gloss); });
+  const auto other = std::ranges::find_if(entry.glosses, [&](const Gloss& gloss) {
+    return common ? !isCommonWordToo(gloss.english) : takePlace(gloss, entry, false);
+  });
   if (other != entry.glosses.end()) {
     addPair(other->english, entry.word, first, kFirstGlossPosition);
   }

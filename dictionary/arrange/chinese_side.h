@@ -28,6 +28,7 @@ struct ChineseSources {
 ///   among these three and that the vocabulary does not give it already, eight at most, and no rare
 ///   single character: every synonym has it as its gloss.
 /// - A common Chinese word has a row in any case.
+/// - No abbreviation that is spelled as a common word is added ("IT").
 Vocabulary addChineseSide(Vocabulary vocabulary, const ChineseSources& sources);
 
 /// Returns the terms that stand in the wrong folder: those that the vocabulary or an entry gives

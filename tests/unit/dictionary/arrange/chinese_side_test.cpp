@@ -235,8 +235,33 @@ TEST(ChineseSide, GivesACommonEnglishWordNoRareCharacter) {
   EXPECT_EQ(std::ranges::count(pairs(3'001), u"virtuous=善"), 1);
 }
 
+// 垿 has the meanings of the character that it refers to.
+TEST(ChineseSide, GivesACommonEnglishWordNoRareCharacterThatHasNothingElse) {
+  const auto pairs = [](const std::u16string& english, std::uint32_t rank) {
+    const ChineseEntry character{u"垿", {{english, 1, 0, GlossValue::kPart}}};
+    return texts(addChineseSide(collect({entry("order", "n. 次序", true, rank)}),
+                                {{character}, {}, {{u"垿", 3'001}}}))
+        .size();
+  };
+  EXPECT_EQ(pairs(u"order", 5'000), 1U);
+  EXPECT_EQ(pairs(u"order", 5'001), 2U);
+  EXPECT_EQ(pairs(u"in order", 5'000), 2U);
+}
+
 TEST(ChineseSide, LeavesNoCommonChineseWordWithoutARow) {
   EXPECT_EQ(texts(wordsForHit(5'000, 20'000)).size(), 13U);
+  const auto others = texts(addChineseSide(collect({entry("hit", "v. 打", true, 50)}),
+                                           twelveWords({u"hit", u"strike"}, 20'000)));
+  EXPECT_EQ(std::ranges::count_if(others, [](auto& pair) { return pair.starts_with(u"hit=打"); }),
+            9);
+}
+
+TEST(ChineseSide, GivesACommonChineseWordNoAbbreviationThatReadsAsAnother) {
+  const std::vector<Gloss> glosses = {{u"IT", 1, 0, GlossValue::kPair},
+                                      {u"knowledge in computers", 3, 0, GlossValue::kExplanation}};
+  const auto pairs = texts(addChineseSide(collect({entry("it", "pron. 它", true, 9)}),
+                                          {{{u"信息", glosses}}, {}, {{u"信息", 20'000}}}));
+  EXPECT_EQ(pairs, (std::vector<std::u16string>{u"it=它", u"knowledge in computers=信息"}));
 }
 
 TEST(MisplacedTerms, AreThoseThatASourceGivesAndGivenOnesThatNoneGives) {
