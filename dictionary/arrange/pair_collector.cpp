@@ -90,7 +90,7 @@ std::size_t PairCollector::add(const Entry& entry) {
   const bool ordinary = std::ranges::any_of(
       senses, [](const Sense& sense) { return sense.kind == SenseKind::kOrdinary; });
   if (!ordinary && !entry.references.empty()) {
-    Reference reference{entry.headword, {}, entry.important};
+    Reference reference{entry.headword, {}, entry.rank, entry.important};
     for (const std::u16string& other : entry.references) {
       reference.others.push_back(text::toLower(other));
     }
@@ -124,8 +124,8 @@ void PairCollector::collectMeanings(ReferredWords& words) const {
     const auto found = words.find(text::toLower(headword.word));
     if (found == words.end() || found->second.meanings.size() == kMaxMeanings) continue;
     if (inflectionIn(list_.chinese(pair.chinese))) continue;
-    found->second.rank = headword.rank;
-    found->second.important = headword.important;
+    found->second.rank = betterRank(found->second.rank, headword.rank);
+    found->second.important = found->second.important || headword.important;
     found->second.meanings.push_back({pair.chinese, list_.parts(i)});
   }
 }
@@ -138,7 +138,8 @@ void PairCollector::followReferences() {
   }
   collectMeanings(words);
   for (const Reference& reference : references_) {
-    const std::uint32_t english = list_.addHeadword(reference.headword, 0, reference.important);
+    const std::uint32_t english =
+        list_.addHeadword(reference.headword, reference.rank, reference.important);
     std::size_t position = 0;
     for (const std::u16string& other : reference.others) {
       std::size_t followed = 0;

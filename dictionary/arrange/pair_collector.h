@@ -32,6 +32,7 @@ class PairCollector {
   struct Reference {
     std::u16string headword;
     std::vector<std::u16string> others;
+    std::uint32_t rank = 0;
     bool important = false;
   };
 
@@ -52,7 +53,7 @@ class PairCollector {
     PartOfSpeechSet parts = 0;
   };
 
-  /// Such a word.
+  /// Such a word; of several that differ in case only, the best of all.
   struct Referred {
     std::uint32_t rank = 0;
     bool important = false;

@@ -64,9 +64,7 @@ void sortVocabulary(Vocabulary& vocabulary) {
   std::vector<std::uint32_t> ranks(vocabulary.english.size());
   for (std::size_t i = 0; i < vocabulary.ranks.size(); ++i) {
     std::uint32_t& rank = ranks[englishPlaces[i]];
-    if (rank == 0 || (vocabulary.ranks[i] > 0 && vocabulary.ranks[i] < rank)) {
-      rank = vocabulary.ranks[i];
-    }
+    rank = betterRank(rank, vocabulary.ranks[i]);
   }
   vocabulary.ranks = std::move(ranks);
   std::vector<Pair>& pairs = vocabulary.pairs;

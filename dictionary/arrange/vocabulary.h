@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -77,6 +78,11 @@ struct Vocabulary {
   std::vector<Pair> pairs;              ///< distinct, by English, then by Chinese headword
   std::vector<std::uint32_t> ranks;     ///< by English headword: as in SourceEntry
 };
+
+/// Returns the better one of two ranks, of which 0 is none.
+constexpr std::uint32_t betterRank(std::uint32_t a, std::uint32_t b) {
+  return a == 0 || b == 0 ? std::max(a, b) : std::min(a, b);
+}
 
 /// Sorts the words and pairs of a vocabulary in any order. Words that are equal in the text order
 /// (they differ in case only) become one, spelled as the first and with the better rank; of equal

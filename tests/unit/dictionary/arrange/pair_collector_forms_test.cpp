@@ -203,6 +203,21 @@ TEST(PairCollector, ComparesTheRanksOfAFormAndItsLemma) {
   EXPECT_FALSE(takes(350, 0)) << "0 is no rank";
 }
 
+// The best rank and any sign of importance count, whichever spelling the source lists last.
+TEST(PairCollector, RatesALemmaByTheBestOfItsSpellings) {
+  const Entry polished = entry("polished", "a. 优美的", true, 20'000, "0:polish/1:p");
+  const Entry verb = entry("polish", "vt. 磨光, 擦亮", true, 2'000);
+  const Entry name = entry("Polish", "n. 波兰语");
+  for (const auto& lemmas : {std::vector{verb, name}, std::vector{name, verb}}) {
+    const Vocabulary vocabulary = collect({polished, lemmas[0], lemmas[1]});
+    EXPECT_EQ(valued(vocabulary, u"polished"),
+              (Texts{u"优美的", u"polish的过去式", u"磨光", u"擦亮"}));
+    const Vocabulary went =
+        collect({entry("polishing", "polish的现在分词, 抛光"), lemmas[0], lemmas[1]});
+    EXPECT_EQ(pairOf(went, u"polishing", u"磨光").tier, Tier::kImportant) << "of an important word";
+  }
+}
+
 // "kudos | 0:kudo", without the letter of a form.
 TEST(PairCollector, AddsNoNoteOnAFormThatIsNotNamed) {
   const Vocabulary vocabulary = collect(

@@ -150,4 +150,20 @@ TEST(PairCollector, KeepsTheRanksOfHeadwords) {
   EXPECT_EQ(vocabulary.ranks, (std::vector<std::uint32_t>{0, 200}));
 }
 
+TEST(PairCollector, TakesRankZeroForNone) {
+  const auto ranks = [](std::uint32_t first, std::uint32_t second) {
+    return collect({entry("zoo", "n. 动物园", true, first), entry("Zoo", "n. 园", true, second)})
+        .ranks;
+  };
+  EXPECT_EQ(ranks(0, 200), std::vector<std::uint32_t>{200});
+  EXPECT_EQ(ranks(200, 0), std::vector<std::uint32_t>{200});
+  EXPECT_EQ(ranks(0, 0), std::vector<std::uint32_t>{0});
+}
+
+TEST(PairCollector, KeepsTheRankOfAReference) {
+  const Vocabulary vocabulary = collect({entry("equaliser", "=equalizer", true, 7'000),
+                                         entry("equalizer", "n. 均衡器", true, 9'000)});
+  EXPECT_EQ(vocabulary.ranks, (std::vector<std::uint32_t>{7'000, 9'000}));
+}
+
 }  // namespace
