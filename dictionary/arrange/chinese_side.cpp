@@ -92,12 +92,7 @@ class Merger {
       : vocabulary_(vocabulary),
         english_(vocabulary.english),
         chinese_(vocabulary.chinese),
-        sortedPairs_(vocabulary.pairs.size()),
-        important_(vocabulary.english.size()) {
-    for (const Pair& pair : vocabulary.pairs) {
-      if (pair.tier == Tier::kImportantFirst) important_[pair.english] = true;
-    }
-  }
+        sortedPairs_(vocabulary.pairs.size()) {}
 
   void addTerms(const std::vector<Term>& terms);
   void addEntries(const std::vector<ChineseEntry>& entries, const WordRanks& ranks);
@@ -120,7 +115,6 @@ class Merger {
   WordIndex english_;
   WordIndex chinese_;
   std::size_t sortedPairs_;
-  std::vector<bool> important_;  ///< by English word: whether it has a sign of importance
   std::unordered_map<std::uint64_t, std::size_t> addedPairs_;
   /// By common English word: how many pairs it has from glosses.
   std::unordered_map<std::uint32_t, std::size_t> placesTaken_;
@@ -191,10 +185,8 @@ bool Merger::isCommonWordToo(const std::u16string& text) const {
   const bool capitals = std::ranges::none_of(
       text, [](char16_t unit) { return unit == text::foldCase(unit) && isAsciiLetter(unit); });
   const auto word = english_.find(text);
-  if (!capitals || !word || *word >= vocabulary_.ranks.size()) return false;
-  const std::uint32_t rank = vocabulary_.ranks[*word];
-  const bool common = rank > 0 ? rank <= kCommonRank : important_[*word];
-  return common && vocabulary_.english[*word] != text;
+  if (!capitals || !word || *word >= vocabulary_.common.size()) return false;
+  return vocabulary_.common[*word] && vocabulary_.english[*word] != text;
 }
 
 void Merger::addTerms(const std::vector<Term>& terms) {

@@ -27,6 +27,10 @@ constexpr std::size_t kMaxTakenOfRare = 2;
 /// Equivalents of a lemma among which those of the right part of speech are looked for.
 constexpr std::size_t kMaxMeanings = 40;
 
+PairList::Headword headwordOf(const Entry& entry) {
+  return {entry.headword, entry.rank, entry.important, isCommon(entry) && isWord(entry)};
+}
+
 }  // namespace
 
 /// Notes that the entry, whose own pairs are added, is a form. Its translation may give the form's
@@ -52,7 +56,7 @@ std::size_t PairCollector::addForm(const Entry& entry, const std::vector<Sense>&
   }
   if (senses.empty() && note.empty()) return 0;
   if (senses.empty()) {
-    list_.addPair(list_.addHeadword(entry.headword, entry.rank, entry.important), note,
+    list_.addPair(list_.addHeadword(headwordOf(entry)), note,
                   entry.important ? Tier::kImportantFirst : Tier::kFirst, 0);
   }
   form.english = static_cast<std::uint32_t>(list_.headwords().size() - 1);
@@ -77,7 +81,7 @@ void PairCollector::addMissingForms() {
   for (auto& [word, inflection] : listedForms_) {
     if (known.contains(word) || !known.contains(inflection.lemma)) continue;
     FormEntry form{.english = 0, .inflection = {}, .noted = false, .alone = true, .next = 0};
-    form.english = list_.addHeadword(word, 0, true);
+    form.english = list_.addHeadword({.word = word, .important = true});
     form.inflection = std::move(inflection);
     forms_.push_back(std::move(form));
   }
@@ -98,7 +102,7 @@ std::size_t PairCollector::add(const Entry& entry) {
     if (senses.empty()) return 0;
   }
   if (senses.empty()) return addForm(entry, senses);
-  const std::uint32_t english = list_.addHeadword(entry.headword, entry.rank, entry.important);
+  const std::uint32_t english = list_.addHeadword(headwordOf(entry));
   const bool form = entry.inflection || std::ranges::any_of(senses, &Sense::reference) ||
                     std::ranges::any_of(entry.lines, [](const TranslationLine& line) {
                       return !line.inflection.empty();
@@ -126,6 +130,7 @@ void PairCollector::collectMeanings(ReferredWords& words) const {
     if (inflectionIn(list_.chinese(pair.chinese))) continue;
     found->second.rank = betterRank(found->second.rank, headword.rank);
     found->second.important = found->second.important || headword.important;
+    found->second.common = found->second.common || headword.common;
     found->second.meanings.push_back({pair.chinese, list_.parts(i)});
   }
 }
@@ -138,8 +143,8 @@ void PairCollector::followReferences() {
   }
   collectMeanings(words);
   for (const Reference& reference : references_) {
-    const std::uint32_t english =
-        list_.addHeadword(reference.headword, reference.rank, reference.important);
+    const std::uint32_t english = list_.addHeadword(
+        {.word = reference.headword, .rank = reference.rank, .important = reference.important});
     std::size_t position = 0;
     for (const std::u16string& other : reference.others) {
       std::size_t followed = 0;
@@ -222,11 +227,14 @@ void PairCollector::followForms() {
   for (const FormEntry& form : forms_) {
     const Referred& lemma = words.at(form.inflection.lemma);
     if (lemma.meanings.empty()) continue;
+    const bool read = form.given || form.noted || form.alone || hides(form, lemma);
+    if (!read) continue;  // another word to readers
+    if (lemma.common && list_.headwords()[form.english].rank == 0) list_.setCommon(form.english);
     if (form.given) {
       raiseForm(form, lemma);
-      continue;
+    } else {
+      followForm(form, lemma);
     }
-    if (form.noted || form.alone || hides(form, lemma)) followForm(form, lemma);
   }
 }
 

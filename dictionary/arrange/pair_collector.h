@@ -57,6 +57,7 @@ class PairCollector {
   struct Referred {
     std::uint32_t rank = 0;
     bool important = false;
+    bool common = false;
     std::vector<Meaning> meanings;
   };
   using ReferredWords = std::unordered_map<std::u16string, Referred>;

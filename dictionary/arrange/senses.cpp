@@ -50,16 +50,6 @@ bool namesProgram(const Piece& piece) {
           std::ranges::any_of(kEndings, [&](auto ending) { return word.ends_with(ending); }));
 }
 
-/// Returns whether the entry translates an ordinary word: whether a line that names its part of
-/// speech has an equivalent that is of no subject.
-bool isWord(const Entry& entry) {
-  return std::ranges::any_of(entry.lines, [](const TranslationLine& line) {
-    return line.parts != 0 && std::ranges::any_of(line.pieces, [](const Piece& piece) {
-             return piece.subjects == 0 && !piece.equivalent.word.empty();
-           });
-  });
-}
-
 /// Returns whether a sense of a short word is what an abbreviation in capitals stands for: a long
 /// one from a line of computing, or from a line that names neither a subject nor a part of speech:
 /// "cat | n. 猫, 恶妇\nvi. 呕吐\n计算机辅助教育, 计算机辅助测试\n[计] 计算机辅助排字". Only the
@@ -169,6 +159,14 @@ std::vector<Candidate> chosen(std::vector<Candidate> candidates, bool basic) {
 }
 
 }  // namespace
+
+bool isWord(const Entry& entry) {
+  return std::ranges::any_of(entry.lines, [](const TranslationLine& line) {
+    return line.parts != 0 && std::ranges::any_of(line.pieces, [](const Piece& piece) {
+             return piece.subjects == 0 && !piece.equivalent.word.empty();
+           });
+  });
+}
 
 std::vector<Sense> sensesOf(const Entry& entry) {
   std::vector<Candidate> candidates = candidatesOf(entry);

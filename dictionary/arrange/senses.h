@@ -31,6 +31,10 @@ inline constexpr std::uint32_t kCommonRank = 5'000;
 /// Returns whether the word of the entry is common.
 inline bool isCommon(const Entry& entry) { return entry.rank > 0 && entry.rank <= kCommonRank; }
 
+/// Returns whether the entry translates an ordinary word: whether a line that names its part of
+/// speech has an equivalent that is of no subject. Otherwise it may be an abbreviation: "plc".
+bool isWord(const Entry& entry);
+
 /// Returns the entry's distinct equivalents: ordinary ones, then names, then those from the web,
 /// each in the order of the source, which is its order of importance.
 ///

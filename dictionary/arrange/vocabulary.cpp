@@ -67,6 +67,11 @@ void sortVocabulary(Vocabulary& vocabulary) {
     rank = betterRank(rank, vocabulary.ranks[i]);
   }
   vocabulary.ranks = std::move(ranks);
+  std::vector<bool> common(vocabulary.english.size());
+  for (std::size_t i = 0; i < vocabulary.common.size(); ++i) {
+    if (vocabulary.common[i]) common[englishPlaces[i]] = true;
+  }
+  vocabulary.common = std::move(common);
   std::vector<Pair>& pairs = vocabulary.pairs;
   for (Pair& pair : pairs) {
     pair.english = englishPlaces[pair.english];
@@ -96,9 +101,8 @@ Tier tierOf(const Entry& entry, bool form, const Sense& sense, bool only, std::s
   return sense.subject ? Tier::kOfSubject : Tier::kOrdinary;
 }
 
-std::uint32_t PairList::addHeadword(const std::u16string& word, std::uint32_t rank,
-                                    bool important) {
-  headwords_.push_back({word, rank, important});
+std::uint32_t PairList::addHeadword(Headword headword) {
+  headwords_.push_back(std::move(headword));
   return static_cast<std::uint32_t>(headwords_.size() - 1);
 }
 
@@ -117,9 +121,11 @@ Vocabulary PairList::finish() && {
   Vocabulary vocabulary;
   vocabulary.english.reserve(headwords_.size());
   vocabulary.ranks.reserve(headwords_.size());
+  vocabulary.common.reserve(headwords_.size());
   for (Headword& headword : headwords_) {
     vocabulary.english.push_back(std::move(headword.word));
     vocabulary.ranks.push_back(headword.rank);
+    vocabulary.common.push_back(headword.common);
   }
   vocabulary.chinese = std::move(chinese_);
   vocabulary.pairs = std::move(pairs_);

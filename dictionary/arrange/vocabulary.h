@@ -77,6 +77,7 @@ struct Vocabulary {
   std::vector<std::u16string> chinese;  ///< distinct, in the text order
   std::vector<Pair> pairs;              ///< distinct, by English, then by Chinese headword
   std::vector<std::uint32_t> ranks;     ///< by English headword: as in SourceEntry
+  std::vector<bool> common;             ///< by English headword: see PairList::Headword
 };
 
 /// Returns the better one of two ranks, of which 0 is none.
@@ -85,8 +86,8 @@ constexpr std::uint32_t betterRank(std::uint32_t a, std::uint32_t b) {
 }
 
 /// Sorts the words and pairs of a vocabulary in any order. Words that are equal in the text order
-/// (they differ in case only) become one, spelled as the first and with the better rank; of equal
-/// pairs the one of the best tier and position stays.
+/// (they differ in case only) become one, spelled as the first and with the better rank, and common
+/// if one of them is; of equal pairs the one of the best tier and position stays.
 void sortVocabulary(Vocabulary& vocabulary);
 
 /// Returns the tier of the equivalent `sense` of an entry. `form`: the entry is a form of another
@@ -103,10 +104,16 @@ class PairList {
     std::u16string word;
     std::uint32_t rank = 0;  ///< as in SourceEntry
     bool important = false;  ///< as in SourceEntry
+    /// Whether readers take its letters for a common word (kCommonRank), not for an abbreviation:
+    /// it is a word to the source as well (isWord()), or the form of such a word without a rank of
+    /// its own.
+    bool common = false;
   };
 
-  /// Adds a headword and returns its index. Copies the text.
-  std::uint32_t addHeadword(const std::u16string& word, std::uint32_t rank, bool important);
+  /// Adds a headword and returns its index.
+  std::uint32_t addHeadword(Headword headword);
+  /// Notes that the headword with that index is common.
+  void setCommon(std::uint32_t english) { headwords_[english].common = true; }
 
   /// Adds a pair of the headword with that index. `position` may exceed Pair::kMaxPosition; `parts`
   /// are the parts of speech of the equivalent's line. Copies the text.

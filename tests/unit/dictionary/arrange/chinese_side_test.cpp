@@ -157,19 +157,48 @@ TEST(ChineseSide, GivesEveryTermARow) {
   EXPECT_EQ(tierOfPair(vocabulary, u"drone", u"无人机"), Tier::kImportantFirst);
 }
 
+/// Whether the term gets a row beside these entries.
+bool takesTerm(const std::vector<dictionary::Entry>& entries, const std::u16string& term) {
+  const Vocabulary vocabulary =
+      addChineseSide(collect(entries), {{}, {{term, u"信息技术", Subject::kComputing}}, {}});
+  return std::ranges::count(vocabulary.chinese, u"信息技术") > 0;
+}
+
 // "IT | 信息技术" would stand among the meanings of "it".
 TEST(ChineseSide, LeavesAbbreviationsOutThatReadAsCommonWords) {
-  const auto pairs = [](const std::string& word, std::uint32_t rank, const std::u16string& term) {
-    return texts(addChineseSide(collect({entry(word, "pron. 它", true, rank)}),
-                                {{}, {{term, u"信息技术", Subject::kComputing}}, {}}))
-        .size();
+  EXPECT_FALSE(takesTerm({entry("it", "pron. 它", true, 5'000)}, u"IT"));
+  EXPECT_TRUE(takesTerm({entry("it", "pron. 它", true, 5'001)}, u"IT"));
+  EXPECT_TRUE(takesTerm({entry("it", "pron. 它", true, 0)}, u"IT"));
+  EXPECT_TRUE(takesTerm({entry("IT", "pron. 它", true, 5'000)}, u"IT"))
+      << "an abbreviation to the source as well";
+  EXPECT_TRUE(takesTerm({entry("it", "pron. 它", true, 5'000)}, u"It"));
+  EXPECT_TRUE(takesTerm({entry("that", "pron. 它", true, 5'000)}, u"IT"));
+}
+
+// "plc" and "san" are as frequent, but no words: "plc | 公共有限公司\n[计] 可编程逻辑控制器".
+TEST(ChineseSide, TakesAbbreviationsThatTheSourceHasNoWordFor) {
+  EXPECT_TRUE(takesTerm({entry("plc", "公共有限公司", true, 2'000)}, u"PLC"));
+  EXPECT_TRUE(takesTerm({entry("plc", "n. [计] 可编程逻辑控制器", true, 2'000)}, u"PLC"));
+  EXPECT_FALSE(takesTerm(
+      {entry("plc", "公共有限公司", true, 2'000), entry("Plc", "n. 它", true, 9)}, u"PLC"));
+}
+
+// "ate" has no rank; "gan" is a form of a word that few readers know.
+TEST(ChineseSide, LeavesAbbreviationsOutThatReadAsFormsOfCommonWords) {
+  const auto takes = [](const char* translation, std::uint32_t form, std::uint32_t lemma) {
+    return takesTerm(
+        {entry("ate", translation, true, form, "0:eat/1:p"), entry("eat", "vt. 吃", true, lemma)},
+        u"ATE");
   };
-  EXPECT_EQ(pairs("it", 5'000, u"IT"), 1U);
-  EXPECT_EQ(pairs("it", 5'001, u"IT"), 2U);
-  EXPECT_EQ(pairs("ate", 0, u"ATE"), 1U);    // ranked under "eat"
-  EXPECT_EQ(pairs("IT", 5'000, u"IT"), 2U);  // an abbreviation to the source as well
-  EXPECT_EQ(pairs("it", 5'000, u"It"), 2U);
-  EXPECT_EQ(pairs("that", 5'000, u"IT"), 2U);
+  for (const char* translation : {"", "eat的过去式", "n. 女神", "v. 吃（eat的过去式）"}) {
+    EXPECT_FALSE(takes(translation, 0, 5'000)) << translation;
+    EXPECT_TRUE(takes(translation, 0, 5'001)) << translation;
+    EXPECT_TRUE(takes(translation, 5'001, 700)) << translation;
+  }
+  // A pronoun has no plural.
+  EXPECT_TRUE(takesTerm(
+      {entry("mes", "abbr. 互能支援", false, 0, "0:me/1:s"), entry("me", "pron. 我", true, 61)},
+      u"MES"));
 }
 
 TEST(ChineseSide, LeavesGlossesOutThatReadAsCommonWords) {
