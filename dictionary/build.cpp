@@ -17,6 +17,7 @@
 #include "dictionary/arrange/pair_collector.h"
 #include "dictionary/arrange/senses.h"
 #include "dictionary/arrange/tables.h"
+#include "dictionary/arrange/term_check.h"
 #include "dictionary/check/check.h"
 #include "dictionary/database/temporary_file.h"
 #include "dictionary/report.h"
@@ -34,7 +35,7 @@ constexpr std::size_t kProgressStep = 200'000;
 constexpr std::size_t kMebibyte = std::size_t{1} << 20U;
 
 /// The stages of one build in their order, and what each hands to the next: readSource(),
-/// arrangeContent(), publish().
+/// readFurtherSources(), arrangeContent(), publish().
 class Builder {
  public:
   explicit Builder(std::ostream& log) : log_(log), progress_(log) {}
@@ -172,12 +173,15 @@ void Builder::arrangeContent() {
   content_.vocabulary = std::move(pairs_).finish();
   refuseMisplacedTerms();
   content_.vocabulary = addChineseSide(std::move(content_.vocabulary), further_);
-  further_ = {};
+  further_.entries.clear();
+  further_.ranks.clear();
   content_.subjects = std::move(subjects_).finish();
   progress_.report(grouped(content_.vocabulary.pairs.size()) + " pairs sorted");
   const std::vector<bool> chosen = choosePairs(content_.vocabulary, LookupLimits());
   content_.general = arrange(content_.vocabulary, chosen);
   report_.addContent(content_, chosen);
+  report_.addTerms(further_.terms.size(),
+                   termsWithoutRow(further_.terms, content_.vocabulary, chosen).size());
   progress_.report(grouped(content_.general.edict.size()) + " pairs chosen");
 }
 

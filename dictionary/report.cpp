@@ -43,6 +43,20 @@ std::size_t distinctWords(const Rows& rows) {
   return distinct;
 }
 
+/// Number of English headwords that have a first equivalent, but no row.
+std::size_t missedWords(const Vocabulary& vocabulary, const std::vector<bool>& chosen) {
+  std::vector<bool> hasFirst(vocabulary.english.size());
+  std::vector<bool> hasRow(vocabulary.english.size());
+  for (std::size_t i = 0; i < chosen.size(); ++i) {
+    const Pair& pair = vocabulary.pairs[i];
+    if (pair.tier <= Tier::kFirstOfPhrase) hasFirst[pair.english] = true;
+    if (chosen[i]) hasRow[pair.english] = true;
+  }
+  std::size_t missed = 0;
+  for (std::size_t i = 0; i < hasRow.size(); ++i) missed += hasFirst[i] && !hasRow[i] ? 1 : 0;
+  return missed;
+}
+
 }  // namespace
 
 void LineRanges::add(std::size_t line) {
@@ -94,7 +108,13 @@ void BuildReport::addContent(const DatabaseContent& content, const std::vector<b
     ++gathered_[tier];
     if (chosen[i]) ++kept_[tier];
   }
+  missed_ = missedWords(content.vocabulary, chosen);
   for (std::size_t i = 0; i < kSubjectCount; ++i) subjectRows_[i] = content.subjects[i].size();
+}
+
+void BuildReport::addTerms(std::size_t terms, std::size_t withoutRow) {
+  terms_ = terms;
+  termsWithoutRow_ = withoutRow;
 }
 
 void BuildReport::printSource(std::ostream& out) const {
@@ -122,6 +142,8 @@ void BuildReport::printPairs(std::ostream& out) const {
   printCount(out, rows_,
              "pairs of " + grouped(englishKept_) + " English and " + grouped(chineseKept_) +
                  " Chinese headwords taken");
+  printCount(out, missed_, "English headwords left out that have a first equivalent");
+  printCount(out, termsWithoutRow_, "of " + grouped(terms_) + " terms of the own list left out");
   for (std::size_t i = 0; i < kTierCount; ++i) {
     printCount(out, gathered_[i] - kept_[i],
                "of " + grouped(gathered_[i]) + " left out: " + std::string(kTierNames[i]));

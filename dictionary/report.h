@@ -49,7 +49,12 @@ class BuildReport {
   void addEntry(const Entry& entry, std::size_t pairs);
   /// Counts the rows written, and the pairs kept and left out by tier. `chosen` has one flag for
   /// each pair of the vocabulary. To be called once.
+  /// English headwords without a row are counted where they have a first equivalent, so that they
+  /// are missed.
   void addContent(const DatabaseContent& content, const std::vector<bool>& chosen);
+
+  /// Counts the terms of our own list, and those of them that have no row. To be called once.
+  void addTerms(std::size_t terms, std::size_t withoutRow);
 
   /// Prints the counts in three parts: source, general dictionary, subject dictionaries.
   void print(std::ostream& out) const;
@@ -75,6 +80,9 @@ class BuildReport {
   std::size_t chinese_ = 0;
   std::size_t englishKept_ = 0;
   std::size_t chineseKept_ = 0;
+  std::size_t missed_ = 0;  ///< English headwords with a first equivalent, but without a row
+  std::size_t terms_ = 0;
+  std::size_t termsWithoutRow_ = 0;
   std::array<std::size_t, kTierCount> gathered_{};  ///< pairs by tier
   std::array<std::size_t, kTierCount> kept_{};      ///< pairs by tier
   std::array<std::size_t, kSubjectCount> subjectRows_{};

@@ -21,6 +21,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <unordered_set>
 #include <utility>
 
 #include "dictionary/arrange/block_cuts.h"
@@ -95,6 +96,18 @@ constexpr std::size_t kVeryShortList = 10;
 constexpr std::uint32_t kShortCost = 1;
 constexpr std::uint32_t kVeryShortCost = 4;
 
+/// Value of a pair where an apostrophe group has more pairs than a block: "one's" begins hundreds
+/// of words, of which most are glosses of Chinese words.
+enum class GroupValue : std::uint8_t { kImportant, kFirst, kGloss, kExplanation, kFurther };
+
+/// `first`: the pair is the best one of its English headword.
+GroupValue groupValue(const Pair& pair, bool first) {
+  if (pair.tier <= Tier::kImportant) return GroupValue::kImportant;
+  if (!first) return GroupValue::kFurther;
+  if (pair.position >= Pair::kFirstExplanation) return GroupValue::kExplanation;
+  return pair.position >= Pair::kFirstGloss ? GroupValue::kGloss : GroupValue::kFirst;
+}
+
 constexpr Tier kLastTier = static_cast<Tier>(kTierCount - 1);
 
 /// One call of choosePairs(). The vocabulary must outlive it.
@@ -112,7 +125,9 @@ class BlockPacker {
   std::vector<bool> run();
 
  private:
-  void excludeBeyond(const PairSequence& sequence, std::size_t limit);
+  void excludeBeyondReach();
+  void excludeBeyondBlock();
+  void sortByValue(std::vector<PairIndex>& group) const;
   std::vector<PairIndex> allButBest(std::vector<PairIndex> group, std::size_t limit) const;
   [[nodiscard]] Tier tierAtRow(std::size_t rows) const;
   [[nodiscard]] PrefixCounts countsOf(const PairSequence& sequence, Tier spare) const;
@@ -128,27 +143,52 @@ class BlockPacker {
   std::vector<bool> kept_;      ///< pairs that have one; the result in the end
 };
 
+/// The most valuable first.
+void BlockPacker::sortByValue(std::vector<PairIndex>& group) const {
+  std::ranges::sort(group, {}, [&](PairIndex index) {
+    return std::tuple(pairs_[index].tier, pairs_[index].position, index);
+  });
+}
+
 /// All but the `limit` most valuable pairs of a group.
 std::vector<PairIndex> BlockPacker::allButBest(std::vector<PairIndex> group,
                                                std::size_t limit) const {
   if (group.size() <= limit) return {};
-  std::ranges::sort(group, {}, [&](PairIndex index) {
-    return std::tuple(pairs_[index].tier, pairs_[index].position, index);
-  });
+  sortByValue(group);
   group.erase(group.begin(), group.begin() + static_cast<std::ptrdiff_t>(limit));
   return group;
 }
 
-/// Excludes what any unit has beyond its `limit` most valuable pairs.
-void BlockPacker::excludeBeyond(const PairSequence& sequence, std::size_t limit) {
-  for (std::size_t unit = 0; unit < sequence.unitCount(); ++unit) {
-    if (sequence.unit(unit).size() <= limit) continue;
+/// Excludes what a Chinese headword has beyond the rows that a search reaches.
+void BlockPacker::excludeBeyondReach() {
+  for (std::size_t unit = 0; unit < chinese_.unitCount(); ++unit) {
+    const auto& pairs = chinese_.unit(unit);
+    const std::vector<PairIndex> beyond =
+        allButBest({pairs.begin(), pairs.end()}, limits_.maxChineseRows);
+    for (const PairIndex index : beyond) excluded_[index] = true;
+  }
+}
+
+/// Excludes what an English unit has beyond the rows of a block. Pairs excluded before do not
+/// count.
+void BlockPacker::excludeBeyondBlock() {
+  for (std::size_t unit = 0; unit < english_.unitCount(); ++unit) {
     std::vector<PairIndex> group;
-    for (const PairIndex index : sequence.unit(unit)) {
+    for (const PairIndex index : english_.unit(unit)) {
       if (!excluded_[index]) group.push_back(index);
     }
-    const std::vector<PairIndex> beyond = allButBest(std::move(group), limit);
-    for (const PairIndex index : beyond) excluded_[index] = true;
+    if (group.size() <= limits_.blockRows) continue;
+    sortByValue(group);
+    std::unordered_set<std::uint32_t> served;
+    std::vector<std::pair<GroupValue, PairIndex>> valued;
+    for (const PairIndex index : group) {
+      const bool first = served.insert(pairs_[index].english).second;
+      valued.emplace_back(groupValue(pairs_[index], first), index);
+    }
+    std::ranges::stable_sort(valued, {}, [](const auto& one) { return one.first; });
+    for (std::size_t i = limits_.blockRows; i < valued.size(); ++i) {
+      excluded_[valued[i].second] = true;
+    }
   }
 }
 
@@ -229,8 +269,8 @@ BlockPlan BlockPacker::planOf(const PairSequence& sequence, const std::vector<Bl
 
 std::vector<bool> BlockPacker::run() {
   // Chinese first: what is excluded there no longer counts for an English headword.
-  excludeBeyond(chinese_, limits_.maxChineseRows);
-  excludeBeyond(english_, limits_.blockRows);
+  excludeBeyondReach();
+  excludeBeyondBlock();
   const std::size_t blocks = std::min(maxBlocks(countsOf(english_, kLastTier), limits_.blockRows),
                                       limits_.maxRows / limits_.blockRows);
   if (blocks == 0) {

@@ -25,7 +25,10 @@ struct LookupLimits {
 /// - no English headword, and no group of English headwords that are equal up to and including
 ///   their first apostrophe, crosses from one block into the next;
 /// - no Chinese headword has more rows than a search reaches.
-/// Of the pairs that do not fit, the least valuable are left out (see Tier). Chinese headwords may
+/// Of the pairs that do not fit, the least valuable are left out (see Tier). Of a group that is
+/// larger than a block, the pairs of important words stay, then the first pair of every other word,
+/// those that only Chinese entries give last: its words are close by their spelling only.
+/// Chinese headwords may
 /// cross a block, which is avoided where it costs no valuable pair. English blocks are cut where
 /// few frequent headwords stand shortly before the cut, since a list ends with its block.
 ///

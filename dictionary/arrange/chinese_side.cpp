@@ -8,7 +8,6 @@
 #include <string>
 #include <tuple>
 #include <unordered_map>
-#include <unordered_set>
 #include <utility>
 
 #include "dictionary/arrange/senses.h"
@@ -26,8 +25,6 @@ constexpr std::size_t kMaxOfCommonWord = 8;
 constexpr std::uint32_t kCommonCharacterRank = 3'000;
 /// Up to this rank by frequency a Chinese word is common.
 constexpr std::uint32_t kCommonChineseRank = 20'000;
-/// After all equivalents of the English source.
-constexpr std::size_t kFirstGlossPosition = 100;
 
 /// Words with their indexes. Those that the list has at first must be sorted; further ones are
 /// added at its end.
@@ -192,7 +189,7 @@ bool Merger::isCommonWordToo(const std::u16string& text) const {
 void Merger::addTerms(const std::vector<Term>& terms) {
   for (const Term& term : terms) {
     if (isCommonWordToo(term.english)) continue;
-    addPair(term.english, term.chinese, Tier::kImportantFirst, kFirstGlossPosition);
+    addPair(term.english, term.chinese, Tier::kImportantFirst, Pair::kFirstGloss);
   }
 }
 
@@ -217,7 +214,7 @@ void Merger::addEntry(const ChineseEntry& entry, bool common) {
   for (const Gloss& gloss : entry.glosses) {
     if (!isEquivalent(gloss) || !takePlace(gloss, entry, common)) continue;
     const bool worthFirst = taken == 0 || isAbbreviation(gloss.english);
-    addPair(gloss.english, entry.word, worthFirst ? first : further, kFirstGlossPosition + taken);
+    addPair(gloss.english, entry.word, worthFirst ? first : further, Pair::kFirstGloss + taken);
     if (++taken == kMaxGlosses) return;
   }
   if (taken > 0 || known) return;
@@ -225,7 +222,8 @@ void Merger::addEntry(const ChineseEntry& entry, bool common) {
     return common ? !isCommonWordToo(gloss.english) : takePlace(gloss, entry, false);
   });
   if (other != entry.glosses.end()) {
-    addPair(other->english, entry.word, first, kFirstGlossPosition);
+    addPair(other->english, entry.word, first,
+            isEquivalent(*other) ? Pair::kFirstGloss : Pair::kFirstExplanation);
   }
 }
 
@@ -298,30 +296,6 @@ Vocabulary addChineseSide(Vocabulary vocabulary, const ChineseSources& sources) 
   merger.takeSmallLetters();
   sortVocabulary(vocabulary);
   return vocabulary;
-}
-
-std::vector<Term> misplacedTerms(const Vocabulary& vocabulary, const ChineseSources& sources) {
-  const auto key = [](const std::u16string& english, const std::u16string& chinese) {
-    return text::toLower(english) + u'\n' + chinese;
-  };
-  std::unordered_set<std::u16string> wanted;
-  for (const Term& term : sources.terms) wanted.insert(key(term.english, term.chinese));
-  std::unordered_set<std::u16string> given;
-  const auto record = [&](const std::u16string& english, const std::u16string& chinese) {
-    std::u16string pair = key(english, chinese);
-    if (wanted.contains(pair)) given.insert(std::move(pair));
-  };
-  for (const Pair& pair : vocabulary.pairs) {
-    record(vocabulary.english[pair.english], vocabulary.chinese[pair.chinese]);
-  }
-  for (const ChineseEntry& entry : sources.entries) {
-    for (const Gloss& gloss : entry.glosses) record(gloss.english, entry.word);
-  }
-  std::vector<Term> misplaced;
-  std::ranges::copy_if(sources.terms, std::back_inserter(misplaced), [&](const Term& term) {
-    return term.given != given.contains(key(term.english, term.chinese));
-  });
-  return misplaced;
 }
 
 }  // namespace dictionary

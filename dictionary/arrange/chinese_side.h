@@ -14,8 +14,8 @@ namespace dictionary {
 /// The sources besides the English one. Any of them may be empty.
 struct ChineseSources {
   std::vector<ChineseEntry> entries;
-  /// Current terms, each of which has a row, but for an abbreviation that is spelled as a common
-  /// word ("IT").
+  /// Current terms, each of which is worth a row (Tier), but for an abbreviation that is spelled as
+  /// a common word ("IT").
   std::vector<Term> terms;
   WordRanks ranks;
 };
@@ -30,9 +30,5 @@ struct ChineseSources {
 /// - A common Chinese word has a row in any case.
 /// - No abbreviation that is spelled as a common word is added ("IT").
 Vocabulary addChineseSide(Vocabulary vocabulary, const ChineseSources& sources);
-
-/// Returns the terms that stand in the wrong folder: those that the vocabulary or an entry gives
-/// word for word although Term::given is false, and those that none gives although it is true.
-std::vector<Term> misplacedTerms(const Vocabulary& vocabulary, const ChineseSources& sources);
 
 }  // namespace dictionary

@@ -69,6 +69,10 @@ struct Pair {
 
   /// The greatest position that fits; equivalents from there on are of equal value.
   static constexpr std::size_t kMaxPosition = 255;
+  /// The first positions of what only a Chinese entry gives: of its equivalents, and of texts that
+  /// explain it, which nobody looks up. Hardly any headword has as many equivalents of its own.
+  static constexpr std::size_t kFirstGloss = 100;
+  static constexpr std::size_t kFirstExplanation = 200;
 };
 
 /// All pairs that could be rows of the general dictionary.

@@ -68,17 +68,18 @@ TEST(BuildReport, CountsTheSource) {
             "          0  equivalents left out: explains a name\n");
 }
 
-/// Six pairs of three English and five Chinese headwords, of which the first four are chosen.
+/// Seven pairs of four English and five Chinese headwords, of which the first four are chosen.
 dictionary::DatabaseContent content() {
   dictionary::DatabaseContent content;
-  content.vocabulary.english = {u"a", u"b", u"c"};
+  content.vocabulary.english = {u"a", u"b", u"c", u"d"};
   content.vocabulary.chinese = {u"丙", u"丁", u"甲", u"乙", u"做"};
   content.vocabulary.pairs = {{0, 0, Tier::kImportantFirst, 0},
                               {0, 1, Tier::kImportant, 1},
                               {0, 2, Tier::kWeb, 2},
                               {1, 0, Tier::kWeb, 0},
                               {2, 1, Tier::kWeb, 1},
-                              {2, 3, Tier::kFirst, 0}};
+                              {2, 3, Tier::kFirst, 0},
+                              {3, 3, Tier::kOnly, 0}};
   content.general.edict = {{0, 1}, {0, 3}, {0, 4}, {1, 2}};
   content.general.cdict = {{0, 1}, {0, 4}, {1, 2}, {2, 3}};
   content.subjects[0] = {{u"a", u"甲"}, {u"b", u"乙"}};
@@ -86,16 +87,19 @@ dictionary::DatabaseContent content() {
   return content;
 }
 
-const std::vector<bool> kChosen = {true, true, true, true, false, false};
+const std::vector<bool> kChosen = {true, true, true, true, false, false, false};
 
 TEST(BuildReport, CountsThePairsBeforeAndAfterTheChoice) {
   BuildReport report;
   report.addContent(content(), kChosen);
+  report.addTerms(1'200, 3);
   EXPECT_EQ(
       part(report, "General dictionary:"),
       "General dictionary:\n"
-      "          6  pairs of 3 English and 5 Chinese headwords gathered\n"
+      "          7  pairs of 4 English and 5 Chinese headwords gathered\n"
       "          4  pairs of 2 English and 3 Chinese headwords taken\n"
+      "          1  English headwords left out that have a first equivalent\n"
+      "          3  of 1,200 terms of the own list left out\n"
       "          0  of 1 left out: important words, first equivalent\n"
       "          0  of 1 left out: important words, further equivalents\n"
       "          1  of 1 left out: other words, first equivalent\n"
@@ -105,7 +109,7 @@ TEST(BuildReport, CountsThePairsBeforeAndAfterTheChoice) {
       "          0  of 0 left out: other words, further equivalents of subjects\n"
       "          0  of 0 left out: other words, further equivalents\n"
       "          0  of 0 left out: forms of other words, further equivalents\n"
-      "          0  of 0 left out: first equivalent of words that have only names or web "
+      "          1  of 1 left out: first equivalent of words that have only names or web "
       "equivalents\n"
       "          0  of 0 left out: first web equivalent of other words\n"
       "          0  of 0 left out: further names\n"

@@ -316,6 +316,54 @@ TEST(ChoosePairs, PartsWordsThatAreEqualUpToAnApostropheOnly) {
   EXPECT_EQ(keptCount(choosePairs(vocabulary, LookupLimits())), 200U);
 }
 
+/// The kept pairs of the words in an apostrophe group, each as "word/position". The group has 120
+/// pairs; the other ones are those of further words, at `position` each.
+std::vector<std::u16string> keptOfGroup(std::vector<Word> words, std::size_t position) {
+  std::size_t pairs = 0;
+  for (const Word& word : words) pairs += word.pairs;
+  for (std::size_t i = pairs; i < 120; ++i) words.push_back({numbered(u"one's z", i), 1});
+  for (const Word& word : singles(150, u"p")) words.push_back({word.text, 1, Tier::kOrdinary});
+  Vocabulary vocabulary = vocabularyOf(words);
+  for (Pair& pair : vocabulary.pairs) {
+    if (!vocabulary.english[pair.english].starts_with(u"one's z")) continue;
+    pair.position = static_cast<std::uint8_t>(position);
+  }
+  const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
+  expectWholeBlocks(vocabulary, kept);
+  std::vector<std::u16string> texts;
+  for (std::size_t i = 0; i < kept.size(); ++i) {
+    const Pair& pair = vocabulary.pairs[i];
+    const std::u16string& word = vocabulary.english[pair.english];
+    if (!kept[i] || !word.starts_with(u"one's") || word.starts_with(u"one's z")) continue;
+    texts.push_back(word + u'/' + static_cast<char16_t>(u'0' + pair.position));
+  }
+  return texts;
+}
+
+// "one's cup of tea" stood behind "one's actions are in keeping with what one says".
+TEST(ChoosePairs, KeepsTheFirstPairOfEveryWordOfAnApostropheGroup) {
+  using Texts = std::vector<std::u16string>;
+  EXPECT_EQ(keptOfGroup({{u"one's age", 21}}, 50), Texts{u"one's age/0"});
+  EXPECT_EQ(keptOfGroup({{u"one's age", 21, Tier::kImportant}}, 0).size(), 21U);
+  const std::vector<Word> phrases = {{u"one's cup of tea", 1, Tier::kFirstOfPhrase}};
+  EXPECT_EQ(keptOfGroup(phrases, Pair::kFirstGloss - 1), Texts());
+  EXPECT_EQ(keptOfGroup(phrases, Pair::kFirstGloss), Texts{u"one's cup of tea/0"});
+}
+
+TEST(ChoosePairs, LeavesOutExplanationsOfAnApostropheGroupFirst) {
+  Vocabulary vocabulary = vocabularyOf(singles(120, u"one's "));
+  for (std::size_t i = 0; i < 120; ++i) {
+    Pair& pair = vocabulary.pairs[i];
+    const std::size_t position = i < 20 ? Pair::kFirstExplanation : Pair::kFirstGloss;
+    pair.position = static_cast<std::uint8_t>(position);
+    if (i >= 20) pair.tier = Tier::kFirstOfPhrase;
+    if (i == 0) pair.tier = Tier::kImportantFirst;
+  }
+  const std::vector<bool> kept = choosePairs(vocabulary, LookupLimits());
+  EXPECT_TRUE(kept[0]) << "of an important word";
+  EXPECT_EQ(std::count(kept.begin() + 1, kept.begin() + 20, true), 0);
+}
+
 // A list ends with the block of its first headword, so that a cut is best just before a frequent
 // word.
 TEST(ChoosePairs, CutsWhereFewListsOfFrequentWordsAreShort) {

@@ -77,6 +77,23 @@ TEST(ChineseSide, TakesAnExplanationOnlyForAWordThatHasNothingElse) {
             std::vector<std::u16string>{u"overdo=画蛇添足"});
 }
 
+TEST(ChineseSide, PutsGlossesBehindWhatTheVocabularyGives) {
+  const ChineseEntry idiom{
+      u"画蛇添足", {{u"ruin by adding what is not needed", 7, 0, GlossValue::kExplanation}}};
+  const Vocabulary vocabulary =
+      addChineseSide(collect({entry("rail", "n. 轨道")}),
+                     {{chinese(u"铁路", {u"railway", u"rail"}), idiom}, {}, {}});
+  EXPECT_EQ(pair_collector_test::pairOf(vocabulary, u"rail", u"轨道").position, 0U);
+  EXPECT_EQ(pair_collector_test::pairOf(vocabulary, u"railway", u"铁路").position, 100U);
+  EXPECT_EQ(pair_collector_test::pairOf(vocabulary, u"rail", u"铁路").position, 101U);
+  EXPECT_EQ(pair_collector_test::tierOf(vocabulary, u"画蛇添足"), Tier::kFirst);
+  for (const auto& pair : vocabulary.pairs) {
+    if (vocabulary.chinese[pair.chinese] == u"画蛇添足") {
+      EXPECT_EQ(pair.position, 200U);
+    }
+  }
+}
+
 TEST(ChineseSide, RatesPairsOfCommonWordsAsImportant) {
   const Vocabulary vocabulary = addChineseSide(
       collect({entry("rail", "n. 轨道, 铁路")}),
@@ -179,8 +196,10 @@ TEST(ChineseSide, LeavesAbbreviationsOutThatReadAsCommonWords) {
 TEST(ChineseSide, TakesAbbreviationsThatTheSourceHasNoWordFor) {
   EXPECT_TRUE(takesTerm({entry("plc", "公共有限公司", true, 2'000)}, u"PLC"));
   EXPECT_TRUE(takesTerm({entry("plc", "n. [计] 可编程逻辑控制器", true, 2'000)}, u"PLC"));
-  EXPECT_FALSE(takesTerm(
-      {entry("plc", "公共有限公司", true, 2'000), entry("Plc", "n. 它", true, 9)}, u"PLC"));
+  const auto abbreviation = entry("plc", "公共有限公司", true, 2'000);
+  const auto word = entry("Plc", "n. 它", true, 9);
+  EXPECT_FALSE(takesTerm({abbreviation, word}, u"PLC"));
+  EXPECT_FALSE(takesTerm({word, abbreviation}, u"PLC"));
 }
 
 // "ate" has no rank; "gan" is a form of a word that few readers know.
@@ -291,26 +310,6 @@ TEST(ChineseSide, GivesACommonChineseWordNoAbbreviationThatReadsAsAnother) {
   const auto pairs = texts(addChineseSide(collect({entry("it", "pron. 它", true, 9)}),
                                           {{{u"信息", glosses}}, {}, {{u"信息", 20'000}}}));
   EXPECT_EQ(pairs, (std::vector<std::u16string>{u"it=它", u"knowledge in computers=信息"}));
-}
-
-TEST(MisplacedTerms, AreThoseThatASourceGivesAndGivenOnesThatNoneGives) {
-  const Vocabulary vocabulary = collect({entry("Cloud", "n. 云")});
-  const auto law = Subject::kLaw;
-  const ChineseSources sources{{chinese(u"云计算", {u"cloud computing"})},
-                               {{u"cloud", u"云", law},
-                                {u"cloud", u"云端", law},
-                                {u"cloud computing", u"云计算", law},
-                                {u"cloud computing", u"云", law},
-                                {u"Cloud", u"云", law, true},
-                                {u"clouds", u"云", law, true},
-                                {u"cloud computing", u"云计算", law, true}},
-                               {}};
-  std::vector<std::u16string> misplaced;
-  for (const dictionary::Term& term : dictionary::misplacedTerms(vocabulary, sources)) {
-    misplaced.push_back(term.english + u"=" + term.chinese);
-  }
-  EXPECT_EQ(misplaced,
-            (std::vector<std::u16string>{u"cloud=云", u"cloud computing=云计算", u"clouds=云"}));
 }
 
 }  // namespace
