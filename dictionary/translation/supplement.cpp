@@ -83,9 +83,9 @@ constexpr auto kSupplements = std::to_array<Supplement>({
 });
 
 /// Contractions that the source expands, describes or has as something else, and words of which it
-/// translates an example, a person or the other word of a term, divides a note, or has a common
-/// meaning far back, where it is lost among those of a common word; in the order of their code
-/// units.
+/// translates an example, a person or the other word of a term, divides a note, runs two names into
+/// one, names another unit, or has a common meaning far back, where it is lost among those of a
+/// common word; in the order of their code units.
 constexpr auto kCorrected = std::to_array<Supplement>({
     {u"brownian", u"a. 布朗的"},
     {u"doesn't", u"不"},
@@ -96,12 +96,15 @@ constexpr auto kCorrected = std::to_array<Supplement>({
     {u"largemouth", u"n. 大口黑鲈"},
     {u"lifelessness", u"n. 无生命, 枯燥无味"},
     {u"melba", u"n. 梅尔巴（女子名）"},
+    {u"metformin", u"n. 二甲双胍, 甲福明"},
     {u"mustn't", u"不准, 不得, 不可"},
     {u"needn't", u"不必, 不需要"},
     {u"ordinator", u"n. 任命者\\n[医] 苯噁唑酮[中枢兴奋药]"},
     {u"pickwick", u"n. 匹克威克（小说主角）"},
     {u"powerpc", u"n. PowerPC微处理器"},
-    {u"rest", u"n. 休息, 其余者, 剩余部分, 睡眠, 静止\\nvi. 休息, 停止, 依赖\\nvt. 使休息"},
+    {u"rest",
+     u"n. 休息, 其余者, 剩余部分, 睡眠, 静止, 稍息\\nvi. 休息, 停止, 依赖, 长眠\\nvt. 使休息"},
+    {u"terahertz", u"[电] 太赫兹"},
     {u"that's", u"那是, 那就是"},
     {u"they'd", u"他们会, 他们已经"},
     {u"they've", u"他们已经, 他们有"},

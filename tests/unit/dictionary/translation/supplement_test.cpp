@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -116,6 +117,17 @@ TEST(Corrections, TakeThePlaceOfADescription) {
   EXPECT_EQ(senses("unpredictably", "adv. 无法预言地）；不可预见地（不能预料地"),
             (Words{u"无法预料地", u"不可预见地"}));
   EXPECT_EQ(senses("zon", "n. [暗黑破坏神]见\"ama\""), (Words{u"亚马逊"}));
+}
+
+// 兆赫 is the megahertz; 甲福明 and 二甲双胍 are two names of one drug.
+TEST(Corrections, TakeThePlaceOfAWrongEquivalent) {
+  EXPECT_EQ(senses("terahertz", "[电] 兆赫"), (Words{u"太赫兹"}));
+  EXPECT_EQ(senses("metformin", "甲福明二甲双胍(抗糖尿病药、降血糖药)"),
+            (Words{u"二甲双胍", u"甲福明"}));
+  const Words rest = senses("rest", "n. 休息");
+  for (const std::u16string_view word : {u"休息", u"稍息", u"长眠", u"使休息"}) {
+    EXPECT_EQ(std::ranges::count(rest, word), 1);
+  }
 }
 
 TEST(Corrections, AddAGivenNameToOtherMeanings) {
