@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <stdexcept>
 
 namespace dictionary {
 namespace {
@@ -25,7 +26,7 @@ constexpr std::size_t kReach = 40;
 /// whose fractions shares are computed. The loss grows with the square of that deviation.
 constexpr std::int64_t kUnit = 1024;
 /// Losses of a wanted pair left out, a reserve pair kept, two blocks joined: as bad as a deviation
-/// by seven, three and twenty spare pairs.
+/// by fourteen, three and twenty spare pairs.
 constexpr std::uint64_t kWantedLoss = 200 * kUnit;
 constexpr std::uint64_t kReserveLoss = 10 * kUnit;
 constexpr std::uint64_t kJoinLoss = 400 * kUnit;
@@ -53,8 +54,8 @@ class CutSearch {
     needed_ = std::min(rows > all.wanted ? rows - all.wanted : 0, spare_);
   }
 
-  /// The cuts of least loss, each at most `reach` rows from its natural place; empty if there are
-  /// none.
+  /// The cuts of least loss, each at most `reach` rows from its natural place or at the first unit
+  /// boundary beyond on either side; empty if there are none.
   std::vector<BlockCut> run(std::size_t reach);
 
  private:
@@ -192,11 +193,14 @@ std::size_t maxBlocks(const PrefixCounts& counts, std::size_t blockRows) {
 
 std::vector<BlockCut> chooseCuts(const PrefixCounts& counts, std::size_t blocks,
                                  std::size_t blockRows, const CutCosts& costs) {
-  // Ends: with a reach of the whole sequence every division is a candidate, and there is one.
+  if (blocks == 0) throw std::invalid_argument("no block to be cut");
   CutSearch search(counts, costs, blocks, blockRows, 1);
-  std::vector<BlockCut> cuts;
-  for (std::size_t reach = kReach; cuts.empty(); reach *= 4) cuts = search.run(reach);
-  return cuts;
+  for (std::size_t reach = kReach;; reach *= 4) {
+    std::vector<BlockCut> cuts = search.run(reach);
+    if (!cuts.empty()) return cuts;
+    // Every division was a candidate.
+    if (reach >= total(counts.back())) throw std::invalid_argument("too many blocks to be cut");
+  }
 }
 
 std::vector<BlockCut> chooseCutsJoining(const PrefixCounts& counts, std::size_t blocks,

@@ -36,9 +36,8 @@ std::size_t maxBlocks(const PrefixCounts& counts, std::size_t blockRows);
 
 /// Divides the sequence into `blocks` blocks of whole units with `blockRows` rows each, so that
 /// every block gives up few wanted pairs and uses about the same share of its spare ones, and so
-/// that the cuts cost little. `blocks`
-/// must be from 1 to maxBlocks(); otherwise the function does not return. Returns the cuts before,
-/// between and after the blocks.
+/// that the cuts cost little. Returns the cuts before, between and after the blocks. Throws
+/// std::invalid_argument unless `blocks` is from 1 to maxBlocks().
 std::vector<BlockCut> chooseCuts(const PrefixCounts& counts, std::size_t blocks,
                                  std::size_t blockRows, const CutCosts& costs = {});
 

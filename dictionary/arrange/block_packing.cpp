@@ -18,6 +18,7 @@
 #include <cstdint>
 #include <numeric>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -108,7 +109,11 @@ GroupValue groupValue(const Pair& pair, bool first) {
   return pair.position >= Pair::kFirstGloss ? GroupValue::kGloss : GroupValue::kFirst;
 }
 
+constexpr Tier kBestTier = static_cast<Tier>(0);
 constexpr Tier kLastTier = static_cast<Tier>(kTierCount - 1);
+
+/// The next more valuable tier; there must be one.
+constexpr Tier before(Tier tier) { return static_cast<Tier>(static_cast<std::size_t>(tier) - 1); }
 
 /// One call of choosePairs(). The vocabulary must outlive it.
 class BlockPacker {
@@ -223,7 +228,7 @@ PrefixCounts BlockPacker::countsOf(const PairSequence& sequence, Tier spare) con
 }
 
 /// What a cut costs: a list ends with the block of its first headword, so that a cut shortens the
-/// lists of the headwords before it.
+/// lists of the headwords before it. The headwords of an apostrophe group count as one.
 CutCosts BlockPacker::englishCutCosts(Tier spare) const {
   CutCosts costs = {0};
   std::vector<bool> listed;  ///< whether the headword is frequent, for those with rows so far
@@ -268,6 +273,9 @@ BlockPlan BlockPacker::planOf(const PairSequence& sequence, const std::vector<Bl
 }
 
 std::vector<bool> BlockPacker::run() {
+  if (limits_.blockRows == 0 || limits_.maxRows < limits_.blockRows) {
+    throw std::invalid_argument("the tables have no room for one block");
+  }
   // Chinese first: what is excluded there no longer counts for an English headword.
   excludeBeyondReach();
   excludeBeyondBlock();
@@ -290,8 +298,9 @@ std::vector<bool> BlockPacker::run() {
   // Only the spare tier at first, so that no wanted pair is given up and no reserve pair taken
   // where that suffices. Then all tiers from the spare one on may be added or removed, then all
   // from the next more valuable one on, and so forth.
-  for (auto first = static_cast<std::uint8_t>(spare) + 1; first-- > 0 && !flow.done();) {
-    flow.run(static_cast<Tier>(first), kLastTier, excluded_);
+  for (Tier first = spare; !flow.done(); first = before(first)) {
+    flow.run(first, kLastTier, excluded_);
+    if (first == kBestTier) break;
   }
   flow.fillEnglish(excluded_);
   return kept_;

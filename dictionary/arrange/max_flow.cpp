@@ -81,7 +81,9 @@ bool MaxFlow::buildLevelGraph() {
 }
 
 /// Depth-first search for one augmenting path from `node` to a sink in the level graph. Flips the
-/// pairs on the path and takes one from the sink's deficit; returns whether there was a path.
+/// pairs on the path and takes one from the sink's deficit; returns whether there was a path. Calls
+/// itself once for each step: a shortest path visits no block twice, so that the depth is at most
+/// the number of blocks of both languages.
 bool MaxFlow::augment(std::uint32_t node) {
   const bool english = isEnglish(node);
   if (!english && deficit_[node] > 0) {

@@ -33,40 +33,51 @@ PairList::Headword headwordOf(const Entry& entry) {
 
 }  // namespace
 
-/// Notes that the entry, whose own pairs are added, is a form. Its translation may give the form's
-/// meaning: "离弃( abandon的第三人称单数 ); 放弃". Returns the number of pairs added.
-std::size_t PairCollector::addForm(const Entry& entry, const std::vector<Sense>& senses) {
-  const auto noting = std::ranges::find_if(
-      entry.lines, [](const TranslationLine& line) { return !line.inflection.empty(); });
-  const bool inNote = noting != entry.lines.end();
-  const auto named = std::ranges::find_if(senses, &Sense::reference);
+/// What the entry says of the word whose form it is, if it is one; without the places of its pairs,
+/// and with an empty lemma if it names none. Its translation may give the form's meaning:
+/// "离弃( abandon的第三人称单数 ); 放弃".
+PairCollector::FormEntry PairCollector::formOf(const Entry& entry,
+                                               const std::vector<Sense>& senses) {
   FormEntry form{.english = 0, .inflection = {}, .noted = true, .alone = true, .next = 0};
   form.alone = std::ranges::all_of(senses, &Sense::reference);
-  std::u16string note;
+  const auto named = std::ranges::find_if(senses, &Sense::reference);
+  const auto noting = std::ranges::find_if(
+      entry.lines, [](const TranslationLine& line) { return !line.inflection.empty(); });
   if (named != senses.end()) {
     form.inflection = *inflectionIn(*named->word);
-  } else if (inNote) {
+  } else if (noting != entry.lines.end()) {
     form.given = !senses.empty();
     form.inflection = inflectionIn(noting->inflection).value_or(Inflection());
-    if (senses.empty()) note = noting->inflection;
+    form.note = noting->inflection;
   } else if (entry.inflection) {
     form.noted = false;
     form.inflection = *entry.inflection;
-    if (senses.empty()) note = inflectionText(form.inflection);
+    form.note = inflectionText(form.inflection);
   }
-  if (senses.empty() && note.empty()) return 0;
-  if (senses.empty()) {
-    list_.addPair(list_.addHeadword(headwordOf(entry)), note,
-                  entry.important ? Tier::kImportantFirst : Tier::kFirst, 0);
-  }
-  form.english = static_cast<std::uint32_t>(list_.headwords().size() - 1);
-  form.next = std::max<std::size_t>(senses.size(), 1);
-  form.firstPair = list_.size() - form.next;
-  if (!form.inflection.lemma.empty()) forms_.push_back(std::move(form));
-  return senses.empty() ? 1 : 0;
+  return form;
 }
 
-/// Two words may have the same form: the one that the source lists first counts.
+/// Records that the headword added last is a form; `pairs` pairs of its own are added.
+void PairCollector::recordForm(FormEntry form, std::size_t pairs) {
+  if (form.inflection.lemma.empty()) return;
+  form.english = static_cast<std::uint32_t>(list_.headwords().size() - 1);
+  form.next = pairs;
+  form.firstPair = list_.size() - pairs;
+  forms_.push_back(std::move(form));
+}
+
+/// Adds an entry without equivalents, which may be a form. Returns the number of pairs added.
+std::size_t PairCollector::addBareForm(const Entry& entry) {
+  FormEntry form = formOf(entry, {});
+  if (form.note.empty()) return 0;
+  list_.addPair(list_.addHeadword(headwordOf(entry)), form.note,
+                entry.important ? Tier::kImportantFirst : Tier::kFirst, 0);
+  recordForm(std::move(form), 1);
+  return 1;
+}
+
+/// Two words may have the same form: the one that is added first counts. A form is none of a word
+/// that is a form itself.
 void PairCollector::recordForms(const Entry& entry) {
   if (entry.inflection) return;
   for (const WordForm& form : entry.forms) {
@@ -101,7 +112,7 @@ std::size_t PairCollector::add(const Entry& entry) {
     references_.push_back(std::move(reference));
     if (senses.empty()) return 0;
   }
-  if (senses.empty()) return addForm(entry, senses);
+  if (senses.empty()) return addBareForm(entry);
   const std::uint32_t english = list_.addHeadword(headwordOf(entry));
   const bool form = entry.inflection || std::ranges::any_of(senses, &Sense::reference) ||
                     std::ranges::any_of(entry.lines, [](const TranslationLine& line) {
@@ -114,7 +125,7 @@ std::size_t PairCollector::add(const Entry& entry) {
     list_.addPair(english, *senses[i].word, tierOf(entry, form, senses[i], only, nth), i,
                   senses[i].parts);
   }
-  addForm(entry, senses);
+  recordForm(formOf(entry, senses), senses.size());
   return senses.size();
 }
 

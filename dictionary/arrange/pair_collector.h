@@ -18,8 +18,8 @@ namespace dictionary {
 class PairCollector {
  public:
   /// Adds the entry's pairs and returns their number. Copies the texts. An entry that has no
-  /// ordinary equivalent but refers to another headword gets the first four of that one's pairs in
-  /// finish(). An entry that is a form of another word gets that one's first equivalents there,
+  /// ordinary equivalent but refers to other headwords gets the first four pairs of each of these
+  /// in finish(). An entry that is a form of another word gets that one's first equivalents there,
   /// unless its own translation gives them, which then are as important as that word, or is what
   /// readers most often mean by it.
   std::size_t add(const Entry& entry);
@@ -40,6 +40,7 @@ class PairCollector {
   struct FormEntry {
     std::uint32_t english = 0;  ///< index of the headword; its pairs are added
     Inflection inflection;
+    std::u16string note = {};   ///< "take的过去分词"; empty if an equivalent names the form
     bool noted = false;         ///< whether the translation names the form
     bool alone = false;         ///< whether it gives nothing else
     bool given = false;         ///< whether it gives the form's own meaning
@@ -64,7 +65,9 @@ class PairCollector {
 
   void recordForms(const Entry& entry);
   void addMissingForms();
-  std::size_t addForm(const Entry& entry, const std::vector<Sense>& senses);
+  [[nodiscard]] static FormEntry formOf(const Entry& entry, const std::vector<Sense>& senses);
+  void recordForm(FormEntry form, std::size_t pairs);
+  std::size_t addBareForm(const Entry& entry);
   void collectMeanings(ReferredWords& words) const;
   void followReferences();
   void followForms();

@@ -43,7 +43,9 @@ namespace dictionary {
 ///    sign of importance, then those of any word beside its ordinary equivalents, and all further
 ///    ones. There is room for few of these.
 enum class Tier : std::uint8_t {
-  kImportantFirst,  ///< first pair of an important word, of whatever kind it has, or a term
+  /// First pair of an important word, of whatever kind it has, or of a form of one; first pair, or
+  /// the most valuable one, of a common Chinese word; a term of our own list.
+  kImportantFirst,
   kImportant,       ///< further equivalent of an important word, of the same kind, or a name
   kFirst,           ///< first ordinary equivalent of another word; first pair of a Chinese word
   kFirstOfPhrase,   ///< first ordinary equivalent of several words

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <stdexcept>
 #include <vector>
 
 namespace {
@@ -82,6 +83,13 @@ TEST(ChooseCuts, FindsTheOnlyDivisionHoweverFarItLies) {
   sizes.insert(sizes.end(), {100, 100, 100});
   EXPECT_EQ(unitsOf(chooseCuts(wanted(sizes), 4, 10)),
             (std::vector<std::size_t>{0, 10, 11, 12, 13}));
+}
+
+TEST(ChooseCuts, RefusesMoreBlocksThanThereAre) {
+  const PrefixCounts counts = wanted(std::vector<std::size_t>(400, 1));
+  EXPECT_EQ(chooseCuts(counts, 40, 10).size(), 41U);
+  EXPECT_THROW(chooseCuts(counts, 41, 10), std::invalid_argument);
+  EXPECT_THROW(chooseCuts(counts, 0, 10), std::invalid_argument);
 }
 
 TEST(ChooseCutsJoining, JoinsBlocksThatALargeUnitCrosses) {
