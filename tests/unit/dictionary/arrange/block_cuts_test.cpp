@@ -115,6 +115,13 @@ TEST(ChooseCuts, PrefersADeviationToLosingAWantedPair) {
             (std::vector<std::size_t>{0, 1, 4}));
 }
 
+// A cut before the third unit gives up seven wanted pairs, one after it three, but deviates more.
+TEST(ChooseCuts, WeighsAWantedPairAsADeviationByFourteen) {
+  EXPECT_EQ(
+      unitsOf(chooseCuts(countsOf({{30, 39, 0}, {0, 23, 0}, {33, 40, 0}, {34, 31, 0}}), 2, 60)),
+      (std::vector<std::size_t>{0, 3, 4}));
+}
+
 // The cut with less deviation takes a reserve pair more.
 TEST(ChooseCuts, PrefersADeviationToAReservePair) {
   EXPECT_EQ(unitsOf(chooseCuts(countsOf({{0, 6, 4}, {0, 6, 1}, {5, 0, 3}, {5, 4, 4}}), 2, 10)),

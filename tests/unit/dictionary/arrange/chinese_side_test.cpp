@@ -77,6 +77,14 @@ TEST(ChineseSide, TakesAnExplanationOnlyForAWordThatHasNothingElse) {
             std::vector<std::u16string>{u"overdo=画蛇添足"});
 }
 
+TEST(ChineseSide, KeepsTheBetterTierOfAPair) {
+  const Vocabulary vocabulary = addChineseSide(
+      collect({entry("rail", "n. 轨道", true), entry("track", "n. 道路, 铁轨")}),
+      {{chinese(u"轨道", {u"orbit", u"rail"}), chinese(u"铁轨", {u"track"})}, {}, {}});
+  EXPECT_EQ(tierOfPair(vocabulary, u"rail", u"轨道"), Tier::kImportantFirst);
+  EXPECT_EQ(tierOfPair(vocabulary, u"track", u"铁轨"), Tier::kFirst);
+}
+
 TEST(ChineseSide, PutsGlossesBehindWhatTheVocabularyGives) {
   const ChineseEntry idiom{
       u"画蛇添足", {{u"ruin by adding what is not needed", 7, 0, GlossValue::kExplanation}}};

@@ -103,6 +103,16 @@ TEST(PairCollector, MakesEntriesOfTheFormsOfImportantWordsThatHaveNone) {
   EXPECT_EQ(std::ranges::count(vocabulary.english, u"emptied"), 0) << "nothing to take over";
 }
 
+// "founded" is a form of "found", which is itself one of "find".
+TEST(PairCollector, TakesAFormOfTwoWordsForThatOfTheFirst) {
+  const Entry found = entry("found", "vt. 建立", true, 0, "d:founded");
+  const Entry founder = entry("founder", "vi. 沉没", true, 0, "d:founded");
+  EXPECT_EQ(valued(collect({found, founder}), u"founded"), (Texts{u"建立", u"found的过去分词"}));
+  EXPECT_EQ(valued(collect({founder, found}), u"founded"), (Texts{u"沉没", u"founder的过去分词"}));
+  const Entry form = entry("found", "vt. 建立", true, 0, "0:find/1:pd/d:founded");
+  EXPECT_EQ(valued(collect({form}), u"founded"), Texts());
+}
+
 TEST(PairCollector, FollowsAFormToALemmaThatIsAReference) {
   const Vocabulary vocabulary = collect({entry("randomised", "randomise的变形"),
                                          entry("randomise", "vt. [主英国英语]＝randomize"),

@@ -37,6 +37,7 @@ TEST(PairCollector, RatesPairs) {
   EXPECT_EQ(tierOf(vocabulary, u"数值"), Tier::kWebFirst);
   EXPECT_EQ(tierOf(vocabulary, u"数码"), Tier::kWeb);
   EXPECT_EQ(tierOf(vocabulary, u"算盘"), Tier::kFirst);
+  EXPECT_EQ(tierOf(vocabulary, u"珠算"), Tier::kWebFirst);
   EXPECT_EQ(tierOf(vocabulary, u"顶板"), Tier::kOrdinary);
   EXPECT_EQ(tierOf(vocabulary, u"苹果"), Tier::kFirst);
   EXPECT_EQ(tierOf(vocabulary, u"苹果树"), Tier::kInflected);
@@ -76,6 +77,14 @@ TEST(PairCollector, FollowsReferences) {
                                          u"ground cloth=防潮布", u"ground cloth=铺地防潮布",
                                          u"groundsheet=防潮布", u"groundsheet=铺地防潮布"}));
   EXPECT_EQ(tierOf(vocabulary, u"铺地防潮布"), Tier::kOrdinary);
+}
+
+TEST(PairCollector, FollowsEveryReferenceToItsFirstFourPairs) {
+  const Vocabulary vocabulary = collect({entry("both", "n. 同“one”；同“two”"),
+                                         entry("one", "n. 甲一, 甲二, 甲三, 甲四, 甲五"),
+                                         entry("two", "n. 乙一, 乙二, 乙三, 乙四, 乙五")});
+  EXPECT_EQ(valued(vocabulary, u"both"),
+            (Texts{u"甲一", u"甲二", u"甲三", u"甲四", u"乙一", u"乙二", u"乙三", u"乙四"}));
 }
 
 // "leucaemia | n. 同“leukemia”\n[网络] 白血病"
@@ -141,6 +150,19 @@ TEST(PairCollector, RatesATitleAsAFirstEquivalent) {
       collect({entry("Malachi", "n. 玛拉基(希伯来先知), 先知, <<玛拉基书>>")});
   EXPECT_EQ(tierOf(vocabulary, u"玛拉基书"), Tier::kFirst);
   EXPECT_EQ(tierOf(vocabulary, u"先知"), Tier::kOrdinary);
+}
+
+// More than a sort without order among equals leaves in their places.
+TEST(PairCollector, SpellsAWordAsTheFirstOfManySpellings) {
+  std::vector<Entry> entries;
+  for (unsigned bits = 37; bits < 37 + 20; ++bits) {
+    std::string word = "abcdef";
+    for (unsigned i = 0; i < 6; ++i) {
+      if ((bits >> i & 1U) != 0) word[i] = static_cast<char>(word[i] - 'a' + 'A');
+    }
+    entries.push_back(entry(word, "n. 字母"));
+  }
+  EXPECT_EQ(collect(entries).english, Texts{u"AbCdeF"});
 }
 
 TEST(PairCollector, KeepsTheRanksOfHeadwords) {

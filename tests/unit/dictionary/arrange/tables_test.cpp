@@ -72,6 +72,19 @@ TEST(SubjectCollector, JoinsTheLinesOfAHeadword) {
   EXPECT_EQ(chem[1].word, u"acid bath");
 }
 
+// More than a sort without order among equals leaves in their places.
+TEST(SubjectCollector, KeepsTheOrderOfManyEquivalents) {
+  dictionary::SubjectCollector collector;
+  std::u16string meaning;
+  for (char16_t i = 0; i < 40; ++i) {
+    const std::u16string equivalent = {u'第', static_cast<char16_t>(u'一' + i * 7 % 40)};
+    collector.add(Subject::kLaw, u"law", equivalent);
+    meaning += (i == 0 ? u"" : u"；") + equivalent;
+  }
+  const dictionary::SubjectTables tables = std::move(collector).finish();
+  EXPECT_EQ(tables[static_cast<std::size_t>(Subject::kLaw)].at(0).meaning, meaning);
+}
+
 TEST(SubjectCollector, AddsEquivalentsOfOtherSources) {
   dictionary::SubjectCollector collector;
   collector.add(entry("cloud", "n. 云\n[计] 云彩, 云团"));
