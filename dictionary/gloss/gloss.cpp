@@ -97,6 +97,14 @@ Marks takeMarks(std::u16string_view& piece) {
   return marks;
 }
 
+/// Returns whether a sentence ends behind the bracket at `close` and another one follows: "Time
+/// makes the man (idiom). The trend of events …".
+bool endsSentence(std::u16string_view gloss, std::size_t close) {
+  const std::u16string_view after = gloss.substr(close + 1);
+  return after.size() > 2 && (after[0] == u'.' || after[0] == u'!' || after[0] == u'?') &&
+         after[1] == u' ' && after[2] >= u'A' && after[2] <= u'Z';
+}
+
 /// The pieces between semicolons outside brackets and quotation marks.
 std::vector<std::u16string_view> splitPieces(std::u16string_view gloss) {
   std::vector<std::u16string_view> pieces;
@@ -106,7 +114,11 @@ std::vector<std::u16string_view> splitPieces(std::u16string_view gloss) {
     if (gloss[i] == u'"') quoted = !quoted;
     if (gloss[i] == u'(' || gloss[i] == u'[') {
       const std::size_t close = closingPosition(gloss, i);
-      if (close != std::u16string_view::npos) i = close;
+      if (close == std::u16string_view::npos) continue;
+      i = close;
+      if (quoted || !endsSentence(gloss, close)) continue;
+      pieces.push_back(gloss.substr(begin, close + 1 - begin));
+      begin = close + 2;
     } else if (gloss[i] == u';' && !quoted) {
       pieces.push_back(gloss.substr(begin, i - begin));
       begin = i + 1;

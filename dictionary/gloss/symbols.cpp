@@ -24,6 +24,9 @@ constexpr std::u16string_view kSubstances = u"acid|group|ion|radical|bond|";
 /// After these the symbol is part of the text: "the end of the CCP", "pest control in TCM".
 constexpr std::u16string_view kJoining =
     u"a|an|the|of|in|on|at|by|for|from|to|with|and|or|as|between|against|";
+/// Things that have numbers in catalogues: "Rosette nebula NGC 2237", "Quchi acupoint LI11".
+constexpr std::u16string_view kNumberedKinds = u"nebula|galaxy|cluster|star|acupoint|";
+constexpr std::u16string_view kCatalogues = u"NGC|IC|";
 /// After initials the place of the named thing may follow.
 constexpr std::u16string_view kPlaces = u"at|in|";
 
@@ -83,10 +86,53 @@ bool isFormulaOf(std::u16string_view word, std::u16string_view before) {
   return formula.digits || formula.twoLetters || substance;
 }
 
-/// Returns whether the word is the number of a nebula or a star cluster: "M45".
-bool isNebula(std::u16string_view word, std::u16string_view before) {
-  return word.size() > 1 && word[0] == u'M' && isCapital(before[0]) &&
-         std::ranges::all_of(word.substr(1), isDigit);
+/// Returns whether the word is the number under which a catalogue has the thing that `before`
+/// names: "M45" of a nebula or a star cluster, "LI11".
+bool isCatalogueNumber(std::u16string_view word, std::u16string_view before) {
+  const auto letters =
+      static_cast<std::size_t>(std::ranges::find_if_not(word, isCapital) - word.begin());
+  if (letters == 0 || letters > 2 || letters == word.size()) return false;
+  if (!std::ranges::all_of(word.substr(letters), isDigit)) return false;
+  return isListed(kNumberedKinds, lastWord(before)) ||
+         (word.substr(0, letters) == u"M" && isCapital(before[0]));
+}
+
+/// Returns the text without a catalogue's name and number of two words at its end: "NGC 2237".
+std::u16string_view withoutCatalogue(std::u16string_view text) {
+  const std::u16string_view number = lastWord(text);
+  if (number.empty() || number.size() == text.size() || !std::ranges::all_of(number, isDigit))
+    return text;
+  const std::u16string_view named = text.substr(0, text.size() - number.size() - 1);
+  const std::u16string_view catalogue = lastWord(named);
+  if (!isListed(kCatalogues, catalogue) || catalogue.size() == named.size()) return text;
+  return named.substr(0, named.size() - catalogue.size() - 1);
+}
+
+/// Returns the text without the letter and the number of a year in its name: "fourth year D4 of the
+/// 60 year cycle".
+std::u16string withoutCycleNumber(std::u16string_view text) {
+  const std::size_t end = text.find(u" of the 60 year cycle");
+  std::u16string plain(text);
+  if (end == std::u16string_view::npos) return plain;
+  const std::size_t size = lastWord(text.substr(0, end)).size();
+  const bool number = size > 1 && size < end && text[end - size] >= u'A' &&
+                      text[end - size] <= u'J' &&
+                      std::ranges::all_of(text.substr(end - size + 1, size - 1), isDigit);
+  return number ? plain.erase(end - size - 1, size + 1) : plain;
+}
+
+/// Parts a name from what it means in quotation marks: "Ba Fa Quan "Eight Methods" - Martial Art".
+/// Both are empty if the text is anything else: "Euclid's "Elements"".
+NamedText translatedName(std::u16string_view text) {
+  const std::size_t open = text.find(u" \"");
+  const std::size_t close = open < text.size() ? text.find(u'"', open + 2) : text.npos;
+  if (close == text.npos) return {};
+  const std::u16string_view name = text.substr(0, open);
+  const std::u16string_view after = text.substr(close + 1);
+  const bool names = !name.empty() && isCapital(name[0]) && isCapital(lastWord(name)[0]) &&
+                     !name.ends_with(u"'s") && name.find(u',') == name.npos;
+  if (!names || !(after.empty() || after.starts_with(u" - "))) return {};
+  return {std::u16string(name), std::u16string(text.substr(open + 2, close - open - 2))};
 }
 
 /// Returns whether the word abbreviates the text: its letters are the initials, or letters of the
@@ -123,6 +169,8 @@ bool areInitials(std::u16string_view note, std::u16string_view text) {
 }
 
 NamedText withoutSymbol(std::u16string_view gloss) {
+  NamedText translated = translatedName(gloss);
+  if (!translated.text.empty()) return translated;
   for (std::size_t end = 0; end < gloss.size(); ++end) {
     end = std::min(gloss.find_first_of(u" ,", end), gloss.size());
     const std::u16string_view word = lastWord(gloss.substr(0, end));
@@ -134,12 +182,12 @@ NamedText withoutSymbol(std::u16string_view gloss) {
     const bool whole = after.empty() || after.starts_with(u',');
     const bool located = after.size() > 1 && isListed(kPlaces, firstWord(after.substr(1)));
     const bool symbol = whole && !before.starts_with(u"to ") &&
-                        (isFormulaOf(word, before) || isNebula(word, before));
+                        (isFormulaOf(word, before) || isCatalogueNumber(word, before));
     const bool initials = !symbol && (whole || located) && abbreviates(word, before);
     if (!initials && !symbol) continue;
     return {std::u16string(before), std::u16string(initials ? word : u"")};
   }
-  return {std::u16string(gloss), {}};
+  return {withoutCycleNumber(withoutCatalogue(gloss)), {}};
 }
 
 }  // namespace dictionary

@@ -36,6 +36,12 @@ TEST(ParseGloss, SplitsAtSemicolons) {
   EXPECT_EQ(texts(u"\"one; two\" game"), (Texts{u"one; two game"}));
 }
 
+// "病从口入 | Illness enters by the mouth (idiom). Mind what you eat!"
+TEST(ParseGloss, SplitsAtASentenceBehindANote) {
+  EXPECT_EQ(texts(u"Illness enters by the mouth (idiom). Mind what you eat!"),
+            (Texts{u"Illness enters by the mouth", u"Mind what you eat"}));
+}
+
 // "回击 | to fight back; to return fire", "每日限价 | (finance) daily trading limit, the maximum …"
 TEST(ParseGloss, GivesWordsAndSubjects) {
   const std::vector<Gloss> glosses = parseGloss(u"(law) to appeal; to sue (finance)").glosses;

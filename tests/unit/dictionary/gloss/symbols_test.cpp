@@ -50,6 +50,34 @@ TEST(WithoutSymbol, RemovesNumbersOfNebulae) {
   EXPECT_EQ(text(u"tank M45"), u"tank M45");
 }
 
+// "玫瑰星云 | Rosette nebula NGC 2237", "仙女座大星云 | great nebula in Andromeda or Andromeda
+// galaxy M31", "曲池穴 | Quchi acupoint LI11, at the …", "丁卯 | fourth year D4 of the 60 year
+// cycle, …"
+TEST(WithoutSymbol, RemovesNumbersOfCatalogues) {
+  EXPECT_EQ(text(u"Rosette nebula NGC 2237"), u"Rosette nebula");
+  EXPECT_EQ(text(u"great nebula or Andromeda galaxy M31"), u"great nebula or Andromeda galaxy");
+  EXPECT_EQ(text(u"Quchi acupoint LI11, at the elbow"), u"Quchi acupoint");
+  EXPECT_EQ(text(u"fourth year D4 of the 60 year cycle"), u"fourth year of the 60 year cycle");
+  for (const std::u16string_view gloss :
+       {u"NGC 2237", u"Airbus A380", u"stage Q4 of the 60 year cycle", u"Boeing 747"}) {
+    EXPECT_EQ(text(gloss), gloss);
+  }
+}
+
+// "八法拳 | Ba Fa Quan "Eight Methods" - Martial Art", "劈挂拳 | Piguaquan "Chop-Hanging Fist"
+// (…)", "几何原本 | Euclid's "Elements""
+TEST(WithoutSymbol, PartsANameFromItsTranslation) {
+  const NamedText named = withoutSymbol(u"Ba Fa Quan \"Eight Methods\" - Martial Art");
+  EXPECT_EQ(named.text, u"Ba Fa Quan");
+  EXPECT_EQ(named.initials, u"Eight Methods");
+  EXPECT_EQ(text(u"Piguaquan \"Chop-Hanging Fist\""), u"Piguaquan");
+  for (const std::u16string_view gloss :
+       {u"Euclid's \"Elements\"", u"class \"A\"", u"Coop, branded as \"coop\"",
+        u"Project \"Hope\" schools"}) {
+    EXPECT_EQ(text(gloss), gloss);
+  }
+}
+
 // "居民消费价格指数 | consumer price index CPI", "北方民族大学 | Northern Nationalities University
 // NNU at Yingchuan, Ningxia", "洲际导弹 | intercontinental ballistic missile ICBM", "吉电子伏 |
 // giga electron volt GeV", "理科学士 | Bachelor of Science B.Sc.", "节奏布鲁斯 | Rhythm and Blues
