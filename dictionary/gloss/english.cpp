@@ -26,7 +26,8 @@ constexpr auto kAbbreviations = std::to_array<WrittenOut>({{u"sb", u"somebody"},
 
 /// After these "to" does not mark a verb: "to the point", "to one's heart's content".
 constexpr std::u16string_view kAfterPreposition =
-    u"the|a|an|this|that|one's|no|some|and|my|me|your|his|such|which|what|date|sb's|all|";
+    u"the|a|an|this|that|one's|no|some|and|my|me|your|his|such|which|what|sb's|all|each|sb|death|"
+    u"oneself|himself|everyone's|";
 
 /// Words before which an article is part of the meaning: "a little" is not "little".
 constexpr std::u16string_view kAfterArticle =
@@ -82,7 +83,10 @@ bool isThirdPerson(std::u16string_view word, std::u16string_view next) {
 /// Removes the verb's "to" or an article.
 std::u16string_view withoutLeadingWords(std::u16string_view text) {
   const bool verb = text.starts_with(u"to ") || (text.starts_with(u"To ") && isSmall(text[3]));
-  if (verb && !isListed(kAfterPreposition, firstWord(text.substr(3)))) return text.substr(3);
+  const bool adverb = text == u"to date";  // "to date somebody" is a verb
+  if (verb && !adverb && !isListed(kAfterPreposition, firstWord(text.substr(3)))) {
+    return text.substr(3);
+  }
   for (const std::u16string_view article : {u"a "sv, u"an "sv, u"the "sv, u"The "sv}) {
     if (!text.starts_with(article)) continue;
     const std::u16string_view rest = text.substr(article.size());

@@ -29,6 +29,18 @@ TEST(EnglishHeadword, KeepsThemWhereTheyBelong) {
   EXPECT_EQ(word(u"the more"), u"the more");
 }
 
+// "暗自 | to oneself", "往死里 | (coll.) (to beat etc) to death", "皆大欢喜 | to everyone's delight
+// and satisfaction", "萝卜白菜，各有所爱 | … to each his own", "迄今 | to date", "拍拖 | to date
+// sb", "追溯 | to date from"
+TEST(EnglishHeadword, KeepsThePreposition) {
+  for (const std::u16string_view gloss :
+       {u"to oneself", u"to death", u"to everyone's delight", u"to each his own", u"to date"}) {
+    EXPECT_EQ(word(gloss), gloss);
+  }
+  EXPECT_EQ(word(u"to date sb"), u"date somebody");
+  EXPECT_EQ(word(u"to date from"), u"date from");
+}
+
 // "姜还是老的辣 | the older, the wiser", "三光 | the sun, the moon, and the stars"
 TEST(EnglishHeadword, KeepsTheFirstOfSeveralArticles) {
   EXPECT_EQ(word(u"the older, the wiser"), u"the older, the wiser");
