@@ -27,12 +27,14 @@ using namespace std::string_view_literals;
 struct Marks {
   bool literal = false;
   bool usage = false;
+  bool example = false;  ///< what the word means above all, not what it means
 };
 
 constexpr std::u16string_view kLiteralMarks = u"lit. |lit., |lit: |literally |";
 /// Names of age, region or style.
 constexpr std::u16string_view kUsageMarks =
-    u"formerly known as |formerly |old name for |old name of |former name of |former name for |"
+    u"formerly known as |formerly called |formerly |old name for |old name of |former name of "
+    u"|former name for |"
     u"ancient name for |ancient name of |archaic name for |classical name for |old term for |"
     u"archaic term for |ancient term for |classical term for |literary term for |"
     u"dialectal term for |slang for |slang term for |Internet slang for |Taiwanese term for |"
@@ -41,7 +43,8 @@ constexpr std::u16string_view kUsageMarks =
     u"nickname of |old: |honorific: |humble term: |former name: |";
 /// What follows them is what the word means, or another word for it.
 constexpr std::u16string_view kOtherMarks =
-    u"lit. and fig. |fig. |fig., |fig: |figuratively, |figuratively |by extension, |by ext. |also "
+    u"also translated as |also sometimes |usually called |lit. and fig. |fig. |fig., |fig: "
+    u"|figuratively, |figuratively |by extension, |by ext. |also "
     u"fig. |"
     u"also known as |also called |also termed |aka |also |esp. |especially |usu. |usually |often |"
     u"originally |orig. |i.e. |e.g. |or |abbr. for |abbr. of |acronym for |short for |"
@@ -89,6 +92,7 @@ bool takeListed(std::u16string_view list, std::u16string_view& piece) {
 Marks takeMarks(std::u16string_view& piece) {
   Marks marks;
   if (isWholeMark(piece)) return marks;
+  marks.example = piece.starts_with(u"esp. ");
   for (bool again = true; again;) {
     again = takeListed(kOtherMarks, piece);
     if (takeListed(kLiteralMarks, piece)) marks.literal = again = true;
@@ -126,6 +130,14 @@ std::vector<std::u16string_view> splitPieces(std::u16string_view gloss) {
   }
   pieces.push_back(gloss.substr(begin));
   return pieces;
+}
+
+/// "bamboo radical in Chinese characters" is "bamboo radical".
+std::u16string_view withoutRadicalKind(std::u16string_view english) {
+  constexpr std::u16string_view kKind = u" in Chinese characters";
+  const std::size_t at = english.find(kKind);
+  const bool radical = at < english.size() && english.substr(0, at).ends_with(u" radical");
+  return radical ? english.substr(0, at) : english;
 }
 
 /// Parses the pieces of one gloss from left to right.
@@ -168,7 +180,7 @@ class GlossParser {
                       (*english)[4] >= u'A' && (*english)[4] <= u'Z' &&
                       !isSentence(english->substr(0, english->find_first_of(u",:")));
     if (name) english->erase(0, 4);
-    if (!english->empty()) addEnglish(*english, noted, marks.usage, sound);
+    if (!english->empty()) addEnglish(*english, noted, marks.usage, sound || marks.example);
   }
 
   /// Adds the meaning that the gloss tells of a variant, or the word to which it refers.
@@ -184,8 +196,14 @@ class GlossParser {
     NoteMeaning meaning = noted.meaning;
     meaning |= shared_;
     if (isUsageNote(english)) return;
-    const NamedText named = withoutSymbol(english);
-    const std::u16string_view equivalent = withoutApposition(named.text, phrase_);
+    // A character is a part of the name only: "given name of Mencius".
+    const std::u16string_view named = kind_ == WordKind::kCharacter ? u"" : otherNameFor(english);
+    if (!named.empty()) {
+      english = named;
+      usage = true;
+    }
+    const NamedText plain = withoutSymbol(withoutRadicalKind(english));
+    const std::u16string_view equivalent = withoutApposition(plain.text, phrase_);
     const bool described = describes || !noted.whole.empty() || isDescription(equivalent);
     SubjectSet subjects = meaning.subjects;
     if (describesPlace(english)) subjects |= setOf(Subject::kPlace);
@@ -198,7 +216,7 @@ class GlossParser {
         if (word) add(*word, subjects, valueOf(*word, described, usage || meaning.usage));
       }
     }
-    for (const std::u16string& initials : {noted.initials, named.initials}) {
+    for (const std::u16string& initials : {noted.initials, plain.initials}) {
       if (initials.empty()) continue;
       add(initials, subjects, valueOf(initials, false, usage || meaning.usage));
     }

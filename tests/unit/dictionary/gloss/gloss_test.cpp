@@ -197,6 +197,22 @@ TEST(ParseGloss, DescribesSounds) {
   EXPECT_EQ(value(u"(onom.) plop"), GlossValue::kPair);
 }
 
+// "孔明 | courtesy name of Zhuge Liang 諸葛亮|诸葛亮[Zhu1 ge3 Liang4]", "轲 | given name of
+// Mencius", "⺮ | "bamboo" radical in Chinese characters (Kangxi radical 118)", "春秋左氏传 |
+// usually called Zuo Zhuan", "钦奈 | formerly called Madras", "暖色 | esp. yellow, orange or red"
+TEST(ParseGloss, ReadsWhatAWordIsANameFor) {
+  EXPECT_EQ(texts(u"courtesy name of Zhuge Liang 諸葛亮|诸葛亮[Zhu1 ge3 Liang4]"),
+            (Texts{u"Zhuge Liang"}));
+  EXPECT_EQ(value(u"courtesy name of Zhuge Liang"), GlossValue::kUsage);
+  EXPECT_EQ(parseGloss(u"given name of Mencius", WordKind::kCharacter).glosses.at(0).english,
+            u"given name of Mencius");
+  EXPECT_EQ(texts(u"\"bamboo\" radical in Chinese characters (Kangxi radical 118)"),
+            (Texts{u"bamboo radical"}));
+  EXPECT_EQ(texts(u"usually called Zuo Zhuan"), (Texts{u"Zuo Zhuan"}));
+  EXPECT_EQ(texts(u"formerly called Madras"), (Texts{u"Madras"}));
+  EXPECT_EQ(value(u"esp. yellow, orange or red"), GlossValue::kExplanation);
+}
+
 TEST(ParseGloss, GivesNothingOfAsidesAndMarks) {
   for (const std::u16string_view gloss :
        {u"", u"(phonetic)", u"(loanword)", u"Taiwan pr. [sao1]", u"CL:個|个[ge4]", u"radical 頁",
