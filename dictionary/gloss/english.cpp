@@ -49,6 +49,19 @@ constexpr std::u16string_view kSubjects = u"one|you|we|I|he|she|they|it|sb|";
 constexpr std::u16string_view kAfterVerb =
     u"a|an|the|his|her|its|their|one's|you|us|him|them|sb|sth|";
 
+/// Verbs of the sentences that idioms are; elsewhere they may be nouns.
+constexpr std::u16string_view kPhraseVerbs =
+    u"become|became|came|flew|contend|bloom|outweigh|surpass|remain|looks|reigns|do|";
+/// What follows a verb without an object: "the sun sets in the west", "the buck stops here".
+constexpr std::u16string_view kAfterPhraseVerb =
+    u"in|on|over|at|out|off|away|down|up|into|through|to|past|after|as|here|there|apart|around|by|"
+    u"without|against|back|no|low|early|once|outward|turn|";
+/// The subject of a phrase ends before them: what follows belongs to a noun.
+constexpr std::u16string_view kAfterSubject =
+    u"of|in|on|with|for|at|from|by|like|to|off|among|under|between|about|without|against|worth|but|"
+    u"and|or|";
+constexpr std::u16string_view kNumerals = u"hundred|thousand|million|few|dozen|ten|";
+
 /// Abbreviations that keep their full stop at the end of a gloss.
 constexpr std::u16string_view kWithStop =
     u"Inc.|Ltd.|Co.|Corp.|Jr.|Sr.|Mr.|Mrs.|Ms.|Dr.|No.|St.|vs.|";
@@ -80,8 +93,42 @@ bool isThirdPerson(std::u16string_view word, std::u16string_view next) {
          !word.ends_with(u"'s") && isListed(kAfterVerb, next);
 }
 
+/// Returns whether the word after the subject `before` of a phrase is its verb: "reigns" in "the
+/// customer reigns supreme". After "a" no noun is in the plural.
+bool isPhraseVerb(std::u16string_view word, std::u16string_view before, std::u16string_view next,
+                  bool singular) {
+  const bool third = word.size() > 3 && word.ends_with(u's') && !word.ends_with(u"ss") &&
+                     !word.ends_with(u"us") && !word.ends_with(u"'s") &&
+                     !isListed(kNumerals, before);
+  return third && (singular || isListed(kAfterVerb, next) || isListed(kAfterPhraseVerb, next) ||
+                   next.ends_with(u"ly"));
+}
+
+/// Returns whether the text of an idiom, which begins with an article, has a verb: "the sun shines
+/// brightly".
+bool isPhraseSentence(std::u16string_view text) {
+  std::u16string_view before = firstWord(text);
+  bool singular = before == u"a" || before == u"an";
+  text.remove_prefix(std::min(text.size(), before.size() + 1));
+  bool subject = true;  // whether the words are still those of the subject
+  for (bool first = true; !text.empty(); first = false) {
+    const std::u16string_view word = firstWord(text);
+    text.remove_prefix(std::min(text.size(), word.size() + 1));
+    if (isListed(kRelatives, word) || (!first && word.ends_with(u"ing"))) return false;
+    // "a mighty figure no-one dares approach"
+    if (before == u"no-one" || isListed(kSubjects, before)) return false;
+    const bool noun = first || isListed(kBeforeNoun, before);
+    if (!noun && isListed(kPhraseVerbs, word)) return true;
+    subject = subject && !isListed(kAfterSubject, word);
+    if (subject && !noun && isPhraseVerb(word, before, firstWord(text), singular)) return true;
+    if (word.ends_with(u"'s")) singular = false;  // "a girl's teenage years"
+    before = word;
+  }
+  return false;
+}
+
 /// Removes the verb's "to" or an article.
-std::u16string_view withoutLeadingWords(std::u16string_view text) {
+std::u16string_view withoutLeadingWords(std::u16string_view text, bool phrase) {
   const bool verb = text.starts_with(u"to ") || (text.starts_with(u"To ") && isSmall(text[3]));
   const bool adverb = text == u"to date";  // "to date somebody" is a verb
   if (verb && !adverb && !isListed(kAfterPreposition, firstWord(text.substr(3)))) {
@@ -92,7 +139,7 @@ std::u16string_view withoutLeadingWords(std::u16string_view text) {
     const std::u16string_view rest = text.substr(article.size());
     const bool kept = isListed(kAfterArticle, firstWord(rest)) || rest.starts_with(u"more") ||
                       rest.starts_with(u"less") || rest.find(u", the ") < rest.size() ||
-                      isSentence(text);
+                      isSentence(text) || (phrase && isPhraseSentence(text));
     return kept ? text : rest;
   }
   return text;
@@ -195,9 +242,9 @@ std::u16string withAsciiMarks(std::u16string_view text) {
   return result;
 }
 
-std::optional<std::u16string> englishHeadword(std::u16string_view gloss) {
+std::optional<std::u16string> englishHeadword(std::u16string_view gloss, bool phrase) {
   const std::u16string plain = withoutMarks(foldBlanks(text::withoutAccents(gloss)));
-  const std::u16string full = writtenOut(withoutLeadingWords(plain));
+  const std::u16string full = writtenOut(withoutLeadingWords(plain, phrase));
   const std::u16string word = withoutMarks(withoutSpecies(full));
   // "Is there a ...?"
   const bool open = wordCount(word) > 1 && isListed(kArticles, lastWord(word));

@@ -159,6 +159,7 @@ class GlossParser {
     literal_ = marks.literal || (meaning.literal && !meaning.figurative);
     // "lit. whole sky, a multitude of stars", but "lit. Rushing Clan, generation born …".
     phrase_ = kind_ == WordKind::kPhrase || (marks.literal && !text.empty() && isSmall(text[0]));
+    figurative_ = meaning.figurative || piece.starts_with(u"fig. ");
     if (!begun_ && piece.starts_with(u'(') && !noted.described) shared_ = meaning;
     begun_ = true;
     if (text.empty() || isAside(text) || !listedBeginning(kOtherWords, text).empty()) return;
@@ -212,7 +213,7 @@ class GlossParser {
     if (kind_ == WordKind::kCharacter && texts.size() == 1) texts = alternativeWords(equivalent);
     for (const std::u16string_view text : texts) {
       for (const std::u16string& name : namesWithKind(text)) {
-        const std::optional<std::u16string> word = englishHeadword(name);
+        const std::optional<std::u16string> word = englishHeadword(name, phrase_ || figurative_);
         if (word) add(*word, subjects, valueOf(*word, described, usage || meaning.usage));
       }
     }
@@ -240,7 +241,8 @@ class GlossParser {
   NoteMeaning shared_;  ///< of the note at the beginning
   bool begun_ = false;
   bool literal_ = false;  ///< of the piece
-  bool phrase_ = false;   ///< whether the commas of the piece are those of a sentence
+  bool figurative_ = false;
+  bool phrase_ = false;  ///< whether the commas of the piece are those of a sentence
 };
 
 }  // namespace

@@ -57,6 +57,35 @@ TEST(EnglishHeadword, KeepsTheArticleOfASentence) {
   }
 }
 
+// "阳光明媚 | the sun shines brightly", "夕阳西下 | the sun sets in the west", "顾客至上 | the
+// customer reigns supreme", "煮熟的鸭子飞了 | the cooked duck flew away", "百花齐放 | a hundred
+// flowers bloom", "一元复始 | a new year begins", "千钧一发 | a thousand pounds hangs by a thread"
+TEST(EnglishHeadword, KeepsTheArticleOfASentenceInAnIdiom) {
+  for (const std::u16string_view sentence :
+       {u"the sun shines brightly", u"the sun sets in the west", u"the customer reigns supreme",
+        u"the cooked duck flew away", u"a hundred flowers bloom", u"a new year begins",
+        u"a thousand pounds hangs by a thread"}) {
+    EXPECT_EQ(englishHeadword(sentence, true), sentence);
+  }
+  EXPECT_EQ(word(u"the dried leaves on a tree"), u"dried leaves on a tree") << "a term";
+}
+
+// "家喻户晓 | a household name", "百废待兴 | a thousand things to do", "宾客盈门 | a house full of
+// distinguished visitors", "相夫教子 | the traditional roles of a good wife", "患难之交 | a friend
+// in times of tribulations", "老蚌生珠 | an old oyster producing a pearl", "卸肩儿 | a weight off
+// one's shoulders", "琴棋书画 | the four arts of the Chinese scholar", "炙手可热 | a mighty figure
+// no-one dares approach", "豆蔻 | a girl's teenage years"
+TEST(EnglishHeadword, RemovesTheArticleOfANounInAnIdiom) {
+  for (const std::u16string_view noun :
+       {u"a household name", u"a thousand things to do", u"a house full of distinguished visitors",
+        u"the traditional roles of a good wife", u"a friend in times of tribulations",
+        u"an old oyster producing pearls", u"a weight off one's shoulders",
+        u"the four arts of the Chinese scholar", u"a dog who catches mice",
+        u"a mighty figure no-one dares approach", u"a girl's teenage years"}) {
+    EXPECT_EQ(englishHeadword(noun, true), noun.substr(noun.find(u' ') + 1));
+  }
+}
+
 // "人心 | the will of the people", "听 | a can", "必经之路 | the road one must follow", "天心 | the
 // monarch's will", "双独夫妇 | a married couple allowed dispensation to have second child", "诗礼 |
 // … the classics a Confucian scholar must read"
