@@ -45,6 +45,10 @@ constexpr std::u16string_view kPlaceholders =
 constexpr std::u16string_view kObjectVerbs = u"let|make|have|get|find|do|try|set|";
 constexpr std::u16string_view kParticles =
     u"up|off|down|away|out|over|on|in|go|back|aside|around|about|along|through|together|";
+/// How the objects in notes begin: "to charge (an entity) with (a task)".
+constexpr std::u16string_view kObjects = u"a |an |the |one's |sb's |";
+/// What the object's preposition is followed by, if not by a bracket or the end.
+constexpr std::u16string_view kSecondObjects = u"(|sb|sth|";
 /// Where one of these follows, it speaks of the object: "to use (sth) on its own".
 constexpr std::u16string_view kBackReferences =
     u"oneself|himself|themselves|itself|one's|his|their|them|its|each|";
@@ -116,6 +120,25 @@ bool needsObject(std::u16string_view verb, std::u16string_view after) {
     rest.remove_prefix(std::min(rest.size(), word.size() + 1));
   }
   return false;
+}
+
+/// Returns whether the note is the object of the verb at the end of `before`, and `after` begins
+/// with the preposition of another one: "to insert (a plug) into (a socket)", "to place (hope etc)
+/// on".
+bool isDroppedObject(std::u16string_view note, std::u16string_view before,
+                     std::u16string_view after) {
+  const bool object = !listedBeginning(kObjects, note).empty() || note.ends_with(u" etc");
+  const bool verb = !listedBeginning(u"to |cannot |", before).empty() &&
+                    !isListed(kOpenWords, lastWord(before)) &&
+                    !isListed(kPrepositions, lastWord(before)) &&
+                    !isListed(kPlaceholders, lastWord(before));
+  const bool other = !listedBeginning(u"or |and |i.e. |e.g. |as |", note).empty();
+  if (!object || !verb || other) return false;
+  if (after.starts_with(u"away from")) return true;
+  const std::u16string_view preposition = firstWord(after);
+  const std::u16string_view next = after.substr(std::min(after.size(), preposition.size() + 1));
+  const bool second = next.empty() || !listedBeginning(kSecondObjects, next).empty();
+  return isListed(kPrepositions, preposition) && second;
 }
 
 /// A note of a gloss: its brackets are at `open` and `close`.
@@ -220,7 +243,7 @@ class NoteRemover {
     const bool both = isPlaceholder(note.content) && isListed(kPrepositions, next) &&
                       last.starts_with(u" (") &&
                       !isListed(kPrepositions, firstWord(last.substr(2)));
-    if (both) return true;
+    if (both || isDroppedObject(note.content, before, after)) return true;
     const bool open = isListed(kPrepositions, finalWord) || isListed(kOpenWords, finalWord);
     const bool joins = isListed(kPrepositions, next) || next == u"than" || next == u"that";
     // "why do you (he, etc) say so" has a subject already.

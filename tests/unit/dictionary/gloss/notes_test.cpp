@@ -134,6 +134,25 @@ TEST(WithoutGlossNotes, TellsASentenceThatNeedsItsNotes) {
   }
 }
 
+// "责成 | to charge (an entity) with (a task)", "提交 | to refer (a problem) to sb", "寄托 | to
+// place (one's hope, energy etc) in", "驶离 | to steer (the plane) away from", "纠结 | to struggle
+// (mentally) with (sth)", "冲泡 | to add water (or other liquid) to (another ingredient …)"
+TEST(WithoutGlossNotes, TellsAVerbThatLostItsObject) {
+  EXPECT_EQ(withoutGlossNotes(u"to charge (an entity) with (a task)").whole,
+            u"to charge an entity with a task");
+  EXPECT_EQ(withoutGlossNotes(u"to refer (a problem) to sb").whole, u"to refer a problem to sb");
+  EXPECT_EQ(withoutGlossNotes(u"to place (one's hope, energy etc) in").whole,
+            u"to place one's hope, energy etc in");
+  EXPECT_EQ(withoutGlossNotes(u"to steer (the plane) away from").whole,
+            u"to steer the plane away from");
+  for (const std::u16string_view gloss :
+       {u"to struggle (mentally) with (sth)", u"to add water (or other liquid) to (tea leaves)",
+        u"to paint (walls etc)", u"to give sb (a gift) for (sth)", u"(of a plane) to steer from",
+        u"to win (a person) over"}) {
+    EXPECT_EQ(withoutGlossNotes(gloss).whole, u"");
+  }
+}
+
 // "世卫 | World Health Organization (WHO)", "美职篮 | National Basketball Association (NBA)",
 // "近场通信 | (computing) near-field communication (NFC)"
 TEST(WithoutGlossNotes, FindsInitials) {
