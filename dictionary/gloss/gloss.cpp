@@ -197,12 +197,12 @@ class GlossParser {
     NoteMeaning meaning = noted.meaning;
     meaning |= shared_;
     if (isUsageNote(english)) return;
+    const std::u16string_view other = otherNameFor(english);
     // A character is a part of the name only: "given name of Mencius".
-    const std::u16string_view named = kind_ == WordKind::kCharacter ? u"" : otherNameFor(english);
-    if (!named.empty()) {
-      english = named;
-      usage = true;
-    }
+    const bool part = kind_ == WordKind::kCharacter && english.find(u" for ") == english.npos;
+    if (!other.empty() && !part) english = other;
+    usage = usage || !other.empty();
+    describes = describes || (!other.empty() && part);
     const NamedText plain = withoutSymbol(withoutRadicalKind(english));
     const std::u16string_view equivalent = withoutApposition(plain.text, phrase_);
     const bool described = describes || !noted.whole.empty() || isDescription(equivalent);

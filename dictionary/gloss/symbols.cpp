@@ -111,7 +111,8 @@ std::u16string_view withoutCatalogue(std::u16string_view text) {
 /// Returns the text without the letter and the number of a year in its name: "fourth year D4 of the
 /// 60 year cycle".
 std::u16string withoutCycleNumber(std::u16string_view text) {
-  const std::size_t end = text.find(u" of the 60 year cycle");
+  const std::size_t end =
+      std::min(text.find(u" of the 60 year cycle"), text.find(u" of the 60-year cycle"));
   std::u16string plain(text);
   if (end == std::u16string_view::npos) return plain;
   const std::size_t size = lastWord(text.substr(0, end)).size();

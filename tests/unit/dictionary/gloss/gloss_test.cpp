@@ -206,6 +206,10 @@ TEST(ParseGloss, ReadsWhatAWordIsANameFor) {
   EXPECT_EQ(value(u"courtesy name of Zhuge Liang"), GlossValue::kUsage);
   EXPECT_EQ(parseGloss(u"given name of Mencius", WordKind::kCharacter).glosses.at(0).english,
             u"given name of Mencius");
+  EXPECT_EQ(parseGloss(u"given name of Mencius", WordKind::kCharacter).glosses.at(0).value,
+            GlossValue::kExplanation);
+  EXPECT_EQ(parseGloss(u"a general term for plants", WordKind::kCharacter).glosses.at(0).english,
+            u"plants");
   EXPECT_EQ(texts(u"\"bamboo\" radical in Chinese characters (Kangxi radical 118)"),
             (Texts{u"bamboo radical"}));
   EXPECT_EQ(texts(u"usually called Zuo Zhuan"), (Texts{u"Zuo Zhuan"}));

@@ -58,6 +58,7 @@ TEST(WithoutSymbol, RemovesNumbersOfCatalogues) {
   EXPECT_EQ(text(u"great nebula or Andromeda galaxy M31"), u"great nebula or Andromeda galaxy");
   EXPECT_EQ(text(u"Quchi acupoint LI11, at the elbow"), u"Quchi acupoint");
   EXPECT_EQ(text(u"fourth year D4 of the 60 year cycle"), u"fourth year of the 60 year cycle");
+  EXPECT_EQ(text(u"37th year G1 of the 60-year cycle"), u"37th year of the 60-year cycle");
   for (const std::u16string_view gloss :
        {u"NGC 2237", u"Airbus A380", u"stage Q4 of the 60 year cycle", u"Boeing 747"}) {
     EXPECT_EQ(text(gloss), gloss);
