@@ -78,6 +78,8 @@ class TreeView : public Widget {
   LRESULT customDraw(const NMCUSTOMDRAW& drawing) const;
   void drawRow(const NMCUSTOMDRAW& drawing) const;
   [[nodiscard]] bool placeOf(HTREEITEM item, RECT& place) const;
+  [[nodiscard]] RECT rowAt(const RECT& place) const;
+  void redrawRow(HTREEITEM item) const;
   [[nodiscard]] HFONT font() const { return reinterpret_cast<HFONT>(send(WM_GETFONT)); }
   [[nodiscard]] TVHITTESTINFO hitTest(POINT point) const;
   [[nodiscard]] bool isCut(std::size_t number) const;

@@ -191,11 +191,17 @@ LRESULT TreeView::notify(const NMHDR& header) {
       return clicked() ? TRUE : FALSE;
     case TVN_SELCHANGEDW: {
       const auto& change = reinterpret_cast<const NMTREEVIEWW&>(header);
+      redrawRow(change.itemOld.hItem);
+      redrawRow(change.itemNew.hItem);
       if (change.action == TVC_BYKEYBOARD && highlightChooses_) {
         if (const auto node = numberOf(change.itemNew.hItem); node != 0) onNodeClick.raise(node);
       }
       break;
     }
+    case static_cast<UINT>(NM_SETFOCUS):
+    case static_cast<UINT>(NM_KILLFOCUS):
+      redrawRow(reinterpret_cast<HTREEITEM>(send(TVM_GETNEXTITEM, TVGN_CARET)));
+      break;
     case static_cast<UINT>(NM_CUSTOMDRAW):
       return customDraw(reinterpret_cast<const NMTVCUSTOMDRAW&>(header).nmcd);
     default:
@@ -218,10 +224,7 @@ void TreeView::drawRow(const NMCUSTOMDRAW& drawing) const {
   const std::size_t number = numberOf(item);
   RECT place{};
   if (number == 0 || !placeOf(item, place)) return;
-  RECT row{};
-  GetClientRect(handle(), &row);
-  row.top = place.top;
-  row.bottom = place.top + static_cast<LONG>(send(TVM_GETITEMHEIGHT));
+  const RECT row = rowAt(place);
   const bool selected = (drawing.uItemState & CDIS_SELECTED) != 0;
   const bool focused = GetFocus() == handle();
   const RowColors colors = colorsOf(selected, focused || keepsHighlight_);
@@ -253,6 +256,24 @@ void TreeView::drawText(HDC dc, const RECT& row, int left, std::u16string_view t
 bool TreeView::placeOf(HTREEITEM item, RECT& place) const {
   std::memcpy(&place, &item, sizeof item);
   return send(TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place)) != 0;
+}
+
+// The whole height of the item, of which the place of its text may be less.
+RECT TreeView::rowAt(const RECT& place) const {
+  RECT row{};
+  GetClientRect(handle(), &row);
+  row.top = place.top;
+  row.bottom = place.top + static_cast<LONG>(send(TVM_GETITEMHEIGHT));
+  return row;
+}
+
+// Where the look of a row changes, the control has its own rectangle of the item painted, which
+// need not be all that is drawn here.
+void TreeView::redrawRow(HTREEITEM item) const {
+  RECT place{};
+  if (item == nullptr || !placeOf(item, place)) return;
+  const RECT row = rowAt(place);
+  InvalidateRect(handle(), &row, FALSE);
 }
 
 bool TreeView::isCut(std::size_t number) const {

@@ -218,5 +218,23 @@ TEST_F(TreeViewDrawing, RowsLeaveNothingBetweenThem) {
   EXPECT_EQ(std::ranges::count(screenPixels(rows), kBehind), 0);
 }
 
+TEST_F(TreeViewDrawing, ARowThatIsNoLongerSelectedLeavesNothingBehind) {
+  for (int i = 0; i < 4; ++i) list().add(kShort);
+  list().setFocus();
+  const auto highlighted = [](int node) {
+    RECT row = treeNodeRect(list().handle(), node - 1).value_or(RECT{});
+    row.bottom = treeNodeRect(list().handle(), node).value_or(RECT{}).top;
+    row.left = clientRectOf(list().handle()).right - 8;
+    row.right = row.left + 4;
+    return std::ranges::count(screenPixels(row), GetSysColor(COLOR_HIGHLIGHT));
+  };
+  list().select(1);
+  EXPECT_TRUE(eventually([&] { return highlighted(1) > 0; }));
+  list().select(3);
+  EXPECT_TRUE(eventually([&] { return highlighted(3) > 0 && highlighted(1) == 0; }));
+  form().first.setFocus();
+  EXPECT_TRUE(eventually([&] { return highlighted(3) == 0; }));
+}
+
 }  // namespace
 }  // namespace support
