@@ -73,10 +73,12 @@ bool isCommonChinese(std::u16string_view word, std::uint32_t rank) {
   return rank > 0 && rank <= (word.size() > 1 ? kCommonChineseRank : kCommonCharacterRank);
 }
 
-/// "GDP" beside "gross domestic product": readers meet the short form as often.
+/// "GDP" beside "gross domestic product": readers meet the short form as often. One of two letters
+/// stands for too many things, or is a word: "AM".
 bool isAbbreviation(std::u16string_view english) {
+  constexpr std::size_t kMinLength = 3;
   constexpr std::size_t kMaxLength = 6;
-  return english.size() >= 2 && english.size() <= kMaxLength &&
+  return english.size() >= kMinLength && english.size() <= kMaxLength &&
          std::ranges::all_of(english, [](char16_t unit) {
            return isDigit(unit) || (isAsciiLetter(unit) && unit != text::foldCase(unit));
          });

@@ -166,11 +166,11 @@ TEST(ChineseSide, RatesAnAbbreviationAsItsLongForm) {
       addChineseSide({}, {{chinese(u"国内生产总值", {u"gross domestic product", u"GDP"})}, {}, {}});
   EXPECT_EQ(tierOfPair(vocabulary, u"GDP", u"国内生产总值"), Tier::kFirst);
   const Vocabulary other = addChineseSide(
-      {}, {{chinese(u"总值", {u"total", u"Gdp", u"G"}), chinese(u"值", {u"value", u"GDPGDPG"})},
+      {}, {{chinese(u"总值", {u"total", u"Gdp", u"GD"}), chinese(u"值", {u"value", u"GDPGDPG"})},
            {},
            {}});
   EXPECT_EQ(tierOfPair(other, u"Gdp", u"总值"), Tier::kOrdinary);
-  EXPECT_EQ(tierOfPair(other, u"G", u"总值"), Tier::kOrdinary);
+  EXPECT_EQ(tierOfPair(other, u"GD", u"总值"), Tier::kOrdinary);
   EXPECT_EQ(tierOfPair(other, u"GDPGDPG", u"值"), Tier::kOrdinary);
 }
 
