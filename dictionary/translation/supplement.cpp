@@ -104,6 +104,7 @@ constexpr auto kCorrected = std::to_array<Supplement>({
     {u"powerpc", u"n. PowerPC微处理器"},
     {u"rest",
      u"n. 休息, 其余者, 剩余部分, 睡眠, 静止, 稍息\\nvi. 休息, 停止, 依赖, 长眠\\nvt. 使休息"},
+    {u"shan't", u"不会, 将不, 不要, 不应该"},
     {u"terahertz", u"[电] 太赫兹"},
     {u"that's", u"那是, 那就是"},
     {u"they'd", u"他们会, 他们已经"},
