@@ -68,7 +68,7 @@ class WidgetHost : public FocusTarget {
 
  protected:
   [[nodiscard]] const std::vector<Widget*>& widgets() const { return widgets_; }
-  /// Gives the tool tips the system's font for messages at the form's DPI. Call after either has
+  /// Gives the tool tips the system's font for messages at monitorDpi(). Call after either has
   /// changed. Throws std::runtime_error if it cannot be created; the old one is kept then.
   void setToolTipFont();
 
