@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
 #include <deque>
+#include <latch>
 #include <memory>
 #include <random>
 #include <string>
@@ -148,22 +150,29 @@ TEST(ProbeMailboxThreads, NoOlderAnswerSurvivesInTenThousandInterleavings) {
 }
 
 TEST(ProbeMailboxThreads, SlowWorkersAnswerAQuestionThatIsArmedAgain) {
+  const Question question{.window = 1, .point = {2, 0}};
   Queue queue;
   ProbeMailbox mailbox([&](WindowId) { return queue.post(); });
   std::atomic<int> taken = 0;
+  std::latch armedAgain(1);
   std::thread worker([&] {
-    while (const auto question = mailbox.take()) {
+    while (const auto asked = mailbox.take()) {
       const int number = ++taken;
-      std::this_thread::sleep_for(std::chrono::milliseconds(50));
-      mailbox.deliver(answerTo(*question, number));
+      armedAgain.wait();
+      mailbox.deliver(answerTo(*asked, number));
     }
   });
   Host host(mailbox, queue, taken);
-  for (int round = 0; host.heard() == 0 && round < kRounds; ++round) {
-    host.arm({.window = 1, .point = {2, 0}});
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  host.arm(question);
+  while (taken == 0) std::this_thread::yield();
+  for (int round = 0; round < 50; ++round) {
+    host.arm(question);
     host.handle();
   }
+  // From here on nothing is armed any more: an answer that comes between two armings is dropped.
+  armedAgain.count_down();
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  while (host.heard() == 0 && std::chrono::steady_clock::now() < deadline) host.handle();
   EXPECT_EQ(host.heard(), 1);
   EXPECT_EQ(taken, 1);
   mailbox.close();
