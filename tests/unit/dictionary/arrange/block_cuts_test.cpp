@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <stdexcept>
 #include <vector>
@@ -109,6 +110,36 @@ TEST(ChooseCutsJoining, FallsBackToOneBlock) {
   EXPECT_EQ(rowsOf(cuts), (std::vector<std::size_t>{0, 1000}));
 }
 
+// A Chinese headword has up to 201 rows.
+TEST(ChooseCutsJoining, JoinsThreeBlocksAtMost) {
+  const auto rowsAround = [](std::size_t large, std::size_t blocks) {
+    std::vector<std::size_t> sizes(90, 1);
+    sizes.push_back(large);
+    sizes.insert(sizes.end(), 109, 1);
+    return rowsOf(chooseCutsJoining(wanted(sizes), blocks, 100));
+  };
+  EXPECT_EQ(rowsAround(201, 4), (std::vector<std::size_t>{0, 300, 400}));
+  EXPECT_EQ(rowsAround(301, 5), (std::vector<std::size_t>{0, 500}));
+}
+
+TEST(ChooseCutsJoining, JoinsBlocksRatherThanLosingTwoWantedPairs) {
+  EXPECT_EQ(unitsOf(chooseCutsJoining(countsOf({{11, 0, 0}, {9, 0, 1}}), 2, 10)),
+            (std::vector<std::size_t>{0, 1, 2}));
+  EXPECT_EQ(unitsOf(chooseCutsJoining(countsOf({{12, 0, 0}, {8, 0, 2}}), 2, 10)),
+            (std::vector<std::size_t>{0, 2}));
+}
+
+// The second unit crosses the places of three cuts. Only the end of the first one is near one of
+// them, 41 rows before or after it.
+TEST(ChooseCutsJoining, TakesTheNextEndOfAUnitWhereNoneIsNear) {
+  for (const PrefixCounts& counts :
+       {countsOf({{59, 0, 41}, {341, 0, 0}}), countsOf({{141, 0, 0}, {259, 0, 41}})}) {
+    const std::vector<BlockCut> cuts = chooseCutsJoining(counts, 4, 100);
+    EXPECT_EQ(unitsOf(cuts), (std::vector<std::size_t>{0, 1, 2}));
+    EXPECT_EQ(rowsOf(cuts), (std::vector<std::size_t>{0, 100, 400}));
+  }
+}
+
 // The cut with less deviation from the equal share gives up three wanted pairs.
 TEST(ChooseCuts, PrefersADeviationToLosingAWantedPair) {
   EXPECT_EQ(unitsOf(chooseCuts(countsOf({{5, 4, 2}, {6, 3, 4}, {1, 6, 4}, {2, 6, 3}}), 2, 10)),
@@ -138,6 +169,13 @@ TEST(ChooseCuts, AvoidsCutsThatCost) {
   EXPECT_EQ(rowsOf(chooseCuts(counts, 2, 90, costs)), (std::vector<std::size_t>{0, 90, 180}));
   costs.assign(counts.size(), 1);
   EXPECT_EQ(unitsOf(chooseCuts(counts, 2, 90, costs)), (std::vector<std::size_t>{0, 20, 40}));
+}
+
+TEST(ChooseCuts, MovesACutAsFarAsItPays) {
+  const PrefixCounts counts = countsOf(std::vector<TierCounts>(40, {0, 1, 1}));
+  dictionary::CutCosts costs(counts.size());
+  std::fill(costs.begin() + 11, costs.begin() + 30, 20);
+  EXPECT_EQ(unitsOf(chooseCuts(counts, 2, 20, costs)), (std::vector<std::size_t>{0, 10, 40}));
 }
 
 }  // namespace

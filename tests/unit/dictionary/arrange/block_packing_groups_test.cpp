@@ -93,34 +93,90 @@ TEST(ChoosePairs, LeavesOutExplanationsOfAnApostropheGroupFirst) {
   EXPECT_EQ(std::count(kept.begin() + 1, kept.begin() + 20, true), 0);
 }
 
-// A list ends with the block of its first headword, so that a cut is best just before a frequent
-// word.
-TEST(ChoosePairs, CutsWhereFewListsOfFrequentWordsAreShort) {
+/// A vocabulary of 400 words w000000, w000001, ... with a row each, four blocks, and as many words
+/// of a less valuable tier between them. Without frequent words, every hundredth begins a block.
+Vocabulary fourBlocks() {
   std::vector<Word> words;
   for (std::size_t i = 0; i < 400; ++i) words.push_back({numbered(u"w", i), 1});
   for (std::size_t i = 0; i < 400; ++i) words.push_back({numbered(u"w", i) + u"s", 1, Tier::kWeb});
-  Vocabulary vocabulary = vocabularyOf(words);
-  const auto headwordsAfter = [&](std::u16string_view word) {
-    const std::vector<bool> kept = choosePairs(vocabulary, {.maxRows = 400});
-    std::size_t row = 0;
-    std::size_t after = 0;
-    bool found = false;
-    for (std::size_t i = 0; i < kept.size(); ++i) {
-      if (!kept[i]) continue;
-      if (found && row % 100 == 0) break;
-      found = found || vocabulary.english[vocabulary.pairs[i].english] == word;
-      if (found) ++after;
-      ++row;
-    }
-    return after;
+  return vocabularyOf(words);
+}
+
+std::size_t indexOf(const Vocabulary& vocabulary, std::size_t number) {
+  const auto at = std::ranges::find(vocabulary.english, numbered(u"w", number));
+  return static_cast<std::size_t>(at - vocabulary.english.begin());
+}
+
+/// How many rows the list of a word has, which ends with its block.
+std::size_t listLength(const Vocabulary& vocabulary, std::size_t number,
+                       const LookupLimits& limits = {.maxRows = 400}) {
+  const std::vector<bool> kept = choosePairs(vocabulary, limits);
+  const std::size_t word = indexOf(vocabulary, number);
+  std::size_t row = 0;
+  std::size_t length = 0;
+  for (std::size_t i = 0; i < kept.size(); ++i) {
+    if (!kept[i]) continue;
+    if (length > 0 && row % 100 == 0) break;
+    if (length > 0 || vocabulary.pairs[i].english == word) ++length;
+    ++row;
+  }
+  return length;
+}
+
+// A list ends with the block of its first headword, so that a cut is best just before a frequent
+// word.
+TEST(ChoosePairs, CutsWhereFewListsOfFrequentWordsAreShort) {
+  Vocabulary vocabulary = fourBlocks();
+  EXPECT_EQ(listLength(vocabulary, 97), 3U);
+  vocabulary.ranks[indexOf(vocabulary, 97)] = 20'001;
+  EXPECT_EQ(listLength(vocabulary, 97), 3U);
+  vocabulary.ranks[indexOf(vocabulary, 97)] = 20'000;
+  EXPECT_GE(listLength(vocabulary, 97), 20U);
+}
+
+// The cut before w000096 makes the list of w000077 short, which is better than a list of four rows.
+TEST(ChoosePairs, ShortensAListRatherThanLeavingAVeryShortOne) {
+  Vocabulary vocabulary = fourBlocks();
+  for (const std::size_t number : {77U, 96U, 115U}) {
+    vocabulary.ranks[indexOf(vocabulary, number)] = 1;
+  }
+  EXPECT_GE(listLength(vocabulary, 96), 20U);
+  EXPECT_GE(listLength(vocabulary, 77), 10U);
+}
+
+// The cut is moved until the list has so many rows. The first words are the least valuable ones, so
+// that they make room for those before the cut.
+TEST(ChoosePairs, TakesAListOfTenRowsForShortAndOneOfTwentyForLong) {
+  const auto lengthOf = [](std::size_t number) {
+    Vocabulary vocabulary = fourBlocks();
+    vocabulary.ranks[indexOf(vocabulary, number)] = 1;
+    for (Pair& pair : vocabulary.pairs) pair.position = pair.english < 10 ? 1 : 0;
+    return listLength(vocabulary, number);
   };
-  const std::u16string last = numbered(u"w", 97);
-  EXPECT_LT(headwordsAfter(last), 10U);
-  const auto at = std::ranges::find(vocabulary.english, last) - vocabulary.english.begin();
-  vocabulary.ranks[static_cast<std::size_t>(at)] = 20'001;
-  EXPECT_LT(headwordsAfter(last), 10U);
-  vocabulary.ranks[static_cast<std::size_t>(at)] = 20'000;
-  EXPECT_GE(headwordsAfter(last), 20U);
+  EXPECT_EQ(lengthOf(91), 10U);
+  EXPECT_EQ(lengthOf(90), 10U);
+  EXPECT_EQ(lengthOf(82), 20U);
+  EXPECT_EQ(lengthOf(80), 20U);
+}
+
+// The ten words after w000095 share a Chinese headword of which one row is reached.
+TEST(ChoosePairs, CountsNoWordWithoutRowsForTheLengthOfAList) {
+  std::vector<Word> words;
+  for (std::size_t i = 0; i < 400; ++i) {
+    words.push_back({numbered(u"w", i), 1});
+    words.push_back({numbered(u"w", i) + u"s", 1, Tier::kWeb});
+  }
+  for (std::size_t i = 0; i < 10; ++i) words.push_back({numbered(u"w000095t", i), 1});
+  Vocabulary vocabulary = vocabularyOf(words);
+  for (Pair& pair : vocabulary.pairs) {
+    if (!vocabulary.english[pair.english].starts_with(u"w000095t")) continue;
+    pair.chinese = vocabulary.pairs[0].chinese;
+    pair.position = 1;
+  }
+  const LookupLimits limits{.maxRows = 400, .maxChineseRows = 1};
+  EXPECT_EQ(listLength(vocabulary, 95, limits), 5U);
+  vocabulary.ranks[indexOf(vocabulary, 95)] = 1;
+  EXPECT_GE(listLength(vocabulary, 95, limits), 20U);
 }
 
 }  // namespace

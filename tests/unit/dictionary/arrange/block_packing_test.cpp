@@ -179,6 +179,25 @@ TEST(ChoosePairs, KeepsWholeBlocksForRandomVocabularies) {
   }
 }
 
+// Every third word is wanted. The last word has rows for none of its pairs, so that their tier does
+// not count for that of the last row.
+TEST(ChoosePairs, TakesTheSameShareOfEveryBlockWhateverIsOutOfReach) {
+  std::vector<Word> words = singles(30);
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    words[i].tier = i % 3 == 0 ? Tier::kFirst : Tier::kOrdinary;
+  }
+  words.push_back({u"z", 10});
+  Vocabulary vocabulary = vocabularyOf(words);
+  for (std::size_t i = 30; i < 40; ++i) {
+    vocabulary.pairs[i].chinese = vocabulary.pairs[0].chinese;
+    vocabulary.pairs[i].position = 1;
+  }
+  const std::vector<bool> kept =
+      choosePairs(vocabulary, {.blockRows = 10, .maxRows = 20, .maxChineseRows = 1});
+  EXPECT_EQ(std::count(kept.begin(), kept.begin() + 15, true), 10);
+  EXPECT_EQ(std::count(kept.begin() + 15, kept.begin() + 30, true), 10);
+}
+
 /// Which pairs are kept of one headword with a pair more than a block has rows.
 std::vector<bool> keptOfTooMany(const std::vector<std::pair<Tier, std::uint8_t>>& values) {
   Vocabulary vocabulary = vocabularyOf({{u"a", values.size()}});

@@ -43,9 +43,10 @@ class Blocks {
     return flow.done();
   }
 
-  void fillEnglish() {
+  bool fillEnglish() {
     MaxFlow flow(pairs_, english_, chinese_, kept);
     flow.fillEnglish(excluded);
+    return flow.done();
   }
 
   std::vector<bool> kept;
@@ -96,7 +97,7 @@ TEST(MaxFlow, NeverAddsAnExcludedPair) {
   Blocks blocks({{0, 0, Tier::kWeb, false}}, {1}, {1});
   blocks.excluded[0] = true;
   EXPECT_FALSE(blocks.run(Tier::kImportantFirst));
-  blocks.fillEnglish();
+  EXPECT_FALSE(blocks.fillEnglish());
   EXPECT_EQ(blocks.kept, (std::vector<bool>{false}));
 }
 
@@ -104,8 +105,14 @@ TEST(MaxFlow, FillsEnglishBlocksWithoutRegardToChinese) {
   Blocks blocks({{0, 0, Tier::kWeb, false}, {0, 0, Tier::kName, false}, {1, 0, Tier::kWeb, false}},
                 {1, 1}, {0, 2});
   EXPECT_FALSE(blocks.run(Tier::kImportantFirst));
-  blocks.fillEnglish();
+  EXPECT_TRUE(blocks.fillEnglish());
   EXPECT_EQ(blocks.kept, (std::vector<bool>{false, true, true}));
+}
+
+TEST(MaxFlow, FillsARowBesideAPairThatHasOne) {
+  Blocks blocks({{0, 0, Tier::kFirst, true}, {0, 0, Tier::kWeb, false}}, {2}, {1});
+  EXPECT_TRUE(blocks.fillEnglish());
+  EXPECT_EQ(blocks.kept, (std::vector<bool>{true, true}));
 }
 
 TEST(MaxFlow, AddsTheMostValuablePair) {
