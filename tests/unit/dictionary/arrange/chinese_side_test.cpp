@@ -126,6 +126,28 @@ TEST(ChineseSide, RatesTheFirstRowOfEveryChineseHeadword) {
   EXPECT_EQ(tierOfPair(vocabulary, u"Rally", u"拉力赛"), Tier::kWeb);
 }
 
+TEST(ChineseSide, RatesTheFirstEquivalentOfSeveralWordsForAChineseHeadword) {
+  const Vocabulary vocabulary = addChineseSide(
+      collect({entry("rail", "n. 轨道, 栏杆, 扶手"), entry("railing", "n. 围栏, 扶手")}), {});
+  EXPECT_EQ(tierOfPair(vocabulary, u"rail", u"扶手"), Tier::kOrdinary);
+  EXPECT_EQ(tierOfPair(vocabulary, u"railing", u"扶手"), Tier::kFirstOfChinese);
+}
+
+TEST(ChineseSide, RatesAChineseHeadwordThatOnlyAFormGives) {
+  const Vocabulary vocabulary =
+      addChineseSide(collect({entry("railings", "n. 围栏, 扶手", false, 0, "0:railing/1:s")}), {});
+  EXPECT_EQ(tierOfPair(vocabulary, u"railings", u"扶手"), Tier::kFirstOfChinese);
+}
+
+TEST(ChineseSide, RatesTheFirstOfSeveralKnownEquivalentsOfASubject) {
+  const Vocabulary vocabulary =
+      addChineseSide(collect({entry("random variable", "[计] 随机变数, 随机变量, 变量"),
+                              entry("variable", "n. 变量"), entry("variate", "n. 随机变量")}),
+                     {{}, {}, {{u"随机变量", 90'000}, {u"变量", 90'001}}});
+  EXPECT_EQ(tierOfPair(vocabulary, u"random variable", u"随机变量"), Tier::kKnownOfSubject);
+  EXPECT_EQ(tierOfPair(vocabulary, u"random variable", u"变量"), Tier::kOfSubject);
+}
+
 // Writers use 随机变量, which a list of frequencies has; the source gives it second.
 TEST(ChineseSide, RatesTheFirstKnownEquivalentOfASubject) {
   const auto tierOfVariable = [](const char* lines, const dictionary::WordRanks& ranks) {
@@ -165,6 +187,9 @@ TEST(ChineseSide, RatesAnAbbreviationAsItsLongForm) {
   const Vocabulary vocabulary =
       addChineseSide({}, {{chinese(u"国内生产总值", {u"gross domestic product", u"GDP"})}, {}, {}});
   EXPECT_EQ(tierOfPair(vocabulary, u"GDP", u"国内生产总值"), Tier::kFirst);
+  const Vocabulary longest = addChineseSide(
+      {}, {{chinese(u"联合国教科文组织", {u"cultural organization", u"UNESCO"})}, {}, {}});
+  EXPECT_EQ(tierOfPair(longest, u"UNESCO", u"联合国教科文组织"), Tier::kFirst);
   const Vocabulary other = addChineseSide(
       {}, {{chinese(u"总值", {u"total", u"Gdp", u"GD"}), chinese(u"值", {u"value", u"GDPGDPG"})},
            {},
@@ -280,6 +305,27 @@ TEST(ChineseSide, LeavesAPlaceThatTheVocabularyGivesAlreadyToAnother) {
   EXPECT_EQ(std::ranges::count_if(all, [](auto& pair) { return pair.starts_with(u"hit="); }), 10);
 }
 
+// 行 is two entries, háng and xíng.
+TEST(ChineseSide, TakesOnePlaceForAChineseWordOfTwoEntries) {
+  ChineseSources sources = twelveWords({u"hit"}, 40'000);
+  sources.entries.push_back(sources.entries.back());
+  const auto all = texts(addChineseSide(collect({entry("hit", "v. 打", true, 50)}), sources));
+  EXPECT_EQ(std::ranges::count_if(all, [](auto& pair) { return pair.starts_with(u"hit=打"); }), 9);
+}
+
+// More than a sort without order among equals leaves in their places.
+TEST(ChineseSide, TakesWordsWithoutARankInTheOrderOfTheirSource) {
+  ChineseSources sources;
+  for (char16_t i = 0; i < 40; ++i) {
+    const std::u16string word = {u'敲', static_cast<char16_t>(u'一' + i * 7 % 40)};
+    sources.entries.push_back(chinese(word, {u"hit"}));
+  }
+  const auto all = texts(addChineseSide(collect({entry("hit", "v. 打", true, 50)}), sources));
+  for (std::size_t i = 0; i < 40; ++i) {
+    EXPECT_EQ(std::ranges::count(all, u"hit=" + sources.entries[i].word), i < 8 ? 1 : 0) << i;
+  }
+}
+
 // "娥 | good" would stand beside 好.
 TEST(ChineseSide, GivesACommonEnglishWordNoRareCharacter) {
   const auto pairs = [](std::uint32_t rank) {
@@ -305,7 +351,11 @@ TEST(ChineseSide, GivesACommonEnglishWordNoRareCharacterThatHasNothingElse) {
 }
 
 TEST(ChineseSide, LeavesNoCommonChineseWordWithoutARow) {
-  EXPECT_EQ(texts(wordsForHit(5'000, 20'000)).size(), 13U);
+  const Vocabulary all = wordsForHit(5'000, 20'000);
+  EXPECT_EQ(texts(all).size(), 13U);
+  for (const auto& pair : all.pairs) {
+    EXPECT_LT(pair.position, dictionary::Pair::kFirstExplanation);
+  }
   const auto others = texts(addChineseSide(collect({entry("hit", "v. 打", true, 50)}),
                                            twelveWords({u"hit", u"strike"}, 20'000)));
   EXPECT_EQ(std::ranges::count_if(others, [](auto& pair) { return pair.starts_with(u"hit=打"); }),

@@ -244,4 +244,10 @@ TEST(PairCollector, PutsTheNoteOnAFormBeforeWhatItTakesOver) {
   EXPECT_EQ(pairOf(vocabulary, u"asked", u"要求").position, 3U);
 }
 
+TEST(PairCollector, TakesNoWebEquivalentOfARareWordOverForItsForm) {
+  const Vocabulary vocabulary =
+      collect({entry("blog", "[网络] 博客"), entry("blogs", "", false, 0, "0:blog/1:s")});
+  EXPECT_EQ(texts(vocabulary), (Texts{u"blog=博客", u"blogs=blog的复数"}));
+}
+
 }  // namespace

@@ -97,6 +97,9 @@ TEST(Senses, OfACommonWordAreNoExpansionsOfAnAbbreviation) {
   EXPECT_EQ(words(entry("gap", "n. 缝隙, 通用汇编装置\\n[计] 通用汇编装置, 间距", 1988)),
             (Words{u"缝隙", u"间距"}))
       << "it is one wherever it stands";
+  EXPECT_EQ(words(entry("cat", "n. 猫\\n[计] 计算机测试", 1712)), (Words{u"猫"}));
+  EXPECT_EQ(words(entry("cat", "n. 猫\\n[计] 辅助测试", 1712)), (Words{u"猫", u"辅助测试"}))
+      << "too short for one";
   EXPECT_EQ(words(entry("lamps", "n. 灯\\n[计] 逻辑模拟系统", 3340)), (Words{u"灯"}));
   EXPECT_EQ(words(entry("tables", "n. 桌子\\n[计] 模拟运算表", 410)),
             (Words{u"桌子", u"模拟运算表"}))
@@ -138,6 +141,27 @@ TEST(Senses, KnowTheirPartOfSpeechAndWhetherTheyNameAForm) {
   EXPECT_EQ(senses[1].parts, setOf(dictionary::PartOfSpeech::kVerb));
   EXPECT_FALSE(senses[1].reference);
   EXPECT_TRUE(senses[2].reference);
+}
+
+// "n. 使用, 习惯\nvt. 使用, 利用\n[计] 利用"
+TEST(Senses, HaveThePartsOfSpeechAndSubjectsOfAllTheirLines) {
+  const Entry use = entry("use", "n. 使用, 习惯\\nvt. 使用, 利用\\n[计] 利用", kRare);
+  const auto senses = sensesOf(use);
+  ASSERT_EQ(senses.size(), 3U);
+  EXPECT_EQ(senses[0].parts,
+            setOf(dictionary::PartOfSpeech::kNoun) | setOf(dictionary::PartOfSpeech::kVerb));
+  EXPECT_FALSE(senses[0].subject);
+  EXPECT_EQ(*senses[2].word, u"利用");
+  EXPECT_TRUE(senses[2].subject);
+}
+
+// 子 is the tenth of the verb's, after nine that are the noun's as well.
+TEST(Senses, OfACommonWordHaveTheTurnOfTheirPlaceInALineThatRepeatsOthers) {
+  EXPECT_EQ(words(entry("cut",
+                        "n. 甲, 乙, 丙, 丁, 戊, 己, 庚, 辛, 壬, 癸, 子\\n"
+                        "vt. 甲, 乙, 丙, 丁, 戊, 己, 庚, 辛, 壬, 子",
+                        414)),
+            (Words{u"甲", u"乙", u"丙", u"丁", u"戊", u"己", u"庚", u"辛", u"壬", u"癸"}));
 }
 
 TEST(Senses, WithAWebTagAreFromTheWeb) {

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -42,6 +43,9 @@ TEST(Arrange, LinksBothTablesRowByRow) {
     if (i > 0) {
       EXPECT_LE(general.edict[i - 1].word, general.edict[i].word);
       EXPECT_LE(general.cdict[i - 1].word, general.cdict[i].word);
+      if (general.cdict[i - 1].word == general.cdict[i].word) {
+        EXPECT_LT(general.cdict[i - 1].link, general.cdict[i].link) << "English words in order";
+      }
     }
   }
 }
@@ -83,6 +87,18 @@ TEST(SubjectCollector, KeepsTheOrderOfManyEquivalents) {
   }
   const dictionary::SubjectTables tables = std::move(collector).finish();
   EXPECT_EQ(tables[static_cast<std::size_t>(Subject::kLaw)].at(0).meaning, meaning);
+}
+
+TEST(SubjectCollector, FindsAnEquivalentBetweenAnySeparators) {
+  for (const char16_t separator : std::u16string_view(u",，;；、")) {
+    dictionary::SubjectCollector collector;
+    const std::u16string meaning = std::u16string(u"云彩") + separator + u" 云团";
+    collector.add(Subject::kComputing, u"cloud", meaning);
+    collector.add(Subject::kComputing, u"cloud", u"云彩");
+    collector.add(Subject::kComputing, u"cloud", u"云团");
+    const dictionary::SubjectTables tables = std::move(collector).finish();
+    EXPECT_EQ(tables[static_cast<std::size_t>(Subject::kComputing)].at(0).meaning, meaning);
+  }
 }
 
 TEST(SubjectCollector, AddsEquivalentsOfOtherSources) {
