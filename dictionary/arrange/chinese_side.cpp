@@ -166,7 +166,7 @@ std::size_t capitalsOf(const std::u16string& text) {
 /// spelling that another source confirms stays: "AIDS", "Polish".
 void Merger::noteSpelling(std::uint32_t index, const std::u16string& english) {
   const std::u16string& known = vocabulary_.english[index];
-  if (english.size() != known.size() || capitalsOf(known) == 0) return;
+  if (capitalsOf(known) == 0) return;
   std::u16string& spelling = spellings_.try_emplace(index, english).first->second;
   if (capitalsOf(english) > capitalsOf(spelling)) spelling = english;
 }

@@ -108,7 +108,7 @@ void MaxFlow::run(Tier first, Tier last, const std::vector<bool>& excluded) {
   std::vector<std::uint32_t> usable;
   for (const std::uint32_t pair : byValue_) {
     const Tier tier = pairs_[pair].tier;
-    if (tier >= first && tier <= last && (kept_[pair] || !excluded[pair])) usable.push_back(pair);
+    if (tier >= first && tier <= last && !excluded[pair]) usable.push_back(pair);
   }
   englishEdges_ = edgesOf(english_, usable);
   std::ranges::reverse(usable);

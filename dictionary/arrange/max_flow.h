@@ -29,7 +29,7 @@ class MaxFlow {
 
   /// Adds and removes pairs of tiers from `first` to `last` until no augmenting path is left. May
   /// be called again with other tiers, and continues with the pairs kept so far. A pair whose flag
-  /// in `excluded` is set is never added.
+  /// in `excluded` is set is neither added nor removed.
   void run(Tier first, Tier last, const std::vector<bool>& excluded);
 
   /// Returns whether all English blocks are full. Both languages have the same number of rows, so

@@ -208,8 +208,7 @@ void PairCollector::followForm(const FormEntry& form, const Referred& lemma) {
   const auto other = std::ranges::find_if(fitting, [&](const Meaning& meaning) {
     return (meaning.parts & fitting.front().parts) == 0;
   });
-  if (fitting.size() > limit && other - fitting.begin() >= static_cast<std::ptrdiff_t>(limit) &&
-      other != fitting.end()) {
+  if (other != fitting.end() && other - fitting.begin() >= static_cast<std::ptrdiff_t>(limit)) {
     fitting[limit - 1] = *other;
   }
   fitting.resize(std::min(fitting.size(), limit));

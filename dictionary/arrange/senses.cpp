@@ -34,7 +34,7 @@ struct Candidate {
   bool subject = false;
   bool slang = false;
   bool program = false;  ///< see namesProgram() and isExpansion()
-  /// Best place in another line that repeats it, from 0.
+  /// Best place where a line repeats it, from 0; in its own line that is after its turn.
   std::size_t repeated = std::numeric_limits<std::size_t>::max();
 };
 
@@ -82,7 +82,7 @@ std::vector<Candidate> candidatesOf(const Entry& entry) {
           // "n. 使用, 习惯\nvt. 使用, 利用": a noun's equivalent and a verb's.
           known->sense.parts = static_cast<PartOfSpeechSet>(known->sense.parts | line.parts);
           known->sense.subject = known->sense.subject || piece.subjects != 0;
-          if (known->line != i) known->repeated = std::min(known->repeated, place);
+          known->repeated = std::min(known->repeated, place);
           // "gap | n. 缝隙, 通用汇编程序\n[计] 通用汇编程序"
           if (isExpansion(entry, line, piece)) known->program = true;
           ++place;
