@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
+#include <numeric>
 #include <string_view>
 #include <utility>
 
@@ -11,7 +13,8 @@
 // character:
 //
 //     left    its own corner
-//     right   the next character's left edge; at the end of a line, as wide as the one before
+//     right   the next character's left edge. The last character of the text has no next one: the
+//             nearest position changes at its middle, so that is where the control is asked
 //     top     its own corner
 //     bottom  the top of the next line. On the last line: as high as the line before if all lines
 //             are alike; otherwise what the formatting rectangle or the caret shows, limited by
@@ -83,11 +86,13 @@ class Line {
   }
 
   /// Returns the right edge of a character, given its left edge. The last character of the text or
-  /// of a wrapped line has no next one on its line; it counts as wide as the one before.
+  /// of a wrapped line has no next one on its line; where the control does not tell its middle, it
+  /// counts as wide as the one before.
   int rightOf(std::size_t position, int left) {
     if (const auto next = leftOf(position + 1); next && *next > left) return *next;
     const auto before = position > start_ ? leftOf(position - 1) : std::nullopt;
-    return before && *before < left ? left + (left - *before) : left + scaled(kUsualWidth);
+    const int likely = before && *before < left ? left - *before : scaled(kUsualWidth);
+    return left + widthOfLast(position, left, likely).value_or(likely);
   }
 
   /// Returns the lower edge if the places of other lines determine it: the top of the next line, or
@@ -127,6 +132,31 @@ class Line {
   /// Letter and line of the system's default fonts at kDefaultDpi, in pixels: the last resort.
   static constexpr int kUsualWidth = 8;
   static constexpr int kUsualHeight = 16;
+
+  /// Returns the width of the last character of the text, within a pixel; nullopt for others, and
+  /// if the control names no position after it.
+  std::optional<int> widthOfLast(std::size_t position, int left, int likely) {
+    // Beyond this many times the likely width, a control is taken to name no later position.
+    constexpr int kMaxTimes = 8;
+    if (next_) return std::nullopt;
+    const auto isBehindMiddle = [&](int x) {
+      const auto near = control_.positionNear({left + x, corner_.y + 1});
+      return near && *near > position;
+    };
+    int behind = likely;
+    while (!isBehindMiddle(behind)) {
+      if (behind >= kMaxTimes * likely) return std::nullopt;
+      behind *= 2;
+    }
+    int before = 0;
+    while (behind - before > 1) {
+      const int middle = std::midpoint(before, behind);
+      (isBehindMiddle(middle) ? behind : before) = middle;
+    }
+    // Where its middle is depends on how the control rounds.
+    const int width = 2 * behind;
+    return std::abs(width - likely) <= 1 ? likely : width;
+  }
 
   static int whole(double pixels) { return static_cast<int>(std::ceil(pixels)); }
 

@@ -33,6 +33,21 @@ std::size_t endOfSight(HWND control, std::size_t first) {
   return end;
 }
 
+/// Returns how many of `length` pixels in a row, from the first on, have a word. Fails the test if
+/// one of the others has one.
+template <class QuestionOf>
+int runOfWord(LONG length, QuestionOf questionOf) {
+  const auto told = [&](LONG pixel) {
+    return answerTo(questionOf(pixel)).outcome == nhw32::Outcome::kWord;
+  };
+  LONG end = 0;
+  while (end < length && told(end)) ++end;
+  for (LONG pixel = end; pixel < length; pixel += 5) {
+    EXPECT_FALSE(told(pixel)) << pixel << " pixels on";
+  }
+  return static_cast<int>(end);
+}
+
 }  // namespace
 
 std::vector<TextPoint> visibleTextPoints(HWND control, std::size_t count) {
@@ -58,15 +73,16 @@ std::vector<TextPoint> visibleTextPoints(HWND control, std::size_t count) {
 
 int wordRows(HWND control, std::size_t position) {
   const POINT corner = *characterCorner(control, position);
-  const LONG bottom = clientRectOf(control).bottom;
-  const auto told = [&](LONG y) {
-    return answerTo(questionAt(control, {corner.x + 1, y})).outcome == nhw32::Outcome::kWord;
-  };
-  LONG y = corner.y;
-  while (y < bottom && told(y)) ++y;
-  const auto rows = static_cast<int>(y - corner.y);
-  for (; y < bottom; y += 5) EXPECT_FALSE(told(y)) << y - corner.y << " pixels down";
-  return rows;
+  return runOfWord(clientRectOf(control).bottom - corner.y, [&](LONG y) {
+    return questionAt(control, {corner.x + 1, corner.y + y});
+  });
+}
+
+int wordColumns(HWND control, std::size_t position) {
+  const POINT corner = *characterCorner(control, position);
+  return runOfWord(clientRectOf(control).right - corner.x, [&](LONG x) {
+    return questionAt(control, {corner.x + x, corner.y + 2});
+  });
 }
 
 int lineDistance(HWND control, std::size_t inLine, std::size_t inNextLine) {

@@ -21,6 +21,10 @@ std::vector<TextPoint> visibleTextPoints(HWND control, std::size_t count);
 /// a word. Fails the test if it finds one again further down.
 int wordRows(HWND control, std::size_t position);
 
+/// Returns the number of pixel columns, from a character's left edge on, in which the service finds
+/// a word. Fails the test if it finds one again further right.
+int wordColumns(HWND control, std::size_t position);
+
 /// Returns the distance in pixels from one line of a control's text to the next.
 int lineDistance(HWND control, std::size_t inLine, std::size_t inNextLine);
 

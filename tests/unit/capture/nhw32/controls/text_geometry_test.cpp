@@ -128,7 +128,7 @@ TEST(ControlText, NothingBesideTheText) {
   EXPECT_EQ(under(grid, 5, -1), u"");
   EXPECT_EQ(under(grid, 5, 40), u"");
   EXPECT_EQ(under(grid, 49, 39), u"three");
-  EXPECT_EQ(under(grid, 50, 39), u"") << "the last letter is as wide as its neighbour";
+  EXPECT_EQ(under(grid, 50, 39), u"");
   EXPECT_EQ(under(Grid(u""), 5, 5), u"");
 }
 
@@ -230,13 +230,44 @@ TEST(ControlText, TheBoxOfAWordInALastLineEndsWithTheLine) {
   EXPECT_EQ(wordUnder(grid, {5, 20})->box, (ClientBox{0, 15, 150, 84}));
 }
 
-TEST(ControlText, TheOnlyLetterOfTheTextHasAWidthToo) {
-  EXPECT_EQ(under(Grid(u"a"), 7, 5), u"a");
-  EXPECT_EQ(under(Grid(u"a"), 8, 5), u"");
-  Grid larger(u"a");
-  larger.resolution = 144;
-  EXPECT_EQ(under(larger, 11, 5), u"a");
-  EXPECT_EQ(under(larger, 12, 5), u"");
+TEST(ControlText, TheLastLetterOfTheTextIsAsWideAsItIs) {
+  for (const auto& [word, width] : {std::pair{u"aim", 78}, {u"mail", 89}, {u"W", 45}, {u"l", 11}}) {
+    Arial line(word);
+    int right = 0;
+    while (wordUnder(line, {right, 5})) ++right;
+    EXPECT_NEAR(right, width, 1);
+    for (int x = right; x < 200; ++x) EXPECT_FALSE(wordUnder(line, {x, 5})) << x;
+  }
+}
+
+/// Right of the text it names the last character, as the documentation of EM_CHARFROMPOS says.
+class EndsAtItsLastLetter : public Grid {
+ public:
+  explicit EndsAtItsLastLetter(std::u16string text) : Grid(text), last_(text.size() - 1) {}
+
+  std::optional<std::size_t> positionNear(ClientPoint point) override {
+    return std::min(last_, *Grid::positionNear(point));
+  }
+
+ private:
+  int widthOf(std::size_t position) override { return position == last_ ? 3 * kWidth : kWidth; }
+
+  std::size_t last_;
+};
+
+TEST(ControlText, ALastLetterWhoseMiddleIsNotToldIsAsWideAsTheOneBefore) {
+  EndsAtItsLastLetter control(u"aim");
+  for (int x = 0; x < 30; ++x) EXPECT_TRUE(wordUnder(control, {x, 5})) << x;
+  for (int x = 30; x < 60; ++x) EXPECT_FALSE(wordUnder(control, {x, 5})) << x;
+}
+
+TEST(ControlText, TheOnlyLetterWhoseMiddleIsNotToldHasTheUsualWidthAtTheDpi) {
+  for (const auto& [dpi, width] : {std::pair{96, 8}, {144, 12}, {192, 16}}) {
+    EndsAtItsLastLetter control(u"a");
+    control.resolution = dpi;
+    EXPECT_TRUE(wordUnder(control, {width - 1, 5})) << dpi;
+    EXPECT_FALSE(wordUnder(control, {width, 5})) << dpi;
+  }
 }
 
 TEST(ControlText, TellsTheWordsBox) {
