@@ -60,6 +60,11 @@ std::optional<Word> ProbeMailbox::word() const {
   return there ? std::optional(word_) : std::nullopt;
 }
 
+bool ProbeMailbox::waitFor(std::chrono::milliseconds time) {
+  std::unique_lock lock(mutex_);
+  return changed_.wait_for(lock, time, [this] { return waiting_ || !open_; });
+}
+
 std::optional<Question> ProbeMailbox::take() {
   std::unique_lock lock(mutex_);
   changed_.wait(lock, [this] { return waiting_ || !open_; });

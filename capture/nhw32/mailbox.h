@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <functional>
 #include <mutex>
@@ -16,7 +17,7 @@ namespace nhw32 {
 /// announced to the host, once.
 ///
 /// Thread-safe. arm, disarm, withdraw, armed, word, close and reopen are for the arming thread,
-/// take and deliver for one worker. Only take blocks.
+/// waitFor, take and deliver for one worker. Only waitFor and take block.
 class ProbeMailbox {
  public:
   /// Notifies a host that a word is there; returns false if the host cannot be notified. Must not
@@ -44,6 +45,9 @@ class ProbeMailbox {
   /// Returns the announced word, otherwise nullopt.
   [[nodiscard]] std::optional<Word> word() const;
 
+  /// Blocks until there is a question or the mailbox is closed, at most `time`; returns whether one
+  /// of them is so.
+  bool waitFor(std::chrono::milliseconds time);
   /// Blocks until there is a question and returns it; returns nullopt once the mailbox is closed.
   /// Each question is to be followed by one call of deliver.
   std::optional<Question> take();

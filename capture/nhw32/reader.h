@@ -86,6 +86,9 @@ class WordReader {
   /// the caller treats any exception, such as std::bad_alloc, as Outcome::kNone. Returns within the
   /// reader's own time limit.
   virtual Answer wordAt(const Question& question) = 0;
+  /// Frees what is kept in other programs between two questions. Called when no question has come
+  /// for a while.
+  virtual void rest() {}
 };
 
 /// Returns the current time; tests pass a clock of their own.

@@ -36,14 +36,18 @@ class WindowReader : public WordReader {
     auto* const window = reinterpret_cast<HWND>(question.window);
     const ReaderKind kind = readerKindFor(classNameOf(window), realClassOf(window));
     if (kind == ReaderKind::kUia || !hasLines(question.window)) return uia_->wordAt(question);
-    auto word = kind == ReaderKind::kEdit ? editWordAt(question) : richEditWordAt(question);
+    auto word =
+        kind == ReaderKind::kEdit ? editWordAt(question) : richEditWordAt(question, memory_);
     return word ? Answer{Outcome::kWord, std::move(*word)} : Answer{};
   } catch (const NoAnswer& failure) {
     return {.outcome = failure.outcome(), .word = {}};
   }
 
+  void rest() override { memory_.free(); }
+
  private:
   std::unique_ptr<WordReader> uia_ = makeUiaReader();
+  KeptMemory memory_;
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "capture/nhw32/service.h"
 
+#include <chrono>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -53,12 +54,21 @@ std::unique_ptr<WordReader> readerOf(const ReaderFactory& factory) {
   }
 }
 
+/// The time without a question after which the reader frees what it keeps.
+constexpr std::chrono::seconds kRest{2};
+
+/// Returns the next question, nullopt at the end. The reader may rest before.
+std::optional<Question> nextQuestion(ProbeMailbox& mailbox, WordReader* reader) {
+  if (reader != nullptr && !mailbox.waitFor(kRest)) reader->rest();
+  return mailbox.take();
+}
+
 /// The worker's thread function. Per-monitor awareness makes the coordinates that Windows returns
 /// physical pixels (ScreenPoint).
 void work(ProbeMailbox& mailbox, const ReaderFactory& factory) {
   SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
   const std::unique_ptr<WordReader> reader = readerOf(factory);
-  while (const auto question = mailbox.take()) {
+  while (const auto question = nextQuestion(mailbox, reader.get())) {
     mailbox.deliver(reader == nullptr ? Answer{} : answerOf(*reader, *question));
   }
 }

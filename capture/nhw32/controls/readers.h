@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "capture/nhw32/controls/target_window.h"
 #include "capture/nhw32/reader.h"
 
 /// Reading edit and rich edit controls of any program by window messages. For the worker thread,
@@ -19,8 +20,8 @@ bool hasLines(WindowId window);
 std::optional<Word> editWordAt(const Question& question);
 
 /// The same for a rich edit control (ReaderKind::kRichEdit). Its messages take addresses of
-/// structures, which are therefore written into memory allocated in the control's own process; it
-/// is freed before the function returns, unless the control timed out and may still use it.
-std::optional<Word> richEditWordAt(const Question& question);
+/// structures, which are therefore written into `memory`, in the control's own process; it stays
+/// there for the next question.
+std::optional<Word> richEditWordAt(const Question& question, KeptMemory& memory);
 
 }  // namespace nhw32

@@ -130,8 +130,8 @@ constexpr UINT kUtf16 = 1200;  ///< code page identifier
 /// The text of a rich edit control.
 class RichEditText : public ControlText {
  public:
-  explicit RichEditText(const TargetWindow& target)
-      : target_(target), memory_(target.handle(), kMemory) {}
+  RichEditText(const TargetWindow& target, KeptMemory& memory)
+      : target_(target), memory_(memory.in(target.handle(), kMemory)) {}
 
   std::optional<std::size_t> positionNear(ClientPoint point) override {
     put(POINTL{point.x, point.y});
@@ -230,19 +230,12 @@ class RichEditText : public ControlText {
   }
 
   const TargetWindow& target_;
-  RemoteMemory memory_;
+  RemoteMemory& memory_;
 };
 
-/// Finds the word in the control's text, which is of type `Text`. The text, and with it the memory
-/// that it may hold in the other process, lives no longer than this call.
-template <class Text>
-std::optional<PlacedWord> wordIn(const TargetWindow& target, ClientPoint point) {
-  Text text(target);
-  return wordUnder(text, point);
-}
-
-template <class Text>
-std::optional<Word> readControl(const Question& question) {
+/// Reads a control; `textOf` returns its text.
+template <class TextOf>
+std::optional<Word> readControl(const Question& question, TextOf textOf) {
   const TargetWindow target(question.window);
   const HWND window = target.handle();
   if (!target.visible() || target.isPassword()) return std::nullopt;
@@ -251,7 +244,8 @@ std::optional<Word> readControl(const Question& question) {
   const TargetPoint asked = toTarget(scale, question.point);
   const ClientPoint point = toClient(window, asked);
   if (!inClientArea(window, point)) return std::nullopt;
-  auto word = wordIn<Text>(target, point);
+  auto text = textOf(target);
+  auto word = wordUnder(text, point);
   // The window may have been closed, moved or resized meanwhile.
   if (!word || !target.visible() || toClient(window, asked) != point ||
       !inClientArea(window, point)) {
@@ -265,10 +259,13 @@ std::optional<Word> readControl(const Question& question) {
 
 bool hasLines(WindowId window) { return TargetWindow(window).ask(EM_GETLINECOUNT) > 0; }
 
-std::optional<Word> editWordAt(const Question& question) { return readControl<EditText>(question); }
+std::optional<Word> editWordAt(const Question& question) {
+  return readControl(question, [](const TargetWindow& target) { return EditText(target); });
+}
 
-std::optional<Word> richEditWordAt(const Question& question) {
-  return readControl<RichEditText>(question);
+std::optional<Word> richEditWordAt(const Question& question, KeptMemory& memory) {
+  return readControl(
+      question, [&memory](const TargetWindow& target) { return RichEditText(target, memory); });
 }
 
 }  // namespace nhw32

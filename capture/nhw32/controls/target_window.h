@@ -66,12 +66,29 @@ class RemoteMemory {
   void write(std::size_t offset, const void* from, std::size_t size) const;
   void read(std::size_t offset, void* to, std::size_t size) const;
 
+  /// Returns whether the memory is there, in the process of `window`.
+  [[nodiscard]] bool isIn(HWND window) const;
+
   /// Leaves the memory allocated until the other process ends, for a control that may still use it.
   void abandon() { address_ = nullptr; }
 
  private:
   win32::OwnedKernelObject process_;
   std::byte* address_ = nullptr;
+};
+
+/// The memory for the messages of one question, kept for the next one as long as that is about a
+/// window of the same process: the pointer that rests or moves over a program takes memory from it
+/// once.
+class KeptMemory {
+ public:
+  /// Returns memory in the process of `window`, valid until the next call of a member function.
+  /// `size` is the same in all calls. Throws as the constructor of RemoteMemory does.
+  RemoteMemory& in(HWND window, std::size_t size);
+  void free() { memory_.reset(); }
+
+ private:
+  std::optional<RemoteMemory> memory_;
 };
 
 /// Gives this thread the DPI awareness of a window's process until the end of the scope, so that

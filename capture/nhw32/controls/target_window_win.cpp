@@ -111,6 +111,21 @@ void RemoteMemory::read(std::size_t offset, void* to, std::size_t size) const {
   }
 }
 
+// While a handle to the process is open, no other one gets its identifier (PROCESS_INFORMATION).
+bool RemoteMemory::isIn(HWND window) const {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return address_ != nullptr && process == GetProcessId(process_.get());
+}
+
+RemoteMemory& KeptMemory::in(HWND window, std::size_t size) {
+  if (!memory_ || !memory_->isIn(window)) {
+    memory_.reset();  // first, for the other program's sake
+    memory_.emplace(window, size);
+  }
+  return *memory_;
+}
+
 WindowScale scaleOf(HWND window) {
   // First as this thread sees the window, then as its own process does.
   WindowScale scale{.onScreen = boxOf<ScreenBox>(outerRectOf(window)), .forTarget = {}};

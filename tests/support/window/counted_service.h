@@ -48,6 +48,7 @@ class CountedService {
       ++*answers_;
       return answer;
     }
+    void rest() override { reader_->rest(); }
 
    private:
     std::unique_ptr<nhw32::WordReader> reader_ = nhw32::makeWindowReader();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <vector>
 
 #include "tests/support/data/plain_readings.h"
@@ -187,6 +188,17 @@ TEST_F(MailboxTest, ReopenKeepsAWorkerThatHasNotLeft) {
   mailbox_.deliver(wordAnswer(u"of the time before"));
   EXPECT_TRUE(announced_.empty());
   EXPECT_EQ(mailbox_.take(), kHere);
+}
+
+TEST_F(MailboxTest, AWorkerWaitsForAQuestionOrTheEndButNotForLong) {
+  using std::chrono::milliseconds;
+  EXPECT_FALSE(mailbox_.waitFor(milliseconds(1)));
+  mailbox_.arm(kHere, kHost);
+  EXPECT_TRUE(mailbox_.waitFor(milliseconds(1)));
+  EXPECT_EQ(mailbox_.take(), kHere);
+  EXPECT_FALSE(mailbox_.waitFor(milliseconds(1))) << "a question in work is no new one";
+  mailbox_.close();
+  EXPECT_TRUE(mailbox_.waitFor(milliseconds(1)));
 }
 
 }  // namespace
