@@ -15,7 +15,7 @@ constexpr std::size_t kMaxEquivalents = 6;
 
 /// Kinds of things that alternative names share, besides those of places.
 constexpr std::u16string_view kKinds =
-    u"dynasty|university|creek|reservoir|temple|empire|cuisine|ray|drive|bay|nebula|";
+    u"dynasty|university|creek|reservoir|temple|empire|cuisine|ray|drive|bay|nebula|group|range|";
 /// At the beginning of names. Alternative names share them.
 constexpr std::u16string_view kTitles = u"Cape |Mount |Mt |";
 /// Parts of "or so", "or not", "more or less", "sooner or later".

@@ -3,9 +3,11 @@
 #include <algorithm>
 
 #include "dictionary/gloss/english.h"
+#include "dictionary/gloss/names/dates.h"
 #include "dictionary/gloss/names/name_tails.h"
 #include "dictionary/gloss/names/names.h"
 #include "dictionary/gloss/names/places.h"
+#include "dictionary/gloss/names/sites.h"
 #include "dictionary/gloss/word_list.h"
 #include "dictionary/source/characters.h"
 
@@ -34,8 +36,22 @@ constexpr std::u16string_view kExamples = u" such as |";
 /// They may also continue a sentence: what comes before them has at most two words and is no verb.
 constexpr std::u16string_view kArticles = u", a |, an |, the |";
 
-/// A text does not end with them.
-constexpr std::u16string_view kOpenWords = u"in|of|on|near|at|between|under|from|before|";
+/// What follows them explains the noun before, which has at most kMaxNounWords unless it is a name.
+constexpr std::u16string_view kNounMarkers =
+    u", ancient |, like |, approx. |, c. |, as used |, with roots |, with capital |, hybrid |"
+    u", promulgated |, landed |, launched in |, currently |, feeding on |, the first |"
+    u", the second |, a type of |, a kind of |, a species of |, a variety of |, simplified |"
+    u", traditional |";
+constexpr std::size_t kMaxNounWords = 4;
+/// The same after names.
+constexpr std::u16string_view kNameMarkers =
+    u", north |, south |, east |, west |, national |, king of |, standing |, scene of | son of |";
+/// Those that follow a place, of which " in " may tell where it is: "Dharamsala in Himachal
+/// Pradesh, north India".
+constexpr std::u16string_view kPlaceMarkers = u", north |, south |, east |, west |, scene of |";
+
+/// The most words of a place and where it is.
+constexpr std::size_t kMaxLocatedWords = 4;
 
 bool isVerb(std::u16string_view gloss) { return gloss.starts_with(u"to "); }
 
@@ -45,16 +61,6 @@ std::size_t findMarker(std::u16string_view list, std::u16string_view gloss) {
   forEachListed(
       list, [&](std::u16string_view marker) { first = std::min(first, gloss.find(marker, 1)); });
   return first;
-}
-
-/// Cuts a name before its date: "Xia dynasty c. 2000 BC", "scary to think about coined c. 2013".
-std::u16string_view withoutDate(std::u16string_view gloss) {
-  std::size_t at = gloss.find(u" coined c. ");
-  if (at == std::u16string_view::npos && isCapital(gloss[0])) at = gloss.find(u" c. ");
-  if (at == std::u16string_view::npos) return gloss;
-  const std::u16string_view before = gloss.substr(0, at);
-  const std::u16string_view finalWord = lastWord(before);
-  return isListed(kOpenWords, finalWord) || before.ends_with(u',') ? gloss : before;
 }
 
 /// The place of a colon that an explanation follows; the size of `gloss` if there is none. "Mao:
@@ -100,7 +106,7 @@ std::u16string_view withoutArticleTail(std::u16string_view gloss, bool phrase) {
 }
 
 std::u16string_view withoutMarked(std::u16string_view gloss, bool phrase) {
-  gloss = withoutDate(gloss);
+  gloss = withoutRoughDate(gloss);
   const bool alternates = gloss.starts_with(u"now ");  // "now hot, now cold"
   if (!alternates) gloss = gloss.substr(0, findMarker(kMarkers, gloss));
   gloss = gloss.substr(0, std::min(findColon(gloss), findCapital(gloss)));
@@ -111,43 +117,46 @@ std::u16string_view withoutMarked(std::u16string_view gloss, bool phrase) {
   return withoutArticleTail(gloss, phrase);
 }
 
-/// Removes the preposition before what was cut: "Li Ji Rebellion in", with the part between commas
-/// that it ends: "Three Anti campaign, early PRC purge of".
-std::u16string_view withoutOpenEnd(std::u16string_view gloss) {
-  const std::u16string_view last = lastWord(gloss);
-  if (!isListed(kOpenWords, last) || last.size() == gloss.size()) return gloss;
-  const std::size_t comma = gloss.rfind(u", ");
-  return gloss.substr(0,
-                      comma == 0 ? gloss.size() : std::min(comma, gloss.size() - last.size() - 1));
+/// Cuts a noun before what is told of it: "cuju, ancient Chinese football", "Snake island viper,
+/// feeding on migrating birds".
+std::u16string_view withoutNounTail(std::u16string_view gloss) {
+  if (isVerb(gloss) || beginsClause(gloss)) return gloss;
+  const std::u16string_view noun = gloss.substr(0, findMarker(kNounMarkers, gloss));
+  // "a person who, like a pig, is fat"
+  if (isListed(u"who|that|which|", lastWord(noun))) return gloss;
+  if (!isCapital(gloss[0])) return wordCount(noun) <= kMaxNounWords ? noun : gloss;
+  const std::u16string_view name = noun.substr(0, findMarker(kNameMarkers, noun));
+  const bool located = !listedBeginning(kPlaceMarkers, noun.substr(name.size())).empty();
+  return name.substr(0, located ? name.find(u" in ") : name.size());
 }
 
-/// Removes years at the end: "Lord Kelvin 1824-1907", "the First Emperor 259-210 BC".
-std::u16string_view withoutYears(std::u16string_view gloss) {
-  std::u16string_view rest = gloss;
-  if (rest.ends_with(u" BC") || rest.ends_with(u" AD")) rest.remove_suffix(3);
-  const std::u16string_view last = lastWord(rest);
-  const bool years = last.size() >= 7 && last.size() < rest.size() && isDigit(last[0]) &&
-                     isDigit(last.back()) && last.find(u'-') != std::u16string_view::npos &&
-                     last.find_first_not_of(u"0123456789-") == std::u16string_view::npos;
-  if (!years) return gloss;
-  rest.remove_suffix(last.size() + 1);
-  // "1837-1941 and 1945-1997": the first span is part of the text.
-  return lastWord(rest) == u"and" ? gloss : withoutOpenEnd(rest);
+/// Cuts everything but the place of a name.
+std::u16string_view withoutExplanation(std::u16string_view gloss, bool phrase) {
+  gloss = withoutMarked(gloss, phrase);
+  gloss = withoutAuthor(gloss);
+  if (!phrase) gloss = withoutNameTail(withoutNounTail(gloss));
+  return withoutYears(gloss);
 }
 
 }  // namespace
 
 std::u16string_view withoutApposition(std::u16string_view gloss, bool phrase) {
   if (endsAsSentence(gloss)) return gloss;
-  gloss = withoutMarked(gloss, phrase);
-  gloss = withoutAuthor(gloss);
-  if (!phrase) gloss = withoutNameTail(gloss);
-  return withoutPlaceTail(withoutYears(gloss));
+  gloss = withoutPlaceTail(withoutExplanation(gloss, phrase));
+  return phrase ? gloss : withoutSite(gloss);
 }
 
 bool describesPlace(std::u16string_view gloss) {
+  const std::u16string_view named =
+      endsAsSentence(gloss) ? gloss : withoutExplanation(gloss, false);
+  const std::u16string_view site = withoutSite(named);
+  if (namesPeople(site)) return false;  // "Li ethnic group of Hainan Province"
+  // "Bamay in Dawu County" and "Mt Mengliang in Mengyin county" are places, "Jinan University in
+  // Guangdong Province" is none.
+  const bool placed = site.size() < named.size() || wordCount(named) <= kMaxLocatedWords;
+  if (placed && namesKindOfPlace(named)) return true;
+  if (namesKindOfPlace(withoutPlaceTail(named))) return true;
   const std::vector<std::u16string_view> parts = partsBetweenCommas(gloss);
-  if (namesKindOfPlace(withoutApposition(gloss, false))) return true;
   if (parts.size() == 1 || !isName(parts[0])) return false;
   std::u16string_view tail = parts[1];
   tail.remove_prefix(listedBeginning(u"a |an |the |", tail).size());

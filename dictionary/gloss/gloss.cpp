@@ -10,6 +10,7 @@
 #include "dictionary/gloss/appositions.h"
 #include "dictionary/gloss/descriptions.h"
 #include "dictionary/gloss/english.h"
+#include "dictionary/gloss/names/sites.h"
 #include "dictionary/gloss/notes.h"
 #include "dictionary/gloss/symbols.h"
 #include "dictionary/gloss/word_list.h"
@@ -215,6 +216,9 @@ class GlossParser {
       for (const std::u16string& name : namesWithKind(text)) {
         const std::optional<std::u16string> word = englishHeadword(name, phrase_ || figurative_);
         if (word) add(*word, subjects, valueOf(*word, described, usage || meaning.usage));
+        const std::u16string people(nameOfPeople(name));
+        if (people.empty()) continue;
+        add(people, subjects, valueOf(people, described, usage || meaning.usage));
       }
     }
     for (const std::u16string& initials : {noted.initials, plain.initials}) {

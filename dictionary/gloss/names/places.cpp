@@ -57,15 +57,13 @@ bool locates(std::u16string_view name, std::u16string_view tail) {
 
 std::u16string_view withoutPlaceTail(std::u16string_view gloss) {
   if (!isCapital(gloss[0])) return gloss;
-  const bool longName = wordCount(gloss) > 4;
   bool name = true;  // whether all words so far belong to a proper name
   std::u16string_view before;
   std::size_t count = 0;
   for (std::size_t at = 0; at < gloss.size(); ++count) {
     const std::u16string_view word = firstWord(gloss.substr(at));
     const bool place = count > 1 && isKindOfPlace(before);
-    const bool located =
-        longName && name && count > 0 && locates(gloss.substr(0, at - 1), gloss.substr(at));
+    const bool located = name && count > 0 && locates(gloss.substr(0, at - 1), gloss.substr(at));
     const bool site =
         count > 1 && isListed(kSites, lowered(before)) && isListed(kBeforePlace, word);
     if (site) return gloss.substr(0, at - 1);

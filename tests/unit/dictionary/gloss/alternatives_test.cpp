@@ -88,6 +88,17 @@ TEST(NamesWithKind, GivesEachNameTheKind) {
   EXPECT_EQ(namesWithKind(u"Mt Meru or Sumeru"), (Names{u"Mt Meru", u"Mt Sumeru"}));
 }
 
+// "仡佬族 | Gelao or Klau ethnic group of Guizhou", "土族 | Tu or White Mongol ethnic group …",
+// "唐古拉 | Dangla or Tanggula mountain range on …"
+TEST(NamesWithKind, ReadsPeoplesAndMountains) {
+  EXPECT_EQ(namesWithKind(u"Gelao or Klau ethnic group"),
+            (Names{u"Gelao ethnic group", u"Klau ethnic group"}));
+  EXPECT_EQ(namesWithKind(u"Tu or White Mongol ethnic group"),
+            (Names{u"Tu ethnic group", u"White Mongol ethnic group"}));
+  EXPECT_EQ(namesWithKind(u"Dangla or Tanggula mountain range"),
+            (Names{u"Dangla mountain range", u"Tanggula mountain range"}));
+}
+
 // "毕宿五 | Aldebaran or Alpha Tauri", "立夏 | Lixia or Start of Summer, …", "金瓶梅 | Jinpingmei
 // or the Golden Lotus", "罗姗 | Roxanne or Roxane or Rosanna", "象牙海岸 | Côte d'Ivoire or Ivory
 // Coast"

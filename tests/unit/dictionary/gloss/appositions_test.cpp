@@ -232,6 +232,50 @@ TEST(WithoutApposition, TellsExplanationsFromMeanings) {
             u"state in the south of it");
 }
 
+// "蹴鞠 | cuju, ancient Chinese football (soccer)", "狮虎兽 | liger, hybrid cross between …", "远志
+// | milkwort (…), with roots used in Chinese medicine", "阴平 | high and level tone, the first tone
+// of putonghua", "里 | li, ancient measure of length, approx. 500 m", "羊脂白玉 | sheep-fat white
+// jade, a type of jade", "隔音符号 | apostrophe, as used in pinyin orthography"
+TEST(WithoutApposition, CutsWhatIsToldOfANoun) {
+  EXPECT_EQ(withoutApposition(u"cuju, ancient Chinese football"), u"cuju");
+  EXPECT_EQ(withoutApposition(u"liger, hybrid cross between a lion and a tigress"), u"liger");
+  EXPECT_EQ(withoutApposition(u"milkwort, with roots used in Chinese medicine"), u"milkwort");
+  EXPECT_EQ(withoutApposition(u"high and level tone, the first tone of putonghua"),
+            u"high and level tone");
+  EXPECT_EQ(withoutApposition(u"li, ancient measure of length, approx. 500 m"), u"li");
+  EXPECT_EQ(withoutApposition(u"sheep-fat white jade, a type of jade"), u"sheep-fat white jade");
+  EXPECT_EQ(withoutApposition(u"apostrophe, as used in pinyin orthography"), u"apostrophe");
+}
+
+// "胡姬花 | Vanda miss joaquim (hybrid orchid), national flower of Singapore", "乌齐雅 | Uzziah son
+// of Amaziah, king of Judah c. 750 BC", "东方红 | The East is Red, north Shaanxi folk song",
+// "达兰萨拉 | Dharamsala in Himachal Pradesh, north India, home of …", "蛇岛蝮 | Snake island viper
+// (…), feeding on migrating birds", "国徽法 | Law on the National Emblem of the PRC, promulgated in
+// 1991"
+TEST(WithoutApposition, CutsWhatIsToldOfAName) {
+  EXPECT_EQ(withoutApposition(u"Vanda miss joaquim, national flower of Singapore"),
+            u"Vanda miss joaquim");
+  EXPECT_EQ(withoutApposition(u"Uzziah son of Amaziah, king of Judah"), u"Uzziah");
+  EXPECT_EQ(withoutApposition(u"The East is Red, north Shaanxi folk song"), u"The East is Red");
+  EXPECT_EQ(withoutApposition(u"Dharamsala in Himachal Pradesh, north India, home of"),
+            u"Dharamsala");
+  EXPECT_EQ(withoutApposition(u"Snake island viper, feeding on migrating birds"),
+            u"Snake island viper");
+  EXPECT_EQ(withoutApposition(u"Law on the National Emblem of the PRC, promulgated in 1991"),
+            u"Law on the National Emblem of the PRC");
+}
+
+// "猪精 | … a person who, like a pig, is fat and ugly …", "有其父必有其子 | like father, like son
+// (idiom)", "天香国色 | divine fragrance, national grace (idiom); …", "角 | unit of money …"
+TEST(WithoutApposition, CutsNoClauseOrLongText) {
+  for (const std::u16string_view gloss :
+       {u"a person who, like a pig, is fat", u"like father, like son",
+        u"divine fragrance, national grace", u"to sing, like a bird",
+        u"one of five or six words, the first in a row"}) {
+    EXPECT_EQ(withoutApposition(gloss, false), gloss);
+  }
+}
+
 // "普定县 | Puding, a county in Anshun City, Guizhou", "榆次区 | Yuci district of Jinzhong city"
 TEST(DescribesPlace, ReadsNameAndApposition) {
   EXPECT_TRUE(describesPlace(u"Puding, a county in Anshun City, Guizhou"));
@@ -241,6 +285,16 @@ TEST(DescribesPlace, ReadsNameAndApposition) {
   EXPECT_FALSE(describesPlace(u"Karl Marx, German philosopher"));
   EXPECT_FALSE(describesPlace(u"city wall"));
   EXPECT_FALSE(describesPlace(u"wild dog"));
+}
+
+// "八美 | Bamay in Dawu County 道孚縣|道孚县…", "伊通火山群 | Yitong volcanic area in Yitong …
+// autonomous county …", "黎 | Li ethnic group of Hainan Province", "暨南大学 | Jinan University in
+// Guangdong Province, …"
+TEST(DescribesPlace, ReadsWhereTheNameIs) {
+  EXPECT_TRUE(describesPlace(u"Bamay in Dawu County, Sichuan"));
+  EXPECT_TRUE(describesPlace(u"Yitong volcanic area in Yitong Manchurian autonomous county"));
+  EXPECT_FALSE(describesPlace(u"Li ethnic group of Hainan Province"));
+  EXPECT_FALSE(describesPlace(u"Jinan University in Guangdong Province, with 4 campuses"));
 }
 
 }  // namespace

@@ -190,6 +190,16 @@ TEST(ParseGloss, TakesTheMeaningThatAVariantTells) {
   EXPECT_EQ(parseGloss(u"variant of 惡|恶[e4], used in names").references.size(), 1U);
 }
 
+// "傈僳 | Lisu ethnic group of Yunnan", "仡佬族 | Gelao or Klau ethnic group of Guizhou", "回族 |
+// Hui Islamic ethnic group living across China"
+TEST(ParseGloss, GivesTheNamesOfPeoples) {
+  EXPECT_EQ(texts(u"Lisu ethnic group of Yunnan"), (Texts{u"Lisu ethnic group", u"Lisu"}));
+  EXPECT_EQ(texts(u"Gelao or Klau ethnic group of Guizhou"),
+            (Texts{u"Gelao ethnic group", u"Gelao", u"Klau ethnic group", u"Klau"}));
+  EXPECT_EQ(texts(u"Hui Islamic ethnic group living across China"),
+            (Texts{u"Hui Islamic ethnic group"}));
+}
+
 // "骨都都 | (onom.) for plopping sound", "咕咚 | (onom.) for heavy things falling down"
 TEST(ParseGloss, DescribesSounds) {
   EXPECT_EQ(texts(u"(onom.) for heavy things falling down"), (Texts{u"heavy things falling down"}));
