@@ -8,6 +8,7 @@
 #include "dictionary/gloss/names/names.h"
 #include "dictionary/gloss/names/places.h"
 #include "dictionary/gloss/names/sites.h"
+#include "dictionary/gloss/noun_tails.h"
 #include "dictionary/gloss/word_list.h"
 #include "dictionary/source/characters.h"
 
@@ -35,20 +36,6 @@ constexpr std::u16string_view kExamples = u" such as |";
 
 /// They may also continue a sentence: what comes before them has at most two words and is no verb.
 constexpr std::u16string_view kArticles = u", a |, an |, the |";
-
-/// What follows them explains the noun before, which has at most kMaxNounWords unless it is a name.
-constexpr std::u16string_view kNounMarkers =
-    u", ancient |, like |, approx. |, c. |, as used |, with roots |, with capital |, hybrid |"
-    u", promulgated |, landed |, launched in |, currently |, feeding on |, the first |"
-    u", the second |, a type of |, a kind of |, a species of |, a variety of |, simplified |"
-    u", traditional |";
-constexpr std::size_t kMaxNounWords = 4;
-/// The same after names.
-constexpr std::u16string_view kNameMarkers =
-    u", north |, south |, east |, west |, national |, king of |, standing |, scene of | son of |";
-/// Those that follow a place, of which " in " may tell where it is: "Dharamsala in Himachal
-/// Pradesh, north India".
-constexpr std::u16string_view kPlaceMarkers = u", north |, south |, east |, west |, scene of |";
 
 /// The most words of a place and where it is.
 constexpr std::size_t kMaxLocatedWords = 4;
@@ -115,19 +102,6 @@ std::u16string_view withoutMarked(std::u16string_view gloss, bool phrase) {
   const std::u16string_view named = gloss.substr(0, findMarker(kExamples, gloss));
   if (wordCount(named) > 1 && !beginsClause(named)) gloss = named;
   return withoutArticleTail(gloss, phrase);
-}
-
-/// Cuts a noun before what is told of it: "cuju, ancient Chinese football", "Snake island viper,
-/// feeding on migrating birds".
-std::u16string_view withoutNounTail(std::u16string_view gloss) {
-  if (isVerb(gloss) || beginsClause(gloss)) return gloss;
-  const std::u16string_view noun = gloss.substr(0, findMarker(kNounMarkers, gloss));
-  // "a person who, like a pig, is fat"
-  if (isListed(u"who|that|which|", lastWord(noun))) return gloss;
-  if (!isCapital(gloss[0])) return wordCount(noun) <= kMaxNounWords ? noun : gloss;
-  const std::u16string_view name = noun.substr(0, findMarker(kNameMarkers, noun));
-  const bool located = !listedBeginning(kPlaceMarkers, noun.substr(name.size())).empty();
-  return name.substr(0, located ? name.find(u" in ") : name.size());
 }
 
 /// Cuts everything but the place of a name.

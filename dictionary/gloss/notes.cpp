@@ -26,6 +26,8 @@ using namespace std::string_view_literals;
 
 constexpr std::u16string_view kOpenWords =
     u"a|an|the|and|or|than|that|sb's|one's|my|your|his|no|neither|";
+/// Words that need the noun in a note: "using several (methods)".
+constexpr std::u16string_view kBeforeNouns = u"several|different|this|first|";
 constexpr std::u16string_view kPrepositions =
     u"of|to|with|for|as|in|on|at|from|by|into|like|about|between|without|";
 /// They go on after the years of a treaty or an age.
@@ -272,7 +274,8 @@ class NoteRemover {
         after, [](char16_t unit) { return u" .!?,;"sv.find(unit) != std::u16string_view::npos; });
     if (known || !last || before.empty() || wordCount(note.content) > kMaxKeptWords) return false;
     const std::u16string_view word = lastWord(before);
-    if (isListed(kOpenWords, word)) return true;
+    const bool noun = isListed(kBeforeNouns, word) && wordCount(note.content) == 1;
+    if (noun || isListed(kOpenWords, word)) return true;
     if (!isListed(kPrepositions, word) || before.starts_with(u"to ")) return false;
     if (isListed(kPlaceholders, note.content)) return false;
     // "a mountain of (paperwork etc)", but "short of (money, time etc)"

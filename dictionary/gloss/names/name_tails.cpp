@@ -18,7 +18,8 @@ constexpr std::u16string_view kRestrictions = u"excluding |except |seen as |";
 
 /// Works that have a title and an author.
 constexpr std::u16string_view kWorks =
-    u"novel|movie|film|comedy|tragedy|play|opera|poem|story|book|textbook|painting|musical|";
+    u"novel|movie|film|comedy|tragedy|play|opera|poem|story|book|textbook|painting|musical|"
+    u"fiction|";
 
 /// Small words inside titles, besides those of other names.
 constexpr std::u16string_view kInTitles = u"a|an|in|on|to|with|at|from|";
@@ -153,7 +154,9 @@ std::u16string_view withoutAuthor(std::u16string_view gloss) {
   const std::vector<std::u16string_view> parts = partsBetweenCommas(gloss);
   for (std::size_t i = 1; i < parts.size(); ++i) {
     const auto before = static_cast<std::size_t>(parts[i].data() - gloss.data()) - 2;
-    if (namesWork(parts[i]) && isCapital(gloss[0])) return gloss.substr(0, before);
+    // "story of Liu Yi", but "book" is the kind of work itself.
+    const bool title = isCapital(gloss[0]) || wordCount(parts[0]) > 1;
+    if (title && namesWork(parts[i])) return gloss.substr(0, before);
   }
   return gloss;
 }

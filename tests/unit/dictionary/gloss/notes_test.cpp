@@ -22,6 +22,16 @@ TEST(WithoutGlossNotes, RemovesNotes) {
   EXPECT_EQ(text(u"Karl Marx (1818-1883), philosopher"), u"Karl Marx, philosopher");
 }
 
+// "兼施 | using several (methods)", "这位 | this (person)", "杂七杂八 | lots of different
+// (skills)", "今 | this (day, year etc)", "变声 | to sound different (when angry etc)"
+TEST(WithoutGlossNotes, KeepsTheNounAtTheEnd) {
+  EXPECT_EQ(text(u"using several (methods)"), u"using several methods");
+  EXPECT_EQ(text(u"this (person)"), u"this person");
+  EXPECT_EQ(text(u"lots of different (skills)"), u"lots of different skills");
+  EXPECT_EQ(text(u"this (day, year etc)"), u"this");
+  EXPECT_EQ(text(u"to sound different (when angry etc)"), u"to sound different");
+}
+
 // "谭盾 | Tan Dun (1957-) Chinese composer", "高云 | Gao Yun (died 409) emperor of …", "大禹 | Yu
 // the Great (c. 21st century BC) mythical leader …", "尼布楚条约 | Treaty of Nerchinsk (1689)
 // between …", "郕 | Zhou Dynasty (1046–256 BCE) vassal state", "魏晋 | Wei (220-265) and Jin

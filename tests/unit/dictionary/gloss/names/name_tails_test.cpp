@@ -24,6 +24,12 @@ TEST(WithoutAuthor, CutsTitles) {
             u"Crouching Tiger, Hidden Dragon");
 }
 
+// "柳毅传 | story of Liu Yi, Tang fantasy fiction by Li Chaowei …"
+TEST(WithoutAuthor, CutsStories) {
+  EXPECT_EQ(withoutAuthor(u"story of Liu Yi, Tang fantasy fiction by Li Chaowei"),
+            u"story of Liu Yi");
+}
+
 // "大唐狄公案 | Three Murder Cases Solved by Judge Dee, 1949 novel by …", "黄鹤楼 | Tang poem by
 // Cui Hao", "恩准 | approved by His (or Her) Majesty", "举贤良对策 | Treatise 134 BC by Han dynasty
 // …"
