@@ -25,6 +25,9 @@ constexpr std::u16string_view kSites =
     u"temple|monastery|caves|grotto|grottoes|plain|cemetery|museum|university|palace|pagoda|";
 /// In other texts they may mean anything: "the Law of the Sea".
 constexpr std::u16string_view kWaters = u"sea|ocean|falls|pool|port|pole|state|states|";
+/// What follows these tells what they are for: "State Administration Committee on Military Products
+/// Trade".
+constexpr std::u16string_view kOffices = u"Committee|Government|Commission|Office|";
 /// In small letters.
 constexpr std::u16string_view kProvinces =
     u"anhui|beijing|chongqing|fujian|gansu|guangdong|guangxi|guizhou|hainan|hebei|heilongjiang|"
@@ -48,6 +51,7 @@ bool namesPlace(std::u16string_view text, std::u16string_view list) {
 bool locates(std::u16string_view name, std::u16string_view tail) {
   const std::u16string_view word = firstWord(tail);
   if (!isListed(kAfterPlace, word) || word == u"of") return false;
+  if (isListed(kOffices, lastWord(name))) return false;
   // "River on a Spring Night" is no river of that name.
   return (wordCount(name) > 1 && namesPlace(name, kWaters)) ||
          (isListed(kBeforePlace, word) && namesPlace(tail, kProvinces));

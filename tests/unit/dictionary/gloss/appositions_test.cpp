@@ -142,11 +142,28 @@ TEST(WithoutApposition, CutsNoTitleAtAPreposition) {
   EXPECT_EQ(withoutApposition(u"Lushan at the north of Jiangxi Province"), u"Lushan");
 }
 
+// "国家军品贸易管理委员会 | State Administration Committee on Military Products Trade (SACMPT)",
+// "中央 人民政府驻香港特别行政区联络办公室 | Liaison Office of the Central People's Government in
+// the Hong Kong Special Administrative Region"
+TEST(WithoutApposition, KeepsWhatAnOfficeIsFor) {
+  for (const std::u16string_view gloss :
+       {u"State Administration Committee on Military Products Trade",
+        u"Liaison Office of the Central People's Government in the Hong Kong Special Region"}) {
+    EXPECT_EQ(withoutApposition(gloss), gloss);
+  }
+}
+
 // "虎跳峡 | Tiger Leaping Gorge on the Jinsha River …", "爱尔兰海 | Irish Sea between Ireland and
 // north England", "鹿野乡 | Luye or Luyeh township …"
 TEST(WithoutApposition, CutsWhereTheNameIsAPlace) {
   EXPECT_EQ(withoutApposition(u"Tiger Leaping Gorge on the Jinsha River"), u"Tiger Leaping Gorge");
   EXPECT_EQ(withoutApposition(u"Irish Sea between Ireland and north England"), u"Irish Sea");
+}
+
+// "吐鲁番盆地 | the Turpan Depression in Xinjiang", "淯水 | old name of Baihe 白河 in Henan"
+TEST(WithoutApposition, CutsShortNamesOfPlaces) {
+  EXPECT_EQ(withoutApposition(u"Turpan Depression in Xinjiang"), u"Turpan Depression");
+  EXPECT_EQ(withoutApposition(u"Baihe in Henan"), u"Baihe");
 }
 
 // "忽冷忽热 | now hot, now cold", "大球 | sports such as soccer, basketball and volleyball that use
