@@ -117,7 +117,7 @@ std::u16string_view withoutExplanation(std::u16string_view gloss, bool phrase) {
 std::u16string_view withoutApposition(std::u16string_view gloss, bool phrase) {
   if (endsAsSentence(gloss)) return gloss;
   gloss = withoutPlaceTail(withoutExplanation(gloss, phrase));
-  return phrase ? gloss : withoutSite(gloss);
+  return phrase ? gloss : withoutYears(withoutSite(gloss));
 }
 
 bool describesPlace(std::u16string_view gloss) {

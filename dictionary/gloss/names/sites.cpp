@@ -12,18 +12,20 @@ namespace {
 constexpr std::u16string_view kMountains = u"Mt |Mount |Lake |";
 /// They end such a name, with a capital or without one.
 constexpr std::u16string_view kBuilt =
-    u"range|gate|dam|basin|valley|plateau|bridge|grassland|grasslands|fort|mausoleum|tomb|reserve|"
-    u"shrine|bay|tower|volcano|park|temple|";
+    u"range|chain|gate|dam|basin|valley|plateau|depression|bridge|grassland|grasslands|fort|"
+    u"mausoleum|tomb|reserve|shrine|bay|tower|volcano|park|temple|station|palisade|dynasty|";
 /// They end it in small letters only: "Human Rights in China" is an organisation.
 constexpr std::u16string_view kSmallKinds =
-    u"area|neighborhood|group|minority|system|prefecture|state|language|kingdom|school|";
+    u"area|neighborhood|borough|sultanate|opera|dialect|group|minority|system|prefecture|state|"
+    u"language|kingdom|school|";
 /// What follows them is the place.
 constexpr std::u16string_view kLocating =
-    u"in|over|across|around|along|between|near|at|on|living|south|north|east|west|southwest|"
+    u"in|over|across|around|along|between|near|at|on|living|spoken|south|north|east|west|southwest|"
     u"southeast|northwest|northeast|";
 /// "of" tells the place of these, rather than being part of the name: "Tiantai school of Buddhism".
 constexpr std::u16string_view kOfPlaces =
-    u"neighborhood|group|minority|state|language|kingdom|plateau|people|area|grasslands|";
+    u"neighborhood|group|minority|state|language|kingdom|plateau|people|area|grasslands|"
+    u"borough|sultanate|opera|dynasty|chain|";
 constexpr std::u16string_view kPeoples = u" ethnic group| ethnic minority|";
 /// They stand before the name of a place: "west India".
 constexpr std::u16string_view kDirections =
@@ -72,20 +74,40 @@ bool isSite(std::u16string_view text) {
   return words && (isListed(kBuilt, last) || isListed(kSmallKinds, last) || last == u"people");
 }
 
+/// Returns whether the text is a treaty or a war, of which "between" tells the parties.
+bool hasParties(std::u16string_view text) {
+  return (text.starts_with(u"Treaty of ") && areNameWords(text)) ||
+         (text.ends_with(u" War") && areCapitalized(text));
+}
+
 /// Returns whether the text before the preposition ends there, as what follows is a place.
 bool endsBefore(std::u16string_view name, std::u16string_view tail) {
   const std::u16string_view word = firstWord(tail);
   const std::u16string_view place = withoutFirstWord(tail);
   if (isMountain(name)) return isListed(u"in|near|at|on|between|", word);
+  if (word == u"between" && hasParties(name)) return beginsWithPlace(place);
   const std::u16string_view kind = lastWord(name);
   // "Zhou Dynasty state of Chu" is the state of that name, "Zhou Dynasty vassal state" any of them.
   if (kind == u"state" && wordCount(name) > 2) return false;
-  if (word == u"of") return isListed(kOfPlaces, kind) && beginsWithPlace(place) && isSite(name);
+  if (word == u"of")
+    return isListed(kOfPlaces, lowered(kind)) && beginsWithPlace(place) && isSite(name);
   // "Klondike in northwest Canada"
   const bool directed = word == u"in" && isListed(kDirections, firstWord(place)) &&
                         beginsWithPlace(place) && wordCount(name) <= 2 && areCapitalized(name);
   // "Extraordinary people in our ordinary world" is a title.
   return directed || (isListed(kLocating, word) && kind != u"people" && isSite(name));
+}
+
+/// Cuts a name before its town and province: "Mountain Villa in Suzhou, Jiangsu".
+std::u16string_view withoutTown(std::u16string_view gloss) {
+  const std::size_t comma = gloss.find(u", ");
+  if (comma == gloss.npos) return gloss;
+  const std::u16string_view province = gloss.substr(comma + 2);
+  const std::size_t at = gloss.rfind(u" in ", comma);
+  if (at == gloss.npos || wordCount(province) != 1 || !areCapitalized(province)) return gloss;
+  std::u16string_view town = gloss.substr(at + 4, comma - at - 4);
+  if (isListed(kDirections, firstWord(town))) town = withoutFirstWord(town);
+  return !town.empty() && areCapitalized(town) ? gloss.substr(0, at) : gloss;
 }
 
 /// The words behind the name of a people; empty if `text` does not end with them.
@@ -100,7 +122,7 @@ std::u16string_view withoutSite(std::u16string_view gloss) {
   for (std::size_t at = gloss.find(u' '); at < gloss.size(); at = gloss.find(u' ', at + 1)) {
     if (endsBefore(gloss.substr(0, at), gloss.substr(at + 1))) return gloss.substr(0, at);
   }
-  return gloss;
+  return withoutTown(gloss);
 }
 
 bool namesPeople(std::u16string_view text) {

@@ -160,6 +160,12 @@ TEST(WithoutApposition, CutsWhereTheNameIsAPlace) {
   EXPECT_EQ(withoutApposition(u"Irish Sea between Ireland and north England"), u"Irish Sea");
 }
 
+// "中俄北京条约 | the Treaty of Beijing of 1860 between Qing China and Tsarist Russia"
+TEST(WithoutApposition, CutsTheDateBeforeTheParties) {
+  EXPECT_EQ(withoutApposition(u"Treaty of Beijing of 1860 between Qing China and Tsarist Russia"),
+            u"Treaty of Beijing");
+}
+
 // "吐鲁番盆地 | the Turpan Depression in Xinjiang", "淯水 | old name of Baihe 白河 in Henan"
 TEST(WithoutApposition, CutsShortNamesOfPlaces) {
   EXPECT_EQ(withoutApposition(u"Turpan Depression in Xinjiang"), u"Turpan Depression");

@@ -50,6 +50,41 @@ TEST(WithoutSite, CutsBeforeOf) {
   EXPECT_EQ(withoutSite(u"Berber people of North Africa"), u"Berber people");
 }
 
+// "安第斯山脉 | Andes mountain chain of South America", "黄土高原 | Loess Plateau of northwest
+// China", "高甲戏 | Gaojia opera of Fujian and Taiwan", "湘语 | Xiang (Hunanese) dialect spoken in
+// Hunan Province", "曼哈顿 | Manhattan borough of New York City", "孔雀王朝 | Maurya Dynasty of
+// India (…)"
+TEST(WithoutSite, CutsOtherKinds) {
+  EXPECT_EQ(withoutSite(u"Andes mountain chain of South America"), u"Andes mountain chain");
+  EXPECT_EQ(withoutSite(u"Loess Plateau of northwest China"), u"Loess Plateau");
+  EXPECT_EQ(withoutSite(u"Gaojia opera of Fujian and Taiwan"), u"Gaojia opera");
+  EXPECT_EQ(withoutSite(u"Xiang dialect spoken in Hunan Province"), u"Xiang dialect");
+  EXPECT_EQ(withoutSite(u"Manhattan borough of New York City"), u"Manhattan borough");
+  EXPECT_EQ(withoutSite(u"Maurya Dynasty of India"), u"Maurya Dynasty");
+}
+
+// "里瓦几亚条约 | Treaty of Livadia (1879) between Russia and China, …", "太平洋战争 | Pacific War
+// between Japan and the US, 1941-1945", "南京条约 | Treaty of Nanjing (1842) that concluded the
+// First Opium War between Qing China and Britain"
+TEST(WithoutSite, CutsTheParties) {
+  EXPECT_EQ(withoutSite(u"Treaty of Livadia between Russia and China"), u"Treaty of Livadia");
+  EXPECT_EQ(withoutSite(u"Pacific War between Japan and the US"), u"Pacific War");
+  EXPECT_EQ(withoutSite(u"Treaty of Nanjing that concluded the First Opium War between China"),
+            u"Treaty of Nanjing that concluded the First Opium War between China");
+}
+
+// "环秀山庄 | Mountain Villa with Embracing Beauty in Suzhou, Jiangsu", "金阁寺 | Kinkakuji or
+// Golden pavilion in northwest Kyōto 京都, Japan", "五灯会元 | Song Dynasty History of Zen Buddhism
+// in China, 20 scrolls"
+TEST(WithoutSite, CutsTownAndProvince) {
+  EXPECT_EQ(withoutSite(u"Mountain Villa with Embracing Beauty in Suzhou, Jiangsu"),
+            u"Mountain Villa with Embracing Beauty");
+  EXPECT_EQ(withoutSite(u"Kinkakuji or Golden pavilion in northwest Kyoto, Japan"),
+            u"Kinkakuji or Golden pavilion");
+  EXPECT_EQ(withoutSite(u"Song Dynasty History of Zen Buddhism in China, 20 scrolls"),
+            u"Song Dynasty History of Zen Buddhism in China, 20 scrolls");
+}
+
 // "荆 | … Zhou Dynasty state of Chu", "莒 | Zhou Dynasty vassal state in modern day Shandong
 // Province", "天台宗 | Tiantai school of Buddhism", "俗世奇人 | Extraordinary people in our
 // ordinary world, …", "党项 | Tangut branch of the Qiang 羌 ethnic group", "吴下阿蒙 | General Lu
