@@ -42,14 +42,6 @@ constexpr std::size_t kMaxLocatedWords = 4;
 
 bool isVerb(std::u16string_view gloss) { return gloss.starts_with(u"to "); }
 
-/// The first place in `gloss` of any item of the list, but not its beginning; its size if none.
-std::size_t findMarker(std::u16string_view list, std::u16string_view gloss) {
-  std::size_t first = gloss.size();
-  forEachListed(
-      list, [&](std::u16string_view marker) { first = std::min(first, gloss.find(marker, 1)); });
-  return first;
-}
-
 /// The place of a colon that an explanation follows; the size of `gloss` if there is none. "Mao:
 /// The Unknown Story" is a title, "Han dynasty onwards: whipping" tells a time.
 std::size_t findColon(std::u16string_view gloss) {
@@ -82,7 +74,7 @@ std::size_t findCapital(std::u16string_view gloss) {
 
 /// A capitalised head is cut in a phrase too: "KMT emblem, a white sun".
 std::u16string_view withoutArticleTail(std::u16string_view gloss, bool phrase) {
-  const std::u16string_view head = gloss.substr(0, findMarker(kArticles, gloss));
+  const std::u16string_view head = gloss.substr(0, firstPlaceOfListed(kArticles, gloss));
   const bool clause = isVerb(head) || beginsClause(head);
   if (clause || wordCount(head) > 2 || (phrase && !isCapital(head[0]))) return gloss;
   // "the sun, the moon, and the stars", "the older, the wiser"
@@ -95,11 +87,11 @@ std::u16string_view withoutArticleTail(std::u16string_view gloss, bool phrase) {
 std::u16string_view withoutMarked(std::u16string_view gloss, bool phrase) {
   gloss = withoutRoughDate(gloss);
   const bool alternates = gloss.starts_with(u"now ");  // "now hot, now cold"
-  if (!alternates) gloss = gloss.substr(0, findMarker(kMarkers, gloss));
+  if (!alternates) gloss = gloss.substr(0, firstPlaceOfListed(kMarkers, gloss));
   gloss = gloss.substr(0, std::min(findColon(gloss), findCapital(gloss)));
   if (!phrase) gloss = gloss.substr(0, findDash(gloss));
   // "sports such as soccer that use large balls" and "With a father such as you" need what follows.
-  const std::u16string_view named = gloss.substr(0, findMarker(kExamples, gloss));
+  const std::u16string_view named = gloss.substr(0, firstPlaceOfListed(kExamples, gloss));
   if (wordCount(named) > 1 && !beginsClause(named)) gloss = named;
   return withoutArticleTail(gloss, phrase);
 }

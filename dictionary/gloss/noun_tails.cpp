@@ -53,14 +53,6 @@ constexpr std::u16string_view kFields =
     u" used in TCM| in TCM| in Buddhism| in Tibetan Buddhism| in Chinese chess|"
     u" in traditional Chinese astronomy| in Chinese astronomy|";
 
-/// The first place in `gloss` of any item of the list, but not its beginning; its size if none.
-std::size_t findMarker(std::u16string_view list, std::u16string_view gloss) {
-  std::size_t first = gloss.size();
-  forEachListed(
-      list, [&](std::u16string_view marker) { first = std::min(first, gloss.find(marker, 1)); });
-  return first;
-}
-
 /// Returns whether the part behind a comma begins with a kind of thing: "evergreen bush of".
 bool namesKind(std::u16string_view part) {
   for (std::size_t count = 0; count < kMaxKindWords && !part.empty(); ++count) {
@@ -93,11 +85,11 @@ std::u16string_view withoutField(std::u16string_view noun) {
 std::u16string_view withoutNounTail(std::u16string_view gloss) {
   if (gloss.starts_with(u"to ") || beginsClause(gloss)) return gloss;
   const std::u16string_view noun =
-      withoutField(withoutKind(gloss.substr(0, findMarker(kMarkers, gloss))));
+      withoutField(withoutKind(gloss.substr(0, firstPlaceOfListed(kMarkers, gloss))));
   // "a person who, like a pig, is fat"
   if (noun.empty() || isListed(u"who|that|which|", lastWord(noun))) return gloss;
   if (!isCapital(gloss[0])) return wordCount(noun) <= kMaxNounWords ? noun : gloss;
-  const std::u16string_view name = noun.substr(0, findMarker(kNameMarkers, noun));
+  const std::u16string_view name = noun.substr(0, firstPlaceOfListed(kNameMarkers, noun));
   const bool located = !listedBeginning(kPlaceMarkers, noun.substr(name.size())).empty();
   return name.substr(0, located ? name.find(u" in ") : name.size());
 }

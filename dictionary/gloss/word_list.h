@@ -39,4 +39,15 @@ constexpr std::u16string_view listedBeginning(std::u16string_view list, std::u16
   return findListed(list, [&](std::u16string_view item) { return text.starts_with(item); });
 }
 
+/// Returns the first place in `text` of any item of the list, but not its beginning; its size if
+/// there is none.
+constexpr std::size_t firstPlaceOfListed(std::u16string_view list, std::u16string_view text) {
+  std::size_t first = text.size();
+  forEachListed(list, [&](std::u16string_view item) {
+    const std::size_t place = text.find(item, 1);
+    if (place < first) first = place;
+  });
+  return first;
+}
+
 }  // namespace dictionary

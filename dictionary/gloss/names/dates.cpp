@@ -53,11 +53,11 @@ std::u16string_view withoutEra(std::u16string_view text) {
 /// Removes the preposition before what was cut: "Li Ji Rebellion in", with the part between commas
 /// that it ends: "Three Anti campaign, early PRC purge of".
 std::u16string_view withoutOpenEnd(std::u16string_view gloss) {
-  const std::u16string_view last = lastWord(gloss);
-  if (!isListed(kOpenWords, last) || last.size() == gloss.size()) return gloss;
+  const std::u16string_view finalWord = lastWord(gloss);
+  if (!isListed(kOpenWords, finalWord) || finalWord.size() == gloss.size()) return gloss;
   const std::size_t comma = gloss.rfind(u", ");
-  return gloss.substr(0,
-                      comma == 0 ? gloss.size() : std::min(comma, gloss.size() - last.size() - 1));
+  return gloss.substr(
+      0, comma == 0 ? gloss.size() : std::min(comma, gloss.size() - finalWord.size() - 1));
 }
 
 /// Returns whether the word is a span of years: "1824-1907", "1911-c.1929"; "25-220" behind a comma
@@ -65,7 +65,8 @@ std::u16string_view withoutOpenEnd(std::u16string_view gloss) {
 bool isSpan(std::u16string_view word, bool behindComma) {
   const std::size_t dash = word.find(u'-');
   return word.size() >= (behindComma ? 5 : 7) && isDigit(word[0]) && isDigit(word.back()) &&
-         dash != word.npos && word.find_first_not_of(u"0123456789-c.") == word.npos;
+         dash != std::u16string_view::npos &&
+         word.find_first_not_of(u"0123456789-c.") == std::u16string_view::npos;
 }
 
 /// Removes the date of a name that "of", "in" or a comma joins, or a year alone.
@@ -80,8 +81,9 @@ std::u16string_view withoutDate(std::u16string_view gloss) {
   }
   const bool late = year.size() == 4 && year >= kFirstYear && year < kYearInNames;
   const std::u16string_view joint = lastWord(name);
-  const bool described =
-      !findListed(kDescribing, [&](auto word) { return name.find(word) != name.npos; }).empty();
+  const bool described = !findListed(kDescribing, [&](auto word) {
+                            return name.find(word) != std::u16string_view::npos;
+                          }).empty();
   if (joint == u"of" || (joint == u"in" && !described)) {
     name = withoutLastWord(name);
   } else if (joint.ends_with(u',') && year.size() == 4 && year >= kFirstYear) {

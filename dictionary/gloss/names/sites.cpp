@@ -64,14 +64,15 @@ std::u16string_view withoutName(std::u16string_view text) {
 
 /// Returns whether the text is a name and its kind: "Krakatoa island and volcano", "Luding Bridge".
 bool isSite(std::u16string_view text) {
-  if (text.find(u',') != text.npos || wordCount(text) < 2) return false;
-  const std::u16string_view last = lastWord(text);
+  if (text.find(u',') != std::u16string_view::npos || wordCount(text) < 2) return false;
+  const std::u16string_view finalWord = lastWord(text);
   const std::u16string_view kind = withoutName(text);
   if (kind.size() == text.size() || wordCount(kind) > kMaxKindWords) return false;
-  if (kind.empty()) return isListed(kBuilt, lowered(last));
+  if (kind.empty()) return isListed(kBuilt, lowered(finalWord));
   const bool words = std::ranges::none_of(kind, isCapital) && !kind.starts_with(u"of ") &&
-                     kind.find(u" of ") == kind.npos;
-  return words && (isListed(kBuilt, last) || isListed(kSmallKinds, last) || last == u"people");
+                     kind.find(u" of ") == std::u16string_view::npos;
+  return words && (isListed(kBuilt, finalWord) || isListed(kSmallKinds, finalWord) ||
+                   finalWord == u"people");
 }
 
 /// Returns whether the text is a treaty or a war, of which "between" tells the parties.
@@ -89,8 +90,9 @@ bool endsBefore(std::u16string_view name, std::u16string_view tail) {
   const std::u16string_view kind = lastWord(name);
   // "Zhou Dynasty state of Chu" is the state of that name, "Zhou Dynasty vassal state" any of them.
   if (kind == u"state" && wordCount(name) > 2) return false;
-  if (word == u"of")
+  if (word == u"of") {
     return isListed(kOfPlaces, lowered(kind)) && beginsWithPlace(place) && isSite(name);
+  }
   // "Klondike in northwest Canada"
   const bool directed = word == u"in" && isListed(kDirections, firstWord(place)) &&
                         beginsWithPlace(place) && wordCount(name) <= 2 && areCapitalized(name);
@@ -101,10 +103,11 @@ bool endsBefore(std::u16string_view name, std::u16string_view tail) {
 /// Cuts a name before its town and province: "Mountain Villa in Suzhou, Jiangsu".
 std::u16string_view withoutTown(std::u16string_view gloss) {
   const std::size_t comma = gloss.find(u", ");
-  if (comma == gloss.npos) return gloss;
+  if (comma == std::u16string_view::npos) return gloss;
   const std::u16string_view province = gloss.substr(comma + 2);
   const std::size_t at = gloss.rfind(u" in ", comma);
-  if (at == gloss.npos || wordCount(province) != 1 || !areCapitalized(province)) return gloss;
+  if (at == std::u16string_view::npos || wordCount(province) != 1 || !areCapitalized(province))
+    return gloss;
   std::u16string_view town = gloss.substr(at + 4, comma - at - 4);
   if (isListed(kDirections, firstWord(town))) town = withoutFirstWord(town);
   return !town.empty() && areCapitalized(town) ? gloss.substr(0, at) : gloss;
@@ -126,7 +129,7 @@ std::u16string_view withoutSite(std::u16string_view gloss) {
 }
 
 bool namesPeople(std::u16string_view text) {
-  return isCapital(text[0]) && !kindOfPeople(text).empty();
+  return !text.empty() && isCapital(text[0]) && !kindOfPeople(text).empty();
 }
 
 std::u16string_view nameOfPeople(std::u16string_view text) {

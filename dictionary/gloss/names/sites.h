@@ -15,7 +15,7 @@ std::u16string_view withoutSite(std::u16string_view gloss);
 bool namesPeople(std::u16string_view text);
 
 /// Returns the name of a people without what it is: "Lisu" for "Lisu ethnic group". Empty if the
-/// text is none, or if its name has several words: "Hui Islamic ethnic group".
+/// text, which may be empty, is none, or if its name has several words: "Hui Islamic ethnic group".
 std::u16string_view nameOfPeople(std::u16string_view text);
 
 }  // namespace dictionary

@@ -106,8 +106,9 @@ TEST(WithoutSite, LeavesOtherTexts) {
 TEST(NameOfPeople, ReadsSingleWords) {
   EXPECT_EQ(nameOfPeople(u"Lisu ethnic group"), u"Lisu");
   EXPECT_EQ(nameOfPeople(u"Deng ethnic minority"), u"Deng");
-  for (const std::u16string_view text : {u"Hui Islamic ethnic group", u"She ethnic group",
-                                         u"ethnic group", u"small ethnic group", u"Lisu", u"I"}) {
+  for (const std::u16string_view text :
+       {u"Hui Islamic ethnic group", u"She ethnic group", u"ethnic group", u"small ethnic group",
+        u"Lisu", u"I", u""}) {
     EXPECT_EQ(nameOfPeople(text), u"");
   }
   EXPECT_TRUE(namesPeople(u"Hui Islamic ethnic group"));
