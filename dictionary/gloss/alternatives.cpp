@@ -129,7 +129,7 @@ std::vector<std::u16string_view> alternativeWords(std::u16string_view gloss) {
 
 std::vector<std::u16string> namesWithKind(std::u16string_view name) {
   std::vector<std::u16string_view> parts = partsBetweenOr(name);
-  const std::vector<std::u16string> whole = {std::u16string(name)};
+  std::vector<std::u16string> whole = {std::u16string(name)};
   if (parts.size() < 2) return whole;
   if (!std::ranges::all_of(parts, isAlternative)) {
     // The first one is a name of the place, whatever the other is.

@@ -90,7 +90,7 @@ std::u16string_view properName(std::u16string_view text) {
   }
   for (const std::u16string_view beginning : {u" emperor "sv, u" Emperor "sv}) {
     const std::size_t at = text.find(beginning);
-    if (at != text.npos) text.remove_prefix(at + beginning.size());
+    if (at != std::u16string_view::npos) text.remove_prefix(at + beginning.size());
   }
   for (const std::u16string_view beginning : {u"the "sv, u"modern day "sv, u"modern "sv}) {
     if (text.starts_with(beginning)) text.remove_prefix(beginning.size());

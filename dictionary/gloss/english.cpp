@@ -253,7 +253,8 @@ std::optional<std::u16string> englishHeadword(std::u16string_view gloss, bool ph
 
 bool isSentence(std::u16string_view text) {
   // "the closer one is to the end, the tougher it gets"
-  const bool correlative = text.starts_with(u"the ") && text.find(u", the ") != text.npos &&
+  const bool correlative = text.starts_with(u"the ") &&
+                           text.find(u", the ") != std::u16string_view::npos &&
                            firstWord(text.substr(4)).ends_with(u"er");
   if (correlative) return true;
   std::u16string_view before;

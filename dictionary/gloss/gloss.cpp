@@ -200,7 +200,8 @@ class GlossParser {
     if (isUsageNote(english)) return;
     const std::u16string_view other = otherNameFor(english);
     // A character is a part of the name only: "given name of Mencius".
-    const bool part = kind_ == WordKind::kCharacter && english.find(u" for ") == english.npos;
+    const bool part =
+        kind_ == WordKind::kCharacter && english.find(u" for ") == std::u16string_view::npos;
     if (!other.empty() && !part) english = other;
     usage = usage || !other.empty();
     describes = describes || (!other.empty() && part);
@@ -252,9 +253,9 @@ class GlossParser {
 }  // namespace
 
 bool marksPhrase(std::u16string_view gloss) {
-  return findListed(kPhraseNotes, [&](std::u16string_view note) {
-           return gloss.find(note) != std::u16string_view::npos;
-         }).size() > 0;
+  return !findListed(kPhraseNotes, [&](std::u16string_view note) {
+            return gloss.find(note) != std::u16string_view::npos;
+          }).empty();
 }
 
 ParsedGloss parseGloss(std::u16string_view gloss, WordKind kind) {

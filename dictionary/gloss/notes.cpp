@@ -103,8 +103,8 @@ std::u16string_view firstListed(std::u16string_view note) {
 
 /// "sb's", "your", "a country's", but not "or Kant's".
 bool isPossessive(std::u16string_view note) {
-  const std::u16string_view last = lastWord(note);
-  return (last.ends_with(u"'s") || isListed(kPossessives, last)) && !note.starts_with(u"or ");
+  const std::u16string_view word = lastWord(note);
+  return (word.ends_with(u"'s") || isListed(kPossessives, word)) && !note.starts_with(u"or ");
 }
 
 bool isPlaceholder(std::u16string_view note) {

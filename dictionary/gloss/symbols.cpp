@@ -126,12 +126,13 @@ std::u16string withoutCycleNumber(std::u16string_view text) {
 /// Both are empty if the text is anything else: "Euclid's "Elements"".
 NamedText translatedName(std::u16string_view text) {
   const std::size_t open = text.find(u" \"");
-  const std::size_t close = open < text.size() ? text.find(u'"', open + 2) : text.npos;
-  if (close == text.npos) return {};
+  const std::size_t close =
+      open < text.size() ? text.find(u'"', open + 2) : std::u16string_view::npos;
+  if (close == std::u16string_view::npos) return {};
   const std::u16string_view name = text.substr(0, open);
   const std::u16string_view after = text.substr(close + 1);
   const bool names = !name.empty() && isCapital(name[0]) && isCapital(lastWord(name)[0]) &&
-                     !name.ends_with(u"'s") && name.find(u',') == name.npos;
+                     !name.ends_with(u"'s") && name.find(u',') == std::u16string_view::npos;
   if (!names || !(after.empty() || after.starts_with(u" - "))) return {};
   return {std::u16string(name), std::u16string(text.substr(open + 2, close - open - 2))};
 }

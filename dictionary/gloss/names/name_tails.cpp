@@ -97,9 +97,9 @@ bool isParticiple(std::u16string_view part) {
 
 /// "Mt Danxia in Shaoguan": withoutPlaceTail() knows where such a name ends.
 bool isLocated(std::u16string_view name) {
-  return findListed(u" in | near | at | on |", [&](std::u16string_view word) {
-           return name.find(word) != std::u16string_view::npos;
-         }).size() > 0;
+  return !findListed(u" in | near | at | on |", [&](std::u16string_view word) {
+            return name.find(word) != std::u16string_view::npos;
+          }).empty();
 }
 
 /// Returns whether the part after a longer name of which some words are small describes it:

@@ -79,9 +79,9 @@ bool endsAsSentence(std::u16string_view text) {
   if (text.find(u". ") != std::u16string_view::npos ||
       text.find(u": ") != std::u16string_view::npos)
     return false;
-  const std::u16string_view last = lastWord(text);
-  return last.ends_with(u'.') && last.size() > 2 && last[0] >= u'a' && last[0] <= u'z' &&
-         last.find(u'.') == last.size() - 1 && !isListed(kAbbreviations, last);
+  const std::u16string_view word = lastWord(text);
+  return word.ends_with(u'.') && word.size() > 2 && word[0] >= u'a' && word[0] <= u'z' &&
+         word.find(u'.') == word.size() - 1 && !isListed(kAbbreviations, word);
 }
 
 bool areNameWords(std::u16string_view text) {
