@@ -50,7 +50,9 @@ bool isLoaded() {
   return LoadedForms::instance().find(typeid(F)) != nullptr;
 }
 
-/// Handles every message that is in the queue, and returns. Leaves WM_QUIT to the message loop.
+/// Handles every message that is in the queue, and returns. Leaves WM_QUIT to the message loop, and
+/// mouse and keyboard to a modal loop of the system's while one runs: that of a menu, a message
+/// box, a window that is moved or sized, a text that is dragged out of a box.
 void doEvents();
 
 /// Runs the message loop until WM_QUIT and returns its exit code.

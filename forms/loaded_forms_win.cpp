@@ -2,6 +2,7 @@
 
 #include "forms/dispatcher.h"
 #include "forms/exception_barrier.h"
+#include "forms/focus.h"
 #include "forms/stacking.h"
 
 // A form is unloaded from one of its own handlers (a button that closes it), so its object must not
@@ -17,6 +18,27 @@ void dispatch(MSG& message) {
     DispatchMessageW(&message);
   }
   LoadedForms::instance().purge();
+}
+
+/// Whether the system runs a modal loop on this thread that takes input out of the queue and acts
+/// on it without dispatching it (a menu, the moving or sizing of a window, a drag out of a text
+/// box), or before dispatching it (a message box, with the keys of dialogs).
+bool isInputTakenElsewhere() {
+  if (isFocusHeld()) return true;
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  GetGUIThreadInfo(GetCurrentThreadId(), &info);
+  constexpr DWORD kModal = GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE | GUI_INMOVESIZE;
+  return (info.flags & kModal) != 0 ||
+         (info.hwndCapture != nullptr &&
+          Form::of(GetAncestor(info.hwndCapture, GA_ROOT)) == nullptr);
+}
+
+/// Removes the next message that doEvents is to handle; returns whether there was one.
+bool takeMessage(MSG& message) {
+  constexpr UINT kAllButInput = PM_QS_POSTMESSAGE | PM_QS_PAINT | PM_QS_SENDMESSAGE;
+  const UINT kinds = isInputTakenElsewhere() ? kAllButInput : 0;
+  return PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | kinds) != FALSE;
 }
 
 }  // namespace
@@ -56,7 +78,7 @@ void LoadedForms::purge() {
 
 void doEvents() {
   MSG message;
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+  while (takeMessage(message)) {
     if (message.message == WM_QUIT) {
       PostQuitMessage(static_cast<int>(message.wParam));
       return;

@@ -1,5 +1,7 @@
 #include "forms/popup_menu.h"
 
+#include "forms/dispatcher.h"
+#include "forms/timer.h"
 #include "tests/support/window/open_menu.h"
 #include "tests/support/window/window_test.h"
 
@@ -63,6 +65,39 @@ TEST_F(PopupMenuTest, KeysChooseAndSkipTheSeparator) {
   EXPECT_EQ(times("copy"), 0);
   chosen->onClick();
   EXPECT_EQ(times("copy"), 1);
+}
+
+// As a handler does that runs while the menu is open, from a timer.
+TEST_F(PopupMenuTest, DoEventsLeavesItsInputToIt) {
+  opened<FormA>();
+  const auto* chosen = choose([](HWND) {
+    input::key(VK_DOWN);
+    input::key(VK_RETURN);
+    forms::doEvents();
+  });
+  EXPECT_EQ(chosen, &menu.item(0));
+  chosen = choose([](HWND window) {
+    const RECT rect = rectOf(window);
+    injected::click({rect.left + 40, rect.top + 12});
+    forms::doEvents();
+  });
+  EXPECT_EQ(chosen, &menu.item(0));
+}
+
+TEST_F(PopupMenuTest, DoEventsHandlesPostedMessagesAndTimersWhileItIsOpen) {
+  auto& form = opened<FormA>();
+  bool posted = false;
+  bool ticked = false;
+  forms::Timer timer(form, 10);
+  timer.onTimer = [&] { ticked = true; };
+  choose([&](HWND) {
+    forms::Dispatcher::instance().post([&] { posted = true; });
+    timer.setEnabled(true);
+    InvalidateRect(form.handle(), nullptr, FALSE);
+    EXPECT_TRUE(eventually([&] { return posted && ticked; }));
+    EXPECT_FALSE(GetUpdateRect(form.handle(), nullptr, FALSE));
+    EndMenu();
+  });
 }
 
 TEST_F(PopupMenuTest, AClickChooses) {
