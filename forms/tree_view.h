@@ -54,6 +54,7 @@ class TreeView : public Widget {
 
   LRESULT notify(const NMHDR& header) override;
   void rescale() override;
+  void recolor() final;
 
  protected:
   /// `scrolling` is the style that says in which directions the view scrolls.

@@ -55,6 +55,13 @@ TreeView::TreeView(WidgetHost& form, const WidgetBox& box, DWORD scrolling)
              box),
       showsCutTexts_((scrolling & TVS_NOHSCROLL) != 0) {
   onKeyDown[VK_RETURN] = [this] { raiseChoice(); };
+  recolor();
+}
+
+// The colour of the rows, which are drawn here. By itself the control takes the system's, but not
+// every version of it notices that this has changed while no tree view was open.
+void TreeView::recolor() {
+  send(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(GetSysColor(COLOR_WINDOW)));
 }
 
 void TreeView::add(const std::u16string& text) {

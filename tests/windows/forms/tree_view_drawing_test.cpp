@@ -215,7 +215,27 @@ TEST_F(TreeViewDrawing, RowsLeaveNothingBetweenThem) {
     const RECT below = {rows.left, rows.bottom + 30, rows.right, rows.bottom + 32};
     return screenPixels(below).at(0) == kBehind;
   }));
-  EXPECT_EQ(std::ranges::count(screenPixels(rows), kBehind), 0);
+  EXPECT_TRUE(eventually([&] { return std::ranges::count(screenPixels(rows), kBehind) == 0; }));
+}
+
+TEST_F(TreeViewDrawing, BelowItsRowsIsTheirColour) {
+  const auto below = [] {
+    const RECT client = clientRectOf(list().handle());
+    return screenPixels(
+        {client.left + 4, client.bottom - 4, client.left + 5, client.bottom - 3})[0];
+  };
+  list().add(kShort);
+  EXPECT_TRUE(eventually([&] { return below() == GetSysColor(COLOR_WINDOW); }));
+  form().unload();
+  {
+    // While no tree view is open that could be told.
+    const HighContrast colors;
+    opened<DrawingForm>();
+    list().add(kShort);
+    EXPECT_TRUE(eventually([&] { return below() == RGB(0, 0, 0); }));
+  }
+  SendMessageW(form().handle(), WM_SYSCOLORCHANGE, 0, 0);
+  EXPECT_TRUE(eventually([&] { return below() == GetSysColor(COLOR_WINDOW); }));
 }
 
 TEST_F(TreeViewDrawing, ARowThatIsNoLongerSelectedLeavesNothingBehind) {
