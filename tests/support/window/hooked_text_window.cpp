@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "capture/nhw32/policy.h"
 #include "capture/nhw32/reader.h"
 #include "capture/nhw32/router.h"
 #include "tests/support/process/controls.h"
@@ -85,7 +86,8 @@ nhw32::Answer answerTo(const nhw32::Question& question) {
     // A new one, which backs off from no window yet.
     const nhw32::Answer answer = nhw32::makeWindowReader()->wordAt(question);
     if (answer.outcome != nhw32::Outcome::kOutOfTime || tries == 20) return answer;
-    reportRetry("a question that had no answer in time");
+    // One that is merely busy may miss a few, as the service takes into account.
+    if (tries >= nhw32::Backoff::kMaxTimeouts) reportRetry("a question that had no answer in time");
   }
 }
 
