@@ -71,6 +71,20 @@ bool always(Look look, DWORD milliseconds) {
   return never([&] { return !look(); }, milliseconds);
 }
 
+/// Looks until `look` has returned true for `lasting` ms without a break. Returns false if it did
+/// not begin to within `milliseconds`.
+template <class Look>
+bool settles(Look look, DWORD lasting, DWORD milliseconds) {
+  const ULONGLONG deadline = GetTickCount64() + milliseconds;
+  while (eventually(look, milliseconds)) {
+    if (always(look, lasting)) return true;
+    const ULONGLONG now = GetTickCount64();
+    if (now >= deadline) return false;
+    milliseconds = static_cast<DWORD>(deadline - now);
+  }
+  return false;
+}
+
 /// Lets time pass, in which nothing is looked for.
 inline void passTime(DWORD milliseconds) {
   eventually([] { return false; }, milliseconds);
@@ -101,7 +115,7 @@ struct Retries {
 template <class Act, class Look>
 void actUntil(const std::string& what, Act act, Look look, Retries retries = {}) {
   const auto seen = [&](DWORD milliseconds) {
-    return eventually(look, milliseconds) && always(look, retries.lasting);
+    return settles(look, retries.lasting, milliseconds);
   };
   act();
   for (int acts = 1; acts < retries.most; ++acts) {
@@ -119,7 +133,7 @@ inline constexpr Retries kLastingWindow{.most = 10, .after = 1'000, .lasting = 3
 /// that still answers an earlier window may bring that one to the front meanwhile.
 template <class Look>
 void bringToFront(HWND window, Look look, DWORD lasting) {
-  if (eventually(look, lasting) && always(look, lasting)) return;
+  if (settles(look, lasting, lasting)) return;
   actUntil("a window to come to the front", [=] { SetForegroundWindow(window); }, look,
            {.most = 10, .after = 1'000, .lasting = lasting});
 }

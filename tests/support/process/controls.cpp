@@ -48,9 +48,6 @@ std::wstring itemText(HWND tree, HTREEITEM item, const RemoteMemory& memory) {
   return text;
 }
 
-/// How long a user looks at a button that does not move before pressing again, ms.
-constexpr DWORD kUntilPressedAgain = 1'000;
-
 }  // namespace
 
 std::vector<std::wstring> treeTexts(HWND tree) {
@@ -140,8 +137,7 @@ std::chrono::duration<double, std::milli> pressButton(HWND button) {
         input::press(centreOf(rectOf(button)));
         pressed = std::chrono::steady_clock::now();
       },
-      [&] { return (send(button, BM_GETSTATE) & BST_PUSHED) != 0; },
-      {.most = 10, .after = kUntilPressedAgain});
+      [&] { return (send(button, BM_GETSTATE) & BST_PUSHED) != 0; }, {.most = 10});
   return std::chrono::steady_clock::now() - pressed;
 }
 

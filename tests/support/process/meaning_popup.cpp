@@ -3,6 +3,13 @@
 #include "tests/support/process/text.h"
 
 namespace support {
+namespace {
+
+/// The service leaves a program alone for 5 s that a busy machine kept from answering three times
+/// in a row, and then for 10 s.
+constexpr DWORD kBackedOff = 15'000;
+
+}  // namespace
 
 HWND MeaningPopup::window() const {
   return findWindow(
@@ -27,12 +34,12 @@ std::wstring MeaningPopup::headword() const {
 }
 
 std::wstring MeaningPopup::waitFor(const std::wstring& headword) const {
-  return support::waitFor("the popup to show " + utf8(headword),
-                          [&]() -> std::optional<std::wstring> {
-                            std::wstring shown = text();
-                            if (shown.substr(0, shown.find(L'\r')) != headword) return std::nullopt;
-                            return shown;
-                          })
+  const auto look = [&]() -> std::optional<std::wstring> {
+    std::wstring shown = text();
+    if (shown.substr(0, shown.find(L'\r')) != headword) return std::nullopt;
+    return shown;
+  };
+  return support::waitFor("the popup to show " + utf8(headword), look, kDefaultTimeout + kBackedOff)
       .value();
 }
 

@@ -82,12 +82,14 @@ std::optional<RECT> characterCell(HWND control, std::size_t position) {
 }
 
 nhw32::Answer answerTo(const nhw32::Question& question) {
+  constexpr DWORD kBetweenQuestions = 100;  // ms
   for (int tries = 1;; ++tries) {
     // A new one, which backs off from no window yet.
     const nhw32::Answer answer = nhw32::makeWindowReader()->wordAt(question);
     if (answer.outcome != nhw32::Outcome::kOutOfTime || tries == 20) return answer;
-    // One that is merely busy may miss a few, as the service takes into account.
-    if (tries >= nhw32::Backoff::kMaxTimeouts) reportRetry("a question that had no answer in time");
+    // A program that is merely busy may miss a few, as the service takes into account.
+    if (tries == nhw32::Backoff::kMaxTimeouts) reportRetry("a question that had no answer in time");
+    passTime(kBetweenQuestions);
   }
 }
 

@@ -50,8 +50,8 @@ std::optional<POINT> characterCorner(HWND control, std::size_t position);
 std::optional<RECT> characterCell(HWND control, std::size_t position);
 
 /// What the service finds. Where a busy machine lets the time run out it is asked again, as the
-/// program does ten times a second; a repetition is reported if the service would have left the
-/// window alone by then (Backoff).
+/// program does ten times a second; reported if the service would have left the window alone by
+/// then (Backoff).
 nhw32::Answer answerTo(const nhw32::Question& question);
 
 /// A question about a point of a control.

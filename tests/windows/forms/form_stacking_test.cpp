@@ -9,6 +9,11 @@
 namespace support {
 namespace {
 
+/// On a busy machine the window manager answers late that a window was shown, moved or activated. A
+/// test goes on once nothing has come of that for so long, in ms.
+constexpr DWORD kLeftAlone = 200;
+constexpr Retries kUntilLeftAlone{.most = 10, .after = 2'000, .lasting = kLeftAlone};
+
 /// A floats, B is an ordinary window, C a bar.
 class FormStacking : public WindowTest {
  protected:
@@ -37,8 +42,38 @@ class FormStacking : public WindowTest {
           form.setSize(15000, 13500);
           form.setPosition(1800, 1200);
         },
-        [&] { return form.width() == 15000 && rectOf(form.handle()).left < 200; }, kLastingWindow);
+        [&] { return form.width() == 15000 && rectOf(form.handle()).left < 200; }, kUntilLeftAlone);
     return form;
+  }
+
+  /// Opens A in the middle of the screen in its own size.
+  FormA& openInTheMiddle() {
+    auto& form = opened<FormA>();
+    forms::PixelBox middle;
+    actUntil(
+        "a form in the middle",
+        [&] {
+          form.centre();
+          middle = form.place();
+        },
+        [&] { return form.place() == middle; }, kUntilLeftAlone);
+    return form;
+  }
+
+  /// Waits until B, which lies over A, is the active window and topmost; brings it to the front if
+  /// the window manager gives another one the focus.
+  static void awaitTopmost(const FormB& window) {
+    const auto isInFront = [&] {
+      return GetForegroundWindow() == window.handle() && isTopmost(window.handle());
+    };
+    bringToFront(window.handle(), isInFront, kLeftAlone);
+  }
+
+  /// Opens B, which finds no place beside a large A.
+  FormB& openOverA() {
+    auto& window = opened<FormB>();
+    awaitTopmost(window);
+    return window;
   }
 
   static void repaint(const forms::Form& form) {
@@ -54,8 +89,12 @@ class FormStacking : public WindowTest {
     const std::vector<COLORREF> shown = settledPixels(inside);
     for (const forms::Form* other : others) ShowWindow(other->handle(), SW_HIDE);
     forms::doEvents();
-    HideCaret(nullptr);
-    const bool same = settledPixels(inside) == shown;
+    const bool same = eventually(
+        [&] {
+          HideCaret(nullptr);
+          return settledPixels(inside) == shown;
+        },
+        2'000);
     for (const forms::Form* other : others) ShowWindow(other->handle(), SW_SHOWNA);
     forms::doEvents();
     return same;
@@ -100,44 +139,40 @@ TEST_F(FormStacking, LetsAWindowAloneThatIsNoneOfOurs) {
 }
 
 TEST_F(FormStacking, AnOrdinaryWindowOpensBesideAFloatingOne) {
-  auto& floating = opened<FormA>();
-  floating.centre();
-  forms::doEvents();
+  auto& floating = openInTheMiddle();
   auto& window = opened<FormB>();
-  EXPECT_TRUE(areApart(floating, window));
-  EXPECT_FALSE(isTopmost(window.handle()));
+  EXPECT_TRUE(eventually([&] { return areApart(floating, window); }));
+  EXPECT_TRUE(eventually([&] { return !isTopmost(window.handle()); }));
   repaint(floating);
   EXPECT_TRUE(isSeenWhole(window.handle(), {&floating}));
 }
 
 TEST_F(FormStacking, WithoutRoomItIsTopmostWhileItIsActive) {
   auto& floating = openLargeA();
-  auto& window = opened<FormB>();
+  auto& window = openOverA();
   EXPECT_FALSE(areApart(floating, window));
-  EXPECT_TRUE(isTopmost(window.handle()));
   EXPECT_TRUE(isSeenWhole(window.handle(), {&floating}));
   floating.show();
   awaitActive(floating);
   EXPECT_TRUE(eventually([&] { return !isTopmost(window.handle()); }));
   EXPECT_TRUE(isSeenWhole(floating.handle(), {&window}));
   window.show();
-  awaitActive(window);
+  awaitTopmost(window);
   EXPECT_TRUE(isSeenWhole(window.handle(), {&floating}));
 }
 
 TEST_F(FormStacking, ForcedPaintsOfTheFloatingOneLeaveTheActiveWindowAbove) {
   auto& floating = openLargeA();
-  auto& window = opened<FormB>();
+  auto& window = openOverA();
   for (int i = 0; i < 20; ++i) repaint(floating);
   EXPECT_TRUE(isAbove(window.handle(), floating.handle()));
   EXPECT_TRUE(isSeenWhole(window.handle(), {&floating}));
 }
 
 TEST_F(FormStacking, AWindowThatIsMovedOverAFloatingOneStaysVisible) {
-  auto& floating = opened<FormA>();
-  floating.centre();
+  auto& floating = openInTheMiddle();
   auto& window = opened<FormB>();
-  ASSERT_FALSE(isTopmost(window.handle()));
+  ASSERT_TRUE(eventually([&] { return !isTopmost(window.handle()); }));
   const RECT place = rectOf(floating.handle());
   actUntil(
       "a window among topmost ones to become topmost",
@@ -145,24 +180,23 @@ TEST_F(FormStacking, AWindowThatIsMovedOverAFloatingOneStaysVisible) {
         SetWindowPos(window.handle(), nullptr, place.left + 30, place.top + 30, 0, 0,
                      SWP_NOSIZE | SWP_NOZORDER);
       },
-      [&] { return isTopmost(window.handle()); }, kLastingWindow);
+      [&] { return isTopmost(window.handle()); }, kUntilLeftAlone);
   EXPECT_TRUE(isSeenWhole(window.handle(), {&floating}));
 }
 
 TEST_F(FormStacking, AnotherProgramThatIsTurnedToIsNotCovered) {
   auto& floating = openLargeA();
-  auto& window = opened<FormB>();
-  ASSERT_TRUE(isTopmost(window.handle()));
+  auto& window = openOverA();
   const OtherProgram other;
   other.activate();
   EXPECT_TRUE(eventually([&] { return !isTopmost(window.handle()); }));
-  EXPECT_TRUE(isAbove(other.window(), window.handle()));
-  EXPECT_TRUE(isAbove(floating.handle(), other.window()));
+  EXPECT_TRUE(eventually([&] { return isAbove(other.window(), window.handle()); }));
+  EXPECT_TRUE(eventually([&] { return isAbove(floating.handle(), other.window()); }));
 }
 
 TEST_F(FormStacking, ADialogAndItsOwnerAreBothSeen) {
   auto& floating = openLargeA();
-  auto& window = opened<FormB>();
+  auto& window = openOverA();
   plan<'C'>().design = plainDesign('C');
   plan<'C'>().design.frame = forms::Frame::kDialog;
   plan<'C'>().design.width = 2000;
@@ -170,8 +204,7 @@ TEST_F(FormStacking, ADialogAndItsOwnerAreBothSeen) {
   plan<'C'>().load = [] { c().centre(b()); };
   c().show(&window);
   awaitActive(c());
-  EXPECT_TRUE(isTopmost(window.handle()));
-  EXPECT_TRUE(isTopmost(c().handle()));
+  EXPECT_TRUE(eventually([&] { return isTopmost(window.handle()) && isTopmost(c().handle()); }));
   for (int i = 0; i < 5; ++i) repaint(floating);
   EXPECT_TRUE(isAbove(window.handle(), floating.handle()));
   EXPECT_TRUE(isSeenWhole(c().handle(), {&floating}));
@@ -179,7 +212,7 @@ TEST_F(FormStacking, ADialogAndItsOwnerAreBothSeen) {
 
 TEST_F(FormStacking, AMessageBoxIsSeenWhole) {
   auto& floating = openLargeA();
-  auto& window = opened<FormB>();
+  auto& window = openOverA();
   bool seen = false;
   bool ownerAbove = false;
   boxes.whileUp([&](HWND box) {
@@ -198,10 +231,10 @@ TEST_F(FormStacking, AMessageBoxStaysOnTopWhileTheUserTurnsToAnotherProgram) {
   openLargeA();
   auto& window = opened<FormB>();
   const OtherProgram other;
+  // Which may have taken the focus on its start.
+  awaitTopmost(window);
   bool boxOnTop = false;
   boxes.whileUp([&](HWND box) {
-    // The other program may have been the active one on its start.
-    ASSERT_TRUE(eventually([&] { return isTopmost(window.handle()); }));
     other.activate();
     EXPECT_TRUE(eventually([&] { return !isTopmost(window.handle()); }));
     boxOnTop = isTopmost(box) && isAbove(box, a().handle());
@@ -225,7 +258,7 @@ TEST_F(FormStacking, ABarStaysAboveAllAndAFloatingFormBelowIt) {
   auto& window = opened<FormB>();
   repaint(bar);
   repaint(floating);
-  EXPECT_TRUE(isAbove(bar.handle(), window.handle()));
+  EXPECT_TRUE(eventually([&] { return isAbove(bar.handle(), window.handle()); }));
   // As the system puts a window that the user clicks to the top.
   SetWindowPos(window.handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
   EXPECT_TRUE(eventually([&] { return isAbove(bar.handle(), window.handle()); }));
