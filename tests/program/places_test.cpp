@@ -151,7 +151,11 @@ TEST_F(Places, ASplitterTakenBesideItsLineIsDroppedAsIfOnIt) {
     SCOPED_TRACE(beside);
     RECT line{};
     const auto drag = [&] {
-      line = window.splitter();
+      // After a drop the list is placed first, then the line.
+      waitFor("the line beside the list", [&] {
+        line = window.splitter();
+        return line.left == rectOf(window.list()).right;
+      });
       const POINT press{line.left + beside, centreOf(line).y};
       input::drag(press, {press.x - 20, press.y});
     };

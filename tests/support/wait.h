@@ -129,6 +129,10 @@ void actUntil(const std::string& what, Act act, Look look, Retries retries = {})
 /// For what a window manager may answer late.
 inline constexpr Retries kLastingWindow{.most = 10, .after = 1'000, .lasting = 30};
 
+/// The same where the test goes on with another window. On a busy machine it may be told a moment
+/// later that the first one was shown, moved or activated.
+inline constexpr Retries kUntilLeftAlone{.most = 10, .after = 2'000, .lasting = 200};
+
 /// Brings a top-level window to the front until `look` is true for `lasting` ms: a window manager
 /// that still answers an earlier window may bring that one to the front meanwhile.
 template <class Look>

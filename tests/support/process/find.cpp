@@ -128,12 +128,15 @@ POINT centreOf(const RECT& rect) {
 SIZE sizeOf(const RECT& rect) { return {rect.right - rect.left, rect.bottom - rect.top}; }
 
 void placeWindow(HWND window, const RECT& rect) {
-  SetWindowPos(window, nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
-               SWP_NOZORDER | SWP_NOACTIVATE);
-  waitFor("a window to be moved", [&] {
+  const auto place = [&] {
+    SetWindowPos(window, nullptr, rect.left, rect.top, rect.right - rect.left,
+                 rect.bottom - rect.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  };
+  const auto isThere = [&] {
     const RECT now = rectOf(window);
     return EqualRect(&now, &rect) != FALSE;
-  });
+  };
+  actUntil("a window to stay where it is moved", place, isThere, kUntilLeftAlone);
 }
 
 bool isTopmost(HWND window) {

@@ -9,11 +9,6 @@
 namespace support {
 namespace {
 
-/// On a busy machine the window manager answers late that a window was shown, moved or activated. A
-/// test goes on once nothing has come of that for so long, in ms.
-constexpr DWORD kLeftAlone = 200;
-constexpr Retries kUntilLeftAlone{.most = 10, .after = 2'000, .lasting = kLeftAlone};
-
 /// A floats, B is an ordinary window, C a bar.
 class FormStacking : public WindowTest {
  protected:
@@ -66,7 +61,7 @@ class FormStacking : public WindowTest {
     const auto isInFront = [&] {
       return GetForegroundWindow() == window.handle() && isTopmost(window.handle());
     };
-    bringToFront(window.handle(), isInFront, kLeftAlone);
+    bringToFront(window.handle(), isInFront, kUntilLeftAlone.lasting);
   }
 
   /// Opens B, which finds no place beside a large A.
@@ -81,12 +76,20 @@ class FormStacking : public WindowTest {
     forms::doEvents();
   }
 
+  /// What the screen shows there once nothing of it changes any more.
+  static std::vector<COLORREF> lastingPixels(const RECT& rect) {
+    std::vector<COLORREF> last = screenPixels(rect);
+    const auto stays = [&] { return std::exchange(last, screenPixels(rect)) == last; };
+    EXPECT_TRUE(settles(stays, kUntilLeftAlone.lasting, kDefaultTimeout));
+    return last;
+  }
+
   /// Whether the screen shows of `window` what it shows without those that might cover it.
   static bool isSeenWhole(HWND window, std::initializer_list<const forms::Form*> others) {
     // Neither the blinking caret nor what is seen beside a frame that is drawn narrower than it is.
     HideCaret(nullptr);
     const RECT inside = clientRectOf(window);
-    const std::vector<COLORREF> shown = settledPixels(inside);
+    const std::vector<COLORREF> shown = lastingPixels(inside);
     for (const forms::Form* other : others) ShowWindow(other->handle(), SW_HIDE);
     forms::doEvents();
     const bool same = eventually(
@@ -107,7 +110,7 @@ class FormStacking : public WindowTest {
     bar.show();
     awaitActive(bar);
     HideCaret(nullptr);
-    look() = settledPixels(rectOf(bar.handle()));
+    look() = lastingPixels(rectOf(bar.handle()));
     return bar;
   }
   static std::vector<COLORREF>& look() {
