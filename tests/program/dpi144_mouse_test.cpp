@@ -1,5 +1,7 @@
 // What a user does with the mouse where the system shows everything at one and a half times the
 // size.
+#include <optional>
+
 #include "tests/program/dpi144_fixture.h"
 #include "tests/support/process/controls.h"
 #include "tests/support/process/input.h"
@@ -14,14 +16,19 @@ class Dpi144Mouse : public Dpi144 {
  protected:
   Dpi144Mouse() { lexilo.waitUntilSeen(); }
 
-  /// Opens the quick lookup window, which is to have these sizes then.
+  /// Opens the quick lookup window, which is to have these sizes then. Once more where the window
+  /// manager, which answers late that the window was shown, gives it back its earlier size.
   [[nodiscard]] QuickLookup openIn(const Sizes& sizes) const {
-    settings::write(L"WindowWidth", std::to_wstring(sizes.width));
-    settings::write(L"WindowHeight", std::to_wstring(sizes.height));
-    settings::write(L"TreeWidth", std::to_wstring(sizes.list));
-    const QuickLookup window = lexilo.openQuickLookupAtA();
-    waitFor("the stored sizes", [&] { return alike(sizesOf(window), sizes); });
-    return window;
+    std::optional<QuickLookup> window;
+    const auto open = [&] {
+      if (window) window->close();
+      settings::write(L"WindowWidth", std::to_wstring(sizes.width));
+      settings::write(L"WindowHeight", std::to_wstring(sizes.height));
+      settings::write(L"TreeWidth", std::to_wstring(sizes.list));
+      window = lexilo.openQuickLookupAtA();
+    };
+    actUntil("the stored sizes", open, [&] { return alike(sizesOf(*window), sizes); });
+    return window.value();
   }
 
   /// The client area of a window that is `twips` wide and high.

@@ -7,6 +7,7 @@
 
 #include "tests/support/process/find.h"
 #include "tests/support/process/process.h"
+#include "tests/support/wait.h"
 
 namespace support {
 namespace {
@@ -64,12 +65,11 @@ std::vector<COLORREF> screenPixels(const RECT& rect) {
 }
 
 std::vector<COLORREF> settledPixels(const RECT& rect) {
-  constexpr DWORD kBetween = 40;  // ms
-  std::vector<COLORREF> last;
-  waitFor("the screen to settle", [&] {
-    passTime(kBetween);
-    return std::exchange(last, screenPixels(rect)) == last;
-  });
+  std::vector<COLORREF> last = screenPixels(rect);
+  const auto stays = [&] { return std::exchange(last, screenPixels(rect)) == last; };
+  if (!settles(stays, kUntilLeftAlone.lasting, kDefaultTimeout)) {
+    throw Failure("the screen does not settle");
+  }
   return last;
 }
 

@@ -76,20 +76,12 @@ class FormStacking : public WindowTest {
     forms::doEvents();
   }
 
-  /// What the screen shows there once nothing of it changes any more.
-  static std::vector<COLORREF> lastingPixels(const RECT& rect) {
-    std::vector<COLORREF> last = screenPixels(rect);
-    const auto stays = [&] { return std::exchange(last, screenPixels(rect)) == last; };
-    EXPECT_TRUE(settles(stays, kUntilLeftAlone.lasting, kDefaultTimeout));
-    return last;
-  }
-
   /// Whether the screen shows of `window` what it shows without those that might cover it.
   static bool isSeenWhole(HWND window, std::initializer_list<const forms::Form*> others) {
     // Neither the blinking caret nor what is seen beside a frame that is drawn narrower than it is.
     HideCaret(nullptr);
     const RECT inside = clientRectOf(window);
-    const std::vector<COLORREF> shown = lastingPixels(inside);
+    const std::vector<COLORREF> shown = settledPixels(inside);
     for (const forms::Form* other : others) ShowWindow(other->handle(), SW_HIDE);
     forms::doEvents();
     const bool same = eventually(
@@ -110,7 +102,7 @@ class FormStacking : public WindowTest {
     bar.show();
     awaitActive(bar);
     HideCaret(nullptr);
-    look() = lastingPixels(rectOf(bar.handle()));
+    look() = settledPixels(rectOf(bar.handle()));
     return bar;
   }
   static std::vector<COLORREF>& look() {
