@@ -106,10 +106,10 @@ targets=()
 if wanted wine-unit; then targets+=(unit_tests); fi
 if wanted windows; then targets+=(window_tests); fi
 if wanted program dpi144; then targets+=(program_tests); fi
-if wanted executable program dpi144; then targets+=(lexilo); fi
+if wanted executable program dpi144; then targets+=(lexilo capturewhy); fi
 if ((${#targets[@]} > 0)); then build windows "${targets[@]}"; fi
 if wanted executable; then
-  run_test executable 20 node scripts/check_executable.mjs build/windows/bin/lexilo.exe
+  run_test executable 20 node scripts/check_executable.mjs build/windows/bin/{lexilo,capturewhy}.exe
 fi
 if wanted words program dpi144; then ensure_full_database; fi
 if wanted program dpi144; then

@@ -41,10 +41,11 @@ constexpr int kStripReach = 200;  // left of the pointer
 
 }  // namespace
 
-bool isProbed(std::string_view className) {
-  return std::any_of(kTextWindows.begin(), kTextWindows.end(), [&](std::string_view name) {
+std::optional<std::string_view> probedAs(std::string_view className) {
+  const auto* const entry = std::ranges::find_if(kTextWindows, [&](std::string_view name) {
     return className.find(name) != std::string_view::npos;
   });
+  return entry == kTextWindows.end() ? std::nullopt : std::optional(*entry);
 }
 
 Rectangle stripPlace(int x, int y, int windowLeft, int windowRight) {

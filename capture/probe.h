@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -7,9 +8,12 @@
 /// What a probe for the word under the pointer decides. Lengths in screen pixels. Pure functions.
 namespace capture {
 
-/// Returns whether windows of this class are probed: whether the name contains one of the names of
-/// text windows, in the same case.
-bool isProbed(std::string_view className);
+/// Returns the first of the names of text windows that a class name contains, in the same case;
+/// nullopt if windows of this class are not probed.
+std::optional<std::string_view> probedAs(std::string_view className);
+
+/// Returns whether windows of this class are probed.
+inline bool isProbed(std::string_view className) { return probedAs(className).has_value(); }
 
 /// A rectangle of the screen.
 struct Rectangle {

@@ -128,6 +128,7 @@ function(lexilo_separate_symbols target)
     BYPRODUCTS ${symbols}
     COMMAND ${CMAKE_OBJCOPY} --only-keep-debug $<TARGET_FILE:${target}> ${symbols}
     COMMAND ${CMAKE_OBJCOPY} --strip-all --keep-symbol=WinMainCRTStartup
+      --keep-symbol=mainCRTStartup
       --add-gnu-debuglink=${symbols} $<TARGET_FILE:${target}>
     VERBATIM)
 endfunction()

@@ -28,6 +28,7 @@ const mayInclude = {
   'capture/nhw32/controls': ['text', 'win32', 'capture/nhw32'],
   'capture/nhw32/uia': ['text', 'win32', 'capture/nhw32'],
   capture: [...windowFolder, 'capture/nhw32'],
+  'capture/why': ['text', 'win32', 'capture/nhw32', 'capture/probe.h'],
   lookup: [...windowFolder, 'capture/screen_word.h'],
   query: [...windowFolder, 'capture/screen_word.h'],
   app: ['text', 'win32', 'settings', 'data', 'forms', 'capture', 'lookup', 'query', 'app/resources'],

@@ -8,7 +8,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 cd "$LEXILO_ROOT"
 
 set_up_program
-build windows lexilo
+build windows lexilo capturewhy
 build tools kkbuild
 ensure_full_database
 
@@ -19,7 +19,7 @@ folder=build/package/$name
 rm -rf build/package
 mkdir -p "$folder/licences"
 
-cp build/windows/bin/lexilo.exe build/kk.dat LICENSE THIRD_PARTY.md "$folder"
+cp build/windows/bin/{lexilo,capturewhy}.exe build/kk.dat LICENSE THIRD_PARTY.md "$folder"
 cp -r help "$folder/help"
 
 # The licences of what is built in, word for word as it came.
@@ -30,13 +30,13 @@ cp "$doc/mingw-w64-x86-64-dev/copyright" "$folder/licences/mingw-w64.txt"
 cp "$doc/gcc-mingw-w64-base/copyright" "$folder/licences/gcc-runtime.txt"
 cp "$doc/libicu72/copyright" "$folder/licences/icu-pinyin-order.txt"
 
-# pack ZIP FOLDER ENTRY: puts an entry of FOLDER into build/ZIP.
+# pack ZIP FOLDER ENTRY...: puts entries of FOLDER into build/ZIP.
 pack() {
   rm -f "build/$1"
   step "Packing build/$1" package.log "Look for a full disk." \
-    cmake -E chdir "$2" cmake -E tar cf "$LEXILO_ROOT/build/$1" --format=zip "$3"
+    cmake -E chdir "$2" cmake -E tar cf "$LEXILO_ROOT/build/$1" --format=zip "${@:3}"
   say "build/$1: $(($(stat -c %s "build/$1") / 1024 / 1024)) MB"
 }
 
 pack "$name.zip" build/package "$name"
-pack "$name-symbols.zip" build/windows/bin lexilo.debug
+pack "$name-symbols.zip" build/windows/bin lexilo.debug capturewhy.debug

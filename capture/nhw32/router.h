@@ -1,7 +1,11 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
+#include <optional>
+#include <string>
 
+#include "capture/nhw32/policy.h"
 #include "capture/nhw32/reader.h"
 
 namespace nhw32 {
@@ -11,5 +15,18 @@ namespace nhw32 {
 /// The thread has to be per-monitor DPI aware. In a header of its own, since the readers that it
 /// chooses from include reader.h.
 std::unique_ptr<WordReader> makeWindowReader();
+
+/// What asking a window came to, for a report.
+struct Diagnosis {
+  std::u16string className;
+  std::u16string realClassName;
+  std::optional<ReaderKind> reader;  ///< nullopt: the window does not answer
+  bool isPassword = false;           ///< of controls that are read by messages
+  Answer answer;
+  std::chrono::microseconds time{0};  ///< that the answer took
+};
+
+/// Asks a question once, with a reader of its own. The thread has to be per-monitor DPI aware.
+Diagnosis diagnose(const Question& question);
 
 }  // namespace nhw32

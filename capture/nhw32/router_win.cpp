@@ -29,13 +29,18 @@ std::u16string realClassOf(HWND window) {
 
 /// Chooses the reader by the window's class, again for each question, since handles are reused. A
 /// window that has the class name of a text control but no lines is no text control, and is read by
-/// UI Automation.
+/// UI Automation. Throws NoAnswer.
+ReaderKind readerOf(WindowId id) {
+  auto* const window = reinterpret_cast<HWND>(id);
+  const ReaderKind kind = readerKindFor(classNameOf(window), realClassOf(window));
+  return kind == ReaderKind::kUia || !hasLines(id) ? ReaderKind::kUia : kind;
+}
+
 class WindowReader : public WordReader {
  public:
   Answer wordAt(const Question& question) override try {
-    auto* const window = reinterpret_cast<HWND>(question.window);
-    const ReaderKind kind = readerKindFor(classNameOf(window), realClassOf(window));
-    if (kind == ReaderKind::kUia || !hasLines(question.window)) return uia_->wordAt(question);
+    const ReaderKind kind = readerOf(question.window);
+    if (kind == ReaderKind::kUia) return uia_->wordAt(question);
     auto word =
         kind == ReaderKind::kEdit ? editWordAt(question) : richEditWordAt(question, memory_);
     return word ? Answer{Outcome::kWord, std::move(*word)} : Answer{};
@@ -55,6 +60,26 @@ class WindowReader : public WordReader {
 // The back-off is outermost: it applies to whichever reader a window gets.
 std::unique_ptr<WordReader> makeWindowReader() {
   return std::make_unique<BackoffReader>(std::make_unique<WindowReader>());
+}
+
+Diagnosis diagnose(const Question& question) {
+  auto* const window = reinterpret_cast<HWND>(question.window);
+  Diagnosis diagnosis;
+  diagnosis.className = classNameOf(window);
+  diagnosis.realClassName = realClassOf(window);
+  try {
+    diagnosis.reader = readerOf(question.window);
+    diagnosis.isPassword =
+        *diagnosis.reader != ReaderKind::kUia && TargetWindow(question.window).isPassword();
+  } catch (const NoAnswer& failure) {
+    diagnosis.answer.outcome = failure.outcome();
+    return diagnosis;
+  }
+  const auto begin = std::chrono::steady_clock::now();
+  diagnosis.answer = makeWindowReader()->wordAt(question);
+  diagnosis.time = std::chrono::duration_cast<std::chrono::microseconds>(
+      std::chrono::steady_clock::now() - begin);
+  return diagnosis;
 }
 
 }  // namespace nhw32

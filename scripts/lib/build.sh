@@ -66,7 +66,7 @@ build_licence_page() {
 # assemble_app: brings build/app up to date. The symbols lie there for the backtraces of crashes.
 assemble_app() {
   mkdir -p "$app_dir"
-  cp --remove-destination "$LEXILO_ROOT"/build/windows/bin/lexilo.{exe,debug} "$app_dir"
+  cp --remove-destination "$LEXILO_ROOT"/build/windows/bin/{lexilo,capturewhy}.{exe,debug} "$app_dir"
   if [[ ! -f $app_dir/kk.dat ]] || ! cmp -s "$database.stamp" "$app_dir/.kk.dat.stamp"; then
     # What an interrupted update of the old database left would be rolled back into the new one.
     rm -f "$app_dir/kk.dat-journal"

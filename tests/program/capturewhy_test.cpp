@@ -1,0 +1,80 @@
+// capturewhy.exe, which tells users why there is a word or none.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "tests/program/capture_fixture.h"
+#include "tests/support/process/process.h"
+#include "tests/support/process/text_window.h"
+
+namespace support {
+namespace {
+
+namespace fs = std::filesystem;
+
+class CaptureWhy : public ::testing::Test {
+ protected:
+  /// Runs it with `arguments`, as a command line does, and returns what it prints.
+  std::string printed(const std::wstring& arguments, DWORD exitCode = 0) {
+    const fs::path program = AppFolder::withFullDictionary().path() / "capturewhy.exe";
+    const fs::path report = fs::temp_directory_path() / "capturewhy.txt";
+    const Process shell(L"C:\\windows\\system32\\cmd.exe", L"/s /c \"\"" + program.wstring() +
+                                                               L"\" " + arguments + L" > \"" +
+                                                               report.wstring() + L"\"\"");
+    EXPECT_EQ(shell.waitForExit(), exitCode);
+    std::ifstream file(report, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
+  std::string reportAt(POINT point) {
+    input::moveTo(point);
+    return printed(L"0");
+  }
+
+  static bool has(const std::string& report, const std::string& line) {
+    return report.find(line) != std::string::npos;
+  }
+};
+
+TEST_F(CaptureWhy, NamesTheWordThatThePopupWouldShow) {
+  const Notepad notepad;
+  notepad.place(kPage);
+  notepad.setText(L"a catalyst");
+  const POINT place = editPosition(notepad.edit(), 4);
+  const std::string report = reportAt({place.x + 3, place.y + 6});
+  EXPECT_TRUE(has(report, "notepad.exe\n")) << report;
+  EXPECT_TRUE(has(report, "Window class      Edit\n")) << report;
+  EXPECT_TRUE(has(report, "yes, by the entry \"Edit\"\n")) << report;
+  EXPECT_TRUE(has(report, "messages of edit controls\n")) << report;
+  EXPECT_TRUE(has(report, "\"catalyst\"\n")) << report;
+}
+
+TEST_F(CaptureWhy, SaysThatAWindowIsNotProbed) {
+  const TextWindow label(L"STATIC", 0, kPage, L"a catalyst");
+  const std::string report = reportAt(centreOf(kPage));
+  EXPECT_TRUE(has(report, "Window class      Static\n")) << report;
+  EXPECT_TRUE(has(report, "no: its class contains no entry of the table\n")) << report;
+}
+
+TEST_F(CaptureWhy, SaysThatAPasswordFieldIsNotRead) {
+  const TextWindow box(L"EDIT", ES_PASSWORD, kPage, L"catalyst");
+  const std::string report = reportAt({kPage.left + 10, kPage.top + 8});
+  EXPECT_TRUE(has(report, "a password field, which is never read\n")) << report;
+  EXPECT_FALSE(has(report, "catalyst")) << report;
+}
+
+TEST_F(CaptureWhy, SaysThatAWindowDoesNotAnswer) {
+  const TextWindow box(L"EDIT", ES_MULTILINE, kPage, L"catalyst");
+  const TextWindow::Busy busy(box);
+  const std::string report = reportAt({kPage.left + 10, kPage.top + 8});
+  EXPECT_TRUE(has(report, "did not answer in time\n")) << report;
+}
+
+TEST_F(CaptureWhy, ExplainsItselfWhereItIsNotUnderstood) {
+  for (const wchar_t* arguments : {L"/?", L"-1", L"61", L"3 4", L"3s"}) {
+    EXPECT_TRUE(has(printed(arguments, 2), "capturewhy [SECONDS]")) << arguments;
+  }
+}
+
+}  // namespace
+}  // namespace support
