@@ -132,15 +132,6 @@ TEST_F(Nhw32Edit, NothingBeyondALinesEndBelowTheTextAndInTheMargins) {
   EXPECT_EQ(wordAtPoint(target, {client.left - 5, first.y + 1}), u"");
 }
 
-TEST_F(Nhw32Edit, TheLastLetterOfTheTextIsReadInItsWholeWidthAndNoFurther) {
-  for (const DWORD style : {DWORD{ES_MULTILINE | ES_AUTOVSCROLL}, DWORD{ES_AUTOHSCROLL}}) {
-    const HookedTextWindow longer({.style = style}, u"aim x");
-    const auto cell = characterCell(longer.control(), 2);
-    const HookedTextWindow target({.style = style}, u"aim");
-    EXPECT_NEAR(wordColumns(target.control(), 2), cell->right - cell->left, 1) << style;
-  }
-}
-
 TEST_F(Nhw32Edit, NothingFarBelowALoneLine) {
   const HookedTextWindow target({}, u"lonely");
   const POINT corner = *characterCorner(target.control(), 2);

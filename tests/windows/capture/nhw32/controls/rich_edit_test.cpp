@@ -173,13 +173,6 @@ TEST_F(Nhw32RichEdit, ALastLineIsReadDownToItsLowerEdgeAndLittleBelow) {
   }
 }
 
-TEST_F(Nhw32RichEdit, TheLastLetterOfTheTextIsReadInItsWholeWidthAndNoFurther) {
-  const HookedTextWindow longer(richDesign(), u"aim x");
-  const auto cell = characterCell(longer.control(), 2);
-  const HookedTextWindow target(richDesign(), u"aim");
-  EXPECT_NEAR(wordColumns(target.control(), 2), cell->right - cell->left, 1);
-}
-
 TEST_F(Nhw32RichEdit, TheCaretTellsOfItsOwnLineOnly) {
   const int height = lineHeightOf(36);
   const SizedLines target({{u"first", 8}, {u"The catalyst", 36}});
