@@ -75,6 +75,8 @@ std::vector<COLORREF> settledPixels(const RECT& rect) {
 
 bool isSeenWhole(HWND window, const std::vector<HWND>& others) {
   const RECT inside = clientRectOf(window);
+  // On a busy machine it may not have been painted since it was shown.
+  repaint(window);
   const std::vector<COLORREF> shown = settledPixels(inside);
   for (HWND other : others) {
     ShowWindow(other, SW_HIDE);

@@ -19,7 +19,7 @@ TEST_F(TimerTest, TicksAtItsInterval) {
   timer.setInterval(20);
   timer.setEnabled(true);
   const ULONGLONG start = GetTickCount64();
-  ASSERT_TRUE(eventually([this] { return ticks == 5; }));
+  ASSERT_TRUE(eventually([this] { return ticks >= 5; }));
   EXPECT_GE(GetTickCount64() - start, 80U);
 }
 
@@ -124,11 +124,11 @@ TEST_F(TimerTest, TwoTimersDoNotDisturbEachOther) {
   int slowTicks = 0;
   fast.onTimer = [this] { ++ticks; };
   slow.onTimer = [&] { ++slowTicks; };
-  ASSERT_TRUE(eventually([&] { return slowTicks == 2; }));
+  ASSERT_TRUE(eventually([&] { return slowTicks >= 2; }));
   EXPECT_GT(ticks, slowTicks);
   fast.setEnabled(false);
   const int before = ticks;
-  ASSERT_TRUE(eventually([&] { return slowTicks == 4; }));
+  ASSERT_TRUE(eventually([&] { return slowTicks >= 4; }));
   EXPECT_EQ(ticks, before);
 }
 
