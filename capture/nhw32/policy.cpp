@@ -53,11 +53,13 @@ void Backoff::note(WindowId window, Outcome outcome, Time now) {
     records_.erase(old);
   }
   // Any other outcome is an answer in time, which resets the count: no record is kept.
-  if (outcome != Outcome::kOutOfTime) return;
+  if (outcome != Outcome::kOutOfTime && outcome != Outcome::kUiaOutOfTime) return;
   ++record.timeouts;
   if (record.timeouts >= kMaxTimeouts) {
     // The delay is 0 before the third timeout, so the first one is kMinDelay.
-    record.delay = std::clamp<std::chrono::seconds>(2 * record.delay, kMinDelay, kMaxDelay);
+    const std::chrono::seconds most =
+        outcome == Outcome::kUiaOutOfTime ? kMaxUiaDelay : std::chrono::seconds(kMaxDelay);
+    record.delay = std::clamp(2 * record.delay, std::chrono::seconds(kMinDelay), most);
     record.until = now + record.delay;
   }
   if (records_.size() == kMaxWindows) records_.erase(records_.begin());

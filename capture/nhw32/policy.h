@@ -35,9 +35,9 @@ Outcome outcomeOfSendTimeout(std::uint32_t lastError);
 
 /// Exponential back-off for windows that do not answer in time. After kMaxTimeouts timeouts in a
 /// row a window is left alone for kMinDelay, and for twice as long after each further timeout, at
-/// most kMaxDelay. An answer in time resets the count; a refusal changes nothing. Without it, a
-/// program that hangs for a moment at each message would be held up ten times a second while the
-/// pointer rests over it. Not thread-safe.
+/// most kMaxDelay, or kMaxUiaDelay after a timeout of UI Automation. An answer in time resets the
+/// count; a refusal changes nothing. Without it, a program that hangs for a moment at each message
+/// would be held up ten times a second while the pointer rests over it. Not thread-safe.
 class Backoff {
  public:
   using Time = std::chrono::steady_clock::time_point;
@@ -46,6 +46,8 @@ class Backoff {
   static constexpr int kMaxTimeouts = 3;
   static constexpr std::chrono::seconds kMinDelay{5};
   static constexpr std::chrono::minutes kMaxDelay{5};
+  /// Short, since a question takes many calls: a program may be busy without being stuck.
+  static constexpr std::chrono::seconds kMaxUiaDelay{10};
   /// Bounds the memory; the window noted least recently is forgotten first.
   static constexpr std::size_t kMaxWindows = 64;
 

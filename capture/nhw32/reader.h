@@ -55,10 +55,11 @@ struct Word {
 
 /// How asking a window ended.
 enum class Outcome {
-  kWord,       ///< the word was found
-  kNone,       ///< there is no word, or the window does not support reading
-  kRefused,    ///< the window may not be asked, or no longer exists
-  kOutOfTime,  ///< the window did not answer in time
+  kWord,          ///< the word was found
+  kNone,          ///< there is no word, or the window does not support reading
+  kRefused,       ///< the window may not be asked, or no longer exists
+  kOutOfTime,     ///< the window did not answer in time
+  kUiaOutOfTime,  ///< UI Automation did not answer in time
 };
 
 struct Answer {

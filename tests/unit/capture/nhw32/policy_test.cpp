@@ -75,6 +75,19 @@ TEST(Backoff, DoublesTheDelayUpToFiveMinutes) {
   }
 }
 
+TEST(Backoff, LastsTenSecondsAtMostIfUiAutomationTimesOut) {
+  Backoff backoff;
+  Backoff::Time now = kStart;
+  for (int i = 0; i < 2; ++i) backoff.note(1, Outcome::kUiaOutOfTime, now);
+  EXPECT_TRUE(backoff.mayAsk(1, now));
+  for (const int rest : {5, 10, 10, 10}) {
+    backoff.note(1, Outcome::kUiaOutOfTime, now);
+    EXPECT_FALSE(backoff.mayAsk(1, now + seconds(rest) - milliseconds(1))) << rest;
+    EXPECT_TRUE(backoff.mayAsk(1, now + seconds(rest))) << rest;
+    now += seconds(rest);
+  }
+}
+
 TEST(Backoff, RemembersSixtyFourWindows) {
   Backoff backoff;
   for (WindowId window = 1; window <= 65; ++window) fail(backoff, window, 3, kStart);
