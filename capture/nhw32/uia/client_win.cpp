@@ -2,38 +2,38 @@
 
 #include <objbase.h>
 
+#include <array>
 #include <optional>
 #include <utility>
 
 #include "capture/nhw32/uia/com.h"
-#include "capture/nhw32/uia/geometry.h"
+#include "capture/nhw32/uia/element.h"
+#include "capture/nhw32/uia/limits.h"
+#include "capture/nhw32/uia/prepared_client.h"
 #include "capture/nhw32/uia/text.h"
 
 // The client is created by the first question and kept. It runs in this process, on this thread,
 // and calls the providers in other processes; the time limits that it is given apply to each call,
-// those of UiaCalls to a question. CUIAutomation8 is the class of Windows 8 and later; the older
-// one is tried where it is missing.
+// those of UiaCalls to a question.
 namespace nhw32 {
 namespace {
 
-HRESULT createClient(REFCLSID clientClass, IUIAutomation2** client) {
-  return CoCreateInstance(clientClass, nullptr, CLSCTX_INPROC_SERVER, IID_IUIAutomation2,
+/// CUIAutomation8 is the class of Windows 8 and later. The one of Windows 7 has no limits of time.
+HRESULT makeSystemClient(IUIAutomation2** client) {
+  return CoCreateInstance(CLSID_CUIAutomation8, nullptr, CLSCTX_INPROC_SERVER, IID_IUIAutomation2,
                           reinterpret_cast<void**>(client));
 }
 
-HRESULT makeSystemClient(IUIAutomation2** client) {
-  const HRESULT result = createClient(CLSID_CUIAutomation8, client);
-  return SUCCEEDED(result) ? result : createClient(CLSID_CUIAutomation, client);
+bool isConsoleWindow(HWND window) {
+  std::array<wchar_t, 257> name{};  // class names have at most 256 characters
+  const int length = GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+  return isConsole(std::u16string(name.begin(), name.begin() + length));
 }
 
-/// Sets the client's time limits; returns false for a client that does not accept them. Its own are
-/// 2 and 20 seconds, too long for a worker that is to answer about the next point. A call must not
-/// move the focus either.
-bool prepare(IUIAutomation2& client) {
-  const auto limit = static_cast<DWORD>(kUiaCallTime.count());
-  return SUCCEEDED(client.put_AutoSetFocus(FALSE)) &&
-         SUCCEEDED(client.put_ConnectionTimeout(limit)) &&
-         SUCCEEDED(client.put_TransactionTimeout(limit));
+std::uint32_t processOf(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process;
 }
 
 /// Returns the window's rectangle on the screen, nullopt if it is hidden or has gone.
@@ -70,32 +70,53 @@ class UiaReader : public WordReader {
     if (!com_) com_.emplace();
     if (!com_->ready()) return false;
     ComPtr<IUIAutomation2> client;
-    if (FAILED(system_.makeClient(client.GetAddressOf())) || !client || !prepare(*client.Get()))
-      return false;
-    client_ = std::move(client);
-    return true;
+    if (FAILED(system_.makeClient(client.GetAddressOf())) || !client) return false;
+    client_ = PreparedClient::make(std::move(client));
+    return client_.has_value();
   }
 
   Answer ask(const Question& question) {
     auto* const window = reinterpret_cast<HWND>(question.window);
     const auto place = placeOf(window);
     if (!place) return {};
-    UiaCalls calls(system_.now);
-    const auto pattern = textPatternAt(*client_.Get(), question, calls);
-    if (!pattern) return {};
-    auto word = wordUnder(*pattern.Get(), question.point, calls);
+    const bool console = isConsoleWindow(window);
+    if (console && !mayAskConsoles(system_.build())) return {};
+    const bool first = contacts_.isFirst(processOf(window));
+    client_->limitConnecting(first ? kUiaFirstQuestionTime : kUiaCallTime);
+    UiaCalls calls(system_.now, first ? kUiaFirstQuestionTime : kUiaQuestionTime);
+    auto word = find(question, console ? Search::kLine : Search::kCharacter, calls);
     // The window may have been closed, moved, resized or hidden meanwhile.
     if (!word || placeOf(window) != place) return {};
     return {Outcome::kWord, std::move(*word)};
   }
 
+  std::optional<Word> find(const Question& question, Search search, UiaCalls& calls) {
+    const TextHolder holder = textHolderAt(*client_, question, calls);
+    if (holder.text) return wordUnder(*holder.text.Get(), question.point, search, calls);
+    if (holder.item) return wordOfItem(*holder.item.Get(), question.point, calls);
+    return std::nullopt;
+  }
+
   UiaSystem system_;
   Retry retry_{kClientRetryDelay};
   std::optional<ScopedCom> com_;
-  ComPtr<IUIAutomation2> client_;  // declared last: released before COM ends
+  Contacts contacts_;
+  std::optional<PreparedClient> client_;  // declared last: released before COM ends
 };
 
 }  // namespace
+
+// GetVersionEx tells the version that the program's manifest names.
+std::uint32_t windowsBuild() {
+  using GetVersion = LONG(WINAPI*)(RTL_OSVERSIONINFOW*);
+  const HMODULE library = GetModuleHandleW(L"ntdll.dll");
+  if (library == nullptr) return 0;
+  const auto getVersion = reinterpret_cast<GetVersion>(
+      reinterpret_cast<void*>(GetProcAddress(library, "RtlGetVersion")));
+  RTL_OSVERSIONINFOW version{};
+  version.dwOSVersionInfoSize = sizeof version;
+  return getVersion != nullptr && getVersion(&version) >= 0 ? version.dwBuildNumber : 0;
+}
 
 std::unique_ptr<WordReader> makeUiaReader() {
   return makeUiaReader({.makeClient = makeSystemClient});

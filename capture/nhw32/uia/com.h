@@ -1,17 +1,24 @@
 #pragma once
 
+// Classic COM only: no IInspectable. The name is that of wrl/client.h.
+#define __WRL_CLASSIC_COM__  // NOLINT(bugprone-reserved-identifier)
+
 // First: the other headers rest on it.
 #include <windows.h>
 
 #include <objbase.h>
 #include <oleauto.h>
+#include <wrl/client.h>
 
 #include <cstddef>
 #include <span>
 #include <string_view>
 
-/// Owners of the COM values that UI Automation returns; interface pointers are owned by ComPtr.
+/// Owners of the COM values that UI Automation returns.
 namespace nhw32 {
+
+/// Owns a reference to an interface.
+using Microsoft::WRL::ComPtr;
 
 /// Owns a BSTR.
 class UniqueBstr {
@@ -42,6 +49,12 @@ class UniqueVariant {
   /// For one call that stores a value.
   VARIANT* out() { return &value_; }
   [[nodiscard]] const VARIANT& get() const { return value_; }
+  /// Gives away an array of doubles; null if the value is another one.
+  SAFEARRAY* releaseDoubles() {
+    if (value_.vt != (VT_ARRAY | VT_R8)) return nullptr;
+    value_.vt = VT_EMPTY;
+    return value_.parray;
+  }
 
  private:
   VARIANT value_;
@@ -50,7 +63,8 @@ class UniqueVariant {
 /// Owns a SAFEARRAY that is expected to hold doubles.
 class UniqueDoubleArray {
  public:
-  UniqueDoubleArray() = default;
+  /// Takes over `array`, which may be null.
+  explicit UniqueDoubleArray(SAFEARRAY* array = nullptr) : array_(array) {}
   UniqueDoubleArray(const UniqueDoubleArray&) = delete;
   UniqueDoubleArray& operator=(const UniqueDoubleArray&) = delete;
   // A locked array cannot be destroyed.

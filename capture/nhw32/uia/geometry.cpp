@@ -39,7 +39,7 @@ ScreenBox inPixels(const Rectangle& r) {
           static_cast<int>(std::ceil(r.top + r.height))};
 }
 
-bool isBlank(char16_t unit) {
+bool isBlankUnit(char16_t unit) {
   constexpr char16_t kNoBreakSpace = u'\u00A0';
   constexpr char16_t kIdeographicSpace = u'\u3000';
   return unit <= u' ' || unit == kNoBreakSpace || unit == kIdeographicSpace;
@@ -60,11 +60,26 @@ std::optional<ScreenBox> boxUnder(std::span<const double> rectangles, ScreenPoin
 
 bool isOneCharacter(std::u16string_view text) { return text.size() == 1 || text.size() == 2; }
 
+std::size_t labelLength(std::u16string_view unit) {
+  const std::size_t tab = unit.rfind(u'\t');
+  const bool isLabel = tab != std::u16string_view::npos && tab > 0 &&
+                       isOneCharacter(unit.substr(tab + 1)) && !isBlank(unit.substr(tab + 1));
+  return isLabel ? tab + 1 : 0;
+}
+
+bool isBlank(std::u16string_view text) { return std::ranges::all_of(text, isBlankUnit); }
+
+bool isWordOrItem(std::u16string_view text, std::u16string_view word) {
+  if (!text.ends_with(word)) return false;
+  const auto before = text.substr(0, text.size() - word.size());
+  return before.empty() || isBlankUnit(before.back());
+}
+
 // The point may be anywhere in the unit, so that a reading of a part of it may not be the one
 // there. A full stop at its end is a part of the word or the sentence's.
 std::optional<text::Readings> onlyWord(std::u16string_view text) {
-  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  while (!text.empty() && isBlankUnit(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlankUnit(text.back())) text.remove_suffix(1);
   text::Readings readings = text::readingsAt(text, 0);
   auto& [candidates, otherwise] = readings;
   const auto isWhole = [&](const text::Reading& reading) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <cstddef>
 #include <optional>
 #include <span>
@@ -9,7 +8,7 @@
 #include "capture/nhw32/reader.h"
 #include "text/readings.h"
 
-/// The portable part of reading by UI Automation: its rectangles, texts and retries. What comes
+/// The portable part of reading by UI Automation: its rectangles and texts. What comes
 /// from a provider is checked here before it is used.
 namespace nhw32 {
 
@@ -22,25 +21,20 @@ std::optional<ScreenBox> boxUnder(std::span<const double> rectangles, ScreenPoin
 /// Returns whether `text` is as long as one character: a code unit, a surrogate pair or a CR LF.
 bool isOneCharacter(std::u16string_view text);
 
+/// Returns how much of a unit stands before its character where a list item begins: word processors
+/// make one unit of a label, a tab and the item's first character. 0 for any other unit.
+std::size_t labelLength(std::u16string_view unit);
+
+/// Returns whether `text` is all blanks.
+bool isBlank(std::u16string_view text);
+
+/// Returns whether `text` is `word`, or ends with it after a blank: the first word of a list item
+/// cannot be read without the label before it.
+bool isWordOrItem(std::u16string_view text, std::u16string_view word);
+
 /// Returns the readings of `text` without the blanks around it, other than those of a part of it
 /// ("well" of "well-known"); nullopt if no reading is the whole of it. A full stop at its end may
 /// belong to a reading or not.
 std::optional<text::Readings> onlyWord(std::u16string_view text);
-
-/// Delays further attempts after a failure. Not thread-safe.
-class Retry {
- public:
-  using Time = std::chrono::steady_clock::time_point;
-
-  explicit Retry(std::chrono::milliseconds pause) : pause_(pause) {}
-
-  /// Returns whether an attempt may be made: none failed yet, or `pause` has passed since.
-  [[nodiscard]] bool due(Time now) const { return !failed_ || now - *failed_ >= pause_; }
-  void failed(Time now) { failed_ = now; }
-
- private:
-  std::chrono::milliseconds pause_;
-  std::optional<Time> failed_;
-};
 
 }  // namespace nhw32

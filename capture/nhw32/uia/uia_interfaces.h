@@ -16,13 +16,12 @@
 /// namespace so that newer headers, which declare them all, do no harm.
 namespace nhw32 {
 
+struct IUIAutomationCacheRequest;
 struct IUIAutomationElement;
 struct IUIAutomationTextRange;
 struct IUIAutomationTreeWalker;
 
 // Interfaces that only occur as types of parameters.
-struct IUIAutomationCacheRequest;
-struct IUIAutomationCondition;
 struct IUIAutomationElementArray;
 struct IUIAutomationEventHandler;
 struct IUIAutomationFocusChangedEventHandler;
@@ -34,14 +33,32 @@ struct IUIAutomationStructureChangedEventHandler;
 struct IUIAutomationTextRangeArray;
 
 // The SDK's enumerations; the first as far as they are used.
-enum TextUnit : int { TextUnit_Character = 0 };
+enum TextUnit : int { TextUnit_Character = 0, TextUnit_Line = 3 };
 enum TextPatternRangeEndpoint : int {
   TextPatternRangeEndpoint_Start = 0,
   TextPatternRangeEndpoint_End = 1,
 };
+enum AutomationElementMode : int {};
 enum TreeScope : int {};
 enum PropertyConditionFlags : int {};
 enum SupportedTextSelection : int {};
+
+/// Has no functions of its own.
+struct IUIAutomationCondition : IUnknown {};
+
+/// A new one asks for the element alone (TreeScope) with a reference to it, so that its pattern may
+/// be called (AutomationElementMode).
+struct IUIAutomationCacheRequest : IUnknown {
+  virtual HRESULT STDMETHODCALLTYPE AddProperty(PROPERTYID propertyId) = 0;
+  virtual HRESULT STDMETHODCALLTYPE AddPattern(PATTERNID patternId) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Clone(IUIAutomationCacheRequest** clonedRequest) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_TreeScope(TreeScope* scope) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_TreeScope(TreeScope scope) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_TreeFilter(IUIAutomationCondition** filter) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_TreeFilter(IUIAutomationCondition* filter) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_AutomationElementMode(AutomationElementMode* mode) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_AutomationElementMode(AutomationElementMode mode) = 0;
+};
 
 struct IUIAutomationTextRange : IUnknown {
   virtual HRESULT STDMETHODCALLTYPE Clone(IUIAutomationTextRange** clonedRange) = 0;
@@ -112,9 +129,9 @@ struct IUIAutomationElement : IUnknown {
   virtual HRESULT STDMETHODCALLTYPE GetCachedPropertyValueEx(PROPERTYID propertyId,
                                                              BOOL ignoreDefaultValue,
                                                              VARIANT* retVal) = 0;
-  /// Returns S_OK and a null pattern if the element does not support the pattern.
   virtual HRESULT STDMETHODCALLTYPE GetCurrentPatternAs(int patternId, REFIID riid,
                                                         void** patternObject) = 0;
+  /// Returns S_OK and a null pattern if the element does not support the pattern.
   virtual HRESULT STDMETHODCALLTYPE GetCachedPatternAs(int patternId, REFIID riid,
                                                        void** patternObject) = 0;
   virtual HRESULT STDMETHODCALLTYPE GetCurrentPattern(int patternId, IUnknown** patternObject) = 0;
@@ -279,6 +296,11 @@ struct IUIAutomation2 : IUIAutomation {
 inline constexpr auto UIA_E_ELEMENTNOTAVAILABLE = static_cast<HRESULT>(0x80040201);
 inline constexpr auto UIA_E_TIMEOUT = static_cast<HRESULT>(0x80131505);
 
+// Control types, which mingw-w64 10 lacks; under names of our own, since newer headers have macros.
+inline constexpr int kHyperlinkControlType = 50005;
+inline constexpr int kDataItemControlType = 50029;
+inline constexpr int kHeaderItemControlType = 50035;
+
 // Interface and class ids, as published in UIAutomationClient.h.
 inline constexpr IID IID_IUIAutomation2 = {
     0x34723aff, 0x0c9d, 0x49d0, {0x98, 0x96, 0x7a, 0xb5, 0x2d, 0xf8, 0xcd, 0x8a}};
@@ -287,8 +309,5 @@ inline constexpr IID IID_IUIAutomationTextPattern = {
 /// The client of Windows 8 and later.
 inline constexpr CLSID CLSID_CUIAutomation8 = {
     0xe22ad333, 0xb25f, 0x460c, {0x83, 0xd0, 0x05, 0x81, 0x10, 0x73, 0x95, 0xc9}};
-/// The client of Windows 7.
-inline constexpr CLSID CLSID_CUIAutomation = {
-    0xff48dba4, 0x60ef, 0x4201, {0xaa, 0x87, 0x54, 0x10, 0x3e, 0xef, 0x59, 0x4e}};
 
 }  // namespace nhw32

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -22,6 +23,10 @@ struct ElementPlan {
   bool text = false;
   DWORD process = GetCurrentProcessId();
   HWND window = nullptr;
+  int type = 50033;  ///< a pane
+  std::optional<std::u16string> value;
+  std::u16string name;
+  std::vector<double> place;
 };
 
 /// A failure of one of the calls.
@@ -31,8 +36,10 @@ struct Trouble {
   bool throws = false;
 };
 
-/// What TextUnit_Character covers; programs differ in whether CR LF is one character or two.
-enum class Units { kCharacters, kCharactersWithCrLf, kWords, kAll };
+/// What TextUnit_Character covers; programs differ in whether CR LF is one character or two. With
+/// kListItems a label, the tab after it and the item's first character are one, as in word
+/// processors.
+enum class Units { kCharacters, kCharactersWithCrLf, kListItems, kWords, kAll };
 
 /// What GetBoundingRectangles returns.
 enum class Rectangles { kRight, kNothing, kNone, kOdd, kIntegers, kTwoDimensions, kInfinite };
@@ -44,19 +51,28 @@ struct FakeUiaPlan {
   Units units = Units::kCharacters;
   Rectangles rectangles = Rectangles::kRight;
   bool keepsToLength = true;  ///< GetText cuts its text as it is told to
+  bool trimsBlanks = false;   ///< GetText leaves out the blanks at the end of each row
+  bool tellsRowOnly = false;  ///< RangeFromPoint returns the beginning of the point's row
+  std::size_t columns = 0;    ///< longer lines go on in the next row; 0 is no limit
   std::optional<Trouble> trouble;
   std::chrono::milliseconds perCall{0};
   std::function<void()> onCall = [] {};
-  HRESULT limits = S_OK;  ///< what setting a limit of time returns
+  std::set<std::string> refused;  ///< functions of the client that fail, in preparing it
+  DWORD ownLimit = 20'000;        ///< the limits of time that it has by itself
+  std::uint32_t build = 26100;    ///< of Windows
 };
 
 /// The calls that were made.
 struct FakeUiaLog {
   std::vector<std::string> calls;
-  int live = 0;  ///< objects that somebody holds a reference to
+  std::size_t localCalls = 0;  ///< those of them that are answered by what was prefetched
+  int farthest = 0;            ///< characters by which a range or its end was to be moved at most
+  int mostLines = 0;           ///< lines
+  bool stopped = false;        ///< a move by characters was stopped by an end of the text
+  int live = 0;                ///< objects that somebody holds a reference to
   std::size_t unitsRead = 0;
-  DWORD connectionLimit = 0;
   DWORD transactionLimit = 0;
+  std::vector<DWORD> connectionLimits;  ///< in the order in which they were set
   bool takesFocus = true;
   std::chrono::steady_clock::time_point now{};
 };
@@ -77,7 +93,22 @@ struct FakeUia {
     return act();
   }
 
+  /// The same for a call that does not leave the client's process, which takes no time.
+  template <class Act>
+  HRESULT callLocally(const char* name, Act act) {
+    ++log.localCalls;
+    log.now -= plan.perCall;
+    return call(name, act);
+  }
+
+  /// Lets `act` answer a call that prepares the client, unless the plan refuses it.
+  template <class Act>
+  HRESULT prepare(const char* name, Act act) {
+    return plan.refused.contains(name) ? E_NOTIMPL : act();
+  }
+
   [[nodiscard]] std::size_t times(const std::string& name) const;
+  [[nodiscard]] std::size_t remoteCalls() const { return log.calls.size() - log.localCalls; }
 
  private:
   [[nodiscard]] HRESULT fail() const;
@@ -89,6 +120,9 @@ HRESULT makeFakeUia(FakeUia& uia, nhw32::IUIAutomation2** client);
 /// A range of its text.
 HRESULT makeFakeUiaRange(FakeUia& uia, std::size_t begin, std::size_t end,
                          nhw32::IUIAutomationTextRange** range);
+
+/// An array as automation hands them out.
+SAFEARRAY* arrayOf(const std::vector<double>& numbers);
 
 /// Counts references for an object of the fake.
 template <class Interface>
@@ -117,7 +151,8 @@ class Counted : public Interface {
   ULONG references_ = 1;
 };
 
-/// Where the fake's characters lie: a grid, each line of the text one row.
+/// Where the fake's characters lie: a grid, each line of the text one row or, if it is longer than
+/// the row's columns, some.
 namespace grid {
 inline constexpr int kLeft = 100;
 inline constexpr int kTop = 200;
@@ -135,10 +170,18 @@ inline nhw32::ScreenBox box(int row, int column, int count) {
           kTop + (row + 1) * kHeight};
 }
 
-/// The position that is nearest to a point.
-std::size_t nearest(const std::u16string& text, POINT point);
+/// A row's part of the text, without the line's end.
+struct Row {
+  std::size_t begin;
+  std::size_t end;
+};
+using Rows = std::vector<Row>;
+
+Rows rowsOf(const std::u16string& text, std::size_t columns);
+/// The position that is nearest to a point, or where its row begins.
+std::size_t nearest(const Rows& rows, POINT point, bool rowOnly);
 /// The rectangles of a part of the text: left, top, width, height of each row's.
-std::vector<double> rectangles(const std::u16string& text, std::size_t begin, std::size_t end);
+std::vector<double> rectangles(const Rows& rows, std::size_t begin, std::size_t end);
 }  // namespace grid
 
 }  // namespace support

@@ -3,45 +3,40 @@
 #include "tests/support/window/fake_uia.h"
 
 namespace support::grid {
-namespace {
 
-/// Where the row begins that holds the character at `index`, and its number.
-std::pair<std::size_t, int> rowOf(const std::u16string& text, std::size_t index) {
-  const auto before = std::u16string_view(text).substr(0, index);
-  const std::size_t lineEnd = before.rfind(u'\n');
-  return {lineEnd == std::u16string_view::npos ? 0 : lineEnd + 1,
-          static_cast<int>(std::count(before.begin(), before.end(), u'\n'))};
-}
-
-}  // namespace
-
-std::size_t nearest(const std::u16string& text, POINT point) {
-  const long row = std::max(0L, (point.y - kTop) / kHeight);
+Rows rowsOf(const std::u16string& text, std::size_t columns) {
+  Rows rows;
   std::size_t begin = 0;
-  for (long i = 0; i < row; ++i) {
-    const std::size_t lineEnd = text.find(u'\n', begin);
-    if (lineEnd == std::u16string::npos) break;
+  while (true) {
+    const std::size_t lineEnd = std::min(text.find(u'\n', begin), text.size());
+    for (; columns > 0 && lineEnd - begin > columns; begin += columns) {
+      rows.push_back({begin, begin + columns});
+    }
+    rows.push_back({begin, lineEnd});
+    if (lineEnd == text.size()) return rows;
     begin = lineEnd + 1;
   }
-  const std::size_t length = std::min(text.find(u'\n', begin), text.size()) - begin;
-  const long column = std::max(0L, (point.x - kLeft + kWidth / 2) / kWidth);
-  return begin + std::min(length, static_cast<std::size_t>(column));
 }
 
-std::vector<double> rectangles(const std::u16string& text, std::size_t begin, std::size_t end) {
+std::size_t nearest(const Rows& rows, POINT point, bool rowOnly) {
+  const long number = std::max(0L, (point.y - kTop) / kHeight);
+  const Row& row = rows[std::min(static_cast<std::size_t>(number), rows.size() - 1)];
+  if (rowOnly) return row.begin;
+  const long column = std::max(0L, (point.x - kLeft + kWidth / 2) / kWidth);
+  return row.begin + std::min(row.end - row.begin, static_cast<std::size_t>(column));
+}
+
+std::vector<double> rectangles(const Rows& rows, std::size_t begin, std::size_t end) {
   std::vector<double> all;
-  auto [rowBegin, row] = rowOf(text, begin);
-  while (begin < end) {
-    const std::size_t rowEnd = std::min(text.find(u'\n', begin), text.size());
-    const std::size_t last = std::min(rowEnd, end);
-    if (last > begin) {
-      all.push_back(kLeft + static_cast<double>(begin - rowBegin) * kWidth);
-      all.push_back(kTop + row * kHeight);
-      all.push_back(static_cast<double>(last - begin) * kWidth);
-      all.push_back(kHeight);
-    }
-    begin = rowBegin = rowEnd + 1;
-    ++row;
+  for (std::size_t number = 0; number < rows.size(); ++number) {
+    const Row& row = rows[number];
+    const std::size_t first = std::max(begin, row.begin);
+    const std::size_t last = std::min(end, row.end);
+    if (first >= last) continue;
+    all.push_back(kLeft + static_cast<double>(first - row.begin) * kWidth);
+    all.push_back(kTop + static_cast<double>(number) * kHeight);
+    all.push_back(static_cast<double>(last - first) * kWidth);
+    all.push_back(kHeight);
   }
   return all;
 }

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
 #include <memory>
 
@@ -6,9 +7,6 @@
 #include "tests/support/window/uia_stubs.h"
 
 namespace support {
-namespace {
-
-using nhw32::TextUnit;
 
 SAFEARRAY* arrayOf(const std::vector<double>& numbers) {
   SAFEARRAY* array = SafeArrayCreateVector(VT_R8, 0, static_cast<ULONG>(numbers.size()));
@@ -18,6 +16,9 @@ SAFEARRAY* arrayOf(const std::vector<double>& numbers) {
   }
   return array;
 }
+namespace {
+
+using nhw32::TextUnit;
 
 SAFEARRAY* arrayWithTwoDimensions() {
   SAFEARRAYBOUND bounds[] = {{4, 0}, {1, 0}};
@@ -46,6 +47,16 @@ SAFEARRAY* arrayFor(Rectangles kind, std::vector<double> numbers) {
   return nullptr;
 }
 
+std::u16string withoutBlanksAtLineEnds(const std::u16string& text) {
+  std::u16string left;
+  for (const char16_t unit : text + u'\n') {
+    if (unit == u'\n') left.resize(left.find_last_not_of(u' ') + 1);
+    left += unit;
+  }
+  left.pop_back();
+  return left;
+}
+
 class Range : public Counted<UiaTextRangeStub> {
  public:
   Range(FakeUia& uia, std::size_t begin, std::size_t end)
@@ -55,44 +66,45 @@ class Range : public Counted<UiaTextRangeStub> {
     return in_.call("Clone", [&] { return makeFakeUiaRange(in_, begin_, end_, copy); });
   }
 
-  HRESULT STDMETHODCALLTYPE ExpandToEnclosingUnit(TextUnit /*unit*/) override {
+  HRESULT STDMETHODCALLTYPE ExpandToEnclosingUnit(TextUnit unit) override {
     return in_.call("ExpandToEnclosingUnit", [&] {
-      while (begin_ > 0 && !isEdge(begin_)) --begin_;
-      end_ = next(begin_);
+      while (begin_ > 0 && !isEdge(begin_, unit)) --begin_;
+      end_ = next(begin_, unit);
       return S_OK;
     });
   }
 
   HRESULT STDMETHODCALLTYPE GetBoundingRectangles(SAFEARRAY** rectangles) override {
     return in_.call("GetBoundingRectangles", [&] {
-      *rectangles = arrayFor(in_.plan.rectangles, grid::rectangles(text(), begin_, end_));
+      *rectangles = arrayFor(in_.plan.rectangles, grid::rectangles(rows_, begin_, end_));
       return S_OK;
     });
   }
 
   HRESULT STDMETHODCALLTYPE GetText(int maxLength, BSTR* result) override {
     return in_.call("GetText", [&] {
-      std::size_t length = end_ - begin_;
-      if (in_.plan.keepsToLength) length = std::min(length, static_cast<std::size_t>(maxLength));
-      in_.log.unitsRead += length;
-      *result = SysAllocStringLen(reinterpret_cast<const OLECHAR*>(text().data()) + begin_,
-                                  static_cast<UINT>(length));
+      std::u16string part = text().substr(begin_, end_ - begin_);
+      if (in_.plan.trimsBlanks) part = withoutBlanksAtLineEnds(part);
+      if (in_.plan.keepsToLength) part.resize(std::min<std::size_t>(part.size(), maxLength));
+      in_.log.unitsRead += part.size();
+      *result = SysAllocStringLen(reinterpret_cast<const OLECHAR*>(part.data()),
+                                  static_cast<UINT>(part.size()));
       return S_OK;
     });
   }
 
-  HRESULT STDMETHODCALLTYPE Move(TextUnit /*unit*/, int count, int* moved) override {
+  HRESULT STDMETHODCALLTYPE Move(TextUnit unit, int count, int* moved) override {
     return in_.call("Move", [&] {
-      *moved = step(begin_, count);
-      end_ = next(begin_);
+      *moved = step(begin_, count, unit);
+      end_ = next(begin_, unit);
       return S_OK;
     });
   }
 
-  HRESULT STDMETHODCALLTYPE MoveEndpointByUnit(nhw32::TextPatternRangeEndpoint end,
-                                               TextUnit /*unit*/, int count, int* moved) override {
+  HRESULT STDMETHODCALLTYPE MoveEndpointByUnit(nhw32::TextPatternRangeEndpoint end, TextUnit unit,
+                                               int count, int* moved) override {
     return in_.call("MoveEndpointByUnit", [&] {
-      *moved = step(at(end), count);
+      *moved = step(at(end), count, unit);
       keepOrder(end);
       return S_OK;
     });
@@ -124,13 +136,18 @@ class Range : public Counted<UiaTextRangeStub> {
   }
 
   /// Whether a unit of the text begins at `index`.
-  [[nodiscard]] bool isEdge(std::size_t index) const {
+  [[nodiscard]] bool isEdge(std::size_t index, TextUnit unit) const {
     if (index == 0 || index >= text().size()) return true;
+    if (unit == nhw32::TextUnit_Line) {
+      return std::ranges::find(rows_, index, &grid::Row::begin) != rows_.end();
+    }
     switch (in_.plan.units) {
       case Units::kCharacters:
         return !isSecondOfPair(index);
       case Units::kCharactersWithCrLf:
         return !isSecondOfPair(index) && !(text()[index - 1] == u'\r' && text()[index] == u'\n');
+      case Units::kListItems:
+        return text()[index] != u'\t' && text()[index - 1] != u'\t';
       case Units::kWords:
         return text()[index - 1] == u' ' && text()[index] != u' ';
       case Units::kAll:
@@ -139,26 +156,31 @@ class Range : public Counted<UiaTextRangeStub> {
     return false;
   }
 
-  [[nodiscard]] std::size_t next(std::size_t index) const {
+  [[nodiscard]] std::size_t next(std::size_t index, TextUnit unit) const {
     if (index >= text().size()) return text().size();
     ++index;
-    while (!isEdge(index)) ++index;
+    while (!isEdge(index, unit)) ++index;
     return index;
   }
 
   /// Moves `index` by some units and says by how many.
-  int step(std::size_t& index, int count) const {
+  int step(std::size_t& index, int count, TextUnit unit) {
+    const bool lines = unit == nhw32::TextUnit_Line;
+    int& most = lines ? in_.log.mostLines : in_.log.farthest;
+    most = std::max(most, std::abs(count));
     int moved = 0;
-    for (; moved < count && index < text().size(); ++moved) index = next(index);
+    for (; moved < count && index < text().size(); ++moved) index = next(index, unit);
     for (; moved > count && index > 0; --moved) {
       --index;
-      while (!isEdge(index)) --index;
+      while (!isEdge(index, unit)) --index;
     }
+    if (!lines && moved != count) in_.log.stopped = true;
     return moved;
   }
 
   std::size_t begin_;
   std::size_t end_;
+  grid::Rows rows_ = grid::rowsOf(text(), in_.plan.columns);
 };
 
 }  // namespace

@@ -55,27 +55,37 @@ struct UiaElementStub : nhw32::IUIAutomationElement {
   }
   STDMETHODIMP BuildUpdatedCache(Cache*, Element**) override { return E_NOTIMPL; }
   STDMETHODIMP GetCurrentPropertyValueEx(PROPERTYID, BOOL, VARIANT*) override { return E_NOTIMPL; }
-  STDMETHODIMP GetCachedPropertyValue(PROPERTYID, VARIANT*) override { return E_NOTIMPL; }
   STDMETHODIMP GetCachedPropertyValueEx(PROPERTYID, BOOL, VARIANT*) override { return E_NOTIMPL; }
-  STDMETHODIMP GetCachedPatternAs(int, REFIID, void**) override { return E_NOTIMPL; }
+  STDMETHODIMP GetCurrentPatternAs(int, REFIID, void**) override { return E_NOTIMPL; }
   STDMETHODIMP GetCurrentPattern(int, IUnknown**) override { return E_NOTIMPL; }
   STDMETHODIMP GetCachedPattern(int, IUnknown**) override { return E_NOTIMPL; }
   STDMETHODIMP GetCachedParent(Element**) override { return E_NOTIMPL; }
   STDMETHODIMP GetCachedChildren(Elements**) override { return E_NOTIMPL; }
 };
 
+struct UiaCacheRequestStub : nhw32::IUIAutomationCacheRequest {
+  using Condition = nhw32::IUIAutomationCondition;
+  using Mode = nhw32::AutomationElementMode;
+  using Scope = nhw32::TreeScope;
+
+  STDMETHODIMP Clone(nhw32::IUIAutomationCacheRequest**) override { return E_NOTIMPL; }
+  STDMETHODIMP get_TreeScope(Scope*) override { return E_NOTIMPL; }
+  STDMETHODIMP put_TreeScope(Scope) override { return E_NOTIMPL; }
+  STDMETHODIMP get_TreeFilter(Condition**) override { return E_NOTIMPL; }
+  STDMETHODIMP get_AutomationElementMode(Mode*) override { return E_NOTIMPL; }
+  STDMETHODIMP put_AutomationElementMode(Mode) override { return E_NOTIMPL; }
+};
+
 struct UiaTreeWalkerStub : nhw32::IUIAutomationTreeWalker {
   using Element = nhw32::IUIAutomationElement;
   using Cache = nhw32::IUIAutomationCacheRequest;
 
+  STDMETHODIMP GetParentElement(Element*, Element**) override { return E_NOTIMPL; }
   STDMETHODIMP GetFirstChildElement(Element*, Element**) override { return E_NOTIMPL; }
   STDMETHODIMP GetLastChildElement(Element*, Element**) override { return E_NOTIMPL; }
   STDMETHODIMP GetNextSiblingElement(Element*, Element**) override { return E_NOTIMPL; }
   STDMETHODIMP GetPreviousSiblingElement(Element*, Element**) override { return E_NOTIMPL; }
   STDMETHODIMP NormalizeElement(Element*, Element**) override { return E_NOTIMPL; }
-  STDMETHODIMP GetParentElementBuildCache(Element*, Cache*, Element**) override {
-    return E_NOTIMPL;
-  }
   STDMETHODIMP GetFirstChildElementBuildCache(Element*, Cache*, Element**) override {
     return E_NOTIMPL;
   }
@@ -113,18 +123,16 @@ struct UiaClientStub : nhw32::IUIAutomation2 {
   STDMETHODIMP CompareRuntimeIds(SAFEARRAY*, SAFEARRAY*, BOOL*) override { return E_NOTIMPL; }
   STDMETHODIMP GetRootElement(Element**) override { return E_NOTIMPL; }
   STDMETHODIMP ElementFromHandle(HWND, Element**) override { return E_NOTIMPL; }
+  STDMETHODIMP ElementFromPoint(POINT, Element**) override { return E_NOTIMPL; }
   STDMETHODIMP GetFocusedElement(Element**) override { return E_NOTIMPL; }
   STDMETHODIMP GetRootElementBuildCache(Cache*, Element**) override { return E_NOTIMPL; }
   STDMETHODIMP ElementFromHandleBuildCache(HWND, Cache*, Element**) override { return E_NOTIMPL; }
-  STDMETHODIMP ElementFromPointBuildCache(POINT, Cache*, Element**) override { return E_NOTIMPL; }
   STDMETHODIMP GetFocusedElementBuildCache(Cache*, Element**) override { return E_NOTIMPL; }
   STDMETHODIMP CreateTreeWalker(Condition*, Walker**) override { return E_NOTIMPL; }
   STDMETHODIMP get_ContentViewWalker(Walker**) override { return E_NOTIMPL; }
   STDMETHODIMP get_RawViewWalker(Walker**) override { return E_NOTIMPL; }
-  STDMETHODIMP get_RawViewCondition(Condition**) override { return E_NOTIMPL; }
   STDMETHODIMP get_ControlViewCondition(Condition**) override { return E_NOTIMPL; }
   STDMETHODIMP get_ContentViewCondition(Condition**) override { return E_NOTIMPL; }
-  STDMETHODIMP CreateCacheRequest(Cache**) override { return E_NOTIMPL; }
   STDMETHODIMP CreateTrueCondition(Condition**) override { return E_NOTIMPL; }
   STDMETHODIMP CreateFalseCondition(Condition**) override { return E_NOTIMPL; }
   STDMETHODIMP CreatePropertyCondition(PROPERTYID, VARIANT, Condition**) override {
@@ -195,9 +203,6 @@ struct UiaClientStub : nhw32::IUIAutomation2 {
   STDMETHODIMP ElementFromIAccessibleBuildCache(IAccessible*, int, Cache*, Element**) override {
     return E_NOTIMPL;
   }
-  STDMETHODIMP get_AutoSetFocus(BOOL*) override { return E_NOTIMPL; }
-  STDMETHODIMP get_ConnectionTimeout(DWORD*) override { return E_NOTIMPL; }
-  STDMETHODIMP get_TransactionTimeout(DWORD*) override { return E_NOTIMPL; }
 };
 
 }  // namespace support

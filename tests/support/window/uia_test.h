@@ -17,8 +17,8 @@ struct WindowCloser {
 using TestWindow = std::unique_ptr<HWND, WindowCloser>;
 
 /// A visible window that does not take the foreground.
-inline TestWindow makeWindow(HWND parent = nullptr) {
-  TestWindow window(CreateWindowExW(parent ? 0 : WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, L"STATIC",
+inline TestWindow makeWindow(HWND parent = nullptr, const wchar_t* className = L"STATIC") {
+  TestWindow window(CreateWindowExW(parent ? 0 : WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, className,
                                     L"", parent ? WS_CHILD : WS_POPUP, 0, 0, 9, 9, parent, nullptr,
                                     nullptr, nullptr));
   ShowWindow(window.get(), SW_SHOWNOACTIVATE);
@@ -54,6 +54,9 @@ class UiaTest : public ::testing::Test {
     return plainWord(answer.word.readings);
   }
 
+  /// What is kept from question to question: the client, its request, its walker.
+  static constexpr int kKept = 3;
+
   FakeUiaPlan& plan() { return uia_.plan; }
   FakeUiaLog& log() { return uia_.log; }
   [[nodiscard]] bool nothingRead() const {
@@ -63,8 +66,17 @@ class UiaTest : public ::testing::Test {
 
   /// The system of the fake.
   nhw32::UiaSystem system() {
-    return {[this](nhw32::IUIAutomation2** client) { return makeFakeUia(uia_, client); },
-            [this] { return uia_.log.now; }};
+    return {
+        .makeClient = [this](nhw32::IUIAutomation2** client) { return makeFakeUia(uia_, client); },
+        .now = [this] { return uia_.log.now; },
+        .build = [this] { return uia_.plan.build; }};
+  }
+
+  /// How many calls to the program the question takes whose answer is `word`.
+  std::size_t remoteCallsFor(nhw32::ScreenPoint point, std::u16string_view word) {
+    const std::size_t before = uia_.remoteCalls();
+    EXPECT_EQ(wordAt(point), word);
+    return uia_.remoteCalls() - before;
   }
 
   TestWindow window_ = makeWindow();

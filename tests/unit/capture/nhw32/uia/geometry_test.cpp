@@ -11,7 +11,6 @@ namespace {
 
 using nhw32::boxUnder;
 using nhw32::ScreenBox;
-using namespace std::chrono_literals;
 
 TEST(BoxUnder, HoldsItsFirstPixelsAndNotThoseAfterIt) {
   const std::vector<double> box{10, 20, 30, 5};
@@ -104,16 +103,28 @@ TEST(OnlyWord, IsNoneAmongOthers) {
   }
 }
 
-TEST(Retry, IsDueAtFirstAndAfterThePause) {
-  nhw32::Retry retry(60s);
-  const nhw32::Retry::Time start{};
-  EXPECT_TRUE(retry.due(start));
-  retry.failed(start);
-  EXPECT_FALSE(retry.due(start));
-  EXPECT_FALSE(retry.due(start + 59'999ms));
-  EXPECT_TRUE(retry.due(start + 60s));
-  retry.failed(start + 60s);
-  EXPECT_FALSE(retry.due(start + 119s));
+TEST(LabelLength, IsWhatStandsBeforeAListItemsFirstCharacter) {
+  EXPECT_EQ(nhw32::labelLength(u"\u2022\tH"), 2U);
+  EXPECT_EQ(nhw32::labelLength(u"1.\tH"), 3U);
+  EXPECT_EQ(nhw32::labelLength(u"a)\tb"), 3U);
+  EXPECT_EQ(nhw32::labelLength(u"\u2022\t\U0001F600"), 2U);
+  for (const auto* text : {u"", u"H", u"\t", u"\tH", u"\u2022\t", u"\u2022 H", u"\u2022\tHello",
+                           u"\u2022\t ", u"a\t\t"}) {
+    EXPECT_EQ(nhw32::labelLength(text), 0U);
+  }
+}
+
+TEST(IsWordOrItem, AllowsALabelBeforeTheWord) {
+  EXPECT_TRUE(nhw32::isWordOrItem(u"Hello", u"Hello"));
+  EXPECT_TRUE(nhw32::isWordOrItem(u"\u2022\tHello", u"Hello"));
+  for (const auto* text : {u"xHello", u"\u2022Hello", u"Hello ", u"\tHell", u""}) {
+    EXPECT_FALSE(nhw32::isWordOrItem(text, u"Hello"));
+  }
+}
+
+TEST(IsBlank, KnowsTheBlanks) {
+  EXPECT_TRUE(nhw32::isBlank(u" \t\r\n\u00A0\u3000"));
+  EXPECT_FALSE(nhw32::isBlank(u" a"));
 }
 
 }  // namespace

@@ -20,25 +20,57 @@ class UiaClientTimeTest : public UiaTest {
 
 TEST_F(UiaClientTimeTest, TellsTheClientHowLongACallMayTake) {
   EXPECT_EQ(wordAt(kPoint), u"hello");
-  EXPECT_EQ(log().connectionLimit, 200U);
   EXPECT_EQ(log().transactionLimit, 200U);
   EXPECT_FALSE(log().takesFocus);
 }
 
+TEST_F(UiaClientTimeTest, ConnectingToAProgramMayTakeLongAtFirst) {
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+  EXPECT_EQ(log().connectionLimits, std::vector<DWORD>{2000});
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+  EXPECT_EQ(log().connectionLimits, (std::vector<DWORD>{2000, 200}));
+
+  const nhw32::Question another{reinterpret_cast<nhw32::WindowId>(GetDesktopWindow()), kPoint};
+  GetWindowThreadProcessId(GetDesktopWindow(), &plan().elements.front().process);
+  ASSERT_NE(plan().elements.front().process, GetCurrentProcessId());
+  for (int i = 0; i < 2; ++i) EXPECT_EQ(reader_->wordAt(another).outcome, Outcome::kWord);
+  EXPECT_EQ(log().connectionLimits, (std::vector<DWORD>{2000, 200, 2000, 200}));
+}
+
 TEST_F(UiaClientTimeTest, WaitsForASlowProgramWithinTheLimit) {
-  plan().perCall = 10ms;
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+  plan().perCall = 25ms;
   EXPECT_EQ(wordAt(kPoint), u"hello");
 }
 
+TEST_F(UiaClientTimeTest, WaitsLongerForTheFirstAnswerOfAProgram) {
+  plan().perCall = 140ms;
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+  EXPECT_EQ(outcome(kPoint), Outcome::kUiaOutOfTime);
+}
+
+TEST_F(UiaClientTimeTest, WaitsLongForTheFirstAnswerOnlyOnce) {
+  plan().perCall = 200ms;
+  auto start = log().now;
+  EXPECT_EQ(outcome(kPoint), Outcome::kUiaOutOfTime);
+  EXPECT_EQ(log().now - start, 2s);
+  start = log().now;
+  EXPECT_EQ(outcome(kPoint), Outcome::kUiaOutOfTime);
+  EXPECT_EQ(log().now - start, 400ms);
+}
+
 TEST_F(UiaClientTimeTest, GivesUpWhenAnotherCallCouldEndTooLate) {
-  for (const auto perCall : {16ms, 30ms, 60ms, 100ms, 200ms}) {
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+  for (const auto perCall : {28ms, 30ms, 60ms, 100ms, 200ms}) {
     plan().perCall = perCall;
     log().calls.clear();
+    log().localCalls = 0;
     const auto start = log().now;
-    EXPECT_EQ(outcome(kPoint), Outcome::kOutOfTime) << perCall.count();
+    EXPECT_EQ(outcome(kPoint), Outcome::kUiaOutOfTime) << perCall.count();
     EXPECT_GT(log().now - start, 300ms);
     EXPECT_LE(log().now - start, 500ms) << perCall.count();
-    EXPECT_LE(static_cast<long long>(log().calls.size()), 500ms / perCall);
+    EXPECT_LE(static_cast<long long>(uia_.remoteCalls()), 500ms / perCall);
   }
 }
 
@@ -82,11 +114,54 @@ TEST_F(UiaClientTimeTest, RetriesAMissingClientAfterAMinute) {
   EXPECT_EQ(tries, 2);
 }
 
-TEST_F(UiaClientTimeTest, AsksNothingWithoutLimits) {
-  plan().limits = E_NOTIMPL;
+TEST_F(UiaClientTimeTest, AsksNothingIfACallCouldTakeLong) {
+  plan().refused = {"put_TransactionTimeout"};
+  EXPECT_EQ(outcome(kPoint), Outcome::kNone);
+  plan().refused = {"put_ConnectionTimeout"};
+  reader_ = nhw32::makeUiaReader(system());
+  EXPECT_EQ(outcome(kPoint), Outcome::kNone);
+  plan().refused = {"put_TransactionTimeout", "get_TransactionTimeout"};
+  plan().ownLimit = 200;
+  reader_ = nhw32::makeUiaReader(system());
+  EXPECT_EQ(outcome(kPoint), Outcome::kNone);
+  plan().refused = {"put_TransactionTimeout"};
+  plan().ownLimit = 0;
+  reader_ = nhw32::makeUiaReader(system());
   EXPECT_EQ(outcome(kPoint), Outcome::kNone);
   EXPECT_TRUE(log().calls.empty());
   EXPECT_EQ(log().live, 0);
+}
+
+TEST_F(UiaClientTimeTest, TakesAClientWhoseOwnLimitsAreShort) {
+  plan().refused = {"put_TransactionTimeout", "put_ConnectionTimeout"};
+  plan().ownLimit = 2000;
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+}
+
+TEST_F(UiaClientTimeTest, AsksNothingIfACallCouldMoveTheFocus) {
+  plan().refused = {"put_AutoSetFocus"};
+  EXPECT_EQ(outcome(kPoint), Outcome::kNone);
+  EXPECT_TRUE(log().calls.empty());
+  log().takesFocus = false;
+  reader_ = nhw32::makeUiaReader(system());
+  EXPECT_EQ(wordAt(kPoint), u"hello");
+}
+
+TEST_F(UiaClientTimeTest, ReplacesAClientThatCannotBePreparedAfterAMinute) {
+  for (const auto* const name :
+       {"CreateCacheRequest", "AddProperty", "AddPattern", "get_RawViewCondition", "put_TreeFilter",
+        "get_ControlViewWalker"}) {
+    plan().refused = {name};
+    reader_ = nhw32::makeUiaReader(system());
+    EXPECT_EQ(outcome(kPoint), Outcome::kNone) << name;
+    EXPECT_EQ(log().live, 0) << name;
+    plan().refused.clear();
+    EXPECT_EQ(outcome(kPoint), Outcome::kNone) << name;
+    log().now += 60s;
+    EXPECT_EQ(wordAt(kPoint), u"hello") << name;
+    reader_.reset();
+  }
 }
 
 TEST_F(UiaClientTimeTest, SurvivesANullOrThrowingClient) {

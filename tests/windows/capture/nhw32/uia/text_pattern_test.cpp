@@ -21,7 +21,7 @@ TEST_F(UiaTextPatternTest, FindsNoneWhereNoElementHasText) {
   plan().text = u"word";
   plan().elements.assign(4, {});
   EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
-  EXPECT_EQ(uia_.times("GetCurrentPatternAs"), 4U);
+  EXPECT_EQ(uia_.times("GetCachedPatternAs"), 4U);
   EXPECT_TRUE(nothingRead());
 }
 
@@ -38,14 +38,14 @@ TEST_F(UiaTextPatternTest, LooksForTextInTenAncestors) {
   log().calls.clear();
   showTextAbove(11);
   EXPECT_EQ(outcome(grid::at(0, 1)), Outcome::kNone);
-  EXPECT_EQ(uia_.times("GetParentElement"), 10U);
+  EXPECT_EQ(uia_.times("GetParentElementBuildCache"), 10U);
 }
 
 TEST_F(UiaTextPatternTest, StopsAtTheNearestText) {
   showTextAbove(5);
   plan().elements[2].text = true;
   EXPECT_EQ(wordAt(grid::at(0, 1)), u"word");
-  EXPECT_EQ(uia_.times("GetParentElement"), 2U);
+  EXPECT_EQ(uia_.times("GetParentElementBuildCache"), 2U);
 }
 
 TEST_F(UiaTextPatternTest, NeverReadsAPasswordField) {

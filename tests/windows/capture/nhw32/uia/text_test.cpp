@@ -99,6 +99,32 @@ TEST_F(UiaTextTest, ReadsSurrogatePairs) {
   EXPECT_EQ(outcome(grid::at(0, 9)), Outcome::kNone);
 }
 
+TEST_F(UiaTextTest, ReadsTheFirstWordOfAListItem) {
+  showText(u"before\n\u2022\tHello there\n1.\tWorld\n\u2022\t\u4E2D");
+  plan().units = Units::kListItems;
+  for (int column = 2; column < 7; ++column) {
+    const auto answer = ask(grid::at(1, column));
+    EXPECT_EQ(plainWord(answer.word.readings), u"Hello") << column;
+    EXPECT_LE(answer.word.box.left, grid::at(1, 2).x);
+    EXPECT_EQ(answer.word.box.right, grid::box(1, 2, 5).right);
+  }
+  EXPECT_EQ(wordAt(grid::at(1, 9)), u"there");
+  for (int column = 2; column < 7; ++column) {
+    EXPECT_EQ(wordAt(grid::at(2, column)), u"World") << column;
+  }
+  EXPECT_EQ(wordAt(grid::at(0, 3)), u"before");
+}
+
+TEST_F(UiaTextTest, BlanksThatAreLeftOutDoNoHarm) {
+  showText(u"one      hello   \n  two     \nlast  ");
+  plan().trimsBlanks = true;
+  EXPECT_EQ(wordAt(grid::at(0, 11)), u"hello");
+  EXPECT_EQ(wordAt(grid::at(0, 1)), u"one");
+  EXPECT_EQ(wordAt(grid::at(1, 3)), u"two");
+  EXPECT_EQ(wordAt(grid::at(2, 3)), u"last");
+  EXPECT_EQ(outcome(grid::at(0, 5)), Outcome::kNone);
+}
+
 TEST_F(UiaTextTest, ReadsTextsWhoseCharacterUnitIsAWord) {
   showText(u"one hello  two");
   plan().units = Units::kWords;

@@ -10,6 +10,7 @@
 namespace {
 
 using nhw32::IUIAutomation2;
+using nhw32::IUIAutomationCacheRequest;
 using nhw32::IUIAutomationElement;
 using nhw32::IUIAutomationTextPattern;
 using nhw32::IUIAutomationTextRange;
@@ -34,7 +35,22 @@ TEST(UiaInterfaces, HaveThePublishedIds) {
   EXPECT_EQ(textOf(nhw32::IID_IUIAutomation2), L"{34723AFF-0C9D-49D0-9896-7AB52DF8CD8A}");
   EXPECT_EQ(textOf(nhw32::IID_IUIAutomationTextPattern), L"{32EBA289-3583-42C9-9C59-3B6D9A1E9B6A}");
   EXPECT_EQ(textOf(nhw32::CLSID_CUIAutomation8), L"{E22AD333-B25F-460C-83D0-0581107395C9}");
-  EXPECT_EQ(textOf(nhw32::CLSID_CUIAutomation), L"{FF48DBA4-60EF-4201-AA87-54103EEF594E}");
+}
+
+TEST(UiaInterfaces, HaveThePublishedNumbers) {
+  EXPECT_EQ(UIA_TextPatternId, 10014);
+  EXPECT_EQ(UIA_BoundingRectanglePropertyId, 30001);
+  EXPECT_EQ(UIA_ProcessIdPropertyId, 30002);
+  EXPECT_EQ(UIA_ControlTypePropertyId, 30003);
+  EXPECT_EQ(UIA_NamePropertyId, 30005);
+  EXPECT_EQ(UIA_IsPasswordPropertyId, 30019);
+  EXPECT_EQ(UIA_NativeWindowHandlePropertyId, 30020);
+  EXPECT_EQ(UIA_IsValuePatternAvailablePropertyId, 30043);
+  EXPECT_EQ(UIA_ValueValuePropertyId, 30045);
+  EXPECT_EQ(nhw32::kHyperlinkControlType, 50005);
+  EXPECT_EQ(nhw32::kDataItemControlType, 50029);
+  EXPECT_EQ(nhw32::kHeaderItemControlType, 50035);
+  EXPECT_EQ(nhw32::TextUnit_Line, 3);
 }
 
 TEST(UiaInterfaces, BeginWithIUnknown) {
@@ -45,18 +61,32 @@ TEST(UiaInterfaces, BeginWithIUnknown) {
 TEST(UiaInterfaces, HaveTheFunctionsOfTheClientInTheirSlots) {
   EXPECT_EQ(slotOf(&IUIAutomation2::ElementFromHandle), 6U);
   EXPECT_EQ(slotOf(&IUIAutomation2::ElementFromPoint), 7U);
+  EXPECT_EQ(slotOf(&IUIAutomation2::ElementFromPointBuildCache), 11U);
   EXPECT_EQ(slotOf(&IUIAutomation2::get_ControlViewWalker), 14U);
+  EXPECT_EQ(slotOf(&IUIAutomation2::get_RawViewCondition), 17U);
+  EXPECT_EQ(slotOf(&IUIAutomation2::CreateCacheRequest), 20U);
   EXPECT_EQ(slotOf(&IUIAutomation2::ElementFromIAccessibleBuildCache), 57U);
+  EXPECT_EQ(slotOf(&IUIAutomation2::get_AutoSetFocus), 58U);
   EXPECT_EQ(slotOf(&IUIAutomation2::put_AutoSetFocus), 59U);
+  EXPECT_EQ(slotOf(&IUIAutomation2::get_ConnectionTimeout), 60U);
   EXPECT_EQ(slotOf(&IUIAutomation2::put_ConnectionTimeout), 61U);
+  EXPECT_EQ(slotOf(&IUIAutomation2::get_TransactionTimeout), 62U);
   EXPECT_EQ(slotOf(&IUIAutomation2::put_TransactionTimeout), 63U);
+}
+
+TEST(UiaInterfaces, HaveTheFunctionsOfRequestsInTheirSlots) {
+  EXPECT_EQ(slotOf(&IUIAutomationCacheRequest::AddProperty), 3U);
+  EXPECT_EQ(slotOf(&IUIAutomationCacheRequest::AddPattern), 4U);
+  EXPECT_EQ(slotOf(&IUIAutomationCacheRequest::put_TreeFilter), 9U);
+  EXPECT_EQ(slotOf(&IUIAutomationCacheRequest::put_AutomationElementMode), 11U);
 }
 
 TEST(UiaInterfaces, HaveTheFunctionsOfElementsInTheirSlots) {
   EXPECT_EQ(slotOf(&IUIAutomationElement::GetCurrentPropertyValue), 10U);
-  EXPECT_EQ(slotOf(&IUIAutomationElement::GetCurrentPatternAs), 14U);
+  EXPECT_EQ(slotOf(&IUIAutomationElement::GetCachedPropertyValue), 12U);
+  EXPECT_EQ(slotOf(&IUIAutomationElement::GetCachedPatternAs), 15U);
   EXPECT_EQ(slotOf(&IUIAutomationElement::GetCachedChildren), 19U);
-  EXPECT_EQ(slotOf(&IUIAutomationTreeWalker::GetParentElement), 3U);
+  EXPECT_EQ(slotOf(&IUIAutomationTreeWalker::GetParentElementBuildCache), 9U);
   EXPECT_EQ(slotOf(&IUIAutomationTreeWalker::get_Condition), 15U);
 }
 
