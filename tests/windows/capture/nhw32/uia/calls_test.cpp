@@ -50,6 +50,14 @@ TEST_F(UiaCallsTest, ARowOfTwoHundredColumnsIsHalvedEightTimesAtMost) {
   EXPECT_EQ(most, 38U);
 }
 
+TEST_F(UiaCallsTest, BlanksAtARowsEndAreNotHalved) {
+  plan().tellsRowOnly = true;
+  showText(u"one two");
+  const std::size_t calls = remoteCallsFor(grid::at(0, 5), u"two");
+  showText(u"one two" + std::u16string(193, u' '));
+  EXPECT_EQ(remoteCallsFor(grid::at(0, 5), u"two"), calls);
+}
+
 TEST_F(UiaCallsTest, ACellTakesFour) {
   plan().elements.front() = {.type = nhw32::kDataItemControlType,
                              .value = u"word",
