@@ -70,6 +70,7 @@ std::u16string answerText(const nhw32::Diagnosis& diagnosis) {
     case nhw32::Outcome::kRefused:
       return u"none: the window may not be asked (its program may have more rights), or has gone";
     case nhw32::Outcome::kOutOfTime:
+    case nhw32::Outcome::kUiaOutOfTime:
       return u"none: the window did not answer in time";
     case nhw32::Outcome::kNone:
       break;

@@ -51,7 +51,8 @@ TEST(WhyReport, SaysWhyThereIsNoWord) {
   for (const auto& [outcome, said] :
        {std::pair(Outcome::kNone, "none: there is no word, or the window does not tell its text\n"),
         {Outcome::kRefused, "none: the window may not be asked"},
-        {Outcome::kOutOfTime, "none: the window did not answer in time\n"}}) {
+        {Outcome::kOutOfTime, "none: the window did not answer in time\n"},
+        {Outcome::kUiaOutOfTime, "none: the window did not answer in time\n"}}) {
     WhyFindings findings = inNotepad();
     findings.diagnosis.answer.outcome = outcome;
     const std::string report = reportOf(findings);
