@@ -43,7 +43,7 @@ class ServiceHost {
  private:
   const UINT report_ = RegisterWindowMessageA(nhw32::kMessageName);
   HWND window_;
-  nhw32::Service service_{nhw32::makeWindowReader, report_};
+  nhw32::Service service_{[] { return nhw32::makeWindowReader(); }, report_};
 };
 
 }  // namespace bench

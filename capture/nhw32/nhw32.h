@@ -23,6 +23,11 @@ inline constexpr char kMessageName[] = "BL_HASSTRING";
 /// thread; if it throws, no further text is asked for.
 void setIsHeadword(text::IsHeadword isHeadword);
 
+/// Looks for no word at `place`, in physical pixels of the virtual screen, until the pointer was
+/// seen to have left it by 6 of them along either axis, which each SetNHW32 and kArm looks for; and
+/// cancels what is armed. For a place at which the user has begun to work.
+void leaveAlone(POINT place);
+
 /// Starts the service; does nothing if it is started. The worker thread is created by the first
 /// kArm.
 void SetNHW32();
@@ -32,7 +37,9 @@ void ResetNHW32();
 
 /// kArm: looks for the word at the point (x, y), in physical pixels of the virtual screen. Once it
 /// is found, BL_HASSTRING is posted to `window`. Arming again at the same point over the same
-/// window goes on with a search that is under way; any other point cancels it. kDisarm (the other
+/// window goes on with a search that is under way; any other point cancels it. Where a window has
+/// just said that there is no word at the point, it is asked again at growing intervals only, up to
+/// 1.6 s; and no word is found while a mouse button is down. kDisarm (the other
 /// arguments are 0): cancels what was armed; a message that was posted already is removed from the
 /// queue. Called by the receiver of the message, it leaves the word to be fetched. Any other flag
 /// does nothing. Does nothing if the service is not started.
@@ -42,7 +49,8 @@ void BL_SetFlag32(std::uint32_t flag, HWND window, std::int16_t x, std::int16_t 
 /// headword, otherwise the word itself (text::chooseReading). The buffer holds `size` bytes and one
 /// more for the NUL; the text is in the ANSI code page and truncated at a character boundary. The
 /// text is "" where
-/// - no word is announced, or another window has come to the foreground since it was armed;
+/// - no word is announced, another window has come to the foreground since it was armed, or a mouse
+///   button is down;
 /// - letters touch digits ("1st") and no reading is a headword;
 /// - the code page lacks a character of the word.
 /// `word`, which may be null, receives the rectangle of what is there in physical screen pixels,

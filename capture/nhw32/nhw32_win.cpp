@@ -32,11 +32,13 @@ std::optional<std::string> toAnsi(std::u16string_view character) {
 // The service lives until the program ends. Its worker may wait for a window then, and ends with
 // the process.
 Service& service() {
-  static Service instance(makeWindowReader, RegisterWindowMessageA(kMessageName));
+  static Service instance([] { return makeWindowReader(); }, RegisterWindowMessageA(kMessageName));
   return instance;
 }
 
 void setIsHeadword(text::IsHeadword isHeadword) { service().setIsHeadword(std::move(isHeadword)); }
+
+void leaveAlone(POINT place) { service().leaveAlone(place); }
 
 void SetNHW32() { service().start(); }
 

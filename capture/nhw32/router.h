@@ -11,10 +11,11 @@
 namespace nhw32 {
 
 /// Returns the reader for all windows: it chooses the kind of reader by the window's class
-/// (readerKindFor) for each question and backs off from windows that keep timing out (Backoff).
-/// The thread has to be per-monitor DPI aware. In a header of its own, since the readers that it
-/// chooses from include reader.h.
-std::unique_ptr<WordReader> makeWindowReader();
+/// (readerKindFor) for each question and backs off from windows that keep timing out (Backoff) and
+/// from places without a word (RestingQuestion), by the time that `clock` tells. The thread has to
+/// be per-monitor DPI aware. In a header of its own, since the readers that it chooses from include
+/// reader.h.
+std::unique_ptr<WordReader> makeWindowReader(const Clock& clock = std::chrono::steady_clock::now);
 
 /// What asking a window came to, for a report.
 struct Diagnosis {

@@ -3,9 +3,11 @@
 #include <windows.h>
 
 #include <array>
+#include <utility>
 
 #include "capture/nhw32/controls/readers.h"
 #include "capture/nhw32/policy.h"
+#include "capture/nhw32/resting.h"
 #include "capture/nhw32/uia/client.h"
 
 namespace nhw32 {
@@ -57,9 +59,11 @@ class WindowReader : public WordReader {
 
 }  // namespace
 
-// The back-off is outermost: it applies to whichever reader a window gets.
-std::unique_ptr<WordReader> makeWindowReader() {
-  return std::make_unique<BackoffReader>(std::make_unique<WindowReader>());
+// The back-offs are outermost: they apply to whichever reader a window gets. That from windows that
+// time out is around the other one, which then never sees an answer that no window gave.
+std::unique_ptr<WordReader> makeWindowReader(const Clock& clock) {
+  auto resting = std::make_unique<RestingReader>(std::make_unique<WindowReader>(), clock);
+  return std::make_unique<BackoffReader>(std::move(resting), clock);
 }
 
 Diagnosis diagnose(const Question& question) {

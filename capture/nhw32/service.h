@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "capture/nhw32/mailbox.h"
+#include "capture/nhw32/resting.h"
 #include "text/readings.h"
 
 namespace nhw32 {
@@ -27,21 +28,25 @@ class Service {
   Service(const Service&) = delete;
   Service& operator=(const Service&) = delete;
 
-  /// Begins to accept questions. Does nothing if started already.
+  /// Begins to accept questions. If started already, only looks whether the pointer has left the
+  /// quiet place, also where no window is asked.
   void start();
   /// Cancels everything and lets the worker end as soon as its window has answered.
   void stop();
   /// Asks for the word at `point` (physical pixels of the virtual screen). The message is posted to
   /// `host` once the word was found. Does nothing if the service is not started, and cancels only
-  /// if no window is at the point.
+  /// if no window is at the point, if it is at the quiet place or if a mouse button is down.
   void arm(HWND host, POINT point);
+  /// Begins a quiet place (QuietPlace) at `place` and cancels what is armed.
+  void leaveAlone(POINT place);
   /// Cancels the question that is armed and removes its message from the host's queue. If the
   /// message was taken from the queue already, the word stays until the next arm or disarm.
   void disarm();
   /// Returns whether a question was armed and not disarmed since.
   [[nodiscard]] bool armed() const;
-  /// Returns the word that was found, or nullopt if there is none or another window has come to the
-  /// foreground since the question was armed: a late word must not appear over that window.
+  /// Returns the word that was found, or nullopt if there is none, another window has come to the
+  /// foreground since the question was armed, or a mouse button is down: a late word must not
+  /// appear over that window, nor beside a selection that is being dragged.
   [[nodiscard]] std::optional<Word> word() const;
 
   /// The function that tells which reading of a word is a headword; null at first. The service
@@ -65,6 +70,7 @@ class Service {
   /// Shared with the worker, which may outlive us; null until the first question.
   std::shared_ptr<ProbeMailbox> mailbox_;
   HWND foreground_ = nullptr;  ///< the foreground window when the question was armed
+  QuietPlace quietPlace_;
   bool started_ = false;
   text::IsHeadword isHeadword_;
 };

@@ -1,5 +1,7 @@
 #include "capture/nhw32/service.h"
 
+#include <algorithm>
+#include <array>
 #include <chrono>
 #include <system_error>
 #include <thread>
@@ -17,6 +19,15 @@ namespace {
 HWND windowOf(WindowId id) { return reinterpret_cast<HWND>(id); }
 
 WindowId idOf(HWND window) { return reinterpret_cast<WindowId>(window); }
+
+ScreenPoint placeOf(POINT point) { return {static_cast<int>(point.x), static_cast<int>(point.y)}; }
+
+/// Whether any button of the mouse is down, in any program. GetAsyncKeyState knows the physical
+/// buttons, so that it does not matter here whether the user has exchanged left and right.
+bool isButtonDown() {
+  constexpr std::array kButtons{VK_LBUTTON, VK_RBUTTON, VK_MBUTTON, VK_XBUTTON1, VK_XBUTTON2};
+  return std::ranges::any_of(kButtons, [](int button) { return GetAsyncKeyState(button) < 0; });
+}
 
 /// Counts a thread until the end of the scope.
 class ScopedCount {
@@ -86,7 +97,16 @@ bool takeBack(HWND host, UINT message) {
 Service::Service(ReaderFactory factory, UINT message)
     : factory_(std::move(factory)), message_(message) {}
 
-void Service::start() { started_ = true; }
+void Service::start() {
+  started_ = true;
+  POINT pointer{};
+  if (GetCursorPos(&pointer) != FALSE) quietPlace_.pointerAt(placeOf(pointer));
+}
+
+void Service::leaveAlone(POINT place) {
+  disarm();
+  quietPlace_.begin(placeOf(place));
+}
 
 bool Service::ensureWorker() {
   if (mailbox_ == nullptr || !mailbox_->reopen()) startWorker();
@@ -109,6 +129,7 @@ void Service::startWorker() {
 void Service::stop() {
   if (!started_) return;
   disarm();
+  quietPlace_ = {};
   started_ = false;
   if (mailbox_ != nullptr) mailbox_->close();
 }
@@ -119,9 +140,8 @@ void Service::arm(HWND host, POINT point) {
   disarm();
   foreground_ = GetForegroundWindow();
   const HWND target = WindowFromPoint(point);
-  if (target != nullptr) {
-    mailbox_->arm({idOf(target), {static_cast<int>(point.x), static_cast<int>(point.y)}},
-                  idOf(host));
+  if (target != nullptr && quietPlace_.mayAsk(placeOf(point), isButtonDown())) {
+    mailbox_->arm({idOf(target), placeOf(point)}, idOf(host));
   }
 }
 
@@ -134,8 +154,8 @@ void Service::disarm() {
 bool Service::armed() const { return started_ && mailbox_ != nullptr && mailbox_->armed(); }
 
 std::optional<Word> Service::word() const {
-  const bool asked = started_ && mailbox_ != nullptr && GetForegroundWindow() == foreground_;
-  return asked ? mailbox_->word() : std::nullopt;
+  const bool wanted = started_ && mailbox_ != nullptr && GetForegroundWindow() == foreground_;
+  return wanted && !isButtonDown() ? mailbox_->word() : std::nullopt;
 }
 
 }  // namespace nhw32

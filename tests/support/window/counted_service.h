@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <atomic>
+#include <chrono>
 #include <memory>
 #include <utility>
 
@@ -17,8 +18,9 @@ namespace support {
 /// can wait for the end of a question that no word comes of.
 class CountedService {
  public:
-  CountedService()
-      : service_([answers = answers_] { return std::make_unique<Reader>(answers); },
+  /// `clock` is called on the worker's thread.
+  explicit CountedService(const nhw32::Clock& clock = std::chrono::steady_clock::now)
+      : service_([=, answers = answers_] { return std::make_unique<Reader>(answers, clock); },
                  RegisterWindowMessageA(nhw32::kMessageName)) {
     service_.start();
   }
@@ -41,7 +43,8 @@ class CountedService {
  private:
   class Reader : public nhw32::WordReader {
    public:
-    explicit Reader(std::shared_ptr<std::atomic<int>> answers) : answers_(std::move(answers)) {}
+    Reader(std::shared_ptr<std::atomic<int>> answers, const nhw32::Clock& clock)
+        : reader_(nhw32::makeWindowReader(clock)), answers_(std::move(answers)) {}
 
     nhw32::Answer wordAt(const nhw32::Question& question) override {
       nhw32::Answer answer = reader_->wordAt(question);
@@ -51,7 +54,7 @@ class CountedService {
     void rest() override { reader_->rest(); }
 
    private:
-    std::unique_ptr<nhw32::WordReader> reader_ = nhw32::makeWindowReader();
+    std::unique_ptr<nhw32::WordReader> reader_;
     std::shared_ptr<std::atomic<int>> answers_;
   };
 

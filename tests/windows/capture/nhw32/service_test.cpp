@@ -5,11 +5,13 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <memory>
 #include <new>
 #include <set>
 #include <stdexcept>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "capture/nhw32/nhw32.h"
@@ -18,7 +20,9 @@
 #include "tests/support/window/counted_service.h"
 #include "tests/support/window/gate.h"
 #include "tests/support/window/hooked_text_window.h"
+#include "tests/support/window/injected_input.h"
 #include "tests/support/window/plain_window.h"
+#include "tests/support/window/window_geometry.h"
 #include "tests/support/window/word_host.h"
 
 namespace support {
@@ -219,9 +223,89 @@ TEST_F(Nhw32Service, OtherFlagsDoNothing) {
   EXPECT_EQ(host_.nextWord(), "first");
 }
 
-// The pointer at rest on a blank: what a probe costs the window is one question, however often the
-// same place is armed while that question is in work.
-TEST(Nhw32ServiceAtRest, AsksTheWindowOnceAProbe) {
+/// A button of the mouse, held until the end of the scope. The pointer is where no window of a test
+/// is.
+class HeldButton {
+ public:
+  HeldButton(void (*press)(), void (*release)()) : release_(release) {
+    injected::moveTo(kNowhere);
+    press();
+  }
+  ~HeldButton() { release_(); }
+  HeldButton(const HeldButton&) = delete;
+  HeldButton& operator=(const HeldButton&) = delete;
+
+ private:
+  void (*release_)();
+};
+
+TEST_F(Nhw32Service, FindsNoWordWhileAMouseButtonIsDown) {
+  const HookedTextWindow target({}, u"first second");
+  const POINT point = pointOf(target.control(), 2);
+  for (const auto& [press, release] : {std::pair(&injected::pressLeft, &injected::releaseLeft),
+                                       std::pair(&injected::pressMiddle, &injected::releaseMiddle),
+                                       std::pair(&injected::pressRight, &injected::releaseRight)}) {
+    {
+      const HeldButton held(press, release);
+      host_.probe(point);
+      EXPECT_FALSE(nhw32::service().armed());
+      EXPECT_EQ(host_.nextWord(100), "(none)");
+    }
+    EXPECT_EQ(host_.wordAt(point), "first");
+  }
+}
+
+TEST_F(Nhw32Service, AWordThatWasFoundBeforeTheButtonWentDownIsNotHandedOver) {
+  const HookedTextWindow target({}, u"first second");
+  armUntilAWordWaits(pointOf(target.control(), 2));
+  {
+    const HeldButton held(injected::pressLeft, injected::releaseLeft);
+    EXPECT_EQ(textNow(), "");
+  }
+  EXPECT_EQ(textNow(), "first");
+}
+
+TEST_F(Nhw32Service, LeavesAPlaceAloneUntilThePointerHasLeftIt) {
+  const HookedTextWindow target({}, u"first second");
+  const POINT place = pointOf(target.control(), 2);
+  armUntilAWordWaits(place);
+  nhw32::leaveAlone(place);
+  EXPECT_EQ(textNow(), "");
+  EXPECT_EQ(host_.nextWord(100), "(none)");
+  for (const int distance : {0, 5, -5}) {
+    host_.probe({place.x + distance, place.y});
+    EXPECT_FALSE(nhw32::service().armed());
+  }
+  EXPECT_EQ(host_.wordAt({place.x + 6, place.y}), "first");
+  EXPECT_EQ(host_.wordAt(place), "first");
+}
+
+TEST_F(Nhw32Service, SeesThePointerLeaveWhereNothingIsAsked) {
+  const HookedTextWindow target({}, u"first second");
+  const POINT place = pointOf(target.control(), 2);
+  nhw32::leaveAlone(place);
+  injected::moveTo({place.x - 5, place.y + 5});
+  nhw32::SetNHW32();
+  host_.probe(place);
+  EXPECT_FALSE(nhw32::service().armed());
+  injected::moveTo({place.x, place.y - 6});
+  nhw32::SetNHW32();
+  EXPECT_EQ(host_.wordAt(place), "first");
+}
+
+TEST_F(Nhw32Service, StoppingForgetsThePlace) {
+  const HookedTextWindow target({}, u"first second");
+  const POINT place = pointOf(target.control(), 2);
+  injected::moveTo(place);
+  nhw32::leaveAlone(place);
+  nhw32::ResetNHW32();
+  nhw32::SetNHW32();
+  EXPECT_EQ(host_.wordAt(place), "first");
+}
+
+// The pointer at rest on a blank: the window is asked ever more seldom, and once however often the
+// same place is armed while a question is in work.
+TEST(Nhw32ServiceAtRest, AsksTheWindowEverMoreSeldom) {
   std::atomic<int> questions = 0;
   Gate gate;
   const HookedTextWindow target({.hook =
@@ -235,21 +319,38 @@ TEST(Nhw32ServiceAtRest, AsksTheWindowOnceAProbe) {
                                 u"one   two\r\nx");
   const POINT blank = pointOf(target.control(), 4);
   const WordHost host;
-  CountedService counted;
+  std::atomic<int> now = 0;
+  CountedService counted(
+      [&] { return std::chrono::steady_clock::time_point(std::chrono::milliseconds(now)); });
   const int before = questions;
-  for (int probe = 1; probe <= 10; ++probe) {
-    counted.probe(host.window(), blank);
-    waitFor("the answer", [&] { return counted.answers() == probe; });
-    EXPECT_EQ(questions - before, probe);
+  int probes = 0;
+  const auto questionsAfterProbeAt = [&](POINT point, int time) {
+    now = time;
+    counted.probe(host.window(), point);
+    ++probes;
+    waitFor("the answer", [&] { return counted.answers() == probes; });
+    return questions - before;
+  };
+  int asked = 1;
+  EXPECT_EQ(questionsAfterProbeAt(blank, 0), asked);
+  int time = 0;
+  for (const int rest : {100, 200, 400, 800, 1600, 1600}) {
+    EXPECT_EQ(questionsAfterProbeAt(blank, time), asked) << rest;
+    EXPECT_EQ(questionsAfterProbeAt(blank, time + rest - 1), asked) << rest;
+    EXPECT_EQ(questionsAfterProbeAt(blank, time += rest), ++asked) << rest;
   }
-  EXPECT_TRUE(never([&] { return questions - before > 10; }, 200)) << "asked without a probe";
+  EXPECT_EQ(questionsAfterProbeAt({blank.x + 1, blank.y}, time), ++asked);
+  EXPECT_EQ(questionsAfterProbeAt(blank, time), ++asked);
+  EXPECT_TRUE(never([&] { return questions - before > asked; }, 200)) << "asked without a probe";
+  now = time + 100;
   gate.close();
   counted.probe(host.window(), blank);
-  waitFor("the question", [&] { return questions - before == 11; });
+  ++asked;
+  waitFor("the question", [&] { return questions - before == asked; });
   for (int probe = 0; probe < 10; ++probe) counted.probe(host.window(), blank);
   gate.open();
-  waitFor("the answer", [&] { return counted.answers() == 11; });
-  EXPECT_TRUE(never([&] { return questions - before > 11; }, 200)) << "adopted, yet asked again";
+  waitFor("the answer", [&] { return counted.answers() == probes + 1; });
+  EXPECT_TRUE(never([&] { return questions - before > asked; }, 200)) << "adopted, yet asked again";
   EXPECT_TRUE(host.words().empty());
 }
 
