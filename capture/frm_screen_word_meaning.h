@@ -1,9 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "capture/popup.h"
+#include "capture/popup_watch.h"
+#include "capture/word_place.h"
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
 #include "forms/form.h"
@@ -12,7 +15,10 @@
 
 /// The popup with the meanings of a captured word, above all windows, below and right of the
 /// pointer. It never takes the focus. It unloads itself as soon as the pointer has moved away from
-/// where it was when the popup was loaded, and starts capture again.
+/// where it was when the popup was loaded, and starts capture again. It does so too when it has
+/// outlived its word while the pointer rests (capture/popup_watch.h), but leaves capture stopped
+/// where a window of ours or the toolbar's switch holds it off, and no word is looked for at that
+/// place until the pointer has left it.
 class frmScreenWordMeaning : public forms::Form {
  public:
   frmScreenWordMeaning();
@@ -20,6 +26,8 @@ class frmScreenWordMeaning : public forms::Form {
   /// Deliberate: a little larger than the form until the first word is shown.
   forms::RichTextBox txtOut{*this, {0, 0, 3375, 1335}, forms::RichTextBox::Look::kToolTip};
   forms::Timer Timer1{*this, 20, true};
+  /// Looks whether the word is still there and the user at rest; runs once the popup is loaded.
+  forms::Timer watchTimer{*this, 50};
   data::DataControl Adodc1;
 
   /// Sets the bounds for `word`, whose quotes are doubled. Throws data::Error.
@@ -37,7 +45,9 @@ class frmScreenWordMeaning : public forms::Form {
 
  private:
   void Form_Load() override;
+  void Form_Unload() override;
   void Timer1_Timer();
+  void watchTimer_Timer();
   LRESULT handleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   void lookUp(std::u16string_view escapedWord, data::DataControl& control);
@@ -47,5 +57,7 @@ class frmScreenWordMeaning : public forms::Form {
   POINT StartPos{};  ///< where the pointer was at loading, in screen pixels
   POINT CurPos{};    ///< and at the last tick
   data::HeadwordLookup lookup_;
+  std::optional<capture::WordPlace> wordPlace_;
+  std::optional<capture::PopupWatch> watch_;
   bool placed_ = false;  ///< a word was shown; the size is the popup's own from then on
 };

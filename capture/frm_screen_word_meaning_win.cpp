@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "app/state.h"
+#include "capture/nhw32/nhw32.h"
 #include "capture/screen_word.h"
 #include "forms/loaded_forms.h"
 #include "text/query_text.h"
@@ -11,6 +12,10 @@
 // The popup is loaded hidden, at the pointer's monitor, so that it has that monitor's DPI before it
 // gets a text. showMeaning looks the word up, writes the text, computes size and place from the
 // lengths of the text alone (capture/popup.h) and shows the window there.
+//
+// Two timers close it. Timer1 looks at nothing but how far the pointer has gone. The other one is
+// for what happens under a pointer that rests: by the time a user has scrolled or typed, or another
+// program has come to the front, the word that the popup explains is somewhere else, or gone.
 namespace {
 
 /// Deliberate: unlike the quick lookup window's, in both respects.
@@ -36,6 +41,7 @@ forms::FormDesign design() {
 frmScreenWordMeaning::frmScreenWordMeaning() : Form(design()), lookup_(user::IdxWords, kRules) {
   txtOut.setFont({u"宋体", 9});
   Timer1.onTimer = [this] { Timer1_Timer(); };
+  watchTimer.onTimer = [this] { watchTimer_Timer(); };
 }
 
 void frmScreenWordMeaning::Form_Load() {
@@ -45,10 +51,17 @@ void frmScreenWordMeaning::Form_Load() {
   const RECT monitor = win32::monitorAt(StartPos).bounds;
   SetWindowPos(handle(), nullptr, monitor.left, monitor.top, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  watch_.emplace(wordPlace_.emplace(handle(), StartPos).look());
   // Deliberate: the timer is enabled already. The events that are handled here may be a tick that
   // unloads this form; the caller looks.
   Timer1.setEnabled(true);
   forms::doEvents();
+  if (!isUnloading()) watchTimer.setEnabled(true);
+}
+
+void frmScreenWordMeaning::Form_Unload() {
+  watchTimer.setEnabled(false);
+  wordPlace_.reset();
 }
 
 void frmScreenWordMeaning::Timer1_Timer() {
@@ -57,6 +70,18 @@ void frmScreenWordMeaning::Timer1_Timer() {
   // Deliberate: capture runs again, whatever stopped it meanwhile.
   ScreenWord::StartCapture();
   Timer1.setEnabled(false);
+  unload();
+}
+
+// The same closing, with two differences. A key may have brought the user to a box or a dialog of
+// ours, which holds capture off for as long as it lasts; and the pointer is still where it was, so
+// that another popup would open over the work at once.
+void frmScreenWordMeaning::watchTimer_Timer() {
+  const capture::PopupSight sight = wordPlace_->look();
+  if (!watch_->look(sight)) return;
+  if (!ScreenWord::HeldOff) ScreenWord::StartCapture();
+  Timer1.setEnabled(false);
+  nhw32::leaveAlone({sight.x, sight.y});
   unload();
 }
 
@@ -120,5 +145,6 @@ void frmScreenWordMeaning::place(const capture::PopupText& text) {
 LRESULT frmScreenWordMeaning::handleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   // Once placed it keeps the size for the pointer's monitor, even if it reaches into another.
   if (message == WM_DPICHANGED && placed_) return 0;
+  if (message == WM_INPUT && wordPlace_) wordPlace_->noteMouse(lParam);
   return Form::handleMessage(message, wParam, lParam);
 }

@@ -17,7 +17,8 @@
 //     every 100 ms  timScreenWord1: CatchWordAt arms the service at the pointer
 //     any time      the service posts "BL_HASSTRING"; WindowProc puts the word in strScreenWord
 //     every 5 ms    Timer1: a pending English word goes to the popup, and all timers stop
-//     then          the popup closes when the pointer moves, and starts the timers again
+//     then          the popup closes when the pointer moves, or when it has outlived its word, and
+//                   starts the timers again
 //
 // A word is pending until the next probe only: one that comes late is not for the point any more.
 namespace {
@@ -115,6 +116,7 @@ frmScreenWord::frmScreenWord() : Form(hostDesign()), headwords(user::IdxWords) {
 }
 
 void frmScreenWord::Form_Load() {
+  ScreenWord::HeldOff = false;  // its timers are enabled
   Adodc1.setConnectionString(user::ConnectionString);
   headwords.setConnectionString(user::ConnectionString);
   nhw32::setIsHeadword([this](std::u16string_view word) { return headwords.has(word); });
@@ -162,7 +164,9 @@ void frmScreenWord::Timer1_Timer() {
     auto& popup = loadedPopup();
     popup.showMeaning(word, popup.Adodc1);
     ScreenWord::strScreenWord.clear();
+    const bool heldOff = ScreenWord::HeldOff;
     ScreenWord::StopCapture();
+    ScreenWord::HeldOff = heldOff;
   } catch (const std::exception&) {
     // No popup, and no message: the user is at work in another program. Capture goes on, since only
     // a popup would start it again.
@@ -210,6 +214,7 @@ void setCapture(bool enabled) {
   host.timScreenWord1.setEnabled(enabled);
   host.timScreenWord2.setEnabled(enabled);
   host.Timer1.setEnabled(enabled);
+  HeldOff = !enabled;
 }
 
 }  // namespace

@@ -19,6 +19,9 @@ inline UINT MsgHasString = 0;
 inline HWND hScreenWordWnd = nullptr;
 /// The procedure of that window before it was subclassed by SetWindowLongPtrA.
 inline WNDPROC OldWndProc = nullptr;
+/// Whether capture is stopped by other than an open popup: a box or dialog of ours, the menu, the
+/// toolbar's switch. Set by StopCapture, cleared by StartCapture; the hand-over leaves it as it is.
+inline bool HeldOff = false;
 
 /// The subclass procedure of frmScreenWord: takes the words that MsgHasString reports and returns
 /// 0; passes every other message to OldWndProc. Throws nothing.

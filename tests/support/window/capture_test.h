@@ -22,6 +22,7 @@ class CaptureTest : public WindowTest {
     injected::moveTo(kNowhere);
     ScreenWord::StopCapture();
     nhw32::BL_SetFlag32(nhw32::kDisarm, nullptr, 0, 0);
+    nhw32::SetNHW32();  // sees that the pointer has left the place of an earlier popup
     ScreenWord::strScreenWord.clear();
   }
 
