@@ -44,6 +44,7 @@ class RestingReader : public WordReader {
       : reader_(std::move(reader)), clock_(std::move(clock)) {}
 
   Answer wordAt(const Question& question) override;
+  void rest() override { reader_->rest(); }
 
  private:
   std::unique_ptr<WordReader> reader_;
