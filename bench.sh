@@ -43,7 +43,7 @@ if measured native; then
 fi
 
 if measured painted capture memory; then
-  build windows window_bench search_bench capture_bench memory_bench bare_window lexilo
+  build windows window_bench search_bench capture_bench memory_bench bare_probe bare_window lexilo
   assemble_app
   start_display
   start_wine "$(fresh_prefix bench)"
@@ -54,7 +54,8 @@ if measured painted; then
   run_wine build/windows/bin/search_bench.exe build/kk.dat
 fi
 if measured capture; then
-  run_wine build/windows/bin/capture_bench.exe
+  LEXILO_WINE_SERVER=$(wine_server) run_wine build/windows/bin/capture_bench.exe \
+    'build\windows\bin\bare_probe.exe'
 fi
 if measured memory; then
   run_wine build/windows/bin/memory_bench.exe build/windows/bin/bare_window.exe

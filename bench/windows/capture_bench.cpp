@@ -94,30 +94,65 @@ void measureService(Page& page, Timings& service) {
   }
 }
 
-void printLoad(const char* what, double share, double aim) {
-  std::printf("%-44s %8.2f %% of a core  %.1f %s\n", what, share, aim,
-              share > aim ? "MISSED" : "met");
-}
+/// Shares of a core in per cent.
+struct Load {
+  double program = 0;
+  double server = 0;  ///< Wine's, for all programs together
+};
 
-double loadOver(const support::Process& process) {
-  const double before = bench::processorTime(process.id());
+Load loadOf(const support::Process& process) {
+  const double program = bench::processorTime(process.id());
+  const double server = bench::serverTime();
   Sleep(kRest);
-  return (bench::processorTime(process.id()) - before) * 100 / kRest;
+  return {(bench::processorTime(process.id()) - program) * 100 / kRest,
+          (bench::serverTime() - server) * 100 / kRest};
 }
 
-void measureLoad(const Page& page, const support::Lexilo& lexilo) {
-  std::printf("\nLexilo's processor time over %lu s, the pointer at rest\n", kRest / 1000);
+void printLoad(const char* what, const Load& load) {
+  std::printf("%-44s %8.2f %% of a core, Wine's server %.2f %%\n", what, load.program, load.server);
+}
+
+/// `aim`: how much above `bare`, in per cent of a core.
+void printLoad(const char* what, const Load& load, const Load& bare, double aim) {
+  printLoad(what, load);
+  const double above = load.program - bare.program;
+  std::printf("%-44s %8.2f %% of a core  %.1f %s\n", "    above the bare program", above, aim,
+              above > aim ? "MISSED" : "met");
+}
+
+/// The pointer at rest over Notepad and over the desktop.
+struct Loads {
+  Load notepad;
+  Load desktop;
+};
+
+Loads bareLoads(const Page& page, const std::wstring& program) {
+  const support::Process bare(program);
+  bare.waitForInputIdle();
+  Loads loads;
+  support::input::moveTo(page.blank());
+  loads.notepad = loadOf(bare);
+  support::input::moveTo(support::kAwayFromTexts);
+  loads.desktop = loadOf(bare);
+  return loads;
+}
+
+void measureLoad(const Page& page, const support::Lexilo& lexilo, const Loads& bare) {
+  std::printf("\nProcessor time over %lu s, the pointer at rest\n", kRest / 1000);
+  printLoad("  a bare program, over a blank of Notepad", bare.notepad);
+  printLoad("  a bare program, over the desktop", bare.desktop);
   const MeaningPopup popup(lexilo.process());
   support::input::moveTo(page.blank());
-  printLoad("  over a blank of Notepad", loadOver(lexilo.process()), 3);
+  printLoad("  Lexilo, over a blank of Notepad", loadOf(lexilo.process()), bare.notepad, 0.5);
   moveAway(popup);
-  printLoad("  over the desktop", loadOver(lexilo.process()), 1);
+  printLoad("  Lexilo, over the desktop", loadOf(lexilo.process()), bare.desktop, 0.5);
   lexilo.click(support::ToolbarButton::kCapture);
   support::input::moveTo(page.blank());
-  printLoad("  over a blank of Notepad, capture off", loadOver(lexilo.process()), 0.5);
+  printLoad("  Lexilo, capture off", loadOf(lexilo.process()), {}, 0);
 }
 
-void measure() {
+/// `bareProbe`: the path of the bare program.
+void measure(const std::wstring& bareProbe) {
   support::input::moveTo(support::kAwayFromTexts);
   Page page;
   Timings popups("pointer at rest to popup");
@@ -126,6 +161,7 @@ void measure() {
   Timings answers("toolbar kept from answering meanwhile");
   answers.aimAtLongest(50);
   measureService(page, service);
+  const Loads bare = bareLoads(page, bareProbe);
   const support::Lexilo lexilo(support::AppFolder::withFullDictionary());
   lexilo.waitUntilSeen();
   measureWords(page, lexilo, popups, answers);
@@ -135,14 +171,18 @@ void measure() {
   std::printf("  the service's share of the median: %.1f %%\n",
               100 * service.median() / popups.median());
   answers.print();
-  measureLoad(page, lexilo);
+  measureLoad(page, lexilo, bare);
 }
 
 }  // namespace
 
-int main() {
+int wmain(int count, wchar_t** arguments) {
+  if (count != 2) {
+    std::printf("capture_bench BARE_PROBE\n");
+    return 2;
+  }
   try {
-    measure();
+    measure(arguments[1]);
   } catch (const std::exception& error) {
     std::printf("error: %s\n", error.what());
     return 1;

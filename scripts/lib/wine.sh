@@ -94,6 +94,16 @@ start_wine() {
   fi
 }
 
+# wine_server: the process id of Wine's server for the prefix that was started.
+wine_server() {
+  local process
+  for process in $(pgrep wineserver); do
+    if grep -qzxF "WINEPREFIX=$started_prefix" "/proc/$process/environ" 2>/dev/null; then
+      echo "$process"
+    fi
+  done
+}
+
 # run_wine PROGRAM ARGUMENT...: runs a program, whose standard output, errors included, comes here.
 # Standard error, where Wine has its say, goes to build/logs/NAME.log. Without a terminal on either
 # side Wine does not take it for a console of its own.
