@@ -21,13 +21,17 @@ std::unique_ptr<WordReader> makeWindowReader(const Clock& clock = std::chrono::s
 struct Diagnosis {
   std::u16string className;
   std::u16string realClassName;
-  std::optional<ReaderKind> reader;  ///< nullopt: the window does not answer
+  std::optional<ReaderKind> reader;  ///< nullopt: the window was not asked or does not answer
   bool isPassword = false;           ///< of controls that are read by messages
   Answer answer;
   std::chrono::microseconds time{0};  ///< that the answer took
 };
 
-/// Asks a question once, with a reader of its own. The thread has to be per-monitor DPI aware.
+/// Returns what is known of a window that is not asked: its classes.
+Diagnosis describe(WindowId window);
+
+/// Asks a question with a reader of its own: once, by UI Automation twice, of which the second
+/// counts. The thread has to be per-monitor DPI aware. May take some seconds.
 Diagnosis diagnose(const Question& question);
 
 }  // namespace nhw32

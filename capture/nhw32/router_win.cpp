@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <array>
+#include <thread>
 #include <utility>
 
 #include "capture/nhw32/controls/readers.h"
@@ -42,6 +43,7 @@ class WindowReader : public WordReader {
  public:
   Answer wordAt(const Question& question) override try {
     const ReaderKind kind = readerOf(question.window);
+    if (kind != ReaderKind::kRichEdit) memory_.free();
     if (kind == ReaderKind::kUia) return uia_->wordAt(question);
     auto word =
         kind == ReaderKind::kEdit ? editWordAt(question) : richEditWordAt(question, memory_);
@@ -66,11 +68,17 @@ std::unique_ptr<WordReader> makeWindowReader(const Clock& clock) {
   return std::make_unique<BackoffReader>(std::move(resting), clock);
 }
 
-Diagnosis diagnose(const Question& question) {
-  auto* const window = reinterpret_cast<HWND>(question.window);
+Diagnosis describe(WindowId id) {
+  auto* const window = reinterpret_cast<HWND>(id);
   Diagnosis diagnosis;
   diagnosis.className = classNameOf(window);
   diagnosis.realClassName = realClassOf(window);
+  return diagnosis;
+}
+
+Diagnosis diagnose(const Question& question) {
+  Diagnosis diagnosis = describe(question.window);
+  auto begin = std::chrono::steady_clock::now();
   try {
     diagnosis.reader = readerOf(question.window);
     diagnosis.isPassword =
@@ -79,8 +87,14 @@ Diagnosis diagnose(const Question& question) {
     diagnosis.answer.outcome = failure.outcome();
     return diagnosis;
   }
-  const auto begin = std::chrono::steady_clock::now();
-  diagnosis.answer = makeWindowReader()->wordAt(question);
+  const auto reader = makeWindowReader();
+  diagnosis.answer = reader->wordAt(question);
+  if (diagnosis.reader == ReaderKind::kUia) {
+    // The first contact with a program takes longer than all later questions, as after a rest.
+    std::this_thread::sleep_for(2 * RestingQuestion::kMinDelay);
+    begin = std::chrono::steady_clock::now();
+    diagnosis.answer = reader->wordAt(question);
+  }
   diagnosis.time = std::chrono::duration_cast<std::chrono::microseconds>(
       std::chrono::steady_clock::now() - begin);
   return diagnosis;

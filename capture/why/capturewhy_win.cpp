@@ -9,7 +9,8 @@
 #include "win32/win32.h"
 
 // capturewhy.exe: tells why the popup does or does not name the word under the pointer. It asks the
-// window as Lexilo does, whether Lexilo runs or not, and changes nothing.
+// window as Lexilo does, whether Lexilo runs or not, and only if Lexilo would: some programs change
+// when they are asked by UI Automation.
 
 namespace {
 
@@ -54,10 +55,13 @@ std::u16string programOf(HWND window) {
 
 capture::WhyFindings findingsAt(POINT point) {
   const HWND window = WindowFromPoint(point);
-  const nhw32::ScreenPoint place{static_cast<int>(point.x), static_cast<int>(point.y)};
-  return {.point = place,
-          .program = programOf(window),
-          .diagnosis = nhw32::diagnose({reinterpret_cast<nhw32::WindowId>(window), place})};
+  const nhw32::Question question{reinterpret_cast<nhw32::WindowId>(window),
+                                 {static_cast<int>(point.x), static_cast<int>(point.y)}};
+  capture::WhyFindings findings{.point = question.point,
+                                .program = programOf(window),
+                                .diagnosis = nhw32::describe(question.window)};
+  if (capture::isAsked(findings.diagnosis)) findings.diagnosis = nhw32::diagnose(question);
+  return findings;
 }
 
 void waitForPointer(int seconds) {

@@ -90,14 +90,19 @@ std::u16string timeText(std::chrono::microseconds time) {
 
 }  // namespace
 
+bool isAsked(const nhw32::Diagnosis& diagnosis) {
+  return isProbed(text::toUtf8(diagnosis.className));
+}
+
 std::u16string whyReport(const WhyFindings& findings) {
   const nhw32::Diagnosis& diagnosis = findings.diagnosis;
   std::u16string report =
       line(u"Point", number(findings.point.x) + u", " + number(findings.point.y)) +
       line(u"Program", findings.program.empty() ? u"not told" : findings.program) +
       line(u"Window class", diagnosis.className) + line(u"Real class", diagnosis.realClassName) +
-      line(u"Probed", probedText(diagnosis.className)) +
-      line(u"Read by", readerText(diagnosis.reader)) + line(u"Word", answerText(diagnosis));
+      line(u"Probed", probedText(diagnosis.className));
+  if (!isAsked(diagnosis)) return report;
+  report += line(u"Read by", readerText(diagnosis.reader)) + line(u"Word", answerText(diagnosis));
   const bool hasWord = !diagnosis.isPassword && diagnosis.answer.outcome == nhw32::Outcome::kWord;
   if (hasWord) report += line(u"Its place", boxText(diagnosis.answer.word.box));
   return report + line(u"Time", timeText(diagnosis.time));

@@ -1,4 +1,5 @@
 // capturewhy.exe, which tells users why there is a word or none.
+#include <atomic>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -49,11 +50,45 @@ TEST_F(CaptureWhy, NamesTheWordThatThePopupWouldShow) {
   EXPECT_TRUE(has(report, "\"catalyst\"\n")) << report;
 }
 
-TEST_F(CaptureWhy, SaysThatAWindowIsNotProbed) {
-  const TextWindow label(L"STATIC", 0, kPage, L"a catalyst");
-  const std::string report = reportAt(centreOf(kPage));
-  EXPECT_TRUE(has(report, "Window class      Static\n")) << report;
+/// Registers a class of edit controls under a name that no table knows, and counts the messages of
+/// edit controls that they are sent.
+class PlainClass {
+ public:
+  static constexpr const wchar_t* kName = L"Lexilo.Plain";
+
+  PlainClass() {
+    WNDCLASSW plain{};
+    GetClassInfoW(nullptr, L"EDIT", &plain);
+    edit_ = plain.lpfnWndProc;
+    plain.lpfnWndProc = answer;
+    plain.lpszClassName = kName;
+    RegisterClassW(&plain);
+  }
+  ~PlainClass() { UnregisterClassW(kName, nullptr); }
+  PlainClass(const PlainClass&) = delete;
+  PlainClass& operator=(const PlainClass&) = delete;
+
+  [[nodiscard]] static int questions() { return questions_; }
+
+ private:
+  static LRESULT CALLBACK answer(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    questions_ += message >= EM_GETSEL && message <= EM_GETIMESTATUS ? 1 : 0;
+    return CallWindowProcW(edit_, window, message, wParam, lParam);
+  }
+
+  static inline std::atomic<int> questions_ = 0;
+  static inline WNDPROC edit_ = nullptr;
+};
+
+TEST_F(CaptureWhy, AsksNoWindowThatIsNotProbed) {
+  const PlainClass plain;
+  const TextWindow box(PlainClass::kName, ES_MULTILINE, kPage, L"catalyst");
+  const int before = PlainClass::questions();
+  const std::string report = reportAt(box.characterPoint(2));
+  EXPECT_TRUE(has(report, "Window class      Lexilo.Plain\n")) << report;
   EXPECT_TRUE(has(report, "no: its class contains no entry of the table\n")) << report;
+  EXPECT_FALSE(has(report, "catalyst")) << report;
+  EXPECT_EQ(PlainClass::questions(), before + 1) << "more than this test's own";
 }
 
 TEST_F(CaptureWhy, SaysThatAPasswordFieldIsNotRead) {

@@ -41,9 +41,19 @@ TEST(WhyReport, NamesTheFirstEntryThatAdmitsTheWindow) {
   WhyFindings findings = inNotepad();
   findings.diagnosis.className = u"RichEdit20W";
   EXPECT_NE(reportOf(findings).find("yes, by the entry \"RichEdit20W\"\n"), std::string::npos);
+}
+
+TEST(WhyReport, EndsWithTheClassesOfAWindowThatIsNotAsked) {
+  WhyFindings findings = inNotepad();
   findings.diagnosis.className = u"Chrome_WidgetWin_1";
-  EXPECT_NE(reportOf(findings).find("no: its class contains no entry of the table\n"),
-            std::string::npos);
+  findings.diagnosis.realClassName = u"Chrome_WidgetWin_1";
+  EXPECT_FALSE(isAsked(findings.diagnosis));
+  EXPECT_EQ(reportOf(findings),
+            "Point             -12, 318\n"
+            "Program           notepad.exe\n"
+            "Window class      Chrome_WidgetWin_1\n"
+            "Real class        Chrome_WidgetWin_1\n"
+            "Probed            no: its class contains no entry of the table\n");
 }
 
 TEST(WhyReport, SaysWhyThereIsNoWord) {
