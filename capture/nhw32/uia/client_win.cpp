@@ -84,7 +84,11 @@ class UiaReader : public WordReader {
     const bool first = contacts_.isFirst(processOf(window));
     client_->limitConnecting(first ? kUiaFirstQuestionTime : kUiaCallTime);
     UiaCalls calls(system_.now, first ? kUiaFirstQuestionTime : kUiaQuestionTime);
+    const auto start = system_.now();
     auto word = find(question, console ? Search::kLine : Search::kCharacter, calls);
+    // What was under the point when a slow program was first asked may be gone: it is asked again,
+    // and answers sooner now.
+    if (first && system_.now() - start > kUiaQuestionTime) return {};
     // The window may have been closed, moved, resized or hidden meanwhile.
     if (!word || placeOf(window) != place) return {};
     return {Outcome::kWord, std::move(*word)};

@@ -25,7 +25,7 @@ struct TextHolder {
 /// is a password field or does not report whether it is, and if none of them, up to the tenth
 /// ancestor, belongs to the process or to the top-level window of the question's window. One call
 /// for each element. Throws NoAnswer.
-TextHolder textHolderAt(const PreparedClient& client, const Question& question, UiaCalls& calls);
+TextHolder textHolderAt(PreparedClient& client, const Question& question, UiaCalls& calls);
 
 /// Returns the word that a cell, header or link shows, with the rectangle of the element, which
 /// contains `point`; nullopt if its text is not one word. Throws NoAnswer.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "capture/nhw32/uia/geometry.h"
+#include "capture/nhw32/uia/limits.h"
 #include "text/word_ranges.h"
 
 // Every call may go to another process and is made by UiaCalls, which ends the question by NoAnswer
@@ -59,13 +60,15 @@ class Prefetched {
 /// Walks from the element under a point up through its ancestors.
 class ElementWalk {
  public:
-  ElementWalk(const PreparedClient& client, const Question& question, UiaCalls& calls)
+  ElementWalk(PreparedClient& client, const Question& question, UiaCalls& calls)
       : client_(client), window_(toHandle(question.window)), calls_(calls) {
     const POINT point{question.point.x, question.point.y};
     calls_.make([&] {
       return client_.automation().ElementFromPointBuildCache(point, client_.prefetch(),
                                                              element_.GetAddressOf());
     });
+    // The limit is for every request for an element (put_ConnectionTimeout): its parents, too.
+    client_.limitConnecting(kUiaCallTime);
   }
 
   /// A text that is found is kept until an element of the window is met: the text of a console is
@@ -118,7 +121,7 @@ class ElementWalk {
     element_ = std::move(parent);
   }
 
-  const PreparedClient& client_;
+  PreparedClient& client_;
   HWND window_;
   UiaCalls& calls_;
   ComPtr<IUIAutomationElement> element_;
@@ -126,7 +129,7 @@ class ElementWalk {
 
 }  // namespace
 
-TextHolder textHolderAt(const PreparedClient& client, const Question& question, UiaCalls& calls) {
+TextHolder textHolderAt(PreparedClient& client, const Question& question, UiaCalls& calls) {
   return ElementWalk(client, question, calls).find();
 }
 
