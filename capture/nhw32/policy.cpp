@@ -67,7 +67,10 @@ void Backoff::note(WindowId window, Outcome outcome, Time now) {
 }
 
 Answer BackoffReader::wordAt(const Question& question) {
-  if (!backoff_.mayAsk(question.window, clock_())) return {};
+  if (!backoff_.mayAsk(question.window, clock_())) {
+    reader_->rest();
+    return {};
+  }
   // The delay counts from the end of the question, so the time is read again.
   Answer answer = reader_->wordAt(question);
   backoff_.note(question.window, answer.outcome, clock_());

@@ -87,8 +87,8 @@ class WordReader {
   /// the caller treats any exception, such as std::bad_alloc, as Outcome::kNone. Returns within the
   /// reader's own time limit.
   virtual Answer wordAt(const Question& question) = 0;
-  /// Frees what is kept in other programs between two questions. Called when no question has come
-  /// for a while.
+  /// Frees what is kept in other programs between two questions. Called when there will be no
+  /// question about them for a while.
   virtual void rest() {}
 };
 

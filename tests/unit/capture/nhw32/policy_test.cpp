@@ -107,18 +107,22 @@ class Silent : public WordReader {
     asked.push_back(question.window);
     return {.outcome = question.window == 1 ? Outcome::kOutOfTime : Outcome::kWord, .word = {}};
   }
+  void rest() override { ++rests; }
   std::vector<WindowId> asked;
+  int rests = 0;
 };
 
 TEST(BackoffReader, DoesNotAskAWindowThatKeepsTimingOut) {
   auto silent = std::make_unique<Silent>();
   auto& asked = silent->asked;
+  const int& rests = silent->rests;
   Backoff::Time now = kStart;
   BackoffReader reader(std::move(silent), [&] { return now; });
   for (int i = 0; i < 3; ++i) EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::kOutOfTime);
   EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::kNone);
   EXPECT_EQ(reader.wordAt(about(2)).outcome, Outcome::kWord);
   EXPECT_EQ(asked, (std::vector<WindowId>{1, 1, 1, 2}));
+  EXPECT_EQ(rests, 1) << "what is kept for a window that is left alone";
   now += seconds(5);
   EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::kOutOfTime);
   EXPECT_EQ(reader.wordAt(about(1)).outcome, Outcome::kNone);

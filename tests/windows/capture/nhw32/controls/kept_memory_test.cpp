@@ -106,6 +106,15 @@ TEST_F(Nhw32KeptMemory, IsGivenBackWhenAnotherProgramIsAsked) {
   });
 }
 
+TEST_F(Nhw32KeptMemory, IsGivenBackWhenAControlThatNeedsNoneIsAsked) {
+  const HookedTextWindow other({}, u"elsewhere");
+  inTime([&](Asked& asked) {
+    EXPECT_EQ(asked.wordAt(at(2)), u"first");
+    EXPECT_EQ(asked.wordAt(questionAbout(other.control(), 3)), u"elsewhere");
+    EXPECT_FALSE(isThere());
+  });
+}
+
 TEST_F(Nhw32KeptMemory, IsGivenBackByTheServiceAWhileAfterTheLastQuestion) {
   const WordHost host;
   CountedService counted;
