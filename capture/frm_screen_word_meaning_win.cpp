@@ -82,6 +82,7 @@ void frmScreenWordMeaning::watchTimer_Timer() {
   if (!ScreenWord::HeldOff) ScreenWord::StartCapture();
   Timer1.setEnabled(false);
   nhw32::leaveAlone({sight.x, sight.y});
+  ScreenWord::strScreenWord.clear();
   unload();
 }
 

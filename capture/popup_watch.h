@@ -19,7 +19,6 @@ struct WordWindow {
   std::uintptr_t topmost = 0;     ///< the top-level window that is seen at the word's place
   std::optional<int> horizontal;  ///< where its scroll bars stand; nullopt if that is not known
   std::optional<int> vertical;
-  bool operator==(const WordWindow&) const = default;
 };
 
 /// What is seen at one look.
@@ -27,7 +26,7 @@ struct PopupSight {
   std::uint32_t input = 0;  ///< the time of the session's last input; any change is an input
   int x = 0;                ///< the pointer, in screen pixels
   int y = 0;
-  bool mouseMoved = false;        ///< since the look before, if by less than a pixel
+  bool mouseMoved = false;        ///< since the look before, even if by less than a pixel
   bool mouseUsed = false;         ///< a button or the wheel was, since the look before
   std::uintptr_t foreground = 0;  ///< 0 while it changes from one window to another
   WordWindow window;

@@ -28,6 +28,7 @@ class WordPlace {
   [[nodiscard]] WordWindow window() const;
 
   POINT place_;
+  POINT pointer_ = place_;  ///< at the last look that could see it
   HWND window_;
   bool mouseMoved_ = false;
   bool mouseUsed_ = false;

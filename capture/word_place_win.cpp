@@ -48,10 +48,10 @@ PopupSight WordPlace::look() {
   PopupSight sight;
   LASTINPUTINFO last{sizeof last, 0};
   if (GetLastInputInfo(&last) != FALSE) sight.input = last.dwTime;
-  POINT pointer{};
-  GetCursorPos(&pointer);
-  sight.x = pointer.x;
-  sight.y = pointer.y;
+  // Fails while the desktop is not ours: the lock screen, a question for administrators' rights.
+  GetCursorPos(&pointer_);
+  sight.x = pointer_.x;
+  sight.y = pointer_.y;
   sight.mouseMoved = std::exchange(mouseMoved_, false);
   sight.mouseUsed = std::exchange(mouseUsed_, false);
   sight.foreground = numberOf(GetForegroundWindow());

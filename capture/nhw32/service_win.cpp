@@ -65,8 +65,8 @@ std::unique_ptr<WordReader> readerOf(const ReaderFactory& factory) {
   }
 }
 
-/// The time without a question after which the reader frees what it keeps.
-constexpr std::chrono::seconds kRest{2};
+/// The time without a question after which the reader frees what it keeps: some probes long.
+constexpr std::chrono::milliseconds kRest{500};
 
 /// Returns the next question, nullopt at the end. The reader may rest before.
 std::optional<Question> nextQuestion(ProbeMailbox& mailbox, WordReader* reader) {
