@@ -3,7 +3,9 @@
 #include <string>
 #include <string_view>
 
-/// The running program and the programs it starts. Any thread.
+#include "win32/win32.h"
+
+/// The running program, the programs it starts and those of other windows. Any thread.
 namespace win32 {
 
 /// Returns whether this process is the first of the user's session to claim `name`, the name of a
@@ -15,6 +17,9 @@ bool claimOnlyInstance(const wchar_t* name);
 
 /// Returns the folder of the program's file, without a trailing backslash.
 std::u16string applicationFolder();
+
+/// Returns the file name of a window's program, without its folder; "" if Windows does not tell it.
+std::u16string programOf(HWND window);
 
 /// Starts the program file `path`, shown normally. Its command line is `path` in quotes, a blank
 /// and `arguments` as they stand. Throws std::runtime_error with the system's text if the

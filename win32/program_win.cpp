@@ -35,6 +35,21 @@ std::u16string applicationFolder() {
   return fromWide(std::wstring_view(path).substr(0, end == std::wstring::npos ? 0 : end));
 }
 
+std::u16string programOf(HWND window) {
+  // The longest path, its NUL included ("Maximum path length limitation").
+  constexpr std::size_t kLongestPath = 32'768;
+  DWORD id = 0;
+  GetWindowThreadProcessId(window, &id);
+  const OwnedKernelObject process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
+  std::wstring path(kLongestPath, L'\0');
+  auto size = static_cast<DWORD>(path.size());
+  if (!process || QueryFullProcessImageNameW(process.get(), 0, path.data(), &size) == FALSE) {
+    return {};
+  }
+  path.resize(size);
+  return fromWide(std::wstring_view(path).substr(path.find_last_of(L'\\') + 1));
+}
+
 void startProgram(const std::u16string& path, std::u16string_view arguments) {
   // Without the first argument CreateProcess would try the parts of an unquoted path before each
   // blank. The child gets the command line unchanged: up to the first unquoted blank it is taken
