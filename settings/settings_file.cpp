@@ -30,4 +30,6 @@ std::optional<std::int16_t> toInteger16(std::u16string_view value) {
   return static_cast<std::int16_t>(number);
 }
 
+bool isOn(std::u16string_view value) { return toInteger16(value) == 1; }
+
 }  // namespace user

@@ -26,6 +26,9 @@ std::u16string profileValue(int returned, std::u16string_view buffer, std::u16st
 /// where it is not a whole number or is outside the 16-bit signed range.
 std::optional<std::int16_t> toInteger16(std::u16string_view value);
 
+/// Returns whether `value` switches something on: the number 1, in any spelling of toInteger16.
+bool isOn(std::u16string_view value);
+
 /// Returns the stored value of `key`, or `fallback` where file, section or key are missing or the
 /// value is blank. Values are cut to kAnsiBufferLength - 1 bytes.
 std::u16string getINIProfileString(const std::u16string& section, const std::u16string& key,
@@ -44,5 +47,9 @@ std::u16string systemDirectory();
 /// application data folder, which is created where it is missing. The ANSI code page can name the
 /// path if the file system gives it a short one at least.
 std::u16string settingsFile();
+
+/// Returns whether this user's settings file switches further windows on (the key FurtherWindows;
+/// capture/further_windows.h): off where it is missing. Read anew by each call.
+bool furtherWindows();
 
 }  // namespace user

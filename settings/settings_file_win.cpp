@@ -98,4 +98,9 @@ std::u16string settingsFile() {
   return canWrite(inSystemDirectory) ? inSystemDirectory : localSettingsFile();
 }
 
+bool furtherWindows() {
+  return isOn(getINIProfileString(std::u16string(kSettingsSection), u"FurtherWindows", u"0",
+                                  settingsFile()));
+}
+
 }  // namespace user

@@ -61,4 +61,11 @@ TEST(Integer16, RefusesEverythingElse) {
   }
 }
 
+TEST(IsOn, TakesTheNumberOne) {
+  for (const char16_t* value : {u"1", u" 1 ", u"+1", u"01"}) EXPECT_TRUE(user::isOn(value));
+  for (const char16_t* value : {u"", u"0", u"2", u"-1", u"11", u"yes", u"true", u"on", u"１"}) {
+    EXPECT_FALSE(user::isOn(value)) << std::u16string(value).size();
+  }
+}
+
 }  // namespace
