@@ -24,12 +24,25 @@ bool isEdit(std::u16string_view name) {
   });
 }
 
+bool contains(std::u16string_view className, std::u16string_view name) {
+  return className.find(name) != std::u16string_view::npos;
+}
+
+/// Most rich edit controls are a RICHEDIT50W today.
+bool isRichEdit(std::u16string_view name) {
+  if (contains(name, u"Edit")) return contains(name, u"RichEdit");
+  constexpr std::u16string_view kLower = u"richedit";
+  return std::search(name.begin(), name.end(), kLower.begin(), kLower.end(),
+                     [](char16_t unit, char16_t lower) {
+                       return text::lowerAscii(unit) == lower;
+                     }) != name.end();
+}
+
 }  // namespace
 
 ReaderKind readerKindFor(std::u16string_view className, std::u16string_view realClassName) {
   if (isEdit(realClassName) || isEdit(className)) return ReaderKind::kEdit;
-  const bool rich = className.find(u"RichEdit") != std::u16string_view::npos;
-  return rich ? ReaderKind::kRichEdit : ReaderKind::kUia;
+  return isRichEdit(className) ? ReaderKind::kRichEdit : ReaderKind::kUia;
 }
 
 Outcome outcomeOfSendTimeout(std::uint32_t lastError) {

@@ -22,7 +22,9 @@ enum class ReaderKind { kEdit, kRichEdit, kUia };
 /// the system class that the window's class was derived from; may be empty).
 /// - kEdit: the real class or the class is Edit or a Visual Basic text box (ASCII
 /// case-insensitive).
-/// - kRichEdit: the class name contains "RichEdit" (case-sensitive).
+/// - kRichEdit: the class name contains "RichEdit", in this case if it contains "Edit", otherwise
+/// in
+///   any: a window is probed for "Edit" in this case, and is read as it was before the others were.
 /// - kUia: everything else. EM_CHARFROMPOS takes a packed point in edit controls but an address in
 ///   rich edit controls, which crash on a packed point; so a class whose name only resembles an
 ///   edit control is never sent edit messages.

@@ -160,6 +160,16 @@ TEST(ReaderKindFor, FindsRichEditAnywhereInTheName) {
   }
 }
 
+TEST(ReaderKindFor, FindsRichEditInAnyCaseWhereNoWindowIsProbedForIt) {
+  for (const std::u16string_view name :
+       {u"RICHEDIT50W", u"Richedit", u"WindowsForms10.RICHEDIT50W.app.0.141b42a_r6_ad1"}) {
+    EXPECT_EQ(readerKindFor(name, name), ReaderKind::kRichEdit);
+  }
+  for (const std::u16string_view name : {u"MyEdit.RICHEDIT50W", u"richEdit"}) {
+    EXPECT_EQ(readerKindFor(name, name), ReaderKind::kUia);
+  }
+}
+
 TEST(ReaderKindFor, TakesEditControlsByTheirRealClass) {
   for (const std::u16string_view name : {u"TMyEditor", u"TLogEdit", u"Edit0", u"TRichEdit"}) {
     for (const std::u16string_view real : {u"Edit", u"EDIT", u"edit"}) {
@@ -179,7 +189,6 @@ TEST(ReaderKindFor, ComparesTheWholeNameWithoutARealClass) {
     EXPECT_EQ(readerKindFor(name, u""), ReaderKind::kEdit);
   }
   EXPECT_EQ(readerKindFor(u"MyThunderTextBox", u"MyThunderTextBox"), ReaderKind::kUia);
-  EXPECT_EQ(readerKindFor(u"Richedit", u"Richedit"), ReaderKind::kUia);
   EXPECT_EQ(readerKindFor(u"", u""), ReaderKind::kUia);
 }
 
