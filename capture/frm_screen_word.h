@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "capture/further_step.h"
 #include "capture/probe.h"
 #include "data/data_control.h"
 #include "data/headword_lookup.h"
@@ -42,6 +43,8 @@ class frmScreenWord : public forms::Form {
   data::DataControl Adodc1;
   /// Tells the service which reading of a word is a headword; by a connection of its own.
   data::KnownHeadwords headwords;
+  /// Looks at the windows that no probe asks, after each probe.
+  capture::FurtherStep further;
 
   /// Returns the pointer's position in screen pixels; tests set one of their own.
   std::function<POINT()> pointerPlace = [] {

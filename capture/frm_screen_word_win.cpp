@@ -15,6 +15,7 @@
 // The capture cycle. All of it runs on the user-interface thread, except for the service's worker.
 //
 //     every 100 ms  timScreenWord1: CatchWordAt arms the service at the pointer
+//                   then FurtherStep does, where no probe does and the settings want it
 //     any time      the service posts "BL_HASSTRING"; WindowProc puts the word in strScreenWord
 //     every 5 ms    Timer1: a pending English word goes to the popup, and all timers stop
 //     then          the popup closes when the pointer moves, or when it has outlived its word, and
@@ -146,6 +147,7 @@ void frmScreenWord::timScreenWord1_Timer() try {
   // Deliberate: SetNHW32 after each probe, although it does nothing while the service runs.
   nhw32::SetNHW32();
   ScreenWord::strScreenWord.clear();
+  further.look(ScreenWord::hScreenWordWnd, pointerPlace());
 } catch (const std::exception&) {
   // The probe ends where it failed, before the steps that follow; the next one comes in 100 ms.
 }

@@ -48,6 +48,8 @@ std::optional<std::string_view> probedAs(std::string_view className) {
   return entry == kTextWindows.end() ? std::nullopt : std::optional(*entry);
 }
 
+std::span<const std::string_view> probedNames() { return kTextWindows; }
+
 Rectangle stripPlace(int x, int y, int windowLeft, int windowRight) {
   // The rows just above the pointer: the strip must not cover the point, where the service looks
   // for the window.

@@ -12,6 +12,9 @@ namespace capture {
 /// nullopt if windows of this class are not probed.
 std::optional<std::string_view> probedAs(std::string_view className);
 
+/// Returns the names of text windows, all of them.
+std::span<const std::string_view> probedNames();
+
 /// Returns whether windows of this class are probed.
 inline bool isProbed(std::string_view className) { return probedAs(className).has_value(); }
 

@@ -17,6 +17,21 @@ std::optional<LRESULT> handle(HWND /*window*/, UINT message, WPARAM wParam, LPAR
 
 }  // namespace
 
+const wchar_t* furtherRichEdit() {
+  static constexpr const wchar_t* kName = L"WindowsForms10.RICHEDIT50W.app.0.141b42a_r6_ad1";
+  LoadLibraryW(L"riched20.dll");
+  WNDCLASSEXW control{};
+  control.cbSize = sizeof control;
+  if (GetClassInfoExW(nullptr, L"RichEdit20W", &control) == FALSE) {
+    throw Failure("there are no rich edit controls");
+  }
+  control.lpszClassName = kName;
+  control.hInstance = GetModuleHandleW(nullptr);
+  control.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
+  RegisterClassExW(&control);
+  return kName;
+}
+
 TextWindow::TextWindow(const wchar_t* className, DWORD style, const RECT& place,
                        const std::wstring& text)
     : window_({.controlClass = className,

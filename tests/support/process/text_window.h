@@ -8,6 +8,10 @@
 
 namespace support {
 
+/// Returns the name of a class of rich edit controls that no probe asks, which it registers: as
+/// programs of .NET do, with the name in capitals. Wine's own RICHEDIT50W is a RichEdit50W.
+const wchar_t* furtherRichEdit();
+
 /// A window of the test's own, filled by one control: for Lexilo another program. It can be kept
 /// from answering.
 class TextWindow {
