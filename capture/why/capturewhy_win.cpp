@@ -1,11 +1,11 @@
 #include <algorithm>
 #include <cwchar>
-#include <filesystem>
 
 #include "capture/nhw32/router.h"
 #include "capture/why/report.h"
+#include "settings/settings_file.h"
 #include "text/utf.h"
-#include "win32/handles.h"
+#include "win32/program.h"
 #include "win32/win32.h"
 
 // capturewhy.exe: tells why the popup does or does not name the word under the pointer. It asks the
@@ -39,28 +39,15 @@ void print(std::u16string_view text) {
   WriteFile(output, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
 }
 
-/// Returns the file name of a window's program, without its folder; "" if Windows does not tell it.
-std::u16string programOf(HWND window) {
-  DWORD id = 0;
-  GetWindowThreadProcessId(window, &id);
-  const win32::OwnedKernelObject process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
-  std::wstring path(MAX_PATH, L'\0');
-  auto size = static_cast<DWORD>(path.size());
-  if (!process || QueryFullProcessImageNameW(process.get(), 0, path.data(), &size) == FALSE) {
-    return {};
-  }
-  path.resize(size);
-  return std::filesystem::path(path).filename().u16string();
-}
-
 capture::WhyFindings findingsAt(POINT point) {
   const HWND window = WindowFromPoint(point);
   const nhw32::Question question{reinterpret_cast<nhw32::WindowId>(window),
                                  {static_cast<int>(point.x), static_cast<int>(point.y)}};
   capture::WhyFindings findings{.point = question.point,
-                                .program = programOf(window),
+                                .program = win32::programOf(window),
+                                .furtherWindows = user::furtherWindows(),
                                 .diagnosis = nhw32::describe(question.window)};
-  if (capture::isAsked(findings.diagnosis)) findings.diagnosis = nhw32::diagnose(question);
+  if (capture::isAsked(findings)) findings.diagnosis = nhw32::diagnose(question);
   return findings;
 }
 

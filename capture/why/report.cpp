@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "capture/further_windows.h"
 #include "capture/probe.h"
 #include "text/utf.h"
 
@@ -28,10 +29,19 @@ std::u16string quoted(std::u16string_view text) { return u"\"" + std::u16string(
 
 /// Class names are compared by their characters in the ANSI code page; those of the table are
 /// ASCII.
-std::u16string probedText(std::u16string_view className) {
-  const auto entry = probedAs(text::toUtf8(className));
-  if (!entry) return u"no: its class contains no entry of the table";
-  return u"yes, by the entry " + quoted(std::u16string(entry->begin(), entry->end()));
+std::u16string probedText(const WhyFindings& findings) {
+  const std::string className = text::toUtf8(findings.diagnosis.className);
+  const auto byEntry = [](std::string_view entry) {
+    return u"by the entry " + quoted(std::u16string(entry.begin(), entry.end()));
+  };
+  if (const auto entry = probedAs(className)) return u"yes, " + byEntry(*entry);
+  const auto further = furtherAs(className);
+  if (!further) return u"no: its class contains no entry of either table";
+  if (!findings.furtherWindows) {
+    return u"no: a further window, " + byEntry(*further) + u", and these are off";
+  }
+  if (isLeftAlone(findings.program)) return u"no: a further window, but its program is left alone";
+  return u"where the pointer rests: a further window, " + byEntry(*further);
 }
 
 std::u16string_view readerText(std::optional<nhw32::ReaderKind> reader) {
@@ -90,8 +100,10 @@ std::u16string timeText(std::chrono::microseconds time) {
 
 }  // namespace
 
-bool isAsked(const nhw32::Diagnosis& diagnosis) {
-  return isProbed(text::toUtf8(diagnosis.className));
+bool isAsked(const WhyFindings& findings) {
+  const std::string className = text::toUtf8(findings.diagnosis.className);
+  return isProbed(className) || (findings.furtherWindows && furtherAs(className).has_value() &&
+                                 !isLeftAlone(findings.program));
 }
 
 std::u16string whyReport(const WhyFindings& findings) {
@@ -100,8 +112,9 @@ std::u16string whyReport(const WhyFindings& findings) {
       line(u"Point", number(findings.point.x) + u", " + number(findings.point.y)) +
       line(u"Program", findings.program.empty() ? u"not told" : findings.program) +
       line(u"Window class", diagnosis.className) + line(u"Real class", diagnosis.realClassName) +
-      line(u"Probed", probedText(diagnosis.className));
-  if (!isAsked(diagnosis)) return report;
+      line(u"Probed", probedText(findings)) +
+      line(u"Further windows", findings.furtherWindows ? u"on (FurtherWindows=1)" : u"off");
+  if (!isAsked(findings)) return report;
   report += line(u"Read by", readerText(diagnosis.reader)) + line(u"Word", answerText(diagnosis));
   const bool hasWord = !diagnosis.isPassword && diagnosis.answer.outcome == nhw32::Outcome::kWord;
   if (hasWord) report += line(u"Its place", boxText(diagnosis.answer.word.box));

@@ -5,7 +5,9 @@
 #include <iterator>
 
 #include "tests/program/capture_fixture.h"
+#include "tests/support/process/controls.h"
 #include "tests/support/process/process.h"
+#include "tests/support/process/settings.h"
 #include "tests/support/process/text_window.h"
 
 namespace support {
@@ -86,9 +88,27 @@ TEST_F(CaptureWhy, AsksNoWindowThatIsNotProbed) {
   const int before = PlainClass::questions();
   const std::string report = reportAt(box.characterPoint(2));
   EXPECT_TRUE(has(report, "Window class      Lexilo.Plain\n")) << report;
-  EXPECT_TRUE(has(report, "no: its class contains no entry of the table\n")) << report;
+  EXPECT_TRUE(has(report, "no: its class contains no entry of either table\n")) << report;
   EXPECT_FALSE(has(report, "catalyst")) << report;
   EXPECT_EQ(PlainClass::questions(), before + 1) << "more than this test's own";
+}
+
+TEST_F(CaptureWhy, SaysWhetherFurtherWindowsAreOn) {
+  settings::clear();
+  const TextWindow box(furtherRichEdit(), ES_MULTILINE, kPage, L"a catalyst");
+  const POINT place = richTextPosition(box.control(), 4);
+  const POINT inside{place.x + 3, place.y + 6};
+  const std::string off = reportAt(inside);
+  EXPECT_TRUE(has(off, "a further window, by the entry \"RichEdit\", and these are off\n")) << off;
+  EXPECT_TRUE(has(off, "Further windows   off\n")) << off;
+  settings::write(L"FurtherWindows", L"1");
+  const std::string on = reportAt(inside);
+  settings::clear();
+  EXPECT_TRUE(has(on, "where the pointer rests: a further window, by the entry \"RichEdit\"\n"))
+      << on;
+  EXPECT_TRUE(has(on, "Further windows   on (FurtherWindows=1)\n")) << on;
+  EXPECT_TRUE(has(on, "messages of rich edit controls\n")) << on;
+  EXPECT_TRUE(has(on, "\"catalyst\"\n")) << on;
 }
 
 TEST_F(CaptureWhy, SaysThatAPasswordFieldIsNotRead) {

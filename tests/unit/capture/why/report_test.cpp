@@ -31,6 +31,7 @@ TEST(WhyReport, SaysWhatWasFound) {
             "Window class      Edit\n"
             "Real class        Edit\n"
             "Probed            yes, by the entry \"Edit\"\n"
+            "Further windows   off\n"
             "Read by           messages of edit controls\n"
             "Word              \"man's\", \"man\"\n"
             "Its place         -20, 310 to 41, 326\n"
@@ -45,15 +46,47 @@ TEST(WhyReport, NamesTheFirstEntryThatAdmitsTheWindow) {
 
 TEST(WhyReport, EndsWithTheClassesOfAWindowThatIsNotAsked) {
   WhyFindings findings = inNotepad();
-  findings.diagnosis.className = u"Chrome_WidgetWin_1";
-  findings.diagnosis.realClassName = u"Chrome_WidgetWin_1";
-  EXPECT_FALSE(isAsked(findings.diagnosis));
+  findings.diagnosis.className = u"Button";
+  findings.diagnosis.realClassName = u"Button";
+  EXPECT_FALSE(isAsked(findings));
   EXPECT_EQ(reportOf(findings),
             "Point             -12, 318\n"
             "Program           notepad.exe\n"
-            "Window class      Chrome_WidgetWin_1\n"
-            "Real class        Chrome_WidgetWin_1\n"
-            "Probed            no: its class contains no entry of the table\n");
+            "Window class      Button\n"
+            "Real class        Button\n"
+            "Probed            no: its class contains no entry of either table\n"
+            "Further windows   off\n");
+}
+
+TEST(WhyReport, NamesTheTableThatAdmitsTheWindow) {
+  WhyFindings findings = inNotepad();
+  findings.program = u"chrome.exe";
+  findings.diagnosis.className = u"Chrome_WidgetWin_1";
+  const std::string off = reportOf(findings);
+  EXPECT_NE(off.find("Probed            no: a further window, by the entry \"Chrome_WidgetWin_1\", "
+                     "and these are off\nFurther windows   off\n"),
+            std::string::npos)
+      << off;
+  EXPECT_FALSE(isAsked(findings));
+  findings.furtherWindows = true;
+  EXPECT_TRUE(isAsked(findings));
+  const std::string on = reportOf(findings);
+  EXPECT_NE(on.find("Probed            where the pointer rests: a further window, by the entry "
+                    "\"Chrome_WidgetWin_1\"\nFurther windows   on (FurtherWindows=1)\n"),
+            std::string::npos)
+      << on;
+  findings.diagnosis.className = u"Edit";
+  EXPECT_NE(reportOf(findings).find("yes, by the entry \"Edit\"\n"), std::string::npos);
+}
+
+TEST(WhyReport, SaysThatAProgramIsLeftAlone) {
+  WhyFindings findings = inNotepad();
+  findings.program = u"Code.exe";
+  findings.diagnosis.className = u"Chrome_WidgetWin_1";
+  findings.furtherWindows = true;
+  EXPECT_FALSE(isAsked(findings));
+  EXPECT_NE(reportOf(findings).find("no: a further window, but its program is left alone\n"),
+            std::string::npos);
 }
 
 TEST(WhyReport, SaysWhyThereIsNoWord) {
