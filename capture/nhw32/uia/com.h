@@ -1,8 +1,5 @@
 #pragma once
 
-// Classic COM only: no IInspectable. The name is that of wrl/client.h.
-#define __WRL_CLASSIC_COM__  // NOLINT(bugprone-reserved-identifier)
-
 // First: the other headers rest on it.
 #include <windows.h>
 
