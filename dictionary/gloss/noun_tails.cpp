@@ -38,8 +38,7 @@ constexpr std::u16string_view kKinds =
     u"drink|drug|dumpling|enzyme|fiber|flatworm|formula|genre|hydrocarbon|infection|insecticide|"
     u"instrument|instruments|kimono|laborer|larva|leaves|medicine|monosaccharide|monument|mushroom|"
     u"ornament|ox|particle|period|pest|pizza|plant|reptile|role|roles|rolls|root|sheath|shrub|"
-    u"slang|"
-    u"snacks|society|soup|standard|teacher|technique|terrain|theory|tree|tribes|weapon|herb|"
+    u"slang|snacks|society|soup|standard|teacher|technique|terrain|theory|tree|tribes|weapon|herb|"
     u"beasts|";
 /// What may follow the kind.
 constexpr std::u16string_view kAfterKind =
